@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Tracewell.h"
+
+/// Which routine answers which control of the main window. A dialog joins its own controls to its
+/// own routines in its constructor.
+namespace tracewell {
+
+void Tracewell::connectLifecycle() {
+  main.formLoad = [this] { lifecycle.Form_Load(); };
+  main.formClose = [this] { lifecycle.Form_Unload(); };
+  main.cmdClose.click = [this] { lifecycle.cmdClose_Click(); };
+  main.mnbClose.click = [this] { lifecycle.cmdClose_Click(); };
+  main.tmDSO.timer = [this] { acquisition.tmDSO_Timer(); };
+  main.tmTest.timer = [this] { lifecycle.tmTest_Timer(); };
+}
+
+void Tracewell::connectLink() {
+  main.services().port.dataReady = [this](const std::string& data) { acquisition.DataReady(data); };
+  main.cmdStart.click = [this] { connect.cmdStart_Click(); };
+  main.cmdRS232.click = [this] { connect.cmdRS232_Click(); };
+  main.mnbRS232.click = [this] { rs232.mnbRS232_Click(); };
+  main.cmdRunStop.click = [this] { acquisition.cmdRunStop_Click(); };
+  main.txtTest.keyDown = [this](int code) { commandLine.txtTest_KeyDown(code); };
+  main.cmdTest.click = [this] { commandLine.cmdTest_Click(); };
+}
+
+void Tracewell::connectPanel() {
+  main.knobChan1.valueChanged = [this] { scaleKnobs.knobChan1_ValueChanged(); };
+  main.knobChan2.valueChanged = [this] { scaleKnobs.knobChan2_ValueChanged(); };
+  main.knobTime.valueChanged = [this] { scaleKnobs.knobTime_ValueChanged(); };
+}
+
+void Tracewell::connectView() {
+  main.opOff.click = [this] { cursors.opOff_Click(); };
+  main.opTime.click = [this] { cursors.opTime_Click(); };
+  main.opVoltage.click = [this] { cursors.opVoltage_Click(); };
+  main.cbCurChan.click = [this] { cursors.cbCurChan_Click(); };
+  main.cmdCursor.click = [this] { cursors.cmdCursor_Click(); };
+  main.graphDSO.cursorMoved = [this] { cursors.graphDSO_CursorMoved(); };
+}
+
+void Tracewell::connectFiles() {
+  main.mnbLoadSetup.click = [this] { setupFiles.mnbLoadSetup_Click(); };
+  main.mnbSaveSetup.click = [this] { setupFiles.mnbSaveSetup_Click(); };
+}
+
+void Tracewell::connectSupport() {
+  main.lblDSOCmd.doubleClicked = [this] { errLog.lblDSOCmd_DblClick(); };
+  main.mnbErrLog.click = [this] { errLog.lblDSOCmd_DblClick(); };
+}
+
+}  // namespace tracewell

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Lifecycle.h"
+
+#include <utility>
+
+#include "ConnectionIndicator.h"
+#include "Files.h"
+#include "GraphSetup.h"
+#include "Messages.h"
+#include "Numbers.h"
+
+namespace tracewell {
+
+Lifecycle::Lifecycle(frmDSO& main, SetupFiles& setupFiles, Captions& captions,
+                     CommandExchange& exchange, std::vector<Window*> windows)
+    : main_(main),
+      setupFiles_(setupFiles),
+      captions_(captions),
+      exchange_(exchange),
+      windows_(std::move(windows)) {}
+
+void Lifecycle::Form_Load() {
+  setUpCursors(main_.graphDSO);
+  for (int i = 0; i < SharedState::sampleCount; ++i)
+    main_.XIndex[static_cast<std::size_t>(i)] = static_cast<std::int16_t>(i - 250);
+  main_.ChanOn[0] = true;
+  main_.ChanCount = 1;
+  main_.AcqChan = 1;
+  setUpSecondAxis(main_.graphDSO);
+  setupFiles_.ReadSetupFile(setupFiles_.defaultPath());
+  captions_.LoadCaptions();
+  LoadMessages(main_);
+  showWaitingForConnect(main_);
+}
+
+void Lifecycle::Form_Unload() {
+  if (main_.HasEnded) return;
+  main_.HasEnded = true;
+  exchange_.LoadSetup();
+  saveSetup();
+  main_.tmDSO.enabled = false;
+  for (Window* window : windows_) window->unload();
+  main_.unload();
+}
+
+void Lifecycle::saveSetup() {
+  const std::filesystem::path path = setupFiles_.defaultPath();
+  try {
+    setupFiles_.WriteSetupFile(path);
+  } catch (const Error& error) {
+    main_.services().dialogs.showMessage("The setup could not be saved to " + pathText(path) +
+                                         ".\n" + error.description());
+  }
+}
+
+void Lifecycle::cmdClose_Click() {
+  const Answer answer = main_.services().dialogs.askYesNo(main_.Msg[0], main_.caption());
+  if (answer == Answer::Yes) Form_Unload();
+}
+
+void Lifecycle::tmTest_Timer() {
+  const std::int16_t code = main_.TestChar;
+  main_.lblTest.caption = std::to_string(code) + ":" + static_cast<char>(code);
+  main_.TestChar = addInt16(code, 1);
+}
+
+}  // namespace tracewell

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Captions.h"
+#include "CommandExchange.h"
+#include "SetupFiles.h"
+
+namespace tracewell {
+
+/// Start and end of the main window.
+class Lifecycle {
+ public:
+  /// `windows` are all others, in the order in which they are unloaded.
+  Lifecycle(frmDSO& main, SetupFiles& setupFiles, Captions& captions, CommandExchange& exchange,
+            std::vector<Window*> windows);
+
+  /// Raises an error that names the file when the language files cannot be used.
+  void Form_Load();
+  /// Once; says so when the setup cannot be written, and closes all the same.
+  void Form_Unload();
+  /// Asks before it closes.
+  void cmdClose_Click();
+  void tmTest_Timer();
+
+ private:
+  void saveSetup();
+
+  frmDSO& main_;
+  SetupFiles& setupFiles_;
+  Captions& captions_;
+  CommandExchange& exchange_;
+  std::vector<Window*> windows_;
+};
+
+}  // namespace tracewell

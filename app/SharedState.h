@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+#include "SetupTable.h"
+
+namespace tracewell {
+
+/// What the subsystems share about the instrument and the program. Integers are 16-bit, and
+/// arithmetic on them is checked (Numbers.h).
+struct SharedState {
+  static constexpr int sampleCount = 500;
+  /// Graph units, which are also sample units, to one screen division.
+  static constexpr std::int16_t unitsPerDivision = 50;
+  static constexpr int messageCount = 21;
+
+  /// Baud rate in use. A rate above 32767 does not fit and is refused with "Overflow".
+  std::int16_t BaudRate = 19200;
+  /// Channels displayed; multiplies the reply time-out.
+  std::int16_t ChanCount = 1;
+  /// Texts of the chosen language; 0 to 12 come from the message file, the rest stay empty.
+  std::array<std::string, messageCount> Msg;
+
+  /// Channel 1, channel 2: displayed.
+  std::array<bool, 2> ChanOn{};
+  /// 1 or 2: whose record is requested next.
+  std::int16_t AcqChan = 0;
+  /// A record has been requested and the port not been reset by StopAcq since.
+  bool PortBusy = false;
+  /// The instrument's own panel is locked because it has been sent a command.
+  bool InRemote = false;
+  /// The last exchange succeeded; false after a read time-out.
+  bool LinkOK = false;
+  /// A first connect has read the instrument.
+  bool Initialised = false;
+  std::int16_t WaveCount = 0;
+  std::int16_t TestChar = 0;
+
+  /// Last whole record of each channel, header included.
+  std::string Ch1Raw;
+  std::string Ch2Raw;
+  /// Vertical positions in divisions: channel 1 may be fractional, channel 2 is a whole number.
+  double Ch1Pos = 0;
+  std::int16_t Ch2Pos = 0;
+  /// The same in sample units.
+  std::int16_t Ch1PosCounts = 0;
+  std::int16_t Ch2PosCounts = 0;
+
+  /// x of each sample in graph units: -250 to 249.
+  std::array<std::int16_t, sampleCount> XIndex{};
+
+  /// True while the cursors measure time.
+  bool CursorTimeMode = false;
+  /// Last position read from each cursor, in graph units.
+  double Cur1Pos = 0;
+  double Cur2Pos = 0;
+
+  /// The setup table.
+  SetupTable gridMeasure;
+
+  /// The main window has been closed: waits end, and nothing is begun any more.
+  bool HasEnded = false;
+};
+
+}  // namespace tracewell

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Acquisition.h"
+#include "CommandLine.h"
+#include "Connect.h"
+#include "Lifecycle.h"
+#include "ScaleKnobs.h"
+#include "frmRS232.h"
+
+namespace tracewell {
+
+/// The whole program without a screen: every window and subsystem, put together.
+class Tracewell {
+ public:
+  /// `services` are those that the windows use; they outlive this object.
+  explicit Tracewell(Services& services);
+
+  /// Loads the main window; the caller shows it. Raises an error when the program cannot start.
+  void start() { main.load(); }
+
+  frmDSO main;
+
+  frmErrLog errLog;
+  ErrorLog errorLog;
+  CommandExchange exchange;
+  CommandLine commandLine;
+  frmRS232 rs232;
+  Cursors cursors;
+  ScaleKnobs scaleKnobs;
+  InstrumentState instrument;
+  Connect connect;
+  Acquisition acquisition;
+  SetupFiles setupFiles;
+
+  /// The windows that get captions after the main window, in this order.
+  std::vector<Window*> captionedWindows() { return {&rs232}; }
+  /// All windows but the main one.
+  std::vector<Window*> otherWindows() { return {&rs232, &errLog}; }
+
+  Captions captions;
+  Lifecycle lifecycle;
+
+ private:
+  void connectLifecycle();
+  void connectLink();
+  void connectPanel();
+  void connectView();
+  void connectFiles();
+  void connectSupport();
+};
+
+}  // namespace tracewell

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Waiting.h"
+
+#include "Numbers.h"
+
+namespace tracewell {
+namespace {
+
+/// The system's tick count, which wraps after 24 days like every 32-bit count of milliseconds.
+std::int32_t tickCount(const Clock& clock) {
+  return static_cast<std::int32_t>(clock.milliseconds());
+}
+
+std::int32_t elapsedSince(std::int32_t start, std::int32_t now) {
+  const std::int64_t elapsed = std::int64_t{now} - start;
+  return toInt32(static_cast<double>(elapsed));
+}
+
+}  // namespace
+
+std::int16_t ReplyTimeout(const SharedState& state) {
+  constexpr double referenceRate = 19200;
+  constexpr std::int16_t referenceTimeOut = 600;
+  const std::int16_t factor = toInt16(divide(referenceRate, state.BaudRate));
+  return mulInt16(mulInt16(factor, referenceTimeOut), state.ChanCount);
+}
+
+std::int16_t ShortReplyTimeout(const SharedState& state) {
+  return toInt16(ReplyTimeout(state) / 4.0);
+}
+
+void Delay(frmDSO& main, std::int32_t milliseconds) {
+  Clock& clock = main.services().clock;
+  const std::int32_t start = tickCount(clock);
+  do {
+    clock.pumpEvents();
+    if (main.HasEnded) throw ProgramEnded();
+  } while (elapsedSince(start, tickCount(clock)) <= milliseconds);
+}
+
+}  // namespace tracewell

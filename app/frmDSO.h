@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Controls.h"
+#include "Dials.h"
+#include "Graph.h"
+#include "SharedState.h"
+#include "Timer.h"
+
+namespace tracewell {
+
+/// The main window: its controls, in the order in which caption files name them, and the state
+/// that the subsystems share. What the controls do lives in the subsystems; app/Connections.cpp
+/// joins the two.
+class frmDSO : public Window, public SharedState {
+ public:
+  explicit frmDSO(Services& services);
+
+  // Menu bar
+  MenuEntry mnbFile{*this, "mnbFile", "File"};
+  MenuEntry mnbLoadSetup{*this, "mnbLoadSetup", "Load Setup"};
+  MenuEntry mnbSaveSetup{*this, "mnbSaveSetup", "Save Setup"};
+  MenuEntry mnbLoad{*this, "mnbLoad", "Load Waveform"};
+  MenuEntry mnbSaveWaveform{*this, "mnbSaveWaveform", "Save Waveform"};
+  MenuEntry mnbLoadCSV{*this, "mnbLoadCSV", "Load CSV"};
+  MenuEntry mnbPrint{*this, "mnbPrint", "Print"};
+  MenuEntry mnbPrintSetup{*this, "mnbPrintSetup", "Printer Setup"};
+  MenuEntry mnbClose{*this, "mnbClose", "Close"};
+  MenuEntry mnbSettings{*this, "mnbSettings", "Settings"};
+  MenuEntry mnbRS232{*this, "mnbRS232", "RS-232"};
+  MenuEntry mnbCh1{*this, "mnbCh1", "Channel 1"};
+  MenuEntry mnbCh2{*this, "mnbCh2", "Channel 2"};
+  MenuEntry mnbTrig{*this, "mnbTrig", "Trigger"};
+  MenuEntry mnbAcq{*this, "mnbAcq", "Acquire"};
+  MenuEntry mnbDisplay{*this, "mnbDisplay", "Display"};
+  MenuEntry mnbMeasure{*this, "mnbMeasure", "Measure"};
+  MenuEntry mnbVoltage{*this, "mnbVoltage", "Voltage"};
+  MenuEntry mnbFrequency{*this, "mnbFrequency", "Frequency"};
+  MenuEntry mnbView{*this, "mnbView", "View"};
+  MenuEntry mnbGraph{*this, "mnbGraph", "Graph"};
+  MenuEntry mnbConf{*this, "mnbConf", "Status Report"};
+  MenuEntry mnbDSOcmd{*this, "mnbDSOcmd", "Command List"};
+  MenuEntry mnbErrLog{*this, "mnbErrLog", "Error Log"};
+  MenuEntry mnbLanguage{*this, "mnbLanguage", "Language"};
+  MenuEntry mnbLA1{*this, "mnbLA1", "English"};
+  MenuEntry mnbLA2{*this, "mnbLA2", "Chinese"};
+  MenuEntry mnbLA3{*this, "mnbLA3", "Franch"};
+  MenuEntry mnbLA4{*this, "mnbLA4", "Russian"};
+  MenuEntry mnbLA5{*this, "mnbLA5", "yuewry"};
+  MenuEntry mnbHelp{*this, "mnbHelp", "Help"};
+  MenuEntry mnbAbout{*this, "mnbAbout", "About"};
+
+  // Connection
+  Lamp spConnect{*this, "spConnect"};
+  Label lblConnect{*this, "lblConnect", ""};
+  Label lblTest{*this, "lblTest", "Waiting"};
+  Label lblPort{*this, "lblPort", ""};
+  Button cmdStart{*this, "cmdStart", "Connect"};
+  Button cmdRS232{*this, "cmdRS232", "RS-232"};
+  Button cmdRunStop{*this, "cmdRunStop", "Run/Stop"};
+  Button cmdAutoset{*this, "cmdAutoset", "Autoset"};
+  Switch cmdLock{*this, "cmdLock", "Lock"};
+
+  Graph graphDSO{*this, "graphDSO"};
+
+  // Vertical
+  Frame fmCh1{*this, "fmCh1", "Channel 1"};
+  CheckBox cbCh1{*this, "cbCh1", "CH1"};
+  Knob knobChan1{*this, "knobChan1", voltDetents()};
+  Label lblChan1{*this, "lblChan1", "Null"};
+  Slide slideCH1{*this, "slideCH1", "Channel One Position : 0.00 V", {-4, 4, 0.1}};
+  Button cmdChannel1{*this, "cmdChannel1", "Channel One"};
+  Button cmdCh1{*this, "cmdCh1", "Channel 1"};
+  Frame fmCh2{*this, "fmCh2", "Channel 2"};
+  CheckBox cbCh2{*this, "cbCh2", "CH2"};
+  Knob knobChan2{*this, "knobChan2", voltDetents()};
+  Label lblChan2{*this, "lblChan2", "Null"};
+  Slide slideCH2{*this, "slideCH2", "Channel Two Position : 0.00 V", {-4, 4, 0.1}};
+  Button cmdChannel2{*this, "cmdChannel2", "Channel Two"};
+  Button cmdCh2{*this, "cmdCh2", "Channel 2"};
+
+  // Horizontal and trigger
+  Frame fmTime{*this, "fmTime", "Horizontal"};
+  Knob knobTime{*this, "knobTime", timeDetents()};
+  Label lblTime{*this, "lblTime", "Not Initialized"};
+  Slide slideTime{*this, "slideTime", "Time Position : 0.00 Div", {-5, 5, 0.1}};
+  Button cmdTime{*this, "cmdTime", "Time"};
+  Frame fmTrig{*this, "fmTrig", "Trigger"};
+  Slide slideTrig{*this, "slideTrig", "Trigger Level : 0.00 V", {-5, 5, 0.05}};
+  Button cmdTrig{*this, "cmdTrig", "Trigger"};
+
+  // Cursors, math and waveforms
+  Frame fmCursor{*this, "fmCursor", "Cursors"};
+  OptionButton opOff{*this, "opOff", "Off", "cursorMode"};
+  OptionButton opTime{*this, "opTime", "Time", "cursorMode"};
+  OptionButton opVoltage{*this, "opVoltage", "Voltage", "cursorMode"};
+  ComboBox cbCurChan{*this, "cbCurChan", {"1", "2"}};
+  Button cmdCursor{*this, "cmdCursor", "Cursor"};
+  Label lblMath{*this, "lblMath", "Math :"};
+  ComboBox cbMath{*this, "cbMath", {"1+2", "1-2", "2-1", "Off"}};
+  Frame fmWaveform{*this, "fmWaveform", "Waveform"};
+  Button cmdSave{*this, "cmdSave", "Save"};
+  Button cmdLoad{*this, "cmdLoad", "Load"};
+  Button cmdLoadCSV{*this, "cmdLoadCSV", "Load CSV"};
+  Button cmdRemove{*this, "cmdRemove", "Remove"};
+  Button cmdGraph{*this, "cmdGraph", "Graph"};
+  Button cmdPrint{*this, "cmdPrint", "Print"};
+
+  // Measurements, command line, instrument
+  Frame fmMeasure{*this, "fmMeasure", "Measurements"};
+  Button cmdVMeasure{*this, "cmdVMeasure", "Voltage"};
+  Button cmdFMeasure{*this, "cmdFMeasure", "Frequency"};
+  ControlArray<Label> lblMeasure;
+  Label lblDSOCmd{*this, "lblDSOCmd", "Command"};
+  TextBox txtTest{*this, "txtTest"};
+  Button cmdTest{*this, "cmdTest", "Test"};
+  Button cmdDSOcmd{*this, "cmdDSOcmd", "List"};
+  TextBox txtMsg{*this, "txtMsg"};
+  Frame fmInstrument{*this, "fmInstrument", "Instrument"};
+  Button cmdAcq{*this, "cmdAcq", "Acquire"};
+  Button cmdDisplay{*this, "cmdDisplay", "Display"};
+  Button cmdExportCSV{*this, "cmdExportCSV", "Export CSV"};
+  Button cmdClose{*this, "cmdClose", "Close"};
+
+  /// Waveform requests, and a bench diagnostic that nothing enables. Milliseconds.
+  static constexpr int tickInterval = 1200;
+  Timer tmDSO{*this, tickInterval};
+  Timer tmTest{*this, tickInterval};
+
+ private:
+  static std::vector<std::string> voltDetents();
+  static std::vector<std::string> timeDetents();
+};
+
+}  // namespace tracewell

@@ -1,0 +1,28 @@
+# The program without a screen: one target, one folder per subsystem.
+add_library(tracewell_logic STATIC
+  app/ConnectionIndicator.cpp
+  app/Connections.cpp
+  app/Lifecycle.cpp
+  app/Tracewell.cpp
+  app/Waiting.cpp
+  app/frmDSO.cpp
+  files/SetupFiles.cpp
+  files/SetupTable.cpp
+  link/Acquisition.cpp
+  link/CommandExchange.cpp
+  link/CommandLine.cpp
+  link/Connect.cpp
+  link/InstrumentState.cpp
+  link/WaveformRecord.cpp
+  link/frmRS232.cpp
+  panel/ScaleKnobs.cpp
+  panel/ScaleTables.cpp
+  support/Captions.cpp
+  support/ErrorLog.cpp
+  support/Messages.cpp
+  support/frmErrLog.cpp
+  view/Cursors.cpp
+  view/GraphSetup.cpp
+)
+target_include_directories(tracewell_logic PUBLIC app files link panel support view)
+target_link_libraries(tracewell_logic PUBLIC tracewell_platform PRIVATE tracewell_warnings)

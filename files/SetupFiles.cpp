@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "SetupFiles.h"
+
+#include <string>
+#include <string_view>
+
+#include "Files.h"
+#include "Numbers.h"
+
+namespace tracewell {
+namespace {
+
+constexpr std::string_view leadIn = "R";
+constexpr std::string_view lineEnd = "\r\n";
+constexpr const char* defaultName = "default.dso";
+
+/// Splits `line` at its commas into the cells of `row`; cells behind the last one stay.
+void fillRow(SetupTable& table, int row, std::string_view line) {
+  int column = 0;
+  std::size_t start = 0;
+  for (std::size_t comma = 0; comma != std::string_view::npos; start = comma + 1) {
+    comma = line.find(',', start);
+    table.setText(row, column++, std::string(line.substr(start, comma - start)));
+  }
+}
+
+std::string fileText(const SetupTable& table) {
+  std::string text(leadIn);
+  for (int row = 0; row < SetupTable::fileRows; ++row) {
+    text += table.text(row, 0) + "," + table.text(row, 1);
+    const int count = table.valueCount(row);
+    for (int i = 0; i < count; ++i) text += "," + table.text(row, SetupTable::firstValue + i);
+    text += lineEnd;
+  }
+  return text;
+}
+
+/// Loading and saving ask in the same words.
+FileDialog setupDialog(const std::filesystem::path& folder) {
+  return {folder, "Load DSO Setup file", defaultName, "*.dso|*.dso"};
+}
+
+}  // namespace
+
+std::filesystem::path SetupFiles::defaultPath() const {
+  return main_.services().programFolder / defaultName;
+}
+
+void SetupFiles::ReadSetupFile(const std::filesystem::path& path) {
+  try {
+    fillTable(path);
+  } catch (const Error&) {
+    // A setup that cannot be read never keeps the program from starting.
+  }
+}
+
+void SetupFiles::fillTable(const std::filesystem::path& path) {
+  const std::string text = readWholeFile(path);
+  // The lead-in, whatever it is, belongs to no line. What follows the last line end is ignored.
+  std::size_t start = leadIn.size();
+  std::size_t end = text.find(lineEnd);
+  if (end == 0) throw Error(invalidProcedureCall, "Tracewell", "No lead-in: " + pathText(path));
+  for (int row = 0; end != std::string::npos; ++row) {
+    fillRow(main_.gridMeasure, row, trimBlanks(std::string_view(text).substr(start, end - start)));
+    start = end + lineEnd.size();
+    end = text.find(lineEnd, start);
+  }
+}
+
+void SetupFiles::WriteSetupFile(const std::filesystem::path& path) {
+  if (path.empty()) return;
+  writeWholeFile(path, fileText(main_.gridMeasure));
+}
+
+void SetupFiles::mnbLoadSetup_Click() {
+  Services& services = main_.services();
+  fillTable(services.dialogs.openFile(setupDialog(services.programFolder)));
+}
+
+void SetupFiles::mnbSaveSetup_Click() {
+  Services& services = main_.services();
+  WriteSetupFile(services.dialogs.saveFile(setupDialog(services.programFolder)));
+}
+
+}  // namespace tracewell

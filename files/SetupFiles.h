@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <filesystem>
+
+#include "frmDSO.h"
+
+namespace tracewell {
+
+/// Setup files: the character "R", then a line per row of the setup table, "label,count,value,...",
+/// each ended by CR LF. Nothing is quoted.
+class SetupFiles {
+ public:
+  explicit SetupFiles(frmDSO& main) : main_(main) {}
+
+  /// Where the program keeps its own setup.
+  std::filesystem::path defaultPath() const;
+
+  /// Fills the table. Stops at the first error without a word: rows read so far are new, the
+  /// others as they were.
+  void ReadSetupFile(const std::filesystem::path& path);
+
+  /// Writes rows 0 to 12; does nothing for an empty path. Raises "Type mismatch" when a row's count
+  /// is no number, and the file system's reason; the old file is whole then.
+  void WriteSetupFile(const std::filesystem::path& path);
+
+  void mnbLoadSetup_Click();
+  void mnbSaveSetup_Click();
+
+ private:
+  void fillTable(const std::filesystem::path& path);
+
+  frmDSO& main_;
+};
+
+}  // namespace tracewell

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "CommandExchange.h"
+
+namespace tracewell {
+
+/// The periodic fetch of waveform records, from the tick to the trace.
+class Acquisition {
+ public:
+  Acquisition(frmDSO& main, CommandExchange& exchange, ErrorLog& errorLog)
+      : main_(main), exchange_(exchange), errorLog_(errorLog) {}
+
+  /// Requests the record of the next displayed channel; both displayed take turns.
+  void tmDSO_Timer();
+
+  /// Requests one record (":ACQ1:POIN"); it arrives through DataReady. Logs its failure.
+  void AcqDSO(std::int16_t channel);
+
+  /// Takes a record of the channel in the port's tag: keeps it, plots it and shows it as text.
+  /// Reports no error; what fails is left out.
+  void DataReady(const std::string& data);
+
+  /// Pauses and resumes the periodic fetch around dialogs and long exchanges. They are not mirror
+  /// images: resuming needs no pausing before, and leaves message 3 on the start button.
+  void StopAcq();
+  void ResumeAcq();
+
+  /// Runs or stops the instrument's own acquisition; the periodic fetch goes on.
+  void cmdRunStop_Click();
+
+ private:
+  std::int16_t keepRecord(std::int16_t channel, const std::string& data);
+
+  frmDSO& main_;
+  CommandExchange& exchange_;
+  ErrorLog& errorLog_;
+};
+
+}  // namespace tracewell

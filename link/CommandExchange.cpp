@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "CommandExchange.h"
+
+#include "Numbers.h"
+
+namespace tracewell {
+namespace {
+
+bool isQuery(const std::string& command) {
+  return command.ends_with('?');
+}
+
+/// The value in a reply line.
+std::string replyValue(const std::string& line) {
+  std::string value(trimBlanks(line));
+  if (value.empty())
+    throw Error(invalidProcedureCall, "Tracewell", "Invalid procedure call or argument");
+  value.pop_back();
+  return value;
+}
+
+}  // namespace
+
+std::string CommandExchange::SendDSOCmd(const std::string& command) {
+  return send(command, repeatLimit);
+}
+
+std::string CommandExchange::send(const std::string& command, int repeatsLeft) {
+  try {
+    return exchange(command);
+  } catch (const Error& error) {
+    if (error.number() == portReadTimeOut)
+      main_.LinkOK = false;
+    else if (isQuery(command) && repeatsLeft > 0)
+      send(command, repeatsLeft - 1);
+    else
+      errorLog_.ErrLog(error, "SendDSOCmd : ");
+    return "";
+  }
+}
+
+std::string CommandExchange::exchange(const std::string& command) {
+  SerialPort& port = main_.services().port;
+  port.textMode = true;
+  port.prepare();
+  port.write(command + "\r\n");
+  const std::string reply = isQuery(command) ? replyValue(port.read()) : "";
+  port.reset();
+  main_.InRemote = true;
+  main_.LinkOK = true;
+  return reply;
+}
+
+void CommandExchange::LoadSetup() {
+  if (!main_.InRemote) return;
+  try {
+    SerialPort& port = main_.services().port;
+    port.textMode = true;
+    port.prepare();
+    port.write(":SYST:UNL\r\n");
+    port.reset();
+    main_.cmdLock.value = false;
+    main_.InRemote = false;
+  } catch (const Error& error) {
+    errorLog_.ErrLog(error, "LoadSetup : ");
+  }
+}
+
+}  // namespace tracewell

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+
+#include "ErrorLog.h"
+#include "frmDSO.h"
+
+namespace tracewell {
+
+/// Command lines to the instrument and its reply lines.
+class CommandExchange {
+ public:
+  CommandExchange(frmDSO& main, ErrorLog& errorLog) : main_(main), errorLog_(errorLog) {}
+
+  /// Sends the command as it stands, with CR LF behind it. For a query (its last character is "?")
+  /// the result is the reply without the blanks around it and without its terminator; for any other
+  /// command, and after every failure, it is "".
+  ///
+  /// Never raises. A read time-out makes LinkOK false and is not logged. A query that fails in any
+  /// other way is sent again, at most repeatLimit times, and its later replies are not used; a
+  /// failed command, and a query that has failed to the last, are logged.
+  std::string SendDSOCmd(const std::string& command);
+
+  /// Releases the instrument's own panel if a command has locked it. Logs its failure.
+  void LoadSetup();
+
+ private:
+  static constexpr int repeatLimit = 8;
+  std::string send(const std::string& command, int repeatsLeft);
+  std::string exchange(const std::string& command);
+
+  frmDSO& main_;
+  ErrorLog& errorLog_;
+};
+
+}  // namespace tracewell

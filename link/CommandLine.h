@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "CommandExchange.h"
+
+namespace tracewell {
+
+/// The command line of the main window, with its reply box.
+class CommandLine {
+ public:
+  CommandLine(frmDSO& main, CommandExchange& exchange, ErrorLog& errorLog)
+      : main_(main), exchange_(exchange), errorLog_(errorLog) {}
+
+  /// Enter sends the text of the line; an empty line sends nothing.
+  void txtTest_KeyDown(int code);
+  void cmdTest_Click();
+
+ private:
+  void send();
+
+  frmDSO& main_;
+  CommandExchange& exchange_;
+  ErrorLog& errorLog_;
+};
+
+}  // namespace tracewell

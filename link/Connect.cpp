@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Connect.h"
+
+#include "ConnectionIndicator.h"
+#include "Waiting.h"
+
+namespace tracewell {
+
+void Connect::cmdStart_Click() {
+  if (!main_.Initialised && !connectFirst()) return;
+  if (!main_.LinkOK) return;
+  main_.tmDSO.enabled = !main_.tmDSO.enabled();
+  Delay(main_, 1000);
+  showAcquisition();
+}
+
+bool Connect::connectFirst() {
+  main_.lblTest.visible = true;
+  main_.lblTest.refresh();
+  instrument_.InitDSO();
+  main_.lblTest.visible = false;
+  if (!main_.LinkOK) {
+    showConnectFailed(main_);
+    return false;
+  }
+  main_.Initialised = true;
+  main_.tmDSO.enabled = false;
+  return true;
+}
+
+/// Goes by the timer as it is after the wait: another handler may have changed it meanwhile.
+void Connect::showAcquisition() {
+  if (main_.tmDSO.enabled()) {
+    showRunning(main_);
+  } else {
+    showStopped(main_);
+    exchange_.LoadSetup();
+  }
+}
+
+void Connect::cmdRS232_Click() {
+  instrument_.InitDSO();
+  if (main_.LinkOK)
+    cmdStart_Click();
+  else
+    showConnectFailed(main_);
+}
+
+}  // namespace tracewell

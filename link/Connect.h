@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "InstrumentState.h"
+
+namespace tracewell {
+
+/// The buttons that open the link and start and stop the periodic acquisition.
+class Connect {
+ public:
+  Connect(frmDSO& main, CommandExchange& exchange, InstrumentState& instrument)
+      : main_(main), exchange_(exchange), instrument_(instrument) {}
+
+  /// The first press reads the instrument; each press then starts or stops the acquisition.
+  void cmdStart_Click();
+  /// Reads the instrument again, after the port's settings have changed, then goes on as cmdStart.
+  void cmdRS232_Click();
+
+ private:
+  bool connectFirst();
+  void showAcquisition();
+
+  frmDSO& main_;
+  CommandExchange& exchange_;
+  InstrumentState& instrument_;
+};
+
+}  // namespace tracewell

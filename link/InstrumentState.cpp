@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "InstrumentState.h"
+
+#include "Numbers.h"
+
+namespace tracewell {
+namespace {
+
+bool isNull(const Label& scale) {
+  return trimBlanks(scale.caption()) == "Null";
+}
+
+void showPosition(Slide& slide, double divisions) {
+  slide.value = divisions;
+  const std::string caption = slide.caption();
+  const std::string title = caption.substr(0, caption.find(':') + 1);
+  slide.caption = title + formatTwoDecimals(divisions) + " Div";
+}
+
+}  // namespace
+
+void InstrumentState::InitDSO() {
+  try {
+    applyLinkSettings();
+    main_.lblChan1.caption = std::string(trimBlanks(exchange_.SendDSOCmd(":CHAN1:SCAL?")));
+    if (!main_.LinkOK) return;
+    if (main_.lblChan1.caption().empty())
+      main_.lblChan1.caption = exchange_.SendDSOCmd(":CHAN1:SCAL?");
+    main_.lblChan1.refresh();
+    moveKnob(ScaleKnob::Chan1, main_.lblChan1, main_.knobChan1);
+    readScale(":CHAN2:SCAL?", ScaleKnob::Chan2, main_.lblChan2, main_.knobChan2);
+    readScale(":TIM:SCAL?", ScaleKnob::Time, main_.lblTime, main_.knobTime);
+    readChannel1Position();
+    readChannel2Position();
+  } catch (const Error& error) {
+    errorLog_.ErrLog(error, "InitDSO : ");
+  }
+}
+
+void InstrumentState::applyLinkSettings() {
+  LineSettings& settings = main_.services().port.settings;
+  const std::int16_t baudRate = main_.gridMeasure.number(SetupTable::link, 2);
+  settings.baudRate = baudRate;
+  settings.portNumber = main_.gridMeasure.number(SetupTable::link, 6);
+  main_.BaudRate = baudRate;
+}
+
+void InstrumentState::readScale(const std::string& query, ScaleKnob kind, Label& label,
+                                Knob& knob) {
+  label.caption = std::string(trimBlanks(exchange_.SendDSOCmd(query)));
+  if (label.caption().empty()) label.caption = exchange_.SendDSOCmd(query);
+  label.refresh();
+  moveKnob(kind, label, knob);
+}
+
+void InstrumentState::moveKnob(ScaleKnob kind, const Label& label, Knob& knob) {
+  if (const auto step = ScaleStepForReply(kind, label.caption())) knob.value = *step;
+}
+
+std::string InstrumentState::askTwice(const std::string& query) {
+  std::string reply = exchange_.SendDSOCmd(query);
+  return reply.empty() ? exchange_.SendDSOCmd(query) : reply;
+}
+
+double InstrumentState::readPosition(const std::string& query, const Label& scale) {
+  const double voltsPerDivision = ParseScaleCaption(scale.caption());
+  return divide(ParseScaleCaption(askTwice(query)), voltsPerDivision);
+}
+
+void InstrumentState::readChannel1Position() {
+  if (isNull(main_.lblChan1)) return;
+  main_.Ch1Pos = readPosition("CHAN1:OFFS?", main_.lblChan1);
+  showPosition(main_.slideCH1, main_.Ch1Pos);
+  main_.Ch1PosCounts = toInt16(main_.Ch1Pos * SharedState::unitsPerDivision);
+}
+
+/// Channel 2 keeps whole divisions, unlike channel 1.
+void InstrumentState::readChannel2Position() {
+  if (isNull(main_.lblChan2)) return;
+  main_.Ch2Pos = toInt16(readPosition("CHAN2:OFFS?", main_.lblChan2));
+  showPosition(main_.slideCH2, main_.Ch2Pos);
+  main_.Ch2PosCounts = mulInt16(main_.Ch2Pos, SharedState::unitsPerDivision);
+}
+
+}  // namespace tracewell

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "SharedState.h"
+
+namespace tracewell {
+
+/// What the instrument sends for a waveform: a 14-byte header of its own, then 500 samples of two
+/// bytes, the high byte first, in two's complement.
+struct WaveformRecord {
+  static constexpr int headerBytes = 14;
+  static constexpr int byteCount = headerBytes + 2 * SharedState::sampleCount;
+};
+
+using Samples = std::array<std::int16_t, SharedState::sampleCount>;
+
+/// The samples of `record`, each shifted by `offset`. A sample that is missing, 0x8000, or outside
+/// 16 bits after the shift takes the value of the sample before it (the first one then 0).
+Samples decodeSamples(std::string_view record, std::int16_t offset);
+
+/// "1,12,13,...\r\n": the channel's number and every value, as the message box shows a record.
+std::string recordText(std::int16_t channel, const Samples& samples);
+
+}  // namespace tracewell

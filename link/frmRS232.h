@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Controls.h"
+#include "frmDSO.h"
+
+namespace tracewell {
+
+/// The RS-232 dialog: edits row 0 of the setup table and the port's settings.
+class frmRS232 : public Window {
+ public:
+  explicit frmRS232(frmDSO& main);
+
+  ControlArray<Label> lblRS232{
+      *this, "lblRS232", {"Baud Rate :", "Data Bits :", "Stop Bits :", "Parity :", "Port :"}};
+  /// Baud rate, data bits, stop bits, parity, port number, as in the setup table.
+  ControlArray<ComboBox> cbRS232{*this, "cbRS232", 5};
+  /// Which device the port number means.
+  Label lblDevice{*this, "lblDevice", ""};
+  Button cmdOK{*this, "cmdOK", "OK"};
+  Button cmdCancel{*this, "cmdCancel", "Cancel"};
+
+  void mnbRS232_Click();
+
+ private:
+  void listPorts();
+  void showDevice();
+  void cmdOK_Click();
+  void cmdCancel_Click();
+
+  frmDSO& main_;
+  std::vector<PortList::Entry> ports_;
+};
+
+}  // namespace tracewell

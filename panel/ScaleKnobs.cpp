@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ScaleKnobs.h"
+
+namespace tracewell {
+
+void ScaleKnobs::knobChan1_ValueChanged() {
+  sendScale(ScaleKnob::Chan1, main_.knobChan1, main_.lblChan1);
+}
+
+void ScaleKnobs::knobChan2_ValueChanged() {
+  sendScale(ScaleKnob::Chan2, main_.knobChan2, main_.lblChan2);
+}
+
+void ScaleKnobs::knobTime_ValueChanged() {
+  sendScale(ScaleKnob::Time, main_.knobTime, main_.lblTime);
+}
+
+void ScaleKnobs::sendScale(ScaleKnob kind, const Knob& knob, Label& label) {
+  exchange_.SendDSOCmd(ScaleCommandForKnob(kind, knob.value()));
+  label.caption = scaleCaptionForKnob(kind, knob.value());
+  cursors_.graphDSO_CursorMoved();
+}
+
+}  // namespace tracewell

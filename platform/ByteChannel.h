@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace tracewell {
+
+/// How the line is set. `parity` and `stopBits` are the port's own codes: parity 0 none, 1 even,
+/// 3 odd; stop bits 0 one, 2 two.
+struct LineSettings {
+  std::int16_t portNumber = 0;
+  std::int32_t baudRate = 19200;
+  std::int16_t dataBits = 8;
+  std::int16_t stopBits = 0;
+  std::int16_t parity = 0;
+
+  bool operator==(const LineSettings&) const = default;
+};
+
+/// An open line that carries bytes both ways and knows nothing of their meaning. Implemented by
+/// desktop/QtSerialChannel, simulator/SimulatedChannel, and tests/ScriptedChannel.
+///
+/// All calls are made on the one thread. A channel that has failed stays failed: every later call
+/// raises again, and its owner drops it. Destroying it closes the line and leaves DTR and RTS as
+/// they were.
+class ByteChannel {
+ public:
+  virtual ~ByteChannel() = default;
+
+  /// Puts all of `bytes` on the line; may return before they have been sent. Raises deviceError.
+  virtual void write(std::string_view bytes) = 0;
+
+  /// All bytes that have arrived and were not yet read. If there are none, waits for the first one
+  /// up to `timeOut` milliseconds without running events; empty when none came. Raises deviceError
+  /// once the line is gone and everything that had arrived has been read.
+  virtual std::string read(int timeOut) = 0;
+
+  /// Called out of the event loop, never from inside write or read, when bytes have arrived or the
+  /// line has failed. The owner then calls read(0), and may destroy the channel before it returns.
+  /// May be called although nothing is there.
+  std::function<void()> readable;
+};
+
+/// Opens channels by port number. Implemented by desktop/PortDirectory (number 0 is the built-in
+/// simulated instrument there) and by the tests.
+class ChannelOpener {
+ public:
+  virtual ~ChannelOpener() = default;
+
+  /// The open channel, owned by the caller. Raises deviceError with the system's reason when there
+  /// is no such port, it is taken, or it may not be used.
+  virtual std::unique_ptr<ByteChannel> open(const LineSettings& settings) = 0;
+};
+
+}  // namespace tracewell

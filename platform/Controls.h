@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "Colour.h"
+#include "Control.h"
+
+/// The plain controls of every toolkit. What setting a property from code raises is said at each;
+/// what is not said raises nothing.
+namespace tracewell {
+
+class Label : public CaptionedControl {
+ public:
+  using CaptionedControl::CaptionedControl;
+  Event<> doubleClicked;
+  void doubleClick();
+};
+
+/// A titled box around other controls. Disabled, it takes them out of the user's reach.
+class Frame : public CaptionedControl {
+ public:
+  using CaptionedControl::CaptionedControl;
+};
+
+class Button : public CaptionedControl {
+ public:
+  using CaptionedControl::CaptionedControl;
+  Event<> click;
+  void press();
+};
+
+/// A button that stays in: shows a state and has no event of its own.
+class Switch : public CaptionedControl {
+ public:
+  using CaptionedControl::CaptionedControl;
+  Property<bool> value{*this};
+  void press();
+};
+
+/// An entry of the menu bar, or the title of a menu, which then only has its caption.
+class MenuEntry : public CaptionedControl {
+ public:
+  using CaptionedControl::CaptionedControl;
+  Property<bool> isChecked{*this};
+  Event<> click;
+  void choose();
+};
+
+class CheckBox : public CaptionedControl {
+ public:
+  using CaptionedControl::CaptionedControl;
+  /// 0 clear, 1 checked, 2 undetermined; anything else raises "Invalid property value". A new value
+  /// raises click.
+  Property<std::int16_t> value;
+  Event<> click;
+  CheckBox(Window& owner, std::string_view name, std::string_view captionText, int index = noIndex);
+  bool isChecked() const { return value() == 1; }
+  void toggle();
+};
+
+/// One of several of which one is selected: those of the same `group` on the same window.
+class OptionButton : public CaptionedControl {
+ public:
+  /// The options of a control array are a group by themselves.
+  OptionButton(Window& owner, std::string_view name, std::string_view captionText, int index)
+      : OptionButton(owner, name, captionText, name, index) {}
+  OptionButton(Window& owner, std::string_view name, std::string_view captionText,
+               std::string_view group, int index = noIndex);
+  /// Selecting clears the others without events, then raises click.
+  Property<bool> value;
+  Event<> click;
+  const std::string& group() const { return group_; }
+  void select();
+
+ private:
+  void clearSiblings();
+  std::string group_;
+};
+
+/// A list with one entry chosen, and a text that need not be on the list.
+class ComboBox : public Control {
+ public:
+  static constexpr std::int16_t noEntry = -1;
+  ComboBox(Window& owner, std::string_view name, std::vector<std::string> entries,
+           int index = noIndex);
+  ComboBox(Window& owner, std::string_view name, int index) : ComboBox(owner, name, {}, index) {}
+  Property<std::vector<std::string>> items;
+  /// Index of the chosen entry or noEntry; beyond the list raises "Invalid property value". Every
+  /// assignment, of the same index too, makes `text` the entry's and raises click.
+  Property<std::int16_t> listIndex;
+  /// Assigning makes listIndex follow quietly.
+  Property<std::string> text;
+  Event<> click;
+  /// The user takes an entry of the list.
+  void choose(int entry);
+  /// The user types into the box and leaves it.
+  void type(const std::string& typed);
+
+ private:
+  std::int16_t entryOf(const std::string& wanted) const;
+};
+
+class TextBox : public Control {
+ public:
+  static constexpr int enterKey = 13;
+  using Control::Control;
+  Property<std::string> text{*this};
+  Event<int> keyDown;
+  void type(const std::string& typed);
+  /// `code` is 13 for Enter; no other key is reported.
+  void pressKey(int code);
+};
+
+/// A filled shape that shows a state by its colour.
+class Lamp : public Control {
+ public:
+  using Control::Control;
+  Property<Colour> fillColour{*this};
+};
+
+}  // namespace tracewell

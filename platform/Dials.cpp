@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Dials.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tracewell {
+
+Knob::Knob(Window& owner, std::string_view name, std::vector<std::string> detentCaptions)
+    : Control(owner, name),
+      value(*this, 0,
+            [this](bool isNew) {
+              if (isNew) valueChanged.raise();
+            }),
+      detents_(std::move(detentCaptions)) {}
+
+void Knob::turn(int detent) {
+  const int last = static_cast<int>(detents_.size()) - 1;
+  userDoes([this, detent, last] { value = std::clamp(detent, 0, last); });
+}
+
+Slide::Slide(Window& owner, std::string_view name, std::string_view captionText, Range range)
+    : CaptionedControl(owner, name, captionText),
+      value(*this, 0,
+            [this](bool isNew) {
+              if (isNew) pointerValueChanged.raise();
+            }),
+      range_(range) {}
+
+void Slide::drag(double to) {
+  userDoes([this, to] { value = std::clamp(to, range_.minimum, range_.maximum); });
+}
+
+void Slide::release() {
+  userDoes([this] {
+    pointerValueCommitted.raise();
+    mouseUp.raise();
+  });
+}
+
+}  // namespace tracewell

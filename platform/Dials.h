@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "Control.h"
+
+namespace tracewell {
+
+/// A rotary switch with one detent per entry of `detents`; its value is the detent's number.
+class Knob : public Control {
+ public:
+  /// `detentCaptions` are the short texts around the knob.
+  Knob(Window& owner, std::string_view name, std::vector<std::string> detentCaptions);
+  const std::vector<std::string>& detents() const { return detents_; }
+  /// A new value raises valueChanged, also when code sets it.
+  Property<double> value;
+  Event<> valueChanged;
+  /// The user turns the knob to a detent; beyond the ends it stops at the end.
+  void turn(int detent);
+
+ private:
+  std::vector<std::string> detents_;
+};
+
+/// A pointer on a linear scale, with a caption that follows it.
+class Slide : public CaptionedControl {
+ public:
+  /// The range is the user's; code may set any value, and the pointer then rests at the end.
+  struct Range {
+    double minimum;
+    double maximum;
+    /// What one press of an arrow key moves.
+    double step;
+  };
+
+  Slide(Window& owner, std::string_view name, std::string_view captionText, Range range);
+  const Range& range() const { return range_; }
+  /// A new value raises pointerValueChanged, also when code sets it, but never the two others.
+  Property<double> value;
+  Event<> pointerValueChanged;
+  /// Raised when the user lets go of the pointer, or has moved it with a key.
+  Event<> pointerValueCommitted;
+  /// The mouse event that ends a drag; raised after pointerValueCommitted.
+  Event<> mouseUp;
+  void drag(double to);
+  void release();
+
+ private:
+  Range range_;
+};
+
+}  // namespace tracewell

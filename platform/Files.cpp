@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Files.h"
+
+#include <cerrno>
+#include <fstream>
+#include <iterator>
+#include <system_error>
+
+#include "Error.h"
+
+namespace tracewell {
+namespace {
+
+namespace fs = std::filesystem;
+
+Error fileError(int number, const std::string& what, const fs::path& path, int reason) {
+  std::string text = what + ": " + pathText(path);
+  if (reason != 0) text += " (" + std::generic_category().message(reason) + ")";
+  return {number, "Tracewell", text};
+}
+
+/// Removes an unfinished file, whatever made it so.
+class Unfinished {
+ public:
+  explicit Unfinished(fs::path path) : path_(std::move(path)) {}
+  ~Unfinished() {
+    std::error_code ignored;
+    fs::remove(path_, ignored);
+  }
+  Unfinished(const Unfinished&) = delete;
+  const fs::path& path() const { return path_; }
+
+ private:
+  fs::path path_;
+};
+
+fs::path linkTarget(const fs::path& path) {
+  std::error_code failed;
+  const fs::path target = fs::canonical(path, failed);
+  return failed ? path : target;
+}
+
+}  // namespace
+
+std::string pathText(const fs::path& path) {
+  const std::u8string text = path.u8string();
+  return {text.begin(), text.end()};
+}
+
+std::string readWholeFile(const fs::path& path) {
+  std::error_code ignored;
+  if (!fs::exists(path, ignored)) throw fileError(fileNotFound, "File not found", path, 0);
+  if (fs::is_directory(path, ignored)) throw fileError(pathAccess, "Not a file", path, 0);
+  errno = 0;
+  std::ifstream file(path, std::ios::binary);
+  std::string bytes(std::istreambuf_iterator<char>(file), {});
+  if (!file) throw fileError(pathAccess, "Cannot read", path, errno);
+  return bytes;
+}
+
+void writeWholeFile(const fs::path& path, std::string_view bytes) {
+  const fs::path target = linkTarget(path);
+  fs::path beside = target;
+  beside += ".new";
+  const Unfinished unfinished(beside);
+  errno = 0;
+  std::ofstream file(unfinished.path(), std::ios::binary | std::ios::trunc);
+  if (!file) throw fileError(pathAccess, "Cannot write", path, errno);
+  file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+  file.close();
+  if (!file) throw fileError(diskFull, "Cannot write", path, errno);
+  std::error_code failed;
+  fs::rename(unfinished.path(), target, failed);
+  if (failed) throw fileError(pathAccess, "Cannot replace", path, failed.value());
+}
+
+}  // namespace tracewell

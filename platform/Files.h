@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+/// Whole files, as bytes.
+namespace tracewell {
+
+/// Raises "File not found: <path>" when there is none, and the system's reason with the path when
+/// it cannot be read.
+std::string readWholeFile(const std::filesystem::path& path);
+
+/// Replaces the file or leaves it as it was: the bytes go to a new file beside it, which takes its
+/// name only when it is complete. Follows a symbolic link. Raises pathAccess or diskFull with path
+/// and reason.
+void writeWholeFile(const std::filesystem::path& path, std::string_view bytes);
+
+/// UTF-8 text of a path, for messages.
+std::string pathText(const std::filesystem::path& path);
+
+}  // namespace tracewell

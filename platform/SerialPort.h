@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "ByteChannel.h"
+#include "Property.h"
+
+namespace tracewell {
+
+/// The port to the instrument: command lines with their reply lines, and binary records of a known
+/// length. Implemented by LinePort, and by tests/ScriptedPort.
+///
+/// Every operation may raise an Error; a missing reply raises number 30312 (portReadTimeOut), so
+/// that a silent instrument can be told from a broken line. Nothing here runs events; only
+/// dataReady arrives out of the event loop.
+class SerialPort {
+ public:
+  virtual ~SerialPort() = default;
+
+  /// Takes effect at the next prepare. The same settings again leave an open line open.
+  LineSettings settings;
+  /// Milliseconds that read waits for a whole reply; 0 or less means defaultReadTimeOut.
+  int readTimeOut = defaultReadTimeOut;
+  static constexpr int defaultReadTimeOut = 2000;
+  /// True while command lines are exchanged, false for a binary record.
+  bool textMode = true;
+  /// Free for the program. beginRead keeps it, and it is put back before that record's dataReady.
+  std::string tag;
+
+  /// Makes the line ready for a transfer: opens it if need be, and ends a transfer still under way.
+  /// Raises deviceError if the line cannot be opened.
+  virtual void prepare() = 0;
+
+  /// Sends the bytes of a command. A query (a line that ends in "?") is held back while bytes that
+  /// an earlier transfer has asked for may still arrive, since its reply could not be told from
+  /// them.
+  virtual void write(std::string_view bytes) = 0;
+
+  /// One reply line with its LF; a CR before the LF is left out. Waits up to readTimeOut.
+  virtual std::string read() = 0;
+
+  /// Collects the next `count` bytes and then raises dataReady with them. If the line is still busy
+  /// with an earlier record, the request that was just written and this read wait for its end.
+  virtual void beginRead(int count) = 0;
+
+  /// Ends the transfer and drops what has arrived. Inside dataReady it ends the record just
+  /// delivered and leaves a request that waits behind it in place.
+  virtual void reset() = 0;
+
+  Event<const std::string&> dataReady;
+};
+
+/// The ports of this machine, for the user to choose from.
+class PortList {
+ public:
+  virtual ~PortList() = default;
+
+  struct Entry {
+    std::int16_t number;
+    /// The device's name, for example "ttyUSB0" or "simulated instrument".
+    std::string device;
+  };
+  /// The ports that are there now, by rising number.
+  virtual std::vector<Entry> ports() = 0;
+};
+
+}  // namespace tracewell

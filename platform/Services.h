@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <filesystem>
+
+#include "Clock.h"
+#include "Dialogs.h"
+#include "EventDispatcher.h"
+#include "SerialPort.h"
+#include "WindowHost.h"
+
+namespace tracewell {
+
+/// All that the program asks of the outside. Whoever fills it in owns the parts, and they outlive
+/// the program.
+struct Services {
+  Clock& clock;
+  Dialogs& dialogs;
+  EventDispatcher& dispatcher;
+  SerialPort& port;
+  PortList& ports;
+  WindowHost& windows;
+  /// Where the setup, the language files and the error log are. Writable.
+  std::filesystem::path programFolder;
+};
+
+}  // namespace tracewell

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Timer.h"
+
+namespace tracewell {
+
+Timer::Timer(Window& owner, int interval)
+    : enabled(*this, false,
+              [this](bool isNew) {
+                if (!isNew) return;
+                running_.reset();
+                if (enabled()) start();
+              }),
+      services_(owner.services()),
+      interval_(interval) {}
+
+void Timer::start() {
+  running_ = std::make_shared<const int>(interval_);
+  services_.clock.callAfter(interval_, [this, alive = std::weak_ptr(running_)] {
+    if (!alive.expired()) tick();
+  });
+}
+
+void Timer::tick() {
+  start();
+  services_.dispatcher.dispatch([this] { timer.raise(); });
+}
+
+}  // namespace tracewell

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <memory>
+
+#include "Property.h"
+#include "Window.h"
+
+namespace tracewell {
+
+/// Ticks every `interval` milliseconds while enabled, out of the event loop. Enabling starts a full
+/// interval; an interval missed while a handler was busy is not made up for.
+class Timer : public Observable {
+ public:
+  /// Created disabled.
+  Timer(Window& owner, int interval);
+  virtual ~Timer() = default;
+
+  Property<bool> enabled;
+  Event<> timer;
+
+ private:
+  void start();
+  void tick();
+
+  Services& services_;
+  int interval_;
+  // A call that is still due when the timer has been disabled or is gone finds this replaced.
+  std::shared_ptr<const int> running_;
+};
+
+}  // namespace tracewell

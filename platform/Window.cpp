@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Window.h"
+
+#include <utility>
+
+namespace tracewell {
+
+Window::Window(std::string name, std::string captionText, Services& services)
+    : caption(*this, std::move(captionText)), name_(std::move(name)), services_(services) {}
+
+void Window::load() {
+  if (isLoaded_) return;
+  isLoaded_ = true;
+  formLoad.raise();
+}
+
+void Window::showModal() {
+  load();
+  isVisible_ = true;
+  formActivate.raise();
+  services_.windows.showModal(*this);
+}
+
+void Window::show() {
+  load();
+  isVisible_ = true;
+  formActivate.raise();
+  services_.windows.show(*this);
+}
+
+void Window::hide() {
+  isVisible_ = false;
+  services_.windows.hide(*this);
+}
+
+void Window::refresh() {
+  services_.windows.repaint(*this);
+}
+
+void Window::unload() {
+  if (!isLoaded_) return;
+  isLoaded_ = false;
+  isVisible_ = false;
+  services_.windows.unload(*this);
+}
+
+void Window::close() {
+  services_.dispatcher.dispatch([this] {
+    if (formClose)
+      formClose.raise();
+    else
+      hide();
+  });
+}
+
+}  // namespace tracewell

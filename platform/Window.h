@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "Property.h"
+#include "Services.h"
+
+namespace tracewell {
+
+class Control;
+
+/// A window without a screen: a name, a caption, and its controls in the order of their
+/// declaration. A desktop shows it in the form of the same name; a test works on it as it is.
+class Window : public Observable {
+ public:
+  /// `name` is the system's own, for example "frmTrig"; `caption` the text of the title bar.
+  Window(std::string name, std::string caption, Services& services);
+  virtual ~Window() = default;
+
+  const std::string& name() const { return name_; }
+  Property<std::string> caption;
+  /// Free text by which a dialog tells its opener how it ended.
+  std::string tag;
+
+  /// In the order of declaration, which is the order of caption files.
+  const std::vector<Control*>& controls() const { return controls_; }
+
+  /// Raised once, before the window is first used (or used again after unload).
+  Event<> formLoad;
+  /// Raised each time that the window is about to be shown.
+  Event<> formActivate;
+  /// Raised when the user closes the window with the window's own means. Without a handler the
+  /// window hides.
+  Event<> formClose;
+
+  bool isLoaded() const { return isLoaded_; }
+  bool isVisible() const { return isVisible_; }
+  void load();
+  /// Returns when the window has been hidden.
+  void showModal();
+  void show();
+  void hide();
+  /// Paints now what has changed, although a handler is running.
+  void refresh();
+  void unload();
+
+  /// The user closes the window with its title bar's button.
+  void close();
+
+  Services& services() const { return services_; }
+
+ private:
+  friend class Control;
+  std::string name_;
+  Services& services_;
+  std::vector<Control*> controls_;
+  bool isLoaded_ = false;
+  bool isVisible_ = false;
+};
+
+}  // namespace tracewell

@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ErrorLog.h"
+
+namespace tracewell {
+
+void ErrorLog::ErrLog(const Error& error, const std::string& tag) {
+  main_.tmDSO.enabled = false;
+  window_.load();
+  const std::string line = main_.services().clock.dateAndTime() + "  " + error.source() + " - " +
+                           tag + error.description() + "\r\n";
+  window_.txtErrLog.text = window_.txtErrLog.text() + line;
+}
+
+}  // namespace tracewell

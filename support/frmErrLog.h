@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Controls.h"
+#include "frmDSO.h"
+
+namespace tracewell {
+
+/// The error log's window. The log lives in its text box; the file "dso.err" is read when the
+/// window loads and written only by Close.
+class frmErrLog : public Window {
+ public:
+  explicit frmErrLog(frmDSO& main);
+
+  TextBox txtErrLog{*this, "txtErrLog"};
+  Button cmdClear{*this, "cmdClear", "Clear"};
+  Button cmdClose{*this, "cmdClose", "Close"};
+
+  /// Also opened from the menu entry of its name.
+  void lblDSOCmd_DblClick();
+
+ private:
+  void Form_Load();
+  void cmdClear_Click();
+  void cmdClose_Click();
+
+  frmDSO& main_;
+};
+
+}  // namespace tracewell

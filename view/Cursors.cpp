@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Cursors.h"
+
+#include "Numbers.h"
+#include "ScaleTables.h"
+
+namespace tracewell {
+namespace {
+
+constexpr double unitsPerDivision = SharedState::unitsPerDivision;
+
+/// Microseconds are labelled "msec" too.
+std::string timeUnit(char prefix) {
+  switch (prefix) {
+    case 'm':
+    case 'u':
+      return "msec";
+    case 'n':
+      return "nsec";
+    default:
+      return "sec";
+  }
+}
+
+}  // namespace
+
+void Cursors::opOff_Click() {
+  showCursors(false);
+  main_.CursorTimeMode = false;
+  UpdateCursorReadout();
+}
+
+void Cursors::opTime_Click() {
+  showCursors(true);
+  Cursor& cur1 = main_.graphDSO.cursor("cur1");
+  Cursor& cur2 = main_.graphDSO.cursor("cur2");
+  cur1.style = CursorStyle::verticalLine;
+  cur1.xPosition = 0;
+  cur2.style = CursorStyle::verticalLine;
+  cur2.xPosition = 50;
+  main_.CursorTimeMode = true;
+  UpdateCursorReadout();
+}
+
+void Cursors::opVoltage_Click() {
+  showCursors(true);
+  Cursor& cur1 = main_.graphDSO.cursor("cur1");
+  Cursor& cur2 = main_.graphDSO.cursor("cur2");
+  cur1.style = CursorStyle::horizontalLine;
+  cur1.yPosition = -100;
+  cur2.style = CursorStyle::horizontalLine;
+  cur2.yPosition = -150;
+  main_.CursorTimeMode = false;
+  UpdateCursorReadout();
+}
+
+void Cursors::cbCurChan_Click() {
+  UpdateCursorReadout();
+}
+
+void Cursors::graphDSO_CursorMoved() {
+  UpdateCursorReadout();
+}
+
+void Cursors::cmdCursor_Click() {
+  if (main_.opOff.value())
+    main_.opTime.value = true;
+  else if (main_.opTime.value())
+    main_.opVoltage.value = true;
+  else
+    main_.opOff.value = true;
+}
+
+void Cursors::showCursors(bool areVisible) {
+  main_.graphDSO.cursor("cur1").visible = areVisible;
+  main_.graphDSO.cursor("cur2").visible = areVisible;
+}
+
+void Cursors::UpdateCursorReadout() {
+  Axis& axis = main_.graphDSO.axis("XAxis");
+  if (main_.opOff.value())
+    axis.caption = "Time";
+  else
+    axis.caption = main_.CursorTimeMode ? timeReadout() : voltageReadout();
+}
+
+std::string Cursors::voltageReadout() {
+  const Label& scale = main_.cbCurChan.text() == "1" ? main_.lblChan1 : main_.lblChan2;
+  main_.Cur1Pos = main_.graphDSO.cursor("cur1").yPosition();
+  main_.Cur2Pos = main_.graphDSO.cursor("cur2").yPosition();
+  const double voltsPerDivision = ParseScaleCaption(scale.caption());
+  const double p1 = checked(main_.Cur1Pos * voltsPerDivision / unitsPerDivision);
+  const double p2 = checked(main_.Cur2Pos * voltsPerDivision / unitsPerDivision);
+  return "P1 = " + formatTwoDecimals(p1) + "(V)  ,  " + "P2 = " + formatTwoDecimals(p2) +
+         "(V)        " + "Diff V = " + formatTwoDecimals(checked(p1 - p2)) + "(V)";
+}
+
+std::string Cursors::timeReadout() {
+  const std::string& scale = main_.lblTime.caption();
+  const std::string unit = timeUnit(captionPrefix(scale));
+  main_.Cur1Pos = main_.graphDSO.cursor("cur1").xPosition();
+  main_.Cur2Pos = main_.graphDSO.cursor("cur2").xPosition();
+  const double timePerDivision = toDouble(captionNumber(scale));
+  const double p1 = checked(timePerDivision * main_.Cur1Pos / unitsPerDivision);
+  const double p2 = checked(timePerDivision * main_.Cur2Pos / unitsPerDivision);
+  return "P1 = " + formatTwoDecimals(p1) + "(" + unit + ")," + "P2 = " + formatTwoDecimals(p2) +
+         "(" + unit + ")   " + "Diff T = " + formatTwoDecimals(checked(p1 - p2)) + "(" + unit + ")";
+}
+
+}  // namespace tracewell
