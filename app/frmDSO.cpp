@@ -3,10 +3,7 @@
 
 namespace tracewell {
 
-frmDSO::frmDSO(Services& services)
-    : Window("frmDSO", "Tracewell", services),
-      lblMeasure(*this, "lblMeasure",
-                 {"", "", "", "", "", "", "", "", "", "", "", "", "", "", "", ""}) {
+frmDSO::frmDSO(Services& services) : Window("frmDSO", "Tracewell", services) {
   lblTest.visible = false;
   opOff.value.setQuietly(true);
   cbCurChan.listIndex.setQuietly(0);

@@ -52,9 +52,9 @@ class frmDSO : public Window, public SharedState {
 
   // Connection
   Lamp spConnect{*this, "spConnect"};
-  Label lblConnect{*this, "lblConnect", ""};
+  ValueLabel lblConnect{*this, "lblConnect", ""};
   Label lblTest{*this, "lblTest", "Waiting"};
-  Label lblPort{*this, "lblPort", ""};
+  ValueLabel lblPort{*this, "lblPort", ""};
   Button cmdStart{*this, "cmdStart", "Connect"};
   Button cmdRS232{*this, "cmdRS232", "RS-232"};
   Button cmdRunStop{*this, "cmdRunStop", "Run/Stop"};
@@ -67,14 +67,14 @@ class frmDSO : public Window, public SharedState {
   Frame fmCh1{*this, "fmCh1", "Channel 1"};
   CheckBox cbCh1{*this, "cbCh1", "CH1"};
   Knob knobChan1{*this, "knobChan1", voltDetents()};
-  Label lblChan1{*this, "lblChan1", "Null"};
+  ValueLabel lblChan1{*this, "lblChan1", "Null"};
   Slide slideCH1{*this, "slideCH1", "Channel One Position : 0.00 V", {-4, 4, 0.1}};
   Button cmdChannel1{*this, "cmdChannel1", "Channel One"};
   Button cmdCh1{*this, "cmdCh1", "Channel 1"};
   Frame fmCh2{*this, "fmCh2", "Channel 2"};
   CheckBox cbCh2{*this, "cbCh2", "CH2"};
   Knob knobChan2{*this, "knobChan2", voltDetents()};
-  Label lblChan2{*this, "lblChan2", "Null"};
+  ValueLabel lblChan2{*this, "lblChan2", "Null"};
   Slide slideCH2{*this, "slideCH2", "Channel Two Position : 0.00 V", {-4, 4, 0.1}};
   Button cmdChannel2{*this, "cmdChannel2", "Channel Two"};
   Button cmdCh2{*this, "cmdCh2", "Channel 2"};
@@ -82,7 +82,7 @@ class frmDSO : public Window, public SharedState {
   // Horizontal and trigger
   Frame fmTime{*this, "fmTime", "Horizontal"};
   Knob knobTime{*this, "knobTime", timeDetents()};
-  Label lblTime{*this, "lblTime", "Not Initialized"};
+  ValueLabel lblTime{*this, "lblTime", "Not Initialized"};
   Slide slideTime{*this, "slideTime", "Time Position : 0.00 Div", {-5, 5, 0.1}};
   Button cmdTime{*this, "cmdTime", "Time"};
   Frame fmTrig{*this, "fmTrig", "Trigger"};
@@ -110,7 +110,7 @@ class frmDSO : public Window, public SharedState {
   Frame fmMeasure{*this, "fmMeasure", "Measurements"};
   Button cmdVMeasure{*this, "cmdVMeasure", "Voltage"};
   Button cmdFMeasure{*this, "cmdFMeasure", "Frequency"};
-  ControlArray<Label> lblMeasure;
+  ControlArray<ValueLabel> lblMeasure{*this, "lblMeasure", 16};
   Label lblDSOCmd{*this, "lblDSOCmd", "Command"};
   TextBox txtTest{*this, "txtTest"};
   Button cmdTest{*this, "cmdTest", "Test"};

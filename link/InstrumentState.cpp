@@ -6,7 +6,7 @@
 namespace tracewell {
 namespace {
 
-bool isNull(const Label& scale) {
+bool isNull(const ValueLabel& scale) {
   return trimBlanks(scale.caption()) == "Null";
 }
 
@@ -45,7 +45,7 @@ void InstrumentState::applyLinkSettings() {
   main_.BaudRate = baudRate;
 }
 
-void InstrumentState::readScale(const std::string& query, ScaleKnob kind, Label& label,
+void InstrumentState::readScale(const std::string& query, ScaleKnob kind, ValueLabel& label,
                                 Knob& knob) {
   label.caption = std::string(trimBlanks(exchange_.SendDSOCmd(query)));
   if (label.caption().empty()) label.caption = exchange_.SendDSOCmd(query);
@@ -53,7 +53,7 @@ void InstrumentState::readScale(const std::string& query, ScaleKnob kind, Label&
   moveKnob(kind, label, knob);
 }
 
-void InstrumentState::moveKnob(ScaleKnob kind, const Label& label, Knob& knob) {
+void InstrumentState::moveKnob(ScaleKnob kind, const ValueLabel& label, Knob& knob) {
   if (const auto step = ScaleStepForReply(kind, label.caption())) knob.value = *step;
 }
 
@@ -62,7 +62,7 @@ std::string InstrumentState::askTwice(const std::string& query) {
   return reply.empty() ? exchange_.SendDSOCmd(query) : reply;
 }
 
-double InstrumentState::readPosition(const std::string& query, const Label& scale) {
+double InstrumentState::readPosition(const std::string& query, const ValueLabel& scale) {
   const double voltsPerDivision = ParseScaleCaption(scale.caption());
   return divide(ParseScaleCaption(askTwice(query)), voltsPerDivision);
 }

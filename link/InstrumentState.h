@@ -19,15 +19,15 @@ class InstrumentState {
   void InitDSO();
 
   /// Shows the reply to a scale query and moves the knob to it, if the reply is in the table.
-  void readScale(const std::string& query, ScaleKnob kind, Label& label, Knob& knob);
+  void readScale(const std::string& query, ScaleKnob kind, ValueLabel& label, Knob& knob);
 
  private:
   void applyLinkSettings();
   std::string askTwice(const std::string& query);
-  void moveKnob(ScaleKnob kind, const Label& label, Knob& knob);
+  void moveKnob(ScaleKnob kind, const ValueLabel& label, Knob& knob);
   void readChannel1Position();
   void readChannel2Position();
-  double readPosition(const std::string& query, const Label& scale);
+  double readPosition(const std::string& query, const ValueLabel& scale);
 
   frmDSO& main_;
   CommandExchange& exchange_;

@@ -16,7 +16,7 @@ class frmRS232 : public Window {
   /// Baud rate, data bits, stop bits, parity, port number, as in the setup table.
   ControlArray<ComboBox> cbRS232{*this, "cbRS232", 5};
   /// Which device the port number means.
-  Label lblDevice{*this, "lblDevice", ""};
+  ValueLabel lblDevice{*this, "lblDevice", ""};
   Button cmdOK{*this, "cmdOK", "OK"};
   Button cmdCancel{*this, "cmdCancel", "Cancel"};
 

@@ -15,7 +15,7 @@ void ScaleKnobs::knobTime_ValueChanged() {
   sendScale(ScaleKnob::Time, main_.knobTime, main_.lblTime);
 }
 
-void ScaleKnobs::sendScale(ScaleKnob kind, const Knob& knob, Label& label) {
+void ScaleKnobs::sendScale(ScaleKnob kind, const Knob& knob, ValueLabel& label) {
   exchange_.SendDSOCmd(ScaleCommandForKnob(kind, knob.value()));
   label.caption = scaleCaptionForKnob(kind, knob.value());
   cursors_.graphDSO_CursorMoved();

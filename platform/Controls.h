@@ -19,6 +19,17 @@ class Label : public CaptionedControl {
   void doubleClick();
 };
 
+/// A label that shows a value of the program: the caption files leave it alone.
+class ValueLabel : public Control {
+ public:
+  ValueLabel(Window& owner, std::string_view name, std::string_view captionText,
+             int index = noIndex)
+      : Control(owner, name, index), caption(*this, std::string(captionText)) {}
+  ValueLabel(Window& owner, std::string_view name, int index)
+      : ValueLabel(owner, name, "", index) {}
+  Property<std::string> caption;
+};
+
 /// A titled box around other controls. Disabled, it takes them out of the user's reach.
 class Frame : public CaptionedControl {
  public:

@@ -85,7 +85,7 @@ void Cursors::UpdateCursorReadout() {
 }
 
 std::string Cursors::voltageReadout() {
-  const Label& scale = main_.cbCurChan.text() == "1" ? main_.lblChan1 : main_.lblChan2;
+  const ValueLabel& scale = main_.cbCurChan.text() == "1" ? main_.lblChan1 : main_.lblChan2;
   main_.Cur1Pos = main_.graphDSO.cursor("cur1").yPosition();
   main_.Cur2Pos = main_.graphDSO.cursor("cur2").yPosition();
   const double voltsPerDivision = ParseScaleCaption(scale.caption());

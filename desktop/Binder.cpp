@@ -1,0 +1,243 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Binder.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QEvent>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSignalBlocker>
+
+#include "Controls.h"
+#include "Dials.h"
+#include "Graph.h"
+#include "GraphView.h"
+#include "KnobWidget.h"
+#include "LampWidget.h"
+#include "SlideWidget.h"
+#include "Text.h"
+
+namespace tracewell {
+namespace {
+
+/// The object that stands for a control.
+template <class Object>
+Object* findObject(const Control& control, QWidget& form) {
+  auto* object = form.findChild<Object*>(toQt(control.objectName()));
+  if (object == nullptr)
+    throw Error(invalidProcedureCall, "Tracewell",
+                "The form of " + control.owner().name() + " has no proper " + control.objectName());
+  return object;
+}
+
+/// Shows the control now and whenever it changes. The signals of its object are held back
+/// meanwhile, so that nothing echoes.
+template <class Object, class Show>
+void showWith(Control& control, Object* object, Show show) {
+  control.changed = [&control, object, show] {
+    const QSignalBlocker blocker(object);
+    object->setVisible(control.visible());
+    object->setEnabled(control.enabled());
+    if (!control.toolTip().empty()) object->setToolTip(toQt(control.toolTip()));
+    show();
+  };
+  control.changed();
+}
+
+/// Calls `action` when the user double-clicks the watched widget.
+class DoubleClickFilter : public QObject {
+ public:
+  DoubleClickFilter(QObject* watched, std::function<void()> action)
+      : QObject(watched), action_(std::move(action)) {
+    watched->installEventFilter(this);
+  }
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() != QEvent::MouseButtonDblClick) return false;
+    action_();
+    return true;
+  }
+
+ private:
+  std::function<void()> action_;
+};
+
+void bind(Label& control, QWidget& form) {
+  auto* label = findObject<QLabel>(control, form);
+  showWith(control, label, [&control, label] { label->setText(toQt(control.caption())); });
+  if (control.doubleClicked) new DoubleClickFilter(label, [&control] { control.doubleClick(); });
+}
+
+void bind(ValueLabel& control, QWidget& form) {
+  auto* label = findObject<QLabel>(control, form);
+  showWith(control, label, [&control, label] { label->setText(toQt(control.caption())); });
+}
+
+void bind(Frame& control, QWidget& form) {
+  auto* box = findObject<QGroupBox>(control, form);
+  showWith(control, box, [&control, box] { box->setTitle(plainCaption(control.caption())); });
+}
+
+/// A button that nothing answers yet is out of reach rather than dead.
+void bind(Button& control, QWidget& form) {
+  auto* button = findObject<QPushButton>(control, form);
+  showWith(control, button, [&control, button] {
+    button->setText(plainCaption(control.caption()));
+    button->setEnabled(control.enabled() && control.click);
+  });
+  QObject::connect(button, &QPushButton::clicked, button, [&control] { control.press(); });
+}
+
+void bind(Switch& control, QWidget& form) {
+  auto* button = findObject<QAbstractButton>(control, form);
+  showWith(control, button, [&control, button] {
+    button->setText(plainCaption(control.caption()));
+    button->setChecked(control.value());
+  });
+  QObject::connect(button, &QAbstractButton::clicked, button, [&control] { control.press(); });
+}
+
+void bind(MenuEntry& control, QWidget& form) {
+  if (auto* menu = form.findChild<QMenu*>(toQt(control.objectName()))) {
+    showWith(control, menu->menuAction(),
+             [&control, menu] { menu->setTitle(plainCaption(control.caption())); });
+    return;
+  }
+  auto* action = findObject<QAction>(control, form);
+  showWith(control, action, [&control, action] {
+    action->setText(plainCaption(control.caption()));
+    action->setEnabled(control.enabled() && control.click);
+    action->setCheckable(control.isChecked());
+    action->setChecked(control.isChecked());
+  });
+  QObject::connect(action, &QAction::triggered, action, [&control] { control.choose(); });
+}
+
+void bind(CheckBox& control, QWidget& form) {
+  auto* box = findObject<QCheckBox>(control, form);
+  showWith(control, box, [&control, box] {
+    box->setText(plainCaption(control.caption()));
+    box->setChecked(control.isChecked());
+  });
+  QObject::connect(box, &QCheckBox::clicked, box, [&control] { control.toggle(); });
+}
+
+void bind(OptionButton& control, QWidget& form) {
+  auto* button = findObject<QRadioButton>(control, form);
+  // The model clears the siblings; Qt's own exclusion would not let all of them be clear.
+  button->setAutoExclusive(false);
+  showWith(control, button, [&control, button] {
+    button->setText(plainCaption(control.caption()));
+    button->setChecked(control.value());
+  });
+  QObject::connect(button, &QRadioButton::clicked, button, [&control] {
+    control.select();
+    control.notifyChanged();
+  });
+}
+
+void bind(ComboBox& control, QWidget& form) {
+  auto* box = findObject<QComboBox>(control, form);
+  showWith(control, box, [&control, box] {
+    QStringList items;
+    for (const std::string& item : control.items()) items << toQt(item);
+    QStringList shown;
+    for (int i = 0; i < box->count(); ++i) shown << box->itemText(i);
+    if (items != shown) {
+      box->clear();
+      box->addItems(items);
+    }
+    box->setCurrentIndex(control.listIndex());
+    if (box->isEditable()) box->setEditText(toQt(control.text()));
+  });
+  QObject::connect(box, &QComboBox::activated, box,
+                   [&control](int index) { control.choose(index); });
+  if (!box->isEditable()) return;
+  box->setInsertPolicy(QComboBox::NoInsert);
+  QObject::connect(box->lineEdit(), &QLineEdit::editingFinished, box, [&control, box] {
+    const std::string typed = fromQt(box->currentText());
+    if (typed != control.text()) control.type(typed);
+  });
+}
+
+void bind(TextBox& control, QWidget& form) {
+  if (auto* area = form.findChild<QPlainTextEdit*>(toQt(control.objectName()))) {
+    showWith(control, area, [&control, area] {
+      const QString text = toQt(control.text()).remove(QLatin1Char('\r'));
+      if (area->toPlainText() != text) area->setPlainText(text);
+    });
+    return;
+  }
+  auto* line = findObject<QLineEdit>(control, form);
+  showWith(control, line, [&control, line] {
+    if (line->text() != toQt(control.text())) line->setText(toQt(control.text()));
+  });
+  QObject::connect(line, &QLineEdit::textEdited, line,
+                   [&control](const QString& text) { control.type(fromQt(text)); });
+  QObject::connect(line, &QLineEdit::returnPressed, line,
+                   [&control] { control.pressKey(TextBox::enterKey); });
+}
+
+void bind(Lamp& control, QWidget& form) {
+  auto* lamp = findObject<LampWidget>(control, form);
+  showWith(control, lamp, [&control, lamp] {
+    const Colour colour = control.fillColour();
+    lamp->setColour(QColor(colour.red, colour.green, colour.blue));
+  });
+}
+
+void bind(Knob& control, QWidget& form) {
+  auto* knob = findObject<KnobWidget>(control, form);
+  QStringList detents;
+  for (const std::string& detent : control.detents()) detents << toQt(detent);
+  knob->setDetents(detents);
+  showWith(control, knob, [&control, knob] { knob->setValue(control.value()); });
+  QObject::connect(knob, &KnobWidget::turned, knob,
+                   [&control](int detent) { control.turn(detent); });
+}
+
+void bind(Slide& control, QWidget& form) {
+  auto* slide = findObject<SlideWidget>(control, form);
+  auto* caption = form.findChild<QLabel*>(toQt(control.objectName() + "_caption"));
+  slide->setRange(control.range().minimum, control.range().maximum, control.range().step);
+  showWith(control, slide, [&control, slide, caption] {
+    slide->setValue(control.value());
+    if (caption != nullptr) caption->setText(toQt(control.caption()));
+  });
+  QObject::connect(slide, &SlideWidget::dragged, slide,
+                   [&control](double to) { control.drag(to); });
+  QObject::connect(slide, &SlideWidget::released, slide, [&control] { control.release(); });
+}
+
+void bind(Graph& control, QWidget& form) {
+  findObject<GraphView>(control, form)->bind(control);
+}
+
+template <class... Kinds>
+bool bindAsOneOf(Control& control, QWidget& form) {
+  const auto bindAs = [&](auto* kind) {
+    if (kind != nullptr) bind(*kind, form);
+    return kind != nullptr;
+  };
+  return (bindAs(dynamic_cast<Kinds*>(&control)) || ...);
+}
+
+}  // namespace
+
+void bindControls(Window& window, QWidget& form) {
+  for (Control* control : window.controls())
+    bindAsOneOf<Label, ValueLabel, Frame, Button, Switch, MenuEntry, CheckBox, OptionButton,
+                ComboBox, TextBox, Lamp, Knob, Slide, Graph>(*control, form);
+}
+
+void unbindControls(Window& window) {
+  for (Control* control : window.controls()) control->changed = {};
+}
+
+}  // namespace tracewell

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "DesktopDialogs.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QMessageBox>
+
+#include "Text.h"
+
+namespace tracewell {
+namespace {
+
+QWidget* windowInUse() {
+  return QApplication::activeWindow();
+}
+
+/// "*.dso|*.dso" (description, pattern) in Qt's form.
+QString nameFilter(const std::string& filter) {
+  const QStringList parts = toQt(filter).split(QLatin1Char('|'));
+  return parts.size() < 2 ? parts.value(0)
+                          : QStringLiteral("%1 (%2)").arg(parts.value(0), parts.value(1));
+}
+
+/// "dso" of "*.dso", for a name that the user types without it.
+QString suffix(const std::string& filter) {
+  const QString pattern = toQt(filter).section(QLatin1Char('|'), -1);
+  return pattern.section(QLatin1Char('.'), -1);
+}
+
+std::filesystem::path ask(const FileDialog& dialog, QFileDialog::AcceptMode mode) {
+  QFileDialog box(windowInUse(), toQt(dialog.title), toQt(dialog.initialFolder),
+                  nameFilter(dialog.filter));
+  box.setAcceptMode(mode);
+  box.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile
+                                                  : QFileDialog::AnyFile);
+  box.setDefaultSuffix(suffix(dialog.filter));
+  box.selectFile(toQt(dialog.fileName));
+  if (box.exec() != QDialog::Accepted) return dialog.fileName;
+  return toPath(box.selectedFiles().value(0));
+}
+
+}  // namespace
+
+Answer DesktopDialogs::askYesNo(const std::string& prompt, const std::string& title) {
+  const auto answer = QMessageBox::question(windowInUse(), toQt(title), toQt(prompt));
+  return answer == QMessageBox::Yes ? Answer::Yes : Answer::No;
+}
+
+void DesktopDialogs::showMessage(const std::string& text) {
+  QMessageBox::warning(windowInUse(), QStringLiteral("Tracewell"), toQt(text));
+}
+
+void DesktopDialogs::showRunTimeError(const Error& error) {
+  QMessageBox::critical(
+      windowInUse(), QStringLiteral("Tracewell"),
+      QStringLiteral("Run-time error %1\n\n%2").arg(error.number()).arg(toQt(error.description())));
+}
+
+std::filesystem::path DesktopDialogs::openFile(const FileDialog& dialog) {
+  return ask(dialog, QFileDialog::AcceptOpen);
+}
+
+std::filesystem::path DesktopDialogs::saveFile(const FileDialog& dialog) {
+  return ask(dialog, QFileDialog::AcceptSave);
+}
+
+}  // namespace tracewell

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Dialogs.h"
+
+namespace tracewell {
+
+/// Dialogs in front of whichever window is in use.
+class DesktopDialogs : public Dialogs {
+ public:
+  Answer askYesNo(const std::string& prompt, const std::string& title) override;
+  void showMessage(const std::string& text) override;
+  void showRunTimeError(const Error& error) override;
+  std::filesystem::path openFile(const FileDialog& dialog) override;
+  std::filesystem::path saveFile(const FileDialog& dialog) override;
+};
+
+}  // namespace tracewell

@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "DesktopWindows.h"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QDialog>
+#include <QMainWindow>
+
+#include "Binder.h"
+#include "Forms.h"
+#include "Text.h"
+#include "Window.h"
+
+namespace tracewell {
+
+/// A window's widget. Its title bar's button and Escape ask the window to close; the widget itself
+/// only ever goes when the window says so.
+class DesktopWindows::Form : public QObject {
+ public:
+  Form(Window& window, QWidget* parent) : window_(window) {
+    widget_ = makeForm(window.name(), parent);
+    bindControls(window, *widget_);
+    window.changed = [this] { widget_->setWindowTitle(toQt(window_.caption())); };
+    window.changed();
+    widget_->installEventFilter(this);
+  }
+  ~Form() override {
+    window_.changed = {};
+    unbindControls(window_);
+    widget_->removeEventFilter(this);
+    widget_->hide();
+    // Possibly in the middle of one of its own events.
+    widget_.release()->deleteLater();
+  }
+
+  QWidget& widget() { return *widget_; }
+  QDialog& dialog() { return *qobject_cast<QDialog*>(widget_.get()); }
+
+  bool eventFilter(QObject*, QEvent* event) override {
+    const bool isEscape = event->type() == QEvent::KeyPress && !isMain() &&
+                          static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape;
+    if (!isEscape && event->type() != QEvent::Close) return false;
+    event->ignore();
+    window_.close();
+    return true;
+  }
+
+  bool isMain() const { return qobject_cast<QMainWindow*>(widget_.get()) != nullptr; }
+
+ private:
+  Window& window_;
+  std::unique_ptr<QWidget> widget_;
+};
+
+DesktopWindows::DesktopWindows() = default;
+DesktopWindows::~DesktopWindows() = default;
+
+QWidget* DesktopWindows::mainForm() const {
+  for (const auto& [window, form] : forms_)
+    if (form->isMain()) return &form->widget();
+  return nullptr;
+}
+
+DesktopWindows::Form& DesktopWindows::formOf(Window& window) {
+  std::unique_ptr<Form>& form = forms_[&window];
+  if (!form) form = std::make_unique<Form>(window, mainForm());
+  return *form;
+}
+
+void DesktopWindows::showModal(Window& window) {
+  formOf(window).dialog().exec();
+}
+
+void DesktopWindows::show(Window& window) {
+  formOf(window).widget().show();
+}
+
+void DesktopWindows::hide(Window& window) {
+  if (forms_.contains(&window)) formOf(window).widget().hide();
+}
+
+void DesktopWindows::repaint(Window& window) {
+  if (!forms_.contains(&window)) return;
+  QWidget& widget = formOf(window).widget();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+  widget.repaint();
+}
+
+void DesktopWindows::unload(Window& window) {
+  const auto found = forms_.find(&window);
+  if (found == forms_.end()) return;
+  const bool wasMain = found->second->isMain();
+  forms_.erase(found);
+  if (wasMain) QCoreApplication::quit();
+}
+
+}  // namespace tracewell

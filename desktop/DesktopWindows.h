@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QWidget>
+#include <map>
+#include <memory>
+
+#include "WindowHost.h"
+
+namespace tracewell {
+
+/// Shows each window in the form of its name. A form is made when its window is first shown, and
+/// kept until the window is unloaded.
+class DesktopWindows : public WindowHost {
+ public:
+  DesktopWindows();
+  ~DesktopWindows() override;
+
+  void showModal(Window& window) override;
+  void show(Window& window) override;
+  void hide(Window& window) override;
+  void repaint(Window& window) override;
+  /// Unloading the main window ends the event loop.
+  void unload(Window& window) override;
+
+ private:
+  class Form;
+  Form& formOf(Window& window);
+  QWidget* mainForm() const;
+
+  std::map<Window*, std::unique_ptr<Form>> forms_;
+};
+
+}  // namespace tracewell

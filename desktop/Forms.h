@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QWidget>
+#include <memory>
+#include <string>
+
+namespace tracewell {
+
+/// A new widget laid out as forms/<name>.ui says, owned by the caller. Raises an Error for a name
+/// without a form. Made from the list of forms in CMakeLists.txt.
+std::unique_ptr<QWidget> makeForm(const std::string& name, QWidget* parent);
+
+}  // namespace tracewell

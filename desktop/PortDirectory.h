@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+#include <filesystem>
+
+#include "Clock.h"
+#include "Instrument.h"
+#include "SerialPort.h"
+
+namespace tracewell {
+
+/// What the port numbers mean on this machine.
+///
+/// Number 0 is the built-in simulated instrument. On Windows n is COMn. Elsewhere 1 to 32 are
+/// ttyS0 to ttyS31, 33 to 64 ttyUSB0 to ttyUSB31, 65 to 96 ttyACM0 to ttyACM31; a file or link
+/// "comN" in the program folder stands for number N whatever its range.
+class PortDirectory : public ChannelOpener, public PortList {
+ public:
+  static constexpr std::int16_t simulatedPort = 0;
+
+  PortDirectory(std::filesystem::path programFolder, Clock& clock);
+
+  std::unique_ptr<ByteChannel> open(const LineSettings& settings) override;
+  std::vector<Entry> ports() override;
+
+ private:
+  std::filesystem::path overrideOf(int number) const;
+  QString deviceOf(int number) const;
+  bool isThere(int number, const QString& device) const;
+
+  std::filesystem::path programFolder_;
+  Clock& clock_;
+  Instrument simulatedInstrument_;
+};
+
+}  // namespace tracewell

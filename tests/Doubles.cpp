@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Doubles.h"
+
+#include <atomic>
+#include <random>
+
+namespace tracewell {
+
+namespace fs = std::filesystem;
+
+Answer RecordingDialogs::askYesNo(const std::string& prompt, const std::string& title) {
+  questions.push_back(title + ": " + prompt);
+  return answer;
+}
+
+void RecordingDialogs::showRunTimeError(const Error& error) {
+  runTimeErrors.push_back(std::to_string(error.number()) + " " + error.description());
+}
+
+fs::path RecordingDialogs::openFile(const FileDialog& dialog) {
+  fileDialogs.push_back(dialog);
+  return pickedFile.empty() ? fs::path(dialog.fileName) : pickedFile;
+}
+
+void ScriptedWindows::showModal(Window& window) {
+  shown.push_back(window.name());
+  if (user.contains(window.name())) user[window.name()]();
+}
+
+void ScriptedPort::answerLikeAnInstrument() {
+  answer(":CHAN1:SCAL?", {"500.0 mV\n"});
+  answer(":CHAN2:SCAL?", {"1.000 V\n"});
+  answer(":TIM:SCAL?", {"500.0 us\n"});
+  answer("CHAN1:OFFS?", {"750.0 mV\n"});
+  answer("CHAN2:OFFS?", {"-2.00 V\n"});
+}
+
+void ScriptedPort::prepare() {
+  prepared.push_back(settings);
+  if (faults > 0) {
+    --faults;
+    throw Error(deviceError, "RS232", "no such device");
+  }
+}
+
+void ScriptedPort::write(std::string_view bytes) {
+  EXPECT_TRUE(bytes.ends_with("\r\n"));
+  lastCommand_ = bytes.substr(0, bytes.size() - 2);
+  wire.push_back(lastCommand_);
+}
+
+std::string ScriptedPort::read() {
+  timeOuts.push_back(readTimeOut);
+  std::deque<std::string>& lines = replies[lastCommand_];
+  if (lines.empty()) throw Error(portReadTimeOut, "RS232", "silence");
+  const std::string line = lines.front();
+  if (lines.size() > 1) lines.pop_front();
+  return line;
+}
+
+ProgramFolderCopy::ProgramFolderCopy() {
+  static std::atomic<int> count = 0;
+  path_ = fs::temp_directory_path() / ("tracewell-test-" + std::to_string(std::random_device()()) +
+                                       "-" + std::to_string(count++));
+  fs::copy(TRACEWELL_DATA_FOLDER, path_, fs::copy_options::recursive);
+}
+
+ProgramFolderCopy::~ProgramFolderCopy() {
+  std::error_code ignored;
+  fs::permissions(path_, fs::perms::owner_all, ignored);
+  fs::remove_all(path_, ignored);
+}
+
+std::vector<std::string> Bench::logLines() {
+  std::vector<std::string> lines;
+  const std::string& text = program.errLog.txtErrLog.text();
+  for (std::size_t start = 0; start < text.size();) {
+    const std::size_t end = text.find("\r\n", start);
+    if (end == std::string::npos) break;
+    const std::string line = text.substr(start, end - start);
+    lines.push_back(line.substr(clock.dateAndTime().size() + 2));
+    start = end + 2;
+  }
+  return lines;
+}
+
+std::string makeRecord(const std::function<int(int)>& sample) {
+  std::string record(14, '\x7F');
+  for (int i = 0; i < SharedState::sampleCount; ++i) {
+    record += static_cast<char>((sample(i) >> 8) & 0xFF);
+    record += static_cast<char>(sample(i) & 0xFF);
+  }
+  return record;
+}
+
+}  // namespace tracewell

@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <deque>
+#include <filesystem>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "Dialogs.h"
+#include "SerialPort.h"
+#include "Tracewell.h"
+#include "VirtualClock.h"
+
+namespace tracewell {
+
+/// Writes down what the program would have said, and answers as told.
+class RecordingDialogs : public Dialogs {
+ public:
+  Answer answer = Answer::Yes;
+  /// Empty means Cancel.
+  std::filesystem::path pickedFile;
+  std::vector<std::string> questions;
+  std::vector<std::string> messages;
+  std::vector<std::string> runTimeErrors;
+  std::vector<FileDialog> fileDialogs;
+
+  Answer askYesNo(const std::string& prompt, const std::string& title) override;
+  void showMessage(const std::string& text) override { messages.push_back(text); }
+  void showRunTimeError(const Error& error) override;
+  std::filesystem::path openFile(const FileDialog& dialog) override;
+  std::filesystem::path saveFile(const FileDialog& dialog) override { return openFile(dialog); }
+};
+
+/// A screen on which a script plays the user of each modal window.
+class ScriptedWindows : public WindowHost {
+ public:
+  std::map<std::string, std::function<void()>> user;
+  std::vector<std::string> shown;
+
+  void showModal(Window& window) override;
+  void show(Window& window) override { shown.push_back(window.name()); }
+  void hide(Window&) override {}
+  void repaint(Window&) override {}
+  void unload(Window&) override {}
+};
+
+/// A port that writes down the wire and answers each query from a table. What it has no answer for
+/// times out.
+class ScriptedPort : public SerialPort, public PortList {
+ public:
+  /// Reply lines, with their LF, by query. The last one of a list stays.
+  std::map<std::string, std::deque<std::string>> replies;
+  /// While positive, each transfer fails with it and takes one away.
+  int faults = 0;
+  /// Every line written, without CR LF.
+  std::vector<std::string> wire;
+  std::vector<int> timeOuts;
+  std::vector<LineSettings> prepared;
+  int resets = 0;
+  int recordLength = 0;
+
+  void answer(const std::string& query, std::deque<std::string> lines) {
+    replies[query] = std::move(lines);
+  }
+  /// A connected instrument with both scales, the time base and both positions.
+  void answerLikeAnInstrument();
+  /// Delivers a record for the last request.
+  void deliver(const std::string& record) { dataReady.raise(record); }
+
+  void prepare() override;
+  void write(std::string_view bytes) override;
+  std::string read() override;
+  void beginRead(int count) override { recordLength = count; }
+  void reset() override { ++resets; }
+  std::vector<Entry> ports() override { return {{0, "simulated instrument"}, {33, "ttyUSB0"}}; }
+
+ private:
+  std::string lastCommand_;
+};
+
+/// A folder of its own under the system's temporary one, with the files that the program ships.
+class ProgramFolderCopy {
+ public:
+  ProgramFolderCopy();
+  ~ProgramFolderCopy();
+  const std::filesystem::path& path() const { return path_; }
+
+ private:
+  std::filesystem::path path_;
+};
+
+/// The whole program on doubles.
+struct Bench {
+  ProgramFolderCopy folder;
+  VirtualClock clock;
+  RecordingDialogs dialogs;
+  EventDispatcher dispatcher{dialogs};
+  ScriptedPort port;
+  ScriptedWindows windows;
+  Services services{clock, dialogs, dispatcher, port, port, windows, folder.path()};
+  Tracewell program{services};
+  frmDSO& main = program.main;
+
+  /// The log without its dates.
+  std::vector<std::string> logLines();
+};
+
+/// A record whose samples are `sample(i)`, with a header that is not zero.
+std::string makeRecord(const std::function<int(int)>& sample);
+
+}  // namespace tracewell

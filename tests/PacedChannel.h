@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <deque>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "ByteChannel.h"
+#include "Error.h"
+#include "VirtualClock.h"
+
+namespace tracewell {
+
+/// A line that delivers its answers byte by byte at a rate of its own. The far end outlives the
+/// channels that are opened to it, as an instrument outlives a cable.
+struct FarEnd {
+  /// What to answer to a line, without CR LF.
+  std::function<std::string(const std::string& line)> answer;
+  /// Milliseconds before the first byte of an answer, and between bytes.
+  double thought = 5;
+  double byteTime = 0.5;
+  /// After so many bytes the line is gone.
+  std::size_t hangUpAfter = std::string::npos;
+  bool isAway = false;
+  std::vector<std::string> lines;
+  int opened = 0;
+};
+
+class PacedChannel : public ByteChannel {
+ public:
+  PacedChannel(FarEnd& farEnd, VirtualClock& clock) : farEnd_(farEnd), clock_(clock) {}
+
+  void write(std::string_view bytes) override {
+    if (isGone()) throw Error(deviceError, "RS232", "gone");
+    const std::string line(bytes.substr(0, bytes.size() - 2));
+    farEnd_.lines.push_back(line);
+    double at = std::max(lineFreeAt_, static_cast<double>(clock_.milliseconds())) + farEnd_.thought;
+    for (const char byte : farEnd_.answer(line)) {
+      at += farEnd_.byteTime;
+      due_.emplace_back(at, byte);
+    }
+    lineFreeAt_ = at;
+    announce();
+  }
+
+  std::string read(int timeOut) override {
+    std::string bytes = take();
+    for (int waited = 0; bytes.empty() && waited < timeOut && !isGone(); ++waited) {
+      clock_.sleep(1);
+      bytes = take();
+    }
+    if (bytes.empty() && isGone()) throw Error(deviceError, "RS232", "gone");
+    return bytes;
+  }
+
+ private:
+  bool isGone() const { return farEnd_.isAway || taken_ >= farEnd_.hangUpAfter; }
+
+  std::string take() {
+    std::string bytes;
+    while (!due_.empty() && due_.front().first <= static_cast<double>(clock_.milliseconds()) &&
+           taken_ < farEnd_.hangUpAfter) {
+      bytes += due_.front().second;
+      due_.pop_front();
+      ++taken_;
+    }
+    return bytes;
+  }
+
+  void announce() {
+    clock_.callAfter(10, [this, alive = std::weak_ptr(alive_)] {
+      if (alive.expired()) return;
+      if (!due_.empty() && !isGone()) announce();
+      const std::function<void()> tell = readable;
+      if (tell) tell();
+    });
+  }
+
+  FarEnd& farEnd_;
+  VirtualClock& clock_;
+  std::deque<std::pair<double, char>> due_;
+  double lineFreeAt_ = 0;
+  std::size_t taken_ = 0;
+  std::shared_ptr<int> alive_ = std::make_shared<int>();
+};
+
+class PacedOpener : public ChannelOpener {
+ public:
+  PacedOpener(FarEnd& farEnd, VirtualClock& clock) : farEnd_(farEnd), clock_(clock) {}
+  std::unique_ptr<ByteChannel> open(const LineSettings&) override {
+    if (farEnd_.isAway) throw Error(deviceError, "RS232", "no such port");
+    ++farEnd_.opened;
+    return std::make_unique<PacedChannel>(farEnd_, clock_);
+  }
+
+ private:
+  FarEnd& farEnd_;
+  VirtualClock& clock_;
+};
+
+}  // namespace tracewell

@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "SetupFiles.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <fstream>
+
+#include "Doubles.h"
+#include "Files.h"
+
+namespace tracewell {
+namespace {
+
+namespace fs = std::filesystem;
+
+class SetupFilesTest : public testing::Test {
+ protected:
+  std::string cell(int row, int column) { return bench.main.gridMeasure.text(row, column); }
+  void read(const std::string& bytes) {
+    writeWholeFile(file, bytes);
+    bench.program.setupFiles.ReadSetupFile(file);
+  }
+
+  Bench bench;
+  fs::path file = bench.folder.path() / "try.dso";
+  SetupTable& table = bench.main.gridMeasure;
+};
+
+TEST_F(SetupFilesTest, ShippedFileIsWhatTheProgramStartsWith) {
+  bench.program.setupFiles.WriteSetupFile(file);
+  EXPECT_EQ(readWholeFile(file), readWholeFile(bench.folder.path() / "default.dso"));
+}
+
+TEST_F(SetupFilesTest, WhatIsWrittenComesBack) {
+  for (int row = 0; row < 13; ++row) {
+    table.setText(row, 0, "Row " + std::to_string(row));
+    table.setText(row, 1, std::to_string(row));
+    for (int i = 0; i < row; ++i) table.setText(row, 2 + i, std::to_string(row * 100 + i));
+  }
+  bench.program.setupFiles.WriteSetupFile(file);
+  const std::string bytes = readWholeFile(file);
+  EXPECT_TRUE(bytes.starts_with("RRow 0,0\r\nRow 1,1,100\r\n"));
+  table = SetupTable();
+  bench.program.setupFiles.ReadSetupFile(file);
+  EXPECT_EQ(cell(0, 0), "Row 0");
+  EXPECT_EQ(cell(12, 13), "1211");
+  EXPECT_EQ(cell(5, 6), "504");
+}
+
+TEST_F(SetupFilesTest, ReadingOfOddFiles) {
+  read("RA,2,x\r\n B,1, y ,z\r\nno comma\r\ncut,1,q");
+  EXPECT_EQ(cell(0, 0), "A");
+  EXPECT_EQ(cell(0, 2), "x");
+  EXPECT_EQ(cell(0, 3), "8");  // Right of the last field nothing changes.
+  EXPECT_EQ(cell(1, 0), "B");
+  EXPECT_EQ(cell(1, 2), " y ");
+  EXPECT_EQ(cell(1, 3), "z");
+  EXPECT_EQ(cell(2, 0), "no comma");
+  EXPECT_EQ(cell(3, 0), "Channel 2 voltage");  // The last line has no end.
+
+  table = SetupTable();
+  read("RA,1,x\nB,1,y\n");
+  EXPECT_EQ(cell(0, 0), "RS232");
+  read("abel,1,x\r\n");
+  EXPECT_EQ(cell(0, 0), "bel");
+  read("\r\nB,1,y\r\n");
+  EXPECT_EQ(cell(1, 0), "Quick measurement");
+
+  std::string wide = "RA,1,x\r\nB,40";
+  for (int i = 0; i < 40; ++i) wide += ",v";
+  read(wide + "\r\nC,1,z\r\n");
+  EXPECT_EQ(cell(0, 0), "A");
+  EXPECT_EQ(cell(1, 5), "v");
+  EXPECT_EQ(cell(2, 0), "Channel 1 voltage");
+
+  std::string tall = "R";
+  for (int i = 0; i < 100; ++i) tall += "row,0\r\n";
+  read(tall);
+  EXPECT_EQ(cell(SetupTable::rowCount - 1, 0), "row");
+}
+
+TEST_F(SetupFilesTest, EveryPrefixOfAFileIsReadWithoutHarm) {
+  const std::string whole = readWholeFile(bench.folder.path() / "default.dso");
+  for (std::size_t length = 0; length <= whole.size(); ++length) {
+    table = SetupTable();
+    read(whole.substr(0, length));
+    EXPECT_EQ(table.valueCount(12), 1) << length;
+  }
+}
+
+TEST_F(SetupFilesTest, CountThatIsNoNumberFailsBeforeAnythingIsWritten) {
+  writeWholeFile(file, "old");
+  table.setText(7, 1, "many");
+  bench.dialogs.pickedFile = file;
+  bench.main.mnbSaveSetup.choose();
+  EXPECT_EQ(bench.dialogs.runTimeErrors, std::vector<std::string>{"13 Type mismatch"});
+  EXPECT_EQ(readWholeFile(file), "old");
+}
+
+TEST_F(SetupFilesTest, MenuAsksInItsOwnWordsAndCancelMeansTheCurrentFolder) {
+  const fs::path before = fs::current_path();
+  fs::current_path(bench.folder.path());
+  table.setText(0, 0, "kept");
+  bench.main.mnbSaveSetup.choose();
+  table = SetupTable();
+  bench.main.mnbLoadSetup.choose();
+  fs::current_path(before);
+  EXPECT_EQ(cell(0, 0), "kept");
+  ASSERT_EQ(bench.dialogs.fileDialogs.size(), 2u);
+  for (const FileDialog& dialog : bench.dialogs.fileDialogs) {
+    EXPECT_EQ(dialog.title, "Load DSO Setup file");
+    EXPECT_EQ(dialog.fileName, "default.dso");
+    EXPECT_EQ(dialog.filter, "*.dso|*.dso");
+    EXPECT_EQ(dialog.initialFolder, bench.folder.path());
+  }
+  bench.dialogs.pickedFile = bench.folder.path() / "none.dso";
+  bench.main.mnbLoadSetup.choose();
+  ASSERT_EQ(bench.dialogs.runTimeErrors.size(), 1u);
+  EXPECT_TRUE(bench.dialogs.runTimeErrors[0].starts_with("53 File not found: "));
+}
+
+/// A folder in which no file can be made stands for a full disk and for one that is read-only:
+/// the unfinished file is what fails.
+TEST_F(SetupFilesTest, SetupThatCannotBeWrittenIsReportedAndStaysWhole) {
+  bench.program.start();
+  const fs::path setup = bench.folder.path() / "default.dso";
+  const std::string old = readWholeFile(setup);
+  bench.main.gridMeasure.setText(0, 0, "new");
+  fs::create_directory(bench.folder.path() / "default.dso.new");
+  std::ofstream(bench.folder.path() / "default.dso.new" / "in the way");
+  bench.main.close();
+  ASSERT_EQ(bench.dialogs.messages.size(), 1u);
+  EXPECT_NE(bench.dialogs.messages[0].find(pathText(setup)), std::string::npos);
+  EXPECT_EQ(readWholeFile(setup), old);
+  EXPECT_FALSE(bench.main.isLoaded());
+}
+
+/// The device that is always full.
+TEST(Files, FullDiskIsAnError) {
+  if (!fs::exists("/dev/full")) GTEST_SKIP();
+  const fs::path link = fs::temp_directory_path() / "tracewell-full.new";
+  fs::remove(link);
+  fs::create_symlink("/dev/full", link);
+  const fs::path file = fs::temp_directory_path() / "tracewell-full";
+  EXPECT_THROW(writeWholeFile(file, "text"), Error);
+  EXPECT_FALSE(fs::exists(file));
+  EXPECT_FALSE(fs::exists(fs::symlink_status(link)));
+}
+
+}  // namespace
+}  // namespace tracewell

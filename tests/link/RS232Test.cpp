@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <gtest/gtest.h>
+
+#include "Doubles.h"
+
+namespace tracewell {
+namespace {
+
+class RS232Test : public testing::Test {
+ protected:
+  RS232Test() { bench.program.start(); }
+
+  /// Opens the dialog, types the five settings and presses a button.
+  void edit(const std::vector<std::string>& settings, Button& button) {
+    bench.windows.user["frmRS232"] = [&] {
+      for (int i = 0; i < 5; ++i) dialog.cbRS232(i).type(settings.at(static_cast<std::size_t>(i)));
+      button.press();
+    };
+    bench.main.mnbRS232.choose();
+  }
+  std::string row() {
+    std::string text;
+    for (int column = 2; column < 7; ++column) text += bench.main.gridMeasure.text(0, column) + ",";
+    return text;
+  }
+
+  Bench bench;
+  frmRS232& dialog = bench.program.rs232;
+  LineSettings& settings = bench.port.settings;
+};
+
+TEST_F(RS232Test, AppliesInThePortsOwnCodes) {
+  const struct {
+    std::vector<std::string> typed;
+    LineSettings expected;
+  } cases[] = {{{"9600", "7", "1", "None", "33"}, {33, 9600, 7, 0, 0}},
+               {{"4800", "8", "2", "Odd", "0"}, {0, 4800, 8, 2, 3}},
+               {{"300", "9", "1.5", "Even", "-1"}, {-1, 300, 8, 2, 1}}};
+  for (const auto& c : cases) {
+    edit(c.typed, dialog.cmdOK);
+    EXPECT_EQ(settings, c.expected) << c.typed[0];
+    EXPECT_EQ(bench.main.BaudRate, c.expected.baudRate);
+    EXPECT_FALSE(dialog.isVisible());
+  }
+  EXPECT_EQ(row(), "300,9,1.5,Even,-1,");
+}
+
+TEST_F(RS232Test, OpensWithTheTableAndNamesTheDevice) {
+  bench.main.gridMeasure.setText(0, 6, "33");
+  bench.windows.user["frmRS232"] = [&] {
+    EXPECT_EQ(dialog.cbRS232(0).text(), "19200");
+    EXPECT_EQ(dialog.cbRS232(4).text(), "33");
+    EXPECT_EQ(dialog.lblDevice.caption(), "ttyUSB0");
+    dialog.cbRS232(4).type("0");
+    EXPECT_EQ(dialog.lblDevice.caption(), "simulated instrument");
+    dialog.cbRS232(4).type("5");
+    EXPECT_EQ(dialog.lblDevice.caption(), "");
+  };
+  bench.main.mnbRS232.choose();
+}
+
+TEST_F(RS232Test, WrongTextEndsTheHandlerAndCancelAppliesNothing) {
+  const LineSettings before = settings;
+  const std::string rowBefore = row();
+  edit({"4800", "7", "2", "Odd", "1"}, dialog.cmdCancel);
+  EXPECT_EQ(settings, before);
+  edit({"38400", "7", "2", "Odd", "1"}, dialog.cmdOK);
+  edit({"fast", "7", "2", "Odd", "1"}, dialog.cmdOK);
+  EXPECT_EQ(settings, before);
+  // The rate is applied before the port's number is found wrong.
+  edit({"4800", "7", "2", "Odd", "tty"}, dialog.cmdOK);
+  EXPECT_EQ(bench.main.BaudRate, 4800);
+  EXPECT_EQ(settings.dataBits, before.dataBits);
+  EXPECT_EQ(row(), rowBefore);
+  EXPECT_TRUE(dialog.isVisible());
+  EXPECT_EQ(bench.dialogs.runTimeErrors,
+            (std::vector<std::string>{"6 Overflow", "13 Type mismatch", "13 Type mismatch"}));
+}
+
+}  // namespace
+}  // namespace tracewell

@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Controls.h"
+
+#include <gtest/gtest.h>
+
+#include "Dials.h"
+#include "Doubles.h"
+
+namespace tracewell {
+namespace {
+
+class ControlsTest : public testing::Test {
+ protected:
+  Bench bench;
+  Window window{"frmTry", "Try", bench.services};
+  int raised = 0;
+  void count() { ++raised; }
+};
+
+TEST_F(ControlsTest, ControlsRegisterInTheOrderOfTheirDeclaration) {
+  Button ok(window, "cmdOK", "OK");
+  ControlArray<CheckBox> boxes(window, "cb", {"a", "b"});
+  ASSERT_EQ(window.controls().size(), 3u);
+  EXPECT_EQ(window.controls()[0]->objectName(), "cmdOK");
+  EXPECT_EQ(window.controls()[2]->objectName(), "cb_1");
+  EXPECT_THROW(boxes(2), Error);
+}
+
+TEST_F(ControlsTest, ComboRaisesClickAtEveryAssignmentAndTakesTypedText) {
+  ComboBox box(window, "cb", {"AC", "DC"});
+  box.click = [this] { count(); };
+  box.listIndex = 1;
+  box.listIndex = 1;
+  EXPECT_EQ(raised, 2);
+  EXPECT_EQ(box.text(), "DC");
+  box.type("Advance");
+  EXPECT_EQ(raised, 3);
+  EXPECT_EQ(box.listIndex(), ComboBox::noEntry);
+  box.type("AC");
+  EXPECT_EQ(box.listIndex(), 0);
+  EXPECT_THROW(box.listIndex = 2, Error);
+  EXPECT_EQ(box.listIndex(), 0);
+}
+
+TEST_F(ControlsTest, SelectingAnOptionClearsItsGroupInSilence) {
+  ControlArray<OptionButton> coupling(window, "obCoupling", {"AC", "DC"});
+  ControlArray<OptionButton> probe(window, "obProbe", {"1", "10"});
+  coupling(0).value = true;
+  probe(1).value = true;
+  coupling(0).click = [this] { count(); };
+  coupling(1).select();
+  EXPECT_FALSE(coupling(0).value());
+  EXPECT_TRUE(coupling(1).value());
+  EXPECT_TRUE(probe(1).value());
+  EXPECT_EQ(raised, 0);
+}
+
+TEST_F(ControlsTest, SlideSetByCodeNeverCommits) {
+  Slide slide(window, "slide", "Level : 0.00 V", {-1, 1, 0.1});
+  slide.pointerValueCommitted = [this] { count(); };
+  slide.mouseUp = [this] { count(); };
+  slide.value = 5;
+  EXPECT_EQ(slide.value(), 5);
+  slide.drag(-7);
+  EXPECT_EQ(slide.value(), -1);
+  EXPECT_EQ(raised, 0);
+  slide.release();
+  EXPECT_EQ(raised, 2);
+}
+
+TEST_F(ControlsTest, UntrappedErrorEndsInOneBoxAndDisabledControlsAreOutOfReach) {
+  Button button(window, "cmd", "Do");
+  button.click = [] { throw typeMismatchError(); };
+  button.press();
+  EXPECT_EQ(bench.dialogs.runTimeErrors, std::vector<std::string>{"13 Type mismatch"});
+  button.enabled = false;
+  button.press();
+  EXPECT_EQ(bench.dialogs.runTimeErrors.size(), 1u);
+}
+
+TEST_F(ControlsTest, TimerStartsAFullIntervalAndStopsAtOnce) {
+  Timer timer(window, 100);
+  timer.timer = [this] { count(); };
+  timer.enabled = true;
+  bench.clock.run(250);
+  EXPECT_EQ(raised, 2);
+  timer.enabled = false;
+  timer.enabled = true;
+  bench.clock.run(99);
+  EXPECT_EQ(raised, 2);
+  bench.clock.run(1);
+  EXPECT_EQ(raised, 3);
+  timer.enabled = false;
+  bench.clock.run(300);
+  EXPECT_EQ(raised, 3);
+}
+
+}  // namespace
+}  // namespace tracewell

@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Numbers.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "Error.h"
+
+namespace tracewell {
+namespace {
+
+template <class Operation>
+int errorOf(Operation operation) {
+  try {
+    operation();
+  } catch (const Error& error) {
+    return error.number();
+  }
+  return 0;
+}
+
+TEST(Numbers, RoundToNearestWithTiesToEven) {
+  const struct {
+    double value;
+    int expected;
+  } cases[] = {{0.5, 0},   {1.5, 2},         {2.5, 2},          {-0.5, 0},
+               {-1.5, -2}, {32767.4, 32767}, {-32768.5, -32768}};
+  for (const auto& c : cases) EXPECT_EQ(toInt16(c.value), c.expected) << c.value;
+}
+
+TEST(Numbers, OverflowAndDivisionAreErrors) {
+  for (const double value : {32767.5, -32769.0, 1e300, std::nan("")})
+    EXPECT_EQ(errorOf([&] { toInt16(value); }), overflow) << value;
+  EXPECT_EQ(errorOf([] { addInt16(32767, 1); }), overflow);
+  EXPECT_EQ(errorOf([] { addInt16(-32768, -1); }), overflow);
+  EXPECT_EQ(errorOf([] { mulInt16(656, 50); }), overflow);
+  EXPECT_EQ(mulInt16(655, 50), 32750);
+  EXPECT_EQ(errorOf([] { divide(1, 0); }), divisionByZero);
+  EXPECT_EQ(errorOf([] { divide(0, 0); }), overflow);
+  EXPECT_EQ(errorOf([] { divide(1e300, 1e-300); }), overflow);
+  EXPECT_EQ(errorOf([] { toDouble("1e999"); }), overflow);
+  EXPECT_EQ(toDouble("1e-999"), 0);
+}
+
+TEST(Numbers, IsNumericTakesOneNumberAndNothingElse) {
+  for (const char* text : {"1", " 1 ", "+1", "-1.5", ".5", "5.", "5E3", "1e-10", " -1.25E+05 "})
+    EXPECT_TRUE(isNumeric(text)) << text;
+  for (const char* text : {"", " ", "+", ".", "E5", "1E", "1E+", "1 2", "--1", "1.2.3", "0x10",
+                           "1V", "\t1", "1\n", "inf", "nan", "1,5"}) {
+    EXPECT_FALSE(isNumeric(text)) << text;
+    EXPECT_EQ(errorOf([&] { toDouble(text); }), typeMismatch) << text;
+  }
+}
+
+TEST(Numbers, LeadingNumberStopsAtTheFirstLetterOrBlank) {
+  const struct {
+    const char* text;
+    double expected;
+  } cases[] = {{"2.000", 2}, {"  1.5 V", 1.5}, {"-2.00", -2}, {"2E-3", 2}, {".5V", 0.5},
+               {"Null", 0},  {"", 0},          {"-", 0},      {".", 0},    {"1 2", 1}};
+  for (const auto& c : cases) EXPECT_EQ(leadingNumber(c.text), c.expected) << c.text;
+}
+
+TEST(Numbers, ExponentPattern) {
+  const struct {
+    double value;
+    const char* expected;
+  } cases[] = {
+      {0.4, "4E-1"},           {-3, "-3E0"},      {0.125, "1.25E-1"}, {0, "0E0"},
+      {-0.0, "0E0"},           {0.015, "1.5E-2"}, {1e10, "1E10"},     {1.0 / 3, "3.33333333333E-1"},
+      {9.9999999999999, "1E1"}};
+  for (const auto& c : cases) EXPECT_EQ(formatExponent(c.value), c.expected);
+}
+
+TEST(Numbers, TwoDecimalPattern) {
+  const struct {
+    double value;
+    const char* expected;
+  } cases[] = {{0, "0.00"},          {0.125, "0.13"},  {-0.125, "-0.13"},
+               {1.005, "1.01"},      {-0.004, "0.00"}, {9.995, "10.00"},
+               {-99.999, "-100.00"}, {1e-9, "0.00"},   {123456, "123456.00"}};
+  for (const auto& c : cases) EXPECT_EQ(formatTwoDecimals(c.value), c.expected);
+}
+
+TEST(Numbers, DefaultTextIsShortAndReadsBack) {
+  for (const double value : {0.1, 1.5, -0.25, 1e-7, 123456789.0, 2.0 / 3})
+    EXPECT_EQ(toDouble(numberText(value)), value);
+  EXPECT_EQ(numberText(0.1), "0.1");
+  EXPECT_EQ(numberText(-0.0), "0");
+}
+
+}  // namespace
+}  // namespace tracewell
