@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <cmath>
+
+#include "DesktopClock.h"
+#include "DesktopDialogs.h"
+#include "DesktopWindows.h"
+#include "GraphView.h"
+#include "LinePort.h"
+#include "PortDirectory.h"
+#include "frmDSO.h"
+
+namespace tracewell {
+namespace {
+
+/// A window with nothing but the graph: 900 x 600, six traces, two cursors.
+class GraphBench {
+ public:
+  GraphBench() {
+    view.resize(900, 600);
+    view.bind(graph);
+    for (int i = 0; i < SharedState::sampleCount; ++i)
+      x[static_cast<std::size_t>(i)] = static_cast<std::int16_t>(i - 250);
+    for (int number = 1; number <= Graph::plotCount; ++number) graph.plot(number).visible = true;
+    graph.cursor("cur1").visible = true;
+    graph.cursor("cur2").visible = true;
+    view.show();
+    QApplication::processEvents();
+  }
+
+  void plotAll(double phase) {
+    for (int number = 1; number <= Graph::plotCount; ++number) {
+      for (std::size_t i = 0; i < y.size(); ++i) {
+        const double wave = std::sin(static_cast<double>(i) / 40 + number + phase);
+        y[i] = static_cast<std::int16_t>(std::lround(150 * wave));
+      }
+      graph.plot(number).plotXvsY(x, y);
+    }
+  }
+
+  GraphView view{nullptr};
+
+ private:
+  DesktopClock clock;
+  DesktopDialogs dialogs;
+  EventDispatcher dispatcher{dialogs};
+  PortDirectory ports{".", clock};
+  LinePort port{ports, clock, dispatcher};
+  DesktopWindows windows;
+  Services services{clock, dialogs, dispatcher, port, ports, windows, "."};
+  Window window{"frmBench", "", services};
+  Graph graph{window, "graphDSO"};
+  std::array<std::int16_t, SharedState::sampleCount> x{};
+  std::array<std::int16_t, SharedState::sampleCount> y{};
+};
+
+/// New data in all traces, then the frame that shows them, painted into the window.
+void frame(benchmark::State& state) {
+  GraphBench bench;
+  double phase = 0;
+  for (auto _ : state) {
+    bench.plotAll(phase += 0.1);
+    QApplication::processEvents();
+    QApplication::processEvents();
+  }
+}
+BENCHMARK(frame)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace tracewell
+
+int main(int argumentCount, char** arguments) {
+  QApplication application(argumentCount, arguments);
+  benchmark::Initialize(&argumentCount, arguments);
+  benchmark::RunSpecifiedBenchmarks();
+  return 0;
+}

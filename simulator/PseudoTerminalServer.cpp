@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "PseudoTerminalServer.h"
+
+#include <fcntl.h>
+#include <poll.h>
+#include <stdlib.h>
+#include <sys/stat.h>
+#include <termios.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <chrono>
+#include <cmath>
+#include <csignal>
+#include <system_error>
+#include <thread>
+#include <utility>
+
+namespace tracewell {
+namespace {
+
+volatile std::sig_atomic_t isAskedToEnd = 0;
+
+void askToEnd(int) {
+  isAskedToEnd = 1;
+}
+
+double millisecondsNow() {
+  using std::chrono::duration;
+  return duration<double, std::milli>(std::chrono::steady_clock::now().time_since_epoch()).count();
+}
+
+int orRaise(int result, const char* what) {
+  if (result < 0) throw std::system_error(errno, std::generic_category(), what);
+  return result;
+}
+
+void endOnSignals() {
+  struct sigaction action = {};
+  action.sa_handler = askToEnd;
+  sigaction(SIGINT, &action, nullptr);
+  sigaction(SIGTERM, &action, nullptr);
+}
+
+}  // namespace
+
+PseudoTerminalServer::PseudoTerminalServer(Instrument& instrument, Options options)
+    : instrument_(instrument), options_(std::move(options)) {
+  endOnSignals();
+  plugIn();
+}
+
+PseudoTerminalServer::~PseudoTerminalServer() {
+  pullPlug();
+}
+
+void PseudoTerminalServer::plugIn() {
+  instrument_.plugIn();
+  instrument_.setLineRate(options_.rate);
+  controller_ = orRaise(posix_openpt(O_RDWR | O_NOCTTY), "posix_openpt");
+  orRaise(grantpt(controller_), "grantpt");
+  orRaise(unlockpt(controller_), "unlockpt");
+  orRaise(fcntl(controller_, F_SETFL, O_NONBLOCK), "fcntl");
+  path_ = ptsname(controller_);
+  terminal_ = orRaise(open(path_.c_str(), O_RDWR | O_NOCTTY), "open");
+  termios attributes;
+  orRaise(tcgetattr(terminal_, &attributes), "tcgetattr");
+  cfmakeraw(&attributes);
+  orRaise(tcsetattr(terminal_, TCSANOW, &attributes), "tcsetattr");
+  if (options_.link.empty()) return;
+  unlink(options_.link.c_str());
+  orRaise(symlink(path_.c_str(), options_.link.c_str()), "symlink");
+}
+
+void PseudoTerminalServer::pullPlug() {
+  if (controller_ < 0) return;
+  if (!options_.link.empty()) unlink(options_.link.c_str());
+  close(terminal_);
+  close(std::exchange(controller_, -1));
+}
+
+int PseudoTerminalServer::millisecondsToNextByte() const {
+  const std::optional<double> next = instrument_.nextByteAt();
+  if (!next) return -1;
+  return std::max(1, static_cast<int>(std::ceil(*next - millisecondsNow())));
+}
+
+void PseudoTerminalServer::serve() {
+  while (!isAskedToEnd) {
+    std::array<pollfd, 2> watched = {
+        {{controller_, POLLIN, 0}, {hasStandardInput_ ? STDIN_FILENO : -1, POLLIN, 0}}};
+    poll(watched.data(), watched.size(), millisecondsToNextByte());
+    if (watched[0].revents & POLLIN) takeBytes();
+    if (watched[1].revents != 0) takeFaultLines();
+    sendDueBytes();
+    if (!instrument_.hasHungUp()) continue;
+    pullPlug();
+    if (options_.replugAfter < 0) return;
+    std::this_thread::sleep_for(std::chrono::milliseconds(options_.replugAfter));
+    plugIn();
+  }
+}
+
+void PseudoTerminalServer::takeBytes() {
+  std::array<char, 512> buffer;
+  const ssize_t count = ::read(controller_, buffer.data(), buffer.size());
+  if (count > 0)
+    instrument_.receive({buffer.data(), static_cast<std::size_t>(count)}, millisecondsNow());
+}
+
+/// What does not fit, because nobody reads, is lost as it is on a real line.
+void PseudoTerminalServer::sendDueBytes() {
+  const std::string bytes = instrument_.transmit(millisecondsNow());
+  if (!bytes.empty() && ::write(controller_, bytes.data(), bytes.size()) < 0 && errno != EAGAIN)
+    throw std::system_error(errno, std::generic_category(), "write");
+}
+
+void PseudoTerminalServer::takeFaultLines() {
+  std::array<char, 256> buffer;
+  const ssize_t count = ::read(STDIN_FILENO, buffer.data(), buffer.size());
+  hasStandardInput_ = count > 0;
+  for (ssize_t i = 0; i < count; ++i) {
+    const char byte = buffer[static_cast<std::size_t>(i)];
+    if (byte != '\n')
+      faultLine_ += byte;
+    else
+      instrument_.setFault(std::exchange(faultLine_, {}));
+  }
+}
+
+}  // namespace tracewell
