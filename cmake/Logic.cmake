@@ -13,6 +13,7 @@ add_library(tracewell_logic STATIC
   link/CommandLine.cpp
   link/Connect.cpp
   link/InstrumentState.cpp
+  link/PortNotice.cpp
   link/WaveformRecord.cpp
   link/frmRS232.cpp
   panel/ScaleKnobs.cpp

@@ -62,9 +62,9 @@ QWidget* DesktopWindows::mainForm() const {
 }
 
 DesktopWindows::Form& DesktopWindows::formOf(Window& window) {
-  std::unique_ptr<Form>& form = forms_[&window];
-  if (!form) form = std::make_unique<Form>(window, mainForm());
-  return *form;
+  const auto known = forms_.find(&window);
+  if (known != forms_.end()) return *known->second;
+  return *forms_.emplace(&window, std::make_unique<Form>(window, mainForm())).first->second;
 }
 
 void DesktopWindows::showModal(Window& window) {

@@ -2,9 +2,10 @@
 #include "PortDirectory.h"
 
 #include <QSerialPortInfo>
-#include <algorithm>
+#include <QSet>
 #include <utility>
 
+#include "Error.h"
 #include "QtSerialChannel.h"
 #include "SimulatedChannel.h"
 #include "Text.h"
@@ -47,39 +48,41 @@ PortDirectory::PortDirectory(fs::path programFolder, Clock& clock)
 std::unique_ptr<ByteChannel> PortDirectory::open(const LineSettings& settings) {
   if (settings.portNumber == simulatedPort)
     return std::make_unique<SimulatedChannel>(simulatedInstrument_, clock_, settings);
-  const QString device = deviceOf(settings.portNumber);
+  const QString device = systemDevice(settings.portNumber);
   if (device.isEmpty())
     throw Error(deviceError, "RS232", "There is no port " + std::to_string(settings.portNumber));
   return std::make_unique<QtSerialChannel>(device, settings);
 }
 
 std::vector<PortList::Entry> PortDirectory::ports() {
-  std::vector<Entry> found = {{simulatedPort, "simulated instrument"}};
-  for (int number = 1; number <= highestNumber; ++number) {
-    const QString device = deviceOf(number);
-    if (isThere(number, device))
-      found.push_back({static_cast<std::int16_t>(number), fromQt(device)});
+  QSet<QString> present;
+  for (const QSerialPortInfo& port : QSerialPortInfo::availablePorts()) present << port.portName();
+  std::vector<Entry> found = {{simulatedPort, deviceOf(simulatedPort)}};
+  for (std::int16_t number = 1; number <= highestNumber; ++number) {
+    std::error_code ignored;
+    const bool isThere = isOverridden(number) ? fs::exists(overrideOf(number), ignored)
+                                              : present.contains(systemDevice(number));
+    if (isThere) found.push_back({number, deviceOf(number)});
   }
   return found;
+}
+
+std::string PortDirectory::deviceOf(std::int16_t number) {
+  return number == simulatedPort ? "simulated instrument" : fromQt(systemDevice(number));
 }
 
 fs::path PortDirectory::overrideOf(int number) const {
   return programFolder_ / ("com" + std::to_string(number));
 }
 
-QString PortDirectory::deviceOf(int number) const {
+/// A link whose device is away still means that device and no other.
+bool PortDirectory::isOverridden(int number) const {
   std::error_code ignored;
-  // A link whose device is away still means this device and no other.
-  if (fs::is_symlink(fs::symlink_status(overrideOf(number), ignored)) ||
-      fs::exists(overrideOf(number), ignored))
-    return toQt(overrideOf(number));
-  return usualDevice(number);
+  return fs::exists(fs::symlink_status(overrideOf(number), ignored));
 }
 
-bool PortDirectory::isThere(int number, const QString& device) const {
-  std::error_code ignored;
-  if (device == toQt(overrideOf(number))) return fs::exists(overrideOf(number), ignored);
-  return !device.isEmpty() && !QSerialPortInfo(device).isNull();
+QString PortDirectory::systemDevice(int number) const {
+  return isOverridden(number) ? toQt(overrideOf(number)) : usualDevice(number);
 }
 
 }  // namespace tracewell

@@ -23,11 +23,12 @@ class PortDirectory : public ChannelOpener, public PortList {
 
   std::unique_ptr<ByteChannel> open(const LineSettings& settings) override;
   std::vector<Entry> ports() override;
+  std::string deviceOf(std::int16_t number) override;
 
  private:
   std::filesystem::path overrideOf(int number) const;
-  QString deviceOf(int number) const;
-  bool isThere(int number, const QString& device) const;
+  bool isOverridden(int number) const;
+  QString systemDevice(int number) const;
 
   std::filesystem::path programFolder_;
   Clock& clock_;

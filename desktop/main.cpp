@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <QApplication>
-#include <QIcon>
 
 #include "DesktopClock.h"
 #include "DesktopDialogs.h"
@@ -15,7 +14,6 @@ int main(int argumentCount, char** arguments) {
   QApplication application(argumentCount, arguments);
   QApplication::setApplicationName(QStringLiteral("tracewell"));
   QApplication::setApplicationDisplayName(QStringLiteral("Tracewell"));
-  QApplication::setWindowIcon(QIcon(QStringLiteral(":/tracewell.png")));
   // The main window itself says when the program ends.
   QApplication::setQuitOnLastWindowClosed(false);
   tracewell::applyTheme(application);

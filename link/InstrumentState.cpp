@@ -2,6 +2,7 @@
 #include "InstrumentState.h"
 
 #include "Numbers.h"
+#include "PortNotice.h"
 
 namespace tracewell {
 namespace {
@@ -43,6 +44,7 @@ void InstrumentState::applyLinkSettings() {
   settings.baudRate = baudRate;
   settings.portNumber = main_.gridMeasure.number(SetupTable::link, 6);
   main_.BaudRate = baudRate;
+  showPort(main_, settings.portNumber);
 }
 
 void InstrumentState::readScale(const std::string& query, ScaleKnob kind, ValueLabel& label,

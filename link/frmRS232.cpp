@@ -2,6 +2,7 @@
 #include "frmRS232.h"
 
 #include "Numbers.h"
+#include "PortNotice.h"
 
 namespace tracewell {
 namespace {
@@ -47,17 +48,15 @@ void frmRS232::mnbRS232_Click() {
 
 /// Anew at each opening: ports come and go with their cables.
 void frmRS232::listPorts() {
-  ports_ = services().ports.ports();
   std::vector<std::string> numbers;
-  for (const PortList::Entry& port : ports_) numbers.push_back(std::to_string(port.number));
+  for (const PortList::Entry& port : services().ports.ports())
+    numbers.push_back(std::to_string(port.number));
   cbRS232(portNumber).items = numbers;
 }
 
 void frmRS232::showDevice() {
-  std::string device;
-  for (const PortList::Entry& port : ports_)
-    if (std::to_string(port.number) == cbRS232(portNumber).text()) device = port.device;
-  lblDevice.caption = device;
+  const std::string& number = cbRS232(portNumber).text();
+  lblDevice.caption = isNumeric(number) ? services().ports.deviceOf(toInt16(number)) : "";
 }
 
 void frmRS232::cmdOK_Click() {
@@ -70,6 +69,7 @@ void frmRS232::cmdOK_Click() {
   settings.parity = parityCode(cbRS232(parity).text());
   for (int i = 0; i < settingCount; ++i)
     main_.gridMeasure.setText(SetupTable::link, cell(i), cbRS232(i).text());
+  showPort(main_, settings.portNumber);
   hide();
   main_.refresh();
 }

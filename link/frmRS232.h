@@ -29,7 +29,6 @@ class frmRS232 : public Window {
   void cmdCancel_Click();
 
   frmDSO& main_;
-  std::vector<PortList::Entry> ports_;
 };
 
 }  // namespace tracewell

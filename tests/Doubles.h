@@ -76,6 +76,11 @@ class ScriptedPort : public SerialPort, public PortList {
   void beginRead(int count) override { recordLength = count; }
   void reset() override { ++resets; }
   std::vector<Entry> ports() override { return {{0, "simulated instrument"}, {33, "ttyUSB0"}}; }
+  std::string deviceOf(std::int16_t number) override {
+    for (const Entry& entry : ports())
+      if (entry.number == number) return entry.device;
+    return "";
+  }
 
  private:
   std::string lastCommand_;

@@ -1,0 +1,286 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "GraphView.h"
+
+#include <qcustomplot.h>
+
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QTimer>
+#include <QVBoxLayout>
+#include <cmath>
+
+#include "Graph.h"
+#include "Text.h"
+
+namespace tracewell {
+namespace {
+
+constexpr double unitsPerDivision = 50;
+/// How near to a cursor the mouse takes hold of it. Pixels.
+constexpr qreal grip = 6;
+const QColor cursorColour(255, 138, 128);
+const QColor triggerColour(129, 212, 132);
+const QColor noteColour(255, 171, 64);
+
+QColor toQt(const Colour& colour) {
+  return {colour.red, colour.green, colour.blue};
+}
+
+/// Ticks at whole divisions, five small ones between; no numbers.
+QSharedPointer<QCPAxisTicker> divisionTicker() {
+  auto ticker = QSharedPointer<QCPAxisTickerFixed>::create();
+  ticker->setTickStep(unitsPerDivision);
+  return ticker;
+}
+
+QCPItemText* makeText(QCustomPlot* plot, const QColor& colour, Qt::Alignment alignment) {
+  auto* text = new QCPItemText(plot);
+  text->setColor(colour);
+  text->setPositionAlignment(alignment);
+  text->setVisible(false);
+  text->setClipToAxisRect(false);
+  return text;
+}
+
+}  // namespace
+
+GraphView::GraphView(QWidget* parent)
+    : QWidget(parent), plot_(new QCustomPlot(this)), caption_(new QLabel(this)) {
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(2);
+  layout->addWidget(plot_, 1);
+  layout->addWidget(caption_);
+  caption_->setAlignment(Qt::AlignCenter);
+  caption_->setObjectName(QStringLiteral("graphCaption"));
+  setFocusPolicy(Qt::StrongFocus);
+  plot_->setFocusPolicy(Qt::NoFocus);
+  plot_->installEventFilter(this);
+  plot_->setNoAntialiasingOnDrag(true);
+  plot_->setPlottingHints(QCP::phFastPolylines | QCP::phCacheLabels);
+  plot_->setNotAntialiasedElements(QCP::aeAll);
+  makeGraticule();
+  for (QCPGraph*& trace : traces_) trace = plot_->addGraph();
+  for (CursorItems& items : cursorItems_) {
+    items.line = new QCPItemLine(plot_);
+    items.line->setPen(QPen(cursorColour, 1, Qt::DashLine));
+    items.line->setVisible(false);
+    items.name = makeText(plot_, cursorColour, Qt::AlignLeft | Qt::AlignTop);
+  }
+  trigger_ = makeText(plot_, triggerColour, Qt::AlignRight | Qt::AlignVCenter);
+  trigger_->setText(QStringLiteral("T\u25C0"));
+  note_ = makeText(plot_, noteColour, Qt::AlignRight | Qt::AlignBottom);
+  note_->position->setType(QCPItemPosition::ptAxisRectRatio);
+  note_->position->setCoords(0.995, 0.99);
+}
+
+GraphView::~GraphView() {
+  unbind();
+}
+
+void GraphView::makeGraticule() {
+  QCPAxisRect* rect = plot_->axisRect();
+  rect->setAutoMargins(QCP::msNone);
+  rect->setMargins(QMargins(1, 1, 1, 1));
+  rect->setupFullAxesBox();
+  for (QCPAxis* axis : rect->axes()) {
+    axis->setTickLabels(false);
+    axis->setTicks(false);
+    axis->setTicker(divisionTicker());
+    axis->setBasePen(Qt::NoPen);
+  }
+  for (QCPItemLine*& line : centreLines_) line = new QCPItemLine(plot_);
+}
+
+void GraphView::bind(Graph& graph) {
+  unbind();
+  graph_ = &graph;
+  const auto dirty = [this] { markDirty(); };
+  graph.changed = dirty;
+  for (Axis& axis : graph.axes()) axis.changed = dirty;
+  for (Cursor& cursor : graph.cursors()) cursor.changed = dirty;
+  for (std::size_t i = 0; i < traces_.size(); ++i) {
+    Plot& plot = graph.plots()[i];
+    plot.changed = dirty;
+    plot.plotted = [this, i] {
+      isDataNew_[i] = true;
+      markDirty();
+    };
+    isDataNew_[i] = true;
+  }
+  markDirty();
+}
+
+void GraphView::unbind() {
+  if (graph_ == nullptr) return;
+  graph_->changed = {};
+  for (Axis& axis : graph_->axes()) axis.changed = {};
+  for (Cursor& cursor : graph_->cursors()) cursor.changed = {};
+  for (Plot& plot : graph_->plots()) {
+    plot.changed = {};
+    plot.plotted = {};
+  }
+  graph_ = nullptr;
+  grabbed_ = nullptr;
+}
+
+void GraphView::markDirty() {
+  if (isDirty_) return;
+  isDirty_ = true;
+  QTimer::singleShot(0, this, [this] { replot(); });
+}
+
+void GraphView::replot() {
+  isDirty_ = false;
+  if (graph_ == nullptr) return;
+  showAxes();
+  for (std::size_t i = 0; i < traces_.size(); ++i) {
+    showTrace(graph_->plots()[i], *traces_[i]);
+    if (std::exchange(isDataNew_[i], false)) {
+      const Plot& plot = graph_->plots()[i];
+      traces_[i]->setData(QVector<double>(plot.x().begin(), plot.x().end()),
+                          QVector<double>(plot.y().begin(), plot.y().end()), true);
+    }
+  }
+  showCursors();
+  showTriggerMarker();
+  note_->setText(toQt(graph_->note()));
+  note_->setVisible(!graph_->note().empty());
+  plot_->replot(QCustomPlot::rpImmediateRefresh);
+}
+
+void GraphView::showAxes() {
+  const Axis& x = graph_->axis("XAxis");
+  const Axis& y = graph_->axis("YAxis-1");
+  plot_->xAxis->setRange(x.minimum(), x.maximum());
+  plot_->yAxis->setRange(y.minimum(), y.maximum());
+  plot_->xAxis->grid()->setPen(QPen(toQt(x.gridColour()), 1));
+  plot_->yAxis->grid()->setPen(QPen(toQt(y.gridColour()), 1));
+  plot_->xAxis->grid()->setZeroLinePen(QPen(toQt(x.gridColour()).lighter(170), 1));
+  plot_->yAxis->grid()->setZeroLinePen(QPen(toQt(y.gridColour()).lighter(170), 1));
+  plot_->setBackground(QBrush(toQt(graph_->plotAreaColour())));
+  caption_->setText(toQt(x.caption()));
+  // Small ticks along the centre lines: a dotted line five units wide each way.
+  const QPen ticks(toQt(x.gridColour()).lighter(170), 5, Qt::CustomDashLine, Qt::FlatCap);
+  const std::array<std::array<double, 4>, 2> ends = {
+      {{x.minimum(), 0, x.maximum(), 0}, {0, y.minimum(), 0, y.maximum()}}};
+  for (std::size_t i = 0; i < centreLines_.size(); ++i) {
+    const qreal length = i == 0 ? plot_->axisRect()->width() / (x.maximum() - x.minimum())
+                                : plot_->axisRect()->height() / (y.maximum() - y.minimum());
+    QPen pen = ticks;
+    // Dash lengths count in pen widths: one pixel drawn, the rest of a fifth of a division not.
+    const qreal spacing = length * unitsPerDivision / 5;
+    pen.setDashPattern({1.0 / 5, qMax(0.2, (spacing - 1) / 5)});
+    centreLines_[i]->setPen(pen);
+    centreLines_[i]->start->setCoords(ends[i][0], ends[i][1]);
+    centreLines_[i]->end->setCoords(ends[i][2], ends[i][3]);
+  }
+}
+
+void GraphView::showTrace(Plot& plot, QCPGraph& trace) {
+  trace.setVisible(plot.visible());
+  trace.setPen(QPen(toQt(plot.lineColour()), 0));
+  trace.setScatterStyle(plot.pointStyle() == Plot::noPoints
+                            ? QCPScatterStyle(QCPScatterStyle::ssNone)
+                            : QCPScatterStyle(QCPScatterStyle::ssDisc, 4));
+}
+
+void GraphView::showCursors() {
+  const Axis& x = graph_->axis("XAxis");
+  const Axis& y = graph_->axis("YAxis-1");
+  for (std::size_t i = 0; i < cursorItems_.size(); ++i) {
+    const Cursor& cursor = graph_->cursors()[i];
+    CursorItems& items = cursorItems_[i];
+    const bool isVertical = cursor.style() == CursorStyle::verticalLine;
+    items.line->setVisible(cursor.visible());
+    items.name->setVisible(cursor.visible());
+    items.name->setText(QStringLiteral(" P%1").arg(i + 1));
+    if (isVertical) {
+      items.line->start->setCoords(cursor.xPosition(), y.minimum());
+      items.line->end->setCoords(cursor.xPosition(), y.maximum());
+      items.name->position->setCoords(cursor.xPosition(), y.maximum());
+    } else {
+      items.line->start->setCoords(x.minimum(), cursor.yPosition());
+      items.line->end->setCoords(x.maximum(), cursor.yPosition());
+      items.name->position->setCoords(x.minimum(), cursor.yPosition());
+    }
+  }
+}
+
+void GraphView::showTriggerMarker() {
+  const Cursor& marker = graph_->cursor("Triger");
+  const Axis& y = graph_->axis("YAxis-1");
+  trigger_->setVisible(marker.visible());
+  trigger_->position->setCoords(graph_->axis("XAxis").maximum(),
+                                qBound(y.minimum(), marker.yPosition(), y.maximum()));
+}
+
+QPointF GraphView::toUnits(const QPointF& position) const {
+  return {plot_->xAxis->pixelToCoord(position.x()), plot_->yAxis->pixelToCoord(position.y())};
+}
+
+Cursor* GraphView::cursorAt(const QPointF& position) {
+  if (graph_ == nullptr) return nullptr;
+  for (std::size_t i = 0; i < cursorItems_.size(); ++i) {
+    Cursor& cursor = graph_->cursors()[i];
+    const qreal distance = cursor.style() == CursorStyle::verticalLine
+                               ? position.x() - plot_->xAxis->coordToPixel(cursor.xPosition())
+                               : position.y() - plot_->yAxis->coordToPixel(cursor.yPosition());
+    if (cursor.visible() && std::fabs(distance) <= grip) {
+      activeCursor_ = i;
+      return &cursor;
+    }
+  }
+  return nullptr;
+}
+
+void GraphView::dragTo(const QPointF& position) {
+  const QPointF units = toUnits(position);
+  graph_->dragCursor(*grabbed_, std::round(units.x()), std::round(units.y()));
+}
+
+/// The plot's own mouse handling knows nothing of cursors, so they are looked for first.
+bool GraphView::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::MouseButtonPress) {
+    setFocus(Qt::MouseFocusReason);
+    grabbed_ = cursorAt(static_cast<QMouseEvent*>(event)->position());
+  } else if (event->type() == QEvent::MouseMove && grabbed_ != nullptr) {
+    dragTo(static_cast<QMouseEvent*>(event)->position());
+  } else if (event->type() == QEvent::MouseButtonRelease) {
+    grabbed_ = nullptr;
+  } else if (event->type() == QEvent::Resize) {
+    markDirty();
+  }
+  return QWidget::eventFilter(watched, event);
+}
+
+void GraphView::keyPressEvent(QKeyEvent* event) {
+  const double distance = event->modifiers() & Qt::ShiftModifier ? 10 : 1;
+  QPointF step;
+  switch (event->key()) {
+    case Qt::Key_Left:
+      step = {-distance, 0};
+      break;
+    case Qt::Key_Right:
+      step = {distance, 0};
+      break;
+    case Qt::Key_Down:
+      step = {0, -distance};
+      break;
+    case Qt::Key_Up:
+      step = {0, distance};
+      break;
+    case Qt::Key_C:
+      activeCursor_ = 1 - activeCursor_;
+      return;
+    default:
+      QWidget::keyPressEvent(event);
+      return;
+  }
+  if (graph_ == nullptr) return;
+  Cursor& cursor = graph_->cursors()[activeCursor_];
+  graph_->dragCursor(cursor, cursor.xPosition() + step.x(), cursor.yPosition() + step.y());
+}
+
+}  // namespace tracewell

@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QPointF>
+#include <QWidget>
+#include <array>
+
+class QCustomPlot;
+class QCPGraph;
+class QCPItemLine;
+class QCPItemText;
+class QLabel;
+
+namespace tracewell {
+
+class Cursor;
+class Graph;
+class Plot;
+
+/// Draws a Graph: a graticule of 10 by 8 divisions that stays the same in every theme, traces,
+/// cursors and the trigger marker, the x axis's caption below. The user drags the cursors, or moves
+/// the active one with the arrow keys (Shift: ten times as far); C makes the other one active.
+///
+/// Changes are painted once an event-loop turn, however many they are.
+class GraphView : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit GraphView(QWidget* parent = nullptr);
+  ~GraphView() override;
+
+  /// The graph stays the caller's and outlives the view, or is told to forget it by unbind.
+  void bind(Graph& graph);
+  void unbind();
+
+  QSize sizeHint() const override { return {820, 540}; }
+  QSize minimumSizeHint() const override { return {320, 240}; }
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  struct CursorItems {
+    QCPItemLine* line = nullptr;
+    QCPItemText* name = nullptr;
+  };
+
+  void markDirty();
+  void replot();
+  void showAxes();
+  void showTrace(Plot& plot, QCPGraph& trace);
+  void showCursors();
+  void showTriggerMarker();
+  void makeGraticule();
+  Cursor* cursorAt(const QPointF& position);
+  QPointF toUnits(const QPointF& position) const;
+  void dragTo(const QPointF& position);
+
+  QCustomPlot* plot_;
+  QLabel* caption_;
+  std::array<QCPGraph*, 6> traces_{};
+  std::array<bool, 6> isDataNew_{};
+  std::array<CursorItems, 2> cursorItems_;
+  std::array<QCPItemLine*, 2> centreLines_{};
+  QCPItemText* trigger_ = nullptr;
+  QCPItemText* note_ = nullptr;
+  Graph* graph_ = nullptr;
+  Cursor* grabbed_ = nullptr;
+  std::size_t activeCursor_ = 0;
+  bool isDirty_ = false;
+};
+
+}  // namespace tracewell

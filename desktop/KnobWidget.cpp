@@ -1,0 +1,177 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "KnobWidget.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QRadialGradient>
+#include <QWheelEvent>
+#include <cmath>
+#include <numbers>
+
+namespace tracewell {
+namespace {
+
+/// The gap at the bottom, where no detent is.
+constexpr qreal firstAngle = 225;
+constexpr qreal sweep = 270;
+/// More captions than this do not fit around the knob.
+constexpr int mostCaptions = 12;
+
+}  // namespace
+
+KnobWidget::KnobWidget(QWidget* parent) : QWidget(parent) {
+  setFocusPolicy(Qt::StrongFocus);
+  setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+}
+
+void KnobWidget::setDetents(const QStringList& captions) {
+  captions_ = captions;
+  update();
+}
+
+void KnobWidget::setValue(double value) {
+  value_ = qBound(0, static_cast<int>(std::lround(value)), static_cast<int>(captions_.size()) - 1);
+  update();
+}
+
+void KnobWidget::setAccent(const QColor& accent) {
+  accent_ = accent;
+  update();
+}
+
+QPointF KnobWidget::centre() const {
+  return {width() / 2.0, height() / 2.0 + radius() * 0.12};
+}
+
+qreal KnobWidget::radius() const {
+  return qMin(width() / 2.0 - 30, height() / 2.0 - 14) * 0.86;
+}
+
+qreal KnobWidget::angleOf(int detent) const {
+  const auto steps = qMax<qsizetype>(captions_.size() - 1, 1);
+  return firstAngle - sweep * detent / static_cast<qreal>(steps);
+}
+
+QPointF KnobWidget::pointAt(qreal angle, qreal distance) const {
+  const qreal radians = angle * std::numbers::pi / 180;
+  return centre() + QPointF(std::cos(radians), -std::sin(radians)) * distance;
+}
+
+int KnobWidget::nearestDetent(const QPointF& position) const {
+  const QPointF from = position - centre();
+  const qreal angle = std::atan2(-from.y(), from.x()) * 180 / std::numbers::pi;
+  int nearest = 0;
+  qreal smallest = 360;
+  for (int detent = 0; detent < captions_.size(); ++detent) {
+    const qreal distance = std::fabs(std::remainder(angle - angleOf(detent), 360));
+    if (distance < smallest) {
+      smallest = distance;
+      nearest = detent;
+    }
+  }
+  return nearest;
+}
+
+bool KnobWidget::hasCaption(int detent) const {
+  const int every = static_cast<int>(captions_.size() - 1) / mostCaptions + 1;
+  return detent == value_ || (detent % (every + (every > 1 ? 1 : 0)) == 0);
+}
+
+void KnobWidget::turnTo(int detent) {
+  emit turned(qBound(0, detent, static_cast<int>(captions_.size()) - 1));
+}
+
+void KnobWidget::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  paintDetents(painter);
+  paintCap(painter);
+}
+
+void KnobWidget::paintDetents(QPainter& painter) {
+  QFont font = painter.font();
+  font.setPointSizeF(qMax(6.5, font.pointSizeF() * 0.78));
+  painter.setFont(font);
+  for (int detent = 0; detent < captions_.size(); ++detent) {
+    const bool isChosen = detent == value_;
+    QColor colour = isChosen ? accent_ : palette().color(QPalette::WindowText);
+    if (!isChosen) colour.setAlphaF(0.6F);
+    painter.setPen(QPen(colour, isChosen ? 2 : 1));
+    painter.drawLine(pointAt(angleOf(detent), radius() + 4),
+                     pointAt(angleOf(detent), radius() + 8));
+    // Beside the chosen caption there is no room for its neighbours.
+    const bool isCrowded =
+        captions_.size() > mostCaptions && !isChosen && qAbs(detent - value_) < 2;
+    if (!hasCaption(detent) || isCrowded) continue;
+    const QPointF at = pointAt(angleOf(detent), radius() + 19);
+    painter.drawText(QRectF(at.x() - 24, at.y() - 9, 48, 18), Qt::AlignCenter, captions_[detent]);
+  }
+}
+
+void KnobWidget::paintCap(QPainter& painter) {
+  const qreal size = radius();
+  const QColor body = palette().color(QPalette::Button);
+  QRadialGradient light(centre() - QPointF(size / 3, size / 3), size * 1.4);
+  light.setColorAt(0, body.lighter(155));
+  light.setColorAt(1, body.darker(125));
+  painter.setBrush(light);
+  painter.setPen(hasFocus() ? QPen(palette().color(QPalette::Highlight), 2)
+                            : QPen(body.darker(190), 1.5));
+  painter.drawEllipse(centre(), size, size);
+  painter.setPen(QPen(accent_, qMax(2.5, size / 12), Qt::SolidLine, Qt::RoundCap));
+  painter.drawLine(pointAt(angleOf(value_), size * 0.45), pointAt(angleOf(value_), size * 0.85));
+}
+
+void KnobWidget::mousePressEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
+  // On the cap the drag only begins; outside it a click picks the caption there.
+  const QPointF from = event->position() - centre();
+  if (std::hypot(from.x(), from.y()) > radius()) turnTo(nearestDetent(event->position()));
+}
+
+void KnobWidget::mouseMoveEvent(QMouseEvent* event) {
+  if (!(event->buttons() & Qt::LeftButton)) return;
+  const QPointF from = event->position() - centre();
+  if (std::hypot(from.x(), from.y()) < radius() / 4) return;
+  const int detent = nearestDetent(event->position());
+  if (detent != value_) turnTo(detent);
+}
+
+void KnobWidget::wheelEvent(QWheelEvent* event) {
+  constexpr int notch = 120;
+  wheelTravel_ += event->angleDelta().y();
+  const int steps = wheelTravel_ / notch;
+  wheelTravel_ -= steps * notch;
+  if (steps != 0) turnTo(value_ + steps);
+  event->accept();
+}
+
+void KnobWidget::keyPressEvent(QKeyEvent* event) {
+  switch (event->key()) {
+    case Qt::Key_Up:
+    case Qt::Key_Right:
+      turnTo(value_ + 1);
+      break;
+    case Qt::Key_Down:
+    case Qt::Key_Left:
+      turnTo(value_ - 1);
+      break;
+    case Qt::Key_PageUp:
+      turnTo(value_ + 3);
+      break;
+    case Qt::Key_PageDown:
+      turnTo(value_ - 3);
+      break;
+    case Qt::Key_Home:
+      turnTo(0);
+      break;
+    case Qt::Key_End:
+      turnTo(static_cast<int>(captions_.size()) - 1);
+      break;
+    default:
+      QWidget::keyPressEvent(event);
+  }
+}
+
+}  // namespace tracewell

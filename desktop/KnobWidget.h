@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QColor>
+#include <QStringList>
+#include <QWidget>
+
+namespace tracewell {
+
+/// A rotary switch. The user turns it by dragging around it, with the wheel, the arrow, Page, Home
+/// and End keys, or by a click on the caption of a detent.
+class KnobWidget : public QWidget {
+  Q_OBJECT
+  Q_PROPERTY(QColor accent READ accent WRITE setAccent)
+
+ public:
+  explicit KnobWidget(QWidget* parent = nullptr);
+
+  void setDetents(const QStringList& captions);
+  /// Rounded to a detent; emits nothing.
+  void setValue(double value);
+  int value() const { return value_; }
+  QColor accent() const { return accent_; }
+  void setAccent(const QColor& accent);
+
+  QSize sizeHint() const override { return {168, 150}; }
+  QSize minimumSizeHint() const override { return {128, 116}; }
+
+ signals:
+  /// By the user, to a detent that need not be a new one.
+  void turned(int detent);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  QPointF centre() const;
+  qreal radius() const;
+  /// Direction of a detent from the centre, in degrees counter-clockwise from three o'clock.
+  qreal angleOf(int detent) const;
+  QPointF pointAt(qreal angle, qreal distance) const;
+  int nearestDetent(const QPointF& position) const;
+  bool hasCaption(int detent) const;
+  void turnTo(int detent);
+  void paintDetents(QPainter& painter);
+  void paintCap(QPainter& painter);
+
+  QStringList captions_{QString()};
+  QColor accent_{Qt::white};
+  int value_ = 0;
+  int wheelTravel_ = 0;
+};
+
+}  // namespace tracewell

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QColor>
+#include <QWidget>
+
+namespace tracewell {
+
+/// A round lamp.
+class LampWidget : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit LampWidget(QWidget* parent = nullptr);
+  void setColour(const QColor& colour);
+  QSize sizeHint() const override { return {24, 24}; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QColor colour_;
+};
+
+}  // namespace tracewell

@@ -1,0 +1,169 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "SlideWidget.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QWheelEvent>
+#include <cmath>
+
+namespace tracewell {
+namespace {
+
+/// Room at each end for half the pointer.
+constexpr qreal margin = 9;
+constexpr qreal pointerLength = 11;
+constexpr qreal pointerWidth = 20;
+
+}  // namespace
+
+SlideWidget::SlideWidget(QWidget* parent) : QWidget(parent) {
+  setFocusPolicy(Qt::StrongFocus);
+  setOrientation(Qt::Vertical);
+}
+
+void SlideWidget::setRange(double minimum, double maximum, double step) {
+  minimum_ = minimum;
+  maximum_ = maximum;
+  step_ = step;
+  update();
+}
+
+void SlideWidget::setValue(double value) {
+  value_ = value;
+  update();
+}
+
+void SlideWidget::setAccent(const QColor& accent) {
+  accent_ = accent;
+  update();
+}
+
+void SlideWidget::setOrientation(Qt::Orientation orientation) {
+  orientation_ = orientation;
+  if (isVertical())
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+  else
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  updateGeometry();
+}
+
+QSize SlideWidget::sizeHint() const {
+  return isVertical() ? QSize(44, 150) : QSize(150, 34);
+}
+
+QSize SlideWidget::minimumSizeHint() const {
+  return isVertical() ? QSize(44, 90) : QSize(90, 34);
+}
+
+qreal SlideWidget::positionOf(double value) const {
+  const double part = (qBound(minimum_, value, maximum_) - minimum_) / (maximum_ - minimum_);
+  if (isVertical()) return height() - margin - part * (height() - 2 * margin);
+  return margin + part * (width() - 2 * margin);
+}
+
+double SlideWidget::valueAt(const QPointF& position) const {
+  const double part = isVertical() ? (height() - margin - position.y()) / (height() - 2 * margin)
+                                   : (position.x() - margin) / (width() - 2 * margin);
+  const double exact = minimum_ + part * (maximum_ - minimum_);
+  // Whole steps only, in decimals that read as they look.
+  const double perUnit = std::round(1 / step_);
+  return std::round(exact * perUnit) / perUnit;
+}
+
+QPointF SlideWidget::pointAt(qreal along, qreal across) const {
+  return isVertical() ? QPointF(width() / 2.0 - 6 + across, along)
+                      : QPointF(along, height() / 2.0 - 4 + across);
+}
+
+void SlideWidget::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const QColor text = palette().color(QPalette::WindowText);
+  const QColor groove = palette().color(QPalette::Base);
+  painter.setPen(QPen(groove.darker(130), 6, Qt::SolidLine, Qt::RoundCap));
+  painter.drawLine(pointAt(positionOf(minimum_), 0), pointAt(positionOf(maximum_), 0));
+  for (double mark = std::ceil(minimum_); mark <= maximum_; mark += 1) {
+    QColor colour = text;
+    colour.setAlphaF(mark == 0 ? 0.95F : 0.45F);
+    painter.setPen(QPen(colour, mark == 0 ? 2 : 1));
+    const qreal end = mark == 0 ? 20 : 15;
+    painter.drawLine(pointAt(positionOf(mark), 12), pointAt(positionOf(mark), end));
+  }
+  const QPointF centre = pointAt(positionOf(value_), 0);
+  const QSizeF size =
+      isVertical() ? QSizeF(pointerWidth, pointerLength) : QSizeF(pointerLength, pointerWidth);
+  const QRectF pointer(centre.x() - size.width() / 2, centre.y() - size.height() / 2, size.width(),
+                       size.height());
+  painter.setBrush(isEnabled() ? accent_ : palette().color(QPalette::Mid));
+  painter.setPen(hasFocus() ? QPen(palette().color(QPalette::Highlight), 2)
+                            : QPen(accent_.darker(160), 1));
+  painter.drawRoundedRect(pointer, 3, 3);
+}
+
+void SlideWidget::moveTo(double value) {
+  emit dragged(qBound(minimum_, value, maximum_));
+}
+
+void SlideWidget::stepTo(double value) {
+  const double perUnit = std::round(1 / step_);
+  moveTo(std::round(value * perUnit) / perUnit);
+  emit released();
+}
+
+void SlideWidget::mousePressEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
+  isDragged_ = true;
+  moveTo(valueAt(event->position()));
+}
+
+void SlideWidget::mouseMoveEvent(QMouseEvent* event) {
+  if (isDragged_) moveTo(valueAt(event->position()));
+}
+
+void SlideWidget::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton || !isDragged_) return;
+  isDragged_ = false;
+  emit released();
+}
+
+void SlideWidget::mouseDoubleClickEvent(QMouseEvent*) {
+  stepTo(0);
+}
+
+void SlideWidget::wheelEvent(QWheelEvent* event) {
+  stepTo(value_ + (event->angleDelta().y() > 0 ? step_ : -step_));
+  event->accept();
+}
+
+void SlideWidget::keyPressEvent(QKeyEvent* event) {
+  switch (event->key()) {
+    case Qt::Key_Up:
+    case Qt::Key_Right:
+      stepTo(value_ + step_);
+      break;
+    case Qt::Key_Down:
+    case Qt::Key_Left:
+      stepTo(value_ - step_);
+      break;
+    case Qt::Key_PageUp:
+      stepTo(value_ + 1);
+      break;
+    case Qt::Key_PageDown:
+      stepTo(value_ - 1);
+      break;
+    case Qt::Key_Home:
+      stepTo(minimum_);
+      break;
+    case Qt::Key_End:
+      stepTo(maximum_);
+      break;
+    case Qt::Key_0:
+      stepTo(0);
+      break;
+    default:
+      QWidget::keyPressEvent(event);
+  }
+}
+
+}  // namespace tracewell

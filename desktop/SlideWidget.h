@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QColor>
+#include <QWidget>
+
+namespace tracewell {
+
+/// A linear slide whose zero is marked. The user drags its pointer, turns the wheel, presses the
+/// arrow, Page, Home and End keys, or returns to zero with a double click or the key 0.
+class SlideWidget : public QWidget {
+  Q_OBJECT
+  Q_PROPERTY(QColor accent READ accent WRITE setAccent)
+  Q_PROPERTY(Qt::Orientation orientation READ orientation WRITE setOrientation)
+
+ public:
+  explicit SlideWidget(QWidget* parent = nullptr);
+
+  void setRange(double minimum, double maximum, double step);
+  /// Emits nothing. Beyond the range the pointer rests at the end.
+  void setValue(double value);
+  double value() const { return value_; }
+  QColor accent() const { return accent_; }
+  void setAccent(const QColor& accent);
+  Qt::Orientation orientation() const { return orientation_; }
+  void setOrientation(Qt::Orientation orientation);
+
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
+
+ signals:
+  /// The user moves the pointer.
+  void dragged(double to);
+  /// The user lets go, or has moved it with a key or the wheel.
+  void released();
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  bool isVertical() const { return orientation_ == Qt::Vertical; }
+  /// Pixels along the slide.
+  qreal positionOf(double value) const;
+  double valueAt(const QPointF& position) const;
+  QPointF pointAt(qreal along, qreal across) const;
+  void moveTo(double value);
+  void stepTo(double value);
+
+  double minimum_ = -1;
+  double maximum_ = 1;
+  double step_ = 0.1;
+  double value_ = 0;
+  QColor accent_{Qt::white};
+  Qt::Orientation orientation_ = Qt::Vertical;
+  bool isDragged_ = false;
+};
+
+}  // namespace tracewell

@@ -1,0 +1,156 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QSignalSpy>
+#include <QTest>
+
+#include "Binder.h"
+#include "Doubles.h"
+#include "Forms.h"
+#include "GraphView.h"
+#include "KnobWidget.h"
+#include "SlideWidget.h"
+#include "Text.h"
+#include "Theme.h"
+
+namespace tracewell {
+namespace {
+
+/// Real widgets bound to the whole program on a scripted port.
+class FormsTest : public testing::Test {
+ protected:
+  FormsTest() {
+    bench.program.start();
+    form = makeForm("frmDSO", nullptr);
+    bindControls(bench.main, *form);
+    form->resize(1280, 800);
+    form->show();
+    QApplication::processEvents();
+  }
+  ~FormsTest() override { unbindControls(bench.main); }
+
+  template <class Widget = QWidget>
+  Widget* find(const char* name) {
+    return form->findChild<Widget*>(QLatin1String(name));
+  }
+  std::vector<std::string> takeWire() { return std::exchange(bench.port.wire, {}); }
+
+  Bench bench;
+  std::unique_ptr<QWidget> form;
+};
+
+using Lines = std::vector<std::string>;
+
+TEST_F(FormsTest, MainWindowFitsASmallScreenWithNothingCut) {
+  bench.main.lblConnect.caption = bench.main.Msg[9];
+  bench.main.lblTest.visible = true;
+  bench.main.lblChan1.caption = "Not Initialized";
+  QApplication::processEvents();
+  EXPECT_LE(form->minimumSizeHint().width(), 1280);
+  EXPECT_LE(form->minimumSizeHint().height(), 800);
+  EXPECT_EQ(form->size(), QSize(1280, 800));
+  for (const QWidget* widget : form->findChildren<QWidget*>()) {
+    const bool hasText = qobject_cast<const QAbstractButton*>(widget) != nullptr ||
+                         qobject_cast<const QLabel*>(widget) != nullptr;
+    const bool isOurs = !widget->objectName().startsWith(QLatin1String("qt_"));
+    if (!hasText || !isOurs || !widget->isVisible()) continue;
+    EXPECT_GE(widget->width(), widget->minimumSizeHint().width()) << fromQt(widget->objectName());
+  }
+}
+
+TEST_F(FormsTest, EveryFormHasEveryControl) {
+  for (Window* window : bench.program.otherWindows()) {
+    const auto widget = makeForm(window->name(), nullptr);
+    EXPECT_NO_THROW(bindControls(*window, *widget)) << window->name();
+    for (Control* control : window->controls())
+      EXPECT_TRUE(control->changed) << control->objectName();
+    unbindControls(*window);
+  }
+}
+
+TEST_F(FormsTest, WhatTheProgramSetsIsShown) {
+  bench.main.lblConnect.caption = "Stopped & idle";
+  bench.main.cmdStart.caption = "Run & stop";
+  bench.main.cbMath.text = "1-2";
+  bench.main.cbCh2.value.setQuietly(1);
+  bench.main.txtMsg.text = "1,2\r\n";
+  EXPECT_EQ(find<QLabel>("lblConnect")->text(), QStringLiteral("Stopped & idle"));
+  EXPECT_EQ(find<QAbstractButton>("cmdStart")->text(), QStringLiteral("Run && stop"));
+  EXPECT_TRUE(find<QAbstractButton>("cbCh2")->isChecked());
+  EXPECT_EQ(find<QPlainTextEdit>("txtMsg")->toPlainText(), QStringLiteral("1,2\n"));
+  EXPECT_TRUE(takeWire().empty());
+}
+
+TEST_F(FormsTest, KnobAnswersWheelKeysMouseAndCode) {
+  auto* knob = find<KnobWidget>("knobTime");
+  QTest::keyClick(knob, Qt::Key_Up);
+  QTest::keyClick(knob, Qt::Key_End);
+  QTest::keyClick(knob, Qt::Key_Down);
+  EXPECT_EQ(takeWire(), (Lines{":TIM:SCAL 5E-9", ":TIM:SCAL 5", ":TIM:SCAL 2"}));
+  QWheelEvent wheel(QPointF(5, 5), knob->mapToGlobal(QPointF(5, 5)), {}, {0, -240}, Qt::NoButton,
+                    Qt::NoModifier, Qt::NoScrollPhase, false);
+  QApplication::sendEvent(knob, &wheel);
+  EXPECT_EQ(takeWire(), Lines{":TIM:SCAL 5E-1"});
+  // The first caption stands at the lower left, outside the cap.
+  const QPoint first(knob->width() / 2 - knob->height() / 2 + 4, knob->height() - 6);
+  QTest::mouseClick(knob, Qt::LeftButton, {}, first);
+  EXPECT_EQ(takeWire(), Lines{":TIM:SCAL 2E-9"});
+  bench.main.knobTime.value = 17;
+  EXPECT_EQ(knob->value(), 17);
+  EXPECT_EQ(takeWire().size(), 1u);
+}
+
+TEST_F(FormsTest, SlideReportsDragAndReleaseOfTheUserOnly) {
+  auto* slide = find<SlideWidget>("slideCH1");
+  QSignalSpy dragged(slide, &SlideWidget::dragged);
+  QSignalSpy released(slide, &SlideWidget::released);
+  bench.main.slideCH1.value = 1.5;
+  EXPECT_EQ(slide->value(), 1.5);
+  EXPECT_EQ(dragged.count(), 0);
+  QTest::keyClick(slide, Qt::Key_Up);
+  EXPECT_NEAR(bench.main.slideCH1.value(), 1.6, 1e-9);
+  QTest::mouseClick(slide, Qt::LeftButton, {}, {slide->width() / 2, 0});
+  EXPECT_EQ(bench.main.slideCH1.value(), 4);
+  EXPECT_EQ(released.count(), 2);
+  EXPECT_EQ(find<QLabel>("slideCH1_caption")->text(), toQt(bench.main.slideCH1.caption()));
+}
+
+TEST_F(FormsTest, CursorsFollowTheMouseAndTheArrowKeys) {
+  bench.main.knobTime.turn(18);
+  bench.main.opTime.select();
+  auto* view = find<GraphView>("graphDSO");
+  QWidget* plot = view->findChild<QWidget*>();
+  QApplication::processEvents();
+  Cursor& cur1 = bench.main.graphDSO.cursor("cur1");
+  const QPoint centre = plot->rect().center();
+  QTest::mousePress(plot, Qt::LeftButton, {}, centre);
+  QTest::mouseMove(plot, centre + QPoint(plot->width() / 10, 0));
+  QTest::mouseRelease(plot, Qt::LeftButton, {}, centre + QPoint(plot->width() / 10, 0));
+  EXPECT_NEAR(cur1.xPosition(), 50, 2);
+  const double before = cur1.xPosition();
+  QTest::keyClick(view, Qt::Key_Left, Qt::ShiftModifier);
+  EXPECT_EQ(cur1.xPosition(), before - 10);
+  EXPECT_TRUE(bench.main.graphDSO.axis("XAxis").caption().starts_with("P1 = "));
+}
+
+TEST_F(FormsTest, CommandLineSendsWithEnterAndByButton) {
+  bench.port.answer("*IDN?", {"KRM-410\n"});
+  QTest::keyClicks(find("txtTest"), QStringLiteral("*IDN?"));
+  QTest::keyClick(find("txtTest"), Qt::Key_Return);
+  QTest::mouseClick(find("cmdTest"), Qt::LeftButton);
+  EXPECT_EQ(takeWire(), (Lines{"*IDN?", "*IDN?"}));
+  EXPECT_EQ(find<QPlainTextEdit>("txtMsg")->toPlainText(), QStringLiteral("KRM-410"));
+}
+
+TEST_F(FormsTest, DoubleClickOnTheCommandTitleOpensTheLog) {
+  QTest::mouseDClick(find("lblDSOCmd"), Qt::LeftButton);
+  EXPECT_EQ(bench.windows.shown, Lines{"frmErrLog"});
+}
+
+}  // namespace
+}  // namespace tracewell

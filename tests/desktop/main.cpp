@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <gtest/gtest.h>
+
+#include <QApplication>
+
+#include "Theme.h"
+
+int main(int argumentCount, char** arguments) {
+  QApplication application(argumentCount, arguments);
+  tracewell::applyTheme(application);
+  testing::InitGoogleTest(&argumentCount, arguments);
+  return RUN_ALL_TESTS();
+}
