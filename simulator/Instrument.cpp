@@ -71,6 +71,7 @@ bool Instrument::setFault(const std::string& line) {
 
 void Instrument::obey(std::string line, double at) {
   if (line.starts_with(':')) line.erase(0, 1);
+  if (line.empty()) return;
   const auto [name, value] = split(line);
   if (name.starts_with("SIM:")) {
     if (!setFault(line.substr(4))) ++errorCount_;

@@ -33,7 +33,8 @@ class Levels {
   double base = 0;
 
   double middle() const { return (lowest + highest) / 2; }
-  bool isFlat() const { return highest - lowest < 12; }
+  /// Too little above the noise to have edges.
+  bool isFlat() const { return highest - lowest < 0.5 * Screen::unitsPerDivision; }
 
  private:
   template <class Side>

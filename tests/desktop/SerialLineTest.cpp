@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QProcess>
+#include <QTest>
+
+#include "AbandonedRecords.h"
+#include "DesktopClock.h"
+#include "Doubles.h"
+#include "QtSerialChannel.h"
+#include "Text.h"
+
+namespace tracewell {
+namespace {
+
+/// krm410-sim, and the serial library on its pseudo-terminal.
+class SerialLineTest : public testing::Test, public ChannelOpener {
+ protected:
+  std::unique_ptr<ByteChannel> open(const LineSettings& settings) override {
+    return std::make_unique<QtSerialChannel>(device, settings);
+  }
+
+  void startInstrument(const QStringList& options) {
+    instrument.start(QStringLiteral(TRACEWELL_SIMULATOR), options);
+    ASSERT_TRUE(instrument.waitForReadyRead(5000));
+    device = QString::fromUtf8(instrument.readLine()).trimmed();
+  }
+  void stopInstrument() {
+    instrument.terminate();
+    instrument.waitForFinished();
+  }
+  ~SerialLineTest() override { stopInstrument(); }
+
+  QProcess instrument;
+  QString device;
+  DesktopClock clock;
+  RecordingDialogs dialogs;
+  EventDispatcher dispatcher{dialogs};
+  LinePort port{*this, clock, dispatcher};
+};
+
+TEST_F(SerialLineTest, AbandonedRecordsLeaveNothingBehind) {
+  AbandonedRecords records(port, [](int milliseconds) { QTest::qWait(milliseconds); });
+  for (const int baudRate : {2400, 9600, 19200}) {
+    startInstrument({QStringLiteral("--baud"), QString::number(baudRate)});
+    records.tryAt(baudRate);
+    stopInstrument();
+  }
+}
+
+TEST_F(SerialLineTest, UnpluggedLineIsClosedOnceAndOpensAgain) {
+  startInstrument({});
+  port.prepare();
+  port.write("*IDN?\r\n");
+  EXPECT_EQ(port.read(), "KRM-410 SIMULATED\n");
+  port.textMode = false;
+  port.prepare();
+  port.write(":ACQ1:POIN\r\n");
+  port.beginRead(1014);
+  QTest::qWait(200);
+  stopInstrument();
+  QTest::qWait(200);
+  EXPECT_FALSE(port.isOpen());
+  EXPECT_THROW(port.prepare(), Error);
+  startInstrument({});
+  port.textMode = true;
+  port.prepare();
+  port.write("*IDN?\r\n");
+  EXPECT_EQ(port.read(), "KRM-410 SIMULATED\n");
+}
+
+TEST_F(SerialLineTest, SecondOpenerIsRefusedWithAReason) {
+  startInstrument({});
+  port.prepare();
+  try {
+    open({});
+    ADD_FAILURE() << "opened twice";
+  } catch (const Error& error) {
+    EXPECT_EQ(error.number(), deviceError);
+    EXPECT_NE(error.description().find(fromQt(device)), std::string::npos);
+    EXPECT_GT(error.description().size(), static_cast<std::size_t>(device.size()) + 2);
+  }
+}
+
+}  // namespace
+}  // namespace tracewell

@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "SimulatedChannel.h"
+
+#include <gtest/gtest.h>
+
+#include "AbandonedRecords.h"
+#include "Doubles.h"
+
+namespace tracewell {
+namespace {
+
+class InProcessOpener : public ChannelOpener {
+ public:
+  explicit InProcessOpener(Clock& clock) : clock_(clock) {}
+  std::unique_ptr<ByteChannel> open(const LineSettings& settings) override {
+    return std::make_unique<SimulatedChannel>(instrument, clock_, settings);
+  }
+  Instrument instrument;
+
+ private:
+  Clock& clock_;
+};
+
+class SimulatedChannelTest : public testing::Test {
+ protected:
+  VirtualClock clock;
+  RecordingDialogs dialogs;
+  EventDispatcher dispatcher{dialogs};
+  InProcessOpener opener{clock};
+  LinePort port{opener, clock, dispatcher};
+};
+
+TEST_F(SimulatedChannelTest, AbandonedRecordsLeaveNothingBehind) {
+  AbandonedRecords records(port, [this](int milliseconds) { clock.run(milliseconds); });
+  for (const int baudRate : {2400, 9600, 19200}) records.tryAt(baudRate);
+}
+
+TEST_F(SimulatedChannelTest, ReadWaitsAsLongAsItIsTold) {
+  const auto channel = opener.open({});
+  EXPECT_EQ(channel->read(300), "");
+  EXPECT_EQ(clock.milliseconds(), 300);
+  channel->write("*IDN?\r\n");
+  std::string reply;
+  while (!reply.ends_with('\n')) {
+    const std::string bytes = channel->read(300);
+    ASSERT_FALSE(bytes.empty());
+    reply += bytes;
+  }
+  // 7 bytes there and 18 back at half a millisecond each, and a moment of thought.
+  EXPECT_NEAR(static_cast<double>(clock.milliseconds()), 300 + 25 * 0.52 + 4, 2);
+}
+
+/// The whole program with the instrument that it carries: a minute of both traces.
+TEST(BuiltInInstrument, BothTracesRunAndThePlugMayBePulled) {
+  ProgramFolderCopy folder;
+  VirtualClock clock;
+  RecordingDialogs dialogs;
+  EventDispatcher dispatcher(dialogs);
+  InProcessOpener opener(clock);
+  LinePort port(opener, clock, dispatcher);
+  ScriptedPort list;
+  ScriptedWindows windows;
+  Services services{clock, dialogs, dispatcher, port, list, windows, folder.path()};
+  Tracewell program(services);
+  frmDSO& main = program.main;
+  program.start();
+  main.ChanOn[1] = true;
+  main.cmdStart.press();
+  EXPECT_EQ(main.lblChan1.caption(), "500.0 mV");
+  EXPECT_EQ(main.lblChan2.caption(), "1.000 V");
+  EXPECT_EQ(main.slideCH1.value(), 1);
+  EXPECT_EQ(main.Ch2Pos, -2);
+  clock.run(60000);
+  EXPECT_GE(main.WaveCount, 49);
+  for (const int number : {1, 2}) EXPECT_EQ(main.graphDSO.plot(number).y().size(), 500u);
+  EXPECT_EQ(main.graphDSO.note(), "SIMULATED");
+
+  opener.instrument.setFault("HANGUP 200");
+  clock.run(5000);
+  // The cable of the built-in instrument is in again as soon as the port is opened again.
+  EXPECT_TRUE(main.tmDSO.enabled());
+  EXPECT_TRUE(program.errLog.txtErrLog.text().empty());
+  const auto count = main.WaveCount;
+  clock.run(5000);
+  EXPECT_GT(main.WaveCount, count);
+}
+
+}  // namespace
+}  // namespace tracewell
