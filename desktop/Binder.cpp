@@ -87,8 +87,10 @@ void bind(Frame& control, QWidget& form) {
 /// A button that nothing answers yet is out of reach rather than dead.
 void bind(Button& control, QWidget& form) {
   auto* button = findObject<QPushButton>(control, form);
-  showWith(control, button, [&control, button] {
+  // A new text would take the form's shortcut away.
+  showWith(control, button, [&control, button, shortcut = button->shortcut()] {
     button->setText(plainCaption(control.caption()));
+    button->setShortcut(shortcut);
     button->setEnabled(control.enabled() && control.click);
   });
   QObject::connect(button, &QPushButton::clicked, button, [&control] { control.press(); });

@@ -13,7 +13,6 @@
 int main(int argumentCount, char** arguments) {
   QApplication application(argumentCount, arguments);
   QApplication::setApplicationName(QStringLiteral("tracewell"));
-  QApplication::setApplicationDisplayName(QStringLiteral("Tracewell"));
   // The main window itself says when the program ends.
   QApplication::setQuitOnLastWindowClosed(false);
   tracewell::applyTheme(application);
