@@ -4,13 +4,8 @@
 #include <QApplication>
 #include <cmath>
 
-#include "DesktopClock.h"
-#include "DesktopDialogs.h"
-#include "DesktopWindows.h"
+#include "DesktopProgram.h"
 #include "GraphView.h"
-#include "LinePort.h"
-#include "PortDirectory.h"
-#include "frmDSO.h"
 
 namespace tracewell {
 namespace {
@@ -43,14 +38,8 @@ class GraphBench {
   GraphView view{nullptr};
 
  private:
-  DesktopClock clock;
-  DesktopDialogs dialogs;
-  EventDispatcher dispatcher{dialogs};
-  PortDirectory ports{".", clock};
-  LinePort port{ports, clock, dispatcher};
-  DesktopWindows windows;
-  Services services{clock, dialogs, dispatcher, port, ports, windows, "."};
-  Window window{"frmBench", "", services};
+  DesktopProgram program{"."};
+  Window window{"frmBench", "", program.services};
   Graph graph{window, "graphDSO"};
   std::array<std::int16_t, SharedState::sampleCount> x{};
   std::array<std::int16_t, SharedState::sampleCount> y{};

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "DesktopProgram.h"
+
+namespace tracewell {
+
+DesktopProgram::DesktopProgram(const std::filesystem::path& programFolder)
+    : ports(programFolder, clock), services{clock, dialogs, dispatcher,   port,
+                                            ports, windows, programFolder} {}
+
+bool DesktopProgram::start() {
+  try {
+    program.start();
+    program.main.show();
+    return true;
+  } catch (const Error& error) {
+    dialogs.showRunTimeError(error);
+    return false;
+  }
+}
+
+}  // namespace tracewell

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <filesystem>
+
+#include "DesktopClock.h"
+#include "DesktopDialogs.h"
+#include "DesktopWindows.h"
+#include "LinePort.h"
+#include "PortDirectory.h"
+#include "Tracewell.h"
+
+namespace tracewell {
+
+/// The program with everything that it asks of the outside, on this desktop. Needs a QApplication.
+struct DesktopProgram {
+  explicit DesktopProgram(const std::filesystem::path& programFolder);
+
+  /// Loads and shows the main window. False, after saying why, when the program cannot start.
+  bool start();
+
+  DesktopClock clock;
+  DesktopDialogs dialogs;
+  EventDispatcher dispatcher{dialogs};
+  PortDirectory ports;
+  LinePort port{ports, clock, dispatcher};
+  DesktopWindows windows;
+  Services services;
+  Tracewell program{services};
+};
+
+}  // namespace tracewell
