@@ -28,6 +28,25 @@ void Tracewell::connectPanel() {
   main.knobChan1.valueChanged = [this] { scaleKnobs.knobChan1_ValueChanged(); };
   main.knobChan2.valueChanged = [this] { scaleKnobs.knobChan2_ValueChanged(); };
   main.knobTime.valueChanged = [this] { scaleKnobs.knobTime_ValueChanged(); };
+  main.cbCh1.click = [this] { channels.cbCh1_Click(); };
+  main.cbCh2.click = [this] { channels.cbCh2_Click(); };
+  main.slideCH1.pointerValueChanged = [this] { channels.slideCH1_PointerValueChanged(); };
+  main.slideCH2.pointerValueChanged = [this] { channels.slideCH2_PointerValueChanged(); };
+  main.slideCH1.pointerValueCommitted = [this] { channels.slideCH1_PointerValueCommitted(); };
+  main.slideCH2.pointerValueCommitted = [this] { channels.slideCH2_PointerValueCommitted(); };
+  main.cmdCh1.click = [this] { channels.cmdCh1_Click(); };
+  main.mnbCh1.click = [this] { channels.cmdCh1_Click(); };
+  main.cmdCh2.click = [this] { channels.cmdCh2_Click(); };
+  main.mnbCh2.click = [this] { channels.cmdCh2_Click(); };
+  main.cmdChannel1.click = [this] { channels.cmdChannel1_Click(); };
+  main.cmdChannel2.click = [this] { channels.cmdChannel2_Click(); };
+  main.slideTime.pointerValueChanged = [this] { timeControls.slideTime_PointerValueChanged(); };
+  main.slideTime.pointerValueCommitted = [this] { timeControls.slideTime_PointerValueCommitted(); };
+  main.slideTrig.pointerValueChanged = [this] { timeControls.slideTrig_PointerValueChanged(); };
+  main.slideTrig.mouseUp = [this] { timeControls.slideTrig_MouseUp(); };
+  main.cmdTime.click = [this] { timeScale.cmdTime_Click(); };
+  main.cmdTrig.click = [this] { trigger.cmdTrig_Click(); };
+  main.mnbTrig.click = [this] { trigger.cmdTrig_Click(); };
 }
 
 void Tracewell::connectView() {
@@ -37,6 +56,9 @@ void Tracewell::connectView() {
   main.cbCurChan.click = [this] { cursors.cbCurChan_Click(); };
   main.cmdCursor.click = [this] { cursors.cmdCursor_Click(); };
   main.graphDSO.cursorMoved = [this] { cursors.graphDSO_CursorMoved(); };
+  main.graphDSO.enlargeToggled = [this] { graphSize.ToggleGraphSize(); };
+  main.cmdGraph.click = [this] { graphStyle.cmdGraph_Click(); };
+  main.mnbGraph.click = [this] { graphStyle.cmdGraph_Click(); };
 }
 
 void Tracewell::connectFiles() {

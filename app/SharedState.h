@@ -58,6 +58,9 @@ struct SharedState {
   double Cur1Pos = 0;
   double Cur2Pos = 0;
 
+  /// The graph has the window to itself.
+  bool GraphEnlarged = false;
+
   /// The setup table.
   SetupTable gridMeasure;
 

@@ -15,6 +15,16 @@ Tracewell::Tracewell(Services& services)
       instrument(main, exchange, errorLog),
       connect(main, exchange, instrument),
       acquisition(main, exchange, errorLog),
+      burst(main, exchange),
+      channelDialog(main),
+      channelScale(main),
+      channels(main, exchange, errorLog, instrument, acquisition, burst, channelDialog,
+               channelScale),
+      timeControls(main, exchange, errorLog, acquisition),
+      timeScale(main),
+      trigger(main, exchange, acquisition, burst),
+      graphStyle(main),
+      graphSize(main),
       setupFiles(main),
       captions(main, captionedWindows()),
       lifecycle(main, setupFiles, captions, exchange, otherWindows()) {
@@ -24,6 +34,12 @@ Tracewell::Tracewell(Services& services)
   connectView();
   connectFiles();
   connectSupport();
+}
+
+std::vector<Window*> Tracewell::otherWindows() {
+  std::vector<Window*> windows = captionedWindows();
+  windows.push_back(&errLog);
+  return windows;
 }
 
 }  // namespace tracewell

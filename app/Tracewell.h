@@ -2,11 +2,17 @@
 #pragma once
 
 #include "Acquisition.h"
+#include "ChannelControls.h"
 #include "CommandLine.h"
 #include "Connect.h"
+#include "GraphSize.h"
 #include "Lifecycle.h"
 #include "ScaleKnobs.h"
+#include "TimeControls.h"
+#include "frmGraph.h"
 #include "frmRS232.h"
+#include "frmTimeDiv.h"
+#include "frmTrig.h"
 
 namespace tracewell {
 
@@ -31,12 +37,23 @@ class Tracewell {
   InstrumentState instrument;
   Connect connect;
   Acquisition acquisition;
+  SettingsBurst burst;
+  frmChannel channelDialog;
+  frmChDiv channelScale;
+  ChannelControls channels;
+  TimeControls timeControls;
+  frmTimeDiv timeScale;
+  frmTrig trigger;
+  frmGraph graphStyle;
+  GraphSize graphSize;
   SetupFiles setupFiles;
 
   /// The windows that get captions after the main window, in this order.
-  std::vector<Window*> captionedWindows() { return {&rs232}; }
+  std::vector<Window*> captionedWindows() {
+    return {&channelDialog, &channelScale, &graphStyle, &rs232, &timeScale, &trigger};
+  }
   /// All windows but the main one.
-  std::vector<Window*> otherWindows() { return {&rs232, &errLog}; }
+  std::vector<Window*> otherWindows();
 
   Captions captions;
   Lifecycle lifecycle;

@@ -7,9 +7,11 @@
 #include <QComboBox>
 #include <QEvent>
 #include <QGroupBox>
+#include <QIcon>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPixmap>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -21,6 +23,7 @@
 #include "GraphView.h"
 #include "KnobWidget.h"
 #include "LampWidget.h"
+#include "LineWidget.h"
 #include "SlideWidget.h"
 #include "Text.h"
 
@@ -84,6 +87,12 @@ void bind(Frame& control, QWidget& form) {
   showWith(control, box, [&control, box] { box->setTitle(plainCaption(control.caption())); });
 }
 
+QIcon swatch(const QColor& colour) {
+  QPixmap picture(32, 16);
+  picture.fill(colour);
+  return picture;
+}
+
 /// A button that nothing answers yet is out of reach rather than dead.
 void bind(Button& control, QWidget& form) {
   auto* button = findObject<QPushButton>(control, form);
@@ -92,6 +101,7 @@ void bind(Button& control, QWidget& form) {
     button->setText(plainCaption(control.caption()));
     button->setShortcut(shortcut);
     button->setEnabled(control.enabled() && control.click);
+    if (const auto colour = control.backColour()) button->setIcon(swatch(toQt(*colour)));
   });
   QObject::connect(button, &QPushButton::clicked, button, [&control] { control.press(); });
 }
@@ -188,9 +198,13 @@ void bind(TextBox& control, QWidget& form) {
 
 void bind(Lamp& control, QWidget& form) {
   auto* lamp = findObject<LampWidget>(control, form);
-  showWith(control, lamp, [&control, lamp] {
-    const Colour colour = control.fillColour();
-    lamp->setColour(QColor(colour.red, colour.green, colour.blue));
+  showWith(control, lamp, [&control, lamp] { lamp->setColour(toQt(control.fillColour())); });
+}
+
+void bind(Line& control, QWidget& form) {
+  auto* line = findObject<LineWidget>(control, form);
+  showWith(control, line, [&control, line] {
+    line->setLine(toQt(control.borderColour()), control.borderStyle() == Line::dotted);
   });
 }
 
@@ -235,7 +249,7 @@ bool bindAsOneOf(Control& control, QWidget& form) {
 void bindControls(Window& window, QWidget& form) {
   for (Control* control : window.controls())
     bindAsOneOf<Label, ValueLabel, Frame, Button, Switch, MenuEntry, CheckBox, OptionButton,
-                ComboBox, TextBox, Lamp, Knob, Slide, Graph>(*control, form);
+                ComboBox, TextBox, Line, Lamp, Knob, Slide, Graph>(*control, form);
 }
 
 void unbindControls(Window& window) {

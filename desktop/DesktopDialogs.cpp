@@ -2,6 +2,7 @@
 #include "DesktopDialogs.h"
 
 #include <QApplication>
+#include <QColorDialog>
 #include <QFileDialog>
 #include <QMessageBox>
 
@@ -58,6 +59,11 @@ void DesktopDialogs::showRunTimeError(const Error& error) {
 
 std::filesystem::path DesktopDialogs::openFile(const FileDialog& dialog) {
   return ask(dialog, QFileDialog::AcceptOpen);
+}
+
+Colour DesktopDialogs::pickColour(Colour initial) {
+  const QColor picked = QColorDialog::getColor(toQt(initial), windowInUse());
+  return picked.isValid() ? fromQt(picked) : initial;
 }
 
 std::filesystem::path DesktopDialogs::saveFile(const FileDialog& dialog) {

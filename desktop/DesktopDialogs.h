@@ -12,6 +12,7 @@ class DesktopDialogs : public Dialogs {
   void showMessage(const std::string& text) override;
   void showRunTimeError(const Error& error) override;
   std::filesystem::path openFile(const FileDialog& dialog) override;
+  Colour pickColour(Colour initial) override;
   std::filesystem::path saveFile(const FileDialog& dialog) override;
 };
 

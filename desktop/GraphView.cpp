@@ -25,10 +25,6 @@ const QColor cursorColour(255, 138, 128);
 const QColor triggerColour(129, 212, 132);
 const QColor noteColour(255, 171, 64);
 
-QColor toQt(const Colour& colour) {
-  return {colour.red, colour.green, colour.blue};
-}
-
 /// Ticks at whole divisions, five small ones between; no numbers.
 QSharedPointer<QCPAxisTicker> divisionTicker() {
   auto ticker = QSharedPointer<QCPAxisTickerFixed>::create();
@@ -251,6 +247,8 @@ bool GraphView::eventFilter(QObject* watched, QEvent* event) {
     dragTo(static_cast<QMouseEvent*>(event)->position());
   } else if (event->type() == QEvent::MouseButtonRelease) {
     grabbed_ = nullptr;
+  } else if (event->type() == QEvent::MouseButtonDblClick && graph_ != nullptr) {
+    graph_->toggleEnlarged();
   } else if (event->type() == QEvent::Resize) {
     markDirty();
   }
@@ -258,6 +256,7 @@ bool GraphView::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void GraphView::keyPressEvent(QKeyEvent* event) {
+  if (graph_ == nullptr) return;
   const double distance = event->modifiers() & Qt::ShiftModifier ? 10 : 1;
   QPointF step;
   switch (event->key()) {
@@ -273,6 +272,9 @@ void GraphView::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_Up:
       step = {0, distance};
       break;
+    case Qt::Key_E:
+      graph_->toggleEnlarged();
+      return;
     case Qt::Key_C:
       activeCursor_ = 1 - activeCursor_;
       return;
@@ -280,7 +282,6 @@ void GraphView::keyPressEvent(QKeyEvent* event) {
       QWidget::keyPressEvent(event);
       return;
   }
-  if (graph_ == nullptr) return;
   Cursor& cursor = graph_->cursors()[activeCursor_];
   graph_->dragCursor(cursor, cursor.xPosition() + step.x(), cursor.yPosition() + step.y());
 }

@@ -19,7 +19,8 @@ class Plot;
 
 /// Draws a Graph: a graticule of 10 by 8 divisions that stays the same in every theme, traces,
 /// cursors and the trigger marker, the x axis's caption below. The user drags the cursors, or moves
-/// the active one with the arrow keys (Shift: ten times as far); C makes the other one active.
+/// the active one with the arrow keys (Shift: ten times as far); C makes the other one active. A
+/// double click or E enlarges the view and restores it.
 ///
 /// Changes are painted once an event-loop turn, however many they are.
 class GraphView : public QWidget {

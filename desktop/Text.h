@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QColor>
 #include <QString>
 #include <filesystem>
 #include <string>
 
-/// The program's texts are UTF-8 bytes; Qt's are QString.
+#include "Colour.h"
+
+/// The program's texts are UTF-8 bytes; Qt's are QString, and likewise for colours.
 namespace tracewell {
 
 inline QString toQt(const std::string& text) {
@@ -24,6 +27,15 @@ inline QString toQt(const std::filesystem::path& path) {
 inline std::filesystem::path toPath(const QString& text) {
   const QByteArray bytes = text.toUtf8();
   return std::u8string(bytes.begin(), bytes.end());
+}
+
+inline QColor toQt(const Colour& colour) {
+  return {colour.red, colour.green, colour.blue};
+}
+
+inline Colour fromQt(const QColor& colour) {
+  return {static_cast<std::uint8_t>(colour.red()), static_cast<std::uint8_t>(colour.green()),
+          static_cast<std::uint8_t>(colour.blue())};
 }
 
 /// A caption for a widget that would take "&" for a keyboard mark.

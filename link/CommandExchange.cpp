@@ -44,7 +44,7 @@ std::string CommandExchange::exchange(const std::string& command) {
   port.textMode = true;
   port.prepare();
   port.write(command + "\r\n");
-  const std::string reply = isQuery(command) ? replyValue(port.read()) : "";
+  std::string reply = isQuery(command) ? replyValue(port.read()) : "";
   port.reset();
   main_.InRemote = true;
   main_.LinkOK = true;

@@ -3,6 +3,7 @@
 
 #include "ConnectionIndicator.h"
 #include "Waiting.h"
+#include "WaitingNotice.h"
 
 namespace tracewell {
 
@@ -15,10 +16,10 @@ void Connect::cmdStart_Click() {
 }
 
 bool Connect::connectFirst() {
-  main_.lblTest.visible = true;
-  main_.lblTest.refresh();
-  instrument_.InitDSO();
-  main_.lblTest.visible = false;
+  {
+    const WaitingNotice notice(main_);
+    instrument_.InitDSO();
+  }
   if (!main_.LinkOK) {
     showConnectFailed(main_);
     return false;

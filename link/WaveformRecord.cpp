@@ -4,6 +4,9 @@
 #include <charconv>
 #include <limits>
 
+#include "Error.h"
+#include "Numbers.h"
+
 namespace tracewell {
 namespace {
 
@@ -33,6 +36,16 @@ Samples decodeSamples(std::string_view record, std::int16_t offset) {
       if (isValid && fits(sample + offset)) previous = static_cast<std::int16_t>(sample + offset);
     }
     samples[i] = previous;
+  }
+  return samples;
+}
+
+Samples shiftSamples(std::string_view record, std::int16_t shift) {
+  if (record.size() < WaveformRecord::byteCount) throw subscriptError();
+  Samples samples;
+  for (std::size_t i = 0; i < samples.size(); ++i) {
+    const int sample = sampleAt(record, WaveformRecord::headerBytes + 2 * i);
+    samples[i] = addInt16(static_cast<std::int16_t>(sample), shift);
   }
   return samples;
 }

@@ -23,6 +23,10 @@ using Samples = std::array<std::int16_t, SharedState::sampleCount>;
 /// 16 bits after the shift takes the value of the sample before it (the first one then 0).
 Samples decodeSamples(std::string_view record, std::int16_t offset);
 
+/// The same for redrawing a record that is held, where 0x8000 is a value like any other. Raises
+/// "Subscript out of range" for a record that is cut, "Overflow" for a sample that does not fit.
+Samples shiftSamples(std::string_view record, std::int16_t shift);
+
 /// "1,12,13,...\r\n": the channel's number and every value, as the message box shows a record.
 std::string recordText(std::int16_t channel, const Samples& samples);
 

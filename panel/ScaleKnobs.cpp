@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ScaleKnobs.h"
 
+#include "TriggerMarker.h"
+
 namespace tracewell {
 
 void ScaleKnobs::knobChan1_ValueChanged() {
@@ -18,6 +20,7 @@ void ScaleKnobs::knobTime_ValueChanged() {
 void ScaleKnobs::sendScale(ScaleKnob kind, const Knob& knob, ValueLabel& label) {
   exchange_.SendDSOCmd(ScaleCommandForKnob(kind, knob.value()));
   label.caption = scaleCaptionForKnob(kind, knob.value());
+  UpdateTriggerMarker(main_);
   cursors_.graphDSO_CursorMoved();
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -39,6 +40,8 @@ class Frame : public CaptionedControl {
 class Button : public CaptionedControl {
  public:
   using CaptionedControl::CaptionedControl;
+  /// Shown as a swatch; none for an ordinary button.
+  Property<std::optional<Colour>> backColour{*this};
   Event<> click;
   void press();
 };
@@ -123,6 +126,16 @@ class TextBox : public Control {
   void type(const std::string& typed);
   /// `code` is 13 for Enter; no other key is reported.
   void pressKey(int code);
+};
+
+/// A short line that shows how a trace will look.
+class Line : public Control {
+ public:
+  static constexpr int solid = 1;
+  static constexpr int dotted = 3;
+  using Control::Control;
+  Property<Colour> borderColour{*this};
+  Property<int> borderStyle{*this, solid};
 };
 
 /// A filled shape that shows a state by its colour.

@@ -61,7 +61,12 @@ Cursor& Graph::cursor(std::string_view cursorName) {
   return named(cursors_, cursorName);
 }
 
+void Graph::toggleEnlarged() {
+  userDoes([this] { enlargeToggled.raise(); });
+}
+
 void Graph::dragCursor(Cursor& cursor, double x, double y) {
+  if (!cursor.visible()) return;
   userDoes([this, &cursor, x, y] {
     cursor.xPosition = std::clamp(x, axis("XAxis").minimum(), axis("XAxis").maximum());
     cursor.yPosition = std::clamp(y, axis("YAxis-1").minimum(), axis("YAxis-1").maximum());

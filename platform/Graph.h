@@ -96,6 +96,9 @@ class Graph : public Control {
 
   /// Raised when the user has moved cur1 or cur2.
   Event<> cursorMoved;
+  /// Raised by the view's own gesture for a larger or the normal view: a double click, or a key.
+  Event<> enlargeToggled;
+  void toggleEnlarged();
   /// The user drags a cursor to a point in graph units.
   void dragCursor(Cursor& cursor, double x, double y);
 

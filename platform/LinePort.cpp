@@ -66,7 +66,7 @@ std::string LinePort::replyLine(std::string received) const {
 
 void LinePort::beginRead(int count) {
   std::optional<Record>& record = held_ ? held_ : current_;
-  if (!record) record.emplace();
+  if (!record) record = Record{};
   // A held request that has been told its count stays as it is: it is the older one.
   if (record->count != 0) return;
   record->count = static_cast<std::size_t>(count);
@@ -176,11 +176,11 @@ void LinePort::arrived() {
     return;  // Closed now. Whoever uses the port next opens it again or is told the reason.
   }
   swallowOwed(bytes);
-  collect(std::move(bytes));
+  collect(bytes);
   if (held_ && held_->count != 0 && !isLineBusy()) request(*std::exchange(held_, std::nullopt));
 }
 
-void LinePort::collect(std::string bytes) {
+void LinePort::collect(const std::string& bytes) {
   if (bytes.empty() || !current_) return;
   quietAt_ = clock_.milliseconds() + quietGap;
   current_->received += bytes;

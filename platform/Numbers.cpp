@@ -156,9 +156,9 @@ std::string formatExponent(double value) {
   constexpr int decimals = 11;
   NumberBuffer buffer;
   const char* const start = buffer.data();
-  const char* const end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), checked(value),
-                                  std::chars_format::scientific, decimals)
-                        .ptr;
+  const char* const end = std::to_chars(buffer.data(), buffer.data() + buffer.size(),
+                                        checked(value), std::chars_format::scientific, decimals)
+                              .ptr;
   const std::string text(start, end);
   const std::size_t e = text.find('e');
   int exponent = 0;
@@ -189,9 +189,9 @@ std::string formatTwoDecimals(double value) {
 std::string numberText(double value) {
   NumberBuffer buffer;
   const char* const start = buffer.data();
-  const char* const end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), checked(value),
-                                  std::chars_format::fixed)
-                        .ptr;
+  const char* const end = std::to_chars(buffer.data(), buffer.data() + buffer.size(),
+                                        checked(value), std::chars_format::fixed)
+                              .ptr;
   std::string text(start, end);
   return text == "-0" ? "0" : text;
 }

@@ -66,7 +66,8 @@ class PortList {
   /// The ports that are there now, by rising number.
   virtual std::vector<Entry> ports() = 0;
 
-  /// The device that a number means, whether it is there now or not; empty for a number without one.
+  /// The device that a number means, whether it is there now or not; empty for a number without
+  /// one.
   virtual std::string deviceOf(std::int16_t number) = 0;
 };
 

@@ -109,7 +109,7 @@ void Instrument::answerQuery(const std::string& name, double at) {
 std::optional<std::string> Instrument::replyTo(const std::string& name) {
   if (name == "*IDN") return "KRM-410 SIMULATED";
   if (name == "SYST:ERR") return std::to_string(std::exchange(errorCount_, 0));
-  if (const auto setting = settings_.reply(name)) return setting;
+  if (auto setting = settings_.reply(name)) return setting;
   if (!name.starts_with("MEAS:")) return std::nullopt;
   const int channel = settings_.option("MEAS:SOUR");
   const double scale = settings_.number("CHAN" + std::to_string(channel) + ":SCAL");
@@ -121,7 +121,7 @@ void Instrument::sendRecord(int channel, double at) {
   std::string record = recordBytes(channel, screen_.trace(channel));
   if (faults_.cutRecordsAt > 0)
     record.resize(std::min(record.size(), static_cast<std::size_t>(faults_.cutRecordsAt)));
-  send(std::move(record), at);
+  send(record, at);
 }
 
 void Instrument::sendLine(std::string reply, double at) {
@@ -130,7 +130,7 @@ void Instrument::sendLine(std::string reply, double at) {
   send(reply + "\n", at);
 }
 
-void Instrument::send(std::string bytes, double at) {
+void Instrument::send(const std::string& bytes, double at) {
   if (faults_.isSilent) return;
   sentUntil_ = std::max(sentUntil_, at + thought + faults_.slowMilliseconds);
   for (char byte : bytes) {

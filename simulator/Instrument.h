@@ -56,7 +56,7 @@ class Instrument {
   std::optional<std::string> replyTo(const std::string& name);
   void sendRecord(int channel, double at);
   void sendLine(std::string reply, double at);
-  void send(std::string bytes, double at);
+  void send(const std::string& bytes, double at);
   void autoset(double at);
 
   struct TimedByte {

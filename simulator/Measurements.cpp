@@ -41,11 +41,12 @@ class Levels {
   double plateau(Side isOnSide, double extreme) const {
     double sum = 0;
     int count = 0;
-    for (const int unit : trace_)
+    for (const int unit : trace_) {
       if (isOnSide(unit) && std::fabs(unit - extreme) <= 0.3 * (highest - lowest)) {
         sum += unit;
         ++count;
       }
+    }
     return count == 0 ? extreme : sum / count;
   }
   const Screen::Trace& trace_;

@@ -19,6 +19,7 @@ std::string channelName(int channel) {
 /// Longer than a period of any signal, in steps finer than its steepest part.
 constexpr double searchTime = 0.045;
 constexpr double searchStep = 2e-6;
+constexpr int middleSample = Screen::sampleCount / 2;
 
 }  // namespace
 
@@ -125,7 +126,7 @@ void Screen::sweep(InstrumentSettings& settings, double seconds) {
     const double noiseUnits = (isLimited ? 0.6 : 1.5) / std::sqrt(average);
     Trace& trace = traces_[static_cast<std::size_t>(channel - 1)];
     for (int i = 0; i < sampleCount; ++i) {
-      const double at = trigger + settings.number("TIM:DEL") + (i - sampleCount / 2) * timePerUnit;
+      const double at = trigger + settings.number("TIM:DEL") + (i - middleSample) * timePerUnit;
       const double units = shownVolts(settings, channel, at) / voltsPerUnit + noiseUnits * noise();
       // The converter has eight bits, 25 steps to a division.
       trace[static_cast<std::size_t>(i)] =

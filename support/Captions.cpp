@@ -72,10 +72,11 @@ void Captions::ApplyCaptions(Window& window) {
   std::size_t from = 0;
   do {
     header = findHeader(buffer_, from);
-    if (!header)
+    if (!header) {
       throw Error(
           invalidProcedureCall, "Tracewell",
           "No captions for " + window.name() + " in " + pathText(languageFile(main_, ".cap")));
+    }
     window.caption = header->caption;
     from = header->end;
   } while (header->windowName != window.name());

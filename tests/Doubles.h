@@ -31,6 +31,8 @@ class RecordingDialogs : public Dialogs {
   void showMessage(const std::string& text) override { messages.push_back(text); }
   void showRunTimeError(const Error& error) override;
   std::filesystem::path openFile(const FileDialog& dialog) override;
+  Colour pickedColour;
+  Colour pickColour(Colour) override { return pickedColour; }
   std::filesystem::path saveFile(const FileDialog& dialog) override { return openFile(dialog); }
 };
 

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "CommandExchange.h"
+
+namespace tracewell {
+
+/// How the settings dialogs send a row of the setup table: each value is written, given a second,
+/// and read back.
+class SettingsBurst {
+ public:
+  static constexpr int settlingTime = 1000;
+
+  SettingsBurst(frmDSO& main, CommandExchange& exchange) : main_(main), exchange_(exchange) {}
+
+  /// Sends the values of `row` with the commands `stems`, from the `first` one on. Each is tried up
+  /// to three times, until the instrument's reply is the cell's text to the letter; then the next
+  /// follows without a message. The message box shows every line as it goes out. Replies are given
+  /// the short time-out meanwhile. Throws ProgramEnded when the window is closed in between.
+  void writeAndVerify(std::span<const std::string_view> stems, int row, int first);
+
+ private:
+  bool isAccepted(const std::string& stem, const std::string& value);
+
+  frmDSO& main_;
+  CommandExchange& exchange_;
+};
+
+/// Adds a line to the message box and shows it at once.
+void echoLine(frmDSO& main, const std::string& line);
+
+/// While it lives, replies are given twice the short time-out; then the normal one again.
+class ShortTimeOut {
+ public:
+  explicit ShortTimeOut(frmDSO& main);
+  ~ShortTimeOut();
+  ShortTimeOut(const ShortTimeOut&) = delete;
+
+ private:
+  frmDSO& main_;
+  int normal_;
+};
+
+}  // namespace tracewell

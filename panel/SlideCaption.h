@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+
+namespace tracewell {
+
+/// The caption of a slide that is being dragged: its title through the first ":", a blank, the
+/// value with two decimals, and the unit (" Div", " V").
+std::string slideCaption(const std::string& caption, double value, const std::string& unit);
+
+}  // namespace tracewell

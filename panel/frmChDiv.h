@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Controls.h"
+#include "frmDSO.h"
+
+namespace tracewell {
+
+/// Picks volts per division for the channel in its tag, "1" or "2". Stays open, so that several
+/// steps can be tried in turn.
+class frmChDiv : public Window {
+ public:
+  explicit frmChDiv(frmDSO& main);
+
+  Frame fmVDiv{*this, "fmVDiv", "Volt/Div"};
+  ControlArray<OptionButton> opVDiv{
+      *this,
+      "opVDiv",
+      {"2mV", "5mV", "10mV", "20mV", "50mV", "100mV", "200mV", "500mV", "1V", "2V", "5V"}};
+  Button cmdSelect{*this, "cmdSelect", "Select"};
+  Button cmdClose{*this, "cmdClose", "Close"};
+
+ private:
+  Knob& knob();
+  void Form_Activate();
+  void cmdSelect_Click();
+  void cmdClose_Click();
+
+  frmDSO& main_;
+  std::int16_t selectedStep_ = 0;
+};
+
+}  // namespace tracewell

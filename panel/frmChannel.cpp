@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "frmChannel.h"
+
+namespace tracewell {
+
+frmChannel::frmChannel(frmDSO& main)
+    : Window("frmChannel", "Channel", main.services()), main_(main) {
+  formActivate = [this] { tag = "0"; };
+  cmdOK.click = [this] { cmdOK_Click(); };
+  cmdCancel.click = [this] { cmdCancel_Click(); };
+}
+
+void frmChannel::cmdOK_Click() {
+  for (int i = 0; i < cbCh.size(); ++i)
+    main_.gridMeasure.setText(setupRow, 2 + i, cbCh(i).isChecked() ? "1" : "0");
+  keepSelected(obCoupling, 5);
+  keepSelected(obProbe, 6);
+  tag = "1";
+  hide();
+}
+
+void frmChannel::keepSelected(ControlArray<OptionButton>& options, int column) {
+  for (const OptionButton& option : options)
+    if (option.value()) main_.gridMeasure.setText(setupRow, column, std::to_string(option.index()));
+}
+
+void frmChannel::cmdCancel_Click() {
+  tag = "0";
+  hide();
+}
+
+}  // namespace tracewell

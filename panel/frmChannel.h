@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Controls.h"
+#include "frmDSO.h"
+
+namespace tracewell {
+
+/// The channel dialog: edits one channel's row of the setup table. Its tag reads "1" after OK.
+class frmChannel : public Window {
+ public:
+  explicit frmChannel(frmDSO& main);
+
+  ControlArray<CheckBox> cbCh{*this, "cbCh", {"Display On", "Invert On", "BW Limit On"}};
+  Frame fmCoupling{*this, "fmCoupling", "Coupling"};
+  ControlArray<OptionButton> obCoupling{*this, "obCoupling", {"AC", "DC", "GND"}};
+  Frame fmProbe{*this, "fmProbe", "Probe"};
+  ControlArray<OptionButton> obProbe{*this, "obProbe", {"1", "10", "100"}};
+  Button cmdOK{*this, "cmdOK", "OK"};
+  Button cmdCancel{*this, "cmdCancel", "Cancel"};
+
+  /// The row that OK writes; set by the opener.
+  std::int16_t setupRow = SetupTable::channel1;
+
+ private:
+  void cmdOK_Click();
+  void cmdCancel_Click();
+  void keepSelected(ControlArray<OptionButton>& options, int column);
+
+  frmDSO& main_;
+};
+
+}  // namespace tracewell

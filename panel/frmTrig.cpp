@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "frmTrig.h"
+
+#include "ConnectionIndicator.h"
+#include "Numbers.h"
+#include "ScaleTables.h"
+#include "TriggerMarker.h"
+#include "WaitingNotice.h"
+
+namespace tracewell {
+
+frmTrig::frmTrig(frmDSO& main, CommandExchange& exchange, Acquisition& acquisition,
+                 SettingsBurst& burst)
+    : Window("frmTrig", "Trigger", main.services()),
+      main_(main),
+      exchange_(exchange),
+      acquisition_(acquisition),
+      burst_(burst) {
+  cbTrig(0).items = {"1", "2", "EXT", "Line"};
+  cbTrig(1).items = {"Auto Level", "Auto", "Normal", "Single"};
+  cbTrig(2).items = {"+", "-"};
+  cbTrig(3).items = {"AC", "DC"};
+  cbTrig(4).items = {"Off", "LF", "HF"};
+  cbTrig(5).items = {"Off", "On"};
+  cbTrigAdv(0).items = {"TTL", "ECL", "USR"};
+  cbTrigAdv(1).items = {"Time", "Event "};
+  fmAdv.enabled = false;
+  formActivate = [this] { Form_Activate(); };
+  for (ComboBox& box : cbTrig) box.click = [this, &box] { cbTrig_Click(box.index()); };
+  cmdOK.click = [this] { cmdOK_Click(); };
+  cmdCancel.click = [this] {
+    tag = "0";
+    hide();
+  };
+}
+
+void frmTrig::cmdTrig_Click() {
+  acquisition_.StopAcq();
+  {
+    const WaitingNotice notice(main_);
+    readSettings();
+    readAdvancedSettings();
+  }
+  showModal();
+  if (tag != "0") burst_.writeAndVerify(TrigQuery, SetupTable::trigger, 0);
+  if (tag == "2") burst_.writeAndVerify(TrigAdvQuery, SetupTable::advancedTrigger, 0);
+  UpdateTriggerMarker(main_);
+  runAcquisition(main_);
+}
+
+/// Setting a box runs its click, so the instrument's values go into the table, too.
+void frmTrig::readSettings() {
+  for (int i = 0; i < cbTrig.size(); ++i) {
+    const std::string query(TrigQuery[static_cast<std::size_t>(i)]);
+    const std::string reply = exchange_.SendDSOCmd(query + "?");
+    echoLine(main_, reply);
+    cbTrig(i).listIndex = indexOf(reply, SetupTable::trigger, 2 + i);
+  }
+}
+
+void frmTrig::readAdvancedSettings() {
+  for (int i = 0; i < 5; ++i) {
+    const std::string query(TrigAdvQuery[static_cast<std::size_t>(i)]);
+    const std::string reply = isAdvanced() ? exchange_.SendDSOCmd(query + "?") : "";
+    if (i < 2)
+      cbTrigAdv(i).listIndex = indexOf(reply, SetupTable::advancedTrigger, 2 + i);
+    else
+      txtTrigAdv(i - 2).text =
+          isAdvanced() ? reply : main_.gridMeasure.text(SetupTable::advancedTrigger, 2 + i);
+  }
+}
+
+/// The instrument's number, or the stored one where it gave none.
+std::int16_t frmTrig::indexOf(const std::string& reply, int row, int column) const {
+  return isNumeric(reply) ? toInt16(reply) : main_.gridMeasure.number(row, column);
+}
+
+void frmTrig::Form_Activate() {
+  for (int i = 0; i < cbTrig.size(); ++i)
+    cbTrig(i).listIndex = main_.gridMeasure.number(SetupTable::trigger, 2 + i);
+  tag = "0";
+}
+
+void frmTrig::cbTrig_Click(int box) {
+  outcome_ = box == 1 && isAdvanced() ? 2 : 1;
+  if (box == 1) fmAdv.enabled = isAdvanced();
+  main_.gridMeasure.setText(SetupTable::trigger, 2 + box, std::to_string(cbTrig(box).listIndex()));
+}
+
+void frmTrig::cmdOK_Click() {
+  tag = std::to_string(outcome_);
+  hide();
+  main_.refresh();
+}
+
+}  // namespace tracewell

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Acquisition.h"
+#include "Controls.h"
+#include "SettingsBurst.h"
+
+namespace tracewell {
+
+/// The trigger dialog. Choices go into the setup table at each click, and Cancel leaves them there;
+/// only OK sends them. The advanced group is in use while the mode box reads "Advance", a text that
+/// is typed, not picked. Traps nothing.
+class frmTrig : public Window {
+ public:
+  frmTrig(frmDSO& main, CommandExchange& exchange, Acquisition& acquisition, SettingsBurst& burst);
+
+  ControlArray<Label> lblTrig{
+      *this,
+      "lblTrig",
+      {"Source :", "Mode :", "Slop :", "Coupling :", "Frequency Reject :", "Noise Reject :"}};
+  ControlArray<ComboBox> cbTrig{*this, "cbTrig", 6};
+  Frame fmAdv{*this, "fmAdv", "Advance"};
+  ControlArray<Label> lblTrigAdv{
+      *this, "lblTrigAdv", {"Mode :", "Type :", "Event :", "Level :", "Delay :"}};
+  ControlArray<ComboBox> cbTrigAdv{*this, "cbTrigAdv", 2};
+  ControlArray<TextBox> txtTrigAdv{*this, "txtTrigAdv", 3};
+  Button cmdOK{*this, "cmdOK", "OK"};
+  Button cmdCancel{*this, "cmdCancel", "Cancel"};
+
+  void cmdTrig_Click();
+
+ private:
+  void readSettings();
+  void readAdvancedSettings();
+  bool isAdvanced() { return cbTrig(1).text() == "Advance"; }
+  std::int16_t indexOf(const std::string& reply, int row, int column) const;
+  void Form_Activate();
+  void cbTrig_Click(int box);
+  void cmdOK_Click();
+
+  frmDSO& main_;
+  CommandExchange& exchange_;
+  Acquisition& acquisition_;
+  SettingsBurst& burst_;
+  /// 1 for the plain settings, 2 when the advanced ones are sent too.
+  std::int16_t outcome_ = 1;
+};
+
+}  // namespace tracewell

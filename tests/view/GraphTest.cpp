@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <gtest/gtest.h>
+
+#include "Doubles.h"
+
+namespace tracewell {
+namespace {
+
+class GraphTest : public testing::Test {
+ protected:
+  GraphTest() { bench.program.start(); }
+  Bench bench;
+  Graph& graph = bench.main.graphDSO;
+  frmGraph& dialog = bench.program.graphStyle;
+};
+
+TEST_F(GraphTest, ReadoutFollowsChannelScaleModeAndDrag) {
+  frmDSO& main = bench.main;
+  const std::string& readout = graph.axis("XAxis").caption();
+  main.lblChan1.caption = "100.0 mV";
+  main.lblChan2.caption = "5.000 V";
+  main.lblTime.caption = "20.00 ns";
+  main.cmdCursor.press();
+  EXPECT_EQ(readout, "P1 = 0.00(nsec),P2 = 20.00(nsec)   Diff T = -20.00(nsec)");
+  graph.dragCursor(graph.cursor("cur1"), 400, 10);
+  EXPECT_EQ(readout, "P1 = 100.00(nsec),P2 = 20.00(nsec)   Diff T = 80.00(nsec)");
+  main.cmdCursor.press();
+  EXPECT_EQ(readout, "P1 = -0.20(V)  ,  P2 = -0.30(V)        Diff V = 0.10(V)");
+  main.cbCurChan.choose(1);
+  EXPECT_EQ(readout, "P1 = -10.00(V)  ,  P2 = -15.00(V)        Diff V = 5.00(V)");
+  main.cbCurChan.type("");
+  EXPECT_EQ(readout, "P1 = -10.00(V)  ,  P2 = -15.00(V)        Diff V = 5.00(V)");
+  main.cmdCursor.press();
+  EXPECT_EQ(readout, "Time");
+  graph.dragCursor(graph.cursor("cur1"), 0, 0);
+  EXPECT_EQ(graph.cursor("cur1").yPosition(), -100);
+}
+
+TEST_F(GraphTest, BoxesOfARowAreExclusiveAndThePreviewFollows) {
+  dialog.showModal();
+  CheckBox& dot = dialog.opDot(2);
+  CheckBox& solid = dialog.opSolid(2);
+  for (CheckBox* box : {&dot, &solid, &solid, &dot, &dot}) {
+    box->toggle();
+    EXPECT_NE(dot.value(), solid.value());
+    EXPECT_EQ(dialog.linePlot(2).borderStyle(), solid.isChecked() ? Line::solid : Line::dotted);
+  }
+}
+
+TEST_F(GraphTest, DotTravelsInThePointStyleAndReopensAsSolid) {
+  bench.dialogs.pickedColour = {1, 2, 3};
+  bench.windows.user["frmGraph"] = [&] {
+    dialog.opDot(0).toggle();
+    dialog.cmdLine(5).press();
+    dialog.cmdPlotArea.press();
+    dialog.cmdPlotGrid.press();
+    dialog.cmdOK.press();
+  };
+  bench.main.cmdGraph.press();
+  const Colour picked = bench.dialogs.pickedColour;
+  EXPECT_EQ(graph.plot(1).lineStyle(), Plot::solidLine);
+  EXPECT_EQ(graph.plot(1).pointStyle(), Plot::dotPoints);
+  EXPECT_EQ(graph.plot(2).pointStyle(), Plot::noPoints);
+  EXPECT_EQ(graph.plot(6).lineColour(), picked);
+  EXPECT_EQ(graph.plotAreaColour(), picked);
+  EXPECT_EQ(graph.axis("XAxis").gridColour(), picked);
+  EXPECT_EQ(graph.axis("YAxis-1").gridColour(), picked);
+  EXPECT_NE(graph.axis("YAxis-2").gridColour(), picked);
+
+  bench.dialogs.pickedColour = {9, 9, 9};
+  bench.windows.user["frmGraph"] = [&] {
+    EXPECT_TRUE(dialog.opSolid(0).isChecked());
+    EXPECT_EQ(dialog.lblPlot(5).caption(), "Load4");
+    dialog.cmdLine(0).press();
+    dialog.cmdCancel.press();
+  };
+  bench.main.mnbGraph.choose();
+  EXPECT_NE(graph.plot(1).lineColour(), bench.dialogs.pickedColour);
+}
+
+TEST_F(GraphTest, EnlargingHidesThePanelsAndRestoresThem) {
+  frmDSO& main = bench.main;
+  graph.toggleEnlarged();
+  EXPECT_FALSE(main.fmCh1.visible());
+  EXPECT_TRUE(main.cmdSave.visible());
+  graph.toggleEnlarged();
+  EXPECT_TRUE(main.fmCh1.visible());
+}
+
+}  // namespace
+}  // namespace tracewell
