@@ -58,13 +58,16 @@ QPointF KnobWidget::pointAt(qreal angle, qreal distance) const {
   return centre() + QPointF(std::cos(radians), -std::sin(radians)) * distance;
 }
 
-int KnobWidget::nearestDetent(const QPointF& position) const {
+qreal KnobWidget::angleAt(const QPointF& position) const {
   const QPointF from = position - centre();
-  const qreal angle = std::atan2(-from.y(), from.x()) * 180 / std::numbers::pi;
+  return std::atan2(-from.y(), from.x()) * 180 / std::numbers::pi;
+}
+
+int KnobWidget::nearestDetent(const QPointF& position) const {
   int nearest = 0;
   qreal smallest = 360;
   for (int detent = 0; detent < captions_.size(); ++detent) {
-    const qreal distance = std::fabs(std::remainder(angle - angleOf(detent), 360));
+    const qreal distance = std::fabs(std::remainder(angleAt(position) - angleOf(detent), 360));
     if (distance < smallest) {
       smallest = distance;
       nearest = detent;
@@ -128,13 +131,20 @@ void KnobWidget::mousePressEvent(QMouseEvent* event) {
   // On the cap the drag only begins; outside it a click picks the caption there.
   const QPointF from = event->position() - centre();
   if (std::hypot(from.x(), from.y()) > radius()) turnTo(nearestDetent(event->position()));
+  draggedFrom_ = value_;
+  dragTravel_ = 0;
+  dragAngle_ = angleAt(event->position());
 }
 
+/// The cap turns with the hand, wherever it was taken hold of.
 void KnobWidget::mouseMoveEvent(QMouseEvent* event) {
   if (!(event->buttons() & Qt::LeftButton)) return;
-  const QPointF from = event->position() - centre();
-  if (std::hypot(from.x(), from.y()) < radius() / 4) return;
-  const int detent = nearestDetent(event->position());
+  const qreal angle = angleAt(event->position());
+  dragTravel_ += std::remainder(dragAngle_ - angle, 360);
+  dragAngle_ = angle;
+  const int last = static_cast<int>(captions_.size()) - 1;
+  const int steps = static_cast<int>(std::lround(dragTravel_ * last / sweep));
+  const int detent = qBound(0, draggedFrom_ + steps, last);
   if (detent != value_) turnTo(detent);
 }
 

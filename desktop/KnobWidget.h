@@ -43,6 +43,8 @@ class KnobWidget : public QWidget {
   /// Direction of a detent from the centre, in degrees counter-clockwise from three o'clock.
   qreal angleOf(int detent) const;
   QPointF pointAt(qreal angle, qreal distance) const;
+  /// Degrees, counted as in mathematics.
+  qreal angleAt(const QPointF& position) const;
   int nearestDetent(const QPointF& position) const;
   bool hasCaption(int detent) const;
   void turnTo(int detent);
@@ -53,6 +55,10 @@ class KnobWidget : public QWidget {
   QColor accent_{Qt::white};
   int value_ = 0;
   int wheelTravel_ = 0;
+  /// Of a drag: the detent that it began at, the last angle, and degrees turned to the right.
+  int draggedFrom_ = 0;
+  qreal dragAngle_ = 0;
+  qreal dragTravel_ = 0;
 };
 
 }  // namespace tracewell

@@ -36,7 +36,13 @@ ShortTimeOut::ShortTimeOut(frmDSO& main) : main_(main), normal_(ReplyTimeout(mai
 }
 
 ShortTimeOut::~ShortTimeOut() {
-  main_.services().port.readTimeOut = normal_;
+  int& readTimeOut = main_.services().port.readTimeOut;
+  try {
+    // Anew: a channel may have been switched on or off meanwhile.
+    readTimeOut = ReplyTimeout(main_);
+  } catch (const Error&) {
+    readTimeOut = normal_;
+  }
 }
 
 }  // namespace tracewell

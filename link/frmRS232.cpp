@@ -60,10 +60,13 @@ void frmRS232::showDevice() {
 }
 
 void frmRS232::cmdOK_Click() {
+  // Both before anything is applied, so that a text which is no number leaves all as it was.
+  const std::int16_t newBaudRate = toInt16(cbRS232(baudRate).text());
+  const std::int16_t newPortNumber = toInt16(cbRS232(portNumber).text());
   LineSettings& settings = services().port.settings;
-  main_.BaudRate = toInt16(cbRS232(baudRate).text());
-  settings.baudRate = main_.BaudRate;
-  settings.portNumber = toInt16(cbRS232(portNumber).text());
+  settings.baudRate = newBaudRate;
+  main_.BaudRate = newBaudRate;
+  settings.portNumber = newPortNumber;
   settings.dataBits = dataBitsCode(cbRS232(dataBits).text());
   settings.stopBits = stopBitsCode(cbRS232(stopBits).text());
   settings.parity = parityCode(cbRS232(parity).text());

@@ -1,19 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <gtest/gtest.h>
-
 #include <QAbstractButton>
-#include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QSignalSpy>
 #include <QTest>
 
-#include "Binder.h"
-#include "Doubles.h"
-#include "Forms.h"
 #include "GraphView.h"
 #include "KnobWidget.h"
+#include "MainFormTest.h"
 #include "SlideWidget.h"
 #include "Text.h"
 #include "Theme.h"
@@ -21,28 +16,7 @@
 namespace tracewell {
 namespace {
 
-/// Real widgets bound to the whole program on a scripted port.
-class FormsTest : public testing::Test {
- protected:
-  FormsTest() {
-    bench.program.start();
-    form = makeForm("frmDSO", nullptr);
-    bindControls(bench.main, *form);
-    form->resize(1280, 800);
-    form->show();
-    QApplication::processEvents();
-  }
-  ~FormsTest() override { unbindControls(bench.main); }
-
-  template <class Widget = QWidget>
-  Widget* find(const char* name) {
-    return form->findChild<Widget*>(QLatin1String(name));
-  }
-  std::vector<std::string> takeWire() { return std::exchange(bench.port.wire, {}); }
-
-  Bench bench;
-  std::unique_ptr<QWidget> form;
-};
+class FormsTest : public MainFormTest {};
 
 using Lines = std::vector<std::string>;
 

@@ -50,22 +50,30 @@ TEST_F(SimulatedChannelTest, ReadWaitsAsLongAsItIsTold) {
   EXPECT_NEAR(static_cast<double>(clock.milliseconds()), 300 + 25 * 0.52 + 4, 2);
 }
 
-/// The whole program with the instrument that it carries: a minute of both traces.
-TEST(BuiltInInstrument, BothTracesRunAndThePlugMayBePulled) {
+/// The whole program with the instrument that it carries, in a time of its own.
+class BuiltInInstrument : public testing::Test {
+ protected:
+  void connect() {
+    program.start();
+    main.cbCh2.toggle();
+    main.cmdStart.press();
+  }
+
   ProgramFolderCopy folder;
   VirtualClock clock;
   RecordingDialogs dialogs;
-  EventDispatcher dispatcher(dialogs);
-  InProcessOpener opener(clock);
-  LinePort port(opener, clock, dispatcher);
+  EventDispatcher dispatcher{dialogs};
+  InProcessOpener opener{clock};
+  LinePort port{opener, clock, dispatcher};
   ScriptedPort list;
   ScriptedWindows windows;
   Services services{clock, dialogs, dispatcher, port, list, windows, folder.path()};
-  Tracewell program(services);
+  Tracewell program{services};
   frmDSO& main = program.main;
-  program.start();
-  main.ChanOn[1] = true;
-  main.cmdStart.press();
+};
+
+TEST_F(BuiltInInstrument, BothTracesRunAndThePlugMayBePulled) {
+  connect();
   EXPECT_EQ(main.lblChan1.caption(), "500.0 mV");
   EXPECT_EQ(main.lblChan2.caption(), "1.000 V");
   EXPECT_EQ(main.slideCH1.value(), 1);
@@ -83,6 +91,26 @@ TEST(BuiltInInstrument, BothTracesRunAndThePlugMayBePulled) {
   const auto count = main.WaveCount;
   clock.run(5000);
   EXPECT_GT(main.WaveCount, count);
+}
+
+TEST_F(BuiltInInstrument, KnobSpunDuringAcquisitionDelaysAndSpoilsNothing) {
+  connect();
+  clock.run(3000);
+  for (int turn = 0; turn < 3; ++turn) {
+    for (int step = 0; step <= 28; ++step) {
+      const std::int64_t before = clock.milliseconds();
+      main.knobTime.turn(turn % 2 == 0 ? step : 28 - step);
+      // A command has no reply to wait for, not even behind a record on its way.
+      EXPECT_LE(clock.milliseconds() - before, 1);
+      clock.run(90);
+    }
+    EXPECT_TRUE(main.Ch1Raw.starts_with("KRM410 REC 1"));
+    EXPECT_TRUE(main.Ch2Raw.starts_with("KRM410 REC 2"));
+  }
+  EXPECT_TRUE(main.tmDSO.enabled());
+  main.txtTest.type(":TIM:SCAL?");
+  main.txtTest.pressKey(TextBox::enterKey);
+  EXPECT_EQ(main.txtMsg.text(), "5.000 s");
 }
 
 }  // namespace

@@ -20,6 +20,7 @@ TRACEWELL, SIMULATOR, DATA = (os.path.abspath(argument) for argument in sys.argv
 WIDTH, HEIGHT = 1280, 800
 # Inside the graticule of the window at that size.
 GRATICULE = (20, 110, 790, 535)
+KNOB_CHAN1 = (905, 200)
 
 
 def wait_for(condition, seconds, what):
@@ -133,6 +134,11 @@ class Program:
         run("xdotool", "type", text)
         time.sleep(0.2)
 
+    def wheel(self, x, y, button):
+        """Button 4 turns up, 5 down."""
+        run("xdotool", "mousemove", str(x), str(y), "click", str(button))
+        time.sleep(0.2)
+
     def processor_seconds(self):
         fields = pathlib.Path(f"/proc/{self.process.pid}/stat").read_text().rsplit(")", 1)[1].split()
         return (int(fields[11]) + int(fields[12])) / os.sysconf("SC_CLK_TCK")
@@ -234,6 +240,22 @@ class SystemTest(unittest.TestCase):
         self.expect_live_trace()
         program.close()
         self.assertIn(b",None,7\r\n", program.setup.read_bytes())
+
+    def test_turned_knob_scales_the_trace(self):
+        program = self.make_program(7)
+        self.make_instrument(program)
+        program.start()
+        program.keys("F5")
+        self.expect_live_trace()
+
+        def height():
+            rows = [y for _, y in self.screen.trace()]
+            return max(rows) - min(rows) if rows else 0
+
+        before = height()
+        program.wheel(*KNOB_CHAN1, 4)
+        wait_for(lambda: abs(height() - before / 2) < before / 10, 10, "a trace of half the height")
+        program.close()
 
     def test_pulled_plug(self):
         program = self.make_program(7)
