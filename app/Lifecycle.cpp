@@ -36,9 +36,9 @@ void Lifecycle::Form_Load() {
 void Lifecycle::Form_Unload() {
   if (main_.HasEnded) return;
   main_.HasEnded = true;
+  main_.tmDSO.enabled = false;
   exchange_.LoadSetup();
   saveSetup();
-  main_.tmDSO.enabled = false;
   for (Window* window : windows_) window->unload();
   main_.unload();
 }

@@ -13,7 +13,7 @@ Tracewell::Tracewell(Services& services)
       cursors(main),
       scaleKnobs(main, exchange, cursors),
       instrument(main, exchange, errorLog),
-      connect(main, exchange, instrument),
+      connect(main, exchange, instrument, errorLog),
       acquisition(main, exchange, errorLog),
       burst(main, exchange),
       channelDialog(main),

@@ -8,6 +8,14 @@
 namespace tracewell {
 
 void Connect::cmdStart_Click() {
+  try {
+    startOrStop();
+  } catch (const Error& error) {
+    errorLog_.ErrLog(error, error.source());
+  }
+}
+
+void Connect::startOrStop() {
   if (!main_.Initialised && !connectFirst()) return;
   if (!main_.LinkOK) return;
   main_.tmDSO.enabled = !main_.tmDSO.enabled();

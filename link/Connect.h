@@ -8,8 +8,8 @@ namespace tracewell {
 /// The buttons that open the link and start and stop the periodic acquisition.
 class Connect {
  public:
-  Connect(frmDSO& main, CommandExchange& exchange, InstrumentState& instrument)
-      : main_(main), exchange_(exchange), instrument_(instrument) {}
+  Connect(frmDSO& main, CommandExchange& exchange, InstrumentState& instrument, ErrorLog& errorLog)
+      : main_(main), exchange_(exchange), instrument_(instrument), errorLog_(errorLog) {}
 
   /// The first press reads the instrument; each press then starts or stops the acquisition.
   void cmdStart_Click();
@@ -17,12 +17,14 @@ class Connect {
   void cmdRS232_Click();
 
  private:
+  void startOrStop();
   bool connectFirst();
   void showAcquisition();
 
   frmDSO& main_;
   CommandExchange& exchange_;
   InstrumentState& instrument_;
+  ErrorLog& errorLog_;
 };
 
 }  // namespace tracewell

@@ -12,7 +12,6 @@ bool isNull(const ValueLabel& scale) {
 }
 
 void showPosition(Slide& slide, double divisions) {
-  slide.value = divisions;
   const std::string caption = slide.caption();
   const std::string title = caption.substr(0, caption.find(':') + 1);
   slide.caption = title + formatTwoDecimals(divisions) + " Div";
@@ -29,8 +28,8 @@ void InstrumentState::InitDSO() {
       main_.lblChan1.caption = exchange_.SendDSOCmd(":CHAN1:SCAL?");
     main_.lblChan1.refresh();
     moveKnob(ScaleKnob::Chan1, main_.lblChan1, main_.knobChan1);
-    readScale(":CHAN2:SCAL?", ScaleKnob::Chan2, main_.lblChan2, main_.knobChan2);
-    readScale(":TIM:SCAL?", ScaleKnob::Time, main_.lblTime, main_.knobTime);
+    readScaleTwice(":CHAN2:SCAL?", ScaleKnob::Chan2, main_.lblChan2, main_.knobChan2);
+    readScaleTwice(":TIM:SCAL?", ScaleKnob::Time, main_.lblTime, main_.knobTime);
     readChannel1Position();
     readChannel2Position();
   } catch (const Error& error) {
@@ -49,6 +48,13 @@ void InstrumentState::applyLinkSettings() {
 
 void InstrumentState::readScale(const std::string& query, ScaleKnob kind, ValueLabel& label,
                                 Knob& knob) {
+  label.caption = std::string(trimBlanks(exchange_.SendDSOCmd(query)));
+  label.refresh();
+  moveKnob(kind, label, knob);
+}
+
+void InstrumentState::readScaleTwice(const std::string& query, ScaleKnob kind, ValueLabel& label,
+                                     Knob& knob) {
   label.caption = std::string(trimBlanks(exchange_.SendDSOCmd(query)));
   if (label.caption().empty()) label.caption = exchange_.SendDSOCmd(query);
   label.refresh();
@@ -72,16 +78,18 @@ double InstrumentState::readPosition(const std::string& query, const ValueLabel&
 void InstrumentState::readChannel1Position() {
   if (isNull(main_.lblChan1)) return;
   main_.Ch1Pos = readPosition("CHAN1:OFFS?", main_.lblChan1);
-  showPosition(main_.slideCH1, main_.Ch1Pos);
+  main_.slideCH1.value = main_.Ch1Pos;
   main_.Ch1PosCounts = toInt16(main_.Ch1Pos * SharedState::unitsPerDivision);
+  showPosition(main_.slideCH1, main_.Ch1Pos);
 }
 
 /// Channel 2 keeps whole divisions, unlike channel 1.
 void InstrumentState::readChannel2Position() {
   if (isNull(main_.lblChan2)) return;
   main_.Ch2Pos = toInt16(readPosition("CHAN2:OFFS?", main_.lblChan2));
-  showPosition(main_.slideCH2, main_.Ch2Pos);
+  main_.slideCH2.value = main_.Ch2Pos;
   main_.Ch2PosCounts = mulInt16(main_.Ch2Pos, SharedState::unitsPerDivision);
+  showPosition(main_.slideCH2, main_.Ch2Pos);
 }
 
 }  // namespace tracewell

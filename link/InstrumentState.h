@@ -23,6 +23,8 @@ class InstrumentState {
 
  private:
   void applyLinkSettings();
+  /// The same, with a second try where the first reply is empty.
+  void readScaleTwice(const std::string& query, ScaleKnob kind, ValueLabel& label, Knob& knob);
   std::string askTwice(const std::string& query);
   void moveKnob(ScaleKnob kind, const ValueLabel& label, Knob& knob);
   void readChannel1Position();

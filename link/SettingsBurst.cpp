@@ -12,13 +12,14 @@ void SettingsBurst::writeAndVerify(std::span<const std::string_view> stems, int 
   main_.txtMsg.text = "";
   for (int i = first; i < static_cast<int>(stems.size()); ++i) {
     const std::string stem(stems[static_cast<std::size_t>(i)]);
-    const std::string value = main_.gridMeasure.text(row, SetupTable::firstValue + i);
-    for (int attempt = 0; attempt < attempts && !isAccepted(stem, value); ++attempt) {
+    const int column = SetupTable::firstValue + i;
+    for (int attempt = 0; attempt < attempts && !isAccepted(stem, row, column); ++attempt) {
     }
   }
 }
 
-bool SettingsBurst::isAccepted(const std::string& stem, const std::string& value) {
+bool SettingsBurst::isAccepted(const std::string& stem, int row, int column) {
+  const std::string& value = main_.gridMeasure.text(row, column);
   const std::string command = stem + " " + value;
   exchange_.SendDSOCmd(command);
   echoLine(main_, command);

@@ -24,7 +24,7 @@ class SettingsBurst {
   void writeAndVerify(std::span<const std::string_view> stems, int row, int first);
 
  private:
-  bool isAccepted(const std::string& stem, const std::string& value);
+  bool isAccepted(const std::string& stem, int row, int column);
 
   frmDSO& main_;
   CommandExchange& exchange_;

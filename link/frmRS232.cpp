@@ -54,19 +54,20 @@ void frmRS232::listPorts() {
   cbRS232(portNumber).items = numbers;
 }
 
+/// No device for a text that is no port number; OK is where that is an error.
 void frmRS232::showDevice() {
-  const std::string& number = cbRS232(portNumber).text();
-  lblDevice.caption = isNumeric(number) ? services().ports.deviceOf(toInt16(number)) : "";
+  try {
+    lblDevice.caption = services().ports.deviceOf(toInt16(cbRS232(portNumber).text()));
+  } catch (const Error&) {
+    lblDevice.caption = "";
+  }
 }
 
 void frmRS232::cmdOK_Click() {
-  // Both before anything is applied, so that a text which is no number leaves all as it was.
-  const std::int16_t newBaudRate = toInt16(cbRS232(baudRate).text());
-  const std::int16_t newPortNumber = toInt16(cbRS232(portNumber).text());
   LineSettings& settings = services().port.settings;
-  settings.baudRate = newBaudRate;
-  main_.BaudRate = newBaudRate;
-  settings.portNumber = newPortNumber;
+  main_.BaudRate = toInt16(cbRS232(baudRate).text());
+  settings.baudRate = main_.BaudRate;
+  settings.portNumber = toInt16(cbRS232(portNumber).text());
   settings.dataBits = dataBitsCode(cbRS232(dataBits).text());
   settings.stopBits = stopBitsCode(cbRS232(stopBits).text());
   settings.parity = parityCode(cbRS232(parity).text());

@@ -67,22 +67,21 @@ void ChannelControls::commitPosition(const Channel& channel) {
   const std::string number = std::to_string(channel.number);
   logged("slideCH" + number + "_PointerValueCommitted : ", [&] {
     const double volts = checked(offsetVolts(channel.scale.caption(), channel.slide.value()));
-    const std::int16_t wholeDivisions = keepPosition(channel);
+    keepPosition(channel);
     exchange_.SendDSOCmd(channelStem(channel.number) + "OFFS " + formatExponent(volts));
-    redraw(channel, mulInt16(wholeDivisions, SharedState::unitsPerDivision));
+    redraw(channel, mulInt16(toInt16(channel.slide.value()), SharedState::unitsPerDivision));
     UpdateTriggerMarker(main_);
     acquisition_.ResumeAcq();
   });
 }
 
-/// Channel 1 keeps the slide's value as it is, channel 2 rounded. The result is the rounded one.
-std::int16_t ChannelControls::keepPosition(const Channel& channel) {
+/// Channel 1 keeps the slide's value as it is, channel 2 rounded.
+void ChannelControls::keepPosition(const Channel& channel) {
   const double divisions = channel.slide.value();
   if (channel.number == 1)
     main_.Ch1Pos = divisions;
   else
     main_.Ch2Pos = toInt16(divisions);
-  return toInt16(divisions);
 }
 
 /// Before the first record of a channel there is nothing to redraw.

@@ -56,7 +56,7 @@ class ChannelControls {
   void showChannel(const Channel& channel);
   void showPosition(const Channel& channel);
   void commitPosition(const Channel& channel);
-  std::int16_t keepPosition(const Channel& channel);
+  void keepPosition(const Channel& channel);
   void redraw(const Channel& channel, std::int16_t shift);
   void editSettings(const Channel& channel);
   void readSettings(const Channel& channel);

@@ -177,7 +177,16 @@ void LinePort::arrived() {
   }
   swallowOwed(bytes);
   collect(bytes);
-  if (held_ && held_->count != 0 && !isLineBusy()) request(*std::exchange(held_, std::nullopt));
+  requestHeld();
+}
+
+void LinePort::requestHeld() {
+  if (!held_ || held_->count == 0 || isLineBusy()) return;
+  try {
+    request(*std::exchange(held_, std::nullopt));
+  } catch (const Error&) {
+    // Closed now, as above: the next request is told the reason.
+  }
 }
 
 void LinePort::collect(const std::string& bytes) {

@@ -59,6 +59,7 @@ class LinePort : public SerialPort {
   void awaitQuietLine();
   void swallowOwed(std::string& bytes);
   void arrived();
+  void requestHeld();
   void collect(const std::string& bytes);
   void deliver(Record record);
   std::string replyLine(std::string received) const;

@@ -53,10 +53,13 @@ TEST_F(RS232Test, OpensWithTheTableAndNamesTheDevice) {
     EXPECT_EQ(dialog.lblDevice.caption(), "ttyUSB0");
     dialog.cbRS232(4).type("0");
     EXPECT_EQ(dialog.lblDevice.caption(), "simulated instrument");
-    dialog.cbRS232(4).type("5");
-    EXPECT_EQ(dialog.lblDevice.caption(), "");
+    for (const char* noPort : {"5", "40000", "tty", ""}) {
+      dialog.cbRS232(4).type(noPort);
+      EXPECT_EQ(dialog.lblDevice.caption(), "") << noPort;
+    }
   };
   bench.main.mnbRS232.choose();
+  EXPECT_TRUE(bench.dialogs.runTimeErrors.empty());
 }
 
 TEST_F(RS232Test, WrongTextEndsTheHandlerAndCancelAppliesNothing) {
