@@ -47,6 +47,12 @@ void Tracewell::connectPanel() {
   main.cmdTime.click = [this] { timeScale.cmdTime_Click(); };
   main.cmdTrig.click = [this] { trigger.cmdTrig_Click(); };
   main.mnbTrig.click = [this] { trigger.cmdTrig_Click(); };
+  main.cmdAcq.click = [this] { acquire.cmdAcq_Click(); };
+  main.mnbAcq.click = [this] { acquire.cmdAcq_Click(); };
+  main.cmdDisplay.click = [this] { display.cmdDisplay_Click(); };
+  main.mnbDisplay.click = [this] { display.cmdDisplay_Click(); };
+  main.cbMath.click = [this] { channelMath.cbMath_Click(); };
+  main.cmdAutoset.click = [this] { autoset.cmdAutoset_Click(); };
 }
 
 void Tracewell::connectView() {
@@ -59,6 +65,10 @@ void Tracewell::connectView() {
   main.graphDSO.enlargeToggled = [this] { graphSize.ToggleGraphSize(); };
   main.cmdGraph.click = [this] { graphStyle.cmdGraph_Click(); };
   main.mnbGraph.click = [this] { graphStyle.cmdGraph_Click(); };
+  main.cmdVMeasure.click = [this] { measurements.cmdVMeasure_Click(); };
+  main.mnbVoltage.click = [this] { measurements.cmdVMeasure_Click(); };
+  main.cmdFMeasure.click = [this] { measurements.cmdFMeasure_Click(); };
+  main.mnbFrequency.click = [this] { measurements.mnbFrequency_Click(); };
 }
 
 void Tracewell::connectFiles() {
@@ -69,6 +79,9 @@ void Tracewell::connectFiles() {
 void Tracewell::connectSupport() {
   main.lblDSOCmd.doubleClicked = [this] { errLog.lblDSOCmd_DblClick(); };
   main.mnbErrLog.click = [this] { errLog.lblDSOCmd_DblClick(); };
+  int language = 1;
+  for (MenuEntry* entry : {&main.mnbLA1, &main.mnbLA2, &main.mnbLA3, &main.mnbLA4, &main.mnbLA5})
+    entry->click = [this, number = language++] { languageMenu.mnbLA_Click(number); };
 }
 
 }  // namespace tracewell

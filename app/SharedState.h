@@ -52,6 +52,9 @@ struct SharedState {
   /// x of each sample in graph units: -250 to 249.
   std::array<std::int16_t, sampleCount> XIndex{};
 
+  /// Channel of the quick frequency measurement, 1 or 2.
+  std::int16_t FMeasChan = 1;
+
   /// True while the cursors measure time.
   bool CursorTimeMode = false;
   /// Last position read from each cursor, in graph units.

@@ -7,6 +7,7 @@ Tracewell::Tracewell(Services& services)
     : main(services),
       errLog(main),
       errorLog(main, errLog),
+      captions(main),
       exchange(main, errorLog),
       commandLine(main, exchange, errorLog),
       rs232(main),
@@ -23,17 +24,31 @@ Tracewell::Tracewell(Services& services)
       timeControls(main, exchange, errorLog, acquisition),
       timeScale(main),
       trigger(main, exchange, acquisition, burst),
+      acquire(main, exchange, errorLog, acquisition, captions),
+      display(main, exchange, errorLog, acquisition),
+      channelMath(main, exchange, errorLog),
+      message(main),
+      autoset(main, exchange, errorLog, acquisition, instrument, message),
       graphStyle(main),
       graphSize(main),
+      measurementChoice(main, captions),
+      quickMeasurementChoice(main),
+      measurements(main, exchange, acquisition, measurementChoice, quickMeasurementChoice),
       setupFiles(main),
-      captions(main, captionedWindows()),
+      languageMenu(main, captions),
       lifecycle(main, setupFiles, captions, exchange, otherWindows()) {
+  captions.setWindows(captionedWindows());
   connectLifecycle();
   connectLink();
   connectPanel();
   connectView();
   connectFiles();
   connectSupport();
+}
+
+std::vector<Window*> Tracewell::captionedWindows() {
+  return {&acquire, &channelDialog, &channelScale, &display, &quickMeasurementChoice, &graphStyle,
+          &message, &rs232,         &timeScale,    &trigger, &measurementChoice};
 }
 
 std::vector<Window*> Tracewell::otherWindows() {

@@ -2,13 +2,19 @@
 #pragma once
 
 #include "Acquisition.h"
+#include "Autoset.h"
 #include "ChannelControls.h"
+#include "ChannelMath.h"
 #include "CommandLine.h"
 #include "Connect.h"
 #include "GraphSize.h"
+#include "LanguageMenu.h"
 #include "Lifecycle.h"
+#include "Measurements.h"
 #include "ScaleKnobs.h"
 #include "TimeControls.h"
+#include "frmAcq.h"
+#include "frmDisplay.h"
 #include "frmGraph.h"
 #include "frmRS232.h"
 #include "frmTimeDiv.h"
@@ -29,6 +35,7 @@ class Tracewell {
 
   frmErrLog errLog;
   ErrorLog errorLog;
+  Captions captions;
   CommandExchange exchange;
   CommandLine commandLine;
   frmRS232 rs232;
@@ -44,18 +51,24 @@ class Tracewell {
   TimeControls timeControls;
   frmTimeDiv timeScale;
   frmTrig trigger;
+  frmAcq acquire;
+  frmDisplay display;
+  ChannelMath channelMath;
+  frmMsg message;
+  Autoset autoset;
   frmGraph graphStyle;
   GraphSize graphSize;
+  frmVMeasure measurementChoice;
+  frmFMeasure quickMeasurementChoice;
+  Measurements measurements;
   SetupFiles setupFiles;
 
   /// The windows that get captions after the main window, in this order.
-  std::vector<Window*> captionedWindows() {
-    return {&channelDialog, &channelScale, &graphStyle, &rs232, &timeScale, &trigger};
-  }
+  std::vector<Window*> captionedWindows();
   /// All windows but the main one.
   std::vector<Window*> otherWindows();
 
-  Captions captions;
+  LanguageMenu languageMenu;
   Lifecycle lifecycle;
 
  private:

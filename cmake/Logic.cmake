@@ -17,24 +17,34 @@ add_library(tracewell_logic STATIC
   link/SettingsBurst.cpp
   link/WaveformRecord.cpp
   link/frmRS232.cpp
+  panel/Autoset.cpp
   panel/ChannelControls.cpp
+  panel/ChannelMath.cpp
   panel/ScaleKnobs.cpp
   panel/ScaleTables.cpp
   panel/SlideCaption.cpp
   panel/TimeControls.cpp
+  panel/frmAcq.cpp
   panel/frmChDiv.cpp
   panel/frmChannel.cpp
+  panel/frmDisplay.cpp
+  panel/frmMsg.cpp
   panel/frmTimeDiv.cpp
   panel/frmTrig.cpp
   support/Captions.cpp
   support/ErrorLog.cpp
+  support/LanguageMenu.cpp
   support/Messages.cpp
   support/frmErrLog.cpp
   view/Cursors.cpp
   view/GraphSetup.cpp
   view/GraphSize.cpp
+  view/MeasurementItems.cpp
+  view/Measurements.cpp
   view/TriggerMarker.cpp
+  view/frmFMeasure.cpp
   view/frmGraph.cpp
+  view/frmVMeasure.cpp
 )
 target_include_directories(tracewell_logic PUBLIC app files link panel support view)
 target_link_libraries(tracewell_logic PUBLIC tracewell_platform PRIVATE tracewell_warnings)

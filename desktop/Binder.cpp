@@ -13,6 +13,7 @@
 #include <QMenu>
 #include <QPixmap>
 #include <QPlainTextEdit>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
@@ -201,6 +202,11 @@ void bind(Lamp& control, QWidget& form) {
   showWith(control, lamp, [&control, lamp] { lamp->setColour(toQt(control.fillColour())); });
 }
 
+void bind(Progress& control, QWidget& form) {
+  auto* bar = findObject<QProgressBar>(control, form);
+  showWith(control, bar, [&control, bar] { bar->setValue(control.percent()); });
+}
+
 void bind(Line& control, QWidget& form) {
   auto* line = findObject<LineWidget>(control, form);
   showWith(control, line, [&control, line] {
@@ -249,7 +255,7 @@ bool bindAsOneOf(Control& control, QWidget& form) {
 void bindControls(Window& window, QWidget& form) {
   for (Control* control : window.controls())
     bindAsOneOf<Label, ValueLabel, Frame, Button, Switch, MenuEntry, CheckBox, OptionButton,
-                ComboBox, TextBox, Line, Lamp, Knob, Slide, Graph>(*control, form);
+                ComboBox, TextBox, Line, Lamp, Progress, Knob, Slide, Graph>(*control, form);
 }
 
 void unbindControls(Window& window) {

@@ -38,6 +38,7 @@ QCPItemText* makeText(QCustomPlot* plot, const QColor& colour, Qt::Alignment ali
   text->setPositionAlignment(alignment);
   text->setVisible(false);
   text->setClipToAxisRect(false);
+  text->setLayer(QStringLiteral("overlay"));
   return text;
 }
 
@@ -209,9 +210,11 @@ void GraphView::showCursors() {
 void GraphView::showTriggerMarker() {
   const Cursor& marker = graph_->cursor("Triger");
   const Axis& y = graph_->axis("YAxis-1");
+  // Half the height of the mark, so that it is never cut.
+  constexpr double room = 8;
   trigger_->setVisible(marker.visible());
   trigger_->position->setCoords(graph_->axis("XAxis").maximum(),
-                                qBound(y.minimum(), marker.yPosition(), y.maximum()));
+                                qBound(y.minimum() + room, marker.yPosition(), y.maximum() - room));
 }
 
 QPointF GraphView::toUnits(const QPointF& position) const {
@@ -274,6 +277,9 @@ void GraphView::keyPressEvent(QKeyEvent* event) {
       break;
     case Qt::Key_E:
       graph_->toggleEnlarged();
+      return;
+    case Qt::Key_Escape:
+      if (graph_->enlarged()) graph_->toggleEnlarged();
       return;
     case Qt::Key_C:
       activeCursor_ = 1 - activeCursor_;

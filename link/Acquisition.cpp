@@ -3,6 +3,7 @@
 
 #include "ConnectionIndicator.h"
 #include "Numbers.h"
+#include "PortNotice.h"
 #include "WaveformRecord.h"
 
 namespace tracewell {
@@ -54,6 +55,7 @@ void Acquisition::DataReady(const std::string& data) {
   const Samples samples = decodeSamples(data, offset);
   ignoringErrors([&] { main_.graphDSO.plot(channel).plotXvsY(main_.XIndex, samples); });
   main_.txtMsg.text = recordText(channel, samples);
+  markTrace(main_);
   ignoringErrors([&] { port.reset(); });
   ignoringErrors([&] { main_.WaveCount = addInt16(main_.WaveCount, 1); });
 }

@@ -9,9 +9,14 @@ constexpr std::int16_t simulatedPort = 0;
 }  // namespace
 
 void showPort(frmDSO& main, std::int16_t portNumber) {
+  const std::string device = main.services().ports.deviceOf(portNumber);
   main.lblPort.caption =
-      "port " + std::to_string(portNumber) + " - " + main.services().ports.deviceOf(portNumber);
-  main.graphDSO.note = portNumber == simulatedPort ? "SIMULATED" : "";
+      "port " + std::to_string(portNumber) + (device.empty() ? "" : " - " + device);
+}
+
+void markTrace(frmDSO& main) {
+  const bool isSimulated = main.services().port.settings.portNumber == simulatedPort;
+  main.graphDSO.note = isSimulated ? "SIMULATED" : "";
 }
 
 }  // namespace tracewell

@@ -5,8 +5,11 @@
 
 namespace tracewell {
 
-/// Says in the window which device the port is, and marks the graph when it is the simulated
-/// instrument, so that nobody takes its traces for a measurement.
+/// Says in the window which device the port is.
 void showPort(frmDSO& main, std::int16_t portNumber);
+
+/// Marks the graph when the trace that has just come is the simulated instrument's, so that nobody
+/// takes it for a measurement. The mark stays until a trace of another port comes.
+void markTrace(frmDSO& main);
 
 }  // namespace tracewell

@@ -138,6 +138,14 @@ class Line : public Control {
   Property<int> borderStyle{*this, solid};
 };
 
+/// How far something has got.
+class Progress : public Control {
+ public:
+  using Control::Control;
+  /// 0 to 100.
+  Property<int> percent{*this};
+};
+
 /// A filled shape that shows a state by its colour.
 class Lamp : public Control {
  public:

@@ -94,6 +94,9 @@ class Graph : public Control {
   /// Shown in a corner, for instance that the trace is a simulated one; empty for nothing.
   Property<std::string> note{*this};
 
+  /// The view has the window to itself; set by the program.
+  Property<bool> enlarged{*this};
+
   /// Raised when the user has moved cur1 or cur2.
   Event<> cursorMoved;
   /// Raised by the view's own gesture for a larger or the normal view: a double click, or a key.

@@ -98,4 +98,14 @@ void Captions::ApplyCaptions(Window& window) {
   }
 }
 
+void Captions::DumpCaptions(const Window& window) {
+  const auto line = [this](const std::string& name, const std::string& caption) {
+    buffer_ += name + "," + caption + "," + caption + "\r\n";
+  };
+  line("// " + window.name().substr(3), window.caption());
+  for (const Control* control : window.controls())
+    if (const auto* captioned = dynamic_cast<const CaptionedControl*>(control))
+      line(control->name(), captioned->caption());
+}
+
 }  // namespace tracewell

@@ -11,9 +11,10 @@ namespace tracewell {
 /// The captions of all windows in the chosen language.
 class Captions {
  public:
-  /// `windows` are those that get captions after the main window, in this order.
-  Captions(frmDSO& main, std::vector<Window*> windows)
-      : main_(main), windows_(std::move(windows)) {}
+  explicit Captions(frmDSO& main) : main_(main) {}
+
+  /// The windows that get captions after the main window, in this order.
+  void setWindows(std::vector<Window*> windows) { windows_ = std::move(windows); }
 
   /// Ticks the language's menu entry and gives every window its captions. Raises an error that
   /// names the file when it is missing, or has no section for a window.
@@ -21,6 +22,10 @@ class Captions {
 
   /// One window's captions from the text of the caption file.
   void ApplyCaptions(Window& window);
+
+  /// Appends the window's section, with its present captions, to the text of the caption file in
+  /// memory: a template for translators.
+  void DumpCaptions(const Window& window);
 
  private:
   frmDSO& main_;

@@ -5,6 +5,7 @@ namespace tracewell {
 
 void GraphSize::ToggleGraphSize() {
   main_.GraphEnlarged = !main_.GraphEnlarged;
+  main_.graphDSO.enlarged = main_.GraphEnlarged;
   for (Control* panel : panels()) panel->visible = !main_.GraphEnlarged;
 }
 

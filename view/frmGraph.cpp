@@ -44,9 +44,9 @@ void frmGraph::pickColour(Button& button) {
   button.backColour = services().dialogs.pickColour(button.backColour().value_or(Colour()));
 }
 
-/// Each box writes the other one's style and then changes the other box, whose own handler writes it
-/// anew: checking a box ends in its style. Clearing one ends in the wrong style, which the box that
-/// the user has touched then puts right.
+/// Each box writes the other one's style and then changes the other box, whose own handler writes
+/// it anew: checking a box ends in its style. Clearing one ends in the wrong style, which the box
+/// that the user has touched then puts right.
 void frmGraph::opDot_Click(int row) {
   linePlot(row).borderStyle = Line::solid;
   opSolid(row).value = opDot(row).isChecked() ? 0 : 1;

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "AbandonedRecords.h"
 #include "Doubles.h"
 
@@ -111,6 +113,31 @@ TEST_F(BuiltInInstrument, KnobSpunDuringAcquisitionDelaysAndSpoilsNothing) {
   main.txtTest.type(":TIM:SCAL?");
   main.txtTest.pressKey(TextBox::enterKey);
   EXPECT_EQ(main.txtMsg.text(), "5.000 s");
+}
+
+TEST_F(BuiltInInstrument, MeasuredValuesAgreeWithTheTrace) {
+  connect();
+  clock.run(4000);
+  main.cmdRunStop.press();
+  clock.run(4000);
+  windows.user["frmVMeasure"] = [this] {
+    program.measurementChoice.cmdClearAll.press();
+    program.measurementChoice.cbV(0).toggle();
+    program.measurementChoice.cbF(0).toggle();
+    program.measurementChoice.cmdOK.press();
+  };
+  main.cmdVMeasure.press();
+  const auto value = [this](int label) {
+    const std::string& caption = main.lblMeasure(label).caption();
+    return std::pair(caption, std::stod(caption.substr(caption.find(':') + 1)));
+  };
+  const auto& trace = main.graphDSO.plot(1).y();
+  const auto [low, high] = std::ranges::minmax(trace);
+  const auto [vpp, volts] = value(0);
+  // One count is a fiftieth of the 500 mV per division.
+  EXPECT_NEAR(volts, (high - low) * 0.5 / 50, 0.5 / 50) << vpp;
+  const auto [freq, kilohertz] = value(1);
+  EXPECT_NEAR(kilohertz, 1, 0.01) << freq;
 }
 
 }  // namespace

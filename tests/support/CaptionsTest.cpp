@@ -52,7 +52,9 @@ TEST_F(CaptionsTest, CaptionsGoToTheirWindowInOnePass) {
       "//RS232,,Serielle \r\ncmdOK,OK, Gut, ja \r\ncmdCancel,Cancel,Weg\r\n"
       "// DSO ,,Haupt\r\nmnbFile,,Datei\r\nno comma\r\nmnbRS232,,Leitung\r\nnowhere,,X\r\n"
       "cmdStart,,nie\r\n");
-  Captions(bench.main, {&bench.program.rs232}).LoadCaptions();
+  Captions captions(bench.main);
+  captions.setWindows({&bench.program.rs232});
+  captions.LoadCaptions();
   EXPECT_EQ(bench.main.caption(), "Haupt");
   EXPECT_EQ(bench.main.mnbFile.caption(), "Datei");
   EXPECT_EQ(bench.main.mnbRS232.caption(), "RS-232");  // The line without a comma stopped at File.

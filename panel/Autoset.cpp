@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Autoset.h"
+
+#include "Waiting.h"
+
+namespace tracewell {
+
+Autoset::Autoset(frmDSO& main, CommandExchange& exchange, ErrorLog& errorLog,
+                 Acquisition& acquisition, InstrumentState& instrument, frmMsg& message)
+    : main_(main),
+      exchange_(exchange),
+      errorLog_(errorLog),
+      acquisition_(acquisition),
+      instrument_(instrument),
+      message_(message) {}
+
+void Autoset::cmdAutoset_Click() {
+  try {
+    message_.lblMsg.caption = main_.Msg[1];
+    message_.show();
+    acquisition_.StopAcq();
+    exchange_.SendDSOCmd(":AUT");
+    message_.showProgress(duration);
+    Delay(main_, duration);
+    instrument_.InitDSO();
+    acquisition_.ResumeAcq();
+    message_.hide();
+    message_.refresh();
+  } catch (const Error& error) {
+    errorLog_.ErrLog(error, "cmdAutoset_Click : ");
+  }
+}
+
+}  // namespace tracewell

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Acquisition.h"
+#include "InstrumentState.h"
+#include "frmMsg.h"
+
+namespace tracewell {
+
+/// Has the instrument find its own settings and reads what it has found.
+class Autoset {
+ public:
+  /// Milliseconds that the instrument is given.
+  static constexpr int duration = 10000;
+
+  Autoset(frmDSO& main, CommandExchange& exchange, ErrorLog& errorLog, Acquisition& acquisition,
+          InstrumentState& instrument, frmMsg& message);
+
+  void cmdAutoset_Click();
+
+ private:
+  frmDSO& main_;
+  CommandExchange& exchange_;
+  ErrorLog& errorLog_;
+  Acquisition& acquisition_;
+  InstrumentState& instrument_;
+  frmMsg& message_;
+};
+
+}  // namespace tracewell

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ChannelMath.h"
+
+#include <array>
+
+namespace tracewell {
+namespace {
+
+/// By list index. Unlike all other commands they begin without a colon.
+constexpr std::array<const char*, 4> commands = {"CHAN1:MATH 1", "CHAN1:MATH 2", "CHAN2:MATH 2",
+                                                 "CHAN1:MATH 0"};
+
+}  // namespace
+
+void ChannelMath::cbMath_Click() {
+  try {
+    const std::int16_t entry = main_.cbMath.listIndex();
+    if (entry != ComboBox::noEntry) exchange_.SendDSOCmd(commands.at(static_cast<unsigned>(entry)));
+  } catch (const Error& error) {
+    errorLog_.ErrLog(error, "cbMath_Click : ");
+  }
+}
+
+}  // namespace tracewell

@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "frmAcq.h"
+
+#include <array>
+
+#include "ConnectionIndicator.h"
+#include "ScaleTables.h"
+#include "SettingsBurst.h"
+
+namespace tracewell {
+
+frmAcq::frmAcq(frmDSO& main, CommandExchange& exchange, ErrorLog& errorLog,
+               Acquisition& acquisition, Captions& captions)
+    : Window("frmAcq", "Acquisition", main.services()),
+      main_(main),
+      exchange_(exchange),
+      errorLog_(errorLog),
+      acquisition_(acquisition),
+      captions_(captions) {
+  // Set at loading only: after an OK a later Cancel sends the row again.
+  formLoad = [this] { tag = "0"; };
+  cbMode.click = [this] { cbMode_Click(); };
+  cmdOK.click = [this] { cmdOK_Click(); };
+  cmdCancel.click = [this] { cmdCancel_Click(); };
+}
+
+void frmAcq::cmdAcq_Click() {
+  try {
+    acquisition_.StopAcq();
+    showSettings();
+    showModal();
+    if (tag == "1") sendSettings();
+    runAcquisition(main_);
+  } catch (const Error& error) {
+    errorLog_.ErrLog(error, "cmdAcq_Click : ");
+  }
+}
+
+void frmAcq::showSettings() {
+  load();
+  cbMode.listIndex = main_.gridMeasure.number(SetupTable::acquire, 2);
+  cbAverage.listIndex = main_.gridMeasure.number(SetupTable::acquire, 3);
+  cbLength.listIndex = main_.gridMeasure.number(SetupTable::acquire, 4);
+}
+
+void frmAcq::sendSettings() {
+  const ShortTimeOut shortTimeOut(main_);
+  main_.txtMsg.text = "";
+  for (std::size_t i = 0; i < AcqQuery.size(); ++i) {
+    const int column = SetupTable::firstValue + static_cast<int>(i);
+    const std::string command =
+        std::string(AcqQuery[i]) + " " + main_.gridMeasure.text(SetupTable::acquire, column);
+    exchange_.SendDSOCmd(command);
+    echoLine(main_, command);
+  }
+}
+
+void frmAcq::cbMode_Click() {
+  const bool isAveraging = cbMode.text() == "Average";
+  cbAverage.visible = isAveraging;
+  lblAverage.visible = isAveraging;
+}
+
+void frmAcq::cmdOK_Click() {
+  int column = SetupTable::firstValue;
+  for (const ComboBox* box : {&cbMode, &cbAverage, &cbLength})
+    main_.gridMeasure.setText(SetupTable::acquire, column++, std::to_string(box->listIndex()));
+  tag = "1";
+  hide();
+  main_.refresh();
+}
+
+void frmAcq::cmdCancel_Click() {
+  captions_.DumpCaptions(*this);
+  hide();
+  main_.refresh();
+}
+
+}  // namespace tracewell

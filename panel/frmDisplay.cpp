@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "frmDisplay.h"
+
+#include "ConnectionIndicator.h"
+#include "Numbers.h"
+#include "ScaleTables.h"
+#include "SettingsBurst.h"
+#include "Waiting.h"
+#include "WaitingNotice.h"
+
+namespace tracewell {
+namespace {
+
+/// Places in BrightQuery; the third one, the waveform style, is never sent.
+enum Brightness : std::size_t { ofData, ofGraticule, brightnessCount };
+
+constexpr int column(std::size_t setting) {
+  return SetupTable::firstValue + static_cast<int>(setting);
+}
+
+constexpr int styleColumn = 4;
+
+}  // namespace
+
+frmDisplay::frmDisplay(frmDSO& main, CommandExchange& exchange, ErrorLog& errorLog,
+                       Acquisition& acquisition)
+    : Window("frmDisplay", "Display Setup", main.services()),
+      main_(main),
+      exchange_(exchange),
+      errorLog_(errorLog),
+      acquisition_(acquisition) {
+  formActivate = [this] { tag = "0"; };
+  slideDataBrightness.pointerValueChanged = [this] {
+    lblDataBright.caption = numberText(slideDataBrightness.value());
+  };
+  slideGraticuleBrightness.pointerValueChanged = [this] {
+    lblGraticuleBright.caption = numberText(slideGraticuleBrightness.value());
+  };
+  cmdOK.click = [this] { cmdOK_Click(); };
+  cmdCancel.click = [this] { cmdCancel_Click(); };
+}
+
+void frmDisplay::cmdDisplay_Click() {
+  try {
+    acquisition_.StopAcq();
+    readSettings();
+    showModal();
+    if (tag == "1") sendBrightness();
+    runAcquisition(main_);
+  } catch (const Error& error) {
+    errorLog_.ErrLog(error, "cmdDisplay_Click : ");
+  }
+}
+
+/// The style is the panel's own, so the instrument is not asked for it.
+void frmDisplay::readSettings() {
+  const WaitingNotice notice(main_);
+  slideDataBrightness.value = brightness(ofData);
+  slideGraticuleBrightness.value = brightness(ofGraticule);
+  const bool isDot = main_.gridMeasure.text(SetupTable::display, styleColumn) == "1";
+  (isDot ? obDot : obVector).value = true;
+}
+
+/// The instrument's number, or the stored one where it gave none.
+double frmDisplay::brightness(std::size_t setting) {
+  const std::string reply = exchange_.SendDSOCmd(std::string(BrightQuery[setting]) + "?");
+  return toDouble(isNumeric(reply) ? reply
+                                   : main_.gridMeasure.text(SetupTable::display, column(setting)));
+}
+
+/// One attempt each, unlike the channel and trigger settings: what the instrument has made of it
+/// is read and left as it is.
+void frmDisplay::sendBrightness() {
+  main_.refresh();
+  const ShortTimeOut shortTimeOut(main_);
+  main_.txtMsg.text = "";
+  for (std::size_t setting = 0; setting < brightnessCount; ++setting) {
+    const std::string stem(BrightQuery[setting]);
+    const std::string command =
+        stem + " " + main_.gridMeasure.text(SetupTable::display, column(setting));
+    exchange_.SendDSOCmd(command);
+    Delay(main_, SettingsBurst::settlingTime);
+    echoLine(main_, command);
+    exchange_.SendDSOCmd(stem + "?");
+  }
+}
+
+void frmDisplay::cmdOK_Click() {
+  SetupTable& table = main_.gridMeasure;
+  table.setText(SetupTable::display, column(ofData), numberText(slideDataBrightness.value()));
+  table.setText(SetupTable::display, column(ofGraticule),
+                numberText(slideGraticuleBrightness.value()));
+  table.setText(SetupTable::display, styleColumn, obDot.value() ? "1" : "0");
+  tag = "1";
+  hide();
+}
+
+void frmDisplay::cmdCancel_Click() {
+  hide();
+  main_.refresh();
+}
+
+}  // namespace tracewell

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Acquisition.h"
+#include "Controls.h"
+#include "Dials.h"
+
+namespace tracewell {
+
+/// The display dialog: edits row 7 of the setup table. After OK both brightnesses are sent, each
+/// once and read back; the waveform style stays a stored choice of the panel.
+class frmDisplay : public Window {
+ public:
+  frmDisplay(frmDSO& main, CommandExchange& exchange, ErrorLog& errorLog, Acquisition& acquisition);
+
+  Slide slideDataBrightness{*this, "slideDataBrightness", "Data Brightness : ", {0, 100, 1}};
+  ValueLabel lblDataBright{*this, "lblDataBright", "0"};
+  Slide slideGraticuleBrightness{
+      *this, "slideGraticuleBrightness", "Graticule Brightness : ", {0, 100, 1}};
+  ValueLabel lblGraticuleBright{*this, "lblGraticuleBright", "0"};
+  Frame fmWaveForm{*this, "fmWaveForm", "WaveForm"};
+  OptionButton obVector{*this, "obVector", "Vector", "style"};
+  OptionButton obDot{*this, "obDot", "Dot", "style"};
+  Button cmdOK{*this, "cmdOK", "OK"};
+  Button cmdCancel{*this, "cmdCancel", "cancel"};
+
+  void cmdDisplay_Click();
+
+ private:
+  void readSettings();
+  double brightness(std::size_t setting);
+  void sendBrightness();
+  void cmdOK_Click();
+  void cmdCancel_Click();
+
+  frmDSO& main_;
+  CommandExchange& exchange_;
+  ErrorLog& errorLog_;
+  Acquisition& acquisition_;
+};
+
+}  // namespace tracewell

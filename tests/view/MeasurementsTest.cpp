@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Measurements.h"
+
+#include <gtest/gtest.h>
+
+#include "Doubles.h"
+
+namespace tracewell {
+namespace {
+
+using Lines = std::vector<std::string>;
+
+class MeasurementsTest : public testing::Test {
+ protected:
+  MeasurementsTest() {
+    bench.program.start();
+    for (int row = 1; row <= 5; ++row)
+      for (int column = 2; column < 10; ++column) main.gridMeasure.setText(row, column, "0");
+    bench.windows.user["frmVMeasure"] = [this] { choice.cmdOK.press(); };
+  }
+  void flag(int row, int column) { main.gridMeasure.setText(row, column, "1"); }
+  Lines takeWire() { return std::exchange(port.wire, {}); }
+  std::string label(int index) { return main.lblMeasure(index).caption(); }
+
+  Bench bench;
+  ScriptedPort& port = bench.port;
+  frmDSO& main = bench.main;
+  frmVMeasure& choice = bench.program.measurementChoice;
+  frmFMeasure& quickChoice = bench.program.quickMeasurementChoice;
+};
+
+TEST_F(MeasurementsTest, FlaggedItemsOfBothChannelsInOrder) {
+  flag(2, 2);  // Vpp of channel 1
+  flag(4, 8);  // Duty Cycle of channel 1
+  flag(3, 9);  // Vmin of channel 2
+  flag(5, 2);  // Freq of channel 2
+  port.answer(":MEAS:VPP?", {"2.04 V\n"});
+  port.answer(":MEAS:PDUT?", {" 50.1 %\n"});
+  port.answer(":MEAS:VMIN?", {"-1.0\n"});
+  port.answer(":MEAS:FREQ?", {"1.000 kHz\n"});
+  main.lblMeasure(15).caption = "old";
+  main.tmDSO.enabled = true;
+  main.cmdVMeasure.press();
+  EXPECT_EQ(takeWire(), (Lines{":MEAS:SOUR 1", ":MEAS:VPP?", ":MEAS:PDUT?", ":MEAS:SOUR 2",
+                               ":MEAS:VMIN?", ":MEAS:FREQ?"}));
+  EXPECT_EQ(label(0), "Vpp(1)    : 2.04 V");
+  EXPECT_EQ(label(1), "Duty Cycle(1): 50.1 %");
+  EXPECT_EQ(label(2), "Vmin(2)   : -1.0");
+  EXPECT_EQ(label(3), "Freq(2)   : 1.000 kHz");
+  EXPECT_EQ(label(4), "");
+  EXPECT_EQ(label(15), "");
+  EXPECT_EQ(port.timeOuts, std::vector<int>(4, 300));
+  EXPECT_EQ(port.readTimeOut, 600);
+  EXPECT_FALSE(main.tmDSO.enabled());
+  EXPECT_EQ(main.lblConnect.caption(), main.Msg[8]);
+  EXPECT_EQ(main.cmdStart.caption(), main.Msg[3]);
+}
+
+TEST_F(MeasurementsTest, ValueThatIsNotThereIsAskedForThreeTimesMore) {
+  flag(3, 2);
+  flag(3, 3);
+  port.answer(":MEAS:VPP?", {"N/A\n", "N/A\n", "1 V\n"});
+  port.answer(":MEAS:VAMP?", {"N/A\n"});
+  port.answer("*IDN?", {"KRM-410\n"});
+  main.mnbVoltage.choose();
+  Lines expected = {":MEAS:SOUR 1", ":MEAS:SOUR 2", ":MEAS:VPP?"};
+  for (int i = 0; i < 2; ++i)
+    expected.insert(expected.end(), {":MEAS:SOUR 2", "*IDN?", ":MEAS:VPP?"});
+  expected.emplace_back(":MEAS:VAMP?");
+  for (int i = 0; i < 3; ++i)
+    expected.insert(expected.end(), {":MEAS:SOUR 2", "*IDN?", ":MEAS:VAMP?"});
+  EXPECT_EQ(takeWire(), expected);
+  EXPECT_EQ(label(0), "Vpp(2)    : 1 V");
+  EXPECT_EQ(label(1), "Vamp(2)   : N/A");
+  // Silence is asked again without the detour.
+  flag(2, 2);
+  main.gridMeasure.setText(3, 2, "0");
+  main.gridMeasure.setText(3, 3, "0");
+  port.replies.clear();
+  main.cmdVMeasure.press();
+  EXPECT_EQ(takeWire(), (Lines{":MEAS:SOUR 1", ":MEAS:VPP?", ":MEAS:VPP?", ":MEAS:VPP?",
+                               ":MEAS:VPP?", ":MEAS:SOUR 2"}));
+  EXPECT_EQ(label(0), "Vpp(1)    : ");
+}
+
+TEST_F(MeasurementsTest, NothingPickedAndCancelled) {
+  main.lblMeasure(0).caption = "old";
+  main.cmdVMeasure.press();
+  EXPECT_EQ(takeWire(), (Lines{":MEAS:SOUR 1", ":MEAS:SOUR 2"}));
+  EXPECT_EQ(label(0), "");
+  main.lblMeasure(0).caption = "old";
+  bench.windows.user["frmVMeasure"] = [&] {
+    choice.cbV(0).toggle();
+    choice.cmdCancel.press();
+  };
+  main.cmdVMeasure.press();
+  EXPECT_TRUE(takeWire().empty());
+  EXPECT_EQ(label(0), "old");
+  EXPECT_EQ(main.gridMeasure.text(2, 2), "0");
+  EXPECT_FALSE(main.tmDSO.enabled());
+}
+
+TEST_F(MeasurementsTest, SeventeenthResultTakesTheLastLabel) {
+  bench.windows.user["frmVMeasure"] = [&] {
+    choice.cmdSelectAll.press();
+    choice.cmdSelectAll2.press();
+    choice.cmdClearAll.press();
+    choice.cmdSelectAll.press();
+    for (int i = 10; i < 16; ++i) choice.cbV(i).toggle();
+    for (int i = 7; i < 14; ++i) choice.cbF(i).toggle();
+    choice.cmdOK.press();
+  };
+  for (const auto query : VoltMeasQuery) port.answer(std::string(query), {"v\n"});
+  for (const auto query : FreqMeasQuery) port.answer(std::string(query), {"t\n"});
+  main.cmdVMeasure.press();
+  EXPECT_EQ(takeWire().size(), 2u + 17u);
+  EXPECT_EQ(label(14), "Duty Cycle(1): t");
+  EXPECT_EQ(label(15), "Vamp(2)   : v");
+}
+
+TEST_F(MeasurementsTest, QuickMeasurementReadsTheVoltageRowAndNeitherPadsNorRepeats) {
+  port.answer(":MEAS:FREQ?", {"N/A\n"});
+  port.answer(":MEAS:NWID?", {"500 us\n"});
+  bench.windows.user["frmFMeasure"] = [&] {
+    quickChoice.cbChan.choose(1);
+    quickChoice.cbF(0).toggle();
+    quickChoice.cbF(5).toggle();
+    quickChoice.cmdOK.press();
+  };
+  main.tmDSO.enabled = true;
+  main.mnbFrequency.choose();
+  const Lines expected = {":MEAS:SOUR 2", ":MEAS:FREQ?", ":MEAS:NWID?"};
+  EXPECT_EQ(takeWire(), expected);
+  EXPECT_EQ(label(0), "FreqN/A");
+  EXPECT_EQ(label(1), "-Width500 us");
+  EXPECT_EQ(port.timeOuts, (std::vector<int>{150, 150}));
+  EXPECT_EQ(port.readTimeOut, 600);
+  EXPECT_TRUE(main.tmDSO.enabled());
+  for (const int row : {1, 2}) EXPECT_EQ(main.gridMeasure.text(row, 7), "1") << row;
+  main.cmdFMeasure.press();
+  EXPECT_EQ(takeWire(), expected);
+  bench.windows.user["frmFMeasure"] = [&] {
+    EXPECT_EQ(quickChoice.cbChan.text(), "2");
+    EXPECT_TRUE(quickChoice.cbF(5).isChecked());
+    quickChoice.cmdSelectAll.press();
+    quickChoice.cmdCancel.press();
+  };
+  main.mnbFrequency.choose();
+  EXPECT_TRUE(takeWire().empty());
+  EXPECT_EQ(main.gridMeasure.text(2, 3), "0");
+}
+
+TEST_F(MeasurementsTest, ClosingTheWindowBetweenTwoItemsEndsTheProgram) {
+  flag(2, 2);
+  flag(2, 3);
+  port.answer(":MEAS:VPP?", {"1\n"});
+  bench.clock.callAfter(0, [&] { main.close(); });
+  main.cmdVMeasure.press();
+  EXPECT_EQ(takeWire(), (Lines{":MEAS:SOUR 1", ":MEAS:VPP?", ":SYST:UNL"}));
+  EXPECT_TRUE(bench.dialogs.runTimeErrors.empty());
+}
+
+}  // namespace
+}  // namespace tracewell

@@ -1,0 +1,120 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Measurements.h"
+
+#include <algorithm>
+
+#include "ConnectionIndicator.h"
+#include "Numbers.h"
+#include "SettingsBurst.h"
+#include "Waiting.h"
+
+namespace tracewell {
+namespace {
+
+std::string sourceCommand(int channel) {
+  return ":MEAS:SOUR " + std::to_string(channel);
+}
+
+/// "Vpp(1)    ": at least ten characters.
+std::string labelText(std::string_view name, int channel) {
+  constexpr std::size_t shortest = 10;
+  std::string text = std::string(name) + "(" + std::to_string(channel) + ")";
+  text.resize(std::max(text.size(), shortest), ' ');
+  return text;
+}
+
+/// "N/A" and its like, or nothing at all.
+bool isNoValue(const std::string& reply) {
+  return reply.empty() || reply.starts_with('N');
+}
+
+}  // namespace
+
+Measurements::Measurements(frmDSO& main, CommandExchange& exchange, Acquisition& acquisition,
+                           frmVMeasure& selection, frmFMeasure& quickSelection)
+    : main_(main),
+      exchange_(exchange),
+      acquisition_(acquisition),
+      selection_(selection),
+      quickSelection_(quickSelection) {}
+
+void Measurements::cmdVMeasure_Click() {
+  acquisition_.StopAcq();
+  selection_.load();
+  selection_.showFlags();
+  selection_.showModal();
+  RunMeasurements();
+  main_.tmDSO.enabled = false;
+  showStopped(main_);
+}
+
+void Measurements::RunMeasurements() {
+  if (leadingNumber(selection_.tag) != 1) return;
+  main_.refresh();
+  ClearMeasureLabels();
+  const ShortTimeOut shortTimeOut(main_);
+  nextLabel_ = 0;
+  for (const int channel : {1, 2}) {
+    exchange_.SendDSOCmd(sourceCommand(channel));
+    measureFlagged(channel, VoltMeasName, VoltMeasQuery, channel + 1);
+    measureFlagged(channel, FreqMeasName, FreqMeasQuery, channel + 3);
+  }
+}
+
+void Measurements::ClearMeasureLabels() {
+  for (ValueLabel& label : main_.lblMeasure) label.caption = "";
+}
+
+void Measurements::measureFlagged(int channel, std::span<const std::string_view> names,
+                                  std::span<const std::string_view> queries, int flagRow) {
+  for (std::size_t item = 0; item < names.size(); ++item)
+    if (isFlagged(flagRow, item)) measureOne(channel, names[item], std::string(queries[item]));
+}
+
+bool Measurements::isFlagged(int row, std::size_t item) const {
+  return main_.gridMeasure.text(row, SetupTable::firstValue + static_cast<int>(item)) == "1";
+}
+
+void Measurements::measureOne(int channel, std::string_view name, const std::string& query) {
+  ValueLabel& label = main_.lblMeasure(nextLabel_);
+  label.caption = labelText(name, channel) + ": " + askPatiently(channel, query);
+  label.refresh();
+  nextLabel_ = std::min(nextLabel_ + 1, main_.lblMeasure.size() - 1);
+  // The list can be long and the instrument slow: the window stays alive between two items.
+  Delay(main_, 0);
+}
+
+std::string Measurements::askPatiently(int channel, const std::string& query) {
+  constexpr int mostAttempts = 4;
+  std::string reply = exchange_.SendDSOCmd(query);
+  for (int attempt = 1; attempt < mostAttempts && isNoValue(reply); ++attempt) {
+    if (!reply.empty()) {
+      // Brings the instrument back to a known state.
+      exchange_.SendDSOCmd(sourceCommand(channel));
+      exchange_.SendDSOCmd("*IDN?");
+    }
+    reply = exchange_.SendDSOCmd(query);
+  }
+  return reply;
+}
+
+void Measurements::mnbFrequency_Click() {
+  quickSelection_.showModal();
+  if (quickSelection_.tag == "1") cmdFMeasure_Click();
+}
+
+void Measurements::cmdFMeasure_Click() {
+  int& readTimeOut = main_.services().port.readTimeOut;
+  readTimeOut = ShortReplyTimeout(main_);
+  exchange_.SendDSOCmd(sourceCommand(main_.FMeasChan));
+  int label = 0;
+  for (std::size_t item = 0; item < FreqMeasQuery.size(); ++item) {
+    if (!isFlagged(SetupTable::voltageChannel1, item)) continue;
+    const std::string reply = exchange_.SendDSOCmd(std::string(FreqMeasQuery[item]));
+    main_.lblMeasure(label++).caption = std::string(FreqMeasName[item]) + reply;
+    main_.refresh();
+  }
+  readTimeOut = ReplyTimeout(main_);
+}
+
+}  // namespace tracewell

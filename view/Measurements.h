@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Acquisition.h"
+#include "MeasurementItems.h"
+#include "frmFMeasure.h"
+#include "frmVMeasure.h"
+
+namespace tracewell {
+
+/// The instrument's own measurements, queried one by one and shown as they arrive, without
+/// conversion.
+class Measurements {
+ public:
+  Measurements(frmDSO& main, CommandExchange& exchange, Acquisition& acquisition,
+               frmVMeasure& selection, frmFMeasure& quickSelection);
+
+  /// Stops the acquisition, has the user choose, measures, and leaves the acquisition stopped.
+  void cmdVMeasure_Click();
+  /// Measures the times of one channel with the last choice. The acquisition goes on.
+  void cmdFMeasure_Click();
+  /// The same after the user has chosen.
+  void mnbFrequency_Click();
+
+  /// Measures what is flagged of both channels, unless the choice was cancelled. A value that the
+  /// instrument does not have is asked for up to three times more. Throws ProgramEnded when the
+  /// window is closed in between.
+  void RunMeasurements();
+  void ClearMeasureLabels();
+
+ private:
+  void measureFlagged(int channel, std::span<const std::string_view> names,
+                      std::span<const std::string_view> queries, int flagRow);
+  void measureOne(int channel, std::string_view name, const std::string& query);
+  std::string askPatiently(int channel, const std::string& query);
+  bool isFlagged(int row, std::size_t item) const;
+
+  frmDSO& main_;
+  CommandExchange& exchange_;
+  Acquisition& acquisition_;
+  frmVMeasure& selection_;
+  frmFMeasure& quickSelection_;
+  /// Label that the next result goes to; the last one takes all that find no room.
+  int nextLabel_ = 0;
+};
+
+}  // namespace tracewell

@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "frmVMeasure.h"
+
+#include "MeasurementItems.h"
+
+namespace tracewell {
+namespace {
+
+struct Cell {
+  int row;
+  int column;
+};
+
+Cell voltageCell(int box) {
+  return {box < voltageItems ? SetupTable::voltageChannel1 : SetupTable::voltageChannel2,
+          SetupTable::firstValue + box % voltageItems};
+}
+
+Cell timeCell(int box) {
+  return {box < timeItems ? SetupTable::timeChannel1 : SetupTable::timeChannel2,
+          SetupTable::firstValue + box % timeItems};
+}
+
+void showFlag(const SetupTable& table, Cell cell, CheckBox& box) {
+  box.value = table.text(cell.row, cell.column) == "1" ? 1 : 0;
+}
+
+void keepFlag(SetupTable& table, Cell cell, const CheckBox& box) {
+  table.setText(cell.row, cell.column, std::to_string(box.value()));
+}
+
+}  // namespace
+
+frmVMeasure::frmVMeasure(frmDSO& main, Captions& captions)
+    : Window("frmVMeasure", "Voltage Measure", main.services()), main_(main), captions_(captions) {
+  formActivate = [this] { tag = "0"; };
+  cmdSelectAll.click = [this] { setChannel(0, true); };
+  cmdClearAll.click = [this] { setChannel(0, false); };
+  cmdSelectAll2.click = [this] { setChannel(1, true); };
+  cmdClearAll2.click = [this] { setChannel(1, false); };
+  cmdOK.click = [this] { cmdOK_Click(); };
+  cmdCancel.click = [this] { cmdCancel_Click(); };
+}
+
+void frmVMeasure::showFlags() {
+  for (CheckBox& box : cbV) showFlag(main_.gridMeasure, voltageCell(box.index()), box);
+  for (CheckBox& box : cbF) showFlag(main_.gridMeasure, timeCell(box.index()), box);
+}
+
+void frmVMeasure::setChannel(int channel, bool isChecked) {
+  const std::int16_t value = isChecked ? 1 : 0;
+  for (int i = 0; i < voltageItems; ++i) cbV(channel * voltageItems + i).value = value;
+  for (int i = 0; i < timeItems; ++i) cbF(channel * timeItems + i).value = value;
+}
+
+void frmVMeasure::cmdOK_Click() {
+  for (CheckBox& box : cbV) keepFlag(main_.gridMeasure, voltageCell(box.index()), box);
+  for (CheckBox& box : cbF) keepFlag(main_.gridMeasure, timeCell(box.index()), box);
+  tag = "1";
+  hide();
+}
+
+void frmVMeasure::cmdCancel_Click() {
+  hide();
+  captions_.DumpCaptions(*this);
+}
+
+}  // namespace tracewell
