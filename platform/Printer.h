@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "Image.h"
+
+namespace tracewell {
+
+/// The graph for paper: lines in graph units, and the texts around it.
+struct GraphPage {
+  struct Trace {
+    std::string name;
+    /// Graph units.
+    std::vector<double> x;
+    std::vector<double> y;
+  };
+  std::string title;
+  /// One line each, below the graph.
+  std::vector<std::string> captions;
+  std::vector<Trace> traces;
+};
+
+/// The printer in use: the desktop's default one until set up otherwise, a PDF file where the user
+/// wants that. Implemented by desktop/DesktopPrinter, and by tests/RecordingPrinter.
+///
+/// Each print is a document of its own. A user who has no printer is asked to choose one; declining
+/// prints nothing. Raises an error with the reason when printing fails.
+class Printer {
+ public:
+  virtual ~Printer() = default;
+
+  /// Lets the user choose printer and paper.
+  virtual void setUp() = 0;
+  virtual void printImage(const Image& image) = 0;
+  virtual void printText(const std::string& text) = 0;
+  virtual void printPage(const GraphPage& page) = 0;
+};
+
+}  // namespace tracewell

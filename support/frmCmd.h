@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <array>
+
+#include "Acquisition.h"
+#include "CommandLine.h"
+#include "Controls.h"
+#include "Lists.h"
+
+namespace tracewell {
+
+/// The command console: the instrument's commands as a tree from the file "dso.cmd", each with a
+/// description and a hint, and a line to edit and send them.
+class frmCmd : public Window {
+ public:
+  frmCmd(frmDSO& main, ErrorLog& errorLog, Acquisition& acquisition, CommandLine& commandLine);
+
+  Tree tvCmd{*this, "tvCmd"};
+  Label lblCmd{*this, "lblCmd", "Command :"};
+  TextBox txtCmd{*this, "txtCmd"};
+  ValueLabel lblCmdHint{*this, "lblCmdHint", ""};
+  ValueLabel lblDescription{*this, "lblDescription", ""};
+  Button cmdRun{*this, "cmdRun", "Run"};
+  Button cmdOK{*this, "cmdOK", "Close"};
+
+  void cmdDSOcmd_Click();
+
+ private:
+  static constexpr std::size_t mostEntries = 100;
+
+  void Form_Load();
+  void tvCmd_NodeClick(int node);
+  void txtCmd_KeyDown(int code);
+  void RunConsoleCommand();
+
+  frmDSO& main_;
+  ErrorLog& errorLog_;
+  Acquisition& acquisition_;
+  CommandLine& commandLine_;
+  /// By entry; node n of the tree shows entry n - 1.
+  std::array<std::string, mostEntries> CmdDesc_;
+  std::array<std::string, mostEntries> CmdHint_;
+};
+
+}  // namespace tracewell
