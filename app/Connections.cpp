@@ -68,17 +68,32 @@ void Tracewell::connectView() {
   main.cmdVMeasure.click = [this] { measurements.cmdVMeasure_Click(); };
   main.mnbVoltage.click = [this] { measurements.cmdVMeasure_Click(); };
   main.cmdFMeasure.click = [this] { measurements.cmdFMeasure_Click(); };
+  main.cmdPrint.click = [this] { printing.cmdPrint_Click(); };
+  main.mnbPrint.click = [this] { printing.cmdPrint_Click(); };
+  main.mnbPrintSetup.click = [this] { printing.mnbPrintSetup_Click(); };
   main.mnbFrequency.click = [this] { measurements.mnbFrequency_Click(); };
 }
 
 void Tracewell::connectFiles() {
   main.mnbLoadSetup.click = [this] { setupFiles.mnbLoadSetup_Click(); };
   main.mnbSaveSetup.click = [this] { setupFiles.mnbSaveSetup_Click(); };
+  main.cmdSave.click = [this] { waveformButtons.cmdSave_Click(); };
+  main.mnbSaveWaveform.click = [this] { waveformButtons.cmdSave_Click(); };
+  main.cmdLoad.click = [this] { waveformButtons.cmdLoad_Click(); };
+  main.mnbLoad.click = [this] { waveformButtons.cmdLoad_Click(); };
+  main.cmdLoadCSV.click = [this] { waveformButtons.cmdLoadCSV_Click(); };
+  main.mnbLoadCSV.click = [this] { waveformButtons.cmdLoadCSV_Click(); };
+  main.cmdRemove.click = [this] { waveformButtons.cmdRemove_Click(); };
+  main.cmdExportCSV.click = [this] { waveformButtons.cmdExportCSV_Click(); };
+  main.mnbConf.click = [this] { report.mnbConf_Click(); };
 }
 
 void Tracewell::connectSupport() {
   main.lblDSOCmd.doubleClicked = [this] { errLog.lblDSOCmd_DblClick(); };
   main.mnbErrLog.click = [this] { errLog.lblDSOCmd_DblClick(); };
+  main.cmdDSOcmd.click = [this] { console.cmdDSOcmd_Click(); };
+  main.mnbDSOcmd.click = [this] { console.cmdDSOcmd_Click(); };
+  main.mnbAbout.click = [this] { about.mnbAbout_Click(); };
   int language = 1;
   for (MenuEntry* entry : {&main.mnbLA1, &main.mnbLA2, &main.mnbLA3, &main.mnbLA4, &main.mnbLA5})
     entry->click = [this, number = language++] { languageMenu.mnbLA_Click(number); };

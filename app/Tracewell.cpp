@@ -34,7 +34,14 @@ Tracewell::Tracewell(Services& services)
       measurementChoice(main, captions),
       quickMeasurementChoice(main),
       measurements(main, exchange, acquisition, measurementChoice, quickMeasurementChoice),
+      printing(main, errorLog, acquisition),
       setupFiles(main),
+      saveWindow(main),
+      loadWindow(main),
+      waveformButtons(main, acquisition, saveWindow, loadWindow),
+      report(main),
+      console(main, errorLog, acquisition, commandLine),
+      about(main),
       languageMenu(main, captions),
       lifecycle(main, setupFiles, captions, exchange, otherWindows()) {
   captions.setWindows(captionedWindows());
@@ -47,13 +54,17 @@ Tracewell::Tracewell(Services& services)
 }
 
 std::vector<Window*> Tracewell::captionedWindows() {
-  return {&acquire, &channelDialog, &channelScale, &display, &quickMeasurementChoice, &graphStyle,
-          &message, &rs232,         &timeScale,    &trigger, &measurementChoice};
+  return {&acquire,    &channelDialog, &channelScale,
+          &console,    &display,       &quickMeasurementChoice,
+          &graphStyle, &loadWindow,    &message,
+          &rs232,      &saveWindow,    &report,
+          &timeScale,  &trigger,       &measurementChoice};
 }
 
 std::vector<Window*> Tracewell::otherWindows() {
   std::vector<Window*> windows = captionedWindows();
   windows.push_back(&errLog);
+  windows.push_back(&about);
   return windows;
 }
 

@@ -11,12 +11,17 @@
 #include "LanguageMenu.h"
 #include "Lifecycle.h"
 #include "Measurements.h"
+#include "PagePrinting.h"
 #include "ScaleKnobs.h"
 #include "TimeControls.h"
+#include "WaveformButtons.h"
+#include "frmAbout.h"
 #include "frmAcq.h"
+#include "frmCmd.h"
 #include "frmDisplay.h"
 #include "frmGraph.h"
 #include "frmRS232.h"
+#include "frmSetup.h"
 #include "frmTimeDiv.h"
 #include "frmTrig.h"
 
@@ -61,7 +66,14 @@ class Tracewell {
   frmVMeasure measurementChoice;
   frmFMeasure quickMeasurementChoice;
   Measurements measurements;
+  PagePrinting printing;
   SetupFiles setupFiles;
+  frmSave saveWindow;
+  frmLoad loadWindow;
+  WaveformButtons waveformButtons;
+  frmSetup report;
+  frmCmd console;
+  frmAbout about;
 
   /// The windows that get captions after the main window, in this order.
   std::vector<Window*> captionedWindows();

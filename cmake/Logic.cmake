@@ -8,6 +8,12 @@ add_library(tracewell_logic STATIC
   app/frmDSO.cpp
   files/SetupFiles.cpp
   files/SetupTable.cpp
+  files/WaveformButtons.cpp
+  files/WaveformSetReader.cpp
+  files/WaveformSetWriter.cpp
+  files/frmLoad.cpp
+  files/frmSave.cpp
+  files/frmSetup.cpp
   link/Acquisition.cpp
   link/CommandExchange.cpp
   link/CommandLine.cpp
@@ -32,19 +38,24 @@ add_library(tracewell_logic STATIC
   panel/frmTimeDiv.cpp
   panel/frmTrig.cpp
   support/Captions.cpp
+  support/CommandFile.cpp
   support/ErrorLog.cpp
   support/LanguageMenu.cpp
   support/Messages.cpp
+  support/frmAbout.cpp
+  support/frmCmd.cpp
   support/frmErrLog.cpp
   view/Cursors.cpp
   view/GraphSetup.cpp
   view/GraphSize.cpp
   view/MeasurementItems.cpp
   view/Measurements.cpp
+  view/PagePrinting.cpp
   view/TriggerMarker.cpp
   view/frmFMeasure.cpp
   view/frmGraph.cpp
   view/frmVMeasure.cpp
 )
 target_include_directories(tracewell_logic PUBLIC app files link panel support view)
+target_compile_definitions(tracewell_logic PUBLIC TRACEWELL_VERSION="${PROJECT_VERSION}")
 target_link_libraries(tracewell_logic PUBLIC tracewell_platform PRIVATE tracewell_warnings)

@@ -10,6 +10,7 @@
 #include <QIcon>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMenu>
 #include <QPixmap>
 #include <QPlainTextEdit>
@@ -17,14 +18,18 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
+#include <QTreeWidget>
 
 #include "Controls.h"
 #include "Dials.h"
 #include "Graph.h"
 #include "GraphView.h"
+#include "Images.h"
 #include "KnobWidget.h"
 #include "LampWidget.h"
 #include "LineWidget.h"
+#include "Lists.h"
+#include "PictureWidget.h"
 #include "SlideWidget.h"
 #include "Text.h"
 
@@ -74,13 +79,17 @@ class DoubleClickFilter : public QObject {
 
 void bind(Label& control, QWidget& form) {
   auto* label = findObject<QLabel>(control, form);
-  showWith(control, label, [&control, label] { label->setText(toQt(control.caption())); });
+  showWith(control, label, [&control, label] {
+    label->setText(toQt(control.caption()).remove(QLatin1Char('\r')));
+  });
   if (control.doubleClicked) new DoubleClickFilter(label, [&control] { control.doubleClick(); });
 }
 
 void bind(ValueLabel& control, QWidget& form) {
   auto* label = findObject<QLabel>(control, form);
-  showWith(control, label, [&control, label] { label->setText(toQt(control.caption())); });
+  showWith(control, label, [&control, label] {
+    label->setText(toQt(control.caption()).remove(QLatin1Char('\r')));
+  });
 }
 
 void bind(Frame& control, QWidget& form) {
@@ -241,6 +250,56 @@ void bind(Graph& control, QWidget& form) {
   findObject<GraphView>(control, form)->bind(control);
 }
 
+void bind(ListBox& control, QWidget& form) {
+  auto* list = findObject<QListWidget>(control, form);
+  showWith(control, list, [&control, list] {
+    QStringList items;
+    for (const std::string& item : control.items()) items << toQt(item);
+    QStringList shown;
+    for (int i = 0; i < list->count(); ++i) shown << list->item(i)->text();
+    if (items != shown) {
+      list->clear();
+      list->addItems(items);
+    }
+    list->setCurrentRow(control.chosen());
+  });
+  QObject::connect(list, &QListWidget::currentRowChanged, list,
+                   [&control](int row) { control.choose(row); });
+  QObject::connect(list, &QListWidget::itemActivated, list,
+                   [&control, list] { control.open(list->currentRow()); });
+}
+
+void fillTree(QTreeWidget& tree, const std::vector<Tree::Node>& nodes) {
+  tree.clear();
+  std::vector<QTreeWidgetItem*> items;
+  for (const Tree::Node& node : nodes) {
+    auto* item = new QTreeWidgetItem({toQt(node.text)});
+    items.push_back(item);
+    item->setData(0, Qt::UserRole, static_cast<int>(items.size()));
+    if (node.parent > 0)
+      items[static_cast<std::size_t>(node.parent) - 1]->addChild(item);
+    else
+      tree.addTopLevelItem(item);
+  }
+}
+
+void bind(Tree& control, QWidget& form) {
+  auto* tree = findObject<QTreeWidget>(control, form);
+  tree->setHeaderHidden(true);
+  showWith(control, tree, [&control, tree] { fillTree(*tree, control.nodes()); });
+  QObject::connect(tree, &QTreeWidget::currentItemChanged, tree,
+                   [&control](QTreeWidgetItem* item, QTreeWidgetItem*) {
+                     if (item != nullptr) control.choose(item->data(0, Qt::UserRole).toInt());
+                   });
+}
+
+void bind(PictureBox& control, QWidget& form) {
+  auto* picture = findObject<PictureWidget>(control, form);
+  showWith(control, picture, [&control, picture] { picture->setPicture(toQt(control.image())); });
+  QObject::connect(picture, &PictureWidget::clicked, picture,
+                   [&control](int x, int y) { control.clickAt(x, y); });
+}
+
 template <class... Kinds>
 bool bindAsOneOf(Control& control, QWidget& form) {
   const auto bindAs = [&](auto* kind) {
@@ -255,7 +314,8 @@ bool bindAsOneOf(Control& control, QWidget& form) {
 void bindControls(Window& window, QWidget& form) {
   for (Control* control : window.controls())
     bindAsOneOf<Label, ValueLabel, Frame, Button, Switch, MenuEntry, CheckBox, OptionButton,
-                ComboBox, TextBox, Line, Lamp, Progress, Knob, Slide, Graph>(*control, form);
+                ComboBox, TextBox, Line, Lamp, Progress, Knob, Slide, ListBox, Tree, PictureBox,
+                Graph>(*control, form);
 }
 
 void unbindControls(Window& window) {

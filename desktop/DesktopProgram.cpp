@@ -4,8 +4,13 @@
 namespace tracewell {
 
 DesktopProgram::DesktopProgram(const std::filesystem::path& programFolder)
-    : ports(programFolder, clock), services{clock, dialogs, dispatcher,   port,
-                                            ports, windows, programFolder} {}
+    : ports(programFolder, clock), services{clock,   dialogs,  dispatcher, port,         ports,
+                                            windows, pictures, printer,    programFolder} {}
+
+/// However the event loop has ended, forms go before the windows that they show.
+DesktopProgram::~DesktopProgram() {
+  windows.unloadAll();
+}
 
 bool DesktopProgram::start() {
   try {

@@ -5,6 +5,8 @@
 
 #include "DesktopClock.h"
 #include "DesktopDialogs.h"
+#include "DesktopPictures.h"
+#include "DesktopPrinter.h"
 #include "DesktopWindows.h"
 #include "LinePort.h"
 #include "PortDirectory.h"
@@ -16,6 +18,8 @@ namespace tracewell {
 struct DesktopProgram {
   explicit DesktopProgram(const std::filesystem::path& programFolder);
 
+  ~DesktopProgram();
+
   /// Loads and shows the main window. False, after saying why, when the program cannot start.
   bool start();
 
@@ -25,6 +29,8 @@ struct DesktopProgram {
   PortDirectory ports;
   LinePort port{ports, clock, dispatcher};
   DesktopWindows windows;
+  DesktopPictures pictures{windows};
+  DesktopPrinter printer;
   Services services;
   Tracewell program{services};
 };

@@ -7,6 +7,7 @@
 #include <QMainWindow>
 
 #include "Binder.h"
+#include "Control.h"
 #include "Forms.h"
 #include "Text.h"
 #include "Window.h"
@@ -54,6 +55,16 @@ class DesktopWindows::Form : public QObject {
 
 DesktopWindows::DesktopWindows() = default;
 DesktopWindows::~DesktopWindows() = default;
+
+QWidget* DesktopWindows::widgetOf(const Control& control) const {
+  const auto form = forms_.find(&control.owner());
+  if (form == forms_.end()) return nullptr;
+  return form->second->widget().findChild<QWidget*>(toQt(control.objectName()));
+}
+
+void DesktopWindows::unloadAll() {
+  forms_.clear();
+}
 
 QWidget* DesktopWindows::mainForm() const {
   for (const auto& [window, form] : forms_)

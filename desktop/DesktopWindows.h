@@ -9,6 +9,8 @@
 
 namespace tracewell {
 
+class Control;
+
 /// Shows each window in the form of its name. A form is made when its window is first shown, and
 /// kept until the window is unloaded.
 class DesktopWindows : public WindowHost {
@@ -22,6 +24,11 @@ class DesktopWindows : public WindowHost {
   void repaint(Window& window) override;
   /// Unloading the main window ends the event loop.
   void unload(Window& window) override;
+
+  /// The widget that shows the control; none while its window has no form.
+  QWidget* widgetOf(const Control& control) const;
+  /// Lets go of every form.
+  void unloadAll();
 
  private:
   class Form;

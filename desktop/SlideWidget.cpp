@@ -14,6 +14,8 @@ namespace {
 constexpr qreal margin = 9;
 constexpr qreal pointerLength = 11;
 constexpr qreal pointerWidth = 20;
+/// A mark at each whole number, as long as they are not more than so many.
+constexpr double mostMarks = 20;
 
 }  // namespace
 
@@ -83,7 +85,8 @@ void SlideWidget::paintEvent(QPaintEvent*) {
   const QColor groove = palette().color(QPalette::Base);
   painter.setPen(QPen(groove.darker(130), 6, Qt::SolidLine, Qt::RoundCap));
   painter.drawLine(pointAt(positionOf(minimum_), 0), pointAt(positionOf(maximum_), 0));
-  for (double mark = std::ceil(minimum_); mark <= maximum_; mark += 1) {
+  const double spacing = maximum_ - minimum_ > mostMarks ? (maximum_ - minimum_) / 10 : 1;
+  for (double mark = std::ceil(minimum_); mark <= maximum_; mark += spacing) {
     QColor colour = text;
     colour.setAlphaF(mark == 0 ? 0.95F : 0.45F);
     painter.setPen(QPen(colour, mark == 0 ? 2 : 1));

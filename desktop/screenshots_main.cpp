@@ -48,7 +48,6 @@ bool saveDialog(Window& window, const QDir& folder) {
   window.formActivate.raise();
   const auto form = makeForm(window.name(), nullptr);
   bindControls(window, *form);
-  form->adjustSize();
   const bool isSaved = save(*form, folder, window.name());
   unbindControls(window);
   return isSaved;

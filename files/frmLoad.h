@@ -5,6 +5,7 @@
 
 #include "Controls.h"
 #include "Lists.h"
+#include "WaveformSetReader.h"
 #include "frmDSO.h"
 
 namespace tracewell {
@@ -15,8 +16,9 @@ class frmLoad : public Window {
   explicit frmLoad(frmDSO& main);
 
   Label lblDrive{*this, "lblDrive", "Drive :"};
-  ComboBox driveCSV{*this, "driveCSV", {}};
+  ComboBox driveCSV{*this, "driveCSV", std::vector<std::string>()};
   Label lblFolder{*this, "lblFolder", "Folder :"};
+  ValueLabel lblPath{*this, "lblPath", ""};
   ListBox dirCSV{*this, "dirCSV"};
   Label lblFile{*this, "lblFile", "File :"};
   ListBox fileCSV{*this, "fileCSV"};
@@ -36,15 +38,19 @@ class frmLoad : public Window {
   void showFolder(const std::filesystem::path& folder);
   void fileCSV_Click();
   void cmdOK_Click();
+  void drawSet(const LoadedWaveforms& set);
+
+  static constexpr const char* notSaved = "N";
 
   frmDSO& main_;
   std::filesystem::path folder_;
   /// Path of the chosen set up to and including the dot of the extension.
   std::string basePath_;
-  /// Positions at saving time, "N" for a channel that was not saved, and the time line.
-  std::string channel1Value_;
-  std::string channel2Value_;
-  std::string timeValue_;
+  /// Positions at saving time.
+  std::string channel1Value_ = notSaved;
+  std::string channel2Value_ = notSaved;
+  /// Entry of fileCSV whose description is shown.
+  int shownFile_ = ListBox::noEntry;
 };
 
 }  // namespace tracewell

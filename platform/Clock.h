@@ -27,7 +27,7 @@ class Clock {
   /// from inside this call. It cannot be cancelled: whoever may be gone by then guards the action.
   virtual void callAfter(int delay, std::function<void()> action) = 0;
 
-  /// Date and time as shown in log lines, for example "2026-03-15 14:29:05".
+  /// Date and time as shown in log lines, always in the form "2026-03-15 14:29:05".
   virtual std::string dateAndTime() const = 0;
 };
 

@@ -47,6 +47,10 @@ std::string pathText(const fs::path& path) {
   return {text.begin(), text.end()};
 }
 
+fs::path pathOf(const std::string& text) {
+  return std::u8string(text.begin(), text.end());
+}
+
 std::string readWholeFile(const fs::path& path) {
   std::error_code ignored;
   if (!fs::exists(path, ignored)) throw fileError(fileNotFound, "File not found", path, 0);

@@ -30,6 +30,13 @@ void Plot::plotXvsY(std::span<const std::int16_t> x, std::span<const std::int16_
   if (plotted) plotted();
 }
 
+void Plot::plotXvsY(std::span<const std::int16_t> x, std::span<const double> y) {
+  const auto count = static_cast<std::ptrdiff_t>(std::min(x.size(), y.size()));
+  x_.assign(x.begin(), x.begin() + count);
+  y_.assign(y.begin(), y.begin() + count);
+  if (plotted) plotted();
+}
+
 Axis::Axis(std::string_view axisName, double low, double high)
     : gridColour(*this, tracewell::gridColour),
       minimum(*this, low),

@@ -32,6 +32,7 @@ class Plot : public Observable {
 
   /// Replaces the data; the shorter of the two arrays says how many points there are.
   void plotXvsY(std::span<const std::int16_t> x, std::span<const std::int16_t> y);
+  void plotXvsY(std::span<const std::int16_t> x, std::span<const double> y);
   const std::vector<double>& x() const { return x_; }
   const std::vector<double>& y() const { return y_; }
   /// Told when plotXvsY has replaced the data.

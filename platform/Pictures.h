@@ -19,8 +19,8 @@ class Pictures {
 
   virtual ~Pictures() = default;
 
-  /// The graph as the screen shows it.
-  virtual Image graphImage(const Graph& graph) = 0;
+  /// The graph as the screen shows it, with `footnote` below. Raises an error when it is not shown.
+  virtual Image graphImage(const Graph& graph, const std::string& footnote) = 0;
 
   /// `image` with `text` on it, its upper left corner at (x, y) in pixels.
   virtual Image withText(const Image& image, const std::string& text, int x, int y) = 0;

@@ -6,6 +6,8 @@
 #include "Clock.h"
 #include "Dialogs.h"
 #include "EventDispatcher.h"
+#include "Pictures.h"
+#include "Printer.h"
 #include "SerialPort.h"
 #include "WindowHost.h"
 
@@ -20,6 +22,8 @@ struct Services {
   SerialPort& port;
   PortList& ports;
   WindowHost& windows;
+  Pictures& pictures;
+  Printer& printer;
   /// Where the setup, the language files and the error log are. Writable.
   std::filesystem::path programFolder;
 };

@@ -16,15 +16,15 @@ void Window::load() {
 
 void Window::showModal() {
   load();
-  isVisible_ = true;
   formActivate.raise();
+  isVisible_ = true;
   services_.windows.showModal(*this);
 }
 
 void Window::show() {
   load();
-  isVisible_ = true;
   formActivate.raise();
+  isVisible_ = true;
   services_.windows.show(*this);
 }
 

@@ -22,6 +22,11 @@ fs::path RecordingDialogs::openFile(const FileDialog& dialog) {
   return pickedFile.empty() ? fs::path(dialog.fileName) : pickedFile;
 }
 
+Image RecordingPictures::withText(const Image& image, const std::string& text, int x, int y) {
+  return {image.width, image.height,
+          image.pixels + "|" + text + "@" + std::to_string(x) + "," + std::to_string(y)};
+}
+
 void ScriptedWindows::showModal(Window& window) {
   shown.push_back(window.name());
   if (user.contains(window.name())) user[window.name()]();

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "Dialogs.h"
+#include "Files.h"
 #include "SerialPort.h"
 #include "Tracewell.h"
 #include "VirtualClock.h"
@@ -34,6 +35,34 @@ class RecordingDialogs : public Dialogs {
   Colour pickedColour;
   Colour pickColour(Colour) override { return pickedColour; }
   std::filesystem::path saveFile(const FileDialog& dialog) override { return openFile(dialog); }
+};
+
+/// Pictures without pixels: each step is written into the pixel bytes.
+class RecordingPictures : public Pictures {
+ public:
+  Image graphImage(const Graph&, const std::string& footnote) override {
+    return {2, 1, "graph|" + footnote};
+  }
+  Image withText(const Image& image, const std::string& text, int x, int y) override;
+  std::string encode(const Image& image, int format) override {
+    return std::to_string(format) + ":" + image.pixels;
+  }
+  Image load(const std::filesystem::path& path) override { return {1, 1, readWholeFile(path)}; }
+};
+
+class RecordingPrinter : public Printer {
+ public:
+  std::vector<std::string> printed;
+  std::vector<GraphPage> pages;
+  bool isOutOfPaper = false;
+
+  void setUp() override { printed.emplace_back("set up"); }
+  void printImage(const Image& image) override { printed.push_back(image.pixels); }
+  void printText(const std::string& text) override { printed.push_back(text); }
+  void printPage(const GraphPage& page) override {
+    if (isOutOfPaper) throw Error(deviceError, "Printer", "Out of paper");
+    pages.push_back(page);
+  }
 };
 
 /// A screen on which a script plays the user of each modal window.
@@ -107,7 +136,10 @@ struct Bench {
   EventDispatcher dispatcher{dialogs};
   ScriptedPort port;
   ScriptedWindows windows;
-  Services services{clock, dialogs, dispatcher, port, port, windows, folder.path()};
+  RecordingPictures pictures;
+  RecordingPrinter printer;
+  Services services{clock,   dialogs,  dispatcher, port,         port,
+                    windows, pictures, printer,    folder.path()};
   Tracewell program{services};
   frmDSO& main = program.main;
 

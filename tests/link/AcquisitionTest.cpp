@@ -168,7 +168,10 @@ TEST(AcquisitionOnALine, UnpluggedAndPluggedInAgain) {
   LinePort port(opener, clock, dispatcher);
   ScriptedPort list;
   ScriptedWindows windows;
-  Services services{clock, dialogs, dispatcher, port, list, windows, folder.path()};
+  RecordingPictures pictures;
+  RecordingPrinter printer;
+  Services services{clock,   dialogs,  dispatcher, port,         list,
+                    windows, pictures, printer,    folder.path()};
   Tracewell program(services);
   program.start();
   program.main.cmdStart.press();

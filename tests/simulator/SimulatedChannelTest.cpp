@@ -69,7 +69,10 @@ class BuiltInInstrument : public testing::Test {
   LinePort port{opener, clock, dispatcher};
   ScriptedPort list;
   ScriptedWindows windows;
-  Services services{clock, dialogs, dispatcher, port, list, windows, folder.path()};
+  RecordingPictures pictures;
+  RecordingPrinter printer;
+  Services services{clock,   dialogs,  dispatcher, port,         list,
+                    windows, pictures, printer,    folder.path()};
   Tracewell program{services};
   frmDSO& main = program.main;
 };

@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "DesktopPictures.h"
+
+#include <QFontMetrics>
+#include <QPainter>
+#include <QPixmap>
+#include <QWidget>
+
+#include "Graph.h"
+#include "Images.h"
+#include "PictureFormats.h"
+#include "Text.h"
+
+namespace tracewell {
+namespace {
+
+/// Readable on the dark graticule and on a light picture.
+const QColor noteColour(255, 235, 59);
+const QColor noteShadow(0, 0, 0, 160);
+
+QFont noteFont() {
+  QFont font;
+  font.setPixelSize(16);
+  font.setBold(true);
+  return font;
+}
+
+}  // namespace
+
+Image DesktopPictures::graphImage(const Graph& graph, const std::string& footnote) {
+  QWidget* view = windows_.widgetOf(graph);
+  if (view == nullptr) throw Error(invalidProcedureCall, "Tracewell", "The graph is not shown");
+  const QImage shown = view->grab().toImage();
+  QFont font;
+  font.setPixelSize(15);
+  const int lineHeight = QFontMetrics(font).height() + 8;
+  QImage picture(shown.width(), shown.height() + lineHeight, QImage::Format_RGB888);
+  picture.fill(view->palette().color(QPalette::Window));
+  QPainter painter(&picture);
+  painter.drawImage(0, 0, shown);
+  painter.setFont(font);
+  painter.setPen(view->palette().color(QPalette::WindowText));
+  painter.drawText(QRect(8, shown.height(), shown.width() - 16, lineHeight),
+                   Qt::AlignVCenter | Qt::AlignLeft, toQt(footnote));
+  painter.end();
+  return fromQt(picture);
+}
+
+Image DesktopPictures::withText(const Image& image, const std::string& text, int x, int y) {
+  QImage picture = toQt(image);
+  QPainter painter(&picture);
+  painter.setFont(noteFont());
+  const QRect place(x, y, picture.width(), picture.height());
+  painter.setPen(noteShadow);
+  painter.drawText(place.translated(1, 1), Qt::AlignLeft | Qt::AlignTop, toQt(text));
+  painter.setPen(noteColour);
+  painter.drawText(place, Qt::AlignLeft | Qt::AlignTop, toQt(text));
+  painter.end();
+  return fromQt(picture);
+}
+
+std::string DesktopPictures::encode(const Image& image, int format) {
+  return encodePicture(image, format);
+}
+
+Image DesktopPictures::load(const std::filesystem::path& path) {
+  return loadPicture(path);
+}
+
+}  // namespace tracewell

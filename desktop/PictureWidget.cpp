@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "PictureWidget.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace tracewell {
+
+PictureWidget::PictureWidget(QWidget* parent) : QWidget(parent) {
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+void PictureWidget::setPicture(const QImage& picture) {
+  picture_ = picture;
+  update();
+}
+
+QRectF PictureWidget::target() const {
+  QSizeF size = picture_.size();
+  if (size.width() > width() || size.height() > height())
+    size.scale(QSizeF(width(), height()), Qt::KeepAspectRatio);
+  return {(width() - size.width()) / 2, (height() - size.height()) / 2, size.width(),
+          size.height()};
+}
+
+void PictureWidget::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  painter.fillRect(rect(), palette().color(QPalette::Base));
+  if (!picture_.isNull()) painter.drawImage(target(), picture_);
+}
+
+void PictureWidget::mousePressEvent(QMouseEvent* event) {
+  const QRectF shown = target();
+  if (event->button() != Qt::LeftButton || !shown.contains(event->position())) return;
+  const QPointF point = event->position() - shown.topLeft();
+  emit clicked(static_cast<int>(point.x() * picture_.width() / shown.width()),
+               static_cast<int>(point.y() * picture_.height() / shown.height()));
+}
+
+}  // namespace tracewell

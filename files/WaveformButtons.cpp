@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "WaveformButtons.h"
+
+#include "Files.h"
+#include "WaveformSetReader.h"
+
+namespace tracewell {
+namespace {
+
+constexpr int firstReference = 3;
+
+/// The scales, so that a picture can be read without the program.
+std::string footnote(const frmDSO& main) {
+  std::string text;
+  if (main.cbCh1.isChecked()) text += main.cbCh1.caption() + " " + main.lblChan1.caption() + "    ";
+  if (main.cbCh2.isChecked()) text += main.cbCh2.caption() + " " + main.lblChan2.caption() + "    ";
+  return text + main.lblTime.caption();
+}
+
+}  // namespace
+
+void WaveformButtons::cmdSave_Click() {
+  acquisition_.StopAcq();
+  saveWindow_.takePicture(main_.services().pictures.graphImage(main_.graphDSO, footnote(main_)));
+  main_.refresh();
+  saveWindow_.showModal();
+  acquisition_.ResumeAcq();
+}
+
+void WaveformButtons::cmdLoad_Click() {
+  acquisition_.StopAcq();
+  main_.refresh();
+  loadWindow_.showModal();
+  acquisition_.ResumeAcq();
+}
+
+void WaveformButtons::cmdLoadCSV_Click() {
+  acquisition_.StopAcq();
+  const Services& services = main_.services();
+  const std::filesystem::path path =
+      services.dialogs.openFile({services.programFolder, "Load CSV file", "", "*.csv|*.csv"});
+  if (!path.empty()) {
+    const std::string text = readWaveformFile(path);
+    const std::vector<double> points = readFirstColumn(text);
+    main_.txtMsg.text = text;
+    Plot& load1 = main_.graphDSO.plot(firstReference);
+    load1.plotXvsY(main_.XIndex, points);
+    load1.visible = true;
+  }
+  acquisition_.ResumeAcq();
+}
+
+void WaveformButtons::cmdRemove_Click() {
+  for (int number = firstReference; number <= Graph::plotCount; ++number)
+    main_.graphDSO.plot(number).visible = false;
+}
+
+void WaveformButtons::cmdExportCSV_Click() {
+  writeWholeFile("text.csv", main_.txtMsg.text());
+}
+
+}  // namespace tracewell

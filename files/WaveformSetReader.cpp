@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "WaveformSetReader.h"
+
+#include <cmath>
+#include <string_view>
+
+#include "Error.h"
+#include "Files.h"
+#include "Numbers.h"
+#include "SharedState.h"
+
+namespace tracewell {
+namespace {
+
+/// Bytes; two columns of 500 numbers take some 6000.
+constexpr std::uintmax_t largestFile = 1024 * 1024;
+
+constexpr double unitsPerDivision = SharedState::unitsPerDivision;
+
+/// Takes the next complete line off the front of `text`; false when there is none.
+bool takeLine(std::string_view& text, std::string_view& line) {
+  const std::size_t end = text.find('\n');
+  if (end == std::string_view::npos) return false;
+  line = text.substr(0, end);
+  if (line.ends_with('\r')) line.remove_suffix(1);
+  text.remove_prefix(end + 1);
+  return true;
+}
+
+/// Calls `take` with every data line of the text.
+template <class Take>
+void forEachDataLine(std::string_view text, Take take) {
+  std::string_view line;
+  takeLine(text, line);
+  for (int count = 0; takeLine(text, line); ++count) {
+    if (count >= SharedState::sampleCount) throw subscriptError();
+    take(line);
+  }
+}
+
+double sample(std::string_view text) {
+  return toInt16(text);
+}
+
+double lifted(std::string_view text, const std::string& position) {
+  return sample(text) + checked(toDouble(position) * unitsPerDivision);
+}
+
+}  // namespace
+
+std::string readWaveformFile(const std::filesystem::path& path) {
+  std::error_code failed;
+  const std::uintmax_t size = std::filesystem::file_size(path, failed);
+  if (!failed && size > largestFile)
+    throw Error(pathAccess, "Tracewell", "Too large for a waveform: " + pathText(path));
+  return readWholeFile(path);
+}
+
+WaveformDescription readDescription(const std::filesystem::path& path) {
+  const std::string text = readWaveformFile(path);
+  WaveformDescription result;
+  std::string_view rest = text;
+  for (std::string* part :
+       {&result.picturePath, &result.dataFile, &result.author, &result.description,
+        &result.channel1, &result.channel2, &result.time}) {
+    std::string_view line;
+    if (!takeLine(rest, line))
+      throw Error(invalidProcedureCall, "Tracewell", "Not a description: " + pathText(path));
+    *part = line;
+  }
+  return result;
+}
+
+LoadedWaveforms readWaveforms(const std::string& csvText, const std::string& position1,
+                              const std::string& position2) {
+  LoadedWaveforms loaded;
+  const bool hasOnlyChannel1 = position2 == "N";
+  forEachDataLine(csvText, [&](std::string_view line) {
+    const std::size_t comma = line.find(',');
+    const bool hasBoth = comma != std::string_view::npos;
+    if (hasBoth || hasOnlyChannel1)
+      loaded.channel1.push_back(lifted(line.substr(0, comma), position1));
+    if (hasBoth || !hasOnlyChannel1)
+      loaded.channel2.push_back(
+          toInt16(lifted(hasBoth ? line.substr(comma + 1) : line, position2)));
+  });
+  return loaded;
+}
+
+std::vector<double> readFirstColumn(const std::string& csvText) {
+  std::vector<double> points;
+  forEachDataLine(csvText, [&](std::string_view line) {
+    points.push_back(sample(line.substr(0, line.find(','))));
+  });
+  return points;
+}
+
+}  // namespace tracewell

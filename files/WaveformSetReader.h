@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+/// Reads what WaveformSetWriter has written, and what a spreadsheet has made of it.
+namespace tracewell {
+
+/// The lines of a description file that a reader uses.
+struct WaveformDescription {
+  std::string picturePath;
+  std::string dataFile;
+  std::string author;
+  std::string description;
+  /// Positions at saving time in divisions, "N" for a channel that was not saved.
+  std::string channel1;
+  std::string channel2;
+  std::string time;
+};
+
+/// Raises an error when the file is missing, too large or has fewer than seven lines.
+WaveformDescription readDescription(const std::filesystem::path& path);
+
+/// Points in graph units, one per data line; a channel that the file does not hold has none.
+struct LoadedWaveforms {
+  std::vector<double> channel1;
+  std::vector<double> channel2;
+};
+
+/// The data lines of a ".csv" text, lifted by the positions of the description. The first line is
+/// skipped; a line ends with CR LF or LF, and text behind the last line end is ignored. Raises
+/// "Type mismatch" for what is no number, "Subscript out of range" at the 501st data line.
+LoadedWaveforms readWaveforms(const std::string& csvText, const std::string& position1,
+                              const std::string& position2);
+
+/// The first column of a ".csv" text as it stands, under the same rules.
+std::vector<double> readFirstColumn(const std::string& csvText);
+
+/// The whole file; raises an error when it is larger than any waveform file can be.
+std::string readWaveformFile(const std::filesystem::path& path);
+
+}  // namespace tracewell

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "WaveformSetWriter.h"
+
+#include "Numbers.h"
+#include "WaveformRecord.h"
+
+namespace tracewell {
+namespace {
+
+constexpr const char* lineEnd = "\r\n";
+constexpr const char* notSaved = "N";
+
+std::string sampleText(const std::string& record, int index) {
+  const std::size_t position = WaveformRecord::headerBytes + 2 * static_cast<std::size_t>(index);
+  if (position + 1 >= record.size()) throw subscriptError();
+  const int low = static_cast<std::uint8_t>(record[position + 1]);
+  return std::to_string(record[position] == 0 ? low : low - 256);
+}
+
+}  // namespace
+
+std::string BuildCsvText(const frmDSO& main) {
+  const bool hasChannel1 = main.cbCh1.isChecked();
+  const bool hasChannel2 = main.cbCh2.isChecked();
+  if (!hasChannel1 && !hasChannel2) return "";
+  const std::string comma = hasChannel1 && hasChannel2 ? "," : "";
+  std::string text =
+      (hasChannel1 ? "Channel 1" : "") + comma + (hasChannel2 ? "Channel 2" : "") + lineEnd;
+  for (int i = 0; i < SharedState::sampleCount; ++i) {
+    if (hasChannel1) text += sampleText(main.Ch1Raw, i);
+    text += comma;
+    if (hasChannel2) text += sampleText(main.Ch2Raw, i);
+    text += lineEnd;
+  }
+  return text;
+}
+
+std::string buildInfText(const frmDSO& main, const std::string& picturePath,
+                         const std::string& author, const std::string& description) {
+  const bool hasChannel1 = main.cbCh1.isChecked();
+  const bool hasChannel2 = main.cbCh2.isChecked();
+  const std::string scale = hasChannel1 ? main.lblChan1.caption() : notSaved;
+  std::string text;
+  for (const std::string& line :
+       {picturePath, withoutExtension(picturePath) + ".csv", author, description,
+        hasChannel1 ? numberText(main.slideCH1.value()) : notSaved,
+        hasChannel2 ? numberText(main.slideCH2.value()) : notSaved, scale, scale,
+        numberText(main.slideTime.value())})
+    text += line + lineEnd;
+  return text;
+}
+
+std::string withoutExtension(const std::string& path) {
+  constexpr int extensionLength = 4;
+  std::size_t end = path.size();
+  for (int i = 0; i < extensionLength; ++i) {
+    if (end == 0)
+      throw Error(invalidProcedureCall, "Tracewell", "Invalid procedure call or argument");
+    --end;
+    // A character is one byte and those that continue it.
+    while (end > 0 && (static_cast<unsigned char>(path[end]) & 0xC0) == 0x80) --end;
+  }
+  return path.substr(0, end);
+}
+
+}  // namespace tracewell

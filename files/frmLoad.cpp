@@ -1,0 +1,165 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "frmLoad.h"
+
+#include <algorithm>
+#include <array>
+#include <cctype>
+
+#include "Files.h"
+#include "WaveformSetReader.h"
+
+namespace tracewell {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* parentFolder = "..";
+constexpr int firstReference = 3;
+
+/// Letters where the system has them, the one root where it has not.
+std::vector<std::string> drives() {
+  std::vector<std::string> found;
+  std::error_code ignored;
+  for (char letter = 'A'; letter <= 'Z'; ++letter) {
+    const std::string drive = std::string(1, letter) + ":\\";
+    if (fs::path(drive).is_absolute() && fs::exists(drive, ignored)) found.push_back(drive);
+  }
+  if (found.empty()) found.emplace_back("/");
+  return found;
+}
+
+bool isDataFile(const fs::path& path) {
+  std::string extension = path.extension().string();
+  std::ranges::transform(extension, extension.begin(),
+                         [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+  return extension == ".csv";
+}
+
+bool isPictureType(const std::string& picturePath) {
+  constexpr std::array<std::string_view, 6> types = {"jpg", "bmp", "pcx", "tif", "png", "gif"};
+  constexpr std::size_t typeLength = 3;
+  if (picturePath.size() < typeLength) return false;
+  return std::ranges::find(types, picturePath.substr(picturePath.size() - typeLength)) !=
+         types.end();
+}
+
+struct FolderContent {
+  std::vector<std::string> folders{parentFolder};
+  std::vector<std::string> dataFiles;
+};
+
+/// Raises an error with the system's reason for a folder that cannot be read.
+FolderContent readFolder(const fs::path& folder) {
+  std::error_code failed;
+  FolderContent content;
+  for (fs::directory_iterator entry(folder, failed); !failed && entry != fs::directory_iterator();
+       entry.increment(failed)) {
+    std::error_code ignored;
+    const std::string name = pathText(entry->path().filename());
+    if (entry->is_directory(ignored))
+      content.folders.push_back(name);
+    else if (isDataFile(entry->path()))
+      content.dataFiles.push_back(name);
+  }
+  if (failed)
+    throw Error(pathAccess, "Tracewell",
+                "Cannot read: " + pathText(folder) + " (" + failed.message() + ")");
+  std::sort(content.folders.begin() + 1, content.folders.end());
+  std::ranges::sort(content.dataFiles);
+  return content;
+}
+
+}  // namespace
+
+frmLoad::frmLoad(frmDSO& main) : Window("frmLoad", "Load Waveform", main.services()), main_(main) {
+  cb1.value.setQuietly(1);
+  cb2.value.setQuietly(1);
+  formLoad = [this] { Form_Load(); };
+  formActivate = [this] { Form_Activate(); };
+  driveCSV.click = [this] { driveCSV_Change(); };
+  dirCSV.opened = [this] { dirCSV_Change(); };
+  fileCSV.click = [this] { fileCSV_Click(); };
+  cmdOK.click = [this] { cmdOK_Click(); };
+  cmdCancel.click = [this] { hide(); };
+}
+
+void frmLoad::Form_Load() {
+  folder_ = services().programFolder;
+  driveCSV.items = drives();
+  driveCSV.text = pathText(folder_.root_path());
+}
+
+/// Anew at each opening: sets may have been saved meanwhile.
+void frmLoad::Form_Activate() {
+  showFolder(folder_);
+}
+
+void frmLoad::driveCSV_Change() {
+  showFolder(pathOf(driveCSV.text()));
+}
+
+void frmLoad::dirCSV_Change() {
+  const std::string name = dirCSV.chosenText();
+  showFolder(name == parentFolder ? folder_.parent_path() : folder_ / pathOf(name));
+}
+
+void frmLoad::showFolder(const fs::path& folder) {
+  FolderContent content = readFolder(folder);
+  folder_ = folder;
+  lblPath.caption = pathText(folder);
+  dirCSV.items = std::move(content.folders);
+  fileCSV.items = std::move(content.dataFiles);
+  shownFile_ = ListBox::noEntry;
+}
+
+/// All or nothing: a set that cannot be shown leaves the one before it chosen.
+void frmLoad::fileCSV_Click() {
+  try {
+    constexpr std::size_t extensionLength = 3;
+    std::string base = pathText(folder_ / pathOf(fileCSV.chosenText()));
+    base.resize(base.size() - extensionLength);
+    const WaveformDescription set = readDescription(pathOf(base + "inf"));
+    if (!isPictureType(set.picturePath))
+      throw Error(invalidProcedureCall, "Tracewell", "No picture: " + set.picturePath);
+    pictureCSV.image = services().pictures.load(pathOf(set.picturePath));
+    txtFile.text = "Data File : " + set.dataFile + "\r\nAuthor : " + set.author +
+                   "\r\nDescription : " + set.description + "\r\nCh1 : " + set.channel1 +
+                   "\r\nCh2 : " + set.channel2 + "\r\nTime : " + set.time + "\r\n";
+    basePath_ = base;
+    channel1Value_ = set.channel1;
+    channel2Value_ = set.channel2;
+    shownFile_ = fileCSV.chosen();
+  } catch (const Error&) {
+    services().dialogs.showMessage("File is not correct!");
+    fileCSV.chosen = shownFile_;
+  }
+}
+
+void frmLoad::cmdOK_Click() {
+  try {
+    drawSet(
+        readWaveforms(readWaveformFile(pathOf(basePath_ + "csv")), channel1Value_, channel2Value_));
+    hide();
+  } catch (const Error&) {
+    // Says nothing, and the window stays for another choice.
+  }
+}
+
+/// Into the first reference plot that is free and, for the second channel, the one behind it.
+void frmLoad::drawSet(const LoadedWaveforms& set) {
+  int number = firstReference;
+  while (number <= Graph::plotCount && main_.graphDSO.plot(number).visible()) ++number;
+  if (number > Graph::plotCount) return;
+  const auto draw = [&](const std::vector<double>& points) {
+    Plot& plot = main_.graphDSO.plot(number);
+    plot.plotXvsY(main_.XIndex, points);
+    plot.visible = true;
+  };
+  if (cb1.isChecked() && channel1Value_ != notSaved) {
+    draw(set.channel1);
+    ++number;
+  }
+  if (cb2.isChecked() && channel2Value_ != notSaved) draw(set.channel2);
+}
+
+}  // namespace tracewell

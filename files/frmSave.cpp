@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "frmSave.h"
+
+#include <cctype>
+
+#include "Files.h"
+#include "WaveformSetWriter.h"
+
+namespace tracewell {
+namespace {
+
+/// Month, day, hour, minute, second, two digits each.
+std::string timeStamp(const Clock& clock) {
+  constexpr std::size_t afterYear = 4;
+  std::string digits;
+  for (const char c : clock.dateAndTime().substr(afterYear))
+    if (std::isdigit(static_cast<unsigned char>(c)) != 0) digits += c;
+  return digits;
+}
+
+}  // namespace
+
+frmSave::frmSave(frmDSO& main) : Window("frmSave", "Save", main.services()), main_(main) {
+  opFiletype(Pictures::jpg - Pictures::wmf).value = true;
+  formActivate = [this] { Form_Activate(); };
+  for (OptionButton& format : opFiletype)
+    format.click = [this, &format] { opFiletype_Click(format.index()); };
+  pictureTemp.clicked = [this](int x, int y) { pictureTemp_Click(x, y); };
+  cmdUndo.click = [this] { cmdUndo_Click(); };
+  cmdReload.click = [this] { cmdReload_Click(); };
+  cmdPrint.click = [this] { services().printer.printImage(pictureTemp.image()); };
+  cmdOK.click = [this] { cmdOK_Click(); };
+  cmdCancel.click = [this] { hide(); };
+}
+
+void frmSave::takePicture(const Image& image) {
+  history_.clear();
+  pictureTemp.image = image;
+}
+
+/// What was built last stays where no record has come yet.
+void frmSave::Form_Activate() {
+  try {
+    txtDatFile.text = BuildCsvText(main_);
+  } catch (const Error&) {
+    // Says nothing: there is no waveform to save.
+  }
+}
+
+void frmSave::opFiletype_Click(int index) {
+  pictureType_ = static_cast<std::int16_t>(index + Pictures::wmf);
+  pictureExtension_ = opFiletype(index).caption();
+}
+
+void frmSave::pictureTemp_Click(int x, int y) {
+  if (!cbWord.isChecked()) return;
+  history_.push_back(pictureTemp.image());
+  pictureTemp.image = services().pictures.withText(history_.back(), txtWord.text(), x, y);
+}
+
+void frmSave::cmdUndo_Click() {
+  if (history_.empty()) {
+    services().dialogs.showMessage("Undo Error!");
+    return;
+  }
+  pictureTemp.image = history_.back();
+  history_.pop_back();
+}
+
+void frmSave::cmdReload_Click() {
+  if (!history_.empty()) takePicture(Image(history_.front()));
+}
+
+void frmSave::cmdOK_Click() {
+  const std::string pattern = "*." + pictureExtension_;
+  const std::filesystem::path path = services().dialogs.saveFile(
+      {services().programFolder, caption(), timeStamp(services().clock), pattern + "|" + pattern});
+  const std::string name = pathText(path);
+  const std::string base = withoutExtension(name);
+  writeWholeFile(pathOf(base + ".csv"), txtDatFile.text());
+  txtDatFile.text = buildInfText(main_, name, txtAuthor.text(), txtDes.text());
+  writeWholeFile(pathOf(base + ".inf"), txtDatFile.text());
+  writeWholeFile(path, services().pictures.encode(pictureTemp.image(), pictureType_));
+  hide();
+  main_.refresh();
+}
+
+}  // namespace tracewell

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "frmSetup.h"
+
+#include "Files.h"
+
+namespace tracewell {
+namespace {
+
+/// Position of `what` at or after `start`, both counted from 1; 0 if it is not there. Raises an
+/// error for a start of 0, which is what a search that has found nothing leaves behind.
+std::size_t find(const std::string& text, const char* what, std::size_t start) {
+  if (start == 0)
+    throw Error(invalidProcedureCall, "Tracewell", "Invalid procedure call or argument");
+  const std::size_t found = text.find(what, start - 1);
+  return found == std::string::npos ? 0 : found + 1;
+}
+
+/// `text` with every value behind the next "[" from "(RS)" on. A value for which there is no
+/// bracket left goes to the front.
+std::string filledReport(std::string text, const SetupTable& table) {
+  std::size_t position = find(text, "(RS)", 1);
+  for (int row = 0; row < SetupTable::fileRows; ++row) {
+    const int count = table.valueCount(row);
+    for (int i = 0; i < count; ++i) {
+      const std::string& value = table.text(row, SetupTable::firstValue + i);
+      const std::size_t bracket = find(text, "[", position);
+      text.insert(bracket, value);
+      position = find(text, "]", bracket + value.size());
+    }
+  }
+  return text;
+}
+
+}  // namespace
+
+frmSetup::frmSetup(frmDSO& main)
+    : Window("frmSetup", "Status Report", main.services()), main_(main) {
+  formLoad = [this] { Form_Load(); };
+  formActivate = [this] { Form_Activate(); };
+  cmdOK.click = [this] { hide(); };
+  cmdSave.click = [this] { cmdSave_Click(); };
+  cmdPrint.click = [this] { services().printer.printText(txtSetup.text()); };
+}
+
+void frmSetup::mnbConf_Click() {
+  showModal();
+}
+
+void frmSetup::Form_Load() {
+  txtSetup.text = readWholeFile(services().programFolder / "default.sit");
+}
+
+void frmSetup::Form_Activate() {
+  txtSetup.text = filledReport(txtSetup.text(), main_.gridMeasure);
+}
+
+void frmSetup::cmdSave_Click() {
+  const std::filesystem::path path = services().dialogs.saveFile(
+      {services().programFolder, "Save Setup Report file", "default.sir", "*.sir|*.sir"});
+  if (!path.empty()) writeWholeFile(path, txtSetup.text());
+}
+
+}  // namespace tracewell

@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "frmCmd.h"
+
+#include "CommandFile.h"
+#include "Files.h"
+#include "Numbers.h"
+
+namespace tracewell {
+namespace {
+
+/// A query passes as it is; of a command's parameter only a whole number that is not negative.
+bool isInRange(const std::string& command) {
+  const std::size_t blank = command.find(' ');
+  if (command.ends_with('?') || blank == std::string::npos) return true;
+  const std::string parameter = command.substr(blank + 1);
+  return isNumeric(parameter) && !parameter.starts_with('-') &&
+         parameter.find('.') == std::string::npos;
+}
+
+}  // namespace
+
+frmCmd::frmCmd(frmDSO& main, ErrorLog& errorLog, Acquisition& acquisition, CommandLine& commandLine)
+    : Window("frmCmd", "KRM-410 Command List", main.services()),
+      main_(main),
+      errorLog_(errorLog),
+      acquisition_(acquisition),
+      commandLine_(commandLine) {
+  formLoad = [this] { Form_Load(); };
+  tvCmd.nodeClick = [this](int node) { tvCmd_NodeClick(node); };
+  txtCmd.keyDown = [this](int code) { txtCmd_KeyDown(code); };
+  cmdRun.click = [this] { RunConsoleCommand(); };
+  cmdOK.click = [this] { hide(); };
+}
+
+/// A command list that cannot be used is logged, and the console opens with what could be read: a
+/// command can be typed all the same.
+void frmCmd::cmdDSOcmd_Click() {
+  acquisition_.StopAcq();
+  main_.refresh();
+  try {
+    load();
+  } catch (const Error& error) {
+    errorLog_.ErrLog(error, "cmdDSOcmd_Click : ");
+  }
+  showModal();
+  acquisition_.ResumeAcq();
+}
+
+void frmCmd::Form_Load() {
+  std::size_t entry = 0;
+  int group = 0;
+  for (const CommandEntry& line :
+       readCommandEntries(readWholeFile(services().programFolder / "dso.cmd"))) {
+    if (entry >= mostEntries) throw subscriptError();
+    CmdDesc_[entry] = line.description;
+    CmdHint_[entry] = line.hint;
+    ++entry;
+    if (!line.hasNode) continue;
+    const bool isCommand = line.node.starts_with(':');
+    const int node = tvCmd.add(line.node, isCommand ? group : 0);
+    if (!isCommand) group = node;
+  }
+}
+
+void frmCmd::tvCmd_NodeClick(int node) {
+  const auto entry = static_cast<std::size_t>(node - 1);
+  txtCmd.text = tvCmd.nodes().at(entry).text;
+  lblDescription.caption = CmdDesc_.at(entry);
+  lblCmdHint.caption = CmdHint_.at(entry);
+}
+
+void frmCmd::txtCmd_KeyDown(int code) {
+  if (code == TextBox::enterKey) RunConsoleCommand();
+}
+
+void frmCmd::RunConsoleCommand() {
+  const std::string command = txtCmd.text();
+  if (!isInRange(command)) {
+    txtCmd.text = command.substr(0, command.find(' '));
+    services().dialogs.showMessage("Out of range");
+    return;
+  }
+  main_.txtTest.text = command;
+  commandLine_.cmdTest_Click();
+}
+
+}  // namespace tracewell

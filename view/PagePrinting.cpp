@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "PagePrinting.h"
+
+namespace tracewell {
+namespace {
+
+/// Chan1, Chan2, Load1 to Load3; Load4 is not printed.
+constexpr int printedPlots = 5;
+
+}  // namespace
+
+void PagePrinting::cmdPrint_Click() {
+  try {
+    acquisition_.StopAcq();
+    main_.services().printer.printPage(page());
+  } catch (const Error& error) {
+    errorLog_.ErrLog(error, "cmdPrint_Click : ");
+  }
+}
+
+void PagePrinting::mnbPrintSetup_Click() {
+  main_.services().printer.setUp();
+}
+
+GraphPage PagePrinting::page() {
+  GraphPage page;
+  page.title = main_.caption() + "  " + main_.services().clock.dateAndTime();
+  page.captions = {"Volts/Div " + main_.Msg[10] + " " + main_.lblChan1.caption() + "  " +
+                       main_.Msg[11] + " " + main_.lblChan2.caption(),
+                   "SEC/Div " + main_.Msg[12] + " " + main_.lblTime.caption()};
+  if (!main_.opOff.value()) page.captions.push_back(main_.graphDSO.axis("XAxis").caption());
+  for (int number = 1; number <= printedPlots; ++number) {
+    const Plot& plot = main_.graphDSO.plot(number);
+    if (plot.visible() && !plot.x().empty())
+      page.traces.push_back({plot.name(), plot.x(), plot.y()});
+  }
+  return page;
+}
+
+}  // namespace tracewell
