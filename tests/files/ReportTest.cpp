@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <gtest/gtest.h>
+
+#include "Doubles.h"
+
+namespace tracewell {
+namespace {
+
+using Lines = std::vector<std::string>;
+
+/// Status report and printing.
+class ReportTest : public testing::Test {
+ protected:
+  ReportTest() { bench.program.start(); }
+  void useTemplate(const std::string& text) {
+    writeWholeFile(bench.folder.path() / "default.sit", text);
+    bench.program.report.unload();
+  }
+  void setCounts(const std::string& count) {
+    for (int row = 0; row < 13; ++row) main.gridMeasure.setText(row, 1, count);
+  }
+
+  Bench bench;
+  frmDSO& main = bench.main;
+  TextBox& text = bench.program.report.txtSetup;
+};
+
+TEST_F(ReportTest, ShippedTemplateHasAPlaceForEveryValue) {
+  main.mnbConf.choose();
+  EXPECT_TRUE(bench.dialogs.runTimeErrors.empty());
+  EXPECT_EQ(text.text().find("[]"), std::string::npos);
+  EXPECT_NE(text.text().find("[19200]"), std::string::npos);
+  EXPECT_LT(text.text().find("[None]"), text.text().find("[50]"));
+}
+
+TEST_F(ReportTest, ValuesAccumulateAtEachShowing) {
+  setCounts("0");
+  useTemplate("[no] (RS) a [] b [old]");
+  main.mnbConf.choose();
+  EXPECT_EQ(text.text(), "[no] (RS) a [] b [old]");
+  main.gridMeasure.setText(0, 1, "2");
+  main.gridMeasure.setText(0, 2, "x]");
+  main.gridMeasure.setText(0, 3, "8");
+  main.mnbConf.choose();
+  EXPECT_EQ(text.text(), "[no] (RS) a [x]] b [8old]");
+  main.mnbConf.choose();
+  EXPECT_EQ(text.text(), "[no] (RS) a [x]x]] b [88old]");
+}
+
+TEST_F(ReportTest, TemplatesThatDoNotFit) {
+  const struct {
+    const char* what;
+    const char* text;
+    const char* values;  // of row 0, one character each
+    const char* shown;
+    bool fails;
+  } cases[] = {{"no marker", "a [] []", "12", "a [] []", true},
+               {"no bracket left", "(RS) [] ]", "12", "2(RS) [1] ]", false},
+               {"no bracket at all", "(RS)", "1", "1(RS)", false},
+               {"an empty value without a bracket", "(RS) []", "1 ", "(RS) []", true}};
+  for (const auto& c : cases) {
+    setCounts("0");
+    const std::string values = c.values;
+    main.gridMeasure.setText(0, 1, std::to_string(values.size()));
+    for (std::size_t i = 0; i < values.size(); ++i)
+      main.gridMeasure.setText(0, 2 + static_cast<int>(i),
+                               values[i] == ' ' ? "" : std::string(1, values[i]));
+    useTemplate(c.text);
+    bench.dialogs.runTimeErrors.clear();
+    main.mnbConf.choose();
+    EXPECT_EQ(text.text(), c.shown) << c.what;
+    EXPECT_EQ(!bench.dialogs.runTimeErrors.empty(), c.fails) << c.what;
+  }
+  std::filesystem::remove(bench.folder.path() / "default.sit");
+  bench.program.report.unload();
+  bench.windows.shown.clear();
+  main.mnbConf.choose();
+  EXPECT_TRUE(bench.windows.shown.empty());
+}
+
+TEST_F(ReportTest, SavedByteForByteAndPrinted) {
+  bench.dialogs.pickedFile = bench.folder.path() / "mine.sir";
+  main.mnbConf.choose();
+  bench.program.report.cmdSave.press();
+  bench.program.report.cmdPrint.press();
+  EXPECT_EQ(readWholeFile(bench.dialogs.pickedFile), text.text());
+  EXPECT_EQ(bench.printer.printed, Lines{text.text()});
+  EXPECT_EQ(bench.dialogs.fileDialogs.back().title, "Save Setup Report file");
+  EXPECT_EQ(bench.dialogs.fileDialogs.back().fileName, "default.sir");
+}
+
+TEST_F(ReportTest, PageShowsTheVisibleTracesWithTheirScales) {
+  bench.port.answerLikeAnInstrument();
+  main.cmdStart.press();
+  bench.port.tag = "1";
+  bench.port.deliver(makeRecord([](int i) { return i; }));
+  for (const int number : {3, 6}) {
+    main.graphDSO.plot(number).plotXvsY(main.XIndex, main.XIndex);
+    main.graphDSO.plot(number).visible = true;
+  }
+  main.cmdPrint.press();
+  ASSERT_EQ(bench.printer.pages.size(), 1u);
+  const GraphPage& page = bench.printer.pages[0];
+  ASSERT_EQ(page.traces.size(), 2u);
+  EXPECT_EQ(page.traces[0].name, "Chan1");
+  EXPECT_EQ(page.traces[1].name, "Load1");
+  EXPECT_EQ(page.captions, (Lines{"Volts/Div channel 1 500.0 mV  channel 2 1.000 V",
+                                  "SEC/Div time base 500.0 us"}));
+  EXPECT_FALSE(main.tmDSO.enabled());
+  bench.printer.isOutOfPaper = true;
+  main.mnbPrint.choose();
+  EXPECT_EQ(bench.logLines(), Lines{"Printer - cmdPrint_Click : Out of paper"});
+}
+
+}  // namespace
+}  // namespace tracewell

@@ -1,0 +1,290 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <fstream>
+
+#include "Doubles.h"
+#include "WaveformSetReader.h"
+#include "WaveformSetWriter.h"
+
+namespace tracewell {
+namespace {
+
+namespace fs = std::filesystem;
+using Lines = std::vector<std::string>;
+
+/// Saving and loading waveforms, in a folder with a blank and other letters in its name.
+class WaveformTest : public testing::Test {
+ protected:
+  WaveformTest() : folder(bench.folder.path() / "Messung ü 测") {
+    bench.program.start();
+    fs::create_directory(folder);
+    oldFolder = fs::current_path();
+    fs::current_path(folder);
+    main.Ch1Raw = makeRecord([](int i) { return i == 0 ? -256 : i % 256; });
+    main.Ch2Raw = makeRecord([](int i) { return -(i % 256); });
+    main.lblChan1.caption = "500.0 mV";
+  }
+  ~WaveformTest() override { fs::current_path(oldFolder); }
+
+  void save(const char* name, int format = 8) {
+    bench.windows.user["frmSave"] = [this, name, format] {
+      saveWindow.opFiletype(format).select();
+      bench.dialogs.pickedFile = *name == 0 ? fs::path() : folder / name;
+      saveWindow.cmdOK.press();
+    };
+    main.cmdSave.press();
+  }
+  /// Opens the load window, chooses the files one after the other, and presses OK.
+  void load(const Lines& names) {
+    bench.windows.user["frmLoad"] = [this, names] {
+      loadWindow.dirCSV.open(1);
+      for (const std::string& name : names) choose(name);
+      loadWindow.cmdOK.press();
+    };
+    main.mnbLoad.choose();
+  }
+  void choose(const std::string& name) {
+    const auto& items = loadWindow.fileCSV.items();
+    const auto found = std::ranges::find(items, name);
+    ASSERT_NE(found, items.end()) << name;
+    loadWindow.fileCSV.choose(static_cast<int>(found - items.begin()));
+  }
+  std::string file(const char* name) { return readWholeFile(folder / name); }
+  void write(const char* name, const std::string& bytes) { writeWholeFile(folder / name, bytes); }
+  int shownReferences() {
+    int count = 0;
+    for (int number = 3; number <= 6; ++number) count += main.graphDSO.plot(number).visible();
+    return count;
+  }
+
+  Bench bench;
+  frmDSO& main = bench.main;
+  frmSave& saveWindow = bench.program.saveWindow;
+  frmLoad& loadWindow = bench.program.loadWindow;
+  fs::path folder;
+  fs::path oldFolder;
+};
+
+TEST_F(WaveformTest, SetOfThreeFilesOfOneName) {
+  main.cbCh2.toggle();
+  main.slideCH1.value = 1.25;
+  main.slideCH2.value = -2;
+  main.slideTime.value = 0.5;
+  bench.windows.user["frmSave"] = [this] {
+    saveWindow.txtAuthor.type("Ann");
+    saveWindow.txtDes.type("a, b");
+    saveWindow.opFiletype(3).select();
+    bench.dialogs.pickedFile = folder / "one.Ico";
+    saveWindow.cmdOK.press();
+  };
+  main.tmDSO.enabled = true;
+  main.cmdSave.press();
+  EXPECT_EQ(bench.dialogs.fileDialogs.back().fileName, "0315142905");
+  EXPECT_EQ(bench.dialogs.fileDialogs.back().filter, "*.Ico|*.Ico");
+  const std::string csv = file("one.csv");
+  EXPECT_TRUE(csv.starts_with("Channel 1,Channel 2\r\n-256,0\r\n1,-1\r\n2,-2\r\n")) << csv;
+  EXPECT_EQ(std::ranges::count(csv, '\n'), 501);
+  const std::string path = pathText(folder / "one");
+  EXPECT_EQ(file("one.inf"), path + ".Ico\r\n" + path + ".csv\r\nAnn\r\na, b\r\n1.25\r\n-2\r\n" +
+                                 "500.0 mV\r\n500.0 mV\r\n0.5\r\n");
+  EXPECT_TRUE(file("one.Ico").starts_with("6:graph|CH1 500.0 mV"));
+  EXPECT_FALSE(saveWindow.isVisible());
+  // It resumes although the dialog could have been cancelled.
+  EXPECT_TRUE(main.tmDSO.enabled());
+  EXPECT_EQ(main.cmdStart.caption(), main.Msg[3]);
+}
+
+TEST_F(WaveformTest, OneChannelNoChannelAndNoRecord) {
+  save("one.jpg");
+  EXPECT_TRUE(file("one.csv").starts_with("Channel 1\r\n-256\r\n1\r\n"));
+  EXPECT_NE(file("one.inf").find("\r\n0\r\nN\r\n500.0 mV\r\n"), std::string::npos);
+  main.cbCh1.toggle();
+  save("none.jpg");
+  EXPECT_EQ(file("none.csv"), "");
+  EXPECT_NE(file("none.inf").find("\r\nN\r\nN\r\nN\r\nN\r\n0\r\n"), std::string::npos);
+  main.cbCh2.toggle();
+  main.Ch2Raw.resize(600);
+  EXPECT_THROW(BuildCsvText(main), Error);
+  save("cut.jpg");  // The text of the description before is what is left to save.
+  EXPECT_TRUE(bench.dialogs.runTimeErrors.empty());
+}
+
+TEST_F(WaveformTest, CancelledSaveDialogWritesUnderThePresetName) {
+  save("");
+  EXPECT_TRUE(fs::exists(folder / "031514.csv"));
+  EXPECT_TRUE(fs::exists(folder / "031514.inf"));
+  EXPECT_TRUE(file("0315142905").starts_with("11:"));
+}
+
+TEST_F(WaveformTest, FailedSaveSaysSoAndKeepsTheOldFiles) {
+  save("one.png", 7);
+  const std::string before = file("one.inf");
+  fs::create_directory(folder / "one.csv.new");
+  save("one.png", 7);
+  EXPECT_EQ(bench.dialogs.runTimeErrors.size(), 1u);
+  EXPECT_EQ(file("one.inf"), before);
+  EXPECT_TRUE(saveWindow.isVisible());
+  bench.dialogs.runTimeErrors.clear();
+  // A name that is shorter than an extension loses a part of its folder.
+  save("x");
+  EXPECT_TRUE(fs::exists(bench.folder.path() / "Messung ü.csv"));
+  EXPECT_EQ(withoutExtension("测量ü1.jpg"), "测量ü1");
+  EXPECT_EQ(withoutExtension("ab测量ü1"), "ab");
+  EXPECT_THROW(withoutExtension("jpg"), Error);
+}
+
+TEST_F(WaveformTest, NotesUndoEraseAndPrint) {
+  bench.windows.user["frmSave"] = [this] {
+    const std::string first = saveWindow.pictureTemp.image().pixels;
+    saveWindow.txtWord.type("note");
+    saveWindow.pictureTemp.clickAt(5, 6);
+    EXPECT_EQ(saveWindow.pictureTemp.image().pixels, first);
+    saveWindow.cbWord.toggle();
+    saveWindow.pictureTemp.clickAt(5, 6);
+    saveWindow.pictureTemp.clickAt(7, 8);
+    EXPECT_EQ(saveWindow.pictureTemp.image().pixels, first + "|note@5,6|note@7,8");
+    saveWindow.cmdUndo.press();
+    saveWindow.cmdPrint.press();
+    EXPECT_EQ(bench.printer.printed, Lines{first + "|note@5,6"});
+    saveWindow.cmdReload.press();
+    EXPECT_EQ(saveWindow.pictureTemp.image().pixels, first);
+    saveWindow.cmdUndo.press();
+    EXPECT_EQ(bench.dialogs.messages, Lines{"Undo Error!"});
+  };
+  main.mnbSaveWaveform.choose();
+}
+
+/// A loaded trace lies where the saved one was: at its position, with fractions for channel 1.
+TEST_F(WaveformTest, SavedSetLiesOnTheTraceThatWasSaved) {
+  main.cbCh2.toggle();
+  main.Ch1Pos = 1.33;
+  main.Ch2Pos = -2;
+  main.slideCH1.value = 1.33;
+  main.slideCH2.value = -2;
+  bench.port.tag = "1";
+  bench.port.deliver(main.Ch1Raw);
+  bench.port.tag = "2";
+  bench.port.deliver(main.Ch2Raw);
+  save("both.png", 7);
+  bench.pictures = RecordingPictures();
+  load({"both.csv"});
+  EXPECT_EQ(shownReferences(), 2);
+  for (const int number : {1, 2}) {
+    const Plot& live = main.graphDSO.plot(number);
+    const Plot& loaded = main.graphDSO.plot(number + 2);
+    ASSERT_EQ(loaded.y().size(), 500u);
+    EXPECT_EQ(loaded.x(), live.x());
+    for (std::size_t i = 0; i < 500; ++i) ASSERT_NEAR(loaded.y()[i], live.y()[i], 0.5) << i;
+  }
+  EXPECT_TRUE(loadWindow.txtFile.text().find("Ch1 : 1.33\r\nCh2 : -2\r\nTime : 500.0 mV\r\n") !=
+              std::string::npos);
+  // Two more fill the rest, a third finds no room, and removing frees them all.
+  load({"both.csv"});
+  EXPECT_EQ(shownReferences(), 4);
+  load({"both.csv"});
+  EXPECT_TRUE(bench.dialogs.messages.empty());
+  bench.port.wire.clear();
+  main.cmdRemove.press();
+  EXPECT_EQ(shownReferences(), 0);
+  EXPECT_TRUE(main.graphDSO.plot(1).visible());
+  EXPECT_TRUE(bench.port.wire.empty());
+  loadWindow.cb1.value = 0;
+  load({"both.csv"});
+  EXPECT_TRUE(main.graphDSO.plot(3).visible());
+  EXPECT_EQ(main.graphDSO.plot(3).y()[0], -100);
+  EXPECT_EQ(shownReferences(), 1);
+}
+
+TEST_F(WaveformTest, SetsThatCannotBeShownLeaveTheOneBefore) {
+  save("good.jpg");
+  const std::string good = file("good.inf");
+  write("lonely.csv", "x\r\n");
+  write("gone.csv", "x\r\n");
+  write("gone.inf", "nowhere.jpg\r\n" + good.substr(good.find('\n') + 1));
+  write("kind.csv", "x\r\n");
+  write("kind.inf", "a.wmf\r\n" + good.substr(good.find('\n') + 1));
+  write("cut.csv", "x\r\n");
+  write("cut.inf", good.substr(0, good.size() / 2));
+  for (const char* bad : {"lonely.csv", "gone.csv", "kind.csv", "cut.csv"}) {
+    bench.dialogs.messages.clear();
+    load({"good.csv", bad});
+    EXPECT_EQ(bench.dialogs.messages, Lines{"File is not correct!"}) << bad;
+    EXPECT_EQ(loadWindow.fileCSV.chosenText(), "good.csv");
+    EXPECT_EQ(shownReferences(), 1) << "the set that is still shown is loaded";
+    main.cmdRemove.press();
+  }
+}
+
+TEST_F(WaveformTest, DataFilesOfEveryKind) {
+  std::string full = "Channel 1\r\n";
+  for (int i = 0; i < 500; ++i) full += "1\r\n";
+  const struct {
+    const char* what;
+    std::string text;
+    const char* position1;
+    const char* position2;
+    int points1;  // -1 for an error
+    int points2;
+  } cases[] = {
+      {"500 lines", full, "0.5", "N", 500, 0},
+      {"501 lines", full + "1\r\n", "0.5", "N", -1, 0},
+      {"only channel 2", full, "N", "1", 0, 500},
+      {"both", "h\r\n1,2\r\n", "0", "0", 1, 1},
+      {"both, one not saved", "h\r\n1,2\r\n", "N", "0", -1, 0},
+      {"text in a value", "h\r\n1\r\nx\r\n", "0", "N", -1, 0},
+      {"N for a number", "h\r\nN\r\n", "0", "N", -1, 0},
+      {"absurd value", "h\r\n99999\r\n", "0", "N", -1, 0},
+      {"absurd position", "h\r\n1\r\n", "1e308", "N", -1, 0},
+      {"line feeds only", "h\n1\n2\n", "0", "N", 2, 0},
+      {"cut in the last value", "h\r\n12\r\n1", "0", "N", 1, 0},
+      {"empty line", "h\r\n\r\n", "0", "N", -1, 0},
+      {"nothing", "", "0", "N", 0, 0},
+  };
+  for (const auto& c : cases) {
+    try {
+      const LoadedWaveforms loaded = readWaveforms(c.text, c.position1, c.position2);
+      EXPECT_EQ(std::ssize(loaded.channel1), c.points1) << c.what;
+      EXPECT_EQ(std::ssize(loaded.channel2), c.points2) << c.what;
+    } catch (const Error&) {
+      EXPECT_EQ(c.points1, -1) << c.what;
+    }
+  }
+  EXPECT_EQ(readWaveforms("h\r\n3\r\n", "0.33", "N").channel1[0], 19.5);
+  EXPECT_EQ(readWaveforms("h\r\n3\r\n", "N", "0.33").channel2[0], 20);
+}
+
+TEST_F(WaveformTest, DirectLoadTakesTheFirstColumnIntoLoad1) {
+  write("data.csv", "Channel 1,Channel 2\r\n7,1\r\n8,2\r\n");
+  bench.dialogs.pickedFile = folder / "data.csv";
+  main.cmdLoadCSV.press();
+  EXPECT_EQ(main.graphDSO.plot(3).y(), (std::vector<double>{7, 8}));
+  EXPECT_EQ(main.txtMsg.text(), file("data.csv"));
+  EXPECT_TRUE(main.tmDSO.enabled());
+  std::ofstream(folder / "data.csv").seekp(1 << 30).put('x');
+  main.mnbLoadCSV.choose();
+  EXPECT_EQ(bench.dialogs.runTimeErrors.size(), 1u);
+  bench.dialogs.pickedFile.clear();
+  main.cmdLoadCSV.press();
+  EXPECT_EQ(bench.dialogs.runTimeErrors.size(), 1u);
+  EXPECT_EQ(bench.dialogs.fileDialogs.back().title, "Load CSV file");
+}
+
+TEST_F(WaveformTest, ExportWritesTheMessageBox) {
+  main.txtMsg.text = "1,2\r\n";
+  main.cmdExportCSV.press();
+  EXPECT_EQ(file("text.csv"), "1,2\r\n");
+}
+
+TEST_F(WaveformTest, TenThousandFilesAreListedInAnInstant) {
+  for (int i = 0; i < 10000; ++i) std::ofstream(folder / (std::to_string(i) + ".csv"));
+  const auto start = std::chrono::steady_clock::now();
+  load({});
+  const auto elapsed = std::chrono::steady_clock::now() - start;
+  EXPECT_EQ(loadWindow.fileCSV.items().size(), 10000u);
+  EXPECT_LT(elapsed, std::chrono::milliseconds(200));
+}
+
+}  // namespace
+}  // namespace tracewell
