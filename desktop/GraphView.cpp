@@ -61,6 +61,9 @@ GraphView::GraphView(QWidget* parent)
   plot_->setAntialiasedElements(QCP::aePlottables);
   makeGraticule();
   for (QCPGraph*& trace : traces_) trace = plot_->addGraph();
+  // The live traces lie on top of those that were loaded.
+  traces_[0]->setLayer(QStringLiteral("axes"));
+  traces_[1]->setLayer(QStringLiteral("axes"));
   for (CursorItems& items : cursorItems_) {
     items.line = new QCPItemLine(plot_);
     items.line->setPen(QPen(cursorColour, 1, Qt::DashLine));

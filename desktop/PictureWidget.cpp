@@ -26,7 +26,7 @@ QRectF PictureWidget::target() const {
 void PictureWidget::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::SmoothPixmapTransform);
-  painter.fillRect(rect(), palette().color(QPalette::Base));
+  painter.fillRect(rect(), palette().color(QPalette::AlternateBase));
   if (!picture_.isNull()) painter.drawImage(target(), picture_);
 }
 

@@ -3,8 +3,9 @@
 ///
 ///     tracewell-screenshots FOLDER [LANGUAGE]
 ///
-/// writes frmDSO.png and the others into FOLDER. LANGUAGE is a number from 1 to 5. The main window
-/// is connected to the simulated instrument; the program folder is the executable's own.
+/// writes frmDSO.png and the others, and a printed page, into FOLDER. LANGUAGE is a number from 1
+/// to 5. The main window is connected to the simulated instrument; the program folder is the
+/// executable's own.
 
 #include <QApplication>
 #include <QDir>
@@ -67,7 +68,8 @@ int main(int argumentCount, char** arguments) {
   if (!desktop.start()) return EXIT_FAILURE;
   if (words.size() > 2) desktop.program.languageMenu.mnbLA_Click(words[2].toInt());
   bool isSaved = saveMainWindow(desktop, folder);
-  desktop.program.main.tmDSO.enabled = false;
+  desktop.printer.printToFile(folder.filePath(QStringLiteral("page.pdf")));
+  desktop.program.printing.cmdPrint_Click();
   for (Window* window : desktop.program.otherWindows())
     isSaved = saveDialog(*window, folder) && isSaved;
   return isSaved ? EXIT_SUCCESS : EXIT_FAILURE;

@@ -25,6 +25,7 @@ void PagePrinting::mnbPrintSetup_Click() {
 GraphPage PagePrinting::page() {
   GraphPage page;
   page.title = main_.caption() + "  " + main_.services().clock.dateAndTime();
+  if (!main_.graphDSO.note().empty()) page.title += "  " + main_.graphDSO.note();
   page.captions = {"Volts/Div " + main_.Msg[10] + " " + main_.lblChan1.caption() + "  " +
                        main_.Msg[11] + " " + main_.lblChan2.caption(),
                    "SEC/Div " + main_.Msg[12] + " " + main_.lblTime.caption()};
