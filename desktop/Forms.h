@@ -4,11 +4,15 @@
 #include <QWidget>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace tracewell {
 
 /// A new widget laid out as forms/<name>.ui says, owned by the caller. Raises an Error for a name
 /// without a form. Made from the list of forms in CMakeLists.txt.
 std::unique_ptr<QWidget> makeForm(const std::string& name, QWidget* parent);
+
+/// Of every form, in alphabetical order.
+std::vector<std::string> formNames();
 
 }  // namespace tracewell

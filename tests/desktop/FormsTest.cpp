@@ -7,6 +7,7 @@
 #include <QPlainTextEdit>
 #include <QSignalSpy>
 #include <QTest>
+#include <algorithm>
 
 #include "GraphView.h"
 #include "KnobWidget.h"
@@ -79,14 +80,18 @@ TEST_F(FormsTest, LanguageChangesInAnInstant) {
   EXPECT_LT(timer.elapsed(), 50);
 }
 
-TEST_F(FormsTest, EveryFormHasEveryControl) {
+TEST_F(FormsTest, EveryFormHasAWindowAndEveryControl) {
+  Lines names = {"frmDSO"};
   for (Window* window : bench.program.otherWindows()) {
+    names.push_back(window->name());
     const auto widget = makeForm(window->name(), nullptr);
     EXPECT_NO_THROW(bindControls(*window, *widget)) << window->name();
     for (Control* control : window->controls())
       EXPECT_TRUE(control->changed) << control->objectName();
     unbindControls(*window);
   }
+  std::ranges::sort(names);
+  EXPECT_EQ(names, formNames());
 }
 
 TEST_F(FormsTest, WhatTheProgramSetsIsShown) {
