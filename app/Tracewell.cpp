@@ -33,7 +33,7 @@ Tracewell::Tracewell(Services& services)
       graphSize(main),
       measurementChoice(main, captions),
       quickMeasurementChoice(main),
-      measurements(main, exchange, acquisition, measurementChoice, quickMeasurementChoice),
+      measurements(main, exchange, errorLog, acquisition, measurementChoice, quickMeasurementChoice),
       printing(main, errorLog, acquisition),
       setupFiles(main),
       saveWindow(main),

@@ -73,8 +73,8 @@
 65,:ACQ:AVER ,0 = 2; 1 = 4; 2 = 8; 3 = 16; 4 = 32; 5 = 64; 6 = 128,Set number of records averaged
 66,:ACQ:AVER?,reply: 0 = 2; 1 = 4; 2 = 8; 3 = 16; 4 = 32; 5 = 64; 6 = 128,Ask number of records averaged
 67,:ACQ:LEN?,reply: 0 = 500 samples,Ask record length; the only setting is :ACQ:LEN 0
-68,:RUN,no parameter,Start acquisition
-69,:STOP,no parameter,Stop acquisition and hold the record
+68,:Run,no parameter,Start acquisition
+69,:Stop,no parameter,Stop acquisition and hold the record
 70,:AUT,no parameter,Autoset: scales; offsets and trigger to suit the signals
 ' Display
 71,Display,group,Screen of the instrument

@@ -8,6 +8,7 @@
 #include <QEvent>
 #include <QGroupBox>
 #include <QIcon>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -71,6 +72,35 @@ class DoubleClickFilter : public QObject {
     if (event->type() != QEvent::MouseButtonDblClick) return false;
     action_();
     return true;
+  }
+
+ private:
+  std::function<void()> action_;
+};
+
+/// Calls `action` when the user has moved through the watched list with a key. Focus alone, which
+/// also gives a list its current entry, is no choice.
+class MoveKeyFilter : public QObject {
+ public:
+  MoveKeyFilter(QObject* watched, std::function<void()> action)
+      : QObject(watched), action_(std::move(action)) {
+    watched->installEventFilter(this);
+  }
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() != QEvent::KeyRelease) return false;
+    switch (static_cast<QKeyEvent*>(event)->key()) {
+      case Qt::Key_Up:
+      case Qt::Key_Down:
+      case Qt::Key_Home:
+      case Qt::Key_End:
+      case Qt::Key_PageUp:
+      case Qt::Key_PageDown:
+        action_();
+        break;
+      default:
+        break;
+    }
+    return false;
   }
 
  private:
@@ -263,8 +293,9 @@ void bind(ListBox& control, QWidget& form) {
     }
     list->setCurrentRow(control.chosen());
   });
-  QObject::connect(list, &QListWidget::currentRowChanged, list,
-                   [&control](int row) { control.choose(row); });
+  const auto choose = [&control, list] { control.choose(list->currentRow()); };
+  QObject::connect(list, &QListWidget::itemClicked, list, choose);
+  new MoveKeyFilter(list, choose);
   QObject::connect(list, &QListWidget::itemActivated, list,
                    [&control, list] { control.open(list->currentRow()); });
 }
@@ -287,10 +318,12 @@ void bind(Tree& control, QWidget& form) {
   auto* tree = findObject<QTreeWidget>(control, form);
   tree->setHeaderHidden(true);
   showWith(control, tree, [&control, tree] { fillTree(*tree, control.nodes()); });
-  QObject::connect(tree, &QTreeWidget::currentItemChanged, tree,
-                   [&control](QTreeWidgetItem* item, QTreeWidgetItem*) {
-                     if (item != nullptr) control.choose(item->data(0, Qt::UserRole).toInt());
-                   });
+  const auto choose = [&control, tree] {
+    if (tree->currentItem() != nullptr)
+      control.choose(tree->currentItem()->data(0, Qt::UserRole).toInt());
+  };
+  QObject::connect(tree, &QTreeWidget::itemClicked, tree, choose);
+  new MoveKeyFilter(tree, choose);
 }
 
 void bind(PictureBox& control, QWidget& form) {

@@ -30,9 +30,11 @@ QFont noteFont() {
 Image DesktopPictures::graphImage(const Graph& graph, const std::string& footnote) {
   QWidget* view = windows_.widgetOf(graph);
   if (view == nullptr) throw Error(invalidProcedureCall, "Tracewell", "The graph is not shown");
-  const QImage shown = view->grab().toImage();
+  QImage shown = view->grab().toImage();
   QFont font;
-  font.setPixelSize(15);
+  font.setPixelSize(static_cast<int>(15 * shown.devicePixelRatio()));
+  // From here on a pixel is a pixel.
+  shown.setDevicePixelRatio(1);
   const int lineHeight = QFontMetrics(font).height() + 8;
   QImage picture(shown.width(), shown.height() + lineHeight, QImage::Format_RGB888);
   picture.fill(view->palette().color(QPalette::Window));

@@ -26,7 +26,9 @@ Error printError(const QString& reason) {
 
 void DesktopPrinter::setUp() {
   QPrintDialog dialog(&printer_, QApplication::activeWindow());
-  isSetUp_ = dialog.exec() == QDialog::Accepted || isSetUp_;
+  if (dialog.exec() != QDialog::Accepted) return;
+  isSetUp_ = true;
+  isPaperChosen_ = true;
 }
 
 void DesktopPrinter::printToFile(const QString& path) {
@@ -43,6 +45,11 @@ bool DesktopPrinter::isReady() {
   return isSetUp_;
 }
 
+/// Unless the user has chosen how the paper lies.
+void DesktopPrinter::turnPaper(QPageLayout::Orientation orientation) {
+  if (!isPaperChosen_) printer_.setPageOrientation(orientation);
+}
+
 template <class Paint>
 void DesktopPrinter::paint(Paint paintPage) {
   if (!isReady()) return;
@@ -57,7 +64,7 @@ void DesktopPrinter::paint(Paint paintPage) {
 }
 
 void DesktopPrinter::printImage(const Image& image) {
-  printer_.setPageOrientation(QPageLayout::Landscape);
+  turnPaper(QPageLayout::Landscape);
   paint([&](QPainter& painter, const QRectF& paper) {
     const QImage picture = toQt(image);
     QSizeF size = picture.size();
@@ -68,7 +75,7 @@ void DesktopPrinter::printImage(const Image& image) {
 
 void DesktopPrinter::printText(const std::string& text) {
   if (!isReady()) return;
-  printer_.setPageOrientation(QPageLayout::Portrait);
+  turnPaper(QPageLayout::Portrait);
   QTextDocument document;
   QFont font(QStringLiteral("monospace"));
   font.setStyleHint(QFont::Monospace);
@@ -81,7 +88,7 @@ void DesktopPrinter::printText(const std::string& text) {
 }
 
 void DesktopPrinter::printPage(const GraphPage& page) {
-  printer_.setPageOrientation(QPageLayout::Landscape);
+  turnPaper(QPageLayout::Landscape);
   paint([&](QPainter& painter, const QRectF& paper) { paintOnPaper(page, painter, paper); });
 }
 

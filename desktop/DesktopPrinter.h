@@ -21,11 +21,13 @@ class DesktopPrinter : public Printer {
  private:
   /// False when there is no printer and the user has chosen none.
   bool isReady();
+  void turnPaper(QPageLayout::Orientation orientation);
   template <class Paint>
   void paint(Paint paintPage);
 
   QPrinter printer_{QPrinter::HighResolution};
   bool isSetUp_ = false;
+  bool isPaperChosen_ = false;
 };
 
 }  // namespace tracewell

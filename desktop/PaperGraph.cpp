@@ -24,6 +24,10 @@ const std::array<Ink, 5> inks = {{{QColor(0x9a, 0x5b, 0x00), Qt::SolidLine},
                                   {QColor(0x8a, 0x1c, 0x5a), Qt::DashDotLine},
                                   {QColor(0x44, 0x44, 0x44), Qt::DotLine}}};
 
+const Ink& inkOf(const GraphPage::Trace& trace) {
+  return inks[static_cast<std::size_t>(trace.number - 1) % inks.size()];
+}
+
 /// One millimetre or so: everything is measured by it.
 qreal unitOf(const QRectF& paper) {
   return paper.width() / 280;
@@ -75,7 +79,7 @@ void paintOnPaper(const GraphPage& page, QPainter& painter, const QRectF& paper)
   painter.save();
   painter.setClipRect(grid);
   for (std::size_t i = 0; i < page.traces.size(); ++i) {
-    const Ink& ink = inks[i % inks.size()];
+    const Ink& ink = inkOf(page.traces[i]);
     painter.setPen(QPen(ink.colour, unit * 0.5, ink.line));
     painter.drawPolyline(lineOf(page.traces[i], grid));
   }
@@ -84,7 +88,7 @@ void paintOnPaper(const GraphPage& page, QPainter& painter, const QRectF& paper)
   qreal y = grid.bottom() + lineHeight * 0.3;
   qreal x = paper.left();
   for (std::size_t i = 0; i < page.traces.size(); ++i) {
-    const Ink& ink = inks[i % inks.size()];
+    const Ink& ink = inkOf(page.traces[i]);
     painter.setPen(QPen(ink.colour, unit * 0.5, ink.line));
     painter.drawLine(QPointF(x, y + lineHeight / 2), QPointF(x + unit * 12, y + lineHeight / 2));
     painter.drawText(QPointF(x + unit * 14, y + lineHeight * 0.72), toQt(page.traces[i].name));

@@ -17,37 +17,48 @@ std::string footnote(const frmDSO& main) {
   return text + main.lblTime.caption();
 }
 
+/// Pauses the acquisition as long as it lives, and resumes it also when something has gone wrong.
+class Paused {
+ public:
+  Paused(const frmDSO& main, Acquisition& acquisition) : main_(main), acquisition_(acquisition) {
+    acquisition_.StopAcq();
+  }
+  ~Paused() {
+    if (!main_.HasEnded) acquisition_.ResumeAcq();
+  }
+  Paused(const Paused&) = delete;
+
+ private:
+  const frmDSO& main_;
+  Acquisition& acquisition_;
+};
+
 }  // namespace
 
 void WaveformButtons::cmdSave_Click() {
-  acquisition_.StopAcq();
+  const Paused paused(main_, acquisition_);
   saveWindow_.takePicture(main_.services().pictures.graphImage(main_.graphDSO, footnote(main_)));
   main_.refresh();
   saveWindow_.showModal();
-  acquisition_.ResumeAcq();
 }
 
 void WaveformButtons::cmdLoad_Click() {
-  acquisition_.StopAcq();
+  const Paused paused(main_, acquisition_);
   main_.refresh();
   loadWindow_.showModal();
-  acquisition_.ResumeAcq();
 }
 
 void WaveformButtons::cmdLoadCSV_Click() {
-  acquisition_.StopAcq();
+  const Paused paused(main_, acquisition_);
   const Services& services = main_.services();
   const std::filesystem::path path =
       services.dialogs.openFile({services.programFolder, "Load CSV file", "", "*.csv|*.csv"});
-  if (!path.empty()) {
-    const std::string text = readWaveformFile(path);
-    const std::vector<double> points = readFirstColumn(text);
-    main_.txtMsg.text = text;
-    Plot& load1 = main_.graphDSO.plot(firstReference);
-    load1.plotXvsY(main_.XIndex, points);
-    load1.visible = true;
-  }
-  acquisition_.ResumeAcq();
+  if (path.empty()) return;
+  main_.txtMsg.text = readWaveformFile(path);
+  const std::vector<double> points = readFirstColumn(main_.txtMsg.text());
+  Plot& load1 = main_.graphDSO.plot(firstReference);
+  load1.plotXvsY(main_.XIndex, points);
+  load1.visible = true;
 }
 
 void WaveformButtons::cmdRemove_Click() {

@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cctype>
 
 #include "Files.h"
 #include "WaveformSetReader.h"
@@ -26,13 +25,6 @@ std::vector<std::string> drives() {
   }
   if (found.empty()) found.emplace_back("/");
   return found;
-}
-
-bool isDataFile(const fs::path& path) {
-  std::string extension = path.extension().string();
-  std::ranges::transform(extension, extension.begin(),
-                         [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-  return extension == ".csv";
 }
 
 bool isPictureType(const std::string& picturePath) {
@@ -58,7 +50,7 @@ FolderContent readFolder(const fs::path& folder) {
     const std::string name = pathText(entry->path().filename());
     if (entry->is_directory(ignored))
       content.folders.push_back(name);
-    else if (isDataFile(entry->path()))
+    else if (name.ends_with(".csv"))
       content.dataFiles.push_back(name);
   }
   if (failed)
@@ -85,17 +77,25 @@ frmLoad::frmLoad(frmDSO& main) : Window("frmLoad", "Load Waveform", main.service
 
 void frmLoad::Form_Load() {
   folder_ = services().programFolder;
-  driveCSV.items = drives();
-  driveCSV.text = pathText(folder_.root_path());
 }
 
-/// Anew at each opening: sets may have been saved meanwhile.
+/// Anew at each opening: sets may have been saved meanwhile, and folders may have gone.
 void frmLoad::Form_Activate() {
-  showFolder(folder_);
+  driveCSV.items = drives();
+  try {
+    showFolder(folder_);
+  } catch (const Error&) {
+    showFolder(services().programFolder);
+  }
 }
 
 void frmLoad::driveCSV_Change() {
-  showFolder(pathOf(driveCSV.text()));
+  try {
+    showFolder(pathOf(driveCSV.text()));
+  } catch (const Error&) {
+    driveCSV.text = pathText(folder_.root_path());
+    throw;
+  }
 }
 
 void frmLoad::dirCSV_Change() {
@@ -106,6 +106,7 @@ void frmLoad::dirCSV_Change() {
 void frmLoad::showFolder(const fs::path& folder) {
   FolderContent content = readFolder(folder);
   folder_ = folder;
+  driveCSV.text = pathText(folder.root_path());
   lblPath.caption = pathText(folder);
   dirCSV.items = std::move(content.folders);
   fileCSV.items = std::move(content.dataFiles);
@@ -151,14 +152,13 @@ void frmLoad::drawSet(const LoadedWaveforms& set) {
   while (number <= Graph::plotCount && main_.graphDSO.plot(number).visible()) ++number;
   if (number > Graph::plotCount) return;
   const auto draw = [&](const std::vector<double>& points) {
+    if (points.empty() || number > Graph::plotCount) return;
     Plot& plot = main_.graphDSO.plot(number);
     plot.plotXvsY(main_.XIndex, points);
     plot.visible = true;
-  };
-  if (cb1.isChecked() && channel1Value_ != notSaved) {
-    draw(set.channel1);
     ++number;
-  }
+  };
+  if (cb1.isChecked() && channel1Value_ != notSaved) draw(set.channel1);
   if (cb2.isChecked() && channel2Value_ != notSaved) draw(set.channel2);
 }
 

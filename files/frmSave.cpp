@@ -38,12 +38,12 @@ void frmSave::takePicture(const Image& image) {
   pictureTemp.image = image;
 }
 
-/// What was built last stays where no record has come yet.
+/// Says nothing where no record has come yet: there is nothing to save then.
 void frmSave::Form_Activate() {
   try {
     txtDatFile.text = BuildCsvText(main_);
   } catch (const Error&) {
-    // Says nothing: there is no waveform to save.
+    txtDatFile.text = "";
   }
 }
 
@@ -53,7 +53,7 @@ void frmSave::opFiletype_Click(int index) {
 }
 
 void frmSave::pictureTemp_Click(int x, int y) {
-  if (!cbWord.isChecked()) return;
+  if (!cbWord.isChecked() || txtWord.text().empty()) return;
   history_.push_back(pictureTemp.image());
   pictureTemp.image = services().pictures.withText(history_.back(), txtWord.text(), x, y);
 }
@@ -75,14 +75,28 @@ void frmSave::cmdOK_Click() {
   const std::string pattern = "*." + pictureExtension_;
   const std::filesystem::path path = services().dialogs.saveFile(
       {services().programFolder, caption(), timeStamp(services().clock), pattern + "|" + pattern});
-  const std::string name = pathText(path);
-  const std::string base = withoutExtension(name);
-  writeWholeFile(pathOf(base + ".csv"), txtDatFile.text());
-  txtDatFile.text = buildInfText(main_, name, txtAuthor.text(), txtDes.text());
-  writeWholeFile(pathOf(base + ".inf"), txtDatFile.text());
-  writeWholeFile(path, services().pictures.encode(pictureTemp.image(), pictureType_));
+  saveSet(path);
   hide();
   main_.refresh();
+}
+
+void frmSave::saveSet(const std::filesystem::path& path) {
+  const std::string name = pathText(path);
+  const std::string base = withoutExtension(name);
+  const std::string csv = txtDatFile.text();
+  const std::string picture = services().pictures.encode(pictureTemp.image(), pictureType_);
+  if (name == base + ".csv" || name == base + ".inf")
+    throw Error(pathAccess, "Tracewell", "A picture cannot have the name of its data: " + name);
+  writeWholeFile(pathOf(base + ".csv"), csv);
+  txtDatFile.text = buildInfText(main_, name, txtAuthor.text(), txtDes.text());
+  try {
+    writeWholeFile(pathOf(base + ".inf"), txtDatFile.text());
+    writeWholeFile(path, picture);
+  } catch (const Error&) {
+    // The window stays open, and its next OK begins with the data again.
+    txtDatFile.text = csv;
+    throw;
+  }
 }
 
 }  // namespace tracewell

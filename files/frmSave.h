@@ -42,6 +42,7 @@ class frmSave : public Window {
   void cmdUndo_Click();
   void cmdReload_Click();
   void cmdOK_Click();
+  void saveSet(const std::filesystem::path& path);
 
   frmDSO& main_;
   std::int16_t pictureType_ = Pictures::jpg;

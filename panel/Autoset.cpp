@@ -27,6 +27,7 @@ void Autoset::cmdAutoset_Click() {
     message_.hide();
     message_.refresh();
   } catch (const Error& error) {
+    message_.hide();
     errorLog_.ErrLog(error, "cmdAutoset_Click : ");
   }
 }

@@ -48,13 +48,17 @@ std::string pathText(const fs::path& path) {
 }
 
 fs::path pathOf(const std::string& text) {
-  return std::u8string(text.begin(), text.end());
+  try {
+    return std::u8string(text.begin(), text.end());
+  } catch (const std::exception&) {
+    throw Error(pathAccess, "Tracewell", "Not a path: " + text);
+  }
 }
 
 std::string readWholeFile(const fs::path& path) {
   std::error_code ignored;
   if (!fs::exists(path, ignored)) throw fileError(fileNotFound, "File not found", path, 0);
-  if (fs::is_directory(path, ignored)) throw fileError(pathAccess, "Not a file", path, 0);
+  if (!fs::is_regular_file(path, ignored)) throw fileError(pathAccess, "Not a file", path, 0);
   errno = 0;
   std::ifstream file(path, std::ios::binary);
   std::string bytes(std::istreambuf_iterator<char>(file), {});

@@ -17,7 +17,8 @@ std::string readWholeFile(const std::filesystem::path& path);
 /// and reason.
 void writeWholeFile(const std::filesystem::path& path, std::string_view bytes);
 
-/// UTF-8 text of a path, and the path of such a text.
+/// UTF-8 text of a path, and the path of such a text. The latter raises pathAccess where the system
+/// can make no path of it.
 std::string pathText(const std::filesystem::path& path);
 std::filesystem::path pathOf(const std::string& text);
 

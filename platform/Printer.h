@@ -11,6 +11,8 @@ namespace tracewell {
 /// The graph for paper: lines in graph units, and the texts around it.
 struct GraphPage {
   struct Trace {
+    /// Of the plot, from 1; a trace keeps its look whatever else is on the page.
+    int number = 1;
     std::string name;
     /// Graph units.
     std::vector<double> x;

@@ -11,7 +11,13 @@ Window::Window(std::string name, std::string captionText, Services& services)
 void Window::load() {
   if (isLoaded_) return;
   isLoaded_ = true;
-  formLoad.raise();
+  try {
+    formLoad.raise();
+  } catch (...) {
+    // Its next use tries again.
+    isLoaded_ = false;
+    throw;
+  }
 }
 
 void Window::showModal() {

@@ -1,36 +1,48 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "LanguageMenu.h"
 
-#include <algorithm>
-
 #include "Messages.h"
 
 namespace tracewell {
 namespace {
 
-/// Captions of the main window that show a message while the program runs, where a caption file
-/// would put the words of the design back.
+/// What the main window shows of its state, where a caption file would put the words of the design
+/// back: messages, and the values behind the captions of slides.
 class StateTexts {
  public:
   explicit StateTexts(frmDSO& main) : main_(main) {
-    for (Property<std::string>* caption :
-         {&main.lblConnect.caption, &main.cmdStart.caption, &main.cmdRunStop.caption}) {
-      const auto shown = std::ranges::find(main.Msg, (*caption)());
-      if (shown != main.Msg.end() && !shown->empty())
-        texts_.emplace_back(caption, static_cast<std::size_t>(shown - main.Msg.begin()));
-    }
+    remember(main.lblConnect.caption, {1, 7, 8, 9});
+    remember(main.cmdStart.caption, {2, 3});
+    remember(main.cmdRunStop.caption, {5, 6});
+    for (Slide* slide : {&main.slideCH1, &main.slideCH2, &main.slideTime, &main.slideTrig})
+      if (slide->value() != 0 || slide->caption() != designCaption(*slide))
+        slides_.push_back(slide);
   }
 
   void showAgain() {
     for (const auto& [caption, message] : texts_) *caption = main_.Msg[message];
-    // The caption of a slide ends in its value.
-    for (Slide* slide : {&main_.slideCH1, &main_.slideCH2, &main_.slideTime, &main_.slideTrig})
-      if (slide->value() != 0) slide->pointerValueChanged.raise();
+    for (Slide* slide : slides_) slide->pointerValueChanged.raise();
   }
 
  private:
+  void remember(Property<std::string>& caption, std::initializer_list<std::size_t> messages) {
+    for (const std::size_t message : messages)
+      if (caption() == main_.Msg[message]) {
+        texts_.emplace_back(&caption, message);
+        return;
+      }
+  }
+
+  /// A slide that has neither been moved nor read still ends as its design does.
+  std::string designCaption(const Slide& slide) const {
+    const std::string& caption = slide.caption();
+    const char* unit = &slide == &main_.slideTime ? " 0.00 Div" : " 0.00 V";
+    return caption.substr(0, caption.find(':') + 1) + unit;
+  }
+
   frmDSO& main_;
   std::vector<std::pair<Property<std::string>*, std::size_t>> texts_;
+  std::vector<Slide*> slides_;
 };
 
 }  // namespace

@@ -32,21 +32,24 @@ frmCmd::frmCmd(frmDSO& main, ErrorLog& errorLog, Acquisition& acquisition, Comma
   cmdOK.click = [this] { hide(); };
 }
 
-/// A command list that cannot be used is logged, and the console opens with what could be read: a
-/// command can be typed all the same.
 void frmCmd::cmdDSOcmd_Click() {
   acquisition_.StopAcq();
   main_.refresh();
-  try {
-    load();
-  } catch (const Error& error) {
-    errorLog_.ErrLog(error, "cmdDSOcmd_Click : ");
-  }
   showModal();
   acquisition_.ResumeAcq();
 }
 
+/// A command list that cannot be used is logged, and the console opens with what could be read: a
+/// command can be typed all the same.
 void frmCmd::Form_Load() {
+  try {
+    readCommands();
+  } catch (const Error& error) {
+    errorLog_.ErrLog(error, "cmdDSOcmd_Click : ");
+  }
+}
+
+void frmCmd::readCommands() {
   std::size_t entry = 0;
   int group = 0;
   for (const CommandEntry& line :

@@ -30,6 +30,7 @@ class frmCmd : public Window {
   static constexpr std::size_t mostEntries = 100;
 
   void Form_Load();
+  void readCommands();
   void tvCmd_NodeClick(int node);
   void txtCmd_KeyDown(int code);
   void RunConsoleCommand();

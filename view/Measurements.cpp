@@ -28,24 +28,47 @@ bool isNoValue(const std::string& reply) {
   return reply.empty() || reply.starts_with('N');
 }
 
+/// True as long as it lives.
+class Flag {
+ public:
+  explicit Flag(bool& flag) : flag_(flag) { flag_ = true; }
+  ~Flag() { flag_ = false; }
+  Flag(const Flag&) = delete;
+
+ private:
+  bool& flag_;
+};
+
 }  // namespace
 
-Measurements::Measurements(frmDSO& main, CommandExchange& exchange, Acquisition& acquisition,
-                           frmVMeasure& selection, frmFMeasure& quickSelection)
+Measurements::Measurements(frmDSO& main, CommandExchange& exchange, ErrorLog& errorLog,
+                           Acquisition& acquisition, frmVMeasure& selection,
+                           frmFMeasure& quickSelection)
     : main_(main),
       exchange_(exchange),
+      errorLog_(errorLog),
       acquisition_(acquisition),
       selection_(selection),
       quickSelection_(quickSelection) {}
 
 void Measurements::cmdVMeasure_Click() {
+  if (isMeasuring_) return;
+  const Flag measuring(isMeasuring_);
+  try {
+    chooseAndMeasure();
+  } catch (const Error& error) {
+    errorLog_.ErrLog(error, "cmdVMeasure_Click : ");
+  }
+  main_.tmDSO.enabled = false;
+  showStopped(main_);
+}
+
+void Measurements::chooseAndMeasure() {
   acquisition_.StopAcq();
   selection_.load();
   selection_.showFlags();
   selection_.showModal();
   RunMeasurements();
-  main_.tmDSO.enabled = false;
-  showStopped(main_);
 }
 
 void Measurements::RunMeasurements() {
@@ -104,6 +127,15 @@ void Measurements::mnbFrequency_Click() {
 }
 
 void Measurements::cmdFMeasure_Click() {
+  if (isMeasuring_) return;
+  try {
+    measureQuickly();
+  } catch (const Error& error) {
+    errorLog_.ErrLog(error, "cmdFMeasure_Click : ");
+  }
+}
+
+void Measurements::measureQuickly() {
   int& readTimeOut = main_.services().port.readTimeOut;
   readTimeOut = ShortReplyTimeout(main_);
   exchange_.SendDSOCmd(sourceCommand(main_.FMeasChan));

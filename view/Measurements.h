@@ -12,10 +12,11 @@ namespace tracewell {
 /// conversion.
 class Measurements {
  public:
-  Measurements(frmDSO& main, CommandExchange& exchange, Acquisition& acquisition,
-               frmVMeasure& selection, frmFMeasure& quickSelection);
+  Measurements(frmDSO& main, CommandExchange& exchange, ErrorLog& errorLog,
+               Acquisition& acquisition, frmVMeasure& selection, frmFMeasure& quickSelection);
 
-  /// Stops the acquisition, has the user choose, measures, and leaves the acquisition stopped.
+  /// Stops the acquisition, has the user choose, measures, and leaves the acquisition stopped. Does
+  /// nothing while a measurement is under way. Logs its failure, as the next one does.
   void cmdVMeasure_Click();
   /// Measures the times of one channel with the last choice. The acquisition goes on.
   void cmdFMeasure_Click();
@@ -29,6 +30,8 @@ class Measurements {
   void ClearMeasureLabels();
 
  private:
+  void chooseAndMeasure();
+  void measureQuickly();
   void measureFlagged(int channel, std::span<const std::string_view> names,
                       std::span<const std::string_view> queries, int flagRow);
   void measureOne(int channel, std::string_view name, const std::string& query);
@@ -37,11 +40,14 @@ class Measurements {
 
   frmDSO& main_;
   CommandExchange& exchange_;
+  ErrorLog& errorLog_;
   Acquisition& acquisition_;
   frmVMeasure& selection_;
   frmFMeasure& quickSelection_;
   /// Label that the next result goes to; the last one takes all that find no room.
   int nextLabel_ = 0;
+  /// Events run between two items; none of them may begin a second measurement.
+  bool isMeasuring_ = false;
 };
 
 }  // namespace tracewell

@@ -26,14 +26,15 @@ GraphPage PagePrinting::page() {
   GraphPage page;
   page.title = main_.caption() + "  " + main_.services().clock.dateAndTime();
   if (!main_.graphDSO.note().empty()) page.title += "  " + main_.graphDSO.note();
-  page.captions = {"Volts/Div " + main_.Msg[10] + " " + main_.lblChan1.caption() + "  " +
-                       main_.Msg[11] + " " + main_.lblChan2.caption(),
-                   "SEC/Div " + main_.Msg[12] + " " + main_.lblTime.caption()};
+  std::string scales = "Volts/Div";
+  if (main_.ChanOn[0]) scales += " " + main_.Msg[10] + " " + main_.lblChan1.caption();
+  if (main_.ChanOn[1]) scales += " " + main_.Msg[11] + " " + main_.lblChan2.caption();
+  page.captions = {scales, "SEC/Div " + main_.Msg[12] + " " + main_.lblTime.caption()};
   if (!main_.opOff.value()) page.captions.push_back(main_.graphDSO.axis("XAxis").caption());
   for (int number = 1; number <= printedPlots; ++number) {
     const Plot& plot = main_.graphDSO.plot(number);
     if (plot.visible() && !plot.x().empty())
-      page.traces.push_back({plot.name(), plot.x(), plot.y()});
+      page.traces.push_back({number, plot.name(), plot.x(), plot.y()});
   }
   return page;
 }

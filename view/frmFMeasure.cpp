@@ -18,7 +18,7 @@ void frmFMeasure::Form_Activate() {
   cbChan.text = std::to_string(main_.FMeasChan);
   for (CheckBox& box : cbF) {
     const int column = SetupTable::firstValue + box.index();
-    box.value = main_.gridMeasure.text(SetupTable::quickMeasurement, column) == "1" ? 1 : 0;
+    box.value = main_.gridMeasure.text(SetupTable::voltageChannel1, column) == "1" ? 1 : 0;
   }
 }
 

@@ -4,9 +4,11 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPlainTextEdit>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTreeWidget>
 #include <algorithm>
 
 #include "GraphView.h"
@@ -166,6 +168,47 @@ TEST_F(FormsTest, CommandLineSendsWithEnterAndByButton) {
   QTest::mouseClick(find("cmdTest"), Qt::LeftButton);
   EXPECT_EQ(takeWire(), (Lines{"*IDN?", "*IDN?"}));
   EXPECT_EQ(find<QPlainTextEdit>("txtMsg")->toPlainText(), QStringLiteral("KRM-410"));
+}
+
+TEST_F(FormsTest, ConsoleSendsOncePerEnterAndFocusChoosesNothing) {
+  frmCmd& console = bench.program.console;
+  console.load();
+  const auto dialog = makeForm("frmCmd", nullptr);
+  bindControls(console, *dialog);
+  dialog->show();
+  auto* tree = dialog->findChild<QTreeWidget*>();
+  tree->setFocus();
+  QApplication::processEvents();
+  EXPECT_EQ(console.txtCmd.text(), "");
+  QTest::keyClick(tree, Qt::Key_Home);
+  EXPECT_EQ(console.txtCmd.text(), "Channel 1");
+  auto* line = dialog->findChild<QLineEdit*>(QStringLiteral("txtCmd"));
+  line->clear();
+  QTest::keyClicks(line, QStringLiteral(":CHAN1:OFFS -1"));
+  QTest::keyClick(line, Qt::Key_Return);
+  EXPECT_TRUE(takeWire().empty());
+  EXPECT_EQ(bench.dialogs.messages, Lines{"Out of range"});
+  EXPECT_EQ(line->text(), QStringLiteral(":CHAN1:OFFS"));
+  QTest::keyClick(line, Qt::Key_Return);
+  EXPECT_EQ(takeWire(), Lines{":CHAN1:OFFS"});
+  unbindControls(console);
+}
+
+TEST_F(FormsTest, ListKeepsTheEntryThatTheProgramGoesBackTo) {
+  frmLoad& window = bench.program.loadWindow;
+  const auto dialog = makeForm("frmLoad", nullptr);
+  bindControls(window, *dialog);
+  dialog->show();
+  window.fileCSV.items = {"good.csv", "bad.csv"};
+  window.fileCSV.click = [&] { window.fileCSV.chosen = 0; };
+  auto* list = dialog->findChild<QListWidget*>(QStringLiteral("fileCSV"));
+  QApplication::processEvents();
+  QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
+                    list->visualItemRect(list->item(1)).center());
+  EXPECT_EQ(list->currentRow(), 0);
+  EXPECT_TRUE(list->item(0)->isSelected());
+  EXPECT_FALSE(list->item(1)->isSelected());
+  unbindControls(window);
 }
 
 TEST_F(FormsTest, DoubleClickOnTheCommandTitleOpensTheLog) {

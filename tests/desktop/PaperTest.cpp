@@ -33,7 +33,7 @@ TEST_F(PaperTest, PageCarriesTitleTracesAndScales) {
   GraphPage page;
   page.title = "Tracewell  2026-03-15";
   page.captions = {"Volts/Div voie 1 500.0 mV", "SEC/Div 500.0 us"};
-  GraphPage::Trace trace{"Chan1", {}, {}};
+  GraphPage::Trace trace{1, "Chan1", {}, {}};
   for (int i = -250; i < 250; ++i) {
     trace.x.push_back(i);
     trace.y.push_back(100 * std::sin(i * std::numbers::pi / 50));

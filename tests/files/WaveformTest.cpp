@@ -121,11 +121,23 @@ TEST_F(WaveformTest, CancelledSaveDialogWritesUnderThePresetName) {
 TEST_F(WaveformTest, FailedSaveSaysSoAndKeepsTheOldFiles) {
   save("one.png", 7);
   const std::string before = file("one.inf");
-  fs::create_directory(folder / "one.csv.new");
-  save("one.png", 7);
+  fs::create_directory(folder / "one.inf.new");
+  main.slideCH1.value = 3;
+  bench.windows.user["frmSave"] = [this] {
+    saveWindow.cmdOK.press();
+    EXPECT_TRUE(saveWindow.isVisible());
+    fs::remove(folder / "one.inf.new");
+    saveWindow.cmdOK.press();
+  };
+  main.cmdSave.press();
   EXPECT_EQ(bench.dialogs.runTimeErrors.size(), 1u);
-  EXPECT_EQ(file("one.inf"), before);
-  EXPECT_TRUE(saveWindow.isVisible());
+  EXPECT_NE(file("one.inf"), before);
+  // Not the text of the description, which the failed try had come to.
+  EXPECT_TRUE(file("one.csv").starts_with("Channel 1\r\n"));
+  bench.dialogs.runTimeErrors.clear();
+  save("one.csv");
+  EXPECT_EQ(bench.dialogs.runTimeErrors.size(), 1u);
+  EXPECT_TRUE(file("one.csv").starts_with("Channel 1\r\n"));
   bench.dialogs.runTimeErrors.clear();
   // A name that is shorter than an extension loses a part of its folder.
   save("x");
@@ -215,6 +227,21 @@ TEST_F(WaveformTest, SetsThatCannotBeShownLeaveTheOneBefore) {
     EXPECT_EQ(shownReferences(), 1) << "the set that is still shown is loaded";
     main.cmdRemove.press();
   }
+}
+
+TEST_F(WaveformTest, FolderThatHasGoneIsLeft) {
+  save("one.jpg");
+  load({"one.csv"});
+  fs::current_path(oldFolder);
+  fs::remove_all(folder);
+  bench.windows.user["frmLoad"] = [this] {
+    EXPECT_EQ(loadWindow.lblPath.caption(), pathText(bench.folder.path()));
+    fs::create_directory(folder);
+    loadWindow.cmdCancel.press();
+  };
+  main.cmdLoad.press();
+  EXPECT_TRUE(bench.dialogs.runTimeErrors.empty());
+  EXPECT_TRUE(main.tmDSO.enabled());
 }
 
 TEST_F(WaveformTest, DataFilesOfEveryKind) {

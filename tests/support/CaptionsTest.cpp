@@ -82,6 +82,11 @@ TEST_F(CaptionsTest, LanguageChangesEveryWindowAndKeepsWhatIsShown) {
   EXPECT_EQ(bench.main.lblConnect.caption(), bench.main.Msg[7]);
   EXPECT_EQ(bench.main.cmdStart.caption(), "Arrêter");
   EXPECT_EQ(bench.main.slideCH1.caption(), "Position voie 1 : -1.50 Div");
+  // Through languages whose words for two states are alike.
+  for (MenuEntry* language : {&bench.main.mnbLA4, &bench.main.mnbLA2, &bench.main.mnbLA1})
+    language->choose();
+  EXPECT_EQ(bench.main.slideCH2.caption(), "Channel Two Position : -2.00 Div");
+  EXPECT_EQ(bench.main.slideTime.caption(), "Time Position : 0.00 Div");
   bench.port.wire.clear();
   bench.main.cmdRunStop.press();
   EXPECT_EQ(bench.port.wire, std::vector<std::string>{":Run"});
@@ -184,6 +189,9 @@ TEST_F(CaptionsTest, UnknownLanguageNumberReadsTheFilesWithoutACode) {
   for (const char* number : {"0", "6", "12", "x", ""}) {
     bench.main.gridMeasure.setText(12, 2, number);
     EXPECT_EQ(languageFile(bench.main, ".cap").filename(), "dso_.cap");
+    // A setup that is no good does not keep the program from starting.
+    EXPECT_NO_THROW(LoadMessages(bench.main));
+    EXPECT_NO_THROW(bench.program.captions.LoadCaptions());
   }
   bench.main.gridMeasure.setText(12, 2, "5");
   EXPECT_EQ(languageFile(bench.main, ".msg").filename(), "dso_la5.msg");

@@ -150,6 +150,26 @@ TEST_F(MeasurementsTest, QuickMeasurementReadsTheVoltageRowAndNeitherPadsNorRepe
   EXPECT_EQ(main.gridMeasure.text(2, 3), "0");
 }
 
+TEST_F(MeasurementsTest, SecondMeasurementInsideTheFirstIsNotBegun) {
+  flag(2, 2);
+  flag(2, 3);
+  port.answer(":MEAS:VPP?", {"1\n"});
+  port.answer(":MEAS:VAMP?", {"2\n"});
+  bench.clock.callAfter(0, [&] {
+    main.cmdFMeasure.press();
+    main.cmdVMeasure.press();
+  });
+  main.cmdVMeasure.press();
+  EXPECT_EQ(takeWire(), (Lines{":MEAS:SOUR 1", ":MEAS:VPP?", ":MEAS:VAMP?", ":MEAS:SOUR 2"}));
+  EXPECT_EQ(label(1), "Vamp(1)   : 2");
+  main.BaudRate = 0;
+  main.cmdVMeasure.press();
+  main.cmdFMeasure.press();
+  EXPECT_EQ(bench.logLines(), (Lines{"Tracewell - cmdVMeasure_Click : Division by zero",
+                                     "Tracewell - cmdFMeasure_Click : Division by zero"}));
+  EXPECT_EQ(main.lblConnect.caption(), main.Msg[8]);
+}
+
 TEST_F(MeasurementsTest, ClosingTheWindowBetweenTwoItemsEndsTheProgram) {
   flag(2, 2);
   flag(2, 3);

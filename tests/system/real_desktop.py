@@ -1,0 +1,209 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""What the system tests share: an X server of their own, the program in a folder of its own, and
+krm410-sim behind a link.
+
+Each test is called with TRACEWELL KRM410_SIM DATA_FOLDER.
+"""
+
+import os
+import pathlib
+import shutil
+import subprocess
+import sys
+import tempfile
+import time
+import unittest
+
+TRACEWELL, SIMULATOR, DATA = (os.path.abspath(argument) for argument in sys.argv[1:4])
+WIDTH, HEIGHT = 1280, 800
+# Inside the graticule of the window at that size.
+GRATICULE = (20, 110, 790, 535)
+KNOB_CHAN1 = (905, 200)
+
+
+def wait_for(condition, seconds, what):
+    end = time.monotonic() + seconds
+    while time.monotonic() < end:
+        result = condition()
+        if result:
+            return result
+        time.sleep(0.1)
+    raise AssertionError(f"{what}: not within {seconds} seconds")
+
+
+def run(*command):
+    return subprocess.run(command, check=True, capture_output=True, text=True).stdout
+
+
+class Screen:
+    """An X server, and what is seen on it."""
+
+    def __init__(self):
+        read_end, write_end = os.pipe()
+        self.server = subprocess.Popen(
+            ["Xvfb", "-displayfd", str(write_end), "-noreset", "-screen", "0", f"{WIDTH}x{HEIGHT}x24"],
+            pass_fds=[write_end], stderr=subprocess.DEVNULL)
+        os.close(write_end)
+        with os.fdopen(read_end) as pipe:
+            os.environ["DISPLAY"] = ":" + pipe.readline().strip()
+        wait_for(lambda: subprocess.run(["xdotool", "getdisplaygeometry"],
+                                        capture_output=True).returncode == 0, 10, "the X server")
+
+    def stop(self):
+        self.server.terminate()
+        self.server.wait()
+
+    def pixels(self):
+        """Bytes of the screen, three to a pixel, row by row."""
+        picture = subprocess.run(["import", "-window", "root", "-depth", "8", "ppm:-"], check=True,
+                                 capture_output=True).stdout
+        header = picture.split(b"\n", 3)
+        assert header[1] == f"{WIDTH} {HEIGHT}".encode()
+        return header[3]
+
+    def trace(self):
+        """Where the graph shows the colour of channel 1."""
+        pixels = self.pixels()
+        left, top, right, bottom = GRATICULE
+        found = set()
+        for y in range(top, bottom):
+            for x in range(left, right):
+                red, green, blue = pixels[3 * (y * WIDTH + x):3 * (y * WIDTH + x) + 3]
+                if red > 170 and 120 < green < red and red - blue > 90:
+                    found.add((x, y))
+        return found
+
+    def lamp(self):
+        pixels = self.pixels()
+        counts = {"blue": 0, "green": 0, "red": 0}
+        for y in range(20, 56):
+            for x in range(8, 40):
+                red, green, blue = pixels[3 * (y * WIDTH + x):3 * (y * WIDTH + x) + 3]
+                for name, value, others in (("red", red, green + blue), ("green", green, red + blue),
+                                            ("blue", blue, red + green)):
+                    counts[name] += value > 150 and value > others
+        return max(counts, key=counts.get)
+
+
+class Program:
+    """A copy of the program in a folder of its own."""
+
+    def __init__(self, port):
+        self.folder = pathlib.Path(tempfile.mkdtemp(prefix="tracewell-system-"))
+        shutil.copy(TRACEWELL, self.folder)
+        for file in pathlib.Path(DATA).iterdir():
+            shutil.copy(file, self.folder)
+        self.setup = self.folder / "default.dso"
+        self.write_port(port)
+        self.process = None
+
+    def write_port(self, port):
+        text = self.setup.read_bytes().replace(b",None,0\r\n", b",None,%d\r\n" % port)
+        self.setup.write_bytes(text)
+
+    window = None
+
+    def start(self):
+        self.process = subprocess.Popen([self.folder / "tracewell"], cwd=self.folder)
+        self.window = None
+        self.window = self.find("Tracewell")
+        run("xdotool", "windowmove", self.window, "0", "0",
+            "windowsize", self.window, str(WIDTH), str(HEIGHT))
+        self.focus(self.window)
+
+    def find(self, title):
+        """The window of that title, other than the main one."""
+        def search():
+            found = subprocess.run(
+                ["xdotool", "search", "--all", "--onlyvisible", "--pid", str(self.process.pid),
+                 "--name", f"^{title}$"], capture_output=True, text=True).stdout.split()
+            return [window for window in found if window != self.window]
+        return wait_for(search, 10, f"the window {title}")[0]
+
+    def focus(self, window):
+        run("xdotool", "windowfocus", "--sync", window)
+        time.sleep(0.3)
+
+    def keys(self, *names):
+        run("xdotool", "key", *names)
+        time.sleep(0.3)
+
+    def type(self, text):
+        run("xdotool", "type", text)
+        time.sleep(0.2)
+
+    def wheel(self, x, y, button):
+        """Button 4 turns up, 5 down."""
+        run("xdotool", "mousemove", str(x), str(y), "click", str(button))
+        time.sleep(0.2)
+
+    def processor_seconds(self):
+        fields = pathlib.Path(f"/proc/{self.process.pid}/stat").read_text().rsplit(")", 1)[1].split()
+        return (int(fields[11]) + int(fields[12])) / os.sysconf("SC_CLK_TCK")
+
+    def load(self, seconds):
+        """Percent of one core that the program uses during so many seconds."""
+        before = self.processor_seconds()
+        time.sleep(seconds)
+        return 100 * (self.processor_seconds() - before) / seconds
+
+    def close(self):
+        """As the user does, with the question answered by its default."""
+        self.focus(self.window)
+        self.keys("ctrl+q")
+        self.focus(self.find("Tracewell"))
+        self.keys("alt+y")
+        self.process.wait(10)
+
+    def remove(self):
+        if self.process and self.process.poll() is None:
+            self.process.kill()
+            self.process.wait()
+        shutil.rmtree(self.folder)
+
+
+class Instrument:
+    """krm410-sim behind a link."""
+
+    def __init__(self, link):
+        self.process = subprocess.Popen([SIMULATOR, "--link", str(link)], stdin=subprocess.PIPE,
+                                        stdout=subprocess.PIPE, text=True)
+        self.process.stdout.readline()
+
+    def fault(self, line):
+        self.process.stdin.write(line + "\n")
+        self.process.stdin.flush()
+
+    def stop(self):
+        self.process.terminate()
+        self.process.wait()
+        self.process.stdin.close()
+        self.process.stdout.close()
+
+
+class SystemTestCase(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.screen = Screen()
+
+    @classmethod
+    def tearDownClass(cls):
+        cls.screen.stop()
+
+    def make_program(self, port):
+        program = Program(port)
+        self.addCleanup(program.remove)
+        return program
+
+    def make_instrument(self, program):
+        instrument = Instrument(program.folder / "com7")
+        self.addCleanup(instrument.stop)
+        return instrument
+
+    def expect_live_trace(self):
+        first = wait_for(lambda: len(trace := self.screen.trace()) > 300 and trace, 10, "a trace")
+        wait_for(lambda: self.screen.trace() != first, 10, "a second frame")
+
+
+def main():
+    unittest.main(argv=sys.argv[:1], verbosity=2)
