@@ -111,13 +111,13 @@ class Program:
             "windowsize", self.window, str(WIDTH), str(HEIGHT))
         self.focus(self.window)
 
-    def find(self, title):
-        """The window of that title, other than the main one."""
+    def find(self, title, besides=None):
+        """The window of that title, other than the main one and the one given."""
         def search():
             found = subprocess.run(
                 ["xdotool", "search", "--all", "--onlyvisible", "--pid", str(self.process.pid),
                  "--name", f"^{title}$"], capture_output=True, text=True).stdout.split()
-            return [window for window in found if window != self.window]
+            return [window for window in found if window not in (self.window, besides)]
         return wait_for(search, 10, f"the window {title}")[0]
 
     def focus(self, window):
