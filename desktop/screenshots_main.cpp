@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Pictures of every window, as the manual shows them:
 ///
-///     tracewell-screenshots FOLDER [LANGUAGE]
+///     tracewell-screenshots FOLDER [LANGUAGE [dark]]
 ///
 /// writes frmDSO.png and the others, and a printed page, into FOLDER. LANGUAGE is a number from 1
-/// to 5. The main window is connected to the simulated instrument; the program folder is the
-/// executable's own.
+/// to 5; "dark" shows them as on a dark desktop. The main window is connected to the simulated
+/// instrument; the program folder is the executable's own.
 
 #include <QApplication>
 #include <QDir>
@@ -60,8 +60,9 @@ bool saveDialog(Window& window, const QDir& folder) {
 int main(int argumentCount, char** arguments) {
   using namespace tracewell;
   QApplication application(argumentCount, arguments);
-  applyTheme(application);
   const QStringList words = QApplication::arguments();
+  if (words.value(3) == QStringLiteral("dark")) QApplication::setPalette(QColor(Qt::black));
+  applyTheme(application);
   if (words.size() < 2 || !QDir().mkpath(words[1])) return EXIT_FAILURE;
   const QDir folder(words[1]);
   DesktopProgram desktop(programFolder());
