@@ -38,7 +38,8 @@ QCPItemText* makeText(QCustomPlot* plot, const QColor& colour, Qt::Alignment ali
   text->setPositionAlignment(alignment);
   text->setVisible(false);
   text->setClipToAxisRect(false);
-  text->setLayer(QStringLiteral("overlay"));
+  // Above the traces; the overlay would be a second buffer to paint.
+  text->setLayer(QStringLiteral("legend"));
   return text;
 }
 
