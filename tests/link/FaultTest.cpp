@@ -1,0 +1,195 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "Doubles.h"
+#include "LinePort.h"
+#include "PacedChannel.h"
+
+namespace tracewell {
+namespace {
+
+using Lines = std::vector<std::string>;
+
+/// The whole program on a line of its own time, at whose far end an instrument can go wrong.
+struct FaultyBench {
+  FaultyBench() {
+    farEnd.answer = healthy;
+    program.start();
+  }
+
+  static std::string healthy(const std::string& line) {
+    if (line.ends_with("SCAL?")) return line.starts_with(":T") ? "500.0 us\n" : "1.000 V\n";
+    if (line.ends_with("OFFS?")) return "1.000 V\n";
+    if (line == "*IDN?") return "KRM-410\n";
+    return line == ":ACQ1:POIN" ? makeRecord([](int i) { return i; }) : "";
+  }
+
+  void mend() {
+    farEnd.isAway = false;
+    farEnd.hangUpAfter = std::string::npos;
+    farEnd.thought = 5;
+    farEnd.answer = healthy;
+    // What is still on its way comes.
+    clock.run(20000);
+  }
+  std::string ask(const std::string& query) {
+    main.txtTest.type(query);
+    main.txtTest.pressKey(TextBox::enterKey);
+    return main.txtMsg.text();
+  }
+  /// Connected or started again as a user does it, with a right reply and a right trace.
+  void expectWell(const std::string& what) {
+    EXPECT_EQ(ask("*IDN?"), "KRM-410") << what;
+    for (int press = 0; press < 2 && !main.tmDSO.enabled(); ++press) main.cmdStart.press();
+    const auto before = main.WaveCount;
+    clock.run(4000);
+    EXPECT_GE(main.WaveCount, before + 2) << what;
+    ASSERT_EQ(main.graphDSO.plot(1).y().size(), 500u) << what;
+    EXPECT_EQ(main.graphDSO.plot(1).y()[10], 60) << what;
+    EXPECT_EQ(main.graphDSO.plot(1).y()[499], 549) << what;
+  }
+
+  ProgramFolderCopy folder;
+  VirtualClock clock;
+  RecordingDialogs dialogs;
+  EventDispatcher dispatcher{dialogs};
+  FarEnd farEnd;
+  PacedOpener opener{farEnd, clock};
+  LinePort port{opener, clock, dispatcher};
+  ScriptedPort list;
+  ScriptedWindows windows;
+  RecordingPictures pictures;
+  RecordingPrinter printer;
+  Services services{clock,   dialogs,  dispatcher, port,         list,
+                    windows, pictures, printer,    folder.path()};
+  Tracewell program{services};
+  frmDSO& main = program.main;
+};
+
+/// Logged lines of a kind, or none.
+constexpr const char* nothing = "";
+
+const struct {
+  const char* what;
+  std::function<void(FarEnd&)> harm;
+  /// What a connect that meets it says in the log; without a line the window says message 9.
+  const char* loggedAtConnect;
+} faults[] = {
+    {"silence", [](FarEnd& end) { end.answer = [](const auto&) { return ""; }; }, nothing},
+    {"replies later than their time-out", [](FarEnd& end) { end.thought = 2500; }, nothing},
+    {"half of everything",
+     [](FarEnd& end) {
+       end.answer = [](const std::string& line) {
+         const std::string whole = FaultyBench::healthy(line);
+         return whole.substr(0, whole.size() / 2);
+       };
+     },
+     nothing},
+    {"garbage, as at a wrong baud rate",
+     [](FarEnd& end) {
+       end.answer = [](const std::string& line) {
+         std::string bytes = FaultyBench::healthy(line);
+         for (char& byte : bytes) byte = static_cast<char>(byte * 73 + 0x81);
+         return bytes;
+       };
+     },
+     nothing},
+    {"empty lines", [](FarEnd& end) { end.answer = [](const auto&) { return "\n"; }; },
+     "InitDSO : Overflow"},
+    {"lines of text",
+     [](FarEnd& end) { end.answer = [](const auto&) { return "what do you want?\n"; }; },
+     "InitDSO : Overflow"},
+    {"a megabyte without an end",
+     [](FarEnd& end) {
+       end.byteTime = 0.0005;
+       end.answer = [](const std::string&) { return std::string(1 << 20, 'x'); };
+     },
+     "SendDSOCmd : "},
+    {"no such port, a port in use, no permission", [](FarEnd& end) { end.isAway = true; },
+     "SendDSOCmd : no such port"},
+};
+
+TEST(Faults, ConnectThatMeetsOneEndsAndLaterSucceeds) {
+  for (const auto& fault : faults) {
+    FaultyBench bench;
+    fault.harm(bench.farEnd);
+    const std::int64_t start = bench.clock.milliseconds();
+    bench.main.cmdStart.press();
+    EXPECT_LT(bench.clock.milliseconds() - start, 60000) << fault.what;
+    const std::string& log = bench.program.errLog.txtErrLog.text();
+    EXPECT_NE(log.find(fault.loggedAtConnect), std::string::npos) << fault.what << ": " << log;
+    EXPECT_EQ(log.empty(), *fault.loggedAtConnect == 0) << fault.what << ": " << log;
+    EXPECT_TRUE(bench.main.LinkOK || bench.main.lblConnect.caption() == bench.main.Msg[9]);
+    bench.farEnd.byteTime = 0.5;
+    bench.mend();
+    bench.main.cmdRS232.press();
+    bench.expectWell(fault.what);
+    EXPECT_TRUE(bench.dialogs.runTimeErrors.empty()) << fault.what;
+  }
+}
+
+TEST(Faults, AcquisitionThatMeetsOneNeitherHangsNorShowsAWrongTraceLater) {
+  for (const auto& fault : faults) {
+    FaultyBench bench;
+    bench.main.cmdStart.press();
+    bench.clock.run(3000);
+    fault.harm(bench.farEnd);
+    bench.clock.run(700);
+    bench.ask(":CHAN1:COUP?");
+    bench.main.knobTime.turn(20);
+    bench.clock.run(6000);
+    const auto logged = std::ranges::count(bench.program.errLog.txtErrLog.text(), '\n');
+    EXPECT_LE(logged, 4) << fault.what << ": one line for each that fails, not one at each tick";
+    bench.farEnd.byteTime = 0.5;
+    bench.mend();
+    bench.expectWell(fault.what);
+    EXPECT_TRUE(bench.dialogs.runTimeErrors.empty()) << fault.what;
+  }
+}
+
+/// Hung up after every byte of a query's reply and of a record.
+TEST(Faults, HangUpAtEveryByteIsSurvived) {
+  FaultyBench bench;
+  bench.main.cmdStart.press();
+  bench.clock.run(3000);
+  const std::size_t replyBytes = FaultyBench::healthy("*IDN?").size();
+  for (std::size_t byte = 0; byte <= 1014; ++byte) {
+    // The count begins anew with each line that is opened.
+    bench.port.settings.dataBits = bench.port.settings.dataBits == 8 ? 7 : 8;
+    bench.farEnd.hangUpAfter = byte;
+    if (byte < replyBytes) bench.ask("*IDN?");
+    bench.main.tmDSO.enabled = true;
+    bench.clock.run(2500);
+    bench.farEnd.hangUpAfter = std::string::npos;
+    if (byte % 50 != 0 && byte < 1010) continue;
+    bench.mend();
+    bench.expectWell("byte " + std::to_string(byte));
+  }
+  EXPECT_GE(bench.farEnd.opened, 1015);
+  EXPECT_TRUE(bench.dialogs.runTimeErrors.empty());
+}
+
+/// More records than the count can hold, each through the line, the decoding and the graph.
+TEST(Faults, RecordsBeyondTheCountGoOn) {
+  FaultyBench bench;
+  bench.farEnd.byteTime = 0.0001;
+  bench.main.cmdStart.press();
+  int sample = 0;
+  bench.farEnd.answer = [&](const std::string& line) {
+    if (line != ":ACQ1:POIN") return FaultyBench::healthy(line);
+    ++sample;
+    return makeRecord([&](int) { return sample % 200; });
+  };
+  constexpr int records = 33000;
+  bench.clock.run(records * frmDSO::tickInterval);
+  EXPECT_EQ(bench.main.WaveCount, 32767);
+  EXPECT_GE(sample, records - 2);
+  EXPECT_EQ(bench.main.graphDSO.plot(1).y()[0], sample % 200 + 50);
+  EXPECT_TRUE(bench.main.tmDSO.enabled());
+  EXPECT_TRUE(bench.program.errLog.txtErrLog.text().empty());
+}
+
+}  // namespace
+}  // namespace tracewell
