@@ -26,7 +26,7 @@ Tracewell::Tracewell(Services& services)
       trigger(main, exchange, acquisition, burst),
       acquire(main, exchange, errorLog, acquisition, captions),
       display(main, exchange, errorLog, acquisition),
-      channelMath(main, exchange, errorLog),
+      channelMath(main, exchange),
       message(main),
       autoset(main, exchange, errorLog, acquisition, instrument, message),
       graphStyle(main),

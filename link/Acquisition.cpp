@@ -84,14 +84,10 @@ void Acquisition::StopAcq() {
 }
 
 void Acquisition::ResumeAcq() {
-  try {
-    showRunning(main_);
-    main_.PortBusy = true;
-    main_.tmDSO.enabled = true;
-    main_.cmdStart.caption = main_.Msg[3];
-  } catch (const Error& error) {
-    errorLog_.ErrLog(error, error.source());
-  }
+  showRunning(main_);
+  main_.PortBusy = true;
+  main_.tmDSO.enabled = true;
+  main_.cmdStart.caption = main_.Msg[3];
 }
 
 void Acquisition::cmdRunStop_Click() {

@@ -13,12 +13,8 @@ constexpr std::array<const char*, 4> commands = {"CHAN1:MATH 1", "CHAN1:MATH 2",
 }  // namespace
 
 void ChannelMath::cbMath_Click() {
-  try {
-    const std::int16_t entry = main_.cbMath.listIndex();
-    if (entry != ComboBox::noEntry) exchange_.SendDSOCmd(commands.at(static_cast<unsigned>(entry)));
-  } catch (const Error& error) {
-    errorLog_.ErrLog(error, "cbMath_Click : ");
-  }
+  const std::int16_t entry = main_.cbMath.listIndex();
+  if (entry != ComboBox::noEntry) exchange_.SendDSOCmd(commands.at(static_cast<unsigned>(entry)));
 }
 
 }  // namespace tracewell

@@ -9,16 +9,15 @@ namespace tracewell {
 /// goes on meanwhile.
 class ChannelMath {
  public:
-  ChannelMath(frmDSO& main, CommandExchange& exchange, ErrorLog& errorLog)
-      : main_(main), exchange_(exchange), errorLog_(errorLog) {}
+  ChannelMath(frmDSO& main, CommandExchange& exchange) : main_(main), exchange_(exchange) {}
 
-  /// Sends the chosen entry's command; without a chosen entry nothing.
+  /// Sends the chosen entry's command; without a chosen entry nothing. What fails in sending is
+  /// logged by SendDSOCmd.
   void cbMath_Click();
 
  private:
   frmDSO& main_;
   CommandExchange& exchange_;
-  ErrorLog& errorLog_;
 };
 
 }  // namespace tracewell

@@ -96,18 +96,14 @@ char captionPrefix(std::string_view caption) {
 }
 
 double ParseScaleCaption(std::string_view caption) {
-  try {
-    const double number = leadingNumber(captionNumber(caption));
-    switch (captionPrefix(caption)) {
-      case 'm':
-        return number / 1000;
-      case 'u':
-        return number / 1000000;
-      default:
-        return number;
-    }
-  } catch (const Error&) {
-    return 0;
+  const double number = leadingNumber(captionNumber(caption));
+  switch (captionPrefix(caption)) {
+    case 'm':
+      return number / 1000;
+    case 'u':
+      return number / 1000000;
+    default:
+      return number;
   }
 }
 

@@ -28,7 +28,7 @@ void TimeControls::slideTime_PointerValueChanged() {
 void TimeControls::slideTime_PointerValueCommitted() {
   try {
     acquisition_.StopAcq();
-    const double delay = delaySeconds(main_.lblTime.caption(), main_.slideTime.value());
+    const double delay = checked(delaySeconds(main_.lblTime.caption(), main_.slideTime.value()));
     exchange_.SendDSOCmd(":TIM:DEL " + formatExponent(delay));
     acquisition_.ResumeAcq();
   } catch (const Error& error) {

@@ -63,6 +63,11 @@ std::string ScriptedPort::read() {
   return line;
 }
 
+void ScriptedPort::reset() {
+  ++resets;
+  if (isStuck) throw Error(deviceError, "RS232", "stuck");
+}
+
 ProgramFolderCopy::ProgramFolderCopy() {
   static std::atomic<int> count = 0;
   path_ = fs::temp_directory_path() / ("tracewell-test-" + std::to_string(std::random_device()()) +

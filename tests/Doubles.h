@@ -92,6 +92,8 @@ class ScriptedPort : public SerialPort, public PortList {
   std::vector<LineSettings> prepared;
   int resets = 0;
   int recordLength = 0;
+  /// Resetting fails.
+  bool isStuck = false;
 
   void answer(const std::string& query, std::deque<std::string> lines) {
     replies[query] = std::move(lines);
@@ -105,7 +107,7 @@ class ScriptedPort : public SerialPort, public PortList {
   void write(std::string_view bytes) override;
   std::string read() override;
   void beginRead(int count) override { recordLength = count; }
-  void reset() override { ++resets; }
+  void reset() override;
   std::vector<Entry> ports() override { return {{0, "simulated instrument"}, {33, "ttyUSB0"}}; }
   std::string deviceOf(std::int16_t number) override {
     for (const Entry& entry : ports())

@@ -98,17 +98,37 @@ TEST_F(ReportTest, PageShowsTheVisibleTracesWithTheirScales) {
     main.graphDSO.plot(number).plotXvsY(main.XIndex, main.XIndex);
     main.graphDSO.plot(number).visible = true;
   }
+  main.cbCh2.toggle();
+  main.opTime.select();
   main.cmdPrint.press();
   ASSERT_EQ(bench.printer.pages.size(), 1u);
   const GraphPage& page = bench.printer.pages[0];
   ASSERT_EQ(page.traces.size(), 2u);
   EXPECT_EQ(page.traces[0].name, "Chan1");
   EXPECT_EQ(page.traces[1].name, "Load1");
-  EXPECT_EQ(page.captions, (Lines{"Volts/Div channel 1 500.0 mV", "SEC/Div time base 500.0 us"}));
+  EXPECT_EQ(page.captions,
+            (Lines{"Volts/Div channel 1 500.0 mV channel 2 1.000 V", "SEC/Div time base 500.0 us",
+                   main.graphDSO.axis("XAxis").caption()}));
   EXPECT_FALSE(main.tmDSO.enabled());
+  main.mnbPrintSetup.choose();
+  EXPECT_EQ(bench.printer.printed, Lines{"set up"});
   bench.printer.isOutOfPaper = true;
   main.mnbPrint.choose();
   EXPECT_EQ(bench.logLines(), Lines{"Printer - cmdPrint_Click : Out of paper"});
+}
+
+TEST_F(ReportTest, AboutBoxNeedsNoPicture) {
+  frmAbout& about = bench.program.about;
+  bench.windows.user["frmAbout"] = [&] { about.cmdOK.press(); };
+  main.mnbAbout.choose();
+  EXPECT_FALSE(about.pictureAbout.image().isEmpty());
+  EXPECT_EQ(about.lblVersion.caption(), "Tracewell " TRACEWELL_VERSION);
+  about.pictureAbout.image = Image();
+  about.unload();
+  std::filesystem::remove(bench.folder.path() / "about.jpg");
+  main.mnbAbout.choose();
+  EXPECT_TRUE(about.pictureAbout.image().isEmpty());
+  EXPECT_TRUE(bench.dialogs.runTimeErrors.empty());
 }
 
 }  // namespace

@@ -244,6 +244,24 @@ TEST_F(WaveformTest, FolderThatHasGoneIsLeft) {
   EXPECT_TRUE(main.tmDSO.enabled());
 }
 
+TEST_F(WaveformTest, FoldersAndDrivesAreWalked) {
+  bench.windows.user["frmLoad"] = [this] {
+    loadWindow.dirCSV.open(0);
+    EXPECT_EQ(loadWindow.lblPath.caption(), pathText(bench.folder.path().parent_path()));
+    loadWindow.driveCSV.choose(0);
+    EXPECT_EQ(loadWindow.lblPath.caption(), loadWindow.driveCSV.text());
+    const std::string root = loadWindow.lblPath.caption();
+    loadWindow.driveCSV.items = {root, "/no/such/drive"};
+    loadWindow.driveCSV.choose(1);
+    EXPECT_EQ(loadWindow.driveCSV.text(), root);
+    loadWindow.cmdOK.press();  // Nothing is chosen.
+    EXPECT_TRUE(loadWindow.isVisible());
+  };
+  main.cmdLoad.press();
+  ASSERT_EQ(bench.dialogs.runTimeErrors.size(), 1u);
+  EXPECT_NE(bench.dialogs.runTimeErrors[0].find("/no/such/drive"), std::string::npos);
+}
+
 TEST_F(WaveformTest, DataFilesOfEveryKind) {
   std::string full = "Channel 1\r\n";
   for (int i = 0; i < 500; ++i) full += "1\r\n";

@@ -136,6 +136,13 @@ TEST_F(AcquisitionTest, PauseAndResumeAreNotMirrorImages) {
   EXPECT_EQ(main.cmdStart.caption(), main.Msg[3]);
 }
 
+TEST_F(AcquisitionTest, PortThatCannotBeResetIsLogged) {
+  bench.port.isStuck = true;
+  bench.main.PortBusy = true;
+  bench.program.acquisition.StopAcq();
+  EXPECT_EQ(bench.logLines(), std::vector<std::string>{"RS232 - StopAcq : stuck"});
+}
+
 TEST_F(AcquisitionTest, FailedRequestIsLoggedOnceAndStopsTheTicks) {
   main.tmDSO.enabled = true;
   port.faults = 1000;

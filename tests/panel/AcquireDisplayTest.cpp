@@ -154,6 +154,25 @@ TEST_F(AcquireDisplayTest, AutosetWaitsThenReadsTheInstrument) {
   EXPECT_EQ(main.cmdStart.caption(), main.Msg[3]);
 }
 
+TEST_F(AcquireDisplayTest, TickCountThatWrapsDuringAWaitIsLogged) {
+  for (Button* button : {&main.cmdAutoset, &main.cmdStart}) {
+    bench.clock.jumpTo(std::numeric_limits<std::int32_t>::max() - 500);
+    main.Initialised = main.LinkOK = true;
+    button->press();
+  }
+  EXPECT_EQ(bench.logLines(),
+            (Lines{"Tracewell - cmdAutoset_Click : Overflow", "Tracewell - TracewellOverflow"}));
+  EXPECT_FALSE(bench.program.message.isVisible());
+}
+
+/// The baud rate has become useless in the middle: the time-out is then what it was.
+TEST_F(AcquireDisplayTest, TimeOutIsPutBackWhateverHappensMeanwhile) {
+  bench.windows.user["frmDisplay"] = [&] { display.cmdOK.press(); };
+  bench.clock.callAfter(500, [&] { main.BaudRate = 0; });
+  main.cmdDisplay.press();
+  EXPECT_EQ(port.readTimeOut, 600);
+}
+
 TEST_F(AcquireDisplayTest, ClosingTheWindowDuringAutosetEndsTheProgram) {
   bench.clock.callAfter(3000, [&] { main.close(); });
   main.cmdAutoset.press();

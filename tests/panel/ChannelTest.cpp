@@ -186,6 +186,13 @@ TEST_F(ChannelTest, PickerTriesStepsOnTheChannelOfItsTag) {
   };
   main.cmdChannel2.press();
   EXPECT_EQ(takeWire(), Lines{":CHAN2:SCAL 5"});
+  bench.windows.user["frmChDiv"] = [&] {
+    picker.opVDiv(1).select();
+    picker.cmdSelect.press();
+  };
+  main.cmdChannel1.press();
+  EXPECT_EQ(takeWire(), Lines{":CHAN1:SCAL 5E-3"});
+  picker.close();
   EXPECT_EQ(main.lblChan2.caption(), "5.000 V");
   EXPECT_FALSE(picker.isVisible());
 }

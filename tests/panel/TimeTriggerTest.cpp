@@ -36,6 +36,11 @@ TEST_F(TimeTriggerTest, DelayIsTheSlideTimesTheShownScale) {
                {"20.00 ns", 1, "2E-8"},
                {"5.000 ms", -0.5, "-2.5E-3"},
                {"Not Initialized", 1, "0E0"}};
+  main.lblTime.caption = "99999";
+  main.slideTime.value = 1e305;
+  main.slideTime.release();
+  EXPECT_TRUE(takeWire().empty());
+  EXPECT_EQ(bench.logLines(), Lines{"Tracewell - slideTime_PointerValueCommitted Overflow"});
   for (const auto& c : cases) {
     main.lblTime.caption = c.scale;
     main.slideTime.drag(c.slide);

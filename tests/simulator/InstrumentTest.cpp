@@ -150,6 +150,52 @@ TEST_F(InstrumentTest, MeasurementsAreThoseOfTheTrace) {
   EXPECT_EQ(ask(":MEAS:NONE?"), "");
 }
 
+/// The square wave: 500 Hz, 2 V and ringing; times in samples of 10 us.
+TEST_F(InstrumentTest, TimesOfTheSquareWave) {
+  send(":MEAS:SOUR 2");
+  const auto value = [this](const char* item) {
+    const std::string reply = ask(":MEAS:" + std::string(item) + "?");
+    const double scale = reply.ends_with(" ms") ? 1e-3 : reply.ends_with(" us") ? 1e-6 : 1;
+    return std::stod(reply) * scale;
+  };
+  EXPECT_NEAR(value("PER"), 2e-3, 2e-5);
+  EXPECT_NEAR(value("PWID"), 1e-3, 2e-5);
+  EXPECT_NEAR(value("NWID"), 1e-3, 2e-5);
+  EXPECT_NEAR(value("PDUT"), 50, 1.5);
+  EXPECT_LE(value("RIS"), 5e-5);
+  EXPECT_LE(value("FALL"), 5e-5);
+  send(":CHAN2:SCAL 5");
+  send(":CHAN2:COUP 2");
+  for (const char* item : {"FREQ", "PER", "RIS", "FALL", "PWID", "NWID", "PDUT"})
+    EXPECT_EQ(ask(":MEAS:" + std::string(item) + "?"), "N/A") << item;
+}
+
+TEST_F(InstrumentTest, TriggerModesAndSources) {
+  // A level that the signal never reaches: automatic runs free, normal waits, automatic level
+  // finds.
+  send(":TRIG:LEV 30");
+  send(":TRIG:MOD 2");
+  const auto held = record(1);
+  send(":CHAN1:SCAL 5");
+  EXPECT_EQ(record(1), held);
+  send(":TRIG:MOD 0");
+  EXPECT_NE(record(1), held);
+  EXPECT_NEAR(std::stod(ask(":TRIG:LEV?")), 200, 50);
+  for (const char* source : {"1", "2", "3"}) {
+    send(":TRIG:SOUR " + std::string(source));
+    EXPECT_EQ(record(2).size(), 500u);
+  }
+  send(":TRIG:SOUR 0");
+  send(":TRIG:MOD 3");
+  const auto single = record(1);
+  EXPECT_EQ(record(1), single);
+  send(":RUN");
+  send(":ACQ:MOD 1");
+  send(":ACQ:AVER 6");
+  send(":CHAN1:BWL 1");
+  EXPECT_LT(peakToPeak(record(1)), peakToPeak(single) + 1);
+}
+
 TEST_F(InstrumentTest, BytesTakeTheirTimeOnTheLine) {
   const struct {
     LineRate rate;
