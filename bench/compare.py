@@ -1,0 +1,115 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""Tracewell beside what a user would use instead, in one run; called by bench/compare.
+
+compare.py TRACEWELL KRM410_SIM DATA_FOLDER BENCHMARKS_FOLDER
+"""
+
+import pathlib
+import subprocess
+import sys
+import time
+
+HERE = pathlib.Path(__file__).resolve().parent
+sys.path.insert(0, str(HERE.parent / "tests" / "system"))
+from real_desktop import Instrument, Program, Screen  # noqa: E402
+
+BENCHMARKS = pathlib.Path(sys.argv[4]).resolve()
+RECORDS = 20
+# The one that has the system's own packages of pyserial and matplotlib.
+SYSTEM_PYTHON = "/usr/bin/python3"
+
+
+def benchmark_milliseconds(program, name):
+    """Real time of one benchmark."""
+    text = subprocess.run([BENCHMARKS / program, f"--benchmark_filter=^{name}$",
+                           "--benchmark_format=csv"], capture_output=True, text=True).stdout
+    row = next(line.split(",") for line in text.splitlines() if line.startswith(f'"{name}"'))
+    return float(row[2]) * {"ns": 1e-6, "us": 1e-3, "ms": 1}[row[4]]
+
+
+def resident_kilobytes(pid):
+    for line in pathlib.Path(f"/proc/{pid}/status").read_text().splitlines():
+        if line.startswith("VmRSS:"):
+            return int(line.split()[1])
+    raise ProcessLookupError(pid)
+
+
+def start_up(command, title, **options):
+    """Milliseconds from the start of a program to its window, and its memory a moment later; the
+    best of three."""
+    best = None
+    for _ in range(3):
+        begun = time.monotonic()
+        process = subprocess.Popen(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
+                                   **options)
+        try:
+            while subprocess.run(["xdotool", "search", "--onlyvisible", "--name", title],
+                                 capture_output=True).returncode != 0:
+                if time.monotonic() - begun > 20:
+                    raise AssertionError(f"{command[0]} shows no window {title}")
+            elapsed = 1000 * (time.monotonic() - begun)
+            time.sleep(2)
+            figures = (elapsed, resident_kilobytes(process.pid))
+        finally:
+            process.kill()
+            process.wait()
+            time.sleep(0.5)
+        best = min(best, figures) if best else figures
+    return best
+
+
+def measure_script(instrument_link):
+    output = subprocess.run(
+        [SYSTEM_PYTHON, HERE / "scripted_scope.py", instrument_link, str(RECORDS),
+         str(time.time_ns())], capture_output=True, text=True, check=True).stdout
+    return [float(word) for word in output.split()]
+
+
+def measure_tracewell(program):
+    """Processor milliseconds per record and memory while it acquires."""
+    program.start()
+    program.keys("F5")
+    time.sleep(3)
+    before = program.processor_seconds()
+    time.sleep(RECORDS * 1.2)
+    processor = 1000 * (program.processor_seconds() - before) / RECORDS
+    return processor, resident_kilobytes(program.process.pid)
+
+
+def main():
+    screen = Screen()
+    program = Program(7)
+    link = program.folder / "com7"
+    instrument = Instrument(link)
+    try:
+        delay, processor, first, memory = measure_script(link)
+        own_processor, own_memory = measure_tracewell(program)
+        program.process.kill()
+        program.process.wait()
+        own_delay = (benchmark_milliseconds("record_benchmark", "recordToTrace") +
+                     benchmark_milliseconds("frame_benchmark", "frame"))
+        own_start, own_idle = start_up([program.folder / "tracewell"], "^Tracewell$",
+                                       cwd=program.folder)
+        others = {
+            "PulseView": start_up(["pulseview", "-c"], "PulseView"),
+            "xoscope": start_up(["xoscope"], "oscope"),
+        }
+    finally:
+        instrument.stop()
+        program.remove()
+        screen.stop()
+    rows = [("last byte to picture, ms", own_delay, "script", delay),
+            ("processor time per record, ms", own_processor, "script", processor),
+            ("memory while acquiring, MB", own_memory / 1024, "script", memory / 1024),
+            ("start to first window or picture, ms", own_start, "script", first)]
+    for name, (start, idle) in others.items():
+        rows += [("start to first window, ms", own_start, name, start),
+                 ("memory then, MB", own_idle / 1024, name, idle / 1024)]
+    print("| what | Tracewell | beside | its figure | ratio |\n|---|---|---|---|---|")
+    for what, own, name, other in rows:
+        print(f"| {what} | {own:.1f} | {name} | {other:.1f} | {other / own:.1f} |")
+
+
+if __name__ == "__main__":
+    main()
