@@ -5,6 +5,8 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
+#include "Error.h"
+#include "Files.h"
 #include "Text.h"
 
 namespace tracewell {
@@ -19,17 +21,45 @@ fs::path shippedFolder(const fs::path& executableFolder) {
   return fs::exists(installed, ignored) ? installed : executableFolder;
 }
 
-/// What cannot be copied is missed, and named, when it is first read.
-void copyMissingFiles(const fs::path& from, const fs::path& to) {
-  std::error_code ignored;
-  fs::create_directories(to, ignored);
-  for (const fs::directory_entry& entry : fs::directory_iterator(from, ignored)) {
-    std::error_code failed;
-    if (entry.is_regular_file(failed))
-      fs::copy_file(entry.path(), to / entry.path().filename(), fs::copy_options::skip_existing,
-                    failed);
+constexpr const char* versionFile = "shipped-version";
+
+bool isOfThisVersion(const fs::path& folder) {
+  try {
+    return readWholeFile(folder / versionFile) == TRACEWELL_VERSION;
+  } catch (const Error&) {
+    return false;
   }
 }
+
+/// The language files belong to a version of the program, everything else to the user.
+bool isLanguageFile(const fs::path& path) {
+  return path.extension() == ".cap" || path.extension() == ".msg";
+}
+
+}  // namespace
+
+/// What cannot be copied is missed, and named, when it is first read.
+void fillProgramFolder(const fs::path& from, const fs::path& to) {
+  std::error_code ignored;
+  fs::create_directories(to, ignored);
+  const bool isUpToDate = isOfThisVersion(to);
+  for (const fs::directory_entry& entry : fs::directory_iterator(from, ignored)) {
+    std::error_code failed;
+    if (!entry.is_regular_file(failed)) continue;
+    const bool isReplaced = !isUpToDate && isLanguageFile(entry.path());
+    fs::copy_file(
+        entry.path(), to / entry.path().filename(),
+        isReplaced ? fs::copy_options::overwrite_existing : fs::copy_options::skip_existing,
+        failed);
+  }
+  try {
+    if (!isUpToDate) writeWholeFile(to / versionFile, TRACEWELL_VERSION);
+  } catch (const Error&) {
+    // The next start copies again.
+  }
+}
+
+namespace {
 
 bool holdsProgramFiles(const fs::path& folder) {
   std::error_code ignored;
@@ -43,7 +73,7 @@ fs::path programFolder() {
   if (QFileInfo(own).isWritable() && holdsProgramFiles(toPath(own))) return toPath(own);
   const fs::path users =
       toPath(QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation));
-  copyMissingFiles(shippedFolder(toPath(own)), users);
+  fillProgramFolder(shippedFolder(toPath(own)), users);
   return users;
 }
 

@@ -14,6 +14,7 @@
 #include "GraphView.h"
 #include "KnobWidget.h"
 #include "MainFormTest.h"
+#include "ProgramFolder.h"
 #include "SlideWidget.h"
 #include "Text.h"
 #include "Theme.h"
@@ -209,6 +210,25 @@ TEST_F(FormsTest, ListKeepsTheEntryThatTheProgramGoesBackTo) {
   EXPECT_TRUE(list->item(0)->isSelected());
   EXPECT_FALSE(list->item(1)->isSelected());
   unbindControls(window);
+}
+
+TEST(ProgramFolder, NewVersionBringsItsWordsAndLeavesTheRest) {
+  const ProgramFolderCopy shipped;
+  const ProgramFolderCopy parent;
+  const auto users = parent.path() / "user" / "tracewell";
+  fillProgramFolder(shipped.path(), users);
+  const std::string words = readWholeFile(users / "dso_la3.cap");
+  for (const char* file : {"dso_la3.cap", "default.dso", "dso.cmd"})
+    writeWholeFile(users / file, "mine");
+  std::filesystem::remove(users / "default.sit");
+  fillProgramFolder(shipped.path(), users);
+  EXPECT_EQ(readWholeFile(users / "dso_la3.cap"), "mine");
+  EXPECT_TRUE(std::filesystem::exists(users / "default.sit"));
+  writeWholeFile(users / "shipped-version", "0.0.1");
+  fillProgramFolder(shipped.path(), users);
+  EXPECT_EQ(readWholeFile(users / "dso_la3.cap"), words);
+  EXPECT_EQ(readWholeFile(users / "default.dso"), "mine");
+  EXPECT_EQ(readWholeFile(users / "dso.cmd"), "mine");
 }
 
 TEST_F(FormsTest, DoubleClickOnTheCommandTitleOpensTheLog) {

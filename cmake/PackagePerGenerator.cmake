@@ -1,0 +1,7 @@
+# Read by cpack once for each package: which of the two components it holds, and where.
+if(CPACK_GENERATOR STREQUAL "DEB")
+  set(CPACK_INSTALL_CMAKE_PROJECTS "${CPACK_BUILD_DIR};Tracewell;system;/")
+else()
+  set(CPACK_INSTALL_CMAKE_PROJECTS "${CPACK_BUILD_DIR};Tracewell;portable;/")
+  set(CPACK_PACKAGING_INSTALL_PREFIX "")
+endif()

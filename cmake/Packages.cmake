@@ -1,0 +1,56 @@
+# What is installed, and the packages that cpack makes of it: a .deb for the system (component
+# system: FHS paths, the program folder is the user's own) and a .tar.gz to unpack anywhere (component
+# portable: the program folder is the executable's).
+include(GNUInstallDirs)
+set(CMAKE_INSTALL_DOCDIR ${CMAKE_INSTALL_DATAROOTDIR}/doc/tracewell)
+
+file(GLOB PROGRAM_FILES CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/data/*)
+set(DESKTOP_FILES ${PROJECT_SOURCE_DIR}/packaging/desktop)
+
+install(TARGETS tracewell krm410-sim COMPONENT system)
+install(FILES ${PROGRAM_FILES} DESTINATION ${CMAKE_INSTALL_DATADIR}/tracewell COMPONENT system)
+install(FILES ${DESKTOP_FILES}/tracewell.desktop
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/applications COMPONENT system)
+install(FILES ${DESKTOP_FILES}/tracewell.metainfo.xml
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo COMPONENT system)
+install(FILES ${PROJECT_SOURCE_DIR}/desktop/tracewell.svg
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps COMPONENT system)
+install(FILES ${PROJECT_SOURCE_DIR}/desktop/tracewell.png
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/256x256/apps COMPONENT system)
+install(FILES ${DESKTOP_FILES}/copyright DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT system)
+install(FILES ${PROJECT_SOURCE_DIR}/README.md DESTINATION ${CMAKE_INSTALL_DOCDIR}
+        COMPONENT system)
+
+# Compressed without a time stamp, so that the same sources make the same package.
+function(install_compressed SOURCE NAME DESTINATION)
+  set(COMPRESSED ${CMAKE_CURRENT_BINARY_DIR}/${NAME})
+  add_custom_command(OUTPUT ${COMPRESSED} DEPENDS ${SOURCE}
+                     COMMAND gzip -9 -n -c ${SOURCE} > ${COMPRESSED})
+  add_custom_target(compressed-${NAME} ALL DEPENDS ${COMPRESSED})
+  install(FILES ${COMPRESSED} DESTINATION ${DESTINATION} COMPONENT system)
+endfunction()
+install_compressed(${DESKTOP_FILES}/changelog changelog.gz ${CMAKE_INSTALL_DOCDIR})
+install_compressed(${DESKTOP_FILES}/tracewell.1 tracewell.1.gz ${CMAKE_INSTALL_MANDIR}/man1)
+install_compressed(${DESKTOP_FILES}/krm410-sim.1 krm410-sim.1.gz ${CMAKE_INSTALL_MANDIR}/man1)
+
+install(TARGETS tracewell krm410-sim RUNTIME DESTINATION . COMPONENT portable EXCLUDE_FROM_ALL)
+install(FILES ${PROGRAM_FILES} README.md LICENSE DESTINATION . COMPONENT portable EXCLUDE_FROM_ALL)
+
+set(CPACK_GENERATOR DEB TGZ)
+set(CPACK_PACKAGE_NAME tracewell)
+set(CPACK_PACKAGE_CONTACT "The Tracewell developers <tracewell@tracewell.invalid>")
+set(CPACK_PACKAGE_DIRECTORY ${PROJECT_BINARY_DIR}/packages)
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_SECTION electronics)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
+"front panel of a two-channel storage oscilloscope
+ Tracewell operates the KRM-410, a two-channel digital storage oscilloscope on
+ an RS-232 line: live traces, settings, cursors, measurements, saved waveforms,
+ status reports and raw commands, in five languages. A simulated instrument is
+ built in.")
+set(CPACK_PROJECT_CONFIG_FILE ${CMAKE_CURRENT_LIST_DIR}/PackagePerGenerator.cmake)
+set(CPACK_BUILD_DIR ${PROJECT_BINARY_DIR})
+include(CPack)
