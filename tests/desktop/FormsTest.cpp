@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QElapsedTimer>
 #include <QGroupBox>
 #include <QLabel>
@@ -73,6 +74,33 @@ TEST_F(FormsTest, EveryWindowFitsASmallScreenInEveryLanguageWithNothingCut) {
       unbindControls(*window);
     }
   }
+}
+
+/// What a screen reader says of a control: its caption in the chosen language, or a name of its
+/// own.
+TEST_F(FormsTest, EveryControlHasANameForScreenReaders) {
+  bench.main.mnbLA3.choose();
+  const auto unnamed = [](Window& window, QWidget& form) {
+    Lines names;
+    for (Control* control : window.controls()) {
+      auto* widget = form.findChild<QWidget*>(toQt(control->objectName()));
+      const bool isMenu = dynamic_cast<MenuEntry*>(control) != nullptr;
+      if (isMenu) continue;  // Menus and their entries are their texts.
+      QAccessibleInterface* reader = QAccessible::queryAccessibleInterface(widget);
+      if (reader == nullptr || reader->text(QAccessible::Name).isEmpty())
+        names.push_back(control->objectName());
+    }
+    return names;
+  };
+  EXPECT_EQ(unnamed(bench.main, *form), Lines());
+  for (Window* window : bench.program.otherWindows()) {
+    const auto dialog = makeForm(window->name(), nullptr);
+    bindControls(*window, *dialog);
+    EXPECT_EQ(unnamed(*window, *dialog), Lines()) << window->name();
+    unbindControls(*window);
+  }
+  QAccessibleInterface* close = QAccessible::queryAccessibleInterface(find("cmdClose"));
+  EXPECT_EQ(close->text(QAccessible::Name), QStringLiteral("Fermer"));
 }
 
 TEST_F(FormsTest, LanguageChangesInAnInstant) {
