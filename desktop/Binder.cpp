@@ -98,6 +98,8 @@ class MoveKeyFilter : public QObject {
         action_();
         break;
       default:
+        // Typing a name moves through the list, too.
+        if (static_cast<QKeyEvent*>(event)->text().trimmed() != QString()) action_();
         break;
     }
     return false;

@@ -74,6 +74,7 @@ GraphView::GraphView(QWidget* parent)
   trigger_ = makeText(plot_, triggerColour, Qt::AlignRight | Qt::AlignVCenter);
   trigger_->setText(QStringLiteral("T\u25C0"));
   note_ = makeText(plot_, noteColour, Qt::AlignRight | Qt::AlignBottom);
+  note_->setBrush(QColor(0, 0, 0, 170));
   note_->position->setType(QCPItemPosition::ptAxisRectRatio);
   note_->position->setCoords(0.995, 0.99);
 }

@@ -34,7 +34,12 @@ void forEachDataLine(std::string_view text, Take take) {
   takeLine(text, line);
   for (int count = 0; takeLine(text, line); ++count) {
     if (count >= SharedState::sampleCount) throw subscriptError();
-    take(line);
+    try {
+      take(line);
+    } catch (const Error& error) {
+      const std::string place = " in data line " + std::to_string(count + 1);
+      throw Error(error.number(), error.source(), error.description() + place);
+    }
   }
 }
 

@@ -86,6 +86,9 @@ bool InstrumentSettings::set(const std::string& name, const std::string& value) 
   const bool isInRange =
       *number == std::floor(*number) && *number >= 0 && *number <= option->second.highest;
   if (isInRange) option->second.value = static_cast<int>(*number);
+  // There is one math function, shown in one channel or the other.
+  if (isInRange && name == "CHAN1:MATH") options_["CHAN2:MATH"].value = 0;
+  if (isInRange && name == "CHAN2:MATH") options_["CHAN1:MATH"].value = 0;
   return isInRange;
 }
 

@@ -185,6 +185,9 @@ TEST_F(InstrumentTest, TriggerModesAndSources) {
     send(":TRIG:SOUR " + std::string(source));
     EXPECT_EQ(record(2).size(), 500u);
   }
+  send(":CHAN2:MATH 2");
+  send("CHAN1:MATH 0");
+  EXPECT_EQ(ask(":CHAN2:MATH?"), "0");
   send(":TRIG:SOUR 0");
   send(":TRIG:MOD 3");
   const auto single = record(1);
