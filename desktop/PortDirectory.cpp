@@ -17,8 +17,11 @@ namespace fs = std::filesystem;
 
 #ifdef Q_OS_WIN
 constexpr int highestNumber = 256;
+// A file of such a name is the device itself there, in whatever folder.
+constexpr bool hasOverrides = false;
 #else
 constexpr int highestNumber = 96;
+constexpr bool hasOverrides = true;
 
 struct NumberRange {
   int first;
@@ -78,7 +81,7 @@ fs::path PortDirectory::overrideOf(int number) const {
 /// A link whose device is away still means that device and no other.
 bool PortDirectory::isOverridden(int number) const {
   std::error_code ignored;
-  return fs::exists(fs::symlink_status(overrideOf(number), ignored));
+  return hasOverrides && fs::exists(fs::symlink_status(overrideOf(number), ignored));
 }
 
 QString PortDirectory::systemDevice(int number) const {

@@ -12,9 +12,9 @@ namespace tracewell {
 
 /// What the port numbers mean on this machine.
 ///
-/// Number 0 is the built-in simulated instrument. On Windows n is COMn. Elsewhere 1 to 32 are
-/// ttyS0 to ttyS31, 33 to 64 ttyUSB0 to ttyUSB31, 65 to 96 ttyACM0 to ttyACM31; a file or link
-/// "comN" in the program folder stands for number N whatever its range.
+/// Number 0 is the built-in simulated instrument. On Windows n is COMn, always. Elsewhere 1
+/// to 32 are ttyS0 to ttyS31, 33 to 64 ttyUSB0 to ttyUSB31, 65 to 96 ttyACM0 to ttyACM31; a file or
+/// link "comN" in the program folder stands for number N whatever its range.
 class PortDirectory : public ChannelOpener, public PortList {
  public:
   static constexpr std::int16_t simulatedPort = 0;

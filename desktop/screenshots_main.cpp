@@ -5,17 +5,18 @@
 ///
 /// writes frmDSO.png and the others, and a printed page, into FOLDER. LANGUAGE is a number from 1
 /// to 5; "dark" shows them as on a dark desktop. The main window is connected to the simulated
-/// instrument; the program folder is the executable's own.
+/// instrument, and every dialog is opened from it as a user does. The program folder is the
+/// executable's own; a waveform is saved there and the error log is written on.
 
 #include <QApplication>
+#include <QDialog>
 #include <QDir>
-#include <QMainWindow>
 #include <QTest>
-#include <QWidget>
+#include <QTimer>
+#include <QTreeWidget>
+#include <functional>
 
-#include "Binder.h"
 #include "DesktopProgram.h"
-#include "Forms.h"
 #include "ProgramFolder.h"
 #include "Text.h"
 #include "Theme.h"
@@ -23,35 +24,160 @@
 namespace tracewell {
 namespace {
 
-bool save(QWidget& form, const QDir& folder, const std::string& name) {
-  form.show();
-  QTest::qWait(150);
-  return form.grab().save(folder.filePath(toQt(name) + QStringLiteral(".png")));
+using Use = std::function<void(QWidget& form)>;
+
+/// Calls `use` once with the form of that name, a moment after it has appeared.
+void whenShown(const std::string& name, const Use& use) {
+  auto* watch = new QTimer(qApp);
+  QObject::connect(watch, &QTimer::timeout, watch, [watch, name, use] {
+    for (QWidget* form : QApplication::topLevelWidgets()) {
+      if (form->objectName() != toQt(name) || !form->isVisible()) continue;
+      watch->deleteLater();
+      watch->stop();
+      QTest::qWait(150);
+      use(*form);
+      return;
+    }
+  });
+  watch->start(50);
 }
 
-bool saveMainWindow(DesktopProgram& desktop, const QDir& folder) {
-  frmDSO& main = desktop.program.main;
+class Screenshots {
+ public:
+  Screenshots(DesktopProgram& desktop, const QDir& folder)
+      : desktop_(desktop), program_(desktop.program), folder_(folder) {}
+
+  /// False when a picture could not be written.
+  bool takeAll();
+
+ private:
+  void take(QWidget& form) {
+    QTest::qWait(50);
+    const QString file = folder_.filePath(form.objectName() + QStringLiteral(".png"));
+    isSaved_ = form.grab().save(file) && isSaved_;
+  }
+
+  /// Opens the dialog, takes its picture after `prepare`, and goes on with `finish`, which closes
+  /// it.
+  void takeDialog(
+      const Window& window, const std::function<void()>& open, const Use& prepare = [](QWidget&) {},
+      const Use& finish = [](QWidget& form) { form.close(); }) {
+    whenShown(window.name(), [this, prepare, finish](QWidget& form) {
+      prepare(form);
+      take(form);
+      finish(form);
+    });
+    open();
+  }
+
+  void takeMainWindow();
+  void takeSettings();
+  void takeWaveforms();
+  void takeTools();
+  void takeErrorLog();
+  void takeAutoset();
+
+  DesktopProgram& desktop_;
+  Tracewell& program_;
+  QDir folder_;
+  bool isSaved_ = true;
+};
+
+bool Screenshots::takeAll() {
+  takeMainWindow();
+  takeSettings();
+  takeWaveforms();
+  takeTools();
+  takeAutoset();
+  takeErrorLog();
+  return isSaved_;
+}
+
+void Screenshots::takeMainWindow() {
+  frmDSO& main = program_.main;
   main.cbCh2.toggle();
   main.cmdStart.press();
   main.opTime.select();
-  desktop.program.measurements.cmdFMeasure_Click();
+  program_.measurements.cmdFMeasure_Click();
   QTest::qWait(4000);
-  for (QWidget* widget : QApplication::topLevelWidgets()) {
-    if (qobject_cast<QMainWindow*>(widget) == nullptr) continue;
-    widget->resize(1280, 800);
-    return save(*widget, folder, main.name());
-  }
-  return false;
+  whenShown(main.name(), [this](QWidget& form) {
+    form.resize(1280, 800);
+    take(form);
+  });
+  QTest::qWait(500);
+  desktop_.printer.printToFile(folder_.filePath(QStringLiteral("page.pdf")));
+  main.cmdPrint.press();
 }
 
-bool saveDialog(Window& window, const QDir& folder) {
-  window.load();
-  window.formActivate.raise();
-  const auto form = makeForm(window.name(), nullptr);
-  bindControls(window, *form);
-  const bool isSaved = save(*form, folder, window.name());
-  unbindControls(window);
-  return isSaved;
+void Screenshots::takeSettings() {
+  frmDSO& main = program_.main;
+  takeDialog(program_.rs232, [&main] { main.mnbRS232.choose(); });
+  takeDialog(program_.channelDialog, [&main] { main.cmdCh1.press(); });
+  takeDialog(program_.channelScale, [&main] { main.cmdChannel1.press(); });
+  takeDialog(program_.timeScale, [&main] { main.cmdTime.press(); });
+  takeDialog(
+      program_.trigger, [&main] { main.cmdTrig.press(); },
+      [this](QWidget&) { program_.trigger.cbTrig(1).type("Advance"); });
+  takeDialog(
+      program_.acquire, [&main] { main.cmdAcq.press(); },
+      [this](QWidget&) { program_.acquire.cbMode.type("Average"); });
+  takeDialog(program_.display, [&main] { main.cmdDisplay.press(); });
+}
+
+/// The set that the first dialog saves is the one that the second shows.
+void Screenshots::takeWaveforms() {
+  frmDSO& main = program_.main;
+  frmSave& saving = program_.saveWindow;
+  const auto write = [&saving](QWidget&) {
+    saving.txtAuthor.type("A. Operator");
+    saving.txtDes.type("Ringing of the second stage");
+    saving.cbWord.toggle();
+    saving.txtWord.type("ringing");
+    saving.pictureTemp.clickAt(saving.pictureTemp.image().width / 2, 60);
+  };
+  takeDialog(
+      saving, [&main] { main.cmdSave.press(); }, write,
+      [&saving](QWidget&) {
+        whenShown("QFileDialog", [](QWidget& form) { static_cast<QDialog&>(form).accept(); });
+        saving.cmdOK.press();
+      });
+  takeDialog(
+      program_.loadWindow, [&main] { main.cmdLoad.press(); },
+      [this](QWidget&) { program_.loadWindow.fileCSV.choose(0); });
+  takeDialog(program_.graphStyle, [&main] { main.cmdGraph.press(); });
+}
+
+void Screenshots::takeTools() {
+  frmDSO& main = program_.main;
+  takeDialog(program_.measurementChoice, [&main] { main.cmdVMeasure.press(); });
+  takeDialog(program_.quickMeasurementChoice, [&main] { main.mnbFrequency.choose(); });
+  takeDialog(program_.report, [&main] { main.mnbConf.choose(); });
+  takeDialog(
+      program_.console, [&main] { main.cmdDSOcmd.press(); },
+      [this](QWidget& form) {
+        constexpr int node = 2;
+        program_.console.tvCmd.choose(node);
+        auto& tree = *form.findChild<QTreeWidget*>();
+        tree.setCurrentItem(tree.topLevelItem(0)->child(0));
+      });
+  takeDialog(program_.about, [&main] { main.mnbAbout.choose(); });
+}
+
+void Screenshots::takeAutoset() {
+  whenShown(program_.message.name(), [this](QWidget& form) {
+    QTest::qWait(4000);
+    take(form);
+  });
+  program_.main.cmdAutoset.press();
+}
+
+/// With what a port that is not there leaves in it.
+void Screenshots::takeErrorLog() {
+  frmDSO& main = program_.main;
+  const int portColumn = SetupTable::firstValue + 4;
+  main.gridMeasure.setText(SetupTable::link, portColumn, "97");
+  main.cmdRS232.press();
+  takeDialog(program_.errLog, [&main] { main.mnbErrLog.choose(); });
 }
 
 }  // namespace
@@ -64,14 +190,8 @@ int main(int argumentCount, char** arguments) {
   if (words.value(3) == QStringLiteral("dark")) QApplication::setPalette(QColor(Qt::black));
   applyTheme(application);
   if (words.size() < 2 || !QDir().mkpath(words[1])) return EXIT_FAILURE;
-  const QDir folder(words[1]);
   DesktopProgram desktop(programFolder());
   if (!desktop.start()) return EXIT_FAILURE;
   if (words.size() > 2) desktop.program.languageMenu.mnbLA_Click(words[2].toInt());
-  bool isSaved = saveMainWindow(desktop, folder);
-  desktop.printer.printToFile(folder.filePath(QStringLiteral("page.pdf")));
-  desktop.program.printing.cmdPrint_Click();
-  for (Window* window : desktop.program.otherWindows())
-    isSaved = saveDialog(*window, folder) && isSaved;
-  return isSaved ? EXIT_SUCCESS : EXIT_FAILURE;
+  return Screenshots(desktop, QDir(words[1])).takeAll() ? EXIT_SUCCESS : EXIT_FAILURE;
 }

@@ -52,12 +52,13 @@ Samples shiftSamples(std::string_view record, std::int16_t shift) {
 
 std::string recordText(std::int16_t channel, const Samples& samples) {
   constexpr std::size_t longestValue = 7;
-  std::array<char, (SharedState::sampleCount + 1) * longestValue + 2> buffer;
-  char* const bufferEnd = buffer.data() + buffer.size();
-  char* end = std::to_chars(buffer.data(), bufferEnd, channel).ptr;
+  constexpr std::size_t lineEnd = 2;
+  std::array<char, (SharedState::sampleCount + 1) * longestValue + lineEnd> buffer;
+  char* const valuesEnd = buffer.data() + buffer.size() - lineEnd;
+  char* end = std::to_chars(buffer.data(), valuesEnd, channel).ptr;
   for (const std::int16_t sample : samples) {
     *end++ = ',';
-    end = std::to_chars(end, bufferEnd, sample).ptr;
+    end = std::to_chars(end, valuesEnd, sample).ptr;
   }
   *end++ = '\r';
   *end++ = '\n';

@@ -13,10 +13,16 @@ namespace {
 
 namespace fs = std::filesystem;
 
-Error fileError(int number, const std::string& what, const fs::path& path, int reason) {
+Error fileError(int number, const std::string& what, const fs::path& path,
+                const std::error_code& reason = {}) {
   std::string text = what + ": " + pathText(path);
-  if (reason != 0) text += " (" + std::generic_category().message(reason) + ")";
+  if (reason) text += " (" + reason.message() + ")";
   return {number, "Tracewell", text};
+}
+
+/// Why the last operation of a stream failed.
+std::error_code streamFailure() {
+  return {errno, std::generic_category()};
 }
 
 /// Removes an unfinished file, whatever made it so.
@@ -57,12 +63,12 @@ fs::path pathOf(const std::string& text) {
 
 std::string readWholeFile(const fs::path& path) {
   std::error_code ignored;
-  if (!fs::exists(path, ignored)) throw fileError(fileNotFound, "File not found", path, 0);
-  if (!fs::is_regular_file(path, ignored)) throw fileError(pathAccess, "Not a file", path, 0);
+  if (!fs::exists(path, ignored)) throw fileError(fileNotFound, "File not found", path);
+  if (!fs::is_regular_file(path, ignored)) throw fileError(pathAccess, "Not a file", path);
   errno = 0;
   std::ifstream file(path, std::ios::binary);
   std::string bytes(std::istreambuf_iterator<char>(file), {});
-  if (!file) throw fileError(pathAccess, "Cannot read", path, errno);
+  if (!file) throw fileError(pathAccess, "Cannot read", path, streamFailure());
   return bytes;
 }
 
@@ -73,13 +79,13 @@ void writeWholeFile(const fs::path& path, std::string_view bytes) {
   const Unfinished unfinished(beside);
   errno = 0;
   std::ofstream file(unfinished.path(), std::ios::binary | std::ios::trunc);
-  if (!file) throw fileError(pathAccess, "Cannot write", path, errno);
+  if (!file) throw fileError(pathAccess, "Cannot write", path, streamFailure());
   file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
   file.close();
-  if (!file) throw fileError(diskFull, "Cannot write", path, errno);
+  if (!file) throw fileError(diskFull, "Cannot write", path, streamFailure());
   std::error_code failed;
   fs::rename(unfinished.path(), target, failed);
-  if (failed) throw fileError(pathAccess, "Cannot replace", path, failed.value());
+  if (failed) throw fileError(pathAccess, "Cannot replace", path, failed);
 }
 
 }  // namespace tracewell
