@@ -71,7 +71,7 @@ bool holdsProgramFiles(const fs::path& folder) {
 fs::path programFolder() {
   const QString own = QCoreApplication::applicationDirPath();
   if (QFileInfo(own).isWritable() && holdsProgramFiles(toPath(own))) return toPath(own);
-  const fs::path users =
+  fs::path users =
       toPath(QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation));
   fillProgramFolder(shippedFolder(toPath(own)), users);
   return users;

@@ -13,7 +13,7 @@ namespace tracewell {
 namespace {
 
 /// Bytes; two columns of 500 numbers take some 6000.
-constexpr std::uintmax_t largestFile = 1024 * 1024;
+constexpr std::uintmax_t largestFile = 1 << 20;
 
 constexpr double unitsPerDivision = SharedState::unitsPerDivision;
 

@@ -26,11 +26,11 @@ class StateTexts {
 
  private:
   void remember(Property<std::string>& caption, std::initializer_list<std::size_t> messages) {
-    for (const std::size_t message : messages)
-      if (caption() == main_.Msg[message]) {
-        texts_.emplace_back(&caption, message);
-        return;
-      }
+    for (const std::size_t message : messages) {
+      if (caption() != main_.Msg[message]) continue;
+      texts_.emplace_back(&caption, message);
+      return;
+    }
   }
 
   /// A slide that has neither been moved nor read still ends as its design does.
