@@ -81,19 +81,6 @@ ProgramFolderCopy::~ProgramFolderCopy() {
   fs::remove_all(path_, ignored);
 }
 
-std::vector<std::string> Bench::logLines() {
-  std::vector<std::string> lines;
-  const std::string& text = program.errLog.txtErrLog.text();
-  for (std::size_t start = 0; start < text.size();) {
-    const std::size_t end = text.find("\r\n", start);
-    if (end == std::string::npos) break;
-    const std::string line = text.substr(start, end - start);
-    lines.push_back(line.substr(clock.dateAndTime().size() + 2));
-    start = end + 2;
-  }
-  return lines;
-}
-
 std::string makeRecord(const std::function<int(int)>& sample) {
   std::string record(14, '\x7F');
   for (int i = 0; i < SharedState::sampleCount; ++i) {

@@ -6,11 +6,13 @@
 #include <deque>
 #include <filesystem>
 #include <map>
+#include <sstream>
 #include <string>
 #include <vector>
 
 #include "Dialogs.h"
 #include "Files.h"
+#include "LinePort.h"
 #include "SerialPort.h"
 #include "Tracewell.h"
 #include "VirtualClock.h"
@@ -130,24 +132,48 @@ class ProgramFolderCopy {
   std::filesystem::path path_;
 };
 
-/// The whole program on doubles.
-struct Bench {
-  ProgramFolderCopy folder;
+/// Time, the user and the event queue around a port of some kind.
+struct Surroundings {
   VirtualClock clock;
   RecordingDialogs dialogs;
   EventDispatcher dispatcher{dialogs};
+};
+
+struct OnAScript : Surroundings {
   ScriptedPort port;
+};
+
+/// The port's real rules on the channels of an opener that goes by the virtual clock.
+template <class Opener>
+struct OnALine : Surroundings {
+  Opener opener{clock};
+  LinePort port{opener, clock, dispatcher};
+};
+
+/// The whole program on doubles.
+template <class Port>
+struct BenchOf : Port {
+  ProgramFolderCopy folder;
+  ScriptedPort list;
   ScriptedWindows windows;
   RecordingPictures pictures;
   RecordingPrinter printer;
-  Services services{clock,   dialogs,  dispatcher, port,         port,
-                    windows, pictures, printer,    folder.path()};
+  Services services{this->clock, this->dialogs, this->dispatcher, this->port,   list,
+                    windows,     pictures,      printer,          folder.path()};
   Tracewell program{services};
   frmDSO& main = program.main;
 
   /// The log without its dates.
-  std::vector<std::string> logLines();
+  std::vector<std::string> logLines() {
+    const std::size_t dateLength = this->clock.dateAndTime().size() + 2;
+    std::vector<std::string> lines;
+    std::istringstream log(program.errLog.txtErrLog.text());
+    for (std::string line; std::getline(log, line, '\r'); log.get())
+      lines.push_back(line.substr(dateLength));
+    return lines;
+  }
 };
+using Bench = BenchOf<OnAScript>;
 
 /// A record whose samples are `sample(i)`, with a header that is not zero.
 std::string makeRecord(const std::function<int(int)>& sample);

