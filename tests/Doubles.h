@@ -19,15 +19,17 @@
 
 namespace tracewell {
 
+using Lines = std::vector<std::string>;
+
 /// Writes down what the program would have said, and answers as told.
 class RecordingDialogs : public Dialogs {
  public:
   Answer answer = Answer::Yes;
   /// Empty means Cancel.
   std::filesystem::path pickedFile;
-  std::vector<std::string> questions;
-  std::vector<std::string> messages;
-  std::vector<std::string> runTimeErrors;
+  Lines questions;
+  Lines messages;
+  Lines runTimeErrors;
   std::vector<FileDialog> fileDialogs;
 
   Answer askYesNo(const std::string& prompt, const std::string& title) override;
@@ -54,7 +56,7 @@ class RecordingPictures : public Pictures {
 
 class RecordingPrinter : public Printer {
  public:
-  std::vector<std::string> printed;
+  Lines printed;
   std::vector<GraphPage> pages;
   bool isOutOfPaper = false;
 
@@ -71,7 +73,7 @@ class RecordingPrinter : public Printer {
 class ScriptedWindows : public WindowHost {
  public:
   std::map<std::string, std::function<void()>> user;
-  std::vector<std::string> shown;
+  Lines shown;
 
   void showModal(Window& window) override;
   void show(Window& window) override { shown.push_back(window.name()); }
@@ -89,7 +91,7 @@ class ScriptedPort : public SerialPort, public PortList {
   /// While positive, each transfer fails with it and takes one away.
   int faults = 0;
   /// Every line written, without CR LF.
-  std::vector<std::string> wire;
+  Lines wire;
   std::vector<int> timeOuts;
   std::vector<LineSettings> prepared;
   int resets = 0;
@@ -163,10 +165,23 @@ struct BenchOf : Port {
   Tracewell program{services};
   frmDSO& main = program.main;
 
+  /// What has been written since the last call.
+  Lines takeWire() { return std::exchange(this->port.wire, {}); }
+  std::string cell(int row, int column) { return main.gridMeasure.text(row, column); }
+  Lines row(int number) {
+    Lines values;
+    for (int i = 0; i < main.gridMeasure.valueCount(number); ++i)
+      values.push_back(cell(number, 2 + i));
+    return values;
+  }
+  void setRow(int number, const Lines& values) {
+    int column = 2;
+    for (const std::string& value : values) main.gridMeasure.setText(number, column++, value);
+  }
   /// The log without its dates.
-  std::vector<std::string> logLines() {
+  Lines logLines() {
     const std::size_t dateLength = this->clock.dateAndTime().size() + 2;
-    std::vector<std::string> lines;
+    Lines lines;
     std::istringstream log(program.errLog.txtErrLog.text());
     for (std::string line; std::getline(log, line, '\r'); log.get())
       lines.push_back(line.substr(dateLength));
@@ -174,6 +189,12 @@ struct BenchOf : Port {
   }
 };
 using Bench = BenchOf<OnAScript>;
+
+/// A test of the started program.
+class ProgramTest : public testing::Test, protected Bench {
+ protected:
+  ProgramTest() { program.start(); }
+};
 
 /// A record whose samples are `sample(i)`, with a header that is not zero.
 std::string makeRecord(const std::function<int(int)>& sample);

@@ -7,25 +7,32 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
-#include <QSignalSpy>
 #include <QTest>
 #include <QTreeWidget>
 #include <algorithm>
 
 #include "GraphView.h"
-#include "KnobWidget.h"
 #include "MainFormTest.h"
 #include "ProgramFolder.h"
-#include "SlideWidget.h"
 #include "Text.h"
 #include "Theme.h"
 
 namespace tracewell {
 namespace {
 
-class FormsTest : public MainFormTest {};
-
-using Lines = std::vector<std::string>;
+class FormsTest : public MainFormTest {
+ protected:
+  /// Does something to every window but the main one and the widgets bound to it.
+  void forEachDialog(const std::function<void(Window&, QWidget&)>& act) {
+    for (Window* window : program.otherWindows()) {
+      SCOPED_TRACE(window->name());
+      const auto dialog = makeForm(window->name(), nullptr);
+      bindControls(*window, *dialog);
+      act(*window, *dialog);
+      unbindControls(*window);
+    }
+  }
+};
 
 /// Text that its widget has no room for.
 Lines cutTexts(QWidget& form) {
@@ -49,88 +56,72 @@ Lines cutTexts(QWidget& form) {
 }
 
 TEST_F(FormsTest, EveryWindowFitsASmallScreenInEveryLanguageWithNothingCut) {
-  for (MenuEntry* language : {&bench.main.mnbLA1, &bench.main.mnbLA2, &bench.main.mnbLA3,
-                              &bench.main.mnbLA4, &bench.main.mnbLA5}) {
+  for (MenuEntry* language :
+       {&main.mnbLA1, &main.mnbLA2, &main.mnbLA3, &main.mnbLA4, &main.mnbLA5}) {
     language->choose();
     SCOPED_TRACE(language->caption());
-    bench.main.lblConnect.caption = bench.main.Msg[9];
-    bench.main.cmdStart.caption = bench.main.Msg[3];
-    bench.main.lblTest.visible = true;
+    main.lblConnect.caption = main.Msg[9];
+    main.cmdStart.caption = main.Msg[3];
+    main.lblTest.visible = true;
     QApplication::processEvents();
     form->resize(1280, 800);
     QApplication::processEvents();
     EXPECT_LE(form->minimumSizeHint().width(), 1280);
     EXPECT_LE(form->minimumSizeHint().height(), 800);
     EXPECT_EQ(cutTexts(*form), Lines());
-    for (Window* window : bench.program.otherWindows()) {
-      const auto dialog = makeForm(window->name(), nullptr);
-      bindControls(*window, *dialog);
-      dialog->show();
+    forEachDialog([](Window&, QWidget& dialog) {
+      dialog.show();
       QApplication::processEvents();
-      dialog->adjustSize();
+      dialog.adjustSize();
       QApplication::processEvents();
-      EXPECT_EQ(cutTexts(*dialog), Lines()) << window->name();
-      EXPECT_LE(dialog->height(), 760) << window->name();
-      unbindControls(*window);
-    }
+      EXPECT_EQ(cutTexts(dialog), Lines());
+      EXPECT_LE(dialog.height(), 760);
+    });
   }
 }
 
 /// What a screen reader says of a control: its caption in the chosen language, or a name of its
 /// own.
 TEST_F(FormsTest, EveryControlHasANameForScreenReaders) {
-  bench.main.mnbLA3.choose();
-  const auto unnamed = [](Window& window, QWidget& form) {
-    Lines names;
+  main.mnbLA3.choose();
+  const auto expectNames = [](Window& window, QWidget& form) {
     for (Control* control : window.controls()) {
       auto* widget = form.findChild<QWidget*>(toQt(control->objectName()));
       const bool isMenu = dynamic_cast<MenuEntry*>(control) != nullptr;
       if (isMenu) continue;  // Menus and their entries are their texts.
       QAccessibleInterface* reader = QAccessible::queryAccessibleInterface(widget);
-      if (reader == nullptr || reader->text(QAccessible::Name).isEmpty())
-        names.push_back(control->objectName());
+      EXPECT_TRUE(reader != nullptr && !reader->text(QAccessible::Name).isEmpty())
+          << control->objectName();
     }
-    return names;
   };
-  EXPECT_EQ(unnamed(bench.main, *form), Lines());
-  for (Window* window : bench.program.otherWindows()) {
-    const auto dialog = makeForm(window->name(), nullptr);
-    bindControls(*window, *dialog);
-    EXPECT_EQ(unnamed(*window, *dialog), Lines()) << window->name();
-    unbindControls(*window);
-  }
+  expectNames(main, *form);
+  forEachDialog(expectNames);
   QAccessibleInterface* close = QAccessible::queryAccessibleInterface(find("cmdClose"));
   EXPECT_EQ(close->text(QAccessible::Name), QStringLiteral("Fermer"));
 }
 
-TEST_F(FormsTest, LanguageChangesInAnInstant) {
-  for (Window* window : bench.program.otherWindows()) window->load();
+TEST_F(FormsTest, EveryFormHasAWindowAndEveryControlAndLanguageChangesInAnInstant) {
+  Lines names = {"frmDSO"};
+  forEachDialog([&](Window& window, QWidget&) {
+    names.push_back(window.name());
+    for (Control* control : window.controls())
+      EXPECT_TRUE(control->changed) << control->objectName();
+    window.load();
+  });
+  std::ranges::sort(names);
+  EXPECT_EQ(names, formNames());
   QElapsedTimer timer;
   timer.start();
-  bench.main.mnbLA2.choose();
+  main.mnbLA2.choose();
   EXPECT_LT(timer.elapsed(), 50);
 }
 
-TEST_F(FormsTest, EveryFormHasAWindowAndEveryControl) {
-  Lines names = {"frmDSO"};
-  for (Window* window : bench.program.otherWindows()) {
-    names.push_back(window->name());
-    const auto widget = makeForm(window->name(), nullptr);
-    EXPECT_NO_THROW(bindControls(*window, *widget)) << window->name();
-    for (Control* control : window->controls())
-      EXPECT_TRUE(control->changed) << control->objectName();
-    unbindControls(*window);
-  }
-  std::ranges::sort(names);
-  EXPECT_EQ(names, formNames());
-}
-
 TEST_F(FormsTest, WhatTheProgramSetsIsShown) {
-  bench.main.lblConnect.caption = "Stopped & idle";
-  bench.main.cmdStart.caption = "Run & stop";
-  bench.main.cbMath.text = "1-2";
-  bench.main.cbCh2.value.setQuietly(1);
-  bench.main.txtMsg.text = "1,2\r\n";
+  main.lblConnect.caption = "Stopped & idle";
+  main.cmdStart.caption = "Run & stop";
+  main.cbMath.text = "1-2";
+  main.cbCh2.value.setQuietly(1);
+  main.txtMsg.text = "1,2\r\n";
   EXPECT_EQ(find<QLabel>("lblConnect")->text(), QStringLiteral("Stopped & idle"));
   EXPECT_EQ(find<QAbstractButton>("cmdStart")->text(), QStringLiteral("Run && stop"));
   EXPECT_TRUE(find<QAbstractButton>("cbCh2")->isChecked());
@@ -138,47 +129,13 @@ TEST_F(FormsTest, WhatTheProgramSetsIsShown) {
   EXPECT_TRUE(takeWire().empty());
 }
 
-TEST_F(FormsTest, KnobAnswersWheelKeysMouseAndCode) {
-  auto* knob = find<KnobWidget>("knobTime");
-  QTest::keyClick(knob, Qt::Key_Up);
-  QTest::keyClick(knob, Qt::Key_End);
-  QTest::keyClick(knob, Qt::Key_Down);
-  EXPECT_EQ(takeWire(), (Lines{":TIM:SCAL 5E-9", ":TIM:SCAL 5", ":TIM:SCAL 2"}));
-  QWheelEvent wheel(QPointF(5, 5), knob->mapToGlobal(QPointF(5, 5)), {}, {0, -240}, Qt::NoButton,
-                    Qt::NoModifier, Qt::NoScrollPhase, false);
-  QApplication::sendEvent(knob, &wheel);
-  EXPECT_EQ(takeWire(), Lines{":TIM:SCAL 5E-1"});
-  // The first caption stands at the lower left, outside the cap.
-  const QPoint first(knob->width() / 2 - knob->height() / 2 + 4, knob->height() - 6);
-  QTest::mouseClick(knob, Qt::LeftButton, {}, first);
-  EXPECT_EQ(takeWire(), Lines{":TIM:SCAL 2E-9"});
-  bench.main.knobTime.value = 17;
-  EXPECT_EQ(knob->value(), 17);
-  EXPECT_EQ(takeWire().size(), 1u);
-}
-
-TEST_F(FormsTest, SlideReportsDragAndReleaseOfTheUserOnly) {
-  auto* slide = find<SlideWidget>("slideCH1");
-  QSignalSpy dragged(slide, &SlideWidget::dragged);
-  QSignalSpy released(slide, &SlideWidget::released);
-  bench.main.slideCH1.value = 1.5;
-  EXPECT_EQ(slide->value(), 1.5);
-  EXPECT_EQ(dragged.count(), 0);
-  QTest::keyClick(slide, Qt::Key_Up);
-  EXPECT_NEAR(bench.main.slideCH1.value(), 1.6, 1e-9);
-  QTest::mouseClick(slide, Qt::LeftButton, {}, {slide->width() / 2, 0});
-  EXPECT_EQ(bench.main.slideCH1.value(), 4);
-  EXPECT_EQ(released.count(), 2);
-  EXPECT_EQ(find<QLabel>("slideCH1_caption")->text(), toQt(bench.main.slideCH1.caption()));
-}
-
 TEST_F(FormsTest, CursorsFollowTheMouseAndTheArrowKeys) {
-  bench.main.knobTime.turn(18);
-  bench.main.opTime.select();
+  main.knobTime.turn(18);
+  main.opTime.select();
   auto* view = find<GraphView>("graphDSO");
   QWidget* plot = view->findChild<QWidget*>();
   QApplication::processEvents();
-  Cursor& cur1 = bench.main.graphDSO.cursor("cur1");
+  Cursor& cur1 = main.graphDSO.cursor("cur1");
   const QPoint centre = plot->rect().center();
   QTest::mousePress(plot, Qt::LeftButton, {}, centre);
   QTest::mouseMove(plot, centre + QPoint(plot->width() / 10, 0));
@@ -187,20 +144,11 @@ TEST_F(FormsTest, CursorsFollowTheMouseAndTheArrowKeys) {
   const double before = cur1.xPosition();
   QTest::keyClick(view, Qt::Key_Left, Qt::ShiftModifier);
   EXPECT_EQ(cur1.xPosition(), before - 10);
-  EXPECT_TRUE(bench.main.graphDSO.axis("XAxis").caption().starts_with("P1 = "));
-}
-
-TEST_F(FormsTest, CommandLineSendsWithEnterAndByButton) {
-  bench.port.answer("*IDN?", {"KRM-410\n"});
-  QTest::keyClicks(find("txtTest"), QStringLiteral("*IDN?"));
-  QTest::keyClick(find("txtTest"), Qt::Key_Return);
-  QTest::mouseClick(find("cmdTest"), Qt::LeftButton);
-  EXPECT_EQ(takeWire(), (Lines{"*IDN?", "*IDN?"}));
-  EXPECT_EQ(find<QPlainTextEdit>("txtMsg")->toPlainText(), QStringLiteral("KRM-410"));
+  EXPECT_TRUE(main.graphDSO.axis("XAxis").caption().starts_with("P1 = "));
 }
 
 TEST_F(FormsTest, ConsoleSendsOncePerEnterAndFocusChoosesNothing) {
-  frmCmd& console = bench.program.console;
+  frmCmd& console = program.console;
   console.load();
   const auto dialog = makeForm("frmCmd", nullptr);
   bindControls(console, *dialog);
@@ -216,7 +164,7 @@ TEST_F(FormsTest, ConsoleSendsOncePerEnterAndFocusChoosesNothing) {
   QTest::keyClicks(line, QStringLiteral(":CHAN1:OFFS -1"));
   QTest::keyClick(line, Qt::Key_Return);
   EXPECT_TRUE(takeWire().empty());
-  EXPECT_EQ(bench.dialogs.messages, Lines{"Out of range"});
+  EXPECT_EQ(dialogs.messages, Lines{"Out of range"});
   EXPECT_EQ(line->text(), QStringLiteral(":CHAN1:OFFS"));
   QTest::keyClick(line, Qt::Key_Return);
   EXPECT_EQ(takeWire(), Lines{":CHAN1:OFFS"});
@@ -224,7 +172,7 @@ TEST_F(FormsTest, ConsoleSendsOncePerEnterAndFocusChoosesNothing) {
 }
 
 TEST_F(FormsTest, ListKeepsTheEntryThatTheProgramGoesBackTo) {
-  frmLoad& window = bench.program.loadWindow;
+  frmLoad& window = program.loadWindow;
   const auto dialog = makeForm("frmLoad", nullptr);
   bindControls(window, *dialog);
   dialog->show();
@@ -257,11 +205,6 @@ TEST(ProgramFolder, NewVersionBringsItsWordsAndLeavesTheRest) {
   EXPECT_EQ(readWholeFile(users / "dso_la3.cap"), words);
   EXPECT_EQ(readWholeFile(users / "default.dso"), "mine");
   EXPECT_EQ(readWholeFile(users / "dso.cmd"), "mine");
-}
-
-TEST_F(FormsTest, DoubleClickOnTheCommandTitleOpensTheLog) {
-  QTest::mouseDClick(find("lblDSOCmd"), Qt::LeftButton);
-  EXPECT_EQ(bench.windows.shown, Lines{"frmErrLog"});
 }
 
 }  // namespace

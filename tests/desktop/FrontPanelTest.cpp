@@ -1,21 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <QTest>
+#include <QLabel>
 #include <QWheelEvent>
 
-#include "KnobWidget.h"
 #include "MainFormTest.h"
-#include "SlideWidget.h"
+#include "Text.h"
 
 namespace tracewell {
 namespace {
 
-using Lines = std::vector<std::string>;
-
 /// Mouse and keyboard on the same control must come to the same on the wire.
 class FrontPanelTest : public MainFormTest {
  protected:
-  void key(const char* name, Qt::Key code) { QTest::keyClick(find(name), code); }
-  void click(const char* name) { QTest::mouseClick(find(name), Qt::LeftButton); }
   void wheel(const char* name, int notches) {
     QWidget* widget = find(name);
     const QPointF at = widget->rect().center();
@@ -31,7 +26,7 @@ class FrontPanelTest : public MainFormTest {
     const QPoint high = isVertical ? QPoint(slide->width() / 2, 0) : QPoint(slide->width(), 9);
     QTest::mousePress(slide, Qt::LeftButton, {}, slide->rect().center());
     QTest::mouseMove(slide, end == 0 ? low : high);
-    EXPECT_TRUE(bench.port.wire.empty()) << name << " sends while it is dragged";
+    EXPECT_TRUE(port.wire.empty()) << name << " sends while it is dragged";
     QTest::mouseRelease(slide, Qt::LeftButton, {}, end == 0 ? low : high);
   }
   /// Turns the cap with the mouse; points are counted from its centre.
@@ -45,95 +40,80 @@ class FrontPanelTest : public MainFormTest {
 };
 
 TEST_F(FrontPanelTest, MouseAndKeyboardGiveTheSameCommands) {
-  bench.main.lblChan1.caption = "1.000 V";
-  bench.main.lblChan2.caption = "2.000 V";
-  bench.main.lblTime.caption = "1.000 ms";
-  const struct {
-    const char* what;
-    std::function<void()> byMouse;
-    std::function<void()> undo;
-    std::function<void()> byKeyboard;
-    Lines wire;
-  } cases[] = {
-      {"slideCH1",
-       [&] { dragToEnd("slideCH1", 1); },
-       [&] { bench.main.slideCH1.value = 0; },
-       [&] { key("slideCH1", Qt::Key_End); },
-       {":CHAN1:OFFS 4E0"}},
-      {"slideCH2",
-       [&] { dragToEnd("slideCH2", 0); },
-       [&] { bench.main.slideCH2.value = 0; },
-       [&] { key("slideCH2", Qt::Key_Home); },
-       {":CHAN2:OFFS -8E0"}},
-      {"slideTime",
-       [&] { dragToEnd("slideTime", 1); },
-       [&] { bench.main.slideTime.value = 0; },
-       [&] { key("slideTime", Qt::Key_End); },
-       {":TIM:DEL 5E-3"}},
-      {"slideTrig",
-       [&] { dragToEnd("slideTrig", 0); },
-       [&] { bench.main.slideTrig.value = 0; },
-       [&] { key("slideTrig", Qt::Key_Home); },
-       {":TRIG:LEV -5E0"}},
-      {"knobChan1",
-       [&] { wheel("knobChan1", 1); },
-       [&] { bench.main.knobChan1.value = 0; },
-       [&] { key("knobChan1", Qt::Key_Up); },
-       {":CHAN1:SCAL 5E-3"}},
-      {"knobChan2",
-       [&] { wheel("knobChan2", 3); },
-       [&] { bench.main.knobChan2.value = 0; },
-       [&] { key("knobChan2", Qt::Key_PageUp); },
-       {":CHAN2:SCAL 2E-2"}},
-      {"knobTime",
-       [&] { wheel("knobTime", 40); },
-       [&] { bench.main.knobTime.value = 0; },
-       [&] { key("knobTime", Qt::Key_End); },
-       {":TIM:SCAL 5"}},
-      {"cbCh2",
-       [&] { click("cbCh2"); },
-       [&] { bench.main.cbCh2.value = 0; },
-       [&] { key("cbCh2", Qt::Key_Space); },
-       {":CHAN2:DISP 1"}},
-  };
-  for (const auto& c : cases) {
-    takeWire();
-    c.byMouse();
-    EXPECT_EQ(takeWire(), c.wire) << c.what << " by mouse";
-    c.undo();
-    takeWire();
-    c.byKeyboard();
-    EXPECT_EQ(takeWire(), c.wire) << c.what << " by keyboard";
+  main.lblChan1.caption = "1.000 V";
+  main.lblChan2.caption = "2.000 V";
+  main.lblTime.caption = "1.000 ms";
+  enum Means { drag, turn, press };
+  const std::tuple<const char*, Means, int, Qt::Key, const char*> cases[] = {
+      {"slideCH1", drag, 1, Qt::Key_End, ":CHAN1:OFFS 4E0"},
+      {"slideCH2", drag, 0, Qt::Key_Home, ":CHAN2:OFFS -8E0"},
+      {"slideTime", drag, 1, Qt::Key_End, ":TIM:DEL 5E-3"},
+      {"slideTrig", drag, 0, Qt::Key_Home, ":TRIG:LEV -5E0"},
+      {"knobChan1", turn, 1, Qt::Key_Up, ":CHAN1:SCAL 5E-3"},
+      {"knobChan2", turn, 3, Qt::Key_PageUp, ":CHAN2:SCAL 2E-2"},
+      {"knobTime", turn, 40, Qt::Key_End, ":TIM:SCAL 5"},
+      {"cbCh2", press, 0, Qt::Key_Space, ":CHAN2:DISP 1"}};
+  for (const auto& [name, byMouse, amount, byKeyboard, sent] : cases) {
+    for (const bool isByMouse : {true, false}) {
+      for (Slide* slide : {&main.slideCH1, &main.slideCH2, &main.slideTime, &main.slideTrig})
+        slide->value = 0;
+      for (Knob* knob : {&main.knobChan1, &main.knobChan2, &main.knobTime}) knob->value = 0;
+      main.cbCh2.value = 0;
+      main.lblChan1.caption = "1.000 V";
+      main.lblChan2.caption = "2.000 V";
+      main.lblTime.caption = "1.000 ms";
+      takeWire();
+      if (!isByMouse)
+        key(name, byKeyboard);
+      else if (byMouse == drag)
+        dragToEnd(name, amount);
+      else if (byMouse == turn)
+        wheel(name, amount);
+      else
+        click(name);
+      EXPECT_EQ(takeWire(), Lines{sent}) << name << (isByMouse ? " by mouse" : " by keyboard");
+    }
   }
+  EXPECT_EQ(find<QLabel>("slideCH1_caption")->text(), toQt(main.slideCH1.caption()));
+  // The first caption of a knob stands at the lower left, outside the cap.
+  QWidget* knob = find("knobTime");
+  const QPoint first(knob->width() / 2 - knob->height() / 2 + 4, knob->height() - 6);
+  main.knobTime.value = 17;
+  takeWire();
+  QTest::mouseClick(knob, Qt::LeftButton, {}, first);
+  EXPECT_EQ(takeWire(), Lines{":TIM:SCAL 2E-9"});
+  port.answer("*IDN?", {"KRM-410\n"});
+  QTest::keyClicks(find("txtTest"), QStringLiteral("*IDN?"));
+  key("txtTest", Qt::Key_Return);
+  click("cmdTest");
+  EXPECT_EQ(takeWire(), (Lines{"*IDN?", "*IDN?"}));
 }
 
 TEST_F(FrontPanelTest, EachDialogOpensByMouseKeyboardAndMenu) {
-  const struct {
-    const char* button;
-    const char* entry;
-    const char* window;
-  } cases[] = {{"cmdCh1", "mnbCh1", "frmChannel"}, {"cmdCh2", "mnbCh2", "frmChannel"},
-               {"cmdTrig", "mnbTrig", "frmTrig"},  {"cmdGraph", "mnbGraph", "frmGraph"},
-               {"cmdTime", nullptr, "frmTimeDiv"}, {"cmdChannel1", nullptr, "frmChDiv"}};
-  for (const auto& c : cases) {
-    click(c.button);
-    key(c.button, Qt::Key_Space);
-    Lines expected = {c.window, c.window};
-    if (c.entry != nullptr) {
-      find<QAction>(c.entry)->trigger();
-      expected.emplace_back(c.window);
+  const std::tuple<const char*, const char*, const char*> cases[] = {
+      {"cmdCh1", "mnbCh1", "frmChannel"}, {"cmdCh2", "mnbCh2", "frmChannel"},
+      {"cmdTrig", "mnbTrig", "frmTrig"},  {"cmdGraph", "mnbGraph", "frmGraph"},
+      {"cmdTime", nullptr, "frmTimeDiv"}, {"cmdChannel1", nullptr, "frmChDiv"}};
+  for (const auto& [button, entry, window] : cases) {
+    click(button);
+    key(button, Qt::Key_Space);
+    Lines expected = {window, window};
+    if (entry != nullptr) {
+      find<QAction>(entry)->trigger();
+      expected.emplace_back(window);
     }
-    EXPECT_EQ(std::exchange(bench.windows.shown, {}), expected) << c.button;
+    EXPECT_EQ(std::exchange(windows.shown, {}), expected) << button;
   }
+  QTest::mouseDClick(find("lblDSOCmd"), Qt::LeftButton);
+  EXPECT_EQ(windows.shown, Lines{"frmErrLog"});
 }
 
 TEST_F(FrontPanelTest, KnobTurnsWithTheCapAndStopsAtItsEnds) {
   const int reach = find("knobChan1")->height() / 10;
   dragKnob("knobChan1", {-reach, 0}, {0, -reach});
-  const double quarter = bench.main.knobChan1.value();
-  EXPECT_NEAR(quarter, 3.3, 0.7);
+  EXPECT_NEAR(main.knobChan1.value(), 3.3, 0.7);
   for (int i = 0; i < 4; ++i) dragKnob("knobChan1", {0, -reach}, {reach, reach / 4});
-  EXPECT_EQ(bench.main.knobChan1.value(), 10);
+  EXPECT_EQ(main.knobChan1.value(), 10);
   takeWire();
   key("knobChan1", Qt::Key_Up);
   wheel("knobChan1", 5);

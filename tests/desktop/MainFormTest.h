@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QTest>
 #include <QWidget>
 
 #include "Binder.h"
@@ -13,25 +14,24 @@
 namespace tracewell {
 
 /// Real widgets bound to the whole program on a scripted port.
-class MainFormTest : public testing::Test {
+class MainFormTest : public ProgramTest {
  protected:
   MainFormTest() {
-    bench.program.start();
     form = makeForm("frmDSO", nullptr);
-    bindControls(bench.main, *form);
+    bindControls(main, *form);
     form->resize(1280, 800);
     form->show();
     QApplication::processEvents();
   }
-  ~MainFormTest() override { unbindControls(bench.main); }
+  ~MainFormTest() override { unbindControls(main); }
 
   template <class Widget = QWidget>
   Widget* find(const char* name) {
     return form->findChild<Widget*>(QLatin1String(name));
   }
-  std::vector<std::string> takeWire() { return std::exchange(bench.port.wire, {}); }
+  void key(const char* name, Qt::Key code) { QTest::keyClick(find(name), code); }
+  void click(const char* name) { QTest::mouseClick(find(name), Qt::LeftButton); }
 
-  Bench bench;
   std::unique_ptr<QWidget> form;
 };
 

@@ -1,33 +1,26 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <gtest/gtest.h>
-
 #include "Doubles.h"
 
 namespace tracewell {
 namespace {
 
-using Lines = std::vector<std::string>;
-
 /// Status report and printing.
-class ReportTest : public testing::Test {
+class ReportTest : public ProgramTest {
  protected:
-  ReportTest() { bench.program.start(); }
   void useTemplate(const std::string& text) {
-    writeWholeFile(bench.folder.path() / "default.sit", text);
-    bench.program.report.unload();
+    writeWholeFile(folder.path() / "default.sit", text);
+    program.report.unload();
   }
   void setCounts(const std::string& count) {
     for (int row = 0; row < 13; ++row) main.gridMeasure.setText(row, 1, count);
   }
 
-  Bench bench;
-  frmDSO& main = bench.main;
-  TextBox& text = bench.program.report.txtSetup;
+  TextBox& text = program.report.txtSetup;
 };
 
 TEST_F(ReportTest, ShippedTemplateHasAPlaceForEveryValue) {
   main.mnbConf.choose();
-  EXPECT_TRUE(bench.dialogs.runTimeErrors.empty());
+  EXPECT_TRUE(dialogs.runTimeErrors.empty());
   EXPECT_EQ(text.text().find("[]"), std::string::npos);
   EXPECT_NE(text.text().find("[19200]"), std::string::npos);
   EXPECT_LT(text.text().find("[None]"), text.text().find("[50]"));
@@ -66,34 +59,34 @@ TEST_F(ReportTest, TemplatesThatDoNotFit) {
       main.gridMeasure.setText(0, 2 + static_cast<int>(i),
                                values[i] == ' ' ? "" : std::string(1, values[i]));
     useTemplate(c.text);
-    bench.dialogs.runTimeErrors.clear();
+    dialogs.runTimeErrors.clear();
     main.mnbConf.choose();
     EXPECT_EQ(text.text(), c.shown) << c.what;
-    EXPECT_EQ(!bench.dialogs.runTimeErrors.empty(), c.fails) << c.what;
+    EXPECT_EQ(!dialogs.runTimeErrors.empty(), c.fails) << c.what;
   }
-  std::filesystem::remove(bench.folder.path() / "default.sit");
-  bench.program.report.unload();
-  bench.windows.shown.clear();
+  std::filesystem::remove(folder.path() / "default.sit");
+  program.report.unload();
+  windows.shown.clear();
   main.mnbConf.choose();
-  EXPECT_TRUE(bench.windows.shown.empty());
+  EXPECT_TRUE(windows.shown.empty());
 }
 
 TEST_F(ReportTest, SavedByteForByteAndPrinted) {
-  bench.dialogs.pickedFile = bench.folder.path() / "mine.sir";
+  dialogs.pickedFile = folder.path() / "mine.sir";
   main.mnbConf.choose();
-  bench.program.report.cmdSave.press();
-  bench.program.report.cmdPrint.press();
-  EXPECT_EQ(readWholeFile(bench.dialogs.pickedFile), text.text());
-  EXPECT_EQ(bench.printer.printed, Lines{text.text()});
-  EXPECT_EQ(bench.dialogs.fileDialogs.back().title, "Save Setup Report file");
-  EXPECT_EQ(bench.dialogs.fileDialogs.back().fileName, "default.sir");
+  program.report.cmdSave.press();
+  program.report.cmdPrint.press();
+  EXPECT_EQ(readWholeFile(dialogs.pickedFile), text.text());
+  EXPECT_EQ(printer.printed, Lines{text.text()});
+  EXPECT_EQ(dialogs.fileDialogs.back().title, "Save Setup Report file");
+  EXPECT_EQ(dialogs.fileDialogs.back().fileName, "default.sir");
 }
 
 TEST_F(ReportTest, PageShowsTheVisibleTracesWithTheirScales) {
-  bench.port.answerLikeAnInstrument();
+  port.answerLikeAnInstrument();
   main.cmdStart.press();
-  bench.port.tag = "1";
-  bench.port.deliver(makeRecord([](int i) { return i; }));
+  port.tag = "1";
+  port.deliver(makeRecord([](int i) { return i; }));
   for (const int number : {3, 6}) {
     main.graphDSO.plot(number).plotXvsY(main.XIndex, main.XIndex);
     main.graphDSO.plot(number).visible = true;
@@ -101,8 +94,8 @@ TEST_F(ReportTest, PageShowsTheVisibleTracesWithTheirScales) {
   main.cbCh2.toggle();
   main.opTime.select();
   main.cmdPrint.press();
-  ASSERT_EQ(bench.printer.pages.size(), 1u);
-  const GraphPage& page = bench.printer.pages[0];
+  ASSERT_EQ(printer.pages.size(), 1u);
+  const GraphPage& page = printer.pages[0];
   ASSERT_EQ(page.traces.size(), 2u);
   EXPECT_EQ(page.traces[0].name, "Chan1");
   EXPECT_EQ(page.traces[1].name, "Load1");
@@ -111,24 +104,24 @@ TEST_F(ReportTest, PageShowsTheVisibleTracesWithTheirScales) {
                    main.graphDSO.axis("XAxis").caption()}));
   EXPECT_FALSE(main.tmDSO.enabled());
   main.mnbPrintSetup.choose();
-  EXPECT_EQ(bench.printer.printed, Lines{"set up"});
-  bench.printer.isOutOfPaper = true;
+  EXPECT_EQ(printer.printed, Lines{"set up"});
+  printer.isOutOfPaper = true;
   main.mnbPrint.choose();
-  EXPECT_EQ(bench.logLines(), Lines{"Printer - cmdPrint_Click : Out of paper"});
+  EXPECT_EQ(logLines(), Lines{"Printer - cmdPrint_Click : Out of paper"});
 }
 
 TEST_F(ReportTest, AboutBoxNeedsNoPicture) {
-  frmAbout& about = bench.program.about;
-  bench.windows.user["frmAbout"] = [&] { about.cmdOK.press(); };
+  frmAbout& about = program.about;
+  windows.user["frmAbout"] = [&] { about.cmdOK.press(); };
   main.mnbAbout.choose();
   EXPECT_FALSE(about.pictureAbout.image().isEmpty());
   EXPECT_EQ(about.lblVersion.caption(), "Tracewell " TRACEWELL_VERSION);
   about.pictureAbout.image = Image();
   about.unload();
-  std::filesystem::remove(bench.folder.path() / "about.jpg");
+  std::filesystem::remove(folder.path() / "about.jpg");
   main.mnbAbout.choose();
   EXPECT_TRUE(about.pictureAbout.image().isEmpty());
-  EXPECT_TRUE(bench.dialogs.runTimeErrors.empty());
+  EXPECT_TRUE(dialogs.runTimeErrors.empty());
 }
 
 }  // namespace

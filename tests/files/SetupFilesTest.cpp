@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "SetupFiles.h"
 
-#include <gtest/gtest.h>
-
 #include <cstdlib>
 #include <fstream>
 
@@ -14,35 +12,30 @@ namespace {
 
 namespace fs = std::filesystem;
 
-class SetupFilesTest : public testing::Test {
+class SetupFilesTest : public testing::Test, protected Bench {
  protected:
-  std::string cell(int row, int column) { return bench.main.gridMeasure.text(row, column); }
   void read(const std::string& bytes) {
     writeWholeFile(file, bytes);
-    bench.program.setupFiles.ReadSetupFile(file);
+    program.setupFiles.ReadSetupFile(file);
   }
 
-  Bench bench;
-  fs::path file = bench.folder.path() / "try.dso";
-  SetupTable& table = bench.main.gridMeasure;
+  fs::path file = folder.path() / "try.dso";
+  SetupTable& table = main.gridMeasure;
 };
 
-TEST_F(SetupFilesTest, ShippedFileIsWhatTheProgramStartsWith) {
-  bench.program.setupFiles.WriteSetupFile(file);
-  EXPECT_EQ(readWholeFile(file), readWholeFile(bench.folder.path() / "default.dso"));
-}
-
 TEST_F(SetupFilesTest, WhatIsWrittenComesBack) {
+  program.setupFiles.WriteSetupFile(file);
+  EXPECT_EQ(readWholeFile(file), readWholeFile(folder.path() / "default.dso"));
   for (int row = 0; row < 13; ++row) {
     table.setText(row, 0, "Row " + std::to_string(row));
     table.setText(row, 1, std::to_string(row));
     for (int i = 0; i < row; ++i) table.setText(row, 2 + i, std::to_string(row * 100 + i));
   }
-  bench.program.setupFiles.WriteSetupFile(file);
+  program.setupFiles.WriteSetupFile(file);
   const std::string bytes = readWholeFile(file);
   EXPECT_TRUE(bytes.starts_with("RRow 0,0\r\nRow 1,1,100\r\n"));
   table = SetupTable();
-  bench.program.setupFiles.ReadSetupFile(file);
+  program.setupFiles.ReadSetupFile(file);
   EXPECT_EQ(cell(0, 0), "Row 0");
   EXPECT_EQ(cell(12, 13), "1211");
   EXPECT_EQ(cell(5, 6), "504");
@@ -81,7 +74,7 @@ TEST_F(SetupFilesTest, ReadingOfOddFiles) {
 }
 
 TEST_F(SetupFilesTest, EveryPrefixOfAFileIsReadWithoutHarm) {
-  const std::string whole = readWholeFile(bench.folder.path() / "default.dso");
+  const std::string whole = readWholeFile(folder.path() / "default.dso");
   for (std::size_t length = 0; length <= whole.size(); ++length) {
     table = SetupTable();
     read(whole.substr(0, length));
@@ -92,48 +85,48 @@ TEST_F(SetupFilesTest, EveryPrefixOfAFileIsReadWithoutHarm) {
 TEST_F(SetupFilesTest, CountThatIsNoNumberFailsBeforeAnythingIsWritten) {
   writeWholeFile(file, "old");
   table.setText(7, 1, "many");
-  bench.dialogs.pickedFile = file;
-  bench.main.mnbSaveSetup.choose();
-  EXPECT_EQ(bench.dialogs.runTimeErrors, std::vector<std::string>{"13 Type mismatch"});
+  dialogs.pickedFile = file;
+  main.mnbSaveSetup.choose();
+  EXPECT_EQ(dialogs.runTimeErrors, Lines{"13 Type mismatch"});
   EXPECT_EQ(readWholeFile(file), "old");
 }
 
 TEST_F(SetupFilesTest, MenuAsksInItsOwnWordsAndCancelMeansTheCurrentFolder) {
   const fs::path before = fs::current_path();
-  fs::current_path(bench.folder.path());
+  fs::current_path(folder.path());
   table.setText(0, 0, "kept");
-  bench.main.mnbSaveSetup.choose();
+  main.mnbSaveSetup.choose();
   table = SetupTable();
-  bench.main.mnbLoadSetup.choose();
+  main.mnbLoadSetup.choose();
   fs::current_path(before);
   EXPECT_EQ(cell(0, 0), "kept");
-  ASSERT_EQ(bench.dialogs.fileDialogs.size(), 2u);
-  for (const FileDialog& dialog : bench.dialogs.fileDialogs) {
+  ASSERT_EQ(dialogs.fileDialogs.size(), 2u);
+  for (const FileDialog& dialog : dialogs.fileDialogs) {
     EXPECT_EQ(dialog.title, "Load DSO Setup file");
     EXPECT_EQ(dialog.fileName, "default.dso");
     EXPECT_EQ(dialog.filter, "*.dso|*.dso");
-    EXPECT_EQ(dialog.initialFolder, bench.folder.path());
+    EXPECT_EQ(dialog.initialFolder, folder.path());
   }
-  bench.dialogs.pickedFile = bench.folder.path() / "none.dso";
-  bench.main.mnbLoadSetup.choose();
-  ASSERT_EQ(bench.dialogs.runTimeErrors.size(), 1u);
-  EXPECT_TRUE(bench.dialogs.runTimeErrors[0].starts_with("53 File not found: "));
+  dialogs.pickedFile = folder.path() / "none.dso";
+  main.mnbLoadSetup.choose();
+  ASSERT_EQ(dialogs.runTimeErrors.size(), 1u);
+  EXPECT_TRUE(dialogs.runTimeErrors[0].starts_with("53 File not found: "));
 }
 
 /// A folder in which no file can be made stands for a full disk and for one that is read-only:
 /// the unfinished file is what fails.
 TEST_F(SetupFilesTest, SetupThatCannotBeWrittenIsReportedAndStaysWhole) {
-  bench.program.start();
-  const fs::path setup = bench.folder.path() / "default.dso";
+  program.start();
+  const fs::path setup = folder.path() / "default.dso";
   const std::string old = readWholeFile(setup);
-  bench.main.gridMeasure.setText(0, 0, "new");
-  fs::create_directory(bench.folder.path() / "default.dso.new");
-  std::ofstream(bench.folder.path() / "default.dso.new" / "in the way");
-  bench.main.close();
-  ASSERT_EQ(bench.dialogs.messages.size(), 1u);
-  EXPECT_NE(bench.dialogs.messages[0].find(pathText(setup)), std::string::npos);
+  main.gridMeasure.setText(0, 0, "new");
+  fs::create_directory(folder.path() / "default.dso.new");
+  std::ofstream(folder.path() / "default.dso.new" / "in the way");
+  main.close();
+  ASSERT_EQ(dialogs.messages.size(), 1u);
+  EXPECT_NE(dialogs.messages[0].find(pathText(setup)), std::string::npos);
   EXPECT_EQ(readWholeFile(setup), old);
-  EXPECT_FALSE(bench.main.isLoaded());
+  EXPECT_FALSE(main.isLoaded());
 }
 
 /// The device that is always full.

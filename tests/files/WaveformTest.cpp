@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <fstream>
 
@@ -12,16 +10,12 @@ namespace tracewell {
 namespace {
 
 namespace fs = std::filesystem;
-using Lines = std::vector<std::string>;
-
 /// Saving and loading waveforms, in a folder with a blank and other letters in its name.
-class WaveformTest : public testing::Test {
+class WaveformTest : public ProgramTest {
  protected:
-  WaveformTest() : folder(bench.folder.path() / pathOf("Messung ü 测")) {
-    bench.program.start();
-    fs::create_directory(folder);
-    oldFolder = fs::current_path();
-    fs::current_path(folder);
+  WaveformTest() {
+    fs::create_directory(place);
+    fs::current_path(place);
     main.Ch1Raw = makeRecord([](int i) { return i == 0 ? -256 : i % 256; });
     main.Ch2Raw = makeRecord([](int i) { return -(i % 256); });
     main.lblChan1.caption = "500.0 mV";
@@ -29,16 +23,16 @@ class WaveformTest : public testing::Test {
   ~WaveformTest() override { fs::current_path(oldFolder); }
 
   void save(const char* name, int format = 8) {
-    bench.windows.user["frmSave"] = [this, name, format] {
+    windows.user["frmSave"] = [this, name, format] {
       saveWindow.opFiletype(format).select();
-      bench.dialogs.pickedFile = *name == 0 ? fs::path() : folder / name;
+      dialogs.pickedFile = *name == 0 ? fs::path() : place / name;
       saveWindow.cmdOK.press();
     };
     main.cmdSave.press();
   }
   /// Opens the load window, chooses the files one after the other, and presses OK.
   void load(const Lines& names) {
-    bench.windows.user["frmLoad"] = [this, names] {
+    windows.user["frmLoad"] = [this, names] {
       loadWindow.dirCSV.open(1);
       for (const std::string& name : names) choose(name);
       loadWindow.cmdOK.press();
@@ -51,20 +45,18 @@ class WaveformTest : public testing::Test {
     ASSERT_NE(found, items.end()) << name;
     loadWindow.fileCSV.choose(static_cast<int>(found - items.begin()));
   }
-  std::string file(const char* name) { return readWholeFile(folder / name); }
-  void write(const char* name, const std::string& bytes) { writeWholeFile(folder / name, bytes); }
+  std::string file(const char* name) { return readWholeFile(place / name); }
+  void write(const char* name, const std::string& bytes) { writeWholeFile(place / name, bytes); }
   int shownReferences() {
     int count = 0;
     for (int number = 3; number <= 6; ++number) count += main.graphDSO.plot(number).visible();
     return count;
   }
 
-  Bench bench;
-  frmDSO& main = bench.main;
-  frmSave& saveWindow = bench.program.saveWindow;
-  frmLoad& loadWindow = bench.program.loadWindow;
-  fs::path folder;
-  fs::path oldFolder;
+  frmSave& saveWindow = program.saveWindow;
+  frmLoad& loadWindow = program.loadWindow;
+  const fs::path place = folder.path() / pathOf("Messung ü 测");
+  const fs::path oldFolder = fs::current_path();
 };
 
 TEST_F(WaveformTest, SetOfThreeFilesOfOneName) {
@@ -72,21 +64,21 @@ TEST_F(WaveformTest, SetOfThreeFilesOfOneName) {
   main.slideCH1.value = 1.25;
   main.slideCH2.value = -2;
   main.slideTime.value = 0.5;
-  bench.windows.user["frmSave"] = [this] {
+  windows.user["frmSave"] = [this] {
     saveWindow.txtAuthor.type("Ann");
     saveWindow.txtDes.type("a, b");
     saveWindow.opFiletype(3).select();
-    bench.dialogs.pickedFile = folder / "one.Ico";
+    dialogs.pickedFile = place / "one.Ico";
     saveWindow.cmdOK.press();
   };
   main.tmDSO.enabled = true;
   main.cmdSave.press();
-  EXPECT_EQ(bench.dialogs.fileDialogs.back().fileName, "0315142905");
-  EXPECT_EQ(bench.dialogs.fileDialogs.back().filter, "*.Ico|*.Ico");
+  EXPECT_EQ(dialogs.fileDialogs.back().fileName, "0315142905");
+  EXPECT_EQ(dialogs.fileDialogs.back().filter, "*.Ico|*.Ico");
   const std::string csv = file("one.csv");
   EXPECT_TRUE(csv.starts_with("Channel 1,Channel 2\r\n-256,0\r\n1,-1\r\n2,-2\r\n")) << csv;
   EXPECT_EQ(std::ranges::count(csv, '\n'), 501);
-  const std::string path = pathText(folder / "one");
+  const std::string path = pathText(place / "one");
   EXPECT_EQ(file("one.inf"), path + ".Ico\r\n" + path + ".csv\r\nAnn\r\na, b\r\n1.25\r\n-2\r\n" +
                                  "500.0 mV\r\n500.0 mV\r\n0.5\r\n");
   EXPECT_TRUE(file("one.Ico").starts_with("6:graph|CH1 500.0 mV"));
@@ -108,47 +100,45 @@ TEST_F(WaveformTest, OneChannelNoChannelAndNoRecord) {
   main.Ch2Raw.resize(600);
   EXPECT_THROW(BuildCsvText(main), Error);
   save("cut.jpg");  // The text of the description before is what is left to save.
-  EXPECT_TRUE(bench.dialogs.runTimeErrors.empty());
-}
-
-TEST_F(WaveformTest, CancelledSaveDialogWritesUnderThePresetName) {
+  EXPECT_TRUE(dialogs.runTimeErrors.empty());
+  // A cancelled file dialog writes under the preset name.
   save("");
-  EXPECT_TRUE(fs::exists(folder / "031514.csv"));
-  EXPECT_TRUE(fs::exists(folder / "031514.inf"));
+  EXPECT_TRUE(fs::exists(place / "031514.csv"));
+  EXPECT_TRUE(fs::exists(place / "031514.inf"));
   EXPECT_TRUE(file("0315142905").starts_with("11:"));
 }
 
 TEST_F(WaveformTest, FailedSaveSaysSoAndKeepsTheOldFiles) {
   save("one.png", 7);
   const std::string before = file("one.inf");
-  fs::create_directory(folder / "one.inf.new");
+  fs::create_directory(place / "one.inf.new");
   main.slideCH1.value = 3;
-  bench.windows.user["frmSave"] = [this] {
+  windows.user["frmSave"] = [this] {
     saveWindow.cmdOK.press();
     EXPECT_TRUE(saveWindow.isVisible());
-    fs::remove(folder / "one.inf.new");
+    fs::remove(place / "one.inf.new");
     saveWindow.cmdOK.press();
   };
   main.cmdSave.press();
-  EXPECT_EQ(bench.dialogs.runTimeErrors.size(), 1u);
+  EXPECT_EQ(dialogs.runTimeErrors.size(), 1u);
   EXPECT_NE(file("one.inf"), before);
   // Not the text of the description, which the failed try had come to.
   EXPECT_TRUE(file("one.csv").starts_with("Channel 1\r\n"));
-  bench.dialogs.runTimeErrors.clear();
+  dialogs.runTimeErrors.clear();
   save("one.csv");
-  EXPECT_EQ(bench.dialogs.runTimeErrors.size(), 1u);
+  EXPECT_EQ(dialogs.runTimeErrors.size(), 1u);
   EXPECT_TRUE(file("one.csv").starts_with("Channel 1\r\n"));
-  bench.dialogs.runTimeErrors.clear();
+  dialogs.runTimeErrors.clear();
   // A name that is shorter than an extension loses a part of its folder.
   save("x");
-  EXPECT_TRUE(fs::exists(bench.folder.path() / pathOf("Messung ü.csv")));
+  EXPECT_TRUE(fs::exists(folder.path() / pathOf("Messung ü.csv")));
   EXPECT_EQ(withoutExtension("测量ü1.jpg"), "测量ü1");
   EXPECT_EQ(withoutExtension("ab测量ü1"), "ab");
   EXPECT_THROW(withoutExtension("jpg"), Error);
 }
 
 TEST_F(WaveformTest, NotesUndoEraseAndPrint) {
-  bench.windows.user["frmSave"] = [this] {
+  windows.user["frmSave"] = [this] {
     const std::string first = saveWindow.pictureTemp.image().pixels;
     saveWindow.txtWord.type("note");
     saveWindow.pictureTemp.clickAt(5, 6);
@@ -159,11 +149,11 @@ TEST_F(WaveformTest, NotesUndoEraseAndPrint) {
     EXPECT_EQ(saveWindow.pictureTemp.image().pixels, first + "|note@5,6|note@7,8");
     saveWindow.cmdUndo.press();
     saveWindow.cmdPrint.press();
-    EXPECT_EQ(bench.printer.printed, Lines{first + "|note@5,6"});
+    EXPECT_EQ(printer.printed, Lines{first + "|note@5,6"});
     saveWindow.cmdReload.press();
     EXPECT_EQ(saveWindow.pictureTemp.image().pixels, first);
     saveWindow.cmdUndo.press();
-    EXPECT_EQ(bench.dialogs.messages, Lines{"Undo Error!"});
+    EXPECT_EQ(dialogs.messages, Lines{"Undo Error!"});
   };
   main.mnbSaveWaveform.choose();
 }
@@ -175,12 +165,12 @@ TEST_F(WaveformTest, SavedSetLiesOnTheTraceThatWasSaved) {
   main.Ch2Pos = -2;
   main.slideCH1.value = 1.33;
   main.slideCH2.value = -2;
-  bench.port.tag = "1";
-  bench.port.deliver(main.Ch1Raw);
-  bench.port.tag = "2";
-  bench.port.deliver(main.Ch2Raw);
+  port.tag = "1";
+  port.deliver(main.Ch1Raw);
+  port.tag = "2";
+  port.deliver(main.Ch2Raw);
   save("both.png", 7);
-  bench.pictures = RecordingPictures();
+  pictures = RecordingPictures();
   load({"both.csv"});
   EXPECT_EQ(shownReferences(), 2);
   for (const int number : {1, 2}) {
@@ -196,12 +186,12 @@ TEST_F(WaveformTest, SavedSetLiesOnTheTraceThatWasSaved) {
   load({"both.csv"});
   EXPECT_EQ(shownReferences(), 4);
   load({"both.csv"});
-  EXPECT_TRUE(bench.dialogs.messages.empty());
-  bench.port.wire.clear();
+  EXPECT_TRUE(dialogs.messages.empty());
+  port.wire.clear();
   main.cmdRemove.press();
   EXPECT_EQ(shownReferences(), 0);
   EXPECT_TRUE(main.graphDSO.plot(1).visible());
-  EXPECT_TRUE(bench.port.wire.empty());
+  EXPECT_TRUE(port.wire.empty());
   loadWindow.cb1.value = 0;
   load({"both.csv"});
   EXPECT_TRUE(main.graphDSO.plot(3).visible());
@@ -220,46 +210,39 @@ TEST_F(WaveformTest, SetsThatCannotBeShownLeaveTheOneBefore) {
   write("cut.csv", "x\r\n");
   write("cut.inf", good.substr(0, good.size() / 2));
   for (const char* bad : {"lonely.csv", "gone.csv", "kind.csv", "cut.csv"}) {
-    bench.dialogs.messages.clear();
+    dialogs.messages.clear();
     load({"good.csv", bad});
-    EXPECT_EQ(bench.dialogs.messages, Lines{"File is not correct!"}) << bad;
+    EXPECT_EQ(dialogs.messages, Lines{"File is not correct!"}) << bad;
     EXPECT_EQ(loadWindow.fileCSV.chosenText(), "good.csv");
     EXPECT_EQ(shownReferences(), 1) << "the set that is still shown is loaded";
     main.cmdRemove.press();
   }
 }
 
-TEST_F(WaveformTest, FolderThatHasGoneIsLeft) {
+TEST_F(WaveformTest, FoldersAndDrivesAreWalkedAndOneThatHasGoneIsLeft) {
   save("one.jpg");
   load({"one.csv"});
   fs::current_path(oldFolder);
-  fs::remove_all(folder);
-  bench.windows.user["frmLoad"] = [this] {
-    EXPECT_EQ(loadWindow.lblPath.caption(), pathText(bench.folder.path()));
-    fs::create_directory(folder);
-    loadWindow.cmdCancel.press();
-  };
-  main.cmdLoad.press();
-  EXPECT_TRUE(bench.dialogs.runTimeErrors.empty());
-  EXPECT_TRUE(main.tmDSO.enabled());
-}
-
-TEST_F(WaveformTest, FoldersAndDrivesAreWalked) {
-  bench.windows.user["frmLoad"] = [this] {
+  fs::remove_all(place);
+  windows.user["frmLoad"] = [this] {
+    EXPECT_EQ(loadWindow.lblPath.caption(), pathText(folder.path()));
     loadWindow.dirCSV.open(0);
-    EXPECT_EQ(loadWindow.lblPath.caption(), pathText(bench.folder.path().parent_path()));
+    EXPECT_EQ(loadWindow.lblPath.caption(), pathText(folder.path().parent_path()));
     loadWindow.driveCSV.choose(0);
-    EXPECT_EQ(loadWindow.lblPath.caption(), loadWindow.driveCSV.text());
-    const std::string root = loadWindow.lblPath.caption();
+    const std::string root = loadWindow.driveCSV.text();
+    EXPECT_EQ(loadWindow.lblPath.caption(), root);
+    EXPECT_TRUE(dialogs.runTimeErrors.empty());
     loadWindow.driveCSV.items = {root, "/no/such/drive"};
     loadWindow.driveCSV.choose(1);
     EXPECT_EQ(loadWindow.driveCSV.text(), root);
     loadWindow.cmdOK.press();  // Nothing is chosen.
     EXPECT_TRUE(loadWindow.isVisible());
+    loadWindow.cmdCancel.press();
   };
   main.cmdLoad.press();
-  ASSERT_EQ(bench.dialogs.runTimeErrors.size(), 1u);
-  EXPECT_NE(bench.dialogs.runTimeErrors[0].find("/no/such/drive"), std::string::npos);
+  EXPECT_TRUE(main.tmDSO.enabled());
+  ASSERT_EQ(dialogs.runTimeErrors.size(), 1u);
+  EXPECT_NE(dialogs.runTimeErrors[0].find("/no/such/drive"), std::string::npos);
 }
 
 TEST_F(WaveformTest, DataFilesOfEveryKind) {
@@ -300,26 +283,22 @@ TEST_F(WaveformTest, DataFilesOfEveryKind) {
   EXPECT_EQ(readWaveforms("h\r\n3\r\n", "N", "0.33").channel2[0], 20);
 }
 
-TEST_F(WaveformTest, DirectLoadTakesTheFirstColumnIntoLoad1) {
+TEST_F(WaveformTest, DirectLoadTakesTheFirstColumnIntoLoad1AndExportWritesTheMessageBox) {
   write("data.csv", "Channel 1,Channel 2\r\n7,1\r\n8,2\r\n");
-  bench.dialogs.pickedFile = folder / "data.csv";
+  dialogs.pickedFile = place / "data.csv";
   main.cmdLoadCSV.press();
   EXPECT_EQ(main.graphDSO.plot(3).y(), (std::vector<double>{7, 8}));
   EXPECT_EQ(main.txtMsg.text(), file("data.csv"));
-  EXPECT_TRUE(main.tmDSO.enabled());
-  std::ofstream(folder / "data.csv").seekp(1 << 30).put('x');
-  main.mnbLoadCSV.choose();
-  EXPECT_EQ(bench.dialogs.runTimeErrors.size(), 1u);
-  bench.dialogs.pickedFile.clear();
-  main.cmdLoadCSV.press();
-  EXPECT_EQ(bench.dialogs.runTimeErrors.size(), 1u);
-  EXPECT_EQ(bench.dialogs.fileDialogs.back().title, "Load CSV file");
-}
-
-TEST_F(WaveformTest, ExportWritesTheMessageBox) {
-  main.txtMsg.text = "1,2\r\n";
   main.cmdExportCSV.press();
-  EXPECT_EQ(file("text.csv"), "1,2\r\n");
+  EXPECT_EQ(file("text.csv"), file("data.csv"));
+  EXPECT_TRUE(main.tmDSO.enabled());
+  std::ofstream(place / "data.csv").seekp(1 << 30).put('x');
+  main.mnbLoadCSV.choose();
+  EXPECT_EQ(dialogs.runTimeErrors.size(), 1u);
+  dialogs.pickedFile.clear();
+  main.cmdLoadCSV.press();
+  EXPECT_EQ(dialogs.runTimeErrors.size(), 1u);
+  EXPECT_EQ(dialogs.fileDialogs.back().title, "Load CSV file");
 }
 
 /// On Windows the kind of every file is asked for by itself, which Wine does slowly.
@@ -329,7 +308,7 @@ TEST_F(WaveformTest, TenThousandFilesAreListedInAnInstant) {
 #else
   constexpr std::chrono::milliseconds instant(200);
 #endif
-  for (int i = 0; i < 10000; ++i) std::ofstream(folder / (std::to_string(i) + ".csv"));
+  for (int i = 0; i < 10000; ++i) std::ofstream(place / (std::to_string(i) + ".csv"));
   // The best of three: the machine may be busy with something else.
   auto fastest = std::chrono::steady_clock::duration::max();
   for (int i = 0; i < 3; ++i) {

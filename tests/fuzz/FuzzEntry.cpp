@@ -2,9 +2,14 @@
 /// libFuzzer's way into the function that FUZZ_TARGET names.
 
 #include <cstdint>
+#include <string>
 
 #include "Error.h"
-#include "FuzzTargets.h"
+
+namespace tracewell {
+void FUZZ_TARGET(const std::string& bytes);
+void forgetTraces();
+}  // namespace tracewell
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
   try {

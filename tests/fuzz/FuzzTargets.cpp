@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "FuzzTargets.h"
-
 #include "CommandFile.h"
 #include "Doubles.h"
 #include "Messages.h"
@@ -8,6 +6,8 @@
 #include "WaveformRecord.h"
 #include "WaveformSetReader.h"
 
+/// One function per kind of bytes that come from outside. An Error is an answer; anything else that
+/// leaves one of them is a fault.
 namespace tracewell {
 namespace {
 
@@ -92,6 +92,7 @@ void reply(const std::string& bytes) {
   if (line.port.read().find('\n') == std::string::npos) std::abort();
 }
 
+/// What one input has left behind in the program is gone before the next one.
 void forgetTraces() {
   bench().program.errLog.txtErrLog.text = "";
   bench().dialogs.runTimeErrors.clear();

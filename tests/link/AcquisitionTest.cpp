@@ -1,58 +1,46 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <gtest/gtest.h>
-
 #include "Doubles.h"
 #include "WaveformRecord.h"
 
 namespace tracewell {
 namespace {
 
-using Lines = std::vector<std::string>;
-
-class AcquisitionTest : public testing::Test, protected Bench {
- protected:
-  AcquisitionTest() { program.start(); }
-};
+using AcquisitionTest = ProgramTest;
 
 TEST_F(AcquisitionTest, TicksTakeTurnsBetweenTheDisplayedChannels) {
-  const struct {
-    std::array<bool, 2> displayed;
-    Lines expected;
-  } cases[] = {{{true, true}, {":ACQ2:POIN", ":ACQ1:POIN", ":ACQ2:POIN"}},
-               {{true, false}, {":ACQ1:POIN", ":ACQ1:POIN"}},
-               {{false, true}, {":ACQ2:POIN", ":ACQ2:POIN"}},
-               {{false, false}, {":ACQ2:POIN", ":ACQ2:POIN"}}};
-  for (const auto& c : cases) {
+  const std::pair<std::array<bool, 2>, Lines> cases[] = {
+      {{true, true}, {":ACQ2:POIN", ":ACQ1:POIN", ":ACQ2:POIN"}},
+      {{true, false}, {":ACQ1:POIN", ":ACQ1:POIN"}},
+      {{false, true}, {":ACQ2:POIN", ":ACQ2:POIN"}},
+      {{false, false}, {":ACQ2:POIN", ":ACQ2:POIN"}}};
+  for (const auto& [displayed, expected] : cases) {
     port.wire.clear();
-    main.ChanOn = c.displayed;
+    main.ChanOn = displayed;
     main.tmDSO.enabled = true;
-    clock.run(1200 * static_cast<int>(c.expected.size()));
+    clock.run(1200 * static_cast<int>(expected.size()));
     main.tmDSO.enabled = false;
-    EXPECT_EQ(port.wire, c.expected);
+    EXPECT_EQ(port.wire, expected);
   }
   EXPECT_EQ(port.recordLength, 1014);
   EXPECT_FALSE(port.textMode);
 }
 
 TEST_F(AcquisitionTest, DecodingOfEveryKindOfSample) {
-  const struct {
-    int bits;
-    std::int16_t offset;
-    std::int16_t expected;
-  } cases[] = {{0x000A, 0, 10},
-               {0xFFFF, 0, -1},
-               {0xFF00, 0, -256},
-               {0x7FFF, -25, 32742},
-               {0x8001, -1, -32768},
-               // These have no 16-bit result and repeat the sample before them.
-               {0x8000, 100, 107},
-               {0x7FFF, 1, 8},
-               {0x8001, -2, 5}};
-  for (const auto& c : cases) {
+  const std::tuple<int, std::int16_t, std::int16_t> cases[] = {
+      {0x000A, 0, 10},
+      {0xFFFF, 0, -1},
+      {0xFF00, 0, -256},
+      {0x7FFF, -25, 32742},
+      {0x8001, -1, -32768},
+      // These have no 16-bit result and repeat the sample before them.
+      {0x8000, 100, 107},
+      {0x7FFF, 1, 8},
+      {0x8001, -2, 5}};
+  for (const auto& [bits, offset, expected] : cases) {
     const Samples samples =
-        decodeSamples(makeRecord([&](int i) { return i == 0 ? 7 : c.bits; }), c.offset);
-    EXPECT_EQ(samples[0], 7 + c.offset);
-    EXPECT_EQ(samples[499], c.expected) << std::hex << c.bits;
+        decodeSamples(makeRecord([&](int i) { return i == 0 ? 7 : bits; }), offset);
+    EXPECT_EQ(samples[0], 7 + offset);
+    EXPECT_EQ(samples[499], expected) << std::hex << bits;
   }
   EXPECT_EQ(decodeSamples(makeRecord([](int) { return 0x8000; }), 3)[0], 0);
   const Samples cut = decodeSamples(makeRecord([](int i) { return i; }).substr(0, 14 + 21), 0);

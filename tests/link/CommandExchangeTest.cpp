@@ -1,28 +1,21 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <gtest/gtest.h>
-
 #include "Doubles.h"
 #include "Files.h"
 
 namespace tracewell {
 namespace {
 
-using Lines = std::vector<std::string>;
-
-class CommandExchangeTest : public testing::Test, protected Bench {
+class CommandExchangeTest : public ProgramTest {
  protected:
-  CommandExchangeTest() { program.start(); }
   std::string send(const std::string& command) { return program.exchange.SendDSOCmd(command); }
 };
 
 TEST_F(CommandExchangeTest, ReplyLosesBlanksAroundItAndItsTerminator) {
-  const struct {
-    const char* line;
-    const char* expected;
-  } cases[] = {{"  500.0 mV\n", "500.0 mV"}, {"1 \n", "1 "}, {"  7\n  ", "7"}, {"\n", ""}};
-  for (const auto& c : cases) {
-    port.answer("Q?", {c.line});
-    EXPECT_EQ(send("Q?"), c.expected);
+  const std::pair<const char*, const char*> cases[] = {
+      {"  500.0 mV\n", "500.0 mV"}, {"1 \n", "1 "}, {"  7\n  ", "7"}, {"\n", ""}};
+  for (const auto& [line, expected] : cases) {
+    port.answer("Q?", {line});
+    EXPECT_EQ(send("Q?"), expected);
   }
   EXPECT_TRUE(main.LinkOK);
   EXPECT_TRUE(main.InRemote);

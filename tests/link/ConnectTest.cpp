@@ -1,19 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <gtest/gtest.h>
-
 #include "Doubles.h"
 
 namespace tracewell {
 namespace {
 
-using Lines = std::vector<std::string>;
-
-class ConnectTest : public testing::Test, protected Bench {
+class ConnectTest : public ProgramTest {
  protected:
-  ConnectTest() {
-    program.start();
-    port.answerLikeAnInstrument();
-  }
+  ConnectTest() { port.answerLikeAnInstrument(); }
   void expectShown(Colour lamp, int message, const std::string& button) {
     EXPECT_EQ(main.spConnect.fillColour(), lamp);
     EXPECT_EQ(main.lblConnect.caption(), main.Msg.at(static_cast<std::size_t>(message)));
@@ -74,21 +67,16 @@ TEST_F(ConnectTest, SilentInstrumentEndsAtTheFirstQuery) {
 }
 
 TEST_F(ConnectTest, RepliesOutsideTheTablesLeaveTheKnobsAndChannel2KeepsWholeDivisions) {
-  const struct {
-    const char* scale;
-    int knobTime;
-    const char* offset;
-    int divisions;
-  } cases[] = {{"5.000 s\n", 0, "1.500 V\n", 2},
-               {"2.000 s\n", 27, "2.500 V\n", 2},
-               {"100us\n", 27, "-1.50 V\n", -2}};
-  for (const auto& c : cases) {
-    port.answer(":TIM:SCAL?", {c.scale});
-    port.answer("CHAN2:OFFS?", {c.offset});
+  const std::tuple<const char*, int, const char*, int> cases[] = {{"5.000 s\n", 0, "1.500 V\n", 2},
+                                                                  {"2.000 s\n", 27, "2.500 V\n", 2},
+                                                                  {"100us\n", 27, "-1.50 V\n", -2}};
+  for (const auto& [scale, knobTime, offset, divisions] : cases) {
+    port.answer(":TIM:SCAL?", {scale});
+    port.answer("CHAN2:OFFS?", {offset});
     program.instrument.InitDSO();
-    EXPECT_EQ(main.knobTime.value(), c.knobTime) << c.scale;
-    EXPECT_EQ(main.Ch2Pos, c.divisions) << c.offset;
-    EXPECT_EQ(main.slideCH2.value(), c.divisions);
+    EXPECT_EQ(main.knobTime.value(), knobTime) << scale;
+    EXPECT_EQ(main.Ch2Pos, divisions) << offset;
+    EXPECT_EQ(main.slideCH2.value(), divisions);
   }
 }
 

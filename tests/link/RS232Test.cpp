@@ -1,17 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <gtest/gtest.h>
-
 #include "Doubles.h"
 
 namespace tracewell {
 namespace {
 
-class RS232Test : public testing::Test, protected Bench {
+class RS232Test : public ProgramTest {
  protected:
-  RS232Test() { program.start(); }
-
   /// Opens the dialog, types the five settings and presses a button.
-  void edit(const std::vector<std::string>& settings, Button& button) {
+  void edit(const Lines& settings, Button& button) {
     windows.user["frmRS232"] = [&] {
       for (int i = 0; i < 5; ++i) dialog.cbRS232(i).type(settings.at(static_cast<std::size_t>(i)));
       button.press();
@@ -29,16 +25,14 @@ class RS232Test : public testing::Test, protected Bench {
 };
 
 TEST_F(RS232Test, AppliesInThePortsOwnCodes) {
-  const struct {
-    std::vector<std::string> typed;
-    LineSettings expected;
-  } cases[] = {{{"9600", "7", "1", "None", "33"}, {33, 9600, 7, 0, 0}},
-               {{"4800", "8", "2", "Odd", "0"}, {0, 4800, 8, 2, 3}},
-               {{"300", "9", "1.5", "Even", "-1"}, {-1, 300, 8, 2, 1}}};
-  for (const auto& c : cases) {
-    edit(c.typed, dialog.cmdOK);
-    EXPECT_EQ(settings, c.expected) << c.typed[0];
-    EXPECT_EQ(main.BaudRate, c.expected.baudRate);
+  const std::pair<Lines, LineSettings> cases[] = {
+      {{"9600", "7", "1", "None", "33"}, {33, 9600, 7, 0, 0}},
+      {{"4800", "8", "2", "Odd", "0"}, {0, 4800, 8, 2, 3}},
+      {{"300", "9", "1.5", "Even", "-1"}, {-1, 300, 8, 2, 1}}};
+  for (const auto& [typed, expected] : cases) {
+    edit(typed, dialog.cmdOK);
+    EXPECT_EQ(settings, expected) << typed[0];
+    EXPECT_EQ(main.BaudRate, expected.baudRate);
   }
   EXPECT_EQ(row(), "300,9,1.5,Even,-1,");
 }
@@ -74,8 +68,7 @@ TEST_F(RS232Test, WrongTextEndsTheHandlerAndCancelAppliesNothing) {
   EXPECT_EQ(settings.dataBits, before.dataBits);
   EXPECT_EQ(row(), rowBefore);
   EXPECT_TRUE(dialog.isVisible());
-  EXPECT_EQ(dialogs.runTimeErrors,
-            (std::vector<std::string>{"6 Overflow", "13 Type mismatch", "13 Type mismatch"}));
+  EXPECT_EQ(dialogs.runTimeErrors, (Lines{"6 Overflow", "13 Type mismatch", "13 Type mismatch"}));
 }
 
 }  // namespace

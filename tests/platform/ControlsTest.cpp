@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Controls.h"
 
-#include <gtest/gtest.h>
-
-#include "Dials.h"
 #include "Doubles.h"
 
 namespace tracewell {
@@ -45,19 +42,6 @@ TEST_F(ControlsTest, SelectingAnOptionClearsItsGroupInSilence) {
   EXPECT_EQ(raised, 0);
 }
 
-TEST_F(ControlsTest, SlideSetByCodeNeverCommits) {
-  Slide slide(window, "slide", "Level : 0.00 V", {-1, 1, 0.1});
-  slide.pointerValueCommitted = [this] { count(); };
-  slide.mouseUp = [this] { count(); };
-  slide.value = 5;
-  EXPECT_EQ(slide.value(), 5);
-  slide.drag(-7);
-  EXPECT_EQ(slide.value(), -1);
-  EXPECT_EQ(raised, 0);
-  slide.release();
-  EXPECT_EQ(raised, 2);
-}
-
 TEST_F(ControlsTest, UntrappedErrorEndsInOneBoxAndDisabledControlsAreOutOfReach) {
   Button button(window, "cmd", "Do");
   button.click = [] { throw typeMismatchError(); };
@@ -65,7 +49,7 @@ TEST_F(ControlsTest, UntrappedErrorEndsInOneBoxAndDisabledControlsAreOutOfReach)
     button.enabled = isEnabled;
     button.press();
   }
-  EXPECT_EQ(dialogs.runTimeErrors, std::vector<std::string>{"13 Type mismatch"});
+  EXPECT_EQ(dialogs.runTimeErrors, Lines{"13 Type mismatch"});
 }
 
 TEST_F(ControlsTest, TimerStartsAFullIntervalAndStopsAtOnce) {

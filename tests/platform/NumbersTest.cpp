@@ -60,23 +60,20 @@ TEST(Numbers, LeadingNumberStopsAtTheFirstLetterOrBlank) {
 }
 
 TEST(Numbers, ExponentAndTwoDecimalPatterns) {
-  const struct {
-    double value;
-    const char* exponent;
-    const char* twoDecimals;
-  } cases[] = {{0, "0E0", "0.00"},
-               {-0.0, "0E0", "0.00"},
-               {0.125, "1.25E-1", "0.13"},
-               {-0.125, "-1.25E-1", "-0.13"},
-               {1.005, "1.005E0", "1.01"},
-               {-0.004, "-4E-3", "0.00"},
-               {9.995, "9.995E0", "10.00"},
-               {1.0 / 3, "3.33333333333E-1", "0.33"},
-               {9.9999999999999, "1E1", "10.00"},
-               {1e10, "1E10", "10000000000.00"}};
-  for (const auto& c : cases) {
-    EXPECT_EQ(formatExponent(c.value), c.exponent);
-    EXPECT_EQ(formatTwoDecimals(c.value), c.twoDecimals);
+  const std::tuple<double, const char*, const char*> cases[] = {
+      {0, "0E0", "0.00"},
+      {-0.0, "0E0", "0.00"},
+      {0.125, "1.25E-1", "0.13"},
+      {-0.125, "-1.25E-1", "-0.13"},
+      {1.005, "1.005E0", "1.01"},
+      {-0.004, "-4E-3", "0.00"},
+      {9.995, "9.995E0", "10.00"},
+      {1.0 / 3, "3.33333333333E-1", "0.33"},
+      {9.9999999999999, "1E1", "10.00"},
+      {1e10, "1E10", "10000000000.00"}};
+  for (const auto& [value, exponent, twoDecimals] : cases) {
+    EXPECT_EQ(formatExponent(value), exponent);
+    EXPECT_EQ(formatTwoDecimals(value), twoDecimals);
   }
 }
 

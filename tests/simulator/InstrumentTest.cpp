@@ -47,29 +47,26 @@ class InstrumentTest : public testing::Test {
 };
 
 TEST_F(InstrumentTest, KeepsWhatIsSetAndRefusesWhatIsNone) {
-  const struct {
-    const char* command;
-    const char* query;
-    const char* reply;
-  } cases[] = {{":CHAN1:SCAL 1E-1", ":CHAN1:SCAL?", "100.0 mV"},
-               {":CHAN1:SCAL 3E-1", ":CHAN1:SCAL?", "100.0 mV"},
-               {":chan2:scal 5", "CHAN2:SCAL?", "5.000 V"},
-               {":CHAN2:SCAL 10", ":CHAN2:SCAL?", "5.000 V"},
-               {":TIM:SCAL 5", ":TIM:SCAL?", "5.000 s"},
-               {":CHAN1:OFFS -4E-1", "CHAN1:OFFS?", "-400 mV"},
-               {":CHAN2:OFFS -1.5E1", "CHAN2:OFFS?", "-15.0 V"},
-               {":CHAN1:COUP 2", ":CHAN1:COUP?", "2"},
-               {":CHAN1:COUP 3", ":CHAN1:COUP?", "2"},
-               {":CHAN1:COUP 1 ", ":CHAN1:COUP?", "2"},
-               {":TRIG:ADV:EVEN twelve", ":TRIG:ADV:EVEN?", "twelve"},
-               {":CHAN2:MATH 2", ":CHAN2:MATH?", "2"},
-               {":CHAN1:MATH 2", ":CHAN2:MATH?", "0"},
-               {":CHAN2:MATH 0", ":CHAN1:MATH?", "0"},
-               {":NOTHING 1", ":NOTHING?", ""},
-               {"", "SYST:ERR?", "6"}};
-  for (const auto& c : cases) {
-    send(c.command);
-    EXPECT_EQ(ask(c.query), c.reply) << c.command;
+  const std::tuple<const char*, const char*, const char*> cases[] = {
+      {":CHAN1:SCAL 1E-1", ":CHAN1:SCAL?", "100.0 mV"},
+      {":CHAN1:SCAL 3E-1", ":CHAN1:SCAL?", "100.0 mV"},
+      {":chan2:scal 5", "CHAN2:SCAL?", "5.000 V"},
+      {":CHAN2:SCAL 10", ":CHAN2:SCAL?", "5.000 V"},
+      {":TIM:SCAL 5", ":TIM:SCAL?", "5.000 s"},
+      {":CHAN1:OFFS -4E-1", "CHAN1:OFFS?", "-400 mV"},
+      {":CHAN2:OFFS -1.5E1", "CHAN2:OFFS?", "-15.0 V"},
+      {":CHAN1:COUP 2", ":CHAN1:COUP?", "2"},
+      {":CHAN1:COUP 3", ":CHAN1:COUP?", "2"},
+      {":CHAN1:COUP 1 ", ":CHAN1:COUP?", "2"},
+      {":TRIG:ADV:EVEN twelve", ":TRIG:ADV:EVEN?", "twelve"},
+      {":CHAN2:MATH 2", ":CHAN2:MATH?", "2"},
+      {":CHAN1:MATH 2", ":CHAN2:MATH?", "0"},
+      {":CHAN2:MATH 0", ":CHAN1:MATH?", "0"},
+      {":NOTHING 1", ":NOTHING?", ""},
+      {"", "SYST:ERR?", "6"}};
+  for (const auto& [command, query, reply] : cases) {
+    send(command);
+    EXPECT_EQ(ask(query), reply) << command;
   }
 }
 
@@ -91,26 +88,23 @@ TEST_F(InstrumentTest, TraceFollowsTheSettings) {
   // 2 V peak to peak at 500 mV and 50 units a division; the start is where it passes 0.2 V, rising.
   EXPECT_NEAR(plain[250], 20, 12);
   EXPECT_GT(plain[260], plain[240]);
-  const struct {
-    const char* command;
-    const char* undo;
-    double mean, peakToPeak, start;
-  } cases[] = {{"", "", 20, 200, 20},
-               {":CHAN1:SCAL 1", ":CHAN1:SCAL 5E-1", 10, 100, 10},
-               {":CHAN1:COUP 0", ":CHAN1:COUP 1", 0, 200, 20},
-               {":CHAN1:COUP 2", ":CHAN1:COUP 1", 0, 6, 0},
-               {":CHAN1:INV 1", ":CHAN1:INV 0", -20, 200, 20},
-               {":TRIG:LEV 8E-1", ":TRIG:LEV 2E-1", 20, 200, 80},
-               // A quarter of a period, to the crest.
-               {":TIM:DEL 2.5E-4", ":TIM:DEL 0", 20, 200, 120}};
-  for (const auto& c : cases) {
-    SCOPED_TRACE(c.command);
-    send(c.command);
+  const std::tuple<const char*, const char*, double, double, double> cases[] = {
+      {"", "", 20, 200, 20},
+      {":CHAN1:SCAL 1", ":CHAN1:SCAL 5E-1", 10, 100, 10},
+      {":CHAN1:COUP 0", ":CHAN1:COUP 1", 0, 200, 20},
+      {":CHAN1:COUP 2", ":CHAN1:COUP 1", 0, 6, 0},
+      {":CHAN1:INV 1", ":CHAN1:INV 0", -20, 200, 20},
+      {":TRIG:LEV 8E-1", ":TRIG:LEV 2E-1", 20, 200, 80},
+      // A quarter of a period, to the crest.
+      {":TIM:DEL 2.5E-4", ":TIM:DEL 0", 20, 200, 120}};
+  for (const auto& [command, undo, average, height, start] : cases) {
+    SCOPED_TRACE(command);
+    send(command);
     const std::vector<int> samples = record(1);
-    send(c.undo);
-    EXPECT_NEAR(mean(samples), c.mean, 12);
-    EXPECT_NEAR(peakToPeak(samples), c.peakToPeak, 14);
-    EXPECT_NEAR(samples[250], c.start, 12);
+    send(undo);
+    EXPECT_NEAR(mean(samples), average, 12);
+    EXPECT_NEAR(peakToPeak(samples), height, 14);
+    EXPECT_NEAR(samples[250], start, 12);
   }
   send(":CHAN1:MATH 1");
   EXPECT_NEAR(mean(record(1)), 50, 12);
@@ -186,26 +180,22 @@ TEST_F(InstrumentTest, AutosetKeepsRepliesWaiting) {
 
 TEST_F(InstrumentTest, FaultsComeAndGo) {
   const std::string healthy = "KRM-410 SIMULATED";
-  const struct {
-    const char* fault;
-    std::string reply;
-    std::size_t recordBytes;
-  } cases[] = {{"SILENT 1", "", 0},
-               {"BLANK 1", healthy + " ", 1014},
-               {"NONNUM 1", "x" + healthy, 1014},
-               {"CUT 300", healthy, 300},
-               {"DROP 500", healthy, 1012},
-               {"HANGUP 118", healthy, 100},
-               {"OFF", healthy, 1014}};
-  for (const auto& c : cases) {
+  const std::tuple<const char*, std::string, std::size_t> cases[] = {
+      {"SILENT 1", "", 0},
+      {"BLANK 1", healthy + " ", 1014},
+      {"NONNUM 1", "x" + healthy, 1014},
+      {"CUT 300", healthy, 300},
+      {"DROP 500", healthy, 1012},
+      {"HANGUP 118", healthy, 100},
+      {"OFF", healthy, 1014}};
+  for (const auto& [fault, reply, recordBytes] : cases) {
     instrument.plugIn();
     send(":SIM:OFF");
-    send(":SIM:" + std::string(c.fault));
-    EXPECT_EQ(ask("*IDN?"), c.reply) << c.fault;
+    send(":SIM:" + std::string(fault));
+    EXPECT_EQ(ask("*IDN?"), reply) << fault;
     record(1);
-    EXPECT_NEAR(static_cast<double>(bytes.size()), static_cast<double>(c.recordBytes), 1)
-        << c.fault;
-    EXPECT_EQ(instrument.hasHungUp(), c.recordBytes == 100);
+    EXPECT_NEAR(static_cast<double>(bytes.size()), static_cast<double>(recordBytes), 1) << fault;
+    EXPECT_EQ(instrument.hasHungUp(), recordBytes == 100);
   }
   send(":SIM:SLOW 500");
   instrument.receive("*IDN?\r\n", now += 5000);

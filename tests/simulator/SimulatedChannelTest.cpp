@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "SimulatedChannel.h"
 
-#include <gtest/gtest.h>
-
 #include "AbandonedRecords.h"
 #include "Doubles.h"
 

@@ -1,27 +1,21 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <gtest/gtest.h>
-
 #include "CommandFile.h"
 #include "Doubles.h"
 
 namespace tracewell {
 namespace {
 
-using Lines = std::vector<std::string>;
-
-class ConsoleTest : public testing::Test {
+class ConsoleTest : public ProgramTest {
  protected:
-  ConsoleTest() { bench.program.start(); }
   /// Opens the console on a command list.
   void open(const std::string& list, const std::function<void()>& user) {
-    writeWholeFile(bench.folder.path() / "dso.cmd", list);
+    writeWholeFile(folder.path() / "dso.cmd", list);
     console.unload();
-    bench.windows.user["frmCmd"] = user;
-    bench.main.cmdDSOcmd.press();
+    windows.user["frmCmd"] = user;
+    main.cmdDSOcmd.press();
   }
 
-  Bench bench;
-  frmCmd& console = bench.program.console;
+  frmCmd& console = program.console;
 };
 
 TEST_F(ConsoleTest, EntriesAndTheirPlaces) {
@@ -39,58 +33,50 @@ TEST_F(ConsoleTest, EntriesAndTheirPlaces) {
     const std::vector<Tree::Node> expected = {{"Group", 0}, {":A", 1},     {":B", 1},
                                               {":C", 1},    {"Second", 0}, {":D", 5}};
     EXPECT_EQ(console.tvCmd.nodes(), expected);
-    const struct {
-      int node;
-      const char* command;
-      const char* hint;
-      const char* description;
-    } cases[] = {{2, ":A", "hint a", "says a\r"},
-                 {3, ":B", "", "only hint\r"},
-                 // Behind the line without a node each shows the entry before its own.
-                 {4, ":C", "", ""},
-                 {5, "Second", "hint c", "says c\r"}};
-    for (const auto& c : cases) {
-      console.tvCmd.choose(c.node);
-      EXPECT_EQ(console.txtCmd.text(), c.command);
-      EXPECT_EQ(console.lblCmdHint.caption(), c.hint);
-      EXPECT_EQ(console.lblDescription.caption(), c.description);
+    const std::tuple<int, const char*, const char*, const char*> cases[] = {
+        {2, ":A", "hint a", "says a\r"},
+        {3, ":B", "", "only hint\r"},
+        // Behind the line without a node each shows the entry before its own.
+        {4, ":C", "", ""},
+        {5, "Second", "hint c", "says c\r"}};
+    for (const auto& [node, command, hint, description] : cases) {
+      console.tvCmd.choose(node);
+      EXPECT_EQ(console.txtCmd.text(), command);
+      EXPECT_EQ(console.lblCmdHint.caption(), hint);
+      EXPECT_EQ(console.lblDescription.caption(), description);
     }
   });
-  EXPECT_TRUE(bench.main.tmDSO.enabled());
+  EXPECT_TRUE(main.tmDSO.enabled());
 }
 
 TEST_F(ConsoleTest, FirstCharacterBelongsToNoLine) {
-  EXPECT_EQ(readCommandEntries("''c\r\n1,G,h,d\r\n").size(), 1u);
-  EXPECT_EQ(readCommandEntries("'1,G,h,d\r\n").size(), 1u);
-  EXPECT_EQ(readCommandEntries("x1,G,h,d\n").size(), 0u);
-  EXPECT_EQ(readCommandEntries("").size(), 0u);
-  EXPECT_EQ(readCommandEntries("\r\n").size(), 1u);
+  for (const char* list : {"''c\r\n1,G,h,d\r\n", "'1,G,h,d\r\n", "\r\n"})
+    EXPECT_EQ(readCommandEntries(list).size(), 1u) << list;
+  for (const char* list : {"x1,G,h,d\n", ""}) EXPECT_TRUE(readCommandEntries(list).empty());
 }
 
 TEST_F(ConsoleTest, HundredEntriesAreTheLimit) {
   std::string list = "'";
   for (int i = 0; i < 100; ++i) list += "1,:N" + std::to_string(i) + ",h,d\r\n";
   open(list, [this] { EXPECT_EQ(console.tvCmd.nodes().size(), 100u); });
-  EXPECT_TRUE(bench.logLines().empty());
+  EXPECT_TRUE(logLines().empty());
   console.tvCmd.nodes = {};
   open(list + "1,:X,h,d\r\n", [this] { EXPECT_EQ(console.tvCmd.nodes().size(), 100u); });
-  EXPECT_EQ(bench.logLines(), Lines{"Tracewell - cmdDSOcmd_Click : Subscript out of range"});
+  EXPECT_EQ(logLines(), Lines{"Tracewell - cmdDSOcmd_Click : Subscript out of range"});
 }
 
-TEST_F(ConsoleTest, MissingListIsLoggedAndTheConsoleOpens) {
-  std::filesystem::remove(bench.folder.path() / "dso.cmd");
-  bench.main.mnbDSOcmd.choose();
-  EXPECT_EQ(bench.windows.shown, Lines{"frmCmd"});
-  ASSERT_EQ(bench.logLines().size(), 1u);
-  EXPECT_NE(bench.logLines()[0].find("cmdDSOcmd_Click : File not found"), std::string::npos);
-}
-
-TEST_F(ConsoleTest, ShippedListIsReadWhole) {
-  bench.main.mnbDSOcmd.choose();
-  EXPECT_TRUE(bench.logLines().empty());
+TEST_F(ConsoleTest, ShippedListIsReadWholeAndAMissingOneLogged) {
+  main.mnbDSOcmd.choose();
+  EXPECT_TRUE(logLines().empty());
   EXPECT_GT(console.tvCmd.nodes().size(), 80u);
   for (const Tree::Node& node : console.tvCmd.nodes())
     EXPECT_EQ(node.text.starts_with(':'), node.parent != 0) << node.text;
+  console.unload();
+  std::filesystem::remove(folder.path() / "dso.cmd");
+  main.mnbDSOcmd.choose();
+  EXPECT_EQ(windows.shown, (Lines{"frmCmd", "frmCmd"}));
+  ASSERT_EQ(logLines().size(), 1u);
+  EXPECT_NE(logLines()[0].find("cmdDSOcmd_Click : File not found"), std::string::npos);
 }
 
 TEST_F(ConsoleTest, ParametersThatPassAndThatDoNot) {
@@ -111,23 +97,23 @@ TEST_F(ConsoleTest, ParametersThatPassAndThatDoNot) {
                {" 1", " 1", nullptr},
                {"", nullptr, ""}};
   for (const auto& c : cases) {
-    bench.port.wire.clear();
-    bench.dialogs.messages.clear();
+    port.wire.clear();
+    dialogs.messages.clear();
     console.txtCmd.type(c.command);
     console.txtCmd.pressKey(TextBox::enterKey);
     if (c.sent != nullptr) {
-      EXPECT_EQ(bench.port.wire, Lines{c.sent});
-      EXPECT_TRUE(bench.dialogs.messages.empty()) << c.command;
+      EXPECT_EQ(port.wire, Lines{c.sent});
+      EXPECT_TRUE(dialogs.messages.empty()) << c.command;
     } else {
-      EXPECT_TRUE(bench.port.wire.empty()) << c.command;
+      EXPECT_TRUE(port.wire.empty()) << c.command;
       EXPECT_EQ(console.txtCmd.text(), c.left);
-      EXPECT_EQ(bench.dialogs.messages.empty(), *c.command == 0) << c.command;
+      EXPECT_EQ(dialogs.messages.empty(), *c.command == 0) << c.command;
     }
   }
-  bench.port.answer("*IDN?", {"KRM-410\n"});
+  port.answer("*IDN?", {"KRM-410\n"});
   console.txtCmd.type("*IDN?");
   console.cmdRun.press();
-  EXPECT_EQ(bench.main.txtMsg.text(), "KRM-410");
+  EXPECT_EQ(main.txtMsg.text(), "KRM-410");
 }
 
 }  // namespace

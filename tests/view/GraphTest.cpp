@@ -1,31 +1,31 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <gtest/gtest.h>
-
 #include "Doubles.h"
 
 namespace tracewell {
 namespace {
 
-class GraphTest : public testing::Test {
+class GraphTest : public ProgramTest {
  protected:
-  GraphTest() { bench.program.start(); }
-  Bench bench;
-  Graph& graph = bench.main.graphDSO;
-  frmGraph& dialog = bench.program.graphStyle;
+  Graph& graph = main.graphDSO;
+  frmGraph& dialog = program.graphStyle;
 };
 
 TEST_F(GraphTest, ReadoutFollowsChannelScaleModeAndDrag) {
-  frmDSO& main = bench.main;
   const std::string& readout = graph.axis("XAxis").caption();
-  main.lblChan1.caption = "100.0 mV";
-  main.lblChan2.caption = "5.000 V";
-  main.lblTime.caption = "20.00 ns";
-  main.cmdCursor.press();
+  main.opTime.select();
+  EXPECT_EQ(dialogs.runTimeErrors, Lines{"13 Type mismatch"}) << "there is no scale yet";
+  main.knobTime.turn(9);
+  EXPECT_EQ(readout, "P1 = 0.00(msec),P2 = 2.00(msec)   Diff T = -2.00(msec)");
+  main.knobTime.turn(28);
+  EXPECT_EQ(readout, "P1 = 0.00(sec),P2 = 5.00(sec)   Diff T = -5.00(sec)");
+  main.knobTime.turn(3);
   EXPECT_EQ(readout, "P1 = 0.00(nsec),P2 = 20.00(nsec)   Diff T = -20.00(nsec)");
   graph.dragCursor(graph.cursor("cur1"), 400, 10);
   EXPECT_EQ(readout, "P1 = 100.00(nsec),P2 = 20.00(nsec)   Diff T = 80.00(nsec)");
+  main.knobChan1.turn(5);
   main.cmdCursor.press();
   EXPECT_EQ(readout, "P1 = -0.20(V)  ,  P2 = -0.30(V)        Diff V = 0.10(V)");
+  main.knobChan2.turn(10);
   main.cbCurChan.choose(1);
   EXPECT_EQ(readout, "P1 = -10.00(V)  ,  P2 = -15.00(V)        Diff V = 5.00(V)");
   main.cbCurChan.type("");
@@ -34,6 +34,8 @@ TEST_F(GraphTest, ReadoutFollowsChannelScaleModeAndDrag) {
   EXPECT_EQ(readout, "Time");
   graph.dragCursor(graph.cursor("cur1"), 0, 0);
   EXPECT_EQ(graph.cursor("cur1").yPosition(), -100);
+  EXPECT_EQ(takeWire(), (Lines{":TIM:SCAL 2E-6", ":TIM:SCAL 5", ":TIM:SCAL 2E-8",
+                               ":CHAN1:SCAL 1E-1", ":CHAN2:SCAL 5"}));
 }
 
 TEST_F(GraphTest, BoxesOfARowAreExclusiveAndThePreviewFollows) {
@@ -48,16 +50,16 @@ TEST_F(GraphTest, BoxesOfARowAreExclusiveAndThePreviewFollows) {
 }
 
 TEST_F(GraphTest, DotTravelsInThePointStyleAndReopensAsSolid) {
-  bench.dialogs.pickedColour = {1, 2, 3};
-  bench.windows.user["frmGraph"] = [&] {
+  dialogs.pickedColour = {1, 2, 3};
+  windows.user["frmGraph"] = [&] {
     dialog.opDot(0).toggle();
     dialog.cmdLine(5).press();
     dialog.cmdPlotArea.press();
     dialog.cmdPlotGrid.press();
     dialog.cmdOK.press();
   };
-  bench.main.cmdGraph.press();
-  const Colour picked = bench.dialogs.pickedColour;
+  main.cmdGraph.press();
+  const Colour picked = dialogs.pickedColour;
   EXPECT_EQ(graph.plot(1).lineStyle(), Plot::solidLine);
   EXPECT_EQ(graph.plot(1).pointStyle(), Plot::dotPoints);
   EXPECT_EQ(graph.plot(2).pointStyle(), Plot::noPoints);
@@ -67,19 +69,18 @@ TEST_F(GraphTest, DotTravelsInThePointStyleAndReopensAsSolid) {
   EXPECT_EQ(graph.axis("YAxis-1").gridColour(), picked);
   EXPECT_NE(graph.axis("YAxis-2").gridColour(), picked);
 
-  bench.dialogs.pickedColour = {9, 9, 9};
-  bench.windows.user["frmGraph"] = [&] {
+  dialogs.pickedColour = {9, 9, 9};
+  windows.user["frmGraph"] = [&] {
     EXPECT_TRUE(dialog.opSolid(0).isChecked());
     EXPECT_EQ(dialog.lblPlot(5).caption(), "Load4");
     dialog.cmdLine(0).press();
     dialog.cmdCancel.press();
   };
-  bench.main.mnbGraph.choose();
-  EXPECT_NE(graph.plot(1).lineColour(), bench.dialogs.pickedColour);
+  main.mnbGraph.choose();
+  EXPECT_NE(graph.plot(1).lineColour(), dialogs.pickedColour);
 }
 
 TEST_F(GraphTest, EnlargingHidesThePanelsAndRestoresThem) {
-  frmDSO& main = bench.main;
   graph.toggleEnlarged();
   EXPECT_FALSE(main.fmCh1.visible());
   EXPECT_TRUE(main.cmdSave.visible());

@@ -1,32 +1,22 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Measurements.h"
 
-#include <gtest/gtest.h>
-
 #include "Doubles.h"
 
 namespace tracewell {
 namespace {
 
-using Lines = std::vector<std::string>;
-
-class MeasurementsTest : public testing::Test {
+class MeasurementsTest : public ProgramTest {
  protected:
   MeasurementsTest() {
-    bench.program.start();
-    for (int row = 1; row <= 5; ++row)
-      for (int column = 2; column < 10; ++column) main.gridMeasure.setText(row, column, "0");
-    bench.windows.user["frmVMeasure"] = [this] { choice.cmdOK.press(); };
+    for (int number = 1; number <= 5; ++number) setRow(number, Lines(8, "0"));
+    windows.user["frmVMeasure"] = [this] { choice.cmdOK.press(); };
   }
   void flag(int row, int column) { main.gridMeasure.setText(row, column, "1"); }
-  Lines takeWire() { return std::exchange(port.wire, {}); }
   std::string label(int index) { return main.lblMeasure(index).caption(); }
 
-  Bench bench;
-  ScriptedPort& port = bench.port;
-  frmDSO& main = bench.main;
-  frmVMeasure& choice = bench.program.measurementChoice;
-  frmFMeasure& quickChoice = bench.program.quickMeasurementChoice;
+  frmVMeasure& choice = program.measurementChoice;
+  frmFMeasure& quickChoice = program.quickMeasurementChoice;
 };
 
 TEST_F(MeasurementsTest, FlaggedItemsOfBothChannelsInOrder) {
@@ -89,7 +79,7 @@ TEST_F(MeasurementsTest, NothingPickedAndCancelled) {
   EXPECT_EQ(takeWire(), (Lines{":MEAS:SOUR 1", ":MEAS:SOUR 2"}));
   EXPECT_EQ(label(0), "");
   main.lblMeasure(0).caption = "old";
-  bench.windows.user["frmVMeasure"] = [&] {
+  windows.user["frmVMeasure"] = [&] {
     choice.cbV(0).toggle();
     choice.cmdCancel.press();
   };
@@ -101,7 +91,7 @@ TEST_F(MeasurementsTest, NothingPickedAndCancelled) {
 }
 
 TEST_F(MeasurementsTest, SeventeenthResultTakesTheLastLabel) {
-  bench.windows.user["frmVMeasure"] = [&] {
+  windows.user["frmVMeasure"] = [&] {
     choice.cmdSelectAll.press();
     choice.cmdSelectAll2.press();
     choice.cmdClearAll.press();
@@ -121,7 +111,7 @@ TEST_F(MeasurementsTest, SeventeenthResultTakesTheLastLabel) {
 TEST_F(MeasurementsTest, QuickMeasurementReadsTheVoltageRowAndNeitherPadsNorRepeats) {
   port.answer(":MEAS:FREQ?", {"N/A\n"});
   port.answer(":MEAS:NWID?", {"500 us\n"});
-  bench.windows.user["frmFMeasure"] = [&] {
+  windows.user["frmFMeasure"] = [&] {
     quickChoice.cbChan.choose(1);
     quickChoice.cbF(0).toggle();
     quickChoice.cbF(5).toggle();
@@ -139,7 +129,7 @@ TEST_F(MeasurementsTest, QuickMeasurementReadsTheVoltageRowAndNeitherPadsNorRepe
   for (const int row : {1, 2}) EXPECT_EQ(main.gridMeasure.text(row, 7), "1") << row;
   main.cmdFMeasure.press();
   EXPECT_EQ(takeWire(), expected);
-  bench.windows.user["frmFMeasure"] = [&] {
+  windows.user["frmFMeasure"] = [&] {
     EXPECT_EQ(quickChoice.cbChan.text(), "2");
     EXPECT_TRUE(quickChoice.cbF(5).isChecked());
     quickChoice.cmdSelectAll.press();
@@ -155,7 +145,7 @@ TEST_F(MeasurementsTest, SecondMeasurementInsideTheFirstIsNotBegun) {
   flag(2, 3);
   port.answer(":MEAS:VPP?", {"1\n"});
   port.answer(":MEAS:VAMP?", {"2\n"});
-  bench.clock.callAfter(0, [&] {
+  clock.callAfter(0, [&] {
     main.cmdFMeasure.press();
     main.cmdVMeasure.press();
   });
@@ -165,19 +155,9 @@ TEST_F(MeasurementsTest, SecondMeasurementInsideTheFirstIsNotBegun) {
   main.BaudRate = 0;
   main.cmdVMeasure.press();
   main.cmdFMeasure.press();
-  EXPECT_EQ(bench.logLines(), (Lines{"Tracewell - cmdVMeasure_Click : Division by zero",
-                                     "Tracewell - cmdFMeasure_Click : Division by zero"}));
+  EXPECT_EQ(logLines(), (Lines{"Tracewell - cmdVMeasure_Click : Division by zero",
+                               "Tracewell - cmdFMeasure_Click : Division by zero"}));
   EXPECT_EQ(main.lblConnect.caption(), main.Msg[8]);
-}
-
-TEST_F(MeasurementsTest, ClosingTheWindowBetweenTwoItemsEndsTheProgram) {
-  flag(2, 2);
-  flag(2, 3);
-  port.answer(":MEAS:VPP?", {"1\n"});
-  bench.clock.callAfter(0, [&] { main.close(); });
-  main.cmdVMeasure.press();
-  EXPECT_EQ(takeWire(), (Lines{":MEAS:SOUR 1", ":MEAS:VPP?", ":SYST:UNL"}));
-  EXPECT_TRUE(bench.dialogs.runTimeErrors.empty());
 }
 
 }  // namespace
