@@ -2,10 +2,8 @@
 #pragma once
 
 #include <deque>
-#include <map>
 #include <memory>
 #include <string>
-#include <vector>
 
 #include "ByteChannel.h"
 #include "Error.h"
@@ -24,7 +22,6 @@ struct FarEnd {
   /// After so many bytes the line is gone.
   std::size_t hangUpAfter = std::string::npos;
   bool isAway = false;
-  std::vector<std::string> lines;
   int opened = 0;
 };
 
@@ -35,7 +32,6 @@ class PacedChannel : public ByteChannel {
   void write(std::string_view bytes) override {
     if (isGone()) throw Error(deviceError, "RS232", "gone");
     const std::string line(bytes.substr(0, bytes.size() - 2));
-    farEnd_.lines.push_back(line);
     double at = std::max(lineFreeAt_, static_cast<double>(clock_.milliseconds())) + farEnd_.thought;
     for (const char byte : farEnd_.answer(line)) {
       at += farEnd_.byteTime;

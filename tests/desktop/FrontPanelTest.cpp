@@ -6,7 +6,6 @@
 #include "Text.h"
 
 namespace tracewell {
-namespace {
 
 /// Mouse and keyboard on the same control must come to the same on the wire.
 class FrontPanelTest : public MainFormTest {
@@ -138,5 +137,4 @@ TEST_F(FrontPanelTest, TabGoesThroughTheWindowAsTheEyeReads) {
   }
 }
 
-}  // namespace
 }  // namespace tracewell

@@ -10,7 +10,6 @@
 #include "Text.h"
 
 namespace tracewell {
-namespace {
 
 /// Pictures of the real graph, and documents as an independent reader sees them.
 class PaperTest : public testing::Test {
@@ -86,5 +85,4 @@ TEST_F(PaperTest, PictureOfTheGraphTakesNotesWhereItIsClicked) {
   EXPECT_GT(changed, 50);
 }
 
-}  // namespace
 }  // namespace tracewell

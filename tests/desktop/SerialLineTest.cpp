@@ -10,7 +10,6 @@
 #include "Text.h"
 
 namespace tracewell {
-namespace {
 
 /// krm410-sim, and the serial library on its pseudo-terminal.
 class SerialLineTest : public testing::Test, public ChannelOpener {
@@ -47,27 +46,6 @@ TEST_F(SerialLineTest, AbandonedRecordsLeaveNothingBehind) {
   }
 }
 
-TEST_F(SerialLineTest, UnpluggedLineIsClosedOnceAndOpensAgain) {
-  startInstrument({});
-  port.prepare();
-  port.write("*IDN?\r\n");
-  EXPECT_EQ(port.read(), "KRM-410 SIMULATED\n");
-  port.textMode = false;
-  port.prepare();
-  port.write(":ACQ1:POIN\r\n");
-  port.beginRead(1014);
-  QTest::qWait(200);
-  stopInstrument();
-  QTest::qWait(200);
-  EXPECT_FALSE(port.isOpen());
-  EXPECT_THROW(port.prepare(), Error);
-  startInstrument({});
-  port.textMode = true;
-  port.prepare();
-  port.write("*IDN?\r\n");
-  EXPECT_EQ(port.read(), "KRM-410 SIMULATED\n");
-}
-
 TEST_F(SerialLineTest, SecondOpenerIsRefusedWithAReason) {
   startInstrument({});
   port.prepare();
@@ -81,5 +59,4 @@ TEST_F(SerialLineTest, SecondOpenerIsRefusedWithAReason) {
   }
 }
 
-}  // namespace
 }  // namespace tracewell

@@ -2,17 +2,17 @@
 #include "Doubles.h"
 
 namespace tracewell {
-namespace {
 
 /// Status report and printing.
 class ReportTest : public ProgramTest {
  protected:
-  void useTemplate(const std::string& text) {
+  /// A template, and a table that has these values and no others.
+  void use(const std::string& text, const Lines& values) {
     writeWholeFile(folder.path() / "default.sit", text);
     program.report.unload();
-  }
-  void setCounts(const std::string& count) {
-    for (int row = 0; row < 13; ++row) main.gridMeasure.setText(row, 1, count);
+    for (int number = 0; number < 13; ++number) main.gridMeasure.setText(number, 1, "0");
+    setRow(0, values);
+    main.gridMeasure.setText(0, 1, std::to_string(values.size()));
   }
 
   TextBox& text = program.report.txtSetup;
@@ -27,13 +27,7 @@ TEST_F(ReportTest, ShippedTemplateHasAPlaceForEveryValue) {
 }
 
 TEST_F(ReportTest, ValuesAccumulateAtEachShowing) {
-  setCounts("0");
-  useTemplate("[no] (RS) a [] b [old]");
-  main.mnbConf.choose();
-  EXPECT_EQ(text.text(), "[no] (RS) a [] b [old]");
-  main.gridMeasure.setText(0, 1, "2");
-  main.gridMeasure.setText(0, 2, "x]");
-  main.gridMeasure.setText(0, 3, "8");
+  use("[no] (RS) a [] b [old]", {"x]", "8"});
   main.mnbConf.choose();
   EXPECT_EQ(text.text(), "[no] (RS) a [x]] b [8old]");
   main.mnbConf.choose();
@@ -41,28 +35,18 @@ TEST_F(ReportTest, ValuesAccumulateAtEachShowing) {
 }
 
 TEST_F(ReportTest, TemplatesThatDoNotFit) {
-  const struct {
-    const char* what;
-    const char* text;
-    const char* values;  // of row 0, one character each
-    const char* shown;
-    bool fails;
-  } cases[] = {{"no marker", "a [] []", "12", "a [] []", true},
-               {"no bracket left", "(RS) [] ]", "12", "2(RS) [1] ]", false},
-               {"no bracket at all", "(RS)", "1", "1(RS)", false},
-               {"an empty value without a bracket", "(RS) []", "1 ", "(RS) []", true}};
-  for (const auto& c : cases) {
-    setCounts("0");
-    const std::string values = c.values;
-    main.gridMeasure.setText(0, 1, std::to_string(values.size()));
-    for (std::size_t i = 0; i < values.size(); ++i)
-      main.gridMeasure.setText(0, 2 + static_cast<int>(i),
-                               values[i] == ' ' ? "" : std::string(1, values[i]));
-    useTemplate(c.text);
+  const std::tuple<const char*, const char*, Lines, const char*, bool> cases[] = {
+      {"no value", "[no] (RS) []", {}, "[no] (RS) []", false},
+      {"no marker", "a [] []", {"1", "2"}, "a [] []", true},
+      {"no bracket left", "(RS) [] ]", {"1", "2"}, "2(RS) [1] ]", false},
+      {"no bracket at all", "(RS)", {"1"}, "1(RS)", false},
+      {"an empty value without a bracket", "(RS) []", {"1", ""}, "(RS) []", true}};
+  for (const auto& [what, pattern, values, shown, fails] : cases) {
+    use(pattern, values);
     dialogs.runTimeErrors.clear();
     main.mnbConf.choose();
-    EXPECT_EQ(text.text(), c.shown) << c.what;
-    EXPECT_EQ(!dialogs.runTimeErrors.empty(), c.fails) << c.what;
+    EXPECT_EQ(text.text(), shown) << what;
+    EXPECT_EQ(!dialogs.runTimeErrors.empty(), fails) << what;
   }
   std::filesystem::remove(folder.path() / "default.sit");
   program.report.unload();
@@ -113,16 +97,15 @@ TEST_F(ReportTest, PageShowsTheVisibleTracesWithTheirScales) {
 TEST_F(ReportTest, AboutBoxNeedsNoPicture) {
   frmAbout& about = program.about;
   windows.user["frmAbout"] = [&] { about.cmdOK.press(); };
-  main.mnbAbout.choose();
-  EXPECT_FALSE(about.pictureAbout.image().isEmpty());
-  EXPECT_EQ(about.lblVersion.caption(), "Tracewell " TRACEWELL_VERSION);
-  about.pictureAbout.image = Image();
-  about.unload();
-  std::filesystem::remove(folder.path() / "about.jpg");
-  main.mnbAbout.choose();
-  EXPECT_TRUE(about.pictureAbout.image().isEmpty());
+  for (const bool hasPicture : {true, false}) {
+    main.mnbAbout.choose();
+    EXPECT_EQ(about.pictureAbout.image().isEmpty(), !hasPicture);
+    EXPECT_EQ(about.lblVersion.caption(), "Tracewell " TRACEWELL_VERSION);
+    about.pictureAbout.image = Image();
+    about.unload();
+    std::filesystem::remove(folder.path() / "about.jpg");
+  }
   EXPECT_TRUE(dialogs.runTimeErrors.empty());
 }
 
-}  // namespace
 }  // namespace tracewell

@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "SetupFiles.h"
 
-#include <cstdlib>
 #include <fstream>
 
 #include "Doubles.h"
 #include "Files.h"
 
 namespace tracewell {
-namespace {
 
 namespace fs = std::filesystem;
 
@@ -36,21 +34,15 @@ TEST_F(SetupFilesTest, WhatIsWrittenComesBack) {
   EXPECT_TRUE(bytes.starts_with("RRow 0,0\r\nRow 1,1,100\r\n"));
   table = SetupTable();
   program.setupFiles.ReadSetupFile(file);
-  EXPECT_EQ(cell(0, 0), "Row 0");
-  EXPECT_EQ(cell(12, 13), "1211");
-  EXPECT_EQ(cell(5, 6), "504");
+  EXPECT_EQ((Lines{cell(0, 0), cell(12, 13), cell(5, 6)}), (Lines{"Row 0", "1211", "504"}));
 }
 
 TEST_F(SetupFilesTest, ReadingOfOddFiles) {
   read("RA,2,x\r\n B,1, y ,z\r\nno comma\r\ncut,1,q");
-  EXPECT_EQ(cell(0, 0), "A");
-  EXPECT_EQ(cell(0, 2), "x");
-  EXPECT_EQ(cell(0, 3), "8");  // Right of the last field nothing changes.
-  EXPECT_EQ(cell(1, 0), "B");
-  EXPECT_EQ(cell(1, 2), " y ");
-  EXPECT_EQ(cell(1, 3), "z");
-  EXPECT_EQ(cell(2, 0), "no comma");
-  EXPECT_EQ(cell(3, 0), "Channel 2 voltage");  // The last line has no end.
+  // Right of the last field nothing changes, and the last line has no end.
+  EXPECT_EQ((Lines{cell(0, 0), cell(0, 2), cell(0, 3)}), (Lines{"A", "x", "8"}));
+  EXPECT_EQ((Lines{cell(1, 0), cell(1, 2), cell(1, 3)}), (Lines{"B", " y ", "z"}));
+  EXPECT_EQ((Lines{cell(2, 0), cell(3, 0)}), (Lines{"no comma", "Channel 2 voltage"}));
 
   table = SetupTable();
   read("RA,1,x\nB,1,y\n");
@@ -63,9 +55,7 @@ TEST_F(SetupFilesTest, ReadingOfOddFiles) {
   std::string wide = "RA,1,x\r\nB,40";
   for (int i = 0; i < 40; ++i) wide += ",v";
   read(wide + "\r\nC,1,z\r\n");
-  EXPECT_EQ(cell(0, 0), "A");
-  EXPECT_EQ(cell(1, 5), "v");
-  EXPECT_EQ(cell(2, 0), "Channel 1 voltage");
+  EXPECT_EQ((Lines{cell(0, 0), cell(1, 5), cell(2, 0)}), (Lines{"A", "v", "Channel 1 voltage"}));
 
   std::string tall = "R";
   for (int i = 0; i < 100; ++i) tall += "row,0\r\n";
@@ -141,5 +131,4 @@ TEST(Files, FullDiskIsAnError) {
   EXPECT_FALSE(fs::exists(fs::symlink_status(link)));
 }
 
-}  // namespace
 }  // namespace tracewell

@@ -7,9 +7,9 @@
 #include "WaveformSetWriter.h"
 
 namespace tracewell {
-namespace {
 
 namespace fs = std::filesystem;
+
 /// Saving and loading waveforms, in a folder with a blank and other letters in its name.
 class WaveformTest : public ProgramTest {
  protected:
@@ -161,10 +161,8 @@ TEST_F(WaveformTest, NotesUndoEraseAndPrint) {
 /// A loaded trace lies where the saved one was: at its position, with fractions for channel 1.
 TEST_F(WaveformTest, SavedSetLiesOnTheTraceThatWasSaved) {
   main.cbCh2.toggle();
-  main.Ch1Pos = 1.33;
-  main.Ch2Pos = -2;
-  main.slideCH1.value = 1.33;
-  main.slideCH2.value = -2;
+  main.slideCH1.value = main.Ch1Pos = 1.33;
+  main.slideCH2.value = main.Ch2Pos = -2;
   port.tag = "1";
   port.deliver(main.Ch1Raw);
   port.tag = "2";
@@ -183,15 +181,16 @@ TEST_F(WaveformTest, SavedSetLiesOnTheTraceThatWasSaved) {
   EXPECT_TRUE(loadWindow.txtFile.text().find("Ch1 : 1.33\r\nCh2 : -2\r\nTime : 500.0 mV\r\n") !=
               std::string::npos);
   // Two more fill the rest, a third finds no room, and removing frees them all.
-  load({"both.csv"});
-  EXPECT_EQ(shownReferences(), 4);
-  load({"both.csv"});
+  for (int i = 0; i < 2; ++i) {
+    load({"both.csv"});
+    EXPECT_EQ(shownReferences(), 4);
+  }
   EXPECT_TRUE(dialogs.messages.empty());
-  port.wire.clear();
+  takeWire();
   main.cmdRemove.press();
   EXPECT_EQ(shownReferences(), 0);
   EXPECT_TRUE(main.graphDSO.plot(1).visible());
-  EXPECT_TRUE(port.wire.empty());
+  EXPECT_TRUE(takeWire().empty());
   loadWindow.cb1.value = 0;
   load({"both.csv"});
   EXPECT_TRUE(main.graphDSO.plot(3).visible());
@@ -202,12 +201,10 @@ TEST_F(WaveformTest, SavedSetLiesOnTheTraceThatWasSaved) {
 TEST_F(WaveformTest, SetsThatCannotBeShownLeaveTheOneBefore) {
   save("good.jpg");
   const std::string good = file("good.inf");
-  write("lonely.csv", "x\r\n");
-  write("gone.csv", "x\r\n");
-  write("gone.inf", "nowhere.jpg\r\n" + good.substr(good.find('\n') + 1));
-  write("kind.csv", "x\r\n");
-  write("kind.inf", "a.wmf\r\n" + good.substr(good.find('\n') + 1));
-  write("cut.csv", "x\r\n");
+  const std::string rest = good.substr(good.find('\n') + 1);
+  for (const char* name : {"lonely.csv", "gone.csv", "kind.csv", "cut.csv"}) write(name, "x\r\n");
+  write("gone.inf", "nowhere.jpg\r\n" + rest);
+  write("kind.inf", "a.wmf\r\n" + rest);
   write("cut.inf", good.substr(0, good.size() / 2));
   for (const char* bad : {"lonely.csv", "gone.csv", "kind.csv", "cut.csv"}) {
     dialogs.messages.clear();
@@ -248,14 +245,8 @@ TEST_F(WaveformTest, FoldersAndDrivesAreWalkedAndOneThatHasGoneIsLeft) {
 TEST_F(WaveformTest, DataFilesOfEveryKind) {
   std::string full = "Channel 1\r\n";
   for (int i = 0; i < 500; ++i) full += "1\r\n";
-  const struct {
-    const char* what;
-    std::string text;
-    const char* position1;
-    const char* position2;
-    int points1;  // -1 for an error
-    int points2;
-  } cases[] = {
+  // Each with its positions and the points of both channels, -1 for an error.
+  const std::tuple<const char*, std::string, const char*, const char*, int, int> cases[] = {
       {"500 lines", full, "0.5", "N", 500, 0},
       {"501 lines", full + "1\r\n", "0.5", "N", -1, 0},
       {"only channel 2", full, "N", "1", 0, 500},
@@ -270,13 +261,13 @@ TEST_F(WaveformTest, DataFilesOfEveryKind) {
       {"empty line", "h\r\n\r\n", "0", "N", -1, 0},
       {"nothing", "", "0", "N", 0, 0},
   };
-  for (const auto& c : cases) {
+  for (const auto& [what, text, position1, position2, points1, points2] : cases) {
     try {
-      const LoadedWaveforms loaded = readWaveforms(c.text, c.position1, c.position2);
-      EXPECT_EQ(std::ssize(loaded.channel1), c.points1) << c.what;
-      EXPECT_EQ(std::ssize(loaded.channel2), c.points2) << c.what;
+      const LoadedWaveforms loaded = readWaveforms(text, position1, position2);
+      EXPECT_EQ(std::ssize(loaded.channel1), points1) << what;
+      EXPECT_EQ(std::ssize(loaded.channel2), points2) << what;
     } catch (const Error&) {
-      EXPECT_EQ(c.points1, -1) << c.what;
+      EXPECT_EQ(points1, -1) << what;
     }
   }
   EXPECT_EQ(readWaveforms("h\r\n3\r\n", "0.33", "N").channel1[0], 19.5);
@@ -320,5 +311,4 @@ TEST_F(WaveformTest, TenThousandFilesAreListedInAnInstant) {
   EXPECT_LT(fastest, instant);
 }
 
-}  // namespace
 }  // namespace tracewell

@@ -3,7 +3,6 @@
 #include "WaveformRecord.h"
 
 namespace tracewell {
-namespace {
 
 using AcquisitionTest = ProgramTest;
 
@@ -117,5 +116,4 @@ TEST_F(AcquisitionTest, RunStopTellsTheInstrumentByItsCaption) {
   EXPECT_EQ(port.wire, (Lines{":Stop", ":Run", ":Stop"}));
 }
 
-}  // namespace
 }  // namespace tracewell

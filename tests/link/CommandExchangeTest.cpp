@@ -3,7 +3,6 @@
 #include "Files.h"
 
 namespace tracewell {
-namespace {
 
 class CommandExchangeTest : public ProgramTest {
  protected:
@@ -99,5 +98,4 @@ TEST_F(CommandExchangeTest, LogKeepsTheLinesOfEarlierRunsAndReachesTheDiskByClos
   EXPECT_EQ(readWholeFile(file), "");
 }
 
-}  // namespace
 }  // namespace tracewell

@@ -2,7 +2,6 @@
 #include "Doubles.h"
 
 namespace tracewell {
-namespace {
 
 class ConnectTest : public ProgramTest {
  protected:
@@ -132,5 +131,4 @@ TEST_F(ConnectTest, ClosingReleasesThePanelThenSavesThenUnloads) {
   EXPECT_EQ(port.wire.size(), 1u);
 }
 
-}  // namespace
 }  // namespace tracewell

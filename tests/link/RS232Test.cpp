@@ -2,22 +2,17 @@
 #include "Doubles.h"
 
 namespace tracewell {
-namespace {
 
 class RS232Test : public ProgramTest {
  protected:
   /// Opens the dialog, types the five settings and presses a button.
   void edit(const Lines& settings, Button& button) {
     windows.user["frmRS232"] = [&] {
-      for (int i = 0; i < 5; ++i) dialog.cbRS232(i).type(settings.at(static_cast<std::size_t>(i)));
+      int box = 0;
+      for (const std::string& setting : settings) dialog.cbRS232(box++).type(setting);
       button.press();
     };
     main.mnbRS232.choose();
-  }
-  std::string row() {
-    std::string text;
-    for (int column = 2; column < 7; ++column) text += main.gridMeasure.text(0, column) + ",";
-    return text;
   }
 
   frmRS232& dialog = program.rs232;
@@ -34,7 +29,7 @@ TEST_F(RS232Test, AppliesInThePortsOwnCodes) {
     EXPECT_EQ(settings, expected) << typed[0];
     EXPECT_EQ(main.BaudRate, expected.baudRate);
   }
-  EXPECT_EQ(row(), "300,9,1.5,Even,-1,");
+  EXPECT_EQ(row(0), (Lines{"300", "9", "1.5", "Even", "-1"}));
 }
 
 TEST_F(RS232Test, OpensWithTheTableAndNamesTheDevice) {
@@ -56,7 +51,7 @@ TEST_F(RS232Test, OpensWithTheTableAndNamesTheDevice) {
 
 TEST_F(RS232Test, WrongTextEndsTheHandlerAndCancelAppliesNothing) {
   const LineSettings before = settings;
-  const std::string rowBefore = row();
+  const Lines rowBefore = row(0);
   edit({"4800", "7", "2", "Odd", "1"}, dialog.cmdCancel);
   EXPECT_EQ(settings, before);
   edit({"38400", "7", "2", "Odd", "1"}, dialog.cmdOK);
@@ -66,10 +61,9 @@ TEST_F(RS232Test, WrongTextEndsTheHandlerAndCancelAppliesNothing) {
   edit({"4800", "7", "2", "Odd", "tty"}, dialog.cmdOK);
   EXPECT_EQ(main.BaudRate, 4800);
   EXPECT_EQ(settings.dataBits, before.dataBits);
-  EXPECT_EQ(row(), rowBefore);
+  EXPECT_EQ(row(0), rowBefore);
   EXPECT_TRUE(dialog.isVisible());
   EXPECT_EQ(dialogs.runTimeErrors, (Lines{"6 Overflow", "13 Type mismatch", "13 Type mismatch"}));
 }
 
-}  // namespace
 }  // namespace tracewell

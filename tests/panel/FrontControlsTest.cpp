@@ -3,7 +3,6 @@
 #include "ScaleTables.h"
 
 namespace tracewell {
-namespace {
 
 /// Knobs, slides, pickers and boxes of the front panel.
 class FrontControlsTest : public ProgramTest {
@@ -16,21 +15,12 @@ class FrontControlsTest : public ProgramTest {
   }
 };
 
-TEST(Scales, StepsBecomeCommandsAndRepliesBecomeSteps) {
-  const std::tuple<ScaleKnob, double, const char*, const char*> cases[] = {
-      {ScaleKnob::Chan1, 5, ":CHAN1:SCAL 1E-1", "100.0 mV"},
-      {ScaleKnob::Chan2, 9.5, ":CHAN2:SCAL 5", "5.000 V"},
-      {ScaleKnob::Time, 17, ":TIM:SCAL 1E-3", "1.000 ms"},
-      {ScaleKnob::Time, 28, ":TIM:SCAL 5", nullptr},
-      {ScaleKnob::Time, 27, ":TIM:SCAL 2", "2.000 s"}};
-  for (const auto& [knob, position, command, reply] : cases) {
-    EXPECT_EQ(ScaleCommandForKnob(knob, position), command);
-    if (reply == nullptr) continue;
-    EXPECT_EQ(scaleCaptionForKnob(knob, position), reply);
-    EXPECT_NEAR(ScaleStepForReply(knob, reply).value(), position, 0.5);
-  }
+TEST(Scales, EndsOfTheTables) {
+  EXPECT_EQ(ScaleCommandForKnob(ScaleKnob::Chan2, 9.5), ":CHAN2:SCAL 5");
+  EXPECT_EQ(ScaleCommandForKnob(ScaleKnob::Time, 28), ":TIM:SCAL 5");
   EXPECT_THROW(ScaleCommandForKnob(ScaleKnob::Chan1, 11), Error);
   EXPECT_THROW(ScaleCommandForKnob(ScaleKnob::Time, -1), Error);
+  EXPECT_EQ(ScaleStepForReply(ScaleKnob::Time, "2.000 s"), 27);
   EXPECT_EQ(ScaleStepForReply(ScaleKnob::Time, "5.000 s"), std::nullopt);
   EXPECT_EQ(ScaleStepForReply(ScaleKnob::Chan1, "100.0 MV"), std::nullopt);
 }
@@ -176,5 +166,4 @@ TEST_F(FrontControlsTest, MathCommandsHaveNoColonAndLeaveTheAcquisitionRunning) 
   EXPECT_TRUE(main.tmDSO.enabled());
 }
 
-}  // namespace
 }  // namespace tracewell

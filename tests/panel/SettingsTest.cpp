@@ -2,7 +2,6 @@
 #include "Doubles.h"
 
 namespace tracewell {
-namespace {
 
 /// The dialogs that write settings to the instrument, and autoset.
 class SettingsTest : public ProgramTest {
@@ -244,5 +243,4 @@ TEST_F(SettingsTest, TickCountThatWrapsDuringAWaitIsLogged) {
   EXPECT_FALSE(program.message.isVisible());
 }
 
-}  // namespace
 }  // namespace tracewell

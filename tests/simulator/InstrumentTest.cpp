@@ -11,19 +11,20 @@
 #include "ScaleTables.h"
 
 namespace tracewell {
-namespace {
 
 class InstrumentTest : public testing::Test {
  protected:
-  void send(const std::string& line) { instrument.receive(line + "\r\n", now += 5000); }
+  void send(const std::vector<std::string>& lines) {
+    for (const std::string& line : lines) instrument.receive(line + "\r\n", now += 5000);
+  }
   std::string ask(const std::string& query) {
-    send(query);
+    send({query});
     const std::string reply = instrument.transmit(now + 4000);
     return reply.substr(0, reply.find('\n'));
   }
   /// Samples of a record, in units.
   std::vector<int> record(int channel) {
-    send(":ACQ" + std::to_string(channel) + ":POIN");
+    send({":ACQ" + std::to_string(channel) + ":POIN"});
     bytes = instrument.transmit(now + 4000);
     std::vector<int> samples;
     for (std::size_t i = 14; i + 1 < bytes.size(); i += 2) {
@@ -65,7 +66,7 @@ TEST_F(InstrumentTest, KeepsWhatIsSetAndRefusesWhatIsNone) {
       {":NOTHING 1", ":NOTHING?", ""},
       {"", "SYST:ERR?", "6"}};
   for (const auto& [command, query, reply] : cases) {
-    send(command);
+    send({command});
     EXPECT_EQ(ask(query), reply) << command;
   }
 }
@@ -73,11 +74,11 @@ TEST_F(InstrumentTest, KeepsWhatIsSetAndRefusesWhatIsNone) {
 /// Every scale of the panel is one that the instrument takes and gives back in the panel's words.
 TEST_F(InstrumentTest, SpeaksThePanelsScales) {
   for (std::size_t i = 0; i < voltDivSteps; ++i) {
-    send(ScaleCommandForKnob(ScaleKnob::Chan1, static_cast<double>(i)));
+    send({ScaleCommandForKnob(ScaleKnob::Chan1, static_cast<double>(i))});
     EXPECT_EQ(ask(":CHAN1:SCAL?"), VoltDivText[i]);
   }
   for (std::size_t i = 0; i < timeDivSteps; ++i) {
-    send(ScaleCommandForKnob(ScaleKnob::Time, static_cast<double>(i)));
+    send({ScaleCommandForKnob(ScaleKnob::Time, static_cast<double>(i))});
     EXPECT_EQ(ask(":TIM:SCAL?"), TimeDivText[i]);
   }
 }
@@ -99,20 +100,18 @@ TEST_F(InstrumentTest, TraceFollowsTheSettings) {
       {":TIM:DEL 2.5E-4", ":TIM:DEL 0", 20, 200, 120}};
   for (const auto& [command, undo, average, height, start] : cases) {
     SCOPED_TRACE(command);
-    send(command);
+    send({command});
     const std::vector<int> samples = record(1);
-    send(undo);
+    send({undo});
     EXPECT_NEAR(mean(samples), average, 12);
     EXPECT_NEAR(peakToPeak(samples), height, 14);
     EXPECT_NEAR(samples[250], start, 12);
   }
-  send(":CHAN1:MATH 1");
+  send({":CHAN1:MATH 1"});
   EXPECT_NEAR(mean(record(1)), 50, 12);
-  send(":CHAN2:MATH 2");
+  send({":CHAN2:MATH 2"});
   EXPECT_NEAR(mean(record(2)), 5, 3);
-  send(":CHAN1:SCAL 5");
-  send(":CHAN1:PROB 1");
-  send(":TRIG:SLOP 1");
+  send({":CHAN1:SCAL 5", ":CHAN1:PROB 1", ":TRIG:SLOP 1"});
   const std::vector<int> falling = record(1);
   EXPECT_NEAR(peakToPeak(falling), 200, 14);
   EXPECT_LT(falling[260], falling[240]);
@@ -123,7 +122,7 @@ TEST_F(InstrumentTest, MeasurementsAreThoseOfTheTrace) {
     return ParseScaleCaption(ask(":MEAS:" + item + "?"));
   };
   for (const int channel : {1, 2}) {
-    send(":MEAS:SOUR " + std::to_string(channel));
+    send({":MEAS:SOUR " + std::to_string(channel)});
     const double period = channel * 1e-3;
     const std::string frequency = ask(":MEAS:FREQ?");
     const double factor = frequency.ends_with("kHz") ? 1000 : 1;
@@ -132,18 +131,17 @@ TEST_F(InstrumentTest, MeasurementsAreThoseOfTheTrace) {
     EXPECT_NEAR(value("PWID"), period / 2, 4e-5);
     EXPECT_NEAR(value("NWID"), period / 2, 4e-5);
     EXPECT_NEAR(leadingNumber(ask(":MEAS:PDUT?")), 50, 3);
-    send(":Stop");
+    send({":Stop"});
     const std::vector<int> samples = record(channel);
     const double voltsPerUnit = (channel == 1 ? 0.5 : 1) / 50;
     EXPECT_NEAR(value("VPP"), peakToPeak(samples) * voltsPerUnit, voltsPerUnit);
     EXPECT_NEAR(value("VAV"), mean(samples) * voltsPerUnit, voltsPerUnit);
-    send(":Run");
+    send({":Run"});
   }
   // The edges of the square wave.
   EXPECT_LE(value("RIS"), 5e-5);
   EXPECT_LE(value("FALL"), 5e-5);
-  send(":CHAN2:SCAL 5");
-  send(":CHAN2:COUP 2");
+  send({":CHAN2:SCAL 5", ":CHAN2:COUP 2"});
   for (const char* item : {"FREQ", "PER", "RIS", "FALL", "PWID", "NWID", "PDUT"})
     EXPECT_EQ(ask(":MEAS:" + std::string(item) + "?"), "N/A") << item;
   EXPECT_EQ(ask(":MEAS:NONE?"), "");
@@ -151,28 +149,25 @@ TEST_F(InstrumentTest, MeasurementsAreThoseOfTheTrace) {
 
 TEST_F(InstrumentTest, TriggerModesAndSources) {
   EXPECT_NE(record(1), record(1));
-  send(":Stop");
+  send({":Stop"});
   EXPECT_EQ(record(1), record(1));
-  send(":Run");
+  send({":Run"});
   // A level that the signal never reaches: normal waits, automatic level finds.
   const auto held = record(1);
-  send(":TRIG:MOD 2");
-  send(":TRIG:LEV 30");
+  send({":TRIG:MOD 2", ":TRIG:LEV 30"});
   EXPECT_EQ(record(1), held);
-  send(":TRIG:MOD 0");
+  send({":TRIG:MOD 0"});
   EXPECT_NE(record(1), held);
   EXPECT_NEAR(std::stod(ask(":TRIG:LEV?")), 200, 50);
-  send(":TRIG:MOD 3");
+  send({":TRIG:MOD 3"});
   const auto single = record(1);
   EXPECT_EQ(record(1), single);
-  send(":RUN");
-  send(":ACQ:MOD 1");
-  send(":ACQ:AVER 6");
+  send({":RUN", ":ACQ:MOD 1", ":ACQ:AVER 6"});
   EXPECT_LT(peakToPeak(record(1)), peakToPeak(single) + 1);
 }
 
 TEST_F(InstrumentTest, AutosetKeepsRepliesWaiting) {
-  send(":AUT");
+  send({":AUT"});
   instrument.receive(":CHAN1:SCAL?\r\n", now + 10);
   EXPECT_EQ(instrument.transmit(now + 900), "");
   EXPECT_EQ(instrument.transmit(now + 1100), "1.000 V\n");
@@ -190,20 +185,17 @@ TEST_F(InstrumentTest, FaultsComeAndGo) {
       {"OFF", healthy, 1014}};
   for (const auto& [fault, reply, recordBytes] : cases) {
     instrument.plugIn();
-    send(":SIM:OFF");
-    send(":SIM:" + std::string(fault));
+    send({":SIM:OFF", ":SIM:" + std::string(fault)});
     EXPECT_EQ(ask("*IDN?"), reply) << fault;
     record(1);
     EXPECT_NEAR(static_cast<double>(bytes.size()), static_cast<double>(recordBytes), 1) << fault;
     EXPECT_EQ(instrument.hasHungUp(), recordBytes == 100);
   }
-  send(":SIM:SLOW 500");
-  instrument.receive("*IDN?\r\n", now += 5000);
+  send({":SIM:SLOW 500", "*IDN?"});
   EXPECT_EQ(instrument.transmit(now + 400), "");
   EXPECT_EQ(instrument.transmit(now + 600), healthy + "\n");
-  send(":SIM:GARBAGE 1");
+  send({":SIM:GARBAGE 1"});
   EXPECT_NE(ask("*IDN?"), healthy);
 }
 
-}  // namespace
 }  // namespace tracewell

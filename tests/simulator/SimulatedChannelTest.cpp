@@ -5,7 +5,6 @@
 #include "Doubles.h"
 
 namespace tracewell {
-namespace {
 
 class InProcessOpener : public ChannelOpener {
  public:
@@ -88,5 +87,4 @@ TEST_F(BuiltInInstrument, KnobSpunDuringAcquisitionDelaysAndSpoilsNothing) {
   EXPECT_EQ(main.txtMsg.text(), "5.000 s");
 }
 
-}  // namespace
 }  // namespace tracewell

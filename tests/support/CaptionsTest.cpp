@@ -8,7 +8,6 @@
 #include "Messages.h"
 
 namespace tracewell {
-namespace {
 
 class CaptionsTest : public testing::Test, protected Bench {
  protected:
@@ -184,5 +183,4 @@ TEST_F(CaptionsTest, UnknownLanguageNumberReadsTheFilesWithoutACode) {
   EXPECT_EQ(languageFile(main, ".msg").filename(), "dso_la5.msg");
 }
 
-}  // namespace
 }  // namespace tracewell

@@ -3,7 +3,6 @@
 #include "Doubles.h"
 
 namespace tracewell {
-namespace {
 
 class ConsoleTest : public ProgramTest {
  protected:
@@ -116,5 +115,4 @@ TEST_F(ConsoleTest, ParametersThatPassAndThatDoNot) {
   EXPECT_EQ(main.txtMsg.text(), "KRM-410");
 }
 
-}  // namespace
 }  // namespace tracewell

@@ -2,7 +2,6 @@
 #include "Doubles.h"
 
 namespace tracewell {
-namespace {
 
 class GraphTest : public ProgramTest {
  protected:
@@ -88,5 +87,4 @@ TEST_F(GraphTest, EnlargingHidesThePanelsAndRestoresThem) {
   EXPECT_TRUE(main.fmCh1.visible());
 }
 
-}  // namespace
 }  // namespace tracewell

@@ -4,7 +4,6 @@
 #include "Doubles.h"
 
 namespace tracewell {
-namespace {
 
 class MeasurementsTest : public ProgramTest {
  protected:
@@ -13,7 +12,12 @@ class MeasurementsTest : public ProgramTest {
     windows.user["frmVMeasure"] = [this] { choice.cmdOK.press(); };
   }
   void flag(int row, int column) { main.gridMeasure.setText(row, column, "1"); }
-  std::string label(int index) { return main.lblMeasure(index).caption(); }
+  /// The first labels.
+  Lines labels(int count) {
+    Lines captions;
+    for (int i = 0; i < count; ++i) captions.push_back(main.lblMeasure(i).caption());
+    return captions;
+  }
 
   frmVMeasure& choice = program.measurementChoice;
   frmFMeasure& quickChoice = program.quickMeasurementChoice;
@@ -33,12 +37,9 @@ TEST_F(MeasurementsTest, FlaggedItemsOfBothChannelsInOrder) {
   main.cmdVMeasure.press();
   EXPECT_EQ(takeWire(), (Lines{":MEAS:SOUR 1", ":MEAS:VPP?", ":MEAS:PDUT?", ":MEAS:SOUR 2",
                                ":MEAS:VMIN?", ":MEAS:FREQ?"}));
-  EXPECT_EQ(label(0), "Vpp(1)    : 2.04 V");
-  EXPECT_EQ(label(1), "Duty Cycle(1): 50.1 %");
-  EXPECT_EQ(label(2), "Vmin(2)   : -1.0");
-  EXPECT_EQ(label(3), "Freq(2)   : 1.000 kHz");
-  EXPECT_EQ(label(4), "");
-  EXPECT_EQ(label(15), "");
+  EXPECT_EQ(labels(5), (Lines{"Vpp(1)    : 2.04 V", "Duty Cycle(1): 50.1 %", "Vmin(2)   : -1.0",
+                              "Freq(2)   : 1.000 kHz", ""}));
+  EXPECT_EQ(labels(16).back(), "");
   EXPECT_EQ(port.timeOuts, std::vector<int>(4, 300));
   EXPECT_EQ(port.readTimeOut, 600);
   EXPECT_FALSE(main.tmDSO.enabled());
@@ -47,8 +48,7 @@ TEST_F(MeasurementsTest, FlaggedItemsOfBothChannelsInOrder) {
 }
 
 TEST_F(MeasurementsTest, ValueThatIsNotThereIsAskedForThreeTimesMore) {
-  flag(3, 2);
-  flag(3, 3);
+  setRow(3, {"1", "1"});
   port.answer(":MEAS:VPP?", {"N/A\n", "N/A\n", "1 V\n"});
   port.answer(":MEAS:VAMP?", {"N/A\n"});
   port.answer("*IDN?", {"KRM-410\n"});
@@ -60,34 +60,31 @@ TEST_F(MeasurementsTest, ValueThatIsNotThereIsAskedForThreeTimesMore) {
   for (int i = 0; i < 3; ++i)
     expected.insert(expected.end(), {":MEAS:SOUR 2", "*IDN?", ":MEAS:VAMP?"});
   EXPECT_EQ(takeWire(), expected);
-  EXPECT_EQ(label(0), "Vpp(2)    : 1 V");
-  EXPECT_EQ(label(1), "Vamp(2)   : N/A");
+  EXPECT_EQ(labels(2), (Lines{"Vpp(2)    : 1 V", "Vamp(2)   : N/A"}));
   // Silence is asked again without the detour.
   flag(2, 2);
-  main.gridMeasure.setText(3, 2, "0");
-  main.gridMeasure.setText(3, 3, "0");
+  setRow(3, {"0", "0"});
   port.replies.clear();
   main.cmdVMeasure.press();
   EXPECT_EQ(takeWire(), (Lines{":MEAS:SOUR 1", ":MEAS:VPP?", ":MEAS:VPP?", ":MEAS:VPP?",
                                ":MEAS:VPP?", ":MEAS:SOUR 2"}));
-  EXPECT_EQ(label(0), "Vpp(1)    : ");
+  EXPECT_EQ(labels(1), Lines{"Vpp(1)    : "});
 }
 
-TEST_F(MeasurementsTest, NothingPickedAndCancelled) {
-  main.lblMeasure(0).caption = "old";
-  main.cmdVMeasure.press();
-  EXPECT_EQ(takeWire(), (Lines{":MEAS:SOUR 1", ":MEAS:SOUR 2"}));
-  EXPECT_EQ(label(0), "");
-  main.lblMeasure(0).caption = "old";
-  windows.user["frmVMeasure"] = [&] {
-    choice.cbV(0).toggle();
-    choice.cmdCancel.press();
-  };
-  main.cmdVMeasure.press();
-  EXPECT_TRUE(takeWire().empty());
-  EXPECT_EQ(label(0), "old");
-  EXPECT_EQ(main.gridMeasure.text(2, 2), "0");
-  EXPECT_FALSE(main.tmDSO.enabled());
+TEST_F(MeasurementsTest, NothingPickedClearsTheLabelsAndCancelKeepsThem) {
+  for (Button* end : {&choice.cmdOK, &choice.cmdCancel}) {
+    const bool isCancel = end == &choice.cmdCancel;
+    main.lblMeasure(0).caption = "old";
+    windows.user["frmVMeasure"] = [&] {
+      choice.cbV(0).value = isCancel ? 1 : 0;
+      end->press();
+    };
+    main.cmdVMeasure.press();
+    EXPECT_EQ(takeWire(), isCancel ? Lines() : (Lines{":MEAS:SOUR 1", ":MEAS:SOUR 2"}));
+    EXPECT_EQ(labels(1), Lines{isCancel ? "old" : ""});
+    EXPECT_EQ(cell(2, 2), "0");
+    EXPECT_FALSE(main.tmDSO.enabled());
+  }
 }
 
 TEST_F(MeasurementsTest, SeventeenthResultTakesTheLastLabel) {
@@ -104,8 +101,8 @@ TEST_F(MeasurementsTest, SeventeenthResultTakesTheLastLabel) {
   for (const auto query : FreqMeasQuery) port.answer(std::string(query), {"t\n"});
   main.cmdVMeasure.press();
   EXPECT_EQ(takeWire().size(), 2u + 17u);
-  EXPECT_EQ(label(14), "Duty Cycle(1): t");
-  EXPECT_EQ(label(15), "Vamp(2)   : v");
+  EXPECT_EQ(labels(15).back(), "Duty Cycle(1): t");
+  EXPECT_EQ(labels(16).back(), "Vamp(2)   : v");
 }
 
 TEST_F(MeasurementsTest, QuickMeasurementReadsTheVoltageRowAndNeitherPadsNorRepeats) {
@@ -121,12 +118,11 @@ TEST_F(MeasurementsTest, QuickMeasurementReadsTheVoltageRowAndNeitherPadsNorRepe
   main.mnbFrequency.choose();
   const Lines expected = {":MEAS:SOUR 2", ":MEAS:FREQ?", ":MEAS:NWID?"};
   EXPECT_EQ(takeWire(), expected);
-  EXPECT_EQ(label(0), "FreqN/A");
-  EXPECT_EQ(label(1), "-Width500 us");
+  EXPECT_EQ(labels(2), (Lines{"FreqN/A", "-Width500 us"}));
   EXPECT_EQ(port.timeOuts, (std::vector<int>{150, 150}));
   EXPECT_EQ(port.readTimeOut, 600);
   EXPECT_TRUE(main.tmDSO.enabled());
-  for (const int row : {1, 2}) EXPECT_EQ(main.gridMeasure.text(row, 7), "1") << row;
+  for (const int row : {1, 2}) EXPECT_EQ(cell(row, 7), "1") << row;
   main.cmdFMeasure.press();
   EXPECT_EQ(takeWire(), expected);
   windows.user["frmFMeasure"] = [&] {
@@ -137,12 +133,11 @@ TEST_F(MeasurementsTest, QuickMeasurementReadsTheVoltageRowAndNeitherPadsNorRepe
   };
   main.mnbFrequency.choose();
   EXPECT_TRUE(takeWire().empty());
-  EXPECT_EQ(main.gridMeasure.text(2, 3), "0");
+  EXPECT_EQ(cell(2, 3), "0");
 }
 
 TEST_F(MeasurementsTest, SecondMeasurementInsideTheFirstIsNotBegun) {
-  flag(2, 2);
-  flag(2, 3);
+  setRow(2, {"1", "1"});
   port.answer(":MEAS:VPP?", {"1\n"});
   port.answer(":MEAS:VAMP?", {"2\n"});
   clock.callAfter(0, [&] {
@@ -151,7 +146,7 @@ TEST_F(MeasurementsTest, SecondMeasurementInsideTheFirstIsNotBegun) {
   });
   main.cmdVMeasure.press();
   EXPECT_EQ(takeWire(), (Lines{":MEAS:SOUR 1", ":MEAS:VPP?", ":MEAS:VAMP?", ":MEAS:SOUR 2"}));
-  EXPECT_EQ(label(1), "Vamp(1)   : 2");
+  EXPECT_EQ(labels(2).back(), "Vamp(1)   : 2");
   main.BaudRate = 0;
   main.cmdVMeasure.press();
   main.cmdFMeasure.press();
@@ -160,5 +155,4 @@ TEST_F(MeasurementsTest, SecondMeasurementInsideTheFirstIsNotBegun) {
   EXPECT_EQ(main.lblConnect.caption(), main.Msg[8]);
 }
 
-}  // namespace
 }  // namespace tracewell
