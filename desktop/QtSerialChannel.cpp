@@ -73,7 +73,8 @@ void QtSerialChannel::write(std::string_view bytes) {
 
 std::string QtSerialChannel::read(int timeOut) {
   QByteArray bytes = port_.isOpen() ? port_.readAll() : QByteArray();
-  if (bytes.isEmpty() && failure_.isNull() && timeOut > 0 && port_.waitForReadyRead(timeOut))
+  // Also with a time-out of zero: without events nobody else has fetched what the system holds.
+  if (bytes.isEmpty() && failure_.isNull() && port_.waitForReadyRead(timeOut))
     bytes = port_.readAll();
   if (bytes.isEmpty() && !failure_.isNull()) raiseFailure();
   return bytes.toStdString();

@@ -15,7 +15,7 @@ void showPort(frmDSO& main, std::int16_t portNumber) {
 }
 
 void markTrace(frmDSO& main) {
-  const bool isSimulated = main.services().port.settings.portNumber == simulatedPort;
+  const bool isSimulated = main.services().port.openPort() == simulatedPort;
   main.graphDSO.note = isSimulated ? "SIMULATED" : "";
 }
 

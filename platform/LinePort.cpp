@@ -23,17 +23,23 @@ void LinePort::prepare() {
     abandonTransfer();
     std::string stale = take(0);
     swallowOwed(stale);
-  } else if (!isLineBusy()) {
-    current_.reset();
-    held_.reset();
+    return;
   }
+  // Events may not have run for a while: a record may be on its way although the line seems quiet.
+  std::string waiting = take(0);
+  swallowOwed(waiting);
+  gather(waiting);
+  mustHold_ = isLineBusy();
+  if (mustHold_) return;
+  current_.reset();
+  held_.reset();
 }
 
 void LinePort::write(std::string_view bytes) {
   if (textMode) {
     if (bytes.ends_with("?\r\n")) awaitQuietLine();
     send(bytes);
-  } else if (!isLineBusy()) {
+  } else if (!mustHold_) {
     request({.request = std::string(bytes), .tag = {}, .received = {}});
   } else if (!held_) {
     held_ = Record{.request = std::string(bytes), .tag = {}, .received = {}};
@@ -176,7 +182,8 @@ void LinePort::arrived() {
     return;  // Closed now. Whoever uses the port next opens it again or is told the reason.
   }
   swallowOwed(bytes);
-  collect(bytes);
+  gather(bytes);
+  deliverWhole();
   requestHeld();
 }
 
@@ -189,12 +196,14 @@ void LinePort::requestHeld() {
   }
 }
 
-void LinePort::collect(const std::string& bytes) {
+void LinePort::gather(const std::string& bytes) {
   if (bytes.empty() || !current_) return;
   quietAt_ = clock_.milliseconds() + quietGap;
   current_->received += bytes;
-  if (current_->received.size() < current_->count) return;
+}
 
+void LinePort::deliverWhole() {
+  if (!current_ || current_->count == 0 || current_->received.size() < current_->count) return;
   Record record = *std::exchange(current_, std::nullopt);
   const std::size_t missed = unanswered_ > 0 ? unanswered_ - 1 : 0;
   unanswered_ = 0;

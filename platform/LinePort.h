@@ -37,8 +37,7 @@ class LinePort : public SerialPort {
   std::string read() override;
   void beginRead(int count) override;
   void reset() override;
-
-  bool isOpen() const { return channel_ != nullptr; }
+  std::int16_t openPort() const override { return openSettings_.portNumber; }
 
  private:
   struct Record {
@@ -60,7 +59,8 @@ class LinePort : public SerialPort {
   void swallowOwed(std::string& bytes);
   void arrived();
   void requestHeld();
-  void collect(const std::string& bytes);
+  void gather(const std::string& bytes);
+  void deliverWhole();
   void deliver(Record record);
   std::string replyLine(std::string received) const;
 
@@ -73,6 +73,8 @@ class LinePort : public SerialPort {
   /// The record that comes next, and the one whose request waits for its end.
   std::optional<Record> current_;
   std::optional<Record> held_;
+  /// What prepare has found: whether the next request has to wait.
+  bool mustHold_ = false;
   /// Requests written for which no record has come: more than one if the instrument missed some or
   /// has been slow.
   std::size_t unanswered_ = 0;

@@ -30,9 +30,14 @@ class SerialPort {
   /// Free for the program. beginRead keeps it, and it is put back before that record's dataReady.
   std::string tag;
 
-  /// Makes the line ready for a transfer: opens it if need be, and ends a transfer still under way.
-  /// Raises deviceError if the line cannot be opened.
+  /// Makes the line ready for a transfer and opens it if need be. In text mode it ends a record
+  /// still under way; in binary mode that goes on, and the next request waits for its end. Raises
+  /// deviceError if the line cannot be opened.
   virtual void prepare() = 0;
+
+  /// The number of the port that was opened last: records come from there, whatever `settings` say
+  /// about the next one.
+  virtual std::int16_t openPort() const = 0;
 
   /// Sends the bytes of a command. A query (a line that ends in "?") is held back while bytes that
   /// an earlier transfer has asked for may still arrive, since its reply could not be told from

@@ -108,6 +108,9 @@ class ScriptedPort : public SerialPort, public PortList {
   void deliver(const std::string& record) { dataReady.raise(record); }
 
   void prepare() override;
+  std::int16_t openPort() const override {
+    return prepared.empty() ? 0 : prepared.back().portNumber;
+  }
   void write(std::string_view bytes) override;
   std::string read() override;
   void beginRead(int count) override { recordLength = count; }

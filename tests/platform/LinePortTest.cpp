@@ -88,6 +88,18 @@ TEST_F(LinePortTest, CutRecordDelaysTheNextQueryByTheQuietGapOnly) {
   EXPECT_LE(clock.milliseconds() - start, LinePort::quietGap + 50);
 }
 
+/// Events do not run for a while, as when a window is made for the first time.
+TEST_F(LinePortTest, StallInTheMiddleOfARecordSpoilsNone) {
+  for (const int stall : {300, 600, 1300}) {
+    user.request("1");
+    clock.run(100);
+    clock.sleep(stall);
+    user.request("2");
+    clock.run(3000);
+    expectCleanRecords(2);
+  }
+}
+
 TEST_F(LinePortTest, BothTracesRefreshWhereARecordOutlastsTheTick) {
   farEnd.byteTime = 10.0 / 2.4;
   for (int tick = 0; tick < 40; ++tick) {

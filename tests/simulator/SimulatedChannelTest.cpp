@@ -57,7 +57,12 @@ TEST_F(BuiltInInstrument, BothTracesRunAndThePlugMayBePulled) {
   clock.run(60000);
   EXPECT_GE(main.WaveCount, 49);
   for (const int number : {1, 2}) EXPECT_EQ(main.graphDSO.plot(number).y().size(), 500u);
+  // A port chosen while a record comes has nothing to do with that record.
+  port.settings.portNumber = 33;
+  port.dataReady.raise(main.Ch1Raw);
   EXPECT_EQ(main.graphDSO.note(), "SIMULATED");
+  clock.run(3000);
+  EXPECT_EQ(main.graphDSO.note(), "");
 
   opener.instrument.setFault("HANGUP 200");
   clock.run(5000);
