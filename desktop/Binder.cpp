@@ -20,6 +20,7 @@
 #include <QRadioButton>
 #include <QSignalBlocker>
 #include <QTreeWidget>
+#include <utility>
 
 #include "Controls.h"
 #include "Dials.h"
@@ -55,7 +56,6 @@ void showWith(Control& control, Object* object, Show show) {
     const QSignalBlocker blocker(object);
     object->setVisible(control.visible());
     object->setEnabled(control.enabled());
-    if (!control.toolTip().empty()) object->setToolTip(toQt(control.toolTip()));
     show();
   };
   control.changed();
@@ -78,8 +78,9 @@ class DoubleClickFilter : public QObject {
   std::function<void()> action_;
 };
 
-/// Calls `action` when the user has moved through the watched list with a key. Focus alone, which
-/// also gives a list its current entry, is no choice.
+/// Calls `action` when the user has pressed a key in the watched list, which moves through it.
+/// Focus alone, which also gives a list its current entry, is no choice, and neither is the release
+/// of a key that was pressed elsewhere.
 class MoveKeyFilter : public QObject {
  public:
   MoveKeyFilter(QObject* watched, std::function<void()> action)
@@ -87,41 +88,55 @@ class MoveKeyFilter : public QObject {
     watched->installEventFilter(this);
   }
   bool eventFilter(QObject*, QEvent* event) override {
-    if (event->type() != QEvent::KeyRelease) return false;
-    switch (static_cast<QKeyEvent*>(event)->key()) {
-      case Qt::Key_Up:
-      case Qt::Key_Down:
-      case Qt::Key_Home:
-      case Qt::Key_End:
-      case Qt::Key_PageUp:
-      case Qt::Key_PageDown:
-        action_();
-        break;
-      default:
-        // Typing a name moves through the list, too.
-        if (static_cast<QKeyEvent*>(event)->text().trimmed() != QString()) action_();
-        break;
-    }
+    if (event->type() == QEvent::KeyPress && !static_cast<QKeyEvent*>(event)->isAutoRepeat())
+      isPressed_ = true;
+    else if (event->type() == QEvent::FocusOut)
+      isPressed_ = false;
+    else if (event->type() == QEvent::KeyRelease && std::exchange(isPressed_, false))
+      action_();
     return false;
+  }
+
+ private:
+  std::function<void()> action_;
+  bool isPressed_ = false;
+};
+
+/// Calls `action` for Enter, which a dialog would otherwise take for its default button.
+class EnterFilter : public QObject {
+ public:
+  EnterFilter(QObject* watched, std::function<void()> action)
+      : QObject(watched), action_(std::move(action)) {
+    watched->installEventFilter(this);
+  }
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() != QEvent::KeyPress) return false;
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (key != Qt::Key_Return && key != Qt::Key_Enter) return false;
+    action_();
+    return true;
   }
 
  private:
   std::function<void()> action_;
 };
 
-void bind(Label& control, QWidget& form) {
+template <class AnyLabel>
+QLabel* bindLabel(AnyLabel& control, QWidget& form) {
   auto* label = findObject<QLabel>(control, form);
   showWith(control, label, [&control, label] {
     label->setText(toQt(control.caption()).remove(QLatin1Char('\r')));
   });
+  return label;
+}
+
+void bind(Label& control, QWidget& form) {
+  QLabel* label = bindLabel(control, form);
   if (control.doubleClicked) new DoubleClickFilter(label, [&control] { control.doubleClick(); });
 }
 
 void bind(ValueLabel& control, QWidget& form) {
-  auto* label = findObject<QLabel>(control, form);
-  showWith(control, label, [&control, label] {
-    label->setText(toQt(control.caption()).remove(QLatin1Char('\r')));
-  });
+  bindLabel(control, form);
 }
 
 void bind(Frame& control, QWidget& form) {
@@ -170,7 +185,11 @@ void bind(MenuEntry& control, QWidget& form) {
     action->setCheckable(control.isChecked());
     action->setChecked(control.isChecked());
   });
-  QObject::connect(action, &QAction::triggered, action, [&control] { control.choose(); });
+  QObject::connect(action, &QAction::triggered, action, [&control] {
+    control.choose();
+    // The click itself has changed the tick.
+    control.notifyChanged();
+  });
 }
 
 void bind(CheckBox& control, QWidget& form) {
@@ -214,6 +233,8 @@ void bind(ComboBox& control, QWidget& form) {
                    [&control](int index) { control.choose(index); });
   if (!box->isEditable()) return;
   box->setInsertPolicy(QComboBox::NoInsert);
+  // What is typed is meant: "3" is not the beginning of port 33.
+  box->setCompleter(nullptr);
   QObject::connect(box->lineEdit(), &QLineEdit::editingFinished, box, [&control, box] {
     const std::string typed = fromQt(box->currentText());
     if (typed != control.text()) control.type(typed);
@@ -295,11 +316,18 @@ void bind(ListBox& control, QWidget& form) {
     }
     list->setCurrentRow(control.chosen());
   });
-  const auto choose = [&control, list] { control.choose(list->currentRow()); };
-  QObject::connect(list, &QListWidget::itemClicked, list, choose);
-  new MoveKeyFilter(list, choose);
-  QObject::connect(list, &QListWidget::itemActivated, list,
-                   [&control, list] { control.open(list->currentRow()); });
+  QObject::connect(list, &QListWidget::itemClicked, list,
+                   [&control, list] { control.choose(list->currentRow()); });
+  new MoveKeyFilter(list, [&control, list] {
+    const int row = list->currentRow();
+    if (row >= 0 && row != control.chosen()) control.choose(row);
+  });
+  if (!control.opened) return;
+  const auto open = [&control, list] {
+    if (list->currentRow() >= 0) control.open(list->currentRow());
+  };
+  QObject::connect(list, &QListWidget::itemDoubleClicked, list, open);
+  new EnterFilter(list, open);
 }
 
 void fillTree(QTreeWidget& tree, const std::vector<Tree::Node>& nodes) {

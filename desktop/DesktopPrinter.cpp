@@ -24,43 +24,58 @@ Error printError(const QString& reason) {
 
 }  // namespace
 
+QPrinter& DesktopPrinter::printer() {
+  if (!printer_) printer_.emplace(QPrinter::HighResolution);
+  return *printer_;
+}
+
 void DesktopPrinter::setUp() {
-  QPrintDialog dialog(&printer_, QApplication::activeWindow());
+  QPrintDialog dialog(&printer(), QApplication::activeWindow());
   if (dialog.exec() != QDialog::Accepted) return;
   isSetUp_ = true;
   isPaperChosen_ = true;
 }
 
 void DesktopPrinter::printToFile(const QString& path) {
-  printer_.setOutputFormat(QPrinter::PdfFormat);
-  printer_.setOutputFileName(path);
+  printer().setOutputFormat(QPrinter::PdfFormat);
+  printer().setOutputFileName(path);
   isSetUp_ = true;
+  isFileFixed_ = true;
 }
 
 bool DesktopPrinter::isReady() {
-  if (!isSetUp_ && QPrinterInfo::defaultPrinter().isNull())
+  const bool isForFile = !printer().outputFileName().isEmpty();
+  if (!isSetUp_ && (isForFile || QPrinterInfo::defaultPrinter().isNull()))
     setUp();
   else
     isSetUp_ = true;
   return isSetUp_;
 }
 
+/// A file that the user has named takes one print.
+void DesktopPrinter::finished() {
+  if (isFileFixed_ || printer().outputFileName().isEmpty()) return;
+  isSetUp_ = false;
+  isPaperChosen_ = false;
+}
+
 /// Unless the user has chosen how the paper lies.
 void DesktopPrinter::turnPaper(QPageLayout::Orientation orientation) {
-  if (!isPaperChosen_) printer_.setPageOrientation(orientation);
+  if (!isPaperChosen_) printer().setPageOrientation(orientation);
 }
 
 template <class Paint>
 void DesktopPrinter::paint(Paint paintPage) {
   if (!isReady()) return;
   QPainter painter;
-  if (!painter.begin(&printer_))
+  if (!painter.begin(&printer()))
     throw printError(QStringLiteral("Cannot print to %1")
-                         .arg(printer_.outputFileName().isEmpty() ? printer_.printerName()
-                                                                  : printer_.outputFileName()));
+                         .arg(printer().outputFileName().isEmpty() ? printer().printerName()
+                                                                   : printer().outputFileName()));
   paintPage(painter,
-            QRectF(QPointF(0, 0), QSizeF(printer_.pageRect(QPrinter::DevicePixel).size())));
+            QRectF(QPointF(0, 0), QSizeF(printer().pageRect(QPrinter::DevicePixel).size())));
   if (!painter.end()) throw printError(QStringLiteral("Printing has failed"));
+  finished();
 }
 
 void DesktopPrinter::printImage(const Image& image) {
@@ -82,9 +97,10 @@ void DesktopPrinter::printText(const std::string& text) {
   font.setPointSizeF(textSize);
   document.setDefaultFont(font);
   document.setPlainText(toQt(text).remove(QLatin1Char('\r')));
-  document.print(&printer_);
-  if (printer_.printerState() == QPrinter::Error)
+  document.print(&printer());
+  if (printer().printerState() == QPrinter::Error)
     throw printError(QStringLiteral("Printing has failed"));
+  finished();
 }
 
 void DesktopPrinter::printPage(const GraphPage& page) {

@@ -2,12 +2,14 @@
 #pragma once
 
 #include <QPrinter>
+#include <optional>
 
 #include "Printer.h"
 
 namespace tracewell {
 
-/// Printing with Qt. A machine without a printer prints to a PDF file that the user names.
+/// Printing with Qt. A machine without a printer prints to a PDF file that the user names, each
+/// time anew, so that no print takes the place of another.
 class DesktopPrinter : public Printer {
  public:
   void setUp() override;
@@ -15,19 +17,23 @@ class DesktopPrinter : public Printer {
   void printText(const std::string& text) override;
   void printPage(const GraphPage& page) override;
 
-  /// Prints to a PDF file from now on.
+  /// Prints everything to this PDF file from now on, each print in the place of the one before.
   void printToFile(const QString& path);
 
  private:
+  /// Made when it is first needed: it asks the print system for the default printer.
+  QPrinter& printer();
   /// False when there is no printer and the user has chosen none.
   bool isReady();
+  void finished();
   void turnPaper(QPageLayout::Orientation orientation);
   template <class Paint>
   void paint(Paint paintPage);
 
-  QPrinter printer_{QPrinter::HighResolution};
+  std::optional<QPrinter> printer_;
   bool isSetUp_ = false;
   bool isPaperChosen_ = false;
+  bool isFileFixed_ = false;
 };
 
 }  // namespace tracewell

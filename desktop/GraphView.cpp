@@ -250,9 +250,15 @@ void GraphView::dragTo(const QPointF& position) {
 bool GraphView::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::MouseButtonPress) {
     setFocus(Qt::MouseFocusReason);
-    grabbed_ = cursorAt(static_cast<QMouseEvent*>(event)->position());
+    const auto* mouse = static_cast<QMouseEvent*>(event);
+    grabbed_ = mouse->button() == Qt::LeftButton ? cursorAt(mouse->position()) : nullptr;
   } else if (event->type() == QEvent::MouseMove && grabbed_ != nullptr) {
-    dragTo(static_cast<QMouseEvent*>(event)->position());
+    const auto* mouse = static_cast<QMouseEvent*>(event);
+    // A box that came up during the drag has had the release.
+    if (mouse->buttons() & Qt::LeftButton)
+      dragTo(mouse->position());
+    else
+      grabbed_ = nullptr;
   } else if (event->type() == QEvent::MouseButtonRelease) {
     grabbed_ = nullptr;
   } else if (event->type() == QEvent::MouseButtonDblClick && graph_ != nullptr) {

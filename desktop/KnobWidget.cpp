@@ -149,11 +149,7 @@ void KnobWidget::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void KnobWidget::wheelEvent(QWheelEvent* event) {
-  constexpr int notch = 120;
-  wheelTravel_ += event->angleDelta().y();
-  const int steps = wheelTravel_ / notch;
-  wheelTravel_ -= steps * notch;
-  if (steps != 0) turnTo(value_ + steps);
+  if (const int steps = wheel_.notches(*event); steps != 0) turnTo(value_ + steps);
   event->accept();
 }
 

@@ -5,6 +5,8 @@
 #include <QStringList>
 #include <QWidget>
 
+#include "WheelTravel.h"
+
 namespace tracewell {
 
 /// A rotary switch. The user turns it by dragging around it, with the wheel, the arrow, Page, Home
@@ -54,7 +56,7 @@ class KnobWidget : public QWidget {
   QStringList captions_{QString()};
   QColor accent_{Qt::white};
   int value_ = 0;
-  int wheelTravel_ = 0;
+  WheelTravel wheel_;
   /// Of a drag: the detent that it began at, the last angle, and degrees turned to the right.
   int draggedFrom_ = 0;
   qreal dragAngle_ = 0;

@@ -4,6 +4,8 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QStandardPaths>
+#include <algorithm>
+#include <array>
 
 #include "Error.h"
 #include "Files.h"
@@ -31,6 +33,13 @@ bool isOfThisVersion(const fs::path& folder) {
   }
 }
 
+/// What lies beside the executable of a portable program is not all a part of it.
+bool isProgramFile(const fs::path& path) {
+  constexpr std::array<std::string_view, 5> kinds = {".cap", ".msg", ".dso", ".sit", ".cmd"};
+  return path.filename() == "about.jpg" ||
+         std::ranges::find(kinds, path.extension().string()) != kinds.end();
+}
+
 /// The language files belong to a version of the program, everything else to the user.
 bool isLanguageFile(const fs::path& path) {
   return path.extension() == ".cap" || path.extension() == ".msg";
@@ -45,7 +54,7 @@ void fillProgramFolder(const fs::path& from, const fs::path& to) {
   const bool isUpToDate = isOfThisVersion(to);
   for (const fs::directory_entry& entry : fs::directory_iterator(from, ignored)) {
     std::error_code failed;
-    if (!entry.is_regular_file(failed)) continue;
+    if (!isProgramFile(entry.path()) || !entry.is_regular_file(failed)) continue;
     const bool isReplaced = !isUpToDate && isLanguageFile(entry.path());
     fs::copy_file(
         entry.path(), to / entry.path().filename(),
@@ -71,8 +80,7 @@ bool holdsProgramFiles(const fs::path& folder) {
 fs::path programFolder() {
   const QString own = QCoreApplication::applicationDirPath();
   if (QFileInfo(own).isWritable() && holdsProgramFiles(toPath(own))) return toPath(own);
-  fs::path users =
-      toPath(QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation));
+  fs::path users = toPath(QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation));
   fillProgramFolder(shippedFolder(toPath(own)), users);
   return users;
 }

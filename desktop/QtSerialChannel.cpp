@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "QtSerialChannel.h"
 
+#include <QDir>
+#include <QFile>
 #include <QTimer>
 
 #ifdef Q_OS_UNIX
+#include <fcntl.h>
 #include <termios.h>
+#include <unistd.h>
 #endif
 
 #include "Error.h"
@@ -24,15 +28,23 @@ QSerialPort::Parity parityOf(std::int16_t code) {
   }
 }
 
-/// Closing the device must not reset the instrument by dropping its control lines.
-void keepControlLinesOnClose(const QSerialPort& port) {
+/// Closing the device must not reset the instrument by dropping its control lines. Set before the
+/// library opens the device, since it puts back at closing what it has found at opening. What fails
+/// here, opening reports.
+void keepControlLinesOnClose(const QString& device) {
 #ifdef Q_OS_UNIX
+  const QString path = QDir(QStringLiteral("/dev")).absoluteFilePath(device);
+  const int descriptor =
+      ::open(QFile::encodeName(path).constData(), O_RDWR | O_NOCTTY | O_NONBLOCK);
+  if (descriptor < 0) return;
   termios attributes;
-  if (tcgetattr(port.handle(), &attributes) != 0) return;
-  attributes.c_cflag &= ~static_cast<tcflag_t>(HUPCL);
-  tcsetattr(port.handle(), TCSANOW, &attributes);
+  if (tcgetattr(descriptor, &attributes) == 0) {
+    attributes.c_cflag &= ~static_cast<tcflag_t>(HUPCL);
+    tcsetattr(descriptor, TCSANOW, &attributes);
+  }
+  ::close(descriptor);
 #else
-  static_cast<void>(port);
+  static_cast<void>(device);
 #endif
 }
 
@@ -40,6 +52,7 @@ void keepControlLinesOnClose(const QSerialPort& port) {
 
 QtSerialChannel::QtSerialChannel(const QString& device, const LineSettings& settings)
     : device_(device) {
+  keepControlLinesOnClose(device);
   port_.setPortName(device);
   // Set before opening: a line that cannot do one of them, as a pseudo-terminal, then still opens.
   port_.setBaudRate(settings.baudRate);
@@ -51,7 +64,6 @@ QtSerialChannel::QtSerialChannel(const QString& device, const LineSettings& sett
     failure_ = port_.errorString();
     raiseFailure();
   }
-  keepControlLinesOnClose(port_);
   port_.clear();
   QObject::connect(&port_, &QSerialPort::readyRead, &context_, [this] { announce(); });
   QObject::connect(&port_, &QSerialPort::errorOccurred, &context_,

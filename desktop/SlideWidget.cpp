@@ -135,7 +135,7 @@ void SlideWidget::mouseDoubleClickEvent(QMouseEvent*) {
 }
 
 void SlideWidget::wheelEvent(QWheelEvent* event) {
-  stepTo(value_ + (event->angleDelta().y() > 0 ? step_ : -step_));
+  if (const int steps = wheel_.notches(*event); steps != 0) stepTo(value_ + steps * step_);
   event->accept();
 }
 

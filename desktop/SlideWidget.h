@@ -4,6 +4,8 @@
 #include <QColor>
 #include <QWidget>
 
+#include "WheelTravel.h"
+
 namespace tracewell {
 
 /// A linear slide whose zero is marked. The user drags its pointer, turns the wheel, presses the
@@ -55,6 +57,7 @@ class SlideWidget : public QWidget {
   double minimum_ = -1;
   double maximum_ = 1;
   double step_ = 0.1;
+  WheelTravel wheel_;
   double value_ = 0;
   QColor accent_{Qt::white};
   Qt::Orientation orientation_ = Qt::Vertical;

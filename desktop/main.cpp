@@ -3,6 +3,7 @@
 
 #include "DesktopProgram.h"
 #include "ProgramFolder.h"
+#include "Termination.h"
 #include "Theme.h"
 
 int main(int argumentCount, char** arguments) {
@@ -13,5 +14,6 @@ int main(int argumentCount, char** arguments) {
   tracewell::applyTheme(application);
 
   tracewell::DesktopProgram program(tracewell::programFolder());
+  const tracewell::Termination termination([&] { program.program.main.close(); });
   return program.start() ? QApplication::exec() : EXIT_FAILURE;
 }

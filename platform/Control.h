@@ -35,7 +35,6 @@ class Control : public Observable {
   Property<bool> visible{*this, true};
   Property<bool> enabled{*this, true};
   /// One sentence that the view shows while the pointer rests on the control.
-  Property<std::string> toolTip{*this};
 
   /// Shows the control at once, although a handler is running.
   void refresh() { owner_.refresh(); }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <QAbstractButton>
 #include <QAccessible>
+#include <QComboBox>
 #include <QElapsedTimer>
 #include <QGroupBox>
 #include <QLabel>
@@ -171,6 +172,22 @@ TEST_F(FormsTest, ConsoleSendsOncePerEnterAndFocusChoosesNothing) {
   unbindControls(console);
 }
 
+TEST_F(FormsTest, TypedEntryIsTakenAsItIs) {
+  const auto dialog = makeForm("frmRS232", nullptr);
+  bindControls(program.rs232, *dialog);
+  program.rs232.cbRS232(4).items = {"0", "33"};
+  dialog->show();
+  dialog->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(dialog.get()));
+  auto* port = dialog->findChild<QComboBox*>(QStringLiteral("cbRS232_4"));
+  port->setFocus();
+  port->lineEdit()->selectAll();
+  QTest::keyClicks(port->lineEdit(), QStringLiteral("3"));
+  QTest::keyClick(port->lineEdit(), Qt::Key_Return);
+  EXPECT_EQ(program.rs232.cbRS232(4).text(), "3");
+  unbindControls(program.rs232);
+}
+
 TEST_F(FormsTest, ListKeepsTheEntryThatTheProgramGoesBackTo) {
   frmLoad& window = program.loadWindow;
   const auto dialog = makeForm("frmLoad", nullptr);
@@ -185,6 +202,22 @@ TEST_F(FormsTest, ListKeepsTheEntryThatTheProgramGoesBackTo) {
   EXPECT_EQ(list->currentRow(), 0);
   EXPECT_TRUE(list->item(0)->isSelected());
   EXPECT_FALSE(list->item(1)->isSelected());
+  // A key on an empty list, and the release of one that was pressed elsewhere, choose nothing.
+  window.fileCSV.click = [] { ADD_FAILURE() << "chosen"; };
+  QTest::keyRelease(list, Qt::Key_Escape);
+  window.fileCSV.items = {};
+  QTest::keyClick(list, Qt::Key_Down);
+  // Enter on a folder opens it and does no more.
+  auto* folders = dialog->findChild<QListWidget*>(QStringLiteral("dirCSV"));
+  int opened = 0;
+  window.dirCSV.opened = [&] { ++opened; };
+  window.cmdOK.click = [] { ADD_FAILURE() << "pressed"; };
+  window.dirCSV.items = {"..", "a"};
+  folders->setFocus();
+  QTest::keyClick(folders, Qt::Key_Down);
+  QTest::keyClick(folders, Qt::Key_Return);
+  EXPECT_EQ(opened, 1);
+  EXPECT_EQ(window.dirCSV.chosenText(), "a");
   unbindControls(window);
 }
 

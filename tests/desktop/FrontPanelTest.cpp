@@ -10,11 +10,11 @@ namespace tracewell {
 /// Mouse and keyboard on the same control must come to the same on the wire.
 class FrontPanelTest : public MainFormTest {
  protected:
-  void wheel(const char* name, int notches) {
+  void wheel(const char* name, double notches) {
     QWidget* widget = find(name);
     const QPointF at = widget->rect().center();
-    QWheelEvent event(at, widget->mapToGlobal(at), {}, {0, 120 * notches}, Qt::NoButton,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QWheelEvent event(at, widget->mapToGlobal(at), {}, {0, static_cast<int>(120 * notches)},
+                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
     QApplication::sendEvent(widget, &event);
   }
   /// Takes hold of a slide somewhere and lets go at an end of it: 0 low, 1 high.
@@ -117,6 +117,17 @@ TEST_F(FrontPanelTest, KnobTurnsWithTheCapAndStopsAtItsEnds) {
   key("knobChan1", Qt::Key_Up);
   wheel("knobChan1", 5);
   EXPECT_TRUE(takeWire().empty());
+  // A touchpad sends pieces of a notch.
+  const double before = main.slideCH1.value();
+  for (int i = 0; i < 3; ++i) wheel("slideCH1", 0.5);
+  EXPECT_NEAR(main.slideCH1.value(), before + 0.1, 1e-9);
+  EXPECT_EQ(takeWire().size(), 1u);
+}
+
+TEST_F(FrontPanelTest, LanguageInUseKeepsItsTickWhenItIsChosenAgain) {
+  auto* english = find<QAction>("mnbLA1");
+  english->trigger();
+  EXPECT_TRUE(english->isChecked());
 }
 
 TEST_F(FrontPanelTest, TabGoesThroughTheWindowAsTheEyeReads) {

@@ -1,4 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <fcntl.h>
+#include <termios.h>
+#include <unistd.h>
+
 #include <QApplication>
 #include <QProcess>
 #include <QTest>
@@ -44,6 +48,20 @@ TEST_F(SerialLineTest, AbandonedRecordsLeaveNothingBehind) {
     records.tryAt(baudRate);
     stopInstrument();
   }
+}
+
+/// The instrument's control lines stay up when the port is closed.
+TEST_F(SerialLineTest, ClosingDoesNotHangUp) {
+  startInstrument({});
+  const int line = ::open(device.toLocal8Bit().constData(), O_RDWR | O_NOCTTY);
+  termios attributes;
+  ASSERT_EQ(tcgetattr(line, &attributes), 0);
+  attributes.c_cflag |= HUPCL;
+  tcsetattr(line, TCSANOW, &attributes);
+  open({}).reset();
+  EXPECT_EQ(tcgetattr(line, &attributes), 0);
+  EXPECT_EQ(attributes.c_cflag & HUPCL, 0u);
+  ::close(line);
 }
 
 TEST_F(SerialLineTest, SecondOpenerIsRefusedWithAReason) {

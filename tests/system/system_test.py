@@ -99,6 +99,23 @@ class SystemTest(SystemTestCase):
         program.keys("Return")
         self.assertEqual(program.process.wait(10), 1)
 
+    def test_end_of_the_session_saves_the_setup(self):
+        program = self.make_program(0)
+        program.start()
+        program.keys("F5")
+        self.expect_live_trace()
+        program.keys("ctrl+r")
+        program.focus(program.find("RS-232"))
+        program.keys("Tab", "Tab", "Tab", "Tab", "ctrl+a")
+        program.type("7")
+        program.keys("Return")
+        program.focus(program.window)
+        program.keys("ctrl+r")
+        program.find("RS-232")
+        program.process.terminate()
+        self.assertEqual(program.process.wait(10), 0)
+        self.assertIn(b",None,7\r\n", program.setup.read_bytes())
+
     def test_kill_leaves_the_setup_whole(self):
         program = self.make_program(0)
         whole = program.setup.read_bytes()
