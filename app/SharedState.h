@@ -28,7 +28,8 @@ struct SharedState {
   std::array<bool, 2> ChanOn{};
   /// 1 or 2: whose record is requested next.
   std::int16_t AcqChan = 0;
-  /// A record has been requested and the port not been reset by StopAcq since.
+  /// A record has been requested, or the acquisition resumed, and the port not been reset by
+  /// StopAcq since.
   bool PortBusy = false;
   /// The instrument's own panel is locked because it has been sent a command.
   bool InRemote = false;
@@ -45,12 +46,15 @@ struct SharedState {
   /// Vertical positions in divisions: channel 1 may be fractional, channel 2 is a whole number.
   double Ch1Pos = 0;
   std::int16_t Ch2Pos = 0;
-  /// The same in sample units.
+  /// The same in sample units, as they were when the instrument was last read.
   std::int16_t Ch1PosCounts = 0;
   std::int16_t Ch2PosCounts = 0;
 
   /// x of each sample in graph units: -250 to 249.
   std::array<std::int16_t, sampleCount> XIndex{};
+
+  /// The user has set a trigger level; the instrument's own is not known.
+  bool TriggerLevelSet = false;
 
   /// Channel of the quick frequency measurement, 1 or 2.
   std::int16_t FMeasChan = 1;

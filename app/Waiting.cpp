@@ -29,6 +29,21 @@ std::int16_t ShortReplyTimeout(const SharedState& state) {
   return toInt16(ReplyTimeout(state) / 4.0);
 }
 
+ShortTimeOut::ShortTimeOut(frmDSO& main, std::int16_t factor)
+    : main_(main), normal_(ReplyTimeout(main)) {
+  main_.services().port.readTimeOut = mulInt16(ShortReplyTimeout(main_), factor);
+}
+
+ShortTimeOut::~ShortTimeOut() {
+  int& readTimeOut = main_.services().port.readTimeOut;
+  try {
+    // Anew: a channel may have been switched on or off meanwhile.
+    readTimeOut = ReplyTimeout(main_);
+  } catch (const Error&) {
+    readTimeOut = normal_;
+  }
+}
+
 void Delay(frmDSO& main, std::int32_t milliseconds) {
   Clock& clock = main.services().clock;
   const std::int32_t start = tickCount(clock);

@@ -14,8 +14,22 @@ std::int16_t ReplyTimeout(const SharedState& state);
 /// A quarter of ReplyTimeout; dialogs that send many lines wait twice this for each reply.
 std::int16_t ShortReplyTimeout(const SharedState& state);
 
+/// While it lives, replies are given `factor` times the short time-out; then the normal one again.
+/// Making one raises what ReplyTimeout does.
+class ShortTimeOut {
+ public:
+  explicit ShortTimeOut(frmDSO& main, std::int16_t factor = 2);
+  ~ShortTimeOut();
+  ShortTimeOut(const ShortTimeOut&) = delete;
+
+ private:
+  frmDSO& main_;
+  int normal_;
+};
+
 /// Lets at least milliseconds + 1 milliseconds pass while events run, so any handler may run
-/// inside. Throws ProgramEnded if the main window has been closed meanwhile.
+/// inside. Raises "Overflow" when the 32-bit tick count wraps meanwhile, and throws ProgramEnded if
+/// the main window has been closed meanwhile.
 void Delay(frmDSO& main, std::int32_t milliseconds);
 
 }  // namespace tracewell

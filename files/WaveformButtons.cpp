@@ -2,12 +2,11 @@
 #include "WaveformButtons.h"
 
 #include "Files.h"
+#include "Paused.h"
 #include "WaveformSetReader.h"
 
 namespace tracewell {
 namespace {
-
-constexpr int firstReference = 3;
 
 /// The scales, so that a picture can be read without the program.
 std::string footnote(const frmDSO& main) {
@@ -16,22 +15,6 @@ std::string footnote(const frmDSO& main) {
   if (main.cbCh2.isChecked()) text += main.cbCh2.caption() + " " + main.lblChan2.caption() + "    ";
   return text + main.lblTime.caption();
 }
-
-/// Pauses the acquisition as long as it lives, and resumes it also when something has gone wrong.
-class Paused {
- public:
-  Paused(const frmDSO& main, Acquisition& acquisition) : main_(main), acquisition_(acquisition) {
-    acquisition_.StopAcq();
-  }
-  ~Paused() {
-    if (!main_.HasEnded) acquisition_.ResumeAcq();
-  }
-  Paused(const Paused&) = delete;
-
- private:
-  const frmDSO& main_;
-  Acquisition& acquisition_;
-};
 
 }  // namespace
 
@@ -56,13 +39,13 @@ void WaveformButtons::cmdLoadCSV_Click() {
   if (path.empty()) return;
   main_.txtMsg.text = readWaveformFile(path);
   const std::vector<double> points = readFirstColumn(main_.txtMsg.text());
-  Plot& load1 = main_.graphDSO.plot(firstReference);
+  Plot& load1 = main_.graphDSO.plot(Graph::firstReference);
   load1.plotXvsY(main_.XIndex, points);
   load1.visible = true;
 }
 
 void WaveformButtons::cmdRemove_Click() {
-  for (int number = firstReference; number <= Graph::plotCount; ++number)
+  for (int number = Graph::firstReference; number <= Graph::plotCount; ++number)
     main_.graphDSO.plot(number).visible = false;
 }
 

@@ -23,7 +23,7 @@ class WaveformButtons {
   /// Hides the reference traces, which are free again.
   void cmdRemove_Click();
 
-  /// Writes the message box to "text.csv" in the current folder without asking.
+  /// Writes the reply box to "text.csv" in the current folder without asking.
   void cmdExportCSV_Click();
 
  private:

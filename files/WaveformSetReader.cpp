@@ -79,7 +79,7 @@ WaveformDescription readDescription(const std::filesystem::path& path) {
 LoadedWaveforms readWaveforms(const std::string& csvText, const std::string& position1,
                               const std::string& position2) {
   LoadedWaveforms loaded;
-  const bool hasOnlyChannel1 = position2 == "N";
+  const bool hasOnlyChannel1 = position2 == notSaved;
   forEachDataLine(csvText, [&](std::string_view line) {
     const std::size_t comma = line.find(',');
     const bool hasBoth = comma != std::string_view::npos;

@@ -5,8 +5,11 @@
 #include <string>
 #include <vector>
 
-/// Reads what WaveformSetWriter has written, and what a spreadsheet has made of it.
+/// Reads what WaveformSetWriter writes, and what a spreadsheet has made of it.
 namespace tracewell {
+
+/// Stands in a description for what belongs to a channel that was not saved.
+inline constexpr const char* notSaved = "N";
 
 /// The lines of a description file that a reader uses.
 struct WaveformDescription {
@@ -14,7 +17,7 @@ struct WaveformDescription {
   std::string dataFile;
   std::string author;
   std::string description;
-  /// Positions at saving time in divisions, "N" for a channel that was not saved.
+  /// Positions at saving time in divisions, or notSaved.
   std::string channel1;
   std::string channel2;
   std::string time;

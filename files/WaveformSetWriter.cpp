@@ -3,15 +3,15 @@
 
 #include "Numbers.h"
 #include "WaveformRecord.h"
+#include "WaveformSetReader.h"
 
 namespace tracewell {
 namespace {
 
 constexpr const char* lineEnd = "\r\n";
-constexpr const char* notSaved = "N";
 
 std::string sampleText(const std::string& record, int index) {
-  const std::size_t position = WaveformRecord::headerBytes + 2 * static_cast<std::size_t>(index);
+  const std::size_t position = WaveformRecord::positionOf(static_cast<std::size_t>(index));
   if (position + 1 >= record.size()) throw subscriptError();
   const int low = static_cast<std::uint8_t>(record[position + 1]);
   return std::to_string(record[position] == 0 ? low : low - 256);
@@ -54,8 +54,7 @@ std::string withoutExtension(const std::string& path) {
   constexpr int extensionLength = 4;
   std::size_t end = path.size();
   for (int i = 0; i < extensionLength; ++i) {
-    if (end == 0)
-      throw Error(invalidProcedureCall, "Tracewell", "Invalid procedure call or argument");
+    if (end == 0) throw invalidCallError();
     --end;
     // A character is one byte and those that continue it.
     while (end > 0 && (static_cast<unsigned char>(path[end]) & 0xC0) == 0x80) --end;

@@ -14,7 +14,8 @@ namespace tracewell {
 std::string BuildCsvText(const frmDSO& main);
 
 /// The nine lines that describe a set: picture, data file, author, description, positions, scales
-/// (channel 1's twice, as readers expect), time position. "N" stands for a channel not displayed.
+/// (channel 1's twice, as readers expect), time position. notSaved stands for a channel
+/// that is not displayed.
 std::string buildInfText(const frmDSO& main, const std::string& picturePath,
                          const std::string& author, const std::string& description);
 

@@ -13,7 +13,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char* parentFolder = "..";
-constexpr int firstReference = 3;
 
 /// Letters where the system has them, the one root where it has not.
 std::vector<std::string> drives() {
@@ -115,6 +114,7 @@ void frmLoad::showFolder(const fs::path& folder) {
 
 /// All or nothing: a set that cannot be shown leaves the one before it chosen.
 void frmLoad::fileCSV_Click() {
+  if (fileCSV.chosen() == ListBox::noEntry) return;
   try {
     constexpr std::size_t extensionLength = 3;
     std::string base = pathText(folder_ / pathOf(fileCSV.chosenText()));
@@ -148,7 +148,7 @@ void frmLoad::cmdOK_Click() {
 
 /// Into the first reference plot that is free and, for the second channel, the one behind it.
 void frmLoad::drawSet(const LoadedWaveforms& set) {
-  int number = firstReference;
+  int number = Graph::firstReference;
   while (number <= Graph::plotCount && main_.graphDSO.plot(number).visible()) ++number;
   if (number > Graph::plotCount) return;
   const auto draw = [&](const std::vector<double>& points) {

@@ -40,8 +40,6 @@ class frmLoad : public Window {
   void cmdOK_Click();
   void drawSet(const LoadedWaveforms& set);
 
-  static constexpr const char* notSaved = "N";
-
   frmDSO& main_;
   std::filesystem::path folder_;
   /// Path of the chosen set up to and including the dot of the extension.

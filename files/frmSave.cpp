@@ -18,6 +18,12 @@ std::string timeStamp(const Clock& clock) {
   return digits;
 }
 
+/// Without regard to case, which not every file system knows.
+bool isDataExtension(std::string extension) {
+  for (char& c : extension) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+  return extension == ".csv" || extension == ".inf";
+}
+
 }  // namespace
 
 frmSave::frmSave(frmDSO& main) : Window("frmSave", "Save", main.services()), main_(main) {
@@ -85,7 +91,7 @@ void frmSave::saveSet(const std::filesystem::path& path) {
   const std::string base = withoutExtension(name);
   const std::string csv = txtDatFile.text();
   const std::string picture = services().pictures.encode(pictureTemp.image(), pictureType_);
-  if (name == base + ".csv" || name == base + ".inf")
+  if (isDataExtension(name.substr(base.size())))
     throw Error(pathAccess, "Tracewell", "A picture cannot have the name of its data: " + name);
   writeWholeFile(pathOf(base + ".csv"), csv);
   txtDatFile.text = buildInfText(main_, name, txtAuthor.text(), txtDes.text());

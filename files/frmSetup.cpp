@@ -9,8 +9,7 @@ namespace {
 /// Position of `what` at or after `start`, both counted from 1; 0 if it is not there. Raises an
 /// error for a start of 0, which is what a search that has found nothing leaves behind.
 std::size_t find(const std::string& text, const char* what, std::size_t start) {
-  if (start == 0)
-    throw Error(invalidProcedureCall, "Tracewell", "Invalid procedure call or argument");
+  if (start == 0) throw invalidCallError();
   const std::size_t found = text.find(what, start - 1);
   return found == std::string::npos ? 0 : found + 1;
 }

@@ -13,8 +13,7 @@ bool isQuery(const std::string& command) {
 /// The value in a reply line.
 std::string replyValue(const std::string& line) {
   std::string value(trimBlanks(line));
-  if (value.empty())
-    throw Error(invalidProcedureCall, "Tracewell", "Invalid procedure call or argument");
+  if (value.empty()) throw invalidCallError();
   value.pop_back();
   return value;
 }

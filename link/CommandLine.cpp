@@ -15,12 +15,10 @@ void CommandLine::cmdTest_Click() {
 
 void CommandLine::send() {
   if (main_.txtTest.text().empty()) return;
-  SerialPort& port = main_.services().port;
   try {
     main_.txtMsg.text = "";
-    port.readTimeOut = ShortReplyTimeout(main_) * 2;
+    const ShortTimeOut shortTimeOut(main_);
     main_.txtMsg.text = exchange_.SendDSOCmd(main_.txtTest.text());
-    port.readTimeOut = ReplyTimeout(main_);
   } catch (const Error& error) {
     errorLog_.ErrLog(error, error.source());
   }

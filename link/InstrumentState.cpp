@@ -3,18 +3,22 @@
 
 #include "Numbers.h"
 #include "PortNotice.h"
+#include "SlideCaption.h"
+#include "TriggerMarker.h"
 
 namespace tracewell {
 namespace {
+
+std::string trimmed(const std::string& reply) {
+  return std::string(trimBlanks(reply));
+}
 
 bool isNull(const ValueLabel& scale) {
   return trimBlanks(scale.caption()) == "Null";
 }
 
 void showPosition(Slide& slide, double divisions) {
-  const std::string caption = slide.caption();
-  const std::string title = caption.substr(0, caption.find(':') + 1);
-  slide.caption = title + formatTwoDecimals(divisions) + " Div";
+  slide.caption = slideTitle(slide.caption()) + formatTwoDecimals(divisions) + " Div";
 }
 
 }  // namespace
@@ -22,16 +26,18 @@ void showPosition(Slide& slide, double divisions) {
 void InstrumentState::InitDSO() {
   try {
     applyLinkSettings();
-    main_.lblChan1.caption = std::string(trimBlanks(exchange_.SendDSOCmd(":CHAN1:SCAL?")));
+    main_.lblChan1.caption = trimmed(exchange_.SendDSOCmd(":CHAN1:SCAL?"));
     if (!main_.LinkOK) return;
     if (main_.lblChan1.caption().empty())
       main_.lblChan1.caption = exchange_.SendDSOCmd(":CHAN1:SCAL?");
-    main_.lblChan1.refresh();
-    moveKnob(ScaleKnob::Chan1, main_.lblChan1, main_.knobChan1);
-    readScaleTwice(":CHAN2:SCAL?", ScaleKnob::Chan2, main_.lblChan2, main_.knobChan2);
-    readScaleTwice(":TIM:SCAL?", ScaleKnob::Time, main_.lblTime, main_.knobTime);
+    showScale(ScaleKnob::Chan1, main_.lblChan1, main_.knobChan1);
+    main_.lblChan2.caption = trimmed(askTwice(":CHAN2:SCAL?"));
+    showScale(ScaleKnob::Chan2, main_.lblChan2, main_.knobChan2);
+    main_.lblTime.caption = trimmed(askTwice(":TIM:SCAL?"));
+    showScale(ScaleKnob::Time, main_.lblTime, main_.knobTime);
     readChannel1Position();
     readChannel2Position();
+    UpdateTriggerMarker(main_);
   } catch (const Error& error) {
     errorLog_.ErrLog(error, "InitDSO : ");
   }
@@ -48,21 +54,21 @@ void InstrumentState::applyLinkSettings() {
 
 void InstrumentState::readScale(const std::string& query, ScaleKnob kind, ValueLabel& label,
                                 Knob& knob) {
-  label.caption = std::string(trimBlanks(exchange_.SendDSOCmd(query)));
-  label.refresh();
-  moveKnob(kind, label, knob);
+  label.caption = trimmed(exchange_.SendDSOCmd(query));
+  showScale(kind, label, knob);
 }
 
-void InstrumentState::readScaleTwice(const std::string& query, ScaleKnob kind, ValueLabel& label,
-                                     Knob& knob) {
-  label.caption = std::string(trimBlanks(exchange_.SendDSOCmd(query)));
-  if (label.caption().empty()) label.caption = exchange_.SendDSOCmd(query);
+/// The knob sends the scale back and has the cursors read out anew. Those may still miss the other
+/// scales, which is no reason not to read them.
+void InstrumentState::showScale(ScaleKnob kind, ValueLabel& label, Knob& knob) {
   label.refresh();
-  moveKnob(kind, label, knob);
-}
-
-void InstrumentState::moveKnob(ScaleKnob kind, const ValueLabel& label, Knob& knob) {
-  if (const auto step = ScaleStepForReply(kind, label.caption())) knob.value = *step;
+  const auto step = ScaleStepForReply(kind, label.caption());
+  if (!step) return;
+  try {
+    knob.value = *step;
+  } catch (const Error& error) {
+    errorLog_.ErrLog(error, "InitDSO : ");
+  }
 }
 
 std::string InstrumentState::askTwice(const std::string& query) {

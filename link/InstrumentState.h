@@ -23,10 +23,9 @@ class InstrumentState {
 
  private:
   void applyLinkSettings();
-  /// The same, with a second try where the first reply is empty.
-  void readScaleTwice(const std::string& query, ScaleKnob kind, ValueLabel& label, Knob& knob);
+  /// The reply, or the second one where the first is empty.
   std::string askTwice(const std::string& query);
-  void moveKnob(ScaleKnob kind, const ValueLabel& label, Knob& knob);
+  void showScale(ScaleKnob kind, ValueLabel& label, Knob& knob);
   void readChannel1Position();
   void readChannel2Position();
   double readPosition(const std::string& query, const ValueLabel& scale);

@@ -32,18 +32,4 @@ void echoLine(frmDSO& main, const std::string& line) {
   main.txtMsg.refresh();
 }
 
-ShortTimeOut::ShortTimeOut(frmDSO& main) : main_(main), normal_(ReplyTimeout(main)) {
-  main_.services().port.readTimeOut = ShortReplyTimeout(main_) * 2;
-}
-
-ShortTimeOut::~ShortTimeOut() {
-  int& readTimeOut = main_.services().port.readTimeOut;
-  try {
-    // Anew: a channel may have been switched on or off meanwhile.
-    readTimeOut = ReplyTimeout(main_);
-  } catch (const Error&) {
-    readTimeOut = normal_;
-  }
-}
-
 }  // namespace tracewell

@@ -19,7 +19,7 @@ class SettingsBurst {
 
   /// Sends the values of `row` with the commands `stems`, from the `first` one on. Each is tried up
   /// to three times, until the instrument's reply is the cell's text to the letter; then the next
-  /// follows without a message. The message box shows every line as it goes out. Replies are given
+  /// follows without a word. The reply box shows every line as it goes out. Replies are given
   /// the short time-out meanwhile. Throws ProgramEnded when the window is closed in between.
   void writeAndVerify(std::span<const std::string_view> stems, int row, int first);
 
@@ -30,19 +30,7 @@ class SettingsBurst {
   CommandExchange& exchange_;
 };
 
-/// Adds a line to the message box and shows it at once.
+/// Adds a line to the reply box and shows it at once.
 void echoLine(frmDSO& main, const std::string& line);
-
-/// While it lives, replies are given twice the short time-out; then the normal one again.
-class ShortTimeOut {
- public:
-  explicit ShortTimeOut(frmDSO& main);
-  ~ShortTimeOut();
-  ShortTimeOut(const ShortTimeOut&) = delete;
-
- private:
-  frmDSO& main_;
-  int normal_;
-};
 
 }  // namespace tracewell

@@ -28,7 +28,7 @@ Samples decodeSamples(std::string_view record, std::int16_t offset) {
   Samples samples{};
   std::int16_t previous = 0;
   for (std::size_t i = 0; i < samples.size(); ++i) {
-    const std::size_t position = WaveformRecord::headerBytes + 2 * i;
+    const std::size_t position = WaveformRecord::positionOf(i);
     if (position + 1 < record.size()) {
       const int sample = sampleAt(record, position);
       // The negation that makes a sample negative has no 16-bit result for 0x8000.
@@ -44,7 +44,7 @@ Samples shiftSamples(std::string_view record, std::int16_t shift) {
   if (record.size() < WaveformRecord::byteCount) throw subscriptError();
   Samples samples;
   for (std::size_t i = 0; i < samples.size(); ++i) {
-    const int sample = sampleAt(record, WaveformRecord::headerBytes + 2 * i);
+    const int sample = sampleAt(record, WaveformRecord::positionOf(i));
     samples[i] = addInt16(static_cast<std::int16_t>(sample), shift);
   }
   return samples;

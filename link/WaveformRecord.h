@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -15,6 +16,8 @@ namespace tracewell {
 struct WaveformRecord {
   static constexpr int headerBytes = 14;
   static constexpr int byteCount = headerBytes + 2 * SharedState::sampleCount;
+  /// Where the high byte of a sample is.
+  static constexpr std::size_t positionOf(std::size_t sample) { return headerBytes + 2 * sample; }
 };
 
 using Samples = std::array<std::int16_t, SharedState::sampleCount>;
@@ -27,7 +30,7 @@ Samples decodeSamples(std::string_view record, std::int16_t offset);
 /// "Subscript out of range" for a record that is cut, "Overflow" for a sample that does not fit.
 Samples shiftSamples(std::string_view record, std::int16_t shift);
 
-/// "1,12,13,...\r\n": the channel's number and every value, as the message box shows a record.
+/// "1,12,13,...\r\n": the channel's number and every value, as the reply box shows a record.
 std::string recordText(std::int16_t channel, const Samples& samples);
 
 }  // namespace tracewell

@@ -5,9 +5,13 @@
 
 namespace tracewell {
 
+std::string slideTitle(const std::string& caption) {
+  return caption.substr(0, caption.find(':') + 1);
+}
+
 std::string slideCaption(const std::string& caption, double value, const std::string& unit) {
   // Connecting leaves no blank behind the ":", so one is written rather than kept.
-  return caption.substr(0, caption.find(':') + 1) + " " + formatTwoDecimals(value) + unit;
+  return slideTitle(caption) + " " + formatTwoDecimals(value) + unit;
 }
 
 }  // namespace tracewell

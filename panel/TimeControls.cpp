@@ -39,7 +39,7 @@ void TimeControls::slideTime_PointerValueCommitted() {
 void TimeControls::slideTrig_PointerValueChanged() {
   Slide& slide = main_.slideTrig;
   slide.caption = slideCaption(slide.caption(), slide.value(), " V");
-  main_.graphDSO.cursor("Triger").visible = true;
+  main_.TriggerLevelSet = true;
   UpdateTriggerMarker(main_);
 }
 

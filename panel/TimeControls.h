@@ -12,7 +12,7 @@ class TimeControls {
                Acquisition& acquisition)
       : main_(main), exchange_(exchange), errorLog_(errorLog), acquisition_(acquisition) {}
 
-  /// While dragging only the captions follow; nothing is sent.
+  /// While dragging the captions follow, and the marker of the trigger level; nothing is sent.
   void slideTime_PointerValueChanged();
   void slideTrig_PointerValueChanged();
 

@@ -6,6 +6,7 @@
 #include "ConnectionIndicator.h"
 #include "ScaleTables.h"
 #include "SettingsBurst.h"
+#include "Waiting.h"
 
 namespace tracewell {
 

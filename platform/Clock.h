@@ -16,8 +16,8 @@ class Clock {
   /// Milliseconds since an arbitrary start. Never steps back, whatever the time of day does.
   virtual std::int64_t milliseconds() const = 0;
 
-  /// Runs the events that are waiting. If none is, waits up to a millisecond for one, so that a
-  /// loop around it burns no processor. An event's own errors never come out of here.
+  /// Runs the events that are waiting, and waits a millisecond, so that a loop around it burns no
+  /// processor. An event's own errors never come out of here.
   virtual void pumpEvents() = 0;
 
   /// Waits without running any event.

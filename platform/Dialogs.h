@@ -36,10 +36,11 @@ class Dialogs {
   /// The path that the user picked. After Cancel it is `dialog.fileName` as given: a bare name,
   /// which the caller then uses against the current folder.
   virtual std::filesystem::path openFile(const FileDialog& dialog) = 0;
+  /// The same for a file to be written; asks before one that is there is replaced.
+  virtual std::filesystem::path saveFile(const FileDialog& dialog) = 0;
+
   /// The colour that the user picked, or `initial` after Cancel.
   virtual Colour pickColour(Colour initial) = 0;
-
-  virtual std::filesystem::path saveFile(const FileDialog& dialog) = 0;
 };
 
 }  // namespace tracewell

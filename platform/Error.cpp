@@ -24,4 +24,8 @@ Error divisionByZeroError() {
   return {divisionByZero, "Tracewell", "Division by zero"};
 }
 
+Error invalidCallError() {
+  return {invalidProcedureCall, "Tracewell", "Invalid procedure call or argument"};
+}
+
 }  // namespace tracewell

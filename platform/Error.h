@@ -47,5 +47,6 @@ Error overflowError();
 Error typeMismatchError();
 Error subscriptError();
 Error divisionByZeroError();
+Error invalidCallError();
 
 }  // namespace tracewell

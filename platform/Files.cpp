@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Files.h"
 
+#include <array>
 #include <cerrno>
 #include <fstream>
-#include <iterator>
 #include <system_error>
 
 #include "Error.h"
@@ -34,7 +34,6 @@ class Unfinished {
     fs::remove(path_, ignored);
   }
   Unfinished(const Unfinished&) = delete;
-  const fs::path& path() const { return path_; }
 
  private:
   fs::path path_;
@@ -62,13 +61,20 @@ fs::path pathOf(const std::string& text) {
 }
 
 std::string readWholeFile(const fs::path& path) {
-  std::error_code ignored;
-  if (!fs::exists(path, ignored)) throw fileError(fileNotFound, "File not found", path);
-  if (!fs::is_regular_file(path, ignored)) throw fileError(pathAccess, "Not a file", path);
+  std::error_code failed;
+  const fs::file_status status = fs::status(path, failed);
+  if (status.type() == fs::file_type::not_found)
+    throw fileError(fileNotFound, "File not found", path);
+  if (failed) throw fileError(pathAccess, "Cannot read", path, failed);
+  if (!fs::is_regular_file(status)) throw fileError(pathAccess, "Not a file", path);
   errno = 0;
   std::ifstream file(path, std::ios::binary);
-  std::string bytes(std::istreambuf_iterator<char>(file), {});
-  if (!file) throw fileError(pathAccess, "Cannot read", path, streamFailure());
+  std::string bytes;
+  std::array<char, 65536> block;
+  while (file.read(block.data(), block.size()), file.gcount() > 0)
+    bytes.append(block.data(), static_cast<std::size_t>(file.gcount()));
+  if (!file.is_open() || file.bad())
+    throw fileError(pathAccess, "Cannot read", path, streamFailure());
   return bytes;
 }
 
@@ -76,15 +82,15 @@ void writeWholeFile(const fs::path& path, std::string_view bytes) {
   const fs::path target = linkTarget(path);
   fs::path beside = target;
   beside += ".new";
-  const Unfinished unfinished(beside);
   errno = 0;
-  std::ofstream file(unfinished.path(), std::ios::binary | std::ios::trunc);
+  std::ofstream file(beside, std::ios::binary | std::ios::trunc);
   if (!file) throw fileError(pathAccess, "Cannot write", path, streamFailure());
+  const Unfinished unfinished(beside);
   file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
   file.close();
   if (!file) throw fileError(diskFull, "Cannot write", path, streamFailure());
   std::error_code failed;
-  fs::rename(unfinished.path(), target, failed);
+  fs::rename(beside, target, failed);
   if (failed) throw fileError(pathAccess, "Cannot replace", path, failed);
 }
 

@@ -77,6 +77,8 @@ class Cursor : public Observable {
 class Graph : public Control {
  public:
   static constexpr int plotCount = 6;
+  /// Number of the first plot for loaded traces; the ones below show the channels.
+  static constexpr int firstReference = 3;
 
   Graph(Window& owner, std::string_view name);
 

@@ -13,7 +13,7 @@ class Observable {
   Observable(const Observable&) = delete;
   Observable& operator=(const Observable&) = delete;
 
-  /// Called after any property has been assigned. Must not raise events.
+  /// Called after any property has got a new value. Must not raise events.
   std::function<void()> changed;
 
   void notifyChanged() const {

@@ -21,7 +21,7 @@ class Window : public Observable {
 
   const std::string& name() const { return name_; }
   Property<std::string> caption;
-  /// Free text by which a dialog tells its opener how it ended.
+  /// Free text between a dialog and its opener: how it ended, or what it is opened for.
   std::string tag;
 
   /// In the order of declaration, which is the order of caption files.

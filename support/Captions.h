@@ -20,7 +20,8 @@ class Captions {
   /// names the file when it is missing, or has no section for a window.
   void LoadCaptions();
 
-  /// One window's captions from the text of the caption file.
+  /// One window's captions from the text of the caption file. Raises an error if it has no section
+  /// for the window.
   void ApplyCaptions(Window& window);
 
   /// Appends the window's section, with its present captions, to the text of the caption file in

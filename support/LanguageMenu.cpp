@@ -2,6 +2,7 @@
 #include "LanguageMenu.h"
 
 #include "Messages.h"
+#include "SlideCaption.h"
 
 namespace tracewell {
 namespace {
@@ -35,9 +36,7 @@ class StateTexts {
 
   /// A slide that has neither been moved nor read still ends as its design does.
   std::string designCaption(const Slide& slide) const {
-    const std::string& caption = slide.caption();
-    const char* unit = &slide == &main_.slideTime ? " 0.00 Div" : " 0.00 V";
-    return caption.substr(0, caption.find(':') + 1) + unit;
+    return slideTitle(slide.caption()) + (&slide == &main_.slideTime ? " 0.00 Div" : " 0.00 V");
   }
 
   frmDSO& main_;
@@ -53,11 +52,20 @@ void LanguageMenu::mnbLA_Click(int language) {
   try {
     load(std::to_string(language));
   } catch (const Error&) {
-    load(before);
+    goBackTo(before);
     state.showAgain();
     throw;
   }
   state.showAgain();
+}
+
+/// As far as that is possible: the old files may have gone, too.
+void LanguageMenu::goBackTo(const std::string& number) {
+  try {
+    load(number);
+  } catch (const Error&) {
+    // The error of the new language is the one to tell.
+  }
 }
 
 void LanguageMenu::load(const std::string& number) {

@@ -17,6 +17,7 @@ class LanguageMenu {
 
  private:
   void load(const std::string& number);
+  void goBackTo(const std::string& number);
 
   frmDSO& main_;
   Captions& captions_;

@@ -4,6 +4,7 @@
 #include "CommandFile.h"
 #include "Files.h"
 #include "Numbers.h"
+#include "Paused.h"
 
 namespace tracewell {
 namespace {
@@ -33,10 +34,9 @@ frmCmd::frmCmd(frmDSO& main, ErrorLog& errorLog, Acquisition& acquisition, Comma
 }
 
 void frmCmd::cmdDSOcmd_Click() {
-  acquisition_.StopAcq();
+  const Paused paused(main_, acquisition_);
   main_.refresh();
   showModal();
-  acquisition_.ResumeAcq();
 }
 
 /// A command list that cannot be used is logged, and the console opens with what could be read: a

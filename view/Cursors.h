@@ -18,11 +18,10 @@ class Cursors {
   /// Steps the mode: Off, Time, Voltage, Off.
   void cmdCursor_Click();
 
+ private:
   /// Writes "Time", or both positions and their difference in volts or in the unit of the time
   /// scale. Raises "Type mismatch" when the time scale is not known yet.
   void UpdateCursorReadout();
-
- private:
   void showCursors(bool areVisible);
   std::string voltageReadout();
   std::string timeReadout();

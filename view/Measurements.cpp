@@ -5,7 +5,6 @@
 
 #include "ConnectionIndicator.h"
 #include "Numbers.h"
-#include "SettingsBurst.h"
 #include "Waiting.h"
 
 namespace tracewell {
@@ -122,6 +121,7 @@ std::string Measurements::askPatiently(int channel, const std::string& query) {
 }
 
 void Measurements::mnbFrequency_Click() {
+  if (isMeasuring_) return;
   quickSelection_.showModal();
   if (quickSelection_.tag == "1") cmdFMeasure_Click();
 }
@@ -136,8 +136,7 @@ void Measurements::cmdFMeasure_Click() {
 }
 
 void Measurements::measureQuickly() {
-  int& readTimeOut = main_.services().port.readTimeOut;
-  readTimeOut = ShortReplyTimeout(main_);
+  const ShortTimeOut shortTimeOut(main_, 1);
   exchange_.SendDSOCmd(sourceCommand(main_.FMeasChan));
   int label = 0;
   for (std::size_t item = 0; item < FreqMeasQuery.size(); ++item) {
@@ -146,7 +145,6 @@ void Measurements::measureQuickly() {
     main_.lblMeasure(label++).caption = std::string(FreqMeasName[item]) + reply;
     main_.refresh();
   }
-  readTimeOut = ReplyTimeout(main_);
 }
 
 }  // namespace tracewell

@@ -15,22 +15,23 @@ class Measurements {
   Measurements(frmDSO& main, CommandExchange& exchange, ErrorLog& errorLog,
                Acquisition& acquisition, frmVMeasure& selection, frmFMeasure& quickSelection);
 
-  /// Stops the acquisition, has the user choose, measures, and leaves the acquisition stopped. Does
-  /// nothing while a measurement is under way. Logs its failure, as the next one does.
+  /// While a measurement is under way none of the three does anything.
+  ///
+  /// Stops the acquisition, has the user choose, measures, and leaves the acquisition stopped. Logs
+  /// its failure, as the next one does.
   void cmdVMeasure_Click();
   /// Measures the times of one channel with the last choice. The acquisition goes on.
   void cmdFMeasure_Click();
   /// The same after the user has chosen.
   void mnbFrequency_Click();
 
+ private:
+  void chooseAndMeasure();
   /// Measures what is flagged of both channels, unless the choice was cancelled. A value that the
   /// instrument does not have is asked for up to three times more. Throws ProgramEnded when the
   /// window is closed in between.
   void RunMeasurements();
   void ClearMeasureLabels();
-
- private:
-  void chooseAndMeasure();
   void measureQuickly();
   void measureFlagged(int channel, std::span<const std::string_view> names,
                       std::span<const std::string_view> queries, int flagRow);

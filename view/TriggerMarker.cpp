@@ -1,27 +1,34 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "TriggerMarker.h"
 
+#include <optional>
+
 #include "ScaleTables.h"
 
 namespace tracewell {
 namespace {
 
-bool isSourceChannel2(const frmDSO& main) {
-  return main.gridMeasure.text(SetupTable::trigger, SetupTable::firstValue) == "1";
+/// Where the level lies on the trace of the trigger's source, in graph units; nothing for a source
+/// without a trace and for a scale that is not known.
+std::optional<double> levelHeight(const frmDSO& main) {
+  const std::string& source = main.gridMeasure.text(SetupTable::trigger, SetupTable::firstValue);
+  const bool isSecond = source == "1";
+  if (!isSecond && source != "0") return std::nullopt;
+  const ValueLabel& scale = isSecond ? main.lblChan2 : main.lblChan1;
+  const double voltsPerDivision = ParseScaleCaption(scale.caption());
+  if (voltsPerDivision == 0) return std::nullopt;
+  const double position = isSecond ? main.Ch2Pos : main.Ch1Pos;
+  return SharedState::unitsPerDivision * (main.slideTrig.value() / voltsPerDivision + position);
 }
 
 }  // namespace
 
 void UpdateTriggerMarker(frmDSO& main) {
-  const bool isSecond = isSourceChannel2(main);
-  const ValueLabel& scale = isSecond ? main.lblChan2 : main.lblChan1;
-  const double voltsPerDivision = ParseScaleCaption(scale.caption());
-  if (voltsPerDivision == 0) return;
-  const double position = isSecond ? main.Ch2Pos : main.Ch1Pos;
+  const std::optional<double> height = levelHeight(main);
   Cursor& marker = main.graphDSO.cursor("Triger");
   marker.style = CursorStyle::marker;
-  marker.yPosition =
-      SharedState::unitsPerDivision * (main.slideTrig.value() / voltsPerDivision + position);
+  marker.visible = main.TriggerLevelSet && height.has_value();
+  if (height) marker.yPosition = *height;
 }
 
 }  // namespace tracewell

@@ -119,9 +119,10 @@ TEST_F(SetupFilesTest, SetupThatCannotBeWrittenIsReportedAndStaysWhole) {
   EXPECT_FALSE(main.isLoaded());
 }
 
-/// The device that is always full.
-TEST(Files, FullDiskIsAnError) {
+/// The device that is always full, and a file whose first byte cannot be read.
+TEST(Files, FullDiskAndReadErrorAreErrors) {
   if (!fs::exists("/dev/full")) GTEST_SKIP();
+  EXPECT_THROW(readWholeFile("/proc/self/mem"), Error);
   const fs::path link = fs::temp_directory_path() / "tracewell-full.new";
   fs::remove(link);
   fs::create_symlink("/dev/full", link);

@@ -45,6 +45,21 @@ TEST_F(ConnectTest, ConnectReadsTheInstrumentAndStartsTheAcquisition) {
   EXPECT_EQ(port.wire, Lines{":SYST:UNL"});
 }
 
+/// The read-out of time cursors has no scale until the time base is read.
+TEST_F(ConnectTest, CursorsChosenBeforeDoNotEndTheReading) {
+  main.opTime.select();
+  main.slideTrig.drag(0.5);
+  EXPECT_FALSE(main.graphDSO.cursor("Triger").visible());
+  main.cmdStart.press();
+  EXPECT_EQ(port.wire.back(), "CHAN2:OFFS?");
+  EXPECT_TRUE(main.tmDSO.enabled());
+  EXPECT_EQ(logLines(), Lines(2, "Tracewell - InitDSO : Type mismatch"));
+  EXPECT_TRUE(main.graphDSO.axis("XAxis").caption().starts_with("P1 = "));
+  // One division above the trace's zero.
+  EXPECT_TRUE(main.graphDSO.cursor("Triger").visible());
+  EXPECT_EQ(main.graphDSO.cursor("Triger").yPosition(), 50 * (1 + 1.5));
+}
+
 TEST_F(ConnectTest, SilentInstrumentEndsAtTheFirstQuery) {
   port.replies.clear();
   main.cmdStart.press();

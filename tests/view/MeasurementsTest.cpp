@@ -142,11 +142,13 @@ TEST_F(MeasurementsTest, SecondMeasurementInsideTheFirstIsNotBegun) {
   port.answer(":MEAS:VAMP?", {"2\n"});
   clock.callAfter(0, [&] {
     main.cmdFMeasure.press();
+    main.mnbFrequency.choose();
     main.cmdVMeasure.press();
   });
   main.cmdVMeasure.press();
   EXPECT_EQ(takeWire(), (Lines{":MEAS:SOUR 1", ":MEAS:VPP?", ":MEAS:VAMP?", ":MEAS:SOUR 2"}));
   EXPECT_EQ(labels(2).back(), "Vamp(1)   : 2");
+  EXPECT_EQ(windows.shown, Lines{"frmVMeasure"});
   main.BaudRate = 0;
   main.cmdVMeasure.press();
   main.cmdFMeasure.press();
