@@ -35,14 +35,14 @@ class GraphBench {
     }
   }
 
-  GraphView view{nullptr};
-
  private:
   DesktopProgram program{"."};
   Window window{"frmBench", "", program.services};
   Graph graph{window, "graphDSO"};
   std::array<std::int16_t, SharedState::sampleCount> x{};
   std::array<std::int16_t, SharedState::sampleCount> y{};
+  /// Declared last: it lets go of the graph when it goes.
+  GraphView view{nullptr};
 };
 
 /// New data in all traces, then the frame that shows them, painted into the window.

@@ -5,6 +5,7 @@ include(GNUInstallDirs)
 set(CMAKE_INSTALL_DOCDIR ${CMAKE_INSTALL_DATAROOTDIR}/doc/tracewell)
 
 file(GLOB PROGRAM_FILES CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/data/*)
+set(READ_FIRST ${PROJECT_SOURCE_DIR}/README.md ${PROJECT_SOURCE_DIR}/CONTRIBUTING.md)
 set(DESKTOP_FILES ${PROJECT_SOURCE_DIR}/packaging/desktop)
 
 install(TARGETS tracewell krm410-sim COMPONENT system)
@@ -18,8 +19,8 @@ install(FILES ${PROJECT_SOURCE_DIR}/desktop/tracewell.svg
 install(FILES ${PROJECT_SOURCE_DIR}/desktop/tracewell.png
         DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/256x256/apps COMPONENT system)
 install(FILES ${DESKTOP_FILES}/copyright DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT system)
-install(FILES ${PROJECT_SOURCE_DIR}/README.md DESTINATION ${CMAKE_INSTALL_DOCDIR}
-        COMPONENT system)
+install(FILES ${READ_FIRST} DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT system)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT system)
 
 # Compressed without a time stamp, so that the same sources make the same package.
 function(install_compressed SOURCE NAME DESTINATION)
@@ -34,7 +35,9 @@ install_compressed(${DESKTOP_FILES}/tracewell.1 tracewell.1.gz ${CMAKE_INSTALL_M
 install_compressed(${DESKTOP_FILES}/krm410-sim.1 krm410-sim.1.gz ${CMAKE_INSTALL_MANDIR}/man1)
 
 install(TARGETS tracewell krm410-sim RUNTIME DESTINATION . COMPONENT portable EXCLUDE_FROM_ALL)
-install(FILES ${PROGRAM_FILES} README.md LICENSE DESTINATION . COMPONENT portable EXCLUDE_FROM_ALL)
+install(FILES ${PROGRAM_FILES} ${READ_FIRST} LICENSE DESTINATION . COMPONENT portable
+        EXCLUDE_FROM_ALL)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs DESTINATION . COMPONENT portable EXCLUDE_FROM_ALL)
 
 set(CPACK_GENERATOR DEB TGZ)
 set(CPACK_PACKAGE_NAME tracewell)
@@ -44,7 +47,11 @@ set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION electronics)
+# Without it the package would come out without its dependencies, and nobody would be told.
+find_program(SHLIBDEPS dpkg-shlibdeps REQUIRED)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+# Screens that are no X server, and the words of the Chinese entries.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland, fonts-wqy-microhei")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
 "front panel of a two-channel storage oscilloscope
  Tracewell operates the KRM-410, a two-channel digital storage oscilloscope on

@@ -18,9 +18,12 @@ namespace {
 const QColor noteColour(255, 235, 59);
 const QColor noteShadow(0, 0, 0, 160);
 
-QFont noteFont() {
+/// Of the same share of every picture, whatever the screen's resolution was.
+QFont noteFont(const QImage& picture) {
+  constexpr int smallest = 16;
+  constexpr int partOfWidth = 50;
   QFont font;
-  font.setPixelSize(16);
+  font.setPixelSize(qMax(smallest, picture.width() / partOfWidth));
   font.setBold(true);
   return font;
 }
@@ -51,7 +54,7 @@ Image DesktopPictures::graphImage(const Graph& graph, const std::string& footnot
 Image DesktopPictures::withText(const Image& image, const std::string& text, int x, int y) {
   QImage picture = toQt(image);
   QPainter painter(&picture);
-  painter.setFont(noteFont());
+  painter.setFont(noteFont(picture));
   const QRect place(x, y, picture.width(), picture.height());
   painter.setPen(noteShadow);
   painter.drawText(place.translated(1, 1), Qt::AlignLeft | Qt::AlignTop, toQt(text));

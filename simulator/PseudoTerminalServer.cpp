@@ -14,12 +14,15 @@
 #include <chrono>
 #include <cmath>
 #include <csignal>
+#include <filesystem>
+#include <iostream>
 #include <system_error>
-#include <thread>
 #include <utility>
 
 namespace tracewell {
 namespace {
+
+namespace fs = std::filesystem;
 
 volatile std::sig_atomic_t isAskedToEnd = 0;
 
@@ -70,13 +73,15 @@ void PseudoTerminalServer::plugIn() {
   cfmakeraw(&attributes);
   orRaise(tcsetattr(terminal_, TCSANOW, &attributes), "tcsetattr");
   if (options_.link.empty()) return;
-  unlink(options_.link.c_str());
+  // A link may be left over from before. What is no link is somebody's file and stays.
+  if (fs::is_symlink(fs::symlink_status(options_.link))) unlink(options_.link.c_str());
   orRaise(symlink(path_.c_str(), options_.link.c_str()), "symlink");
 }
 
 void PseudoTerminalServer::pullPlug() {
   if (controller_ < 0) return;
-  if (!options_.link.empty()) unlink(options_.link.c_str());
+  std::error_code ignored;
+  if (fs::read_symlink(options_.link, ignored) == path_) unlink(options_.link.c_str());
   close(terminal_);
   close(std::exchange(controller_, -1));
 }
@@ -98,7 +103,9 @@ void PseudoTerminalServer::serve() {
     if (!instrument_.hasHungUp()) continue;
     pullPlug();
     if (options_.replugAfter < 0) return;
-    std::this_thread::sleep_for(std::chrono::milliseconds(options_.replugAfter));
+    // A signal ends this wait, too.
+    poll(nullptr, 0, options_.replugAfter);
+    if (isAskedToEnd) return;
     plugIn();
   }
 }
@@ -123,10 +130,12 @@ void PseudoTerminalServer::takeFaultLines() {
   hasStandardInput_ = count > 0;
   for (ssize_t i = 0; i < count; ++i) {
     const char byte = buffer[static_cast<std::size_t>(i)];
-    if (byte != '\n')
+    if (byte != '\n') {
       faultLine_ += byte;
-    else
-      instrument_.setFault(std::exchange(faultLine_, {}));
+      continue;
+    }
+    if (!instrument_.setFault(faultLine_)) std::cerr << "no such fault: " << faultLine_ << "\n";
+    faultLine_.clear();
   }
 }
 

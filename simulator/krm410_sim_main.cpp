@@ -35,6 +35,18 @@ int number(std::string_view text) {
   return value;
 }
 
+int oneOf(std::string_view text, int first, int second) {
+  const int value = number(text);
+  if (value != first && value != second) throw UsageError();
+  return value;
+}
+
+bool hasParity(std::string_view text) {
+  if (text == "none") return false;
+  if (text == "odd" || text == "even") return true;
+  throw UsageError();
+}
+
 tracewell::PseudoTerminalServer::Options readOptions(int count, char** arguments,
                                                      tracewell::Instrument& instrument) {
   tracewell::PseudoTerminalServer::Options options;
@@ -47,11 +59,11 @@ tracewell::PseudoTerminalServer::Options readOptions(int count, char** arguments
     } else if (name == "--baud") {
       options.rate.baudRate = std::max(number(value), 1);
     } else if (name == "--data-bits") {
-      options.rate.dataBits = number(value);
+      options.rate.dataBits = oneOf(value, 7, 8);
     } else if (name == "--parity") {
-      options.rate.hasParity = value != "none";
+      options.rate.hasParity = hasParity(value);
     } else if (name == "--stop-bits") {
-      options.rate.stopBits = number(value);
+      options.rate.stopBits = oneOf(value, 1, 2);
     } else if (name == "--replug") {
       options.replugAfter = number(value);
     } else if (name != "--fault" || !instrument.setFault(value)) {

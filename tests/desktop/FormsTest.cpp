@@ -101,16 +101,19 @@ TEST_F(FormsTest, EveryControlHasANameForScreenReaders) {
   EXPECT_EQ(close->text(QAccessible::Name), QStringLiteral("Fermer"));
 }
 
-TEST_F(FormsTest, EveryFormHasAWindowAndEveryControlAndLanguageChangesInAnInstant) {
+TEST_F(FormsTest, EveryFormHasAWindowAndEveryControl) {
   Lines names = {"frmDSO"};
   forEachDialog([&](Window& window, QWidget&) {
     names.push_back(window.name());
     for (Control* control : window.controls())
       EXPECT_TRUE(control->changed) << control->objectName();
-    window.load();
   });
   std::ranges::sort(names);
   EXPECT_EQ(names, formNames());
+}
+
+TEST_F(FormsTest, LanguageChangesInAnInstant) {
+  for (Window* window : program.otherWindows()) window->load();
   QElapsedTimer timer;
   timer.start();
   main.mnbLA2.choose();
