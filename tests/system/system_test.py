@@ -11,6 +11,14 @@ from real_desktop import KNOB_CHAN1, SystemTestCase, TRACEWELL, main, run, wait_
 
 
 class SystemTest(SystemTestCase):
+    def choose_port(self, program, number):
+        program.keys("ctrl+r")
+        program.focus(program.find("RS-232"))
+        program.keys("Tab", "Tab", "Tab", "Tab", "ctrl+a")
+        program.type(str(number))
+        program.keys("Return")
+        program.focus(program.window)
+
     def test_newcomer_presses_connect(self):
         program = self.make_program(0)
         program.start()
@@ -35,12 +43,7 @@ class SystemTest(SystemTestCase):
         program = self.make_program(0)
         self.make_instrument(program)
         program.start()
-        program.keys("ctrl+r")
-        program.focus(program.find("RS-232"))
-        program.keys("Tab", "Tab", "Tab", "Tab", "ctrl+a")
-        program.type("7")
-        program.keys("Return")
-        program.focus(program.window)
+        self.choose_port(program, 7)
         program.keys("F5")
         self.expect_live_trace()
         program.close()
@@ -104,12 +107,7 @@ class SystemTest(SystemTestCase):
         program.start()
         program.keys("F5")
         self.expect_live_trace()
-        program.keys("ctrl+r")
-        program.focus(program.find("RS-232"))
-        program.keys("Tab", "Tab", "Tab", "Tab", "ctrl+a")
-        program.type("7")
-        program.keys("Return")
-        program.focus(program.window)
+        self.choose_port(program, 7)
         program.keys("ctrl+r")
         program.find("RS-232")
         program.process.terminate()
