@@ -27,11 +27,6 @@ void showStopped(frmDSO& main) {
   main.cmdStart.caption = main.Msg[3];
 }
 
-void runAcquisition(frmDSO& main) {
-  main.tmDSO.enabled = true;
-  showRunning(main);
-}
-
 void showConnectFailed(frmDSO& main) {
   main.lblConnect.caption = main.Msg[9];
 }

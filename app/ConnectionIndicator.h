@@ -12,8 +12,6 @@ void showWaitingForConnect(frmDSO& main);
 void showRunning(frmDSO& main);
 /// Red lamp, message 8; the button reads message 3.
 void showStopped(frmDSO& main);
-/// Starts the periodic acquisition and shows that it runs: how the settings dialogs end.
-void runAcquisition(frmDSO& main);
 /// Message 9; lamp and button stay.
 void showConnectFailed(frmDSO& main);
 

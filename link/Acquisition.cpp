@@ -90,6 +90,11 @@ void Acquisition::ResumeAcq() {
   main_.cmdStart.caption = main_.Msg[3];
 }
 
+void Acquisition::RunAcq() {
+  main_.tmDSO.enabled = true;
+  showRunning(main_);
+}
+
 void Acquisition::cmdRunStop_Click() {
   if (main_.cmdRunStop.caption() != main_.Msg[5]) {
     exchange_.SendDSOCmd(":Stop");

@@ -28,6 +28,8 @@ class Acquisition {
   /// images: resuming needs no pausing before, and leaves message 3 on the start button.
   void StopAcq();
   void ResumeAcq();
+  /// How the settings dialogs end: starts the periodic fetch and leaves message 2 on the button.
+  void RunAcq();
 
   /// Runs or stops the instrument's own acquisition; the periodic fetch goes on.
   void cmdRunStop_Click();

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ChannelControls.h"
 
-#include "ConnectionIndicator.h"
 #include "Numbers.h"
 #include "SlideCaption.h"
 #include "WaitingNotice.h"
@@ -96,7 +95,7 @@ void ChannelControls::editSettings(const Channel& channel) {
     readSettings(channel);
     channelDialog_.showModal();
     if (channelDialog_.tag == "1") burst_.writeAndVerify(channel.queries, channel.setupRow, 1);
-    runAcquisition(main_);
+    acquisition_.RunAcq();
     instrument_.readScale(channelStem(channel.number) + "SCAL?", channel.kind, channel.scale,
                           channel.knob);
   });

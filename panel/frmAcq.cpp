@@ -3,7 +3,6 @@
 
 #include <array>
 
-#include "ConnectionIndicator.h"
 #include "ScaleTables.h"
 #include "SettingsBurst.h"
 #include "Waiting.h"
@@ -31,7 +30,7 @@ void frmAcq::cmdAcq_Click() {
     showSettings();
     showModal();
     if (tag == "1") sendSettings();
-    runAcquisition(main_);
+    acquisition_.RunAcq();
   } catch (const Error& error) {
     errorLog_.ErrLog(error, "cmdAcq_Click : ");
   }

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "frmDisplay.h"
 
-#include "ConnectionIndicator.h"
 #include "Numbers.h"
 #include "ScaleTables.h"
 #include "SettingsBurst.h"
@@ -46,7 +45,7 @@ void frmDisplay::cmdDisplay_Click() {
     readSettings();
     showModal();
     if (tag == "1") sendBrightness();
-    runAcquisition(main_);
+    acquisition_.RunAcq();
   } catch (const Error& error) {
     errorLog_.ErrLog(error, "cmdDisplay_Click : ");
   }

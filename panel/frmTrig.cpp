@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "frmTrig.h"
 
-#include "ConnectionIndicator.h"
 #include "Numbers.h"
 #include "ScaleTables.h"
 #include "TriggerMarker.h"
@@ -45,7 +44,7 @@ void frmTrig::cmdTrig_Click() {
   if (tag != "0") burst_.writeAndVerify(TrigQuery, SetupTable::trigger, 0);
   if (tag == "2") burst_.writeAndVerify(TrigAdvQuery, SetupTable::advancedTrigger, 0);
   UpdateTriggerMarker(main_);
-  runAcquisition(main_);
+  acquisition_.RunAcq();
 }
 
 /// Setting a box runs its click, so the instrument's values go into the table, too.
