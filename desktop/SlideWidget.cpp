@@ -86,7 +86,9 @@ void SlideWidget::paintEvent(QPaintEvent*) {
   painter.setPen(QPen(groove.darker(130), 6, Qt::SolidLine, Qt::RoundCap));
   painter.drawLine(pointAt(positionOf(minimum_), 0), pointAt(positionOf(maximum_), 0));
   const double spacing = maximum_ - minimum_ > mostMarks ? (maximum_ - minimum_) / 10 : 1;
-  for (double mark = std::ceil(minimum_); mark <= maximum_; mark += spacing) {
+  const int marks = static_cast<int>((maximum_ - std::ceil(minimum_)) / spacing) + 1;
+  for (int i = 0; i < marks; ++i) {
+    const double mark = std::ceil(minimum_) + i * spacing;
     QColor colour = text;
     colour.setAlphaF(mark == 0 ? 0.95F : 0.45F);
     painter.setPen(QPen(colour, mark == 0 ? 2 : 1));

@@ -111,7 +111,7 @@ TEST_F(SetupFilesTest, SetupThatCannotBeWrittenIsReportedAndStaysWhole) {
   const std::string old = readWholeFile(setup);
   main.gridMeasure.setText(0, 0, "new");
   fs::create_directory(folder.path() / "default.dso.new");
-  std::ofstream(folder.path() / "default.dso.new" / "in the way");
+  const std::ofstream inTheWay(folder.path() / "default.dso.new" / "file");
   main.close();
   ASSERT_EQ(dialogs.messages.size(), 1u);
   EXPECT_NE(dialogs.messages[0].find(pathText(setup)), std::string::npos);

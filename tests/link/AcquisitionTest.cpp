@@ -37,7 +37,7 @@ TEST_F(AcquisitionTest, DecodingOfEveryKindOfSample) {
       {0x8001, -2, 5}};
   for (const auto& [bits, offset, expected] : cases) {
     const Samples samples =
-        decodeSamples(makeRecord([&](int i) { return i == 0 ? 7 : bits; }), offset);
+        decodeSamples(makeRecord([bits = bits](int i) { return i == 0 ? 7 : bits; }), offset);
     EXPECT_EQ(samples[0], 7 + offset);
     EXPECT_EQ(samples[499], expected) << std::hex << bits;
   }

@@ -134,7 +134,7 @@ TEST_F(CaptionsTest, CaptionsGoToTheirWindowInOnePass) {
 TEST_F(CaptionsTest, FileThatCannotBeUsedIsOneErrorThatNamesIt) {
   const std::string whole = readWholeFile(folder.path() / "dso_la1.cap");
   Lines files = {"//RS232,a,b\r\n", "//DSO,a,b\n//RS232,c,d\n",
-                 "//DSO," + std::string(10'000'000, 'x') + "\r\n"};
+                 "//DSO," + std::string(std::size_t{10} << 20, 'x') + "\r\n"};
   for (std::size_t length = 0; length <= whole.size(); length += length < 300 ? 1 : 97)
     files.push_back(whole.substr(0, length));
   int refused = 0;
