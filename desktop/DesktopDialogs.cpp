@@ -5,6 +5,7 @@
 #include <QColorDialog>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <iostream>
 
 #include "Text.h"
 
@@ -48,7 +49,10 @@ Answer DesktopDialogs::askYesNo(const std::string& prompt, const std::string& ti
 }
 
 void DesktopDialogs::showMessage(const std::string& text) {
-  QMessageBox::warning(windowInUse(), QStringLiteral("Tracewell"), toQt(text));
+  if (isAlone_)
+    std::cerr << "tracewell: " << text << "\n";
+  else
+    QMessageBox::warning(windowInUse(), QStringLiteral("Tracewell"), toQt(text));
 }
 
 void DesktopDialogs::showRunTimeError(const Error& error) {

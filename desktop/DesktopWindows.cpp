@@ -5,6 +5,8 @@
 #include <QCoreApplication>
 #include <QDialog>
 #include <QMainWindow>
+#include <QMenuBar>
+#include <QShortcut>
 
 #include "Binder.h"
 #include "Control.h"
@@ -24,6 +26,7 @@ class DesktopWindows::Form : public QObject {
     window.changed = [this] { widget_->setWindowTitle(toQt(window_.caption())); };
     window.changed();
     widget_->installEventFilter(this);
+    if (isMain()) reachMenusByKey();
   }
   ~Form() override {
     window_.changed = {};
@@ -46,9 +49,19 @@ class DesktopWindows::Form : public QObject {
     return true;
   }
 
-  bool isMain() const { return qobject_cast<QMainWindow*>(widget_.get()) != nullptr; }
+  bool isMain() const { return mainWindow() != nullptr; }
 
  private:
+  QMainWindow* mainWindow() const { return qobject_cast<QMainWindow*>(widget_.get()); }
+
+  /// The captions of the menus come from files and name no keys.
+  void reachMenusByKey() {
+    auto* const key = new QShortcut(Qt::Key_F10, widget_.get());
+    QMenuBar* const menus = mainWindow()->menuBar();
+    connect(key, &QShortcut::activated, menus,
+            [menus] { menus->setActiveAction(menus->actions().value(0)); });
+  }
+
   Window& window_;
   std::unique_ptr<QWidget> widget_;
 };

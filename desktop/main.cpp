@@ -14,6 +14,9 @@ int main(int argumentCount, char** arguments) {
   tracewell::applyTheme(application);
 
   tracewell::DesktopProgram program(tracewell::programFolder());
-  const tracewell::Termination termination([&] { program.program.main.close(); });
+  const tracewell::Termination termination([&] {
+    program.dialogs.goOnAlone();
+    program.program.main.close();
+  });
   return program.start() ? QApplication::exec() : EXIT_FAILURE;
 }

@@ -7,6 +7,8 @@ namespace tracewell {
 
 frmMsg::frmMsg(frmDSO& main) : Window("frmMsg", "Message", main.services()) {
   tmMsg_.timer = [this] { tmMsg_Timer(); };
+  // It goes when the instrument is done, and not before.
+  formClose = [] {};
 }
 
 void frmMsg::showProgress(int milliseconds) {

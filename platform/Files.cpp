@@ -15,7 +15,9 @@ namespace fs = std::filesystem;
 
 Error fileError(int number, const std::string& what, const fs::path& path,
                 const std::error_code& reason = {}) {
-  std::string text = what + ": " + pathText(path);
+  std::error_code ignored;
+  const fs::path whole = fs::absolute(path, ignored);
+  std::string text = what + ": " + pathText(whole.empty() ? path : whole);
   if (reason) text += " (" + reason.message() + ")";
   return {number, "Tracewell", text};
 }

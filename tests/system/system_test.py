@@ -114,6 +114,15 @@ class SystemTest(SystemTestCase):
         self.assertEqual(program.process.wait(10), 0)
         self.assertIn(b",None,7\r\n", program.setup.read_bytes())
 
+    def test_end_of_the_session_asks_nothing(self):
+        program = self.make_program(0)
+        damaged = program.setup.read_bytes().replace(b"RRS232,5", b"RRS232,x")
+        program.setup.write_bytes(damaged)
+        program.start()
+        program.process.terminate()
+        self.assertEqual(program.process.wait(10), 0)
+        self.assertEqual(program.setup.read_bytes(), damaged)
+
     def test_kill_leaves_the_setup_whole(self):
         program = self.make_program(0)
         whole = program.setup.read_bytes()
