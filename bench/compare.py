@@ -12,7 +12,7 @@ import time
 
 HERE = pathlib.Path(__file__).resolve().parent
 sys.path.insert(0, str(HERE.parent / "tests" / "system"))
-from real_desktop import Instrument, Program, Screen  # noqa: E402
+from real_desktop import Instrument, Program, Screen, resident_kilobytes  # noqa: E402
 
 BENCHMARKS = pathlib.Path(sys.argv[4]).resolve()
 RECORDS = 20
@@ -26,13 +26,6 @@ def benchmark_milliseconds(program, name):
                            "--benchmark_format=csv"], capture_output=True, text=True).stdout
     row = next(line.split(",") for line in text.splitlines() if line.startswith(f'"{name}"'))
     return float(row[2]) * {"ns": 1e-6, "us": 1e-3, "ms": 1}[row[4]]
-
-
-def resident_kilobytes(pid):
-    for line in pathlib.Path(f"/proc/{pid}/status").read_text().splitlines():
-        if line.startswith("VmRSS:"):
-            return int(line.split()[1])
-    raise ProcessLookupError(pid)
 
 
 def start_up(command, title, **options):

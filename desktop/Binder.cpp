@@ -61,65 +61,52 @@ void showWith(Control& control, Object* object, Show show) {
   control.changed();
 }
 
-/// Calls `action` when the user double-clicks the watched widget.
-class DoubleClickFilter : public QObject {
+/// Shows every event of the watched object to `action` first, which says whether it has used it up.
+class EventWatch : public QObject {
  public:
-  DoubleClickFilter(QObject* watched, std::function<void()> action)
-      : QObject(watched), action_(std::move(action)) {
+  using Action = std::function<bool(const QEvent&)>;
+  EventWatch(QObject* watched, Action action) : QObject(watched), action_(std::move(action)) {
     watched->installEventFilter(this);
   }
-  bool eventFilter(QObject*, QEvent* event) override {
-    if (event->type() != QEvent::MouseButtonDblClick) return false;
-    action_();
-    return true;
-  }
+  bool eventFilter(QObject*, QEvent* event) override { return action_(*event); }
 
  private:
-  std::function<void()> action_;
+  Action action_;
 };
 
-/// Calls `action` when the user has pressed a key in the watched list, which moves through it.
-/// Focus alone, which also gives a list its current entry, is no choice, and neither is the release
-/// of a key that was pressed elsewhere.
-class MoveKeyFilter : public QObject {
- public:
-  MoveKeyFilter(QObject* watched, std::function<void()> action)
-      : QObject(watched), action_(std::move(action)) {
-    watched->installEventFilter(this);
-  }
-  bool eventFilter(QObject*, QEvent* event) override {
-    if (event->type() == QEvent::KeyPress && !static_cast<QKeyEvent*>(event)->isAutoRepeat())
-      isPressed_ = true;
-    else if (event->type() == QEvent::FocusOut)
-      isPressed_ = false;
-    else if (event->type() == QEvent::KeyRelease && std::exchange(isPressed_, false))
-      action_();
+void onDoubleClick(QObject* watched, const std::function<void()>& action) {
+  new EventWatch(watched, [action](const QEvent& event) {
+    const bool isDoubleClick = event.type() == QEvent::MouseButtonDblClick;
+    if (isDoubleClick) action();
+    return isDoubleClick;
+  });
+}
+
+/// For Enter, which a dialog would otherwise take for its default button.
+void onEnter(QObject* watched, const std::function<void()>& action) {
+  new EventWatch(watched, [action](const QEvent& event) {
+    if (event.type() != QEvent::KeyPress) return false;
+    const int key = static_cast<const QKeyEvent&>(event).key();
+    const bool isEnter = key == Qt::Key_Return || key == Qt::Key_Enter;
+    if (isEnter) action();
+    return isEnter;
+  });
+}
+
+/// When the user has pressed a key in a list, which moves through it. Focus alone, which also gives
+/// a list its current entry, is no choice, and neither is the release of a key that was pressed
+/// elsewhere.
+void onMoveByKey(QObject* list, const std::function<void()>& action) {
+  new EventWatch(list, [action, isPressed = false](const QEvent& event) mutable {
+    if (event.type() == QEvent::KeyPress && !static_cast<const QKeyEvent&>(event).isAutoRepeat())
+      isPressed = true;
+    else if (event.type() == QEvent::FocusOut)
+      isPressed = false;
+    else if (event.type() == QEvent::KeyRelease && std::exchange(isPressed, false))
+      action();
     return false;
-  }
-
- private:
-  std::function<void()> action_;
-  bool isPressed_ = false;
-};
-
-/// Calls `action` for Enter, which a dialog would otherwise take for its default button.
-class EnterFilter : public QObject {
- public:
-  EnterFilter(QObject* watched, std::function<void()> action)
-      : QObject(watched), action_(std::move(action)) {
-    watched->installEventFilter(this);
-  }
-  bool eventFilter(QObject*, QEvent* event) override {
-    if (event->type() != QEvent::KeyPress) return false;
-    const int key = static_cast<QKeyEvent*>(event)->key();
-    if (key != Qt::Key_Return && key != Qt::Key_Enter) return false;
-    action_();
-    return true;
-  }
-
- private:
-  std::function<void()> action_;
-};
+  });
+}
 
 template <class AnyLabel>
 QLabel* bindLabel(AnyLabel& control, QWidget& form) {
@@ -132,7 +119,7 @@ QLabel* bindLabel(AnyLabel& control, QWidget& form) {
 
 void bind(Label& control, QWidget& form) {
   QLabel* label = bindLabel(control, form);
-  if (control.doubleClicked) new DoubleClickFilter(label, [&control] { control.doubleClick(); });
+  if (control.doubleClicked) onDoubleClick(label, [&control] { control.doubleClick(); });
 }
 
 void bind(ValueLabel& control, QWidget& form) {
@@ -318,7 +305,7 @@ void bind(ListBox& control, QWidget& form) {
   });
   QObject::connect(list, &QListWidget::itemClicked, list,
                    [&control, list] { control.choose(list->currentRow()); });
-  new MoveKeyFilter(list, [&control, list] {
+  onMoveByKey(list, [&control, list] {
     const int row = list->currentRow();
     if (row >= 0 && row != control.chosen()) control.choose(row);
   });
@@ -327,7 +314,7 @@ void bind(ListBox& control, QWidget& form) {
     if (list->currentRow() >= 0) control.open(list->currentRow());
   };
   QObject::connect(list, &QListWidget::itemDoubleClicked, list, open);
-  new EnterFilter(list, open);
+  onEnter(list, open);
 }
 
 void fillTree(QTreeWidget& tree, const std::vector<Tree::Node>& nodes) {
@@ -353,7 +340,7 @@ void bind(Tree& control, QWidget& form) {
       control.choose(tree->currentItem()->data(0, Qt::UserRole).toInt());
   };
   QObject::connect(tree, &QTreeWidget::itemClicked, tree, choose);
-  new MoveKeyFilter(tree, choose);
+  onMoveByKey(tree, choose);
 }
 
 void bind(PictureBox& control, QWidget& form) {

@@ -11,12 +11,12 @@
 #include <cmath>
 
 #include "Graph.h"
+#include "SharedState.h"
 #include "Text.h"
 
 namespace tracewell {
 namespace {
 
-constexpr double unitsPerDivision = 50;
 /// How near to a cursor the mouse takes hold of it. Pixels.
 constexpr qreal grip = 6;
 /// Wide enough to read from afar, and still a frame in two milliseconds.
@@ -28,7 +28,7 @@ const QColor noteColour(255, 171, 64);
 /// Ticks at whole divisions, five small ones between; no numbers.
 QSharedPointer<QCPAxisTicker> divisionTicker() {
   auto ticker = QSharedPointer<QCPAxisTickerFixed>::create();
-  ticker->setTickStep(unitsPerDivision);
+  ticker->setTickStep(SharedState::unitsPerDivision);
   return ticker;
 }
 
@@ -174,7 +174,7 @@ void GraphView::showAxes() {
                                 : plot_->axisRect()->height() / (y.maximum() - y.minimum());
     QPen pen = ticks;
     // Dash lengths count in pen widths: one pixel drawn, the rest of a fifth of a division not.
-    const qreal spacing = length * unitsPerDivision / 5;
+    const qreal spacing = length * SharedState::unitsPerDivision / 5;
     pen.setDashPattern({1.0 / 5, qMax(0.2, (spacing - 1) / 5)});
     centreLines_[i]->setPen(pen);
     centreLines_[i]->start->setCoords(ends[i][0], ends[i][1]);

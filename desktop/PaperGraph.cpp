@@ -4,6 +4,7 @@
 #include <QPolygonF>
 #include <array>
 
+#include "SharedState.h"
 #include "Text.h"
 
 namespace tracewell {
@@ -11,7 +12,6 @@ namespace {
 
 constexpr int divisionsAcross = 10;
 constexpr int divisionsUp = 8;
-constexpr double unitsPerDivision = 50;
 
 struct Ink {
   QColor colour;
@@ -52,8 +52,8 @@ void paintGrid(QPainter& painter, const QRectF& grid, qreal unit) {
 }
 
 QPolygonF lineOf(const GraphPage::Trace& trace, const QRectF& grid) {
-  const qreal perUnitAcross = grid.width() / (divisionsAcross * unitsPerDivision);
-  const qreal perUnitUp = grid.height() / (divisionsUp * unitsPerDivision);
+  const qreal perUnitAcross = grid.width() / (divisionsAcross * SharedState::unitsPerDivision);
+  const qreal perUnitUp = grid.height() / (divisionsUp * SharedState::unitsPerDivision);
   QPolygonF line;
   for (std::size_t i = 0; i < trace.x.size(); ++i)
     line << QPointF(grid.center().x() + trace.x[i] * perUnitAcross,

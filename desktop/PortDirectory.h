@@ -17,8 +17,6 @@ namespace tracewell {
 /// link "comN" in the program folder stands for number N whatever its range.
 class PortDirectory : public ChannelOpener, public PortList {
  public:
-  static constexpr std::int16_t simulatedPort = 0;
-
   PortDirectory(std::filesystem::path programFolder, Clock& clock);
 
   std::unique_ptr<ByteChannel> open(const LineSettings& settings) override;

@@ -45,6 +45,11 @@ bool isLanguageFile(const fs::path& path) {
   return path.extension() == ".cap" || path.extension() == ".msg";
 }
 
+bool holdsProgramFiles(const fs::path& folder) {
+  std::error_code ignored;
+  return fs::exists(folder / "dso_la1.msg", ignored);
+}
+
 }  // namespace
 
 /// What cannot be copied is missed, and named, when it is first read.
@@ -67,15 +72,6 @@ void fillProgramFolder(const fs::path& from, const fs::path& to) {
     // The next start copies again.
   }
 }
-
-namespace {
-
-bool holdsProgramFiles(const fs::path& folder) {
-  std::error_code ignored;
-  return fs::exists(folder / "dso_la1.msg", ignored);
-}
-
-}  // namespace
 
 fs::path programFolder() {
   const QString own = QCoreApplication::applicationDirPath();

@@ -10,6 +10,7 @@
 #include <unistd.h>
 
 #include <array>
+#include <cerrno>
 #include <csignal>
 #endif
 
@@ -24,8 +25,10 @@ constexpr std::array<int, 3> endingSignals = {SIGTERM, SIGINT, SIGHUP};
 std::array<int, 2> signalPipe = {-1, -1};
 
 void signalled(int) {
+  const int interrupted = errno;
   const char byte = 0;
   static_cast<void>(!::write(signalPipe[1], &byte, 1));
+  errno = interrupted;
 }
 
 }  // namespace

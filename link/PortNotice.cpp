@@ -2,11 +2,6 @@
 #include "PortNotice.h"
 
 namespace tracewell {
-namespace {
-
-constexpr std::int16_t simulatedPort = 0;
-
-}  // namespace
 
 void showPort(frmDSO& main, std::int16_t portNumber) {
   const std::string device = main.services().ports.deviceOf(portNumber);
@@ -15,7 +10,7 @@ void showPort(frmDSO& main, std::int16_t portNumber) {
 }
 
 void markTrace(frmDSO& main) {
-  const bool isSimulated = main.services().port.openPort() == simulatedPort;
+  const bool isSimulated = main.services().port.openPort() == PortList::simulatedPort;
   main.graphDSO.note = isSimulated ? "SIMULATED" : "";
 }
 

@@ -63,6 +63,9 @@ class PortList {
  public:
   virtual ~PortList() = default;
 
+  /// The simulated instrument that the program carries.
+  static constexpr std::int16_t simulatedPort = 0;
+
   struct Entry {
     std::int16_t number;
     /// The device's name, for example "ttyUSB0" or "simulated instrument".

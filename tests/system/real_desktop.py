@@ -31,6 +31,13 @@ def wait_for(condition, seconds, what):
     raise AssertionError(f"{what}: not within {seconds} seconds")
 
 
+def resident_kilobytes(pid):
+    for line in pathlib.Path(f"/proc/{pid}/status").read_text().splitlines():
+        if line.startswith("VmRSS:"):
+            return int(line.split()[1])
+    raise ProcessLookupError(pid)
+
+
 def run(*command):
     return subprocess.run(command, check=True, capture_output=True, text=True).stdout
 

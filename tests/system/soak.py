@@ -7,19 +7,11 @@ processor's share each minute, and fails when the memory of the last minute is m
 that of the second.
 """
 
-import pathlib
 import time
 
-from real_desktop import SystemTestCase, main, run
+from real_desktop import SystemTestCase, main, resident_kilobytes, run
 
 MINUTES = 10
-
-
-def resident_kilobytes(process):
-    for line in pathlib.Path(f"/proc/{process.pid}/status").read_text().splitlines():
-        if line.startswith("VmRSS:"):
-            return int(line.split()[1])
-    raise AssertionError("no VmRSS")
 
 
 class Soak(SystemTestCase):
@@ -35,7 +27,7 @@ class Soak(SystemTestCase):
             before = program.processor_seconds()
             time.sleep(60)
             share = 100 * (program.processor_seconds() - before) / 60
-            figures.append(resident_kilobytes(program.process))
+            figures.append(resident_kilobytes(program.process.pid))
             print(f"minute {minute}: {figures[-1]} kB, {share:.2f} % of a core", flush=True)
         self.expect_live_trace()
         self.assertLess(figures[-1], figures[1] * 1.01)
