@@ -31,9 +31,9 @@ void InstrumentState::InitDSO() {
     if (main_.lblChan1.caption().empty())
       main_.lblChan1.caption = exchange_.SendDSOCmd(":CHAN1:SCAL?");
     showScale(ScaleKnob::Chan1, main_.lblChan1, main_.knobChan1);
-    main_.lblChan2.caption = trimmed(askTwice(":CHAN2:SCAL?"));
+    main_.lblChan2.caption = scaleReply(":CHAN2:SCAL?");
     showScale(ScaleKnob::Chan2, main_.lblChan2, main_.knobChan2);
-    main_.lblTime.caption = trimmed(askTwice(":TIM:SCAL?"));
+    main_.lblTime.caption = scaleReply(":TIM:SCAL?");
     showScale(ScaleKnob::Time, main_.lblTime, main_.knobTime);
     readChannel1Position();
     readChannel2Position();
@@ -58,17 +58,15 @@ void InstrumentState::readScale(const std::string& query, ScaleKnob kind, ValueL
   showScale(kind, label, knob);
 }
 
-/// The knob sends the scale back and has the cursors read out anew. Those may still miss the other
-/// scales, which is no reason not to read them.
 void InstrumentState::showScale(ScaleKnob kind, ValueLabel& label, Knob& knob) {
   label.refresh();
-  const auto step = ScaleStepForReply(kind, label.caption());
-  if (!step) return;
-  try {
-    knob.value = *step;
-  } catch (const Error& error) {
-    errorLog_.ErrLog(error, "InitDSO : ");
-  }
+  if (const auto step = ScaleStepForReply(kind, label.caption())) knob.value = *step;
+}
+
+/// A second reply counts as it stands.
+std::string InstrumentState::scaleReply(const std::string& query) {
+  std::string reply = trimmed(exchange_.SendDSOCmd(query));
+  return reply.empty() ? exchange_.SendDSOCmd(query) : reply;
 }
 
 std::string InstrumentState::askTwice(const std::string& query) {

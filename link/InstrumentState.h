@@ -23,6 +23,7 @@ class InstrumentState {
 
  private:
   void applyLinkSettings();
+  std::string scaleReply(const std::string& query);
   /// The reply, or the second one where the first is empty.
   std::string askTwice(const std::string& query);
   void showScale(ScaleKnob kind, ValueLabel& label, Knob& knob);

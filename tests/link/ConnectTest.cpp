@@ -45,17 +45,17 @@ TEST_F(ConnectTest, ConnectReadsTheInstrumentAndStartsTheAcquisition) {
   EXPECT_EQ(port.wire, Lines{":SYST:UNL"});
 }
 
-/// The read-out of time cursors has no scale until the time base is read.
-TEST_F(ConnectTest, CursorsChosenBeforeDoNotEndTheReading) {
+/// Their read-out has no scale until the time base is read, and the first knob that moves asks it.
+TEST_F(ConnectTest, TimeCursorsChosenBeforeEndTheReadingUntilItIsAskedForAgain) {
   main.opTime.select();
   main.slideTrig.drag(0.5);
-  EXPECT_FALSE(main.graphDSO.cursor("Triger").visible());
   main.cmdStart.press();
-  EXPECT_EQ(port.wire.back(), "CHAN2:OFFS?");
-  EXPECT_TRUE(main.tmDSO.enabled());
-  EXPECT_EQ(logLines(), Lines(2, "Tracewell - InitDSO : Type mismatch"));
-  EXPECT_TRUE(main.graphDSO.axis("XAxis").caption().starts_with("P1 = "));
-  // One division above the trace's zero.
+  EXPECT_EQ(takeWire(), (Lines{":CHAN1:SCAL?", ":CHAN1:SCAL 5E-1"}));
+  EXPECT_EQ(logLines(), Lines{"Tracewell - InitDSO : Type mismatch"});
+  main.opOff.select();
+  main.cmdRS232.press();
+  EXPECT_EQ(takeWire()[1], ":CHAN2:SCAL?");
+  // The level stands one division above the trace's zero.
   EXPECT_TRUE(main.graphDSO.cursor("Triger").visible());
   EXPECT_EQ(main.graphDSO.cursor("Triger").yPosition(), 50 * (1 + 1.5));
 }
@@ -97,9 +97,11 @@ TEST_F(ConnectTest, RepliesOutsideTheTablesLeaveTheKnobsAndChannel2KeepsWholeDiv
 TEST_F(ConnectTest, EmptyScaleIsAskedTwiceAndNullSkipsThePosition) {
   port.answer(":CHAN1:SCAL?", {"\n", "Null\n"});
   port.answer(":CHAN2:SCAL?", {"Null\n"});
+  port.answer(":TIM:SCAL?", {"\n", "500.0 us \n"});
   program.instrument.InitDSO();
-  EXPECT_EQ(port.wire, (Lines{":CHAN1:SCAL?", ":CHAN1:SCAL?", ":CHAN2:SCAL?", ":TIM:SCAL?",
-                              ":TIM:SCAL 5E-4"}));
+  EXPECT_EQ(port.wire,
+            (Lines{":CHAN1:SCAL?", ":CHAN1:SCAL?", ":CHAN2:SCAL?", ":TIM:SCAL?", ":TIM:SCAL?"}));
+  EXPECT_EQ(main.lblTime.caption(), "500.0 us ") << "a second reply counts as it stands";
   EXPECT_TRUE(logLines().empty());
 }
 
