@@ -34,10 +34,11 @@ void Lifecycle::Form_Load() {
 }
 
 void Lifecycle::Form_Unload() {
-  if (main_.HasEnded) return;
-  main_.HasEnded = true;
+  Gate& gate = main_.services().gate;
+  if (gate.isClosed()) return;
   main_.tmDSO.enabled = false;
   exchange_.LoadSetup();
+  gate.close();
   saveSetup();
   for (Window* window : windows_) window->unload();
   main_.unload();

@@ -70,9 +70,6 @@ struct SharedState {
 
   /// The setup table.
   SetupTable gridMeasure;
-
-  /// The main window has been closed: waits end, and nothing is begun any more.
-  bool HasEnded = false;
 };
 
 }  // namespace tracewell

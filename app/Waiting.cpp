@@ -49,7 +49,7 @@ void Delay(frmDSO& main, std::int32_t milliseconds) {
   const std::int32_t start = tickCount(clock);
   do {
     clock.pumpEvents();
-    if (main.HasEnded) throw ProgramEnded();
+    main.services().gate.mustBeOpen();
   } while (elapsedSince(start, tickCount(clock)) <= milliseconds);
 }
 

@@ -23,6 +23,12 @@ void DesktopClock::pumpEvents() {
   QThread::msleep(1);
 }
 
+void DesktopClock::breathe() {
+  constexpr int longest = 10;
+  QCoreApplication::processEvents(QEventLoop::AllEvents, longest);
+  if (breathed) breathed();
+}
+
 void DesktopClock::sleep(int milliseconds) {
   QThread::msleep(static_cast<unsigned long>(milliseconds));
 }

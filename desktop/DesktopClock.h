@@ -13,8 +13,12 @@ class DesktopClock : public Clock {
  public:
   DesktopClock();
 
+  /// Called behind each breath.
+  std::function<void()> breathed;
+
   std::int64_t milliseconds() const override;
   void pumpEvents() override;
+  void breathe() override;
   void sleep(int milliseconds) override;
   void callAfter(int delay, std::function<void()> action) override;
   std::string dateAndTime() const override;

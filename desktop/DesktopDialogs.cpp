@@ -43,7 +43,7 @@ std::filesystem::path ask(const FileDialog& dialog, QFileDialog::AcceptMode mode
 
 }  // namespace
 
-Answer DesktopDialogs::askYesNo(const std::string& prompt, const std::string& title) {
+Answer DesktopDialogs::answerYesNo(const std::string& prompt, const std::string& title) {
   const auto answer = QMessageBox::question(windowInUse(), toQt(title), toQt(prompt));
   return answer == QMessageBox::Yes ? Answer::Yes : Answer::No;
 }
@@ -61,16 +61,16 @@ void DesktopDialogs::showRunTimeError(const Error& error) {
       QStringLiteral("Run-time error %1\n\n%2").arg(error.number()).arg(toQt(error.description())));
 }
 
-std::filesystem::path DesktopDialogs::openFile(const FileDialog& dialog) {
+std::filesystem::path DesktopDialogs::fileToOpen(const FileDialog& dialog) {
   return ask(dialog, QFileDialog::AcceptOpen);
 }
 
-Colour DesktopDialogs::pickColour(Colour initial) {
+Colour DesktopDialogs::pickedColour(Colour initial) {
   const QColor picked = QColorDialog::getColor(toQt(initial), windowInUse());
   return picked.isValid() ? fromQt(picked) : initial;
 }
 
-std::filesystem::path DesktopDialogs::saveFile(const FileDialog& dialog) {
+std::filesystem::path DesktopDialogs::fileToSave(const FileDialog& dialog) {
   return ask(dialog, QFileDialog::AcceptSave);
 }
 

@@ -8,17 +8,20 @@ namespace tracewell {
 /// Dialogs in front of whichever window is in use.
 class DesktopDialogs : public Dialogs {
  public:
+  using Dialogs::Dialogs;
+
   /// From now on nobody answers: what would be said goes to the standard error output.
   void goOnAlone() { isAlone_ = true; }
 
-  Answer askYesNo(const std::string& prompt, const std::string& title) override;
   void showMessage(const std::string& text) override;
   void showRunTimeError(const Error& error) override;
-  std::filesystem::path openFile(const FileDialog& dialog) override;
-  Colour pickColour(Colour initial) override;
-  std::filesystem::path saveFile(const FileDialog& dialog) override;
 
  private:
+  Answer answerYesNo(const std::string& prompt, const std::string& title) override;
+  std::filesystem::path fileToOpen(const FileDialog& dialog) override;
+  std::filesystem::path fileToSave(const FileDialog& dialog) override;
+  Colour pickedColour(Colour initial) override;
+
   bool isAlone_ = false;
 };
 

@@ -11,6 +11,7 @@
 #include "LinePort.h"
 #include "PortDirectory.h"
 #include "Tracewell.h"
+#include "UserInput.h"
 
 namespace tracewell {
 
@@ -24,15 +25,18 @@ struct DesktopProgram {
   bool start();
 
   DesktopClock clock;
-  DesktopDialogs dialogs;
-  EventDispatcher dispatcher{dialogs};
+  Gate gate;
+  StandBy standBy{clock, gate};
+  DesktopDialogs dialogs{gate};
+  EventDispatcher dispatcher{gate, dialogs};
   PortDirectory ports;
-  LinePort port{ports, clock, dispatcher};
+  LinePort port{ports, clock, gate, dispatcher, standBy};
   DesktopWindows windows;
   DesktopPictures pictures{windows};
   DesktopPrinter printer;
   Services services;
   Tracewell program{services};
+  UserInput input{gate, standBy};
 };
 
 }  // namespace tracewell

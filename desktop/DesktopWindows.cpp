@@ -45,7 +45,10 @@ class DesktopWindows::Form : public QObject {
                           static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape;
     if (!isEscape && event->type() != QEvent::Close) return false;
     event->ignore();
-    window_.close();
+    if (isMain())
+      window_.closeForGood();
+    else
+      window_.close();
     return true;
   }
 

@@ -16,7 +16,7 @@ int main(int argumentCount, char** arguments) {
   tracewell::DesktopProgram program(tracewell::programFolder());
   const tracewell::Termination termination([&] {
     program.dialogs.goOnAlone();
-    program.program.main.close();
+    program.program.main.closeForGood();
   });
   return program.start() ? QApplication::exec() : EXIT_FAILURE;
 }

@@ -37,7 +37,7 @@ void Acquisition::AcqDSO(std::int16_t channel) {
   try {
     port.textMode = false;
     port.prepare();
-    port.write(":ACQ" + std::to_string(channel) + ":POIN\r\n");
+    port.write(":ACQ" + std::to_string(channel) + ":POIN\r\n", SerialPort::Expects::record);
     port.tag = std::to_string(channel);
     port.beginRead(WaveformRecord::byteCount);
     main_.PortBusy = true;

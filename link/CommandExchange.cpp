@@ -42,7 +42,8 @@ std::string CommandExchange::exchange(const std::string& command) {
   SerialPort& port = main_.services().port;
   port.textMode = true;
   port.prepare();
-  port.write(command + "\r\n");
+  port.write(command + "\r\n",
+             isQuery(command) ? SerialPort::Expects::reply : SerialPort::Expects::nothing);
   std::string reply = isQuery(command) ? replyValue(port.read()) : "";
   port.reset();
   main_.InRemote = true;
@@ -56,7 +57,7 @@ void CommandExchange::LoadSetup() {
     SerialPort& port = main_.services().port;
     port.textMode = true;
     port.prepare();
-    port.write(":SYST:UNL\r\n");
+    port.write(":SYST:UNL\r\n", SerialPort::Expects::nothing);
     port.reset();
     main_.cmdLock.value = false;
     main_.InRemote = false;

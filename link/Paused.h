@@ -12,7 +12,7 @@ class Paused {
     acquisition_.StopAcq();
   }
   ~Paused() {
-    if (!main_.HasEnded) acquisition_.ResumeAcq();
+    if (!main_.services().gate.isClosed()) acquisition_.ResumeAcq();
   }
   Paused(const Paused&) = delete;
 

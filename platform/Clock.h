@@ -20,6 +20,11 @@ class Clock {
   /// processor. An event's own errors never come out of here.
   virtual void pumpEvents() = 0;
 
+  /// Lets what is to be painted be painted and the desktop get its answers, at once. Actions that
+  /// are due run, too: for use while the gate is held. What the user does meanwhile is not lost but
+  /// waits.
+  virtual void breathe() = 0;
+
   /// Waits without running any event.
   virtual void sleep(int milliseconds) = 0;
 

@@ -6,6 +6,7 @@
 
 #include "Colour.h"
 #include "Error.h"
+#include "Gate.h"
 
 namespace tracewell {
 
@@ -20,12 +21,16 @@ struct FileDialog {
 enum class Answer { Yes, No };
 
 /// The desktop's ready-made dialogs, all modal: a call returns when the user is done with it.
-/// Implemented by desktop/DesktopDialogs, and by tests/RecordingDialogs.
+/// Implemented by desktop/DesktopDialogs, and by tests/RecordingDialogs, in the private functions.
+///
+/// Those that ask the user throw ProgramEnded when the program has ended, be it before or while
+/// they were open: an answer that nobody has given is none.
 class Dialogs {
  public:
+  explicit Dialogs(const Gate& gate) : gate_(gate) {}
   virtual ~Dialogs() = default;
 
-  virtual Answer askYesNo(const std::string& prompt, const std::string& title) = 0;
+  Answer askYesNo(const std::string& prompt, const std::string& title);
 
   /// Says that something went wrong and what the program has made of it.
   virtual void showMessage(const std::string& text) = 0;
@@ -35,12 +40,20 @@ class Dialogs {
 
   /// The path that the user picked. After Cancel it is `dialog.fileName` as given: a bare name,
   /// which the caller then uses against the current folder.
-  virtual std::filesystem::path openFile(const FileDialog& dialog) = 0;
+  std::filesystem::path openFile(const FileDialog& dialog);
   /// The same for a file to be written; asks before one that is there is replaced.
-  virtual std::filesystem::path saveFile(const FileDialog& dialog) = 0;
+  std::filesystem::path saveFile(const FileDialog& dialog);
 
   /// The colour that the user picked, or `initial` after Cancel.
-  virtual Colour pickColour(Colour initial) = 0;
+  Colour pickColour(Colour initial);
+
+ private:
+  virtual Answer answerYesNo(const std::string& prompt, const std::string& title) = 0;
+  virtual std::filesystem::path fileToOpen(const FileDialog& dialog) = 0;
+  virtual std::filesystem::path fileToSave(const FileDialog& dialog) = 0;
+  virtual Colour pickedColour(Colour initial) = 0;
+
+  const Gate& gate_;
 };
 
 }  // namespace tracewell

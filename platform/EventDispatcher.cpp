@@ -4,12 +4,25 @@
 namespace tracewell {
 
 void EventDispatcher::dispatch(const std::function<void()>& handler) const {
+  if (gate_.isHeld() || gate_.isClosed()) return;
+  run(handler);
+  if (const std::function<void()> end = gate_.takeEnd()) run(end);
+}
+
+void EventDispatcher::dispatchEnd(const std::function<void()>& handler) const {
+  if (gate_.isHeld())
+    gate_.keepEnd(handler);
+  else
+    dispatch(handler);
+}
+
+void EventDispatcher::run(const std::function<void()>& handler) const {
   try {
     handler();
   } catch (const Error& error) {
     dialogs_.showRunTimeError(error);
   } catch (const ProgramEnded&) {
-    // The window is closed already; nobody is left to tell.
+    // Whoever waited is over; nobody is left to tell.
   } catch (const std::exception& error) {
     dialogs_.showRunTimeError(Error(invalidProcedureCall, "Tracewell", error.what()));
   }

@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "Dialogs.h"
+#include "Gate.h"
 
 namespace tracewell {
 
@@ -11,13 +12,20 @@ namespace tracewell {
 /// Whatever a handler throws ends here.
 class EventDispatcher {
  public:
-  explicit EventDispatcher(Dialogs& dialogs) : dialogs_(dialogs) {}
+  EventDispatcher(Gate& gate, Dialogs& dialogs) : gate_(gate), dialogs_(dialogs) {}
 
-  /// Runs `handler`. An error that it does not trap is shown in one box with its number and
-  /// description; the program goes on.
+  /// Runs `handler`, unless the gate is held or closed. An error that it does not trap is shown in
+  /// one box with its number and description; the program goes on.
   void dispatch(const std::function<void()>& handler) const;
 
+  /// The same for the handler that ends the program. While the gate is held it is kept: the wait
+  /// ends (StandBy), and it runs as soon as the handler that waited has unwound.
+  void dispatchEnd(const std::function<void()>& handler) const;
+
  private:
+  void run(const std::function<void()>& handler) const;
+
+  Gate& gate_;
   Dialogs& dialogs_;
 };
 

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "ByteChannel.h"
+#include "Gate.h"
 #include "Property.h"
 
 namespace tracewell {
@@ -14,10 +15,12 @@ namespace tracewell {
 /// length. Implemented by LinePort, and by tests/ScriptedPort.
 ///
 /// Every operation may raise an Error; a missing reply raises number 30312 (portReadTimeOut), so
-/// that a silent instrument can be told from a broken line. Nothing here runs events; only
+/// that a silent instrument can be told from a broken line. While one waits no handler runs, the
+/// window stays alive, and ProgramEnded is thrown out of it when the end has been asked for. Only
 /// dataReady arrives out of the event loop.
 class SerialPort {
  public:
+  explicit SerialPort(const Gate& gate) : gate_(gate) {}
   virtual ~SerialPort() = default;
 
   /// Takes effect at the next prepare. The same settings again leave an open line open.
@@ -32,30 +35,42 @@ class SerialPort {
 
   /// Makes the line ready for a transfer and opens it if need be. In text mode it ends a record
   /// still under way; in binary mode that goes on, and the next request waits for its end. Raises
-  /// deviceError if the line cannot be opened.
-  virtual void prepare() = 0;
+  /// deviceError if the line cannot be opened. Throws ProgramEnded once the program has ended.
+  void prepare() {
+    gate_.mustBeOpen();
+    prepareLine();
+  }
 
   /// The number of the port that was opened last: records come from there, whatever `settings` say
   /// about the next one.
   virtual std::int16_t openPort() const = 0;
 
-  /// Sends the bytes of a command. A query (a line that ends in "?") is held back while bytes that
-  /// an earlier transfer has asked for may still arrive, since its reply could not be told from
-  /// them.
-  virtual void write(std::string_view bytes) = 0;
+  /// What the instrument answers to a line.
+  enum class Expects { nothing, reply, record };
 
-  /// One reply line with its LF; a CR before the LF is left out. Waits up to readTimeOut.
+  /// Sends the bytes of a command, at once. Those that expect an answer are sent by read or
+  /// beginRead, which know how it is to be awaited.
+  virtual void write(std::string_view bytes, Expects expects) = 0;
+
+  /// Sends the query and returns its reply line with the LF; a CR before the LF is left out. Waits
+  /// up to readTimeOut for it, and before that for the answers to what was asked earlier, so that
+  /// none of them is taken for it.
   virtual std::string read() = 0;
 
-  /// Collects the next `count` bytes and then raises dataReady with them. If the line is still busy
-  /// with an earlier record, the request that was just written and this read wait for its end.
+  /// Requests a record of `count` bytes; dataReady is raised with it when it is whole. While the
+  /// line is busy the request waits, one for each tag.
   virtual void beginRead(int count) = 0;
 
-  /// Ends the transfer and drops what has arrived. Inside dataReady it ends the record just
-  /// delivered and leaves a request that waits behind it in place.
+  /// Ends the transfer and drops what has arrived. The first one inside dataReady ends the record
+  /// just delivered and leaves a request that waits behind it in place.
   virtual void reset() = 0;
 
   Event<const std::string&> dataReady;
+
+ private:
+  virtual void prepareLine() = 0;
+
+  const Gate& gate_;
 };
 
 /// The ports of this machine, for the user to choose from.

@@ -6,9 +6,11 @@
 #include "Clock.h"
 #include "Dialogs.h"
 #include "EventDispatcher.h"
+#include "Gate.h"
 #include "Pictures.h"
 #include "Printer.h"
 #include "SerialPort.h"
+#include "StandBy.h"
 #include "WindowHost.h"
 
 namespace tracewell {
@@ -18,7 +20,9 @@ namespace tracewell {
 struct Services {
   Clock& clock;
   Dialogs& dialogs;
+  Gate& gate;
   EventDispatcher& dispatcher;
+  StandBy& standBy;
   SerialPort& port;
   PortList& ports;
   WindowHost& windows;

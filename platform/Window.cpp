@@ -21,10 +21,12 @@ void Window::load() {
 }
 
 void Window::showModal() {
+  services_.gate.mustBeOpen();
   load();
   formActivate.raise();
   isVisible_ = true;
   services_.windows.showModal(*this);
+  services_.gate.mustBeOpen();
 }
 
 void Window::show() {
@@ -51,12 +53,18 @@ void Window::unload() {
 }
 
 void Window::close() {
-  services_.dispatcher.dispatch([this] {
-    if (formClose)
-      formClose.raise();
-    else
-      hide();
-  });
+  services_.dispatcher.dispatch([this] { tellClosed(); });
+}
+
+void Window::closeForGood() {
+  services_.dispatcher.dispatchEnd([this] { tellClosed(); });
+}
+
+void Window::tellClosed() {
+  if (formClose)
+    formClose.raise();
+  else
+    hide();
 }
 
 }  // namespace tracewell

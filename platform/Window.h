@@ -38,7 +38,8 @@ class Window : public Observable {
   bool isLoaded() const { return isLoaded_; }
   bool isVisible() const { return isVisible_; }
   void load();
-  /// Returns when the window has been hidden.
+  /// Returns when the window has been hidden. Throws ProgramEnded when the program has ended, be it
+  /// before or meanwhile.
   void showModal();
   void show();
   void hide();
@@ -48,6 +49,8 @@ class Window : public Observable {
 
   /// The user closes the window with its title bar's button.
   void close();
+  /// As close, for the window whose closing ends the program: obeyed also while a handler waits.
+  void closeForGood();
 
   Services& services() const { return services_; }
 
@@ -56,6 +59,7 @@ class Window : public Observable {
   std::string name_;
   Services& services_;
   std::vector<Control*> controls_;
+  void tellClosed();
   bool isLoaded_ = false;
   bool isVisible_ = false;
 };

@@ -24,18 +24,18 @@ class PortUser {
   void request(const std::string& channel) {
     port_.textMode = false;
     port_.prepare();
-    port_.write(":ACQ" + channel + ":POIN\r\n");
+    port_.write(":ACQ" + channel + ":POIN\r\n", SerialPort::Expects::record);
     port_.tag = channel;
     port_.beginRead(1014);
   }
-  void send(const std::string& line) {
+  void send(const std::string& line, SerialPort::Expects expects = SerialPort::Expects::nothing) {
     port_.textMode = true;
     port_.prepare();
-    port_.write(line + "\r\n");
+    port_.write(line + "\r\n", expects);
   }
   /// The reply, or the number of the error.
   std::string ask(const std::string& query) {
-    send(query);
+    send(query, SerialPort::Expects::reply);
     std::string reply;
     try {
       reply = port_.read();

@@ -8,8 +8,9 @@ namespace tracewell {
 
 namespace fs = std::filesystem;
 
-Answer RecordingDialogs::askYesNo(const std::string& prompt, const std::string& title) {
+Answer RecordingDialogs::answerYesNo(const std::string& prompt, const std::string& title) {
   questions.push_back(title + ": " + prompt);
+  if (meanwhile) meanwhile();
   return answer;
 }
 
@@ -17,8 +18,9 @@ void RecordingDialogs::showRunTimeError(const Error& error) {
   runTimeErrors.push_back(std::to_string(error.number()) + " " + error.description());
 }
 
-fs::path RecordingDialogs::openFile(const FileDialog& dialog) {
+fs::path RecordingDialogs::fileToOpen(const FileDialog& dialog) {
   fileDialogs.push_back(dialog);
+  if (meanwhile) meanwhile();
   return pickedFile.empty() ? fs::path(dialog.fileName) : pickedFile;
 }
 
@@ -40,7 +42,7 @@ void ScriptedPort::answerLikeAnInstrument() {
   answer("CHAN2:OFFS?", {"-2.00 V\n"});
 }
 
-void ScriptedPort::prepare() {
+void ScriptedPort::prepareLine() {
   prepared.push_back(settings);
   if (faults > 0) {
     --faults;
@@ -48,7 +50,7 @@ void ScriptedPort::prepare() {
   }
 }
 
-void ScriptedPort::write(std::string_view bytes) {
+void ScriptedPort::write(std::string_view bytes, Expects) {
   EXPECT_TRUE(bytes.ends_with("\r\n"));
   lastCommand_ = bytes.substr(0, bytes.size() - 2);
   wire.push_back(lastCommand_);

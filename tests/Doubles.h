@@ -24,6 +24,7 @@ using Lines = std::vector<std::string>;
 /// Writes down what the program would have said, and answers as told.
 class RecordingDialogs : public Dialogs {
  public:
+  using Dialogs::Dialogs;
   Answer answer = Answer::Yes;
   /// Empty means Cancel.
   std::filesystem::path pickedFile;
@@ -32,13 +33,18 @@ class RecordingDialogs : public Dialogs {
   Lines runTimeErrors;
   std::vector<FileDialog> fileDialogs;
 
-  Answer askYesNo(const std::string& prompt, const std::string& title) override;
+  Colour colour;
+  /// What happens while a box or a dialog is open.
+  std::function<void()> meanwhile;
+
   void showMessage(const std::string& text) override { messages.push_back(text); }
   void showRunTimeError(const Error& error) override;
-  std::filesystem::path openFile(const FileDialog& dialog) override;
-  Colour pickedColour;
-  Colour pickColour(Colour) override { return pickedColour; }
-  std::filesystem::path saveFile(const FileDialog& dialog) override { return openFile(dialog); }
+
+ private:
+  Answer answerYesNo(const std::string& prompt, const std::string& title) override;
+  std::filesystem::path fileToOpen(const FileDialog& dialog) override;
+  std::filesystem::path fileToSave(const FileDialog& dialog) override { return fileToOpen(dialog); }
+  Colour pickedColour(Colour) override { return colour; }
 };
 
 /// Pictures without pixels: each step is written into the pixel bytes.
@@ -86,6 +92,8 @@ class ScriptedWindows : public WindowHost {
 /// times out.
 class ScriptedPort : public SerialPort, public PortList {
  public:
+  using SerialPort::SerialPort;
+
   /// Reply lines, with their LF, by query. The last one of a list stays.
   std::map<std::string, std::deque<std::string>> replies;
   /// While positive, each transfer fails with it and takes one away.
@@ -107,11 +115,10 @@ class ScriptedPort : public SerialPort, public PortList {
   /// Delivers a record for the last request.
   void deliver(const std::string& record) { dataReady.raise(record); }
 
-  void prepare() override;
   std::int16_t openPort() const override {
     return prepared.empty() ? 0 : prepared.back().portNumber;
   }
-  void write(std::string_view bytes) override;
+  void write(std::string_view bytes, Expects expects) override;
   std::string read() override;
   void beginRead(int count) override { recordLength = count; }
   void reset() override;
@@ -123,6 +130,8 @@ class ScriptedPort : public SerialPort, public PortList {
   }
 
  private:
+  void prepareLine() override;
+
   std::string lastCommand_;
 };
 
@@ -140,31 +149,34 @@ class ProgramFolderCopy {
 /// Time, the user and the event queue around a port of some kind.
 struct Surroundings {
   VirtualClock clock;
-  RecordingDialogs dialogs;
-  EventDispatcher dispatcher{dialogs};
+  Gate gate;
+  StandBy standBy{clock, gate};
+  RecordingDialogs dialogs{gate};
+  EventDispatcher dispatcher{gate, dialogs};
 };
 
 struct OnAScript : Surroundings {
-  ScriptedPort port;
+  ScriptedPort port{gate};
 };
 
 /// The port's real rules on the channels of an opener that goes by the virtual clock.
 template <class Opener>
 struct OnALine : Surroundings {
   Opener opener{clock};
-  LinePort port{opener, clock, dispatcher};
+  LinePort port{opener, clock, gate, dispatcher, standBy};
 };
 
 /// The whole program on doubles.
 template <class Port>
 struct BenchOf : Port {
   ProgramFolderCopy folder;
-  ScriptedPort list;
+  ScriptedPort list{this->gate};
   ScriptedWindows windows;
   RecordingPictures pictures;
   RecordingPrinter printer;
-  Services services{this->clock, this->dialogs, this->dispatcher, this->port,   list,
-                    windows,     pictures,      printer,          folder.path()};
+  Services services{this->clock,   this->dialogs, this->gate,   this->dispatcher,
+                    this->standBy, this->port,    list,         windows,
+                    pictures,      printer,       folder.path()};
   Tracewell program{services};
   frmDSO& main = program.main;
 

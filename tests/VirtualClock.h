@@ -18,11 +18,12 @@ class VirtualClock : public Clock {
 
   void pumpEvents() override {
     ++now_;
-    while (!due_.empty() && due_.begin()->first <= now_) {
-      const std::function<void()> action = std::move(due_.begin()->second);
-      due_.erase(due_.begin());
-      action();
-    }
+    runDue();
+  }
+
+  void breathe() override {
+    ++breaths;
+    runDue();
   }
 
   void sleep(int milliseconds) override { now_ += milliseconds; }
@@ -42,7 +43,17 @@ class VirtualClock : public Clock {
   /// Steps the count without running anything.
   void jumpTo(std::int64_t milliseconds) { now_ = milliseconds; }
 
+  int breaths = 0;
+
  private:
+  void runDue() {
+    while (!due_.empty() && due_.begin()->first <= now_) {
+      const std::function<void()> action = std::move(due_.begin()->second);
+      due_.erase(due_.begin());
+      action();
+    }
+  }
+
   std::int64_t now_ = 0;
   /// Of equal times the first in is the first out.
   std::multimap<std::int64_t, std::function<void()>> due_;

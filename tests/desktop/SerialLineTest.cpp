@@ -36,9 +36,11 @@ class SerialLineTest : public testing::Test, public ChannelOpener {
   QProcess instrument;
   QString device;
   DesktopClock clock;
-  RecordingDialogs dialogs;
-  EventDispatcher dispatcher{dialogs};
-  LinePort port{*this, clock, dispatcher};
+  Gate gate;
+  StandBy standBy{clock, gate};
+  RecordingDialogs dialogs{gate};
+  EventDispatcher dispatcher{gate, dialogs};
+  LinePort port{*this, clock, gate, dispatcher, standBy};
 };
 
 TEST_F(SerialLineTest, AbandonedRecordsLeaveNothingBehind) {

@@ -87,7 +87,7 @@ const struct {
      nothing},
     {"empty lines", alwaysAnswering("\n"), "InitDSO : Overflow"},
     {"lines of text", alwaysAnswering("what do you want?\n"), "InitDSO : Overflow"},
-    {"a megabyte without an end", alwaysAnswering(std::string(1 << 20, 'x')), "SendDSOCmd : "},
+    {"a megabyte without an end", alwaysAnswering(std::string(1 << 20, 'x')), nothing},
     {"no such port, a port in use, no permission", [](FarEnd& end) { end.isAway = true; },
      "SendDSOCmd : no such port"},
 };

@@ -49,7 +49,7 @@ TEST_F(GraphTest, BoxesOfARowAreExclusiveAndThePreviewFollows) {
 }
 
 TEST_F(GraphTest, DotTravelsInThePointStyleAndReopensAsSolid) {
-  dialogs.pickedColour = {1, 2, 3};
+  dialogs.colour = {1, 2, 3};
   windows.user["frmGraph"] = [&] {
     dialog.opDot(0).toggle();
     dialog.cmdLine(5).press();
@@ -58,7 +58,7 @@ TEST_F(GraphTest, DotTravelsInThePointStyleAndReopensAsSolid) {
     dialog.cmdOK.press();
   };
   main.cmdGraph.press();
-  const Colour picked = dialogs.pickedColour;
+  const Colour picked = dialogs.colour;
   EXPECT_EQ(graph.plot(1).lineStyle(), Plot::solidLine);
   EXPECT_EQ(graph.plot(1).pointStyle(), Plot::dotPoints);
   EXPECT_EQ(graph.plot(2).pointStyle(), Plot::noPoints);
@@ -68,7 +68,7 @@ TEST_F(GraphTest, DotTravelsInThePointStyleAndReopensAsSolid) {
   EXPECT_EQ(graph.axis("YAxis-1").gridColour(), picked);
   EXPECT_NE(graph.axis("YAxis-2").gridColour(), picked);
 
-  dialogs.pickedColour = {9, 9, 9};
+  dialogs.colour = {9, 9, 9};
   windows.user["frmGraph"] = [&] {
     EXPECT_TRUE(dialog.opSolid(0).isChecked());
     EXPECT_EQ(dialog.lblPlot(5).caption(), "Load4");
@@ -76,7 +76,7 @@ TEST_F(GraphTest, DotTravelsInThePointStyleAndReopensAsSolid) {
     dialog.cmdCancel.press();
   };
   main.mnbGraph.choose();
-  EXPECT_NE(graph.plot(1).lineColour(), dialogs.pickedColour);
+  EXPECT_NE(graph.plot(1).lineColour(), dialogs.colour);
 }
 
 TEST_F(GraphTest, EnlargingHidesThePanelsAndRestoresThem) {

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "UserInput.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QWindow>
+#include <utility>
+
+namespace tracewell {
+namespace {
+
+/// A dialog's window; the main window has none above it.
+bool isDialog(const QObject* receiver) {
+  const auto* window = qobject_cast<const QWindow*>(receiver);
+  return window != nullptr && window->transientParent() != nullptr;
+}
+
+bool isEscape(const QEvent& event) {
+  const bool isKey = event.type() == QEvent::KeyPress || event.type() == QEvent::ShortcutOverride;
+  return isKey && static_cast<const QKeyEvent&>(event).key() == Qt::Key_Escape;
+}
+
+bool isUserInput(const QObject* receiver, const QEvent& event) {
+  switch (event.type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+    case QEvent::Wheel:
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::Shortcut:
+    case QEvent::InputMethod:
+    case QEvent::ContextMenu:
+    case QEvent::TouchBegin:
+    case QEvent::TouchUpdate:
+    case QEvent::TouchEnd:
+      return true;
+    case QEvent::Close:
+      return isDialog(receiver);
+    default:
+      return false;
+  }
+}
+
+}  // namespace
+
+UserInput::UserInput(const Gate& gate, StandBy& standBy) : gate_(gate), standBy_(standBy) {
+  QCoreApplication::instance()->installEventFilter(this);
+}
+
+void UserInput::release() {
+  for (Kept& kept : std::exchange(kept_, {}))
+    if (kept.receiver) QCoreApplication::postEvent(kept.receiver, kept.event.release());
+}
+
+bool UserInput::eventFilter(QObject* receiver, QEvent* event) {
+  if (endWaits(receiver, *event)) return true;
+  if (!gate_.isHeld() || !isUserInput(receiver, *event)) return false;
+  keep(receiver, *event);
+  return true;
+}
+
+/// Between two waits of a burst, too, unless the key belongs to a dialog.
+bool UserInput::endWaits(const QObject* receiver, QEvent& event) {
+  if (!isEscape(event) || !standBy_.isInBurst()) return false;
+  if (!gate_.isHeld() && (isDialog(receiver) || !receiver->isWindowType())) return false;
+  event.accept();
+  standBy_.giveUp();
+  return true;
+}
+
+/// Of a movement its last place is enough.
+void UserInput::keep(QObject* receiver, const QEvent& event) {
+  const bool isMove = event.type() == QEvent::MouseMove;
+  if (isMove && !kept_.empty() && kept_.back().event->type() == QEvent::MouseMove) kept_.pop_back();
+  kept_.push_back({receiver, std::unique_ptr<QEvent>(event.clone())});
+}
+
+}  // namespace tracewell

@@ -1,0 +1,285 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Conversation.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace tracewell {
+namespace {
+
+Error timeOutError() {
+  return {portReadTimeOut, "RS232", "The instrument did not reply in time"};
+}
+
+Error closedError() {
+  return {deviceError, "RS232", "The port is not open"};
+}
+
+/// What may stand around a line without meaning anything.
+bool isBlank(char byte) {
+  return byte == '\r' || byte == '\n' || byte == ' ' || byte == '\0';
+}
+
+bool isBlank(std::string_view bytes) {
+  return std::ranges::all_of(bytes, [](char byte) { return isBlank(byte); });
+}
+
+}  // namespace
+
+Conversation::Conversation(ChannelOpener& opener, const Clock& clock,
+                           const EventDispatcher& dispatcher, StandBy& standBy)
+    : opener_(opener), clock_(clock), dispatcher_(dispatcher), standBy_(standBy) {}
+
+void Conversation::use(const LineSettings& settings) {
+  if (channel_ && !(openSettings_ == settings)) close();
+  if (!channel_) {
+    if (openSettings_.portNumber != settings.portNumber) forget();
+    channel_ = opener_.open(settings);
+    openSettings_ = settings;
+    channel_->readable = [this] { dispatcher_.dispatch([this] { arrived(); }); };
+  }
+  hear(take(0));
+}
+
+void Conversation::command(std::string_view line) {
+  send(line);
+}
+
+std::string Conversation::ask(std::string_view query, int timeOut) {
+  makeReadyToAsk(timeOut);
+  send(query);
+  askedAt_ = clock_.milliseconds();
+  ++unanswered_;
+  state_ = State::replyAwaited;
+  try {
+    std::string reply = awaitReply(askedAt_ + timeOut);
+    unanswered_ = 0;
+    unansweredInRow_ = 0;
+    state_ = State::idle;
+    return reply;
+  } catch (...) {
+    leaveUnanswered();
+    throw;
+  }
+}
+
+void Conversation::request(Record record) {
+  hear(take(0));
+  const bool waitsAlready =
+      std::ranges::any_of(held_, [&](const Record& held) { return held.tag == record.tag; });
+  if (!waitsAlready) held_.push_back(std::move(record));
+  sendHeld();
+}
+
+void Conversation::abandon() {
+  isWanted_ = false;
+  whole_.reset();
+  held_.clear();
+}
+
+/// What is owed may still come when the line is opened again.
+void Conversation::close() {
+  channel_.reset();
+  whole_.reset();
+  held_.clear();
+  isStray_ = isStray_ || state_ == State::recordAwaited;
+  if (state_ != State::idle) state_ = State::draining;
+}
+
+/// Another instrument owes nothing.
+void Conversation::forget() {
+  state_ = State::idle;
+  unanswered_ = 0;
+  unansweredInRow_ = 0;
+  isHeard_ = false;
+  isStray_ = false;
+  isRestless_ = false;
+}
+
+void Conversation::send(std::string_view bytes) {
+  if (!channel_) throw closedError();
+  try {
+    channel_->write(bytes);
+  } catch (const Error&) {
+    close();
+    throw;
+  }
+}
+
+std::string Conversation::take(std::int64_t timeOut) {
+  if (!channel_) throw closedError();
+  try {
+    return channel_->read(static_cast<int>(timeOut));
+  } catch (const Error&) {
+    close();
+    throw;
+  }
+}
+
+/// What comes before `until`, or before it is time for the next turn of the desktop.
+std::string Conversation::listen(std::int64_t until) {
+  standBy_.turn();
+  if (standBy_.isGivenUp()) throw timeOutError();
+  const std::int64_t left = until - clock_.milliseconds();
+  return take(std::clamp<std::int64_t>(left, 0, StandBy::longestGap));
+}
+
+/// Whose the bytes are depends on the state alone. Those of a reply are heard by awaitReply.
+void Conversation::hear(const std::string& bytes) {
+  if (bytes.empty())
+    review();
+  else if (state_ == State::recordAwaited)
+    hearRecord(bytes);
+  else
+    hearOwed(bytes);
+}
+
+void Conversation::hearRecord(const std::string& bytes) {
+  heardAt_ = clock_.milliseconds();
+  record_.bytes += bytes;
+  if (record_.bytes.size() < record_.count) return;
+  const std::string behind = record_.bytes.substr(record_.count);
+  record_.bytes.resize(record_.count);
+  state_ = State::idle;
+  if (isWanted_) whole_ = std::move(record_);
+  if (!behind.empty()) hearOwed(behind);
+}
+
+/// Lines that nobody waits for. Each is one that is owed; what goes beyond that is stray.
+void Conversation::hearOwed(std::string_view bytes) {
+  if (state_ == State::idle && isBlank(bytes)) return;
+  state_ = State::draining;
+  heardAt_ = clock_.milliseconds();
+  for (const char byte : bytes) {
+    isHeard_ = isHeard_ || byte == '\n';
+    if (unanswered_ == 0)
+      isStray_ = isStray_ || !isBlank(byte);
+    else if (byte == '\n')
+      --unanswered_;
+  }
+}
+
+/// When the line may be trusted again if nothing more is heard.
+std::int64_t Conversation::trustedAt() const {
+  const std::int64_t quietSince = std::max(askedAt_, heardAt_);
+  if (state_ == State::recordAwaited) return quietSince + longestThought;
+  const bool isAllThere = unanswered_ == 0 && !isStray_;
+  return quietSince + (isAllThere ? settling : drainTime_);
+}
+
+/// What has been quiet for long enough is over.
+void Conversation::review() {
+  const bool isOver = state_ == State::recordAwaited || state_ == State::draining;
+  if (!isOver || clock_.milliseconds() < trustedAt()) return;
+  state_ = State::idle;
+  unanswered_ = 0;
+  isStray_ = false;
+}
+
+bool Conversation::isSilent() const {
+  return state_ == State::draining && unansweredInRow_ >= 2 && !isHeard_;
+}
+
+void Conversation::makeReadyToAsk(int timeOut) {
+  if (standBy_.isGivenUp()) throw timeOutError();
+  abandon();
+  hear(take(0));
+  drainTime_ = std::max(timeOut + drainMargin, longestThought);
+  review();
+  if (state_ == State::recordAwaited) finishRecord();
+  // A pause as long as a drain: the instrument gets another chance.
+  if (state_ == State::idle) unansweredInRow_ = 0;
+  if (!isSilent()) drain(timeOut);
+}
+
+/// However its bytes trickle.
+void Conversation::finishRecord() {
+  const auto left = static_cast<double>(record_.count - record_.bytes.size());
+  const auto longest = static_cast<std::int64_t>(std::ceil(2 * left * byteTime())) + restMargin;
+  const std::int64_t deadline = clock_.milliseconds() + longest;
+  while (state_ == State::recordAwaited && clock_.milliseconds() < deadline)
+    hear(listen(std::min(deadline, trustedAt())));
+}
+
+/// A line that does not come to rest is not asked.
+void Conversation::drain(int timeOut) {
+  const int longest = isRestless_ ? timeOut : 2 * drainTime_;
+  const std::int64_t deadline = clock_.milliseconds() + longest;
+  while (state_ != State::idle) {
+    isRestless_ = clock_.milliseconds() >= deadline;
+    if (isRestless_) throw timeOutError();
+    hear(listen(std::min(deadline, trustedAt())));
+  }
+  isRestless_ = false;
+  isHeard_ = false;
+}
+
+std::string Conversation::awaitReply(std::int64_t deadline) {
+  std::string received;
+  while (true) {
+    const std::size_t searched = received.size();
+    received += listen(deadline);
+    const std::size_t end = received.find('\n', searched);
+    if (end != std::string::npos) return onlyLine(received, end + 1);
+    if (received.size() > longestReply || clock_.milliseconds() >= deadline) throw timeOutError();
+  }
+}
+
+/// A line is the answer if no other answer is owed and nothing follows it: half of a damaged reply
+/// is none.
+std::string Conversation::onlyLine(std::string received, std::size_t length) {
+  const std::int64_t until =
+      clock_.milliseconds() + settling + static_cast<std::int64_t>(std::ceil(2 * byteTime()));
+  const auto isAlone = [&] {
+    return unanswered_ == 1 && isBlank(std::string_view(received).substr(length));
+  };
+  while (isAlone() && clock_.milliseconds() < until) received += listen(until);
+  if (!isAlone()) {
+    hearOwed(received);
+    throw timeOutError();
+  }
+  received.resize(length);
+  return received;
+}
+
+void Conversation::leaveUnanswered() {
+  state_ = State::draining;
+  ++unansweredInRow_;
+}
+
+void Conversation::arrived() {
+  if (!channel_) return;
+  try {
+    hear(take(0));
+    if (whole_) {
+      const Record record = *std::exchange(whole_, std::nullopt);
+      delivered(record);
+    }
+    sendHeld();
+  } catch (const Error&) {
+    // Closed now. Whoever uses the port next opens it again or is told the reason.
+  }
+}
+
+void Conversation::sendHeld() {
+  review();
+  if (state_ != State::idle || held_.empty()) return;
+  hear(take(0));
+  if (state_ != State::idle) return;
+  record_ = std::move(held_.front());
+  held_.pop_front();
+  send(record_.request);
+  askedAt_ = clock_.milliseconds();
+  isWanted_ = true;
+  state_ = State::recordAwaited;
+}
+
+/// Of one byte on the line, with its start, parity and stop bits.
+double Conversation::byteTime() const {
+  const int bits = 1 + openSettings_.dataBits + (openSettings_.parity == 0 ? 0 : 1) +
+                   (openSettings_.stopBits == 0 ? 1 : 2);
+  return 1000.0 * bits / std::max(openSettings_.baudRate, 1);
+}
+
+}  // namespace tracewell

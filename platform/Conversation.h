@@ -1,0 +1,151 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "ByteChannel.h"
+#include "Clock.h"
+#include "EventDispatcher.h"
+#include "StandBy.h"
+
+namespace tracewell {
+
+/// The one owner of the line to the instrument. It knows what has been asked, and so whose the next
+/// bytes are; an answer is handed out for its own question or not at all.
+///
+/// The instrument answers in the order in which it is asked, each question less than longestThought
+/// after it was put, or never. On that all rules here rest:
+///
+/// - A record is on its way from its request on, byte or no byte, until it is whole or
+///   longestThought has passed without a byte. Further requests wait, one for each tag.
+/// - A question without an answer stays owed. A line that comes while more is owed than the present
+///   question answers nobody. Before the next question or record the line is *drained*: until all
+///   that is owed has come, or it has been quiet for long enough (drainTime).
+/// - Bytes that nobody has asked for make the line untrusted until it has been quiet for as long.
+/// - After two questions in a row without an answer the instrument counts as silent: further ones
+///   are put without draining, until a line is heard.
+/// - A plain command never waits, since nothing comes back.
+///
+/// All times are milliseconds. Every wait is one of StandBy.
+class Conversation {
+ public:
+  static constexpr int longestThought = 3000;
+  /// A line whose time-out is longer than longestThought is drained for that and so much more.
+  static constexpr int drainMargin = 1000;
+  /// The rest of a record is awaited for twice the time of its bytes, and so much more.
+  static constexpr int restMargin = 250;
+  /// Bytes of one answer follow each other, through whatever adapter, within so long.
+  static constexpr int settling = 20;
+  /// A reply of more bytes is none.
+  static constexpr std::size_t longestReply = 4096;
+
+  struct Record {
+    std::string request;
+    std::string tag;
+    /// How many bytes it has when it is whole.
+    std::size_t count = 0;
+    std::string bytes;
+  };
+
+  Conversation(ChannelOpener& opener, const Clock& clock, const EventDispatcher& dispatcher,
+               StandBy& standBy);
+  Conversation(const Conversation&) = delete;
+
+  /// Opens the line, or opens it anew with other settings, if need be. Raises deviceError when it
+  /// cannot be opened or is gone.
+  void use(const LineSettings& settings);
+  /// The settings of the line that was opened last.
+  const LineSettings& openSettings() const { return openSettings_; }
+
+  /// Sends a line to which nothing comes back. Raises deviceError.
+  void command(std::string_view line);
+
+  /// The reply line to `query`, through its LF. Raises portReadTimeOut where there is none within
+  /// `timeOut` of the query, where one came but may not be trusted, and where the user gave up;
+  /// deviceError; throws ProgramEnded.
+  std::string ask(std::string_view query, int timeOut);
+
+  /// Requests a record, now or when the line is free. One of a tag that waits already is left out.
+  /// Raises deviceError.
+  void request(Record record);
+
+  /// Whoever wanted a record, here or waiting, does not want it any longer.
+  void abandon();
+
+  /// Called out of the event loop with each whole record.
+  std::function<void(const Record&)> delivered;
+
+ private:
+  /// What is under way, and so whose the next bytes are.
+  enum class State {
+    /// Nothing is owed.
+    idle,
+    replyAwaited,
+    recordAwaited,
+    /// Answers are owed that nobody waits for, or bytes have come that nobody has asked for.
+    draining
+  };
+
+  void close();
+  void forget();
+  void send(std::string_view bytes);
+  std::string take(std::int64_t timeOut);
+  std::string listen(std::int64_t until);
+
+  void hear(const std::string& bytes);
+  void hearRecord(const std::string& bytes);
+  void hearOwed(std::string_view bytes);
+  void review();
+  std::int64_t trustedAt() const;
+
+  void makeReadyToAsk(int timeOut);
+  void finishRecord();
+  void drain(int timeOut);
+  std::string awaitReply(std::int64_t deadline);
+  std::string onlyLine(std::string received, std::size_t length);
+  void leaveUnanswered();
+  bool isSilent() const;
+
+  void arrived();
+  void sendHeld();
+  double byteTime() const;
+
+  ChannelOpener& opener_;
+  const Clock& clock_;
+  const EventDispatcher& dispatcher_;
+  StandBy& standBy_;
+  std::unique_ptr<ByteChannel> channel_;
+  LineSettings openSettings_;
+
+  State state_ = State::idle;
+  /// The record on its way (recordAwaited), and whether somebody still wants it.
+  Record record_;
+  bool isWanted_ = false;
+  /// One that is whole and not delivered yet.
+  std::optional<Record> whole_;
+  /// Requests that wait for the line, the oldest first.
+  std::deque<Record> held_;
+
+  /// Questions put and not answered, the present one included.
+  int unanswered_ = 0;
+  int unansweredInRow_ = 0;
+  /// A line was heard since the last drain that answered nobody.
+  bool isHeard_ = false;
+  /// More has come than was owed.
+  bool isStray_ = false;
+  /// The last drain did not bring the line to rest.
+  bool isRestless_ = false;
+  /// How long the line must be quiet to be trusted again.
+  int drainTime_ = longestThought;
+  /// On Clock's scale.
+  std::int64_t askedAt_ = 0;
+  std::int64_t heardAt_ = 0;
+};
+
+}  // namespace tracewell

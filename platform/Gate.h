@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <functional>
+#include <utility>
+
+namespace tracewell {
+
+/// Whether anything may run and be begun. Every way into the program passes it (EventDispatcher),
+/// and so does everything that the program begins outside: transfers on the port, modal windows,
+/// dialogs.
+///
+/// It is open; or held, while a handler waits for the instrument and no other may run; or closed,
+/// once the program has ended.
+class Gate {
+ public:
+  Gate() = default;
+  Gate(const Gate&) = delete;
+
+  bool isHeld() const { return isHeld_; }
+  bool isClosed() const { return isClosed_; }
+  /// For good.
+  void close() { isClosed_ = true; }
+  /// Throws ProgramEnded when it is closed.
+  void mustBeOpen() const;
+
+  /// Holds the gate as long as it lives. Not to be nested.
+  class Hold {
+   public:
+    explicit Hold(Gate& gate) : gate_(gate) { gate_.isHeld_ = true; }
+    ~Hold() { gate_.isHeld_ = false; }
+    Hold(const Hold&) = delete;
+
+   private:
+    Gate& gate_;
+  };
+
+  /// Keeps the handler that ends the program until whoever waits has unwound.
+  void keepEnd(std::function<void()> end) { end_ = std::move(end); }
+  bool isEndDue() const { return static_cast<bool>(end_); }
+  /// The kept handler, which is forgotten; an empty one if there is none.
+  std::function<void()> takeEnd() { return std::exchange(end_, {}); }
+
+ private:
+  bool isHeld_ = false;
+  bool isClosed_ = false;
+  std::function<void()> end_;
+};
+
+}  // namespace tracewell
