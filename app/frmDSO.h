@@ -122,6 +122,9 @@ class frmDSO : public Window, public SharedState {
   Button cmdExportCSV{*this, "cmdExportCSV", "Export CSV"};
   Button cmdClose{*this, "cmdClose", "Close"};
 
+  /// Written through app/StatusLine.h.
+  ValueLabel lblStatus{*this, "lblStatus", ""};
+
   /// Waveform requests, and a bench diagnostic that nothing enables. Milliseconds.
   static constexpr int tickInterval = 1200;
   Timer tmDSO{*this, tickInterval};
