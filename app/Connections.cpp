@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "LinkSettings.h"
 #include "Tracewell.h"
 
 /// Which routine answers which control of the main window. A dialog joins its own controls to its
@@ -75,7 +76,10 @@ void Tracewell::connectView() {
 }
 
 void Tracewell::connectFiles() {
-  main.mnbLoadSetup.click = [this] { setupFiles.mnbLoadSetup_Click(); };
+  main.mnbLoadSetup.click = [this] {
+    setupFiles.mnbLoadSetup_Click();
+    showDifferingLink(main);
+  };
   main.mnbSaveSetup.click = [this] { setupFiles.mnbSaveSetup_Click(); };
   main.cmdSave.click = [this] { waveformButtons.cmdSave_Click(); };
   main.mnbSaveWaveform.click = [this] { waveformButtons.cmdSave_Click(); };

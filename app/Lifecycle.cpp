@@ -6,6 +6,7 @@
 #include "ConnectionIndicator.h"
 #include "Files.h"
 #include "GraphSetup.h"
+#include "LinkSettings.h"
 #include "Messages.h"
 #include "Numbers.h"
 
@@ -28,6 +29,7 @@ void Lifecycle::Form_Load() {
   main_.AcqChan = 1;
   setUpSecondAxis(main_.graphDSO);
   setupFiles_.ReadSetupFile(setupFiles_.defaultPath());
+  applyLinkSettings(main_);
   captions_.LoadCaptions();
   LoadMessages(main_);
   showWaitingForConnect(main_);

@@ -46,11 +46,12 @@ ShortTimeOut::~ShortTimeOut() {
 
 void Delay(frmDSO& main, std::int32_t milliseconds) {
   Clock& clock = main.services().clock;
+  const StandBy& standBy = main.services().standBy;
   const std::int32_t start = tickCount(clock);
   do {
     clock.pumpEvents();
     main.services().gate.mustBeOpen();
-  } while (elapsedSince(start, tickCount(clock)) <= milliseconds);
+  } while (elapsedSince(start, tickCount(clock)) <= milliseconds && !standBy.isGivenUp());
 }
 
 }  // namespace tracewell

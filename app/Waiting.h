@@ -28,8 +28,9 @@ class ShortTimeOut {
 };
 
 /// Lets at least milliseconds + 1 milliseconds pass while events run, so any handler may run
-/// inside. Raises "Overflow" when the 32-bit tick count wraps meanwhile, and throws ProgramEnded if
-/// the main window has been closed meanwhile.
+/// inside; shorter when the user gives up the burst that it belongs to. Raises "Overflow" when the
+/// 32-bit tick count wraps meanwhile, and throws ProgramEnded if the main window has been closed
+/// meanwhile.
 void Delay(frmDSO& main, std::int32_t milliseconds);
 
 }  // namespace tracewell

@@ -18,7 +18,9 @@ add_library(tracewell_logic STATIC
   link/CommandExchange.cpp
   link/CommandLine.cpp
   link/Connect.cpp
+  link/Inquiry.cpp
   link/InstrumentState.cpp
+  link/LinkSettings.cpp
   link/PortNotice.cpp
   link/SettingsBurst.cpp
   link/WaveformRecord.cpp

@@ -34,6 +34,7 @@
 #include "PictureWidget.h"
 #include "SlideWidget.h"
 #include "Text.h"
+#include "UnreadMark.h"
 
 namespace tracewell {
 namespace {
@@ -56,6 +57,7 @@ void showWith(Control& control, Object* object, Show show) {
     const QSignalBlocker blocker(object);
     object->setVisible(control.visible());
     object->setEnabled(control.enabled());
+    if constexpr (std::is_base_of_v<QWidget, Object>) UnreadMark::show(*object, control.isUnread());
     show();
   };
   control.changed();

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "CommandExchange.h"
 
+#include <optional>
+
+#include "Inquiry.h"
 #include "Numbers.h"
 
 namespace tracewell {
@@ -21,13 +24,24 @@ std::string replyValue(const std::string& line) {
 }  // namespace
 
 std::string CommandExchange::SendDSOCmd(const std::string& command) {
-  return send(command, repeatLimit);
+  return isQuery(command) ? ask(command) : send(command, repeatLimit);
+}
+
+std::string CommandExchange::ask(const std::string& query) {
+  std::optional<Inquiry> alone;
+  if (inquiry_ == nullptr) alone.emplace(main_, *this, query);
+  return send(query, repeatLimit);
 }
 
 std::string CommandExchange::send(const std::string& command, int repeatsLeft) {
   try {
-    return exchange(command);
+    std::string reply = exchange(command);
+    wasSent_ = true;
+    if (inquiry_ != nullptr && isQuery(command)) inquiry_->note(true);
+    return reply;
   } catch (const Error& error) {
+    wasSent_ = error.number() == portReadTimeOut;
+    if (inquiry_ != nullptr && isQuery(command)) inquiry_->note(false);
     if (error.number() == portReadTimeOut)
       main_.LinkOK = false;
     else if (isQuery(command) && repeatsLeft > 0)

@@ -8,6 +8,8 @@
 
 namespace tracewell {
 
+class Inquiry;
+
 /// Command lines to the instrument and its reply lines.
 class CommandExchange {
  public:
@@ -22,16 +24,26 @@ class CommandExchange {
   /// failed command, and a query that has failed to the last, are logged.
   std::string SendDSOCmd(const std::string& command);
 
+  /// Whether the last command or query went out without an error of the port.
+  bool wasSent() const { return wasSent_; }
+
   /// Releases the instrument's own panel if a command has locked it. Logs its failure.
   void LoadSetup();
 
  private:
+  friend class Inquiry;
   static constexpr int repeatLimit = 8;
+  std::string ask(const std::string& query);
   std::string send(const std::string& command, int repeatsLeft);
   std::string exchange(const std::string& command);
 
   frmDSO& main_;
   ErrorLog& errorLog_;
+  bool wasSent_ = false;
+  /// The innermost one under way, if any.
+  Inquiry* inquiry_ = nullptr;
+  /// What the last one that missed something left in the status line.
+  std::string complaint_;
 };
 
 }  // namespace tracewell

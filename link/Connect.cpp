@@ -26,7 +26,7 @@ void Connect::startOrStop() {
 bool Connect::connectFirst() {
   {
     const WaitingNotice notice(main_);
-    instrument_.InitDSO();
+    readInstrument();
   }
   if (!main_.LinkOK) {
     showConnectFailed(main_);
@@ -47,8 +47,14 @@ void Connect::showAcquisition() {
   }
 }
 
-void Connect::cmdRS232_Click() {
+/// Nothing that went well before counts: a port that cannot be opened leaves the link as it was.
+void Connect::readInstrument() {
+  main_.LinkOK = false;
   instrument_.InitDSO();
+}
+
+void Connect::cmdRS232_Click() {
+  readInstrument();
   if (main_.LinkOK)
     cmdStart_Click();
   else

@@ -19,6 +19,7 @@ class Connect {
  private:
   void startOrStop();
   bool connectFirst();
+  void readInstrument();
   void showAcquisition();
 
   frmDSO& main_;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "InstrumentState.h"
 
+#include "Inquiry.h"
+#include "LinkSettings.h"
 #include "Numbers.h"
 #include "PortNotice.h"
 #include "SlideCaption.h"
@@ -17,25 +19,27 @@ bool isNull(const ValueLabel& scale) {
   return trimBlanks(scale.caption()) == "Null";
 }
 
-void showPosition(Slide& slide, double divisions) {
-  slide.caption = slideTitle(slide.caption()) + formatTwoDecimals(divisions) + " Div";
-}
-
 }  // namespace
 
 void InstrumentState::InitDSO() {
   try {
-    applyLinkSettings();
+    applyBaudRateAndPort();
+    Inquiry inquiry(main_, exchange_, main_.fmInstrument.caption(), Inquiry::Of::questions, 5);
+    inquiry.next();
     main_.lblChan1.caption = trimmed(exchange_.SendDSOCmd(":CHAN1:SCAL?"));
     if (!main_.LinkOK) return;
     if (main_.lblChan1.caption().empty())
       main_.lblChan1.caption = exchange_.SendDSOCmd(":CHAN1:SCAL?");
     showScale(ScaleKnob::Chan1, main_.lblChan1, main_.knobChan1);
+    inquiry.next();
     main_.lblChan2.caption = scaleReply(":CHAN2:SCAL?");
     showScale(ScaleKnob::Chan2, main_.lblChan2, main_.knobChan2);
+    inquiry.next();
     main_.lblTime.caption = scaleReply(":TIM:SCAL?");
     showScale(ScaleKnob::Time, main_.lblTime, main_.knobTime);
+    inquiry.next();
     readChannel1Position();
+    inquiry.next();
     readChannel2Position();
     UpdateTriggerMarker(main_);
   } catch (const Error& error) {
@@ -43,13 +47,16 @@ void InstrumentState::InitDSO() {
   }
 }
 
-void InstrumentState::applyLinkSettings() {
+/// Data bits, stop bits and parity stay those of the start and of the RS-232 dialog.
+void InstrumentState::applyBaudRateAndPort() {
   LineSettings& settings = main_.services().port.settings;
-  const std::int16_t baudRate = main_.gridMeasure.number(SetupTable::link, 2);
+  const SetupTable& table = main_.gridMeasure;
+  const std::int16_t baudRate = table.number(SetupTable::link, linkColumn(baudRateValue));
   settings.baudRate = baudRate;
-  settings.portNumber = main_.gridMeasure.number(SetupTable::link, 6);
+  settings.portNumber = table.number(SetupTable::link, linkColumn(portValue));
   main_.BaudRate = baudRate;
   showPort(main_, settings.portNumber);
+  showDifferingLink(main_);
 }
 
 void InstrumentState::readScale(const std::string& query, ScaleKnob kind, ValueLabel& label,
@@ -59,8 +66,17 @@ void InstrumentState::readScale(const std::string& query, ScaleKnob kind, ValueL
 }
 
 void InstrumentState::showScale(ScaleKnob kind, ValueLabel& label, Knob& knob) {
+  label.isUnread = label.caption().empty();
+  knob.isUnread = label.caption().empty();
   label.refresh();
-  if (const auto step = ScaleStepForReply(kind, label.caption())) knob.value = *step;
+  const auto step = ScaleStepForReply(kind, label.caption());
+  if (!step) return;
+  try {
+    knob.value = *step;
+  } catch (const Error&) {
+    // The knob's last act is to refresh the read-out of the cursors, for which not all scales may
+    // be known yet. Reading the instrument goes on.
+  }
 }
 
 /// A second reply counts as it stands.
@@ -69,20 +85,28 @@ std::string InstrumentState::scaleReply(const std::string& query) {
   return reply.empty() ? exchange_.SendDSOCmd(query) : reply;
 }
 
-std::string InstrumentState::askTwice(const std::string& query) {
-  std::string reply = exchange_.SendDSOCmd(query);
-  return reply.empty() ? exchange_.SendDSOCmd(query) : reply;
+/// The second reply where the first is empty.
+std::string InstrumentState::positionReply(const std::string& query) {
+  std::string reply = trimmed(exchange_.SendDSOCmd(query));
+  return reply.empty() ? trimmed(exchange_.SendDSOCmd(query)) : reply;
 }
 
-double InstrumentState::readPosition(const std::string& query, const ValueLabel& scale) {
+double InstrumentState::readPosition(const std::string& query, const ValueLabel& scale,
+                                     Slide& slide) {
   const double voltsPerDivision = ParseScaleCaption(scale.caption());
-  return divide(ParseScaleCaption(askTwice(query)), voltsPerDivision);
+  const std::string reply = positionReply(query);
+  slide.isUnread = reply.empty();
+  return divide(ParseScaleCaption(reply), voltsPerDivision);
+}
+
+void InstrumentState::showPosition(Slide& slide, double divisions) {
+  slide.value = divisions;
+  slide.caption = slideTitle(slide.caption()) + formatTwoDecimals(divisions) + " Div";
 }
 
 void InstrumentState::readChannel1Position() {
   if (isNull(main_.lblChan1)) return;
-  main_.Ch1Pos = readPosition("CHAN1:OFFS?", main_.lblChan1);
-  main_.slideCH1.value = main_.Ch1Pos;
+  main_.Ch1Pos = readPosition("CHAN1:OFFS?", main_.lblChan1, main_.slideCH1);
   main_.Ch1PosCounts = toInt16(main_.Ch1Pos * SharedState::unitsPerDivision);
   showPosition(main_.slideCH1, main_.Ch1Pos);
 }
@@ -90,8 +114,7 @@ void InstrumentState::readChannel1Position() {
 /// Channel 2 keeps whole divisions, unlike channel 1.
 void InstrumentState::readChannel2Position() {
   if (isNull(main_.lblChan2)) return;
-  main_.Ch2Pos = toInt16(readPosition("CHAN2:OFFS?", main_.lblChan2));
-  main_.slideCH2.value = main_.Ch2Pos;
+  main_.Ch2Pos = toInt16(readPosition("CHAN2:OFFS?", main_.lblChan2, main_.slideCH2));
   main_.Ch2PosCounts = mulInt16(main_.Ch2Pos, SharedState::unitsPerDivision);
   showPosition(main_.slideCH2, main_.Ch2Pos);
 }

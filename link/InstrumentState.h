@@ -15,21 +15,23 @@ class InstrumentState {
       : main_(main), exchange_(exchange), errorLog_(errorLog) {}
 
   /// Applies baud rate and port number of the setup table, then reads what the instrument is set
-  /// to. Success shows in LinkOK; a silent instrument ends it at the first query. Logs its failure.
+  /// to. Success shows in LinkOK; a silent instrument ends it at the first query. What has no
+  /// answer is marked as unread. Logs its failure.
   void InitDSO();
 
   /// Shows the reply to a scale query and moves the knob to it, if the reply is in the table.
   void readScale(const std::string& query, ScaleKnob kind, ValueLabel& label, Knob& knob);
 
  private:
-  void applyLinkSettings();
+  void applyBaudRateAndPort();
   std::string scaleReply(const std::string& query);
-  /// The reply, or the second one where the first is empty.
-  std::string askTwice(const std::string& query);
+  std::string positionReply(const std::string& query);
   void showScale(ScaleKnob kind, ValueLabel& label, Knob& knob);
   void readChannel1Position();
   void readChannel2Position();
-  double readPosition(const std::string& query, const ValueLabel& scale);
+  /// In divisions; 0 where there is no answer, and the slide is marked then.
+  double readPosition(const std::string& query, const ValueLabel& scale, Slide& slide);
+  static void showPosition(Slide& slide, double divisions);
 
   frmDSO& main_;
   CommandExchange& exchange_;

@@ -1,19 +1,26 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "SettingsBurst.h"
 
+#include "Inquiry.h"
 #include "Waiting.h"
 
 namespace tracewell {
 
-void SettingsBurst::writeAndVerify(std::span<const std::string_view> stems, int row, int first) {
-  constexpr int attempts = 3;
+void SettingsBurst::writeAndVerify(const std::string& name, std::span<const std::string_view> stems,
+                                   int row, int first) {
   main_.refresh();
   const ShortTimeOut shortTimeOut(main_);
   main_.txtMsg.text = "";
-  for (int i = first; i < static_cast<int>(stems.size()); ++i) {
-    const std::string stem(stems[static_cast<std::size_t>(i)]);
-    const int column = SetupTable::firstValue + i;
-    for (int attempt = 0; attempt < attempts && !isAccepted(stem, row, column); ++attempt) {
+  const int count = static_cast<int>(stems.size());
+  Inquiry inquiry(main_, exchange_, name, Inquiry::Of::settings, count - first);
+  for (int i = first; i < count; ++i) {
+    inquiry.next();
+    bool isDone = false;
+    for (int attempt = 0; attempt < attempts && !isDone; ++attempt) {
+      const bool isRight = isAccepted(std::string(stems[static_cast<std::size_t>(i)]), row,
+                                      SetupTable::firstValue + i);
+      inquiry.note(isRight);
+      isDone = isRight || inquiry.isGivenUp();
     }
   }
 }

@@ -21,9 +21,12 @@ class SettingsBurst {
   /// to three times, until the instrument's reply is the cell's text to the letter; then the next
   /// follows without a word. The reply box shows every line as it goes out. Replies are given
   /// the short time-out meanwhile. Throws ProgramEnded when the window is closed in between.
-  void writeAndVerify(std::span<const std::string_view> stems, int row, int first);
+  /// `name` is what the status line calls them. After Escape each is written once, unverified.
+  void writeAndVerify(const std::string& name, std::span<const std::string_view> stems, int row,
+                      int first);
 
  private:
+  static constexpr int attempts = 3;
   bool isAccepted(const std::string& stem, int row, int column);
 
   frmDSO& main_;

@@ -1,47 +1,26 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "frmRS232.h"
 
+#include "LinkSettings.h"
 #include "Numbers.h"
 #include "PortNotice.h"
 
 namespace tracewell {
-namespace {
-
-enum Setting : int { baudRate, dataBits, stopBits, parity, portNumber, settingCount };
-
-constexpr int cell(int setting) {
-  return SetupTable::firstValue + setting;
-}
-
-std::int16_t dataBitsCode(const std::string& text) {
-  return text == "7" ? 7 : 8;
-}
-
-std::int16_t stopBitsCode(const std::string& text) {
-  return text == "1" ? 0 : 2;
-}
-
-std::int16_t parityCode(const std::string& text) {
-  if (text == "None") return 0;
-  return text == "Odd" ? 3 : 1;
-}
-
-}  // namespace
 
 frmRS232::frmRS232(frmDSO& main) : Window("frmRS232", "RS-232", main.services()), main_(main) {
-  cbRS232(baudRate).items = {"1200", "2400", "4800", "9600", "14400", "19200"};
-  cbRS232(dataBits).items = {"7", "8"};
-  cbRS232(stopBits).items = {"1", "2"};
-  cbRS232(parity).items = {"None", "Odd", "Even"};
-  cbRS232(portNumber).click = [this] { showDevice(); };
+  cbRS232(baudRateValue).items = {"1200", "2400", "4800", "9600", "14400", "19200"};
+  cbRS232(dataBitsValue).items = {"7", "8"};
+  cbRS232(stopBitsValue).items = {"1", "2"};
+  cbRS232(parityValue).items = {"None", "Odd", "Even"};
+  cbRS232(portValue).click = [this] { showDevice(); };
   cmdOK.click = [this] { cmdOK_Click(); };
   cmdCancel.click = [this] { cmdCancel_Click(); };
 }
 
 void frmRS232::mnbRS232_Click() {
   listPorts();
-  for (int i = 0; i < settingCount; ++i)
-    cbRS232(i).text = main_.gridMeasure.text(SetupTable::link, cell(i));
+  for (int i = 0; i < linkValues; ++i)
+    cbRS232(i).text = main_.gridMeasure.text(SetupTable::link, linkColumn(i));
   showDevice();
   showModal();
 }
@@ -51,13 +30,13 @@ void frmRS232::listPorts() {
   std::vector<std::string> numbers;
   for (const PortList::Entry& port : services().ports.ports())
     numbers.push_back(std::to_string(port.number));
-  cbRS232(portNumber).items = numbers;
+  cbRS232(portValue).items = numbers;
 }
 
 /// No device for a text that is no port number; OK is where that is an error.
 void frmRS232::showDevice() {
   try {
-    lblDevice.caption = services().ports.deviceOf(toInt16(cbRS232(portNumber).text()));
+    lblDevice.caption = services().ports.deviceOf(toInt16(cbRS232(portValue).text()));
   } catch (const Error&) {
     lblDevice.caption = "";
   }
@@ -65,14 +44,14 @@ void frmRS232::showDevice() {
 
 void frmRS232::cmdOK_Click() {
   LineSettings& settings = services().port.settings;
-  main_.BaudRate = toInt16(cbRS232(baudRate).text());
+  main_.BaudRate = toInt16(cbRS232(baudRateValue).text());
   settings.baudRate = main_.BaudRate;
-  settings.portNumber = toInt16(cbRS232(portNumber).text());
-  settings.dataBits = dataBitsCode(cbRS232(dataBits).text());
-  settings.stopBits = stopBitsCode(cbRS232(stopBits).text());
-  settings.parity = parityCode(cbRS232(parity).text());
-  for (int i = 0; i < settingCount; ++i)
-    main_.gridMeasure.setText(SetupTable::link, cell(i), cbRS232(i).text());
+  settings.portNumber = toInt16(cbRS232(portValue).text());
+  settings.dataBits = dataBitsCode(cbRS232(dataBitsValue).text());
+  settings.stopBits = stopBitsCode(cbRS232(stopBitsValue).text());
+  settings.parity = parityCode(cbRS232(parityValue).text());
+  for (int i = 0; i < linkValues; ++i)
+    main_.gridMeasure.setText(SetupTable::link, linkColumn(i), cbRS232(i).text());
   showPort(main_, settings.portNumber);
   hide();
   main_.refresh();

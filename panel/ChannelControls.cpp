@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ChannelControls.h"
 
+#include "Inquiry.h"
 #include "Numbers.h"
 #include "SlideCaption.h"
 #include "WaitingNotice.h"
@@ -94,27 +95,22 @@ void ChannelControls::editSettings(const Channel& channel) {
   logged("cmdCh" + number + "_Click : ", [&] {
     readSettings(channel);
     channelDialog_.showModal();
-    if (channelDialog_.tag == "1") burst_.writeAndVerify(channel.queries, channel.setupRow, 1);
+    if (channelDialog_.tag == "1")
+      burst_.writeAndVerify(channelDialog_.caption(), channel.queries, channel.setupRow, 1);
     acquisition_.RunAcq();
     instrument_.readScale(channelStem(channel.number) + "SCAL?", channel.kind, channel.scale,
                           channel.knob);
   });
 }
 
-/// What the instrument does not answer with a number stays as the dialog last had it.
 void ChannelControls::readSettings(const Channel& channel) {
   const WaitingNotice notice(main_);
+  Inquiry inquiry(main_, exchange_, channel.menuEntry.caption(), Inquiry::Of::questions, 5);
   channelDialog_.setupRow = channel.setupRow;
   for (int i = 0; i < 5; ++i) {
+    inquiry.next();
     const std::string query(channel.queries[static_cast<std::size_t>(i)]);
-    const std::string reply = exchange_.SendDSOCmd(query + "?");
-    if (!isNumeric(reply)) continue;
-    if (i < 3)
-      channelDialog_.cbCh(i).value = toInt16(reply);
-    else if (i == 3)
-      channelDialog_.obCoupling(toInt16(reply)).value = true;
-    else
-      channelDialog_.obProbe(toInt16(reply)).value = true;
+    channelDialog_.show(i, exchange_.SendDSOCmd(query + "?"));
   }
   channelDialog_.caption = channel.menuEntry.caption();
 }

@@ -20,6 +20,7 @@ void ScaleKnobs::knobTime_ValueChanged() {
 void ScaleKnobs::sendScale(ScaleKnob kind, const Knob& knob, ValueLabel& label) {
   exchange_.SendDSOCmd(ScaleCommandForKnob(kind, knob.value()));
   label.caption = scaleCaptionForKnob(kind, knob.value());
+  label.isUnread = false;
   UpdateTriggerMarker(main_);
   cursors_.graphDSO_CursorMoved();
 }

@@ -1,13 +1,37 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "frmChannel.h"
 
+#include "Numbers.h"
+
 namespace tracewell {
+namespace {
+
+constexpr int boxCount = 3;
+
+/// Selects the option that the reply names, or marks the one that is selected.
+void showOption(ControlArray<OptionButton>& options, const std::string& reply) {
+  if (isNumeric(reply)) options(toInt16(reply)).value = true;
+  for (OptionButton& option : options) option.isUnread = option.value() && !isNumeric(reply);
+}
+
+}  // namespace
 
 frmChannel::frmChannel(frmDSO& main)
     : Window("frmChannel", "Channel", main.services()), main_(main) {
   formActivate = [this] { tag = "0"; };
   cmdOK.click = [this] { cmdOK_Click(); };
   cmdCancel.click = [this] { cmdCancel_Click(); };
+}
+
+void frmChannel::show(int place, const std::string& reply) {
+  if (place == boxCount) {
+    showOption(obCoupling, reply);
+  } else if (place > boxCount) {
+    showOption(obProbe, reply);
+  } else {
+    if (isNumeric(reply)) cbCh(place).value = toInt16(reply);
+    cbCh(place).isUnread = !isNumeric(reply);
+  }
 }
 
 void frmChannel::cmdOK_Click() {

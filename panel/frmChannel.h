@@ -22,6 +22,11 @@ class frmChannel : public Window {
   /// The row that OK writes; set by the opener.
   std::int16_t setupRow = SetupTable::channel1;
 
+  /// Shows the reply to the query of a place in the row. What is no number leaves the control as
+  /// the dialog last had it, and marks it as unread. Raises an error for a number without a
+  /// control.
+  void show(int place, const std::string& reply);
+
  private:
   void cmdOK_Click();
   void cmdCancel_Click();

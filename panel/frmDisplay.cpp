@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "frmDisplay.h"
 
+#include "Inquiry.h"
 #include "Numbers.h"
 #include "ScaleTables.h"
 #include "SettingsBurst.h"
@@ -54,17 +55,21 @@ void frmDisplay::cmdDisplay_Click() {
 /// The style is the panel's own, so the instrument is not asked for it.
 void frmDisplay::readSettings() {
   const WaitingNotice notice(main_);
-  slideDataBrightness.value = brightness(ofData);
-  slideGraticuleBrightness.value = brightness(ofGraticule);
+  Inquiry inquiry(main_, exchange_, caption(), Inquiry::Of::questions, brightnessCount);
+  inquiry.next();
+  readBrightness(slideDataBrightness, ofData);
+  inquiry.next();
+  readBrightness(slideGraticuleBrightness, ofGraticule);
   const bool isDot = main_.gridMeasure.text(SetupTable::display, styleColumn) == "1";
   (isDot ? obDot : obVector).value = true;
 }
 
 /// The instrument's number, or the stored one where it gave none.
-double frmDisplay::brightness(std::size_t setting) {
+void frmDisplay::readBrightness(Slide& slide, std::size_t setting) {
   const std::string reply = exchange_.SendDSOCmd(std::string(BrightQuery[setting]) + "?");
-  return toDouble(isNumeric(reply) ? reply
-                                   : main_.gridMeasure.text(SetupTable::display, column(setting)));
+  slide.value = toDouble(
+      isNumeric(reply) ? reply : main_.gridMeasure.text(SetupTable::display, column(setting)));
+  slide.isUnread = !isNumeric(reply);
 }
 
 /// One attempt each, unlike the channel and trigger settings: what the instrument has made of it
@@ -73,14 +78,16 @@ void frmDisplay::sendBrightness() {
   main_.refresh();
   const ShortTimeOut shortTimeOut(main_);
   main_.txtMsg.text = "";
+  Inquiry inquiry(main_, exchange_, caption(), Inquiry::Of::settings, brightnessCount);
   for (std::size_t setting = 0; setting < brightnessCount; ++setting) {
+    inquiry.next();
     const std::string stem(BrightQuery[setting]);
-    const std::string command =
-        stem + " " + main_.gridMeasure.text(SetupTable::display, column(setting));
+    const std::string& value = main_.gridMeasure.text(SetupTable::display, column(setting));
+    const std::string command = stem + " " + value;
     exchange_.SendDSOCmd(command);
     Delay(main_, SettingsBurst::settlingTime);
     echoLine(main_, command);
-    exchange_.SendDSOCmd(stem + "?");
+    inquiry.note(exchange_.SendDSOCmd(stem + "?") == value);
   }
 }
 

@@ -28,7 +28,7 @@ class frmDisplay : public Window {
 
  private:
   void readSettings();
-  double brightness(std::size_t setting);
+  void readBrightness(Slide& slide, std::size_t setting);
   void sendBrightness();
   void cmdOK_Click();
   void cmdCancel_Click();

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "frmTrig.h"
 
+#include <optional>
+
+#include "Inquiry.h"
 #include "Numbers.h"
 #include "ScaleTables.h"
 #include "TriggerMarker.h"
@@ -41,31 +44,41 @@ void frmTrig::cmdTrig_Click() {
     readAdvancedSettings();
   }
   showModal();
-  if (tag != "0") burst_.writeAndVerify(TrigQuery, SetupTable::trigger, 0);
-  if (tag == "2") burst_.writeAndVerify(TrigAdvQuery, SetupTable::advancedTrigger, 0);
+  if (tag != "0") burst_.writeAndVerify(caption(), TrigQuery, SetupTable::trigger, 0);
+  if (tag == "2")
+    burst_.writeAndVerify(fmAdv.caption(), TrigAdvQuery, SetupTable::advancedTrigger, 0);
   UpdateTriggerMarker(main_);
   acquisition_.RunAcq();
 }
 
 /// Setting a box runs its click, so the instrument's values go into the table, too.
 void frmTrig::readSettings() {
+  Inquiry inquiry(main_, exchange_, caption(), Inquiry::Of::questions, cbTrig.size());
   for (int i = 0; i < cbTrig.size(); ++i) {
+    inquiry.next();
     const std::string query(TrigQuery[static_cast<std::size_t>(i)]);
     const std::string reply = exchange_.SendDSOCmd(query + "?");
     echoLine(main_, reply);
     cbTrig(i).listIndex = indexOf(reply, SetupTable::trigger, 2 + i);
+    cbTrig(i).isUnread = !isNumeric(reply);
   }
 }
 
 void frmTrig::readAdvancedSettings() {
+  std::optional<Inquiry> inquiry;
+  if (isAdvanced()) inquiry.emplace(main_, exchange_, fmAdv.caption(), Inquiry::Of::questions, 5);
   for (int i = 0; i < 5; ++i) {
+    if (inquiry) inquiry->next();
     const std::string query(TrigAdvQuery[static_cast<std::size_t>(i)]);
-    const std::string reply = isAdvanced() ? exchange_.SendDSOCmd(query + "?") : "";
-    if (i < 2)
+    const std::string reply = inquiry ? exchange_.SendDSOCmd(query + "?") : "";
+    if (i < 2) {
       cbTrigAdv(i).listIndex = indexOf(reply, SetupTable::advancedTrigger, 2 + i);
-    else
-      txtTrigAdv(i - 2).text =
-          isAdvanced() ? reply : main_.gridMeasure.text(SetupTable::advancedTrigger, 2 + i);
+      cbTrigAdv(i).isUnread = !isNumeric(reply);
+    } else {
+      TextBox& box = txtTrigAdv(i - 2);
+      box.text = inquiry ? reply : main_.gridMeasure.text(SetupTable::advancedTrigger, 2 + i);
+      box.isUnread = reply.empty();
+    }
   }
 }
 

@@ -14,7 +14,10 @@ std::string Control::objectName() const {
 
 void Control::userDoes(const std::function<void()>& action) {
   if (!visible() || !enabled()) return;
-  owner_.services().dispatcher.dispatch(action);
+  owner_.services().dispatcher.dispatch([&] {
+    isUnread = false;
+    action();
+  });
 }
 
 }  // namespace tracewell

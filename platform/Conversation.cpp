@@ -16,9 +16,9 @@ Error closedError() {
   return {deviceError, "RS232", "The port is not open"};
 }
 
-/// What may stand around a line without meaning anything.
+/// What may stand between lines without meaning anything. A line end is the end of something.
 bool isBlank(char byte) {
-  return byte == '\r' || byte == '\n' || byte == ' ' || byte == '\0';
+  return byte == '\r' || byte == ' ' || byte == '\0';
 }
 
 bool isBlank(std::string_view bytes) {

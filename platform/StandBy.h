@@ -32,6 +32,7 @@ class StandBy {
       if (--standBy_.bursts_ == 0) standBy_.isGivenUp_ = false;
     }
     Burst(const Burst&) = delete;
+    bool isGivenUp() const { return standBy_.isGivenUp_; }
 
    private:
     StandBy& standBy_;

@@ -16,9 +16,14 @@ namespace tracewell {
 struct FarEnd {
   /// What to answer to a line, without CR LF.
   std::function<std::string(const std::string& line)> answer;
-  /// Milliseconds before the first byte of an answer, and between bytes.
+  /// Milliseconds from a line to the first byte of its answer, and between bytes. May be changed by
+  /// `answer` for the answer that it gives.
   double thought = 5;
   double byteTime = 0.5;
+  /// Bytes that nobody has asked for. They go out from the next time on that the channel is read.
+  std::string unasked;
+  /// When all that is to be sent has been sent.
+  double lineFreeAt = 0;
   /// After so many bytes the line is gone.
   std::size_t hangUpAfter = std::string::npos;
   bool isAway = false;
@@ -32,12 +37,8 @@ class PacedChannel : public ByteChannel {
   void write(std::string_view bytes) override {
     if (isGone()) throw Error(deviceError, "RS232", "gone");
     const std::string line(bytes.substr(0, bytes.size() - 2));
-    double at = std::max(lineFreeAt_, static_cast<double>(clock_.milliseconds())) + farEnd_.thought;
-    for (const char byte : farEnd_.answer(line)) {
-      at += farEnd_.byteTime;
-      due_.emplace_back(at, byte);
-    }
-    lineFreeAt_ = at;
+    const std::string answer = farEnd_.answer(line);
+    sendFrom(static_cast<double>(clock_.milliseconds()) + farEnd_.thought, answer);
     announce();
   }
 
@@ -54,7 +55,14 @@ class PacedChannel : public ByteChannel {
  private:
   bool isGone() const { return farEnd_.isAway || taken_ >= farEnd_.hangUpAfter; }
 
+  void sendFrom(double at, const std::string& bytes) {
+    farEnd_.lineFreeAt = std::max(farEnd_.lineFreeAt, at);
+    for (const char byte : bytes) due_.emplace_back(farEnd_.lineFreeAt += farEnd_.byteTime, byte);
+  }
+
   std::string take() {
+    if (!farEnd_.unasked.empty()) announce();
+    sendFrom(static_cast<double>(clock_.milliseconds()), std::exchange(farEnd_.unasked, {}));
     std::string bytes;
     while (!due_.empty() && due_.front().first <= static_cast<double>(clock_.milliseconds()) &&
            taken_ < farEnd_.hangUpAfter) {
@@ -77,7 +85,6 @@ class PacedChannel : public ByteChannel {
   FarEnd& farEnd_;
   VirtualClock& clock_;
   std::deque<std::pair<double, char>> due_;
-  double lineFreeAt_ = 0;
   std::size_t taken_ = 0;
   std::shared_ptr<int> alive_ = std::make_shared<int>();
 };
@@ -88,6 +95,7 @@ class PacedOpener : public ChannelOpener {
   std::unique_ptr<ByteChannel> open(const LineSettings&) override {
     if (farEnd.isAway) throw Error(deviceError, "RS232", "no such port");
     ++farEnd.opened;
+    farEnd.lineFreeAt = 0;
     return std::make_unique<PacedChannel>(farEnd, clock_);
   }
   FarEnd farEnd;

@@ -10,10 +10,6 @@
 namespace tracewell {
 namespace {
 
-std::string sourceCommand(int channel) {
-  return ":MEAS:SOUR " + std::to_string(channel);
-}
-
 /// "Vpp(1)    ": at least ten characters.
 std::string labelText(std::string_view name, int channel) {
   constexpr std::size_t shortest = 10;
@@ -76,48 +72,83 @@ void Measurements::RunMeasurements() {
   ClearMeasureLabels();
   const ShortTimeOut shortTimeOut(main_);
   nextLabel_ = 0;
+  int count = 0;
+  for (const int channel : {1, 2})
+    count += flaggedCount(channel + 1, VoltMeasName.size()) +
+             flaggedCount(channel + 3, FreqMeasName.size());
+  Inquiry inquiry(main_, exchange_, main_.fmMeasure.caption(), Inquiry::Of::questions, count);
   for (const int channel : {1, 2}) {
-    exchange_.SendDSOCmd(sourceCommand(channel));
-    measureFlagged(channel, VoltMeasName, VoltMeasQuery, channel + 1);
-    measureFlagged(channel, FreqMeasName, FreqMeasQuery, channel + 3);
+    chooseSource(channel);
+    measureFlagged(inquiry, channel, VoltMeasName, VoltMeasQuery, channel + 1);
+    measureFlagged(inquiry, channel, FreqMeasName, FreqMeasQuery, channel + 3);
   }
 }
 
-void Measurements::ClearMeasureLabels() {
-  for (ValueLabel& label : main_.lblMeasure) label.caption = "";
+void Measurements::chooseSource(int channel) {
+  exchange_.SendDSOCmd(":MEAS:SOUR " + std::to_string(channel));
+  isSourceChosen_ = exchange_.wasSent();
 }
 
-void Measurements::measureFlagged(int channel, std::span<const std::string_view> names,
+void Measurements::ClearMeasureLabels() {
+  for (ValueLabel& label : main_.lblMeasure) {
+    label.caption = "";
+    label.isUnread = false;
+  }
+}
+
+void Measurements::measureFlagged(Inquiry& inquiry, int channel,
+                                  std::span<const std::string_view> names,
                                   std::span<const std::string_view> queries, int flagRow) {
-  for (std::size_t item = 0; item < names.size(); ++item)
-    if (isFlagged(flagRow, item)) measureOne(channel, names[item], std::string(queries[item]));
+  for (std::size_t item = 0; item < names.size(); ++item) {
+    if (!isFlagged(flagRow, item)) continue;
+    inquiry.next();
+    const std::string reply = askPatiently(channel, std::string(queries[item]));
+    inquiry.note(!reply.empty());
+    showNext(labelText(names[item], channel) + ": ", reply);
+    // The list can be long and the instrument slow: the window stays alive between two items.
+    Delay(main_, 0);
+  }
+}
+
+int Measurements::flaggedCount(int row, std::size_t items) const {
+  int count = 0;
+  for (std::size_t item = 0; item < items; ++item) count += isFlagged(row, item) ? 1 : 0;
+  return count;
+}
+
+void Measurements::showResult(ValueLabel& label, const std::string& title,
+                              const std::string& reply) {
+  label.caption = title + reply;
+  label.isUnread = reply.empty();
 }
 
 bool Measurements::isFlagged(int row, std::size_t item) const {
   return main_.gridMeasure.text(row, SetupTable::firstValue + static_cast<int>(item)) == "1";
 }
 
-void Measurements::measureOne(int channel, std::string_view name, const std::string& query) {
+void Measurements::showNext(const std::string& title, const std::string& reply) {
   ValueLabel& label = main_.lblMeasure(nextLabel_);
-  label.caption = labelText(name, channel) + ": " + askPatiently(channel, query);
+  showResult(label, title, reply);
   label.refresh();
   nextLabel_ = std::min(nextLabel_ + 1, main_.lblMeasure.size() - 1);
-  // The list can be long and the instrument slow: the window stays alive between two items.
-  Delay(main_, 0);
 }
 
 std::string Measurements::askPatiently(int channel, const std::string& query) {
   constexpr int mostAttempts = 4;
-  std::string reply = exchange_.SendDSOCmd(query);
+  std::string reply = ask(query);
   for (int attempt = 1; attempt < mostAttempts && isNoValue(reply); ++attempt) {
     if (!reply.empty()) {
       // Brings the instrument back to a known state.
-      exchange_.SendDSOCmd(sourceCommand(channel));
-      exchange_.SendDSOCmd("*IDN?");
+      chooseSource(channel);
+      ask("*IDN?");
     }
-    reply = exchange_.SendDSOCmd(query);
+    reply = ask(query);
   }
   return reply;
+}
+
+std::string Measurements::ask(const std::string& query) {
+  return isSourceChosen_ ? exchange_.SendDSOCmd(query) : "";
 }
 
 void Measurements::mnbFrequency_Click() {
@@ -137,12 +168,16 @@ void Measurements::cmdFMeasure_Click() {
 
 void Measurements::measureQuickly() {
   const ShortTimeOut shortTimeOut(main_, 1);
-  exchange_.SendDSOCmd(sourceCommand(main_.FMeasChan));
+  chooseSource(main_.FMeasChan);
+  Inquiry inquiry(main_, exchange_, main_.fmMeasure.caption(), Inquiry::Of::questions,
+                  flaggedCount(SetupTable::voltageChannel1, FreqMeasQuery.size()));
   int label = 0;
   for (std::size_t item = 0; item < FreqMeasQuery.size(); ++item) {
     if (!isFlagged(SetupTable::voltageChannel1, item)) continue;
-    const std::string reply = exchange_.SendDSOCmd(std::string(FreqMeasQuery[item]));
-    main_.lblMeasure(label++).caption = std::string(FreqMeasName[item]) + reply;
+    inquiry.next();
+    const std::string reply = ask(std::string(FreqMeasQuery[item]));
+    inquiry.note(!reply.empty());
+    showResult(main_.lblMeasure(label++), std::string(FreqMeasName[item]), reply);
     main_.refresh();
   }
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Acquisition.h"
+#include "Inquiry.h"
 #include "MeasurementItems.h"
 #include "frmFMeasure.h"
 #include "frmVMeasure.h"
@@ -33,10 +34,17 @@ class Measurements {
   void RunMeasurements();
   void ClearMeasureLabels();
   void measureQuickly();
-  void measureFlagged(int channel, std::span<const std::string_view> names,
+  void measureFlagged(Inquiry& inquiry, int channel, std::span<const std::string_view> names,
                       std::span<const std::string_view> queries, int flagRow);
-  void measureOne(int channel, std::string_view name, const std::string& query);
+  void chooseSource(int channel);
+  void showNext(const std::string& title, const std::string& reply);
+  /// Shows a result; one without an answer is marked.
+  static void showResult(ValueLabel& label, const std::string& title, const std::string& reply);
+  int flaggedCount(int row, std::size_t items) const;
   std::string askPatiently(int channel, const std::string& query);
+  /// The reply; "" without asking when the source could not be chosen, since the answer would be
+  /// that of the source before.
+  std::string ask(const std::string& query);
   bool isFlagged(int row, std::size_t item) const;
 
   frmDSO& main_;
@@ -47,6 +55,7 @@ class Measurements {
   frmFMeasure& quickSelection_;
   /// Label that the next result goes to; the last one takes all that find no room.
   int nextLabel_ = 0;
+  bool isSourceChosen_ = false;
   /// Events run between two items; none of them may begin a second measurement.
   bool isMeasuring_ = false;
 };

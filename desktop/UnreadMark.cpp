@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "UnreadMark.h"
+
+#include <QEvent>
+#include <QPainter>
+
+namespace tracewell {
+namespace {
+
+constexpr int side = 13;
+
+}  // namespace
+
+void UnreadMark::show(QWidget& marked, bool isUnread) {
+  auto* mark = marked.findChild<UnreadMark*>(QString(), Qt::FindDirectChildrenOnly);
+  if (mark == nullptr && isUnread) mark = new UnreadMark(marked);
+  if (mark != nullptr) mark->setVisible(isUnread);
+}
+
+UnreadMark::UnreadMark(QWidget& marked) : QWidget(&marked) {
+  resize(side, side);
+  setToolTip(QStringLiteral("The instrument has not answered; this is not its value"));
+  setAccessibleName(QStringLiteral("not answered"));
+  marked.installEventFilter(this);
+  toCorner();
+}
+
+void UnreadMark::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(QColor(0xc7, 0x78, 0x00));
+  painter.drawEllipse(rect());
+  QFont bold = font();
+  bold.setBold(true);
+  bold.setPixelSize(side - 3);
+  painter.setFont(bold);
+  painter.setPen(Qt::white);
+  painter.drawText(rect(), Qt::AlignCenter, QStringLiteral("?"));
+}
+
+bool UnreadMark::eventFilter(QObject*, QEvent* event) {
+  if (event->type() == QEvent::Resize) toCorner();
+  return false;
+}
+
+void UnreadMark::toCorner() {
+  move(parentWidget()->width() - width(), 0);
+}
+
+}  // namespace tracewell

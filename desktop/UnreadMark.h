@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QWidget>
+
+namespace tracewell {
+
+/// A question mark in the upper right corner of a widget whose value the instrument has not told.
+class UnreadMark : public QWidget {
+  Q_OBJECT
+
+ public:
+  /// Shows or hides the mark of `marked`, which owns it. A mark is made when it is first shown.
+  static void show(QWidget& marked, bool isUnread);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  explicit UnreadMark(QWidget& marked);
+  void toCorner();
+};
+
+}  // namespace tracewell

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+
+#include "CommandExchange.h"
+
+namespace tracewell {
+
+/// A series of questions to the instrument, as long as it lives. The status line counts them while
+/// they are put, and says at the end how many had no answer; Escape ends the waits that are left.
+class Inquiry {
+ public:
+  enum class Of { questions, settings };
+
+  /// `name` is what the status line calls it, `count` how many items follow.
+  Inquiry(frmDSO& main, CommandExchange& exchange, std::string name, Of items, int count);
+  /// A single question.
+  Inquiry(frmDSO& main, CommandExchange& exchange, const std::string& question);
+  ~Inquiry();
+  Inquiry(const Inquiry&) = delete;
+
+  /// The next item begins.
+  void next();
+  /// How an exchange for the present item ended; of several the last one counts.
+  void note(bool isAnswered) { isMissing_ = !isAnswered; }
+  /// The user does not want to wait any longer.
+  bool isGivenUp() const { return waits_.isGivenUp(); }
+
+ private:
+  void finishItem();
+  std::string progress() const;
+  std::string complaint() const;
+
+  frmDSO& main_;
+  CommandExchange& exchange_;
+  StandBy::Burst waits_;
+  std::string name_;
+  Of items_;
+  int count_;
+  int item_ = 0;
+  int missing_ = 0;
+  bool isMissing_ = false;
+  Inquiry* outer_;
+  std::string statusBefore_;
+};
+
+}  // namespace tracewell

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "LinkSettings.h"
+
+#include "Numbers.h"
+#include "PortNotice.h"
+#include "StatusLine.h"
+
+namespace tracewell {
+namespace {
+
+/// "port 7, 9600 baud 8-N-1".
+std::string lineText(const LineSettings& settings) {
+  const char parity = settings.parity == 0 ? 'N' : settings.parity == 3 ? 'O' : 'E';
+  return "port " + std::to_string(settings.portNumber) + ", " + std::to_string(settings.baudRate) +
+         " baud " + std::to_string(settings.dataBits) + "-" + parity + "-" +
+         (settings.stopBits == 0 ? "1" : "2");
+}
+
+}  // namespace
+
+std::int16_t dataBitsCode(const std::string& text) {
+  return text == "7" ? 7 : 8;
+}
+
+std::int16_t stopBitsCode(const std::string& text) {
+  return text == "1" ? 0 : 2;
+}
+
+std::int16_t parityCode(const std::string& text) {
+  if (text == "None") return 0;
+  return text == "Odd" ? 3 : 1;
+}
+
+LineSettings linkSettings(const SetupTable& table) {
+  const auto text = [&](int value) { return table.text(SetupTable::link, linkColumn(value)); };
+  return {.portNumber = toInt16(text(portValue)),
+          .baudRate = toInt16(text(baudRateValue)),
+          .dataBits = dataBitsCode(text(dataBitsValue)),
+          .stopBits = stopBitsCode(text(stopBitsValue)),
+          .parity = parityCode(text(parityValue))};
+}
+
+void applyLinkSettings(frmDSO& main) {
+  LineSettings& settings = main.services().port.settings;
+  try {
+    settings = linkSettings(main.gridMeasure);
+  } catch (const Error& error) {
+    showStatus(main, "Line settings of the setup: " + error.description() +
+                         ". In use: " + lineText(settings));
+  }
+  showPort(main, settings.portNumber);
+}
+
+void showDifferingLink(frmDSO& main) {
+  const LineSettings& settings = main.services().port.settings;
+  try {
+    const LineSettings wanted = linkSettings(main.gridMeasure);
+    if (wanted == settings) return;
+    showStatus(main, "The setup has " + lineText(wanted) + "; in use is " + lineText(settings) +
+                         " until OK in the RS-232 dialog");
+  } catch (const Error&) {
+    showStatus(main, "The setup has no usable line settings; in use is " + lineText(settings));
+  }
+}
+
+}  // namespace tracewell

@@ -1,0 +1,285 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <cstdlib>
+#include <iostream>
+#include <map>
+#include <random>
+
+#include "Doubles.h"
+#include "Numbers.h"
+#include "PacedChannel.h"
+#include "Waiting.h"
+
+namespace tracewell {
+namespace {
+
+/// An instrument of which each answer tells what it answers, and that errs now and then: late by up
+/// to 2.9 seconds, cut, damaged, slow as honey, deaf, chattering. Errors come one at a time.
+class OddInstrument {
+ public:
+  OddInstrument(FarEnd& end, std::mt19937& random) : end_(end), random_(random) {
+    end_.answer = [this](const std::string& line) { return answer(line); };
+  }
+
+  /// Of a hundred answers.
+  int errors = 0;
+  double byteTime = 0.5;
+  /// The last answer to each question, as it went out.
+  std::map<std::string, std::string> sent;
+
+  /// The answer of a good instrument.
+  std::string rightAnswer(const std::string& line) {
+    if (line.ends_with(":POIN")) return record(line[4]);
+    if (line.starts_with(":Q")) return line.substr(2, 4) + "/" + line.substr(2, 4) + "\n";
+    if (line.starts_with(":MEAS:SOUR")) source_ = line.back();
+    if (line.starts_with(":MEAS:")) return line.substr(6, 3) + source_ + "\n";
+    if (line.ends_with("SCAL?")) return line.starts_with(":T") ? "500.0 us\n" : "1.000 V\n";
+    return line.ends_with("OFFS?") ? "1.000 V\n" : "1\n";
+  }
+
+  /// All bytes say which channel and which of its records it is.
+  std::string record(char channel) {
+    const std::string serial = std::to_string(10000 + ++records_ % 10000);
+    std::string bytes;
+    while (bytes.size() < 1014) bytes += std::string("R") + channel + serial + "\n";
+    bytes.resize(1014);
+    return bytes;
+  }
+
+  int below(int limit) { return static_cast<int>(random_() % static_cast<unsigned>(limit)); }
+
+ private:
+  std::string answer(const std::string& line) { return sent[line] = oddAnswer(line); }
+
+  std::string oddAnswer(const std::string& line) {
+    end_.thought = 3 + below(20);
+    end_.byteTime = byteTime;
+    if (!line.ends_with('?') && !line.ends_with("POIN")) {
+      rightAnswer(line);
+      return "";
+    }
+    std::string bytes = rightAnswer(line);
+    if (below(100) >= errors) return bytes;
+    const std::size_t place = random_() % bytes.size();
+    const bool isRecord = bytes.size() == 1014;
+    switch (below(8)) {
+      case 0:
+        return "";
+      case 1:
+        bytes.resize(place);
+        break;
+      case 2:
+        bytes.erase(place, 1);
+        break;
+      case 3:
+        bytes[place] = '#';
+        break;
+      case 4:
+        bytes[place] = '\n';
+        break;
+      case 5:
+        end_.byteTime = isRecord ? 100 : 100.0;
+        return bytes;
+      case 6:
+        // More than was asked for; a record has its length and no more.
+        if (!isRecord) bytes += "and more\n";
+        break;
+      default:
+        end_.thought = 100 + below(2700);
+        return bytes;
+    }
+    return bytes;
+  }
+
+  FarEnd& end_;
+  std::mt19937& random_;
+  char source_ = '1';
+  int records_ = 0;
+};
+
+/// The whole program, used at random at the end of such a line.
+class Trial : BenchOf<OnALine<PacedOpener>> {
+ public:
+  explicit Trial(unsigned seed) : random_(seed) {
+    program.start();
+    setLine();
+    // Every measurement of both channels, so that all have a name to be wrong under.
+    for (int row = 2; row <= 5; ++row) setRow(row, Lines(row < 4 ? 8 : 7, "1"));
+    windows.user["frmTrig"] = [this] { program.trigger.cmdCancel.press(); };
+    windows.user["frmVMeasure"] = [this] { program.measurementChoice.cmdOK.press(); };
+    // Escape, at some moment of a measurement.
+    windows.user["frmErrLog"] = [] {};
+  }
+
+  void step() {
+    if (below(200) == 0) instrument_.errors = std::array{0, 3, 20, 60}[random_() % 4];
+    if (below(400) == 0) setLine();
+    act();
+    checkRecords();
+  }
+
+  int exchanges = 0;
+  int answered = 0;
+  int recordsSeen = 0;
+
+ private:
+  int below(int limit) { return instrument_.below(limit); }
+
+  void setLine() {
+    const struct {
+      const char* rate;
+      const char* bits;
+      const char* stop;
+      const char* parity;
+      double byteTime;
+    } lines[] = {{"1200", "8", "1", "None", 8.34}, {"2400", "7", "2", "Odd", 4.59},
+                 {"4800", "8", "1", "None", 2.09}, {"9600", "8", "2", "Even", 1.25},
+                 {"14400", "8", "1", "Odd", 0.77}, {"19200", "8", "1", "None", 0.53},
+                 {"19200", "7", "1", "Even", 0.53}};
+    const auto& line = lines[random_() % std::size(lines)];
+    instrument_.byteTime = line.byteTime;
+    setRow(0, {line.rate, line.bits, line.stop, line.parity, "0"});
+    port.settings = {0, toInt16(line.rate), 8, 0, 0};
+    main.BaudRate = toInt16(line.rate);
+  }
+
+  void act() {
+    switch (below(24)) {
+      case 0:
+        program.acquisition.StopAcq();
+        break;
+      case 1:
+      case 2:
+        program.acquisition.ResumeAcq();
+        break;
+      case 3:
+        main.cbCh1.toggle();
+        break;
+      case 4:
+        main.cbCh2.toggle();
+        break;
+      case 5:
+        main.knobTime.turn(below(29));
+        break;
+      case 6:
+        if (below(4) == 0) main.cmdTrig.press();
+        break;
+      case 7:
+        if (below(8) == 0) measure();
+        break;
+      case 8:
+        if (below(6) == 0) main.cmdRS232.press();
+        break;
+      case 9:
+        if (below(6) == 0) opener.farEnd.hangUpAfter = static_cast<std::size_t>(below(2000));
+        break;
+      case 10:
+        if (instrument_.errors > 0 && below(3) == 0) chatter();
+        break;
+      case 11:
+        opener.farEnd.hangUpAfter = std::string::npos;
+        break;
+      case 12:
+      case 13:
+      case 14:
+      case 15:
+      case 16:
+      case 17:
+        clock.run(below(below(3) == 0 ? 9000 : 1500));
+        break;
+      default:
+        ask();
+    }
+    if (main.ChanCount > 2 || main.ChanCount < 0) std::abort();
+  }
+
+  /// It begins while nothing is asked: in front of an answer nobody could tell it from that.
+  void chatter() {
+    program.acquisition.StopAcq();
+    clock.run(4000);
+    if (opener.farEnd.lineFreeAt > static_cast<double>(clock.milliseconds())) return;
+    opener.farEnd.unasked = std::string(static_cast<std::size_t>(below(900)), '?') + "1\n";
+    program.exchange.SendDSOCmd(":Run");
+    clock.run(50);
+  }
+
+  void ask() {
+    const ShortTimeOut shortTimeOut(main, static_cast<std::int16_t>(1 + below(3)));
+    const std::string mine = std::to_string(1000 + ++asked_ % 9000);
+    const std::string query = ":Q" + mine + "?";
+    instrument_.sent.clear();
+    const std::string reply = program.exchange.SendDSOCmd(query);
+    ++exchanges;
+    if (reply.empty()) return;
+    ++answered;
+    // What was damaged on its way is still the answer to its question.
+    EXPECT_EQ(reply + "\n", instrument_.sent[query]);
+  }
+
+  void measure() {
+    instrument_.sent.clear();
+    main.cmdVMeasure.press();
+    exchanges += 30;
+    // The sixteenth shows the last of both channels.
+    for (ValueLabel& label : main.lblMeasure) {
+      const std::string& text = label.caption();
+      const std::size_t reply = text.find(": ");
+      if (reply == std::string::npos || reply + 2 == text.size()) continue;
+      const auto item = static_cast<std::size_t>(label.index());
+      const std::string query(item == 15 ? ":MEAS:PDUT?"
+                              : item < 8 ? VoltMeasQuery[item]
+                                         : FreqMeasQuery[item - 8]);
+      // Of channel 2 only the last result is shown.
+      const std::string answer = text.substr(reply + 2);
+      if (item == 15) {
+        EXPECT_EQ(answer + "\n", instrument_.sent[query]);
+      } else if (answer.find('#') == std::string::npos && answer.size() == 4) {
+        EXPECT_EQ(answer, query.substr(6, 3) + "1") << text;
+      }
+    }
+  }
+
+  void checkRecords() {
+    for (const char channel : {'1', '2'}) {
+      const std::string& raw = channel == '1' ? main.Ch1Raw : main.Ch2Raw;
+      std::string& seen = channel == '1' ? seen1_ : seen2_;
+      if (raw == seen) continue;
+      seen = raw;
+      ++recordsSeen;
+      ++exchanges;
+      ASSERT_EQ(raw.size(), 1014u);
+      // A damaged byte or two apart, it is one record of this channel from the first byte on.
+      int strange = 0;
+      for (std::size_t i = 0; i < raw.size(); ++i)
+        if (i % 8 < 7 && raw[i] != raw[i % 8 + 8] && raw[i] != raw[i % 8 + 16]) ++strange;
+      EXPECT_LE(strange, 2);
+      EXPECT_TRUE(raw[9] == channel || raw[17] == channel) << raw.substr(0, 24);
+    }
+  }
+
+  std::mt19937 random_;
+  OddInstrument instrument_{opener.farEnd, random_};
+  int asked_ = 0;
+  std::string seen1_;
+  std::string seen2_;
+};
+
+}  // namespace
+
+/// Nothing shown is the answer to something else. TRACEWELL_EXCHANGES makes the trial longer,
+/// TRACEWELL_SEED repeats one.
+TEST(Faults, NoAnswerIsTakenForAnothers) {
+  const char* const wanted = std::getenv("TRACEWELL_EXCHANGES");
+  const char* const given = std::getenv("TRACEWELL_SEED");
+  const unsigned seed = given ? static_cast<unsigned>(std::atoi(given)) : std::random_device()();
+  const int total = wanted ? std::atoi(wanted) : 5000;
+  std::cout << "seed " << seed << std::endl;
+  SCOPED_TRACE("seed " + std::to_string(seed));
+  Trial trial(seed);
+  while (trial.exchanges < total && !testing::Test::HasFailure()) trial.step();
+  std::cout << trial.exchanges << " exchanges, " << trial.answered << " answers, "
+            << trial.recordsSeen << " records\n";
+  EXPECT_GT(trial.answered, total / 20);
+  EXPECT_GT(trial.recordsSeen, total / 40);
+}
+
+}  // namespace tracewell
