@@ -92,7 +92,6 @@ void Conversation::forget() {
   state_ = State::idle;
   unanswered_ = 0;
   unansweredInRow_ = 0;
-  isHeard_ = false;
   isStray_ = false;
   isRestless_ = false;
 }
@@ -127,9 +126,10 @@ std::string Conversation::listen(std::int64_t until) {
 
 /// Whose the bytes are depends on the state alone. Those of a reply are heard by awaitReply.
 void Conversation::hear(const std::string& bytes) {
-  if (bytes.empty())
-    review();
-  else if (state_ == State::recordAwaited)
+  // A record may have come while nobody looked, so the clock alone does not end it.
+  if (bytes.empty() || state_ == State::draining) review();
+  if (bytes.empty()) return;
+  if (state_ == State::recordAwaited)
     hearRecord(bytes);
   else
     hearOwed(bytes);
@@ -146,17 +146,19 @@ void Conversation::hearRecord(const std::string& bytes) {
   if (!behind.empty()) hearOwed(behind);
 }
 
-/// Lines that nobody waits for. Each is one that is owed; what goes beyond that is stray.
+/// Lines that nobody waits for. Each is one that is owed; what goes beyond that is stray, and so is
+/// a line right behind another: both may be halves of one.
 void Conversation::hearOwed(std::string_view bytes) {
   if (state_ == State::idle && isBlank(bytes)) return;
+  const std::int64_t now = clock_.milliseconds();
   state_ = State::draining;
-  heardAt_ = clock_.milliseconds();
+  heardAt_ = now;
   for (const char byte : bytes) {
-    isHeard_ = isHeard_ || byte == '\n';
-    if (unanswered_ == 0)
-      isStray_ = isStray_ || !isBlank(byte);
-    else if (byte == '\n')
-      --unanswered_;
+    const bool isBehindALine = now < lineEndAt_ + settling;
+    if (!isBlank(byte) && (unanswered_ == 0 || isBehindALine)) isStray_ = true;
+    if (byte != '\n') continue;
+    unanswered_ = std::max(unanswered_ - 1, 0);
+    lineEndAt_ = now;
   }
 }
 
@@ -178,7 +180,7 @@ void Conversation::review() {
 }
 
 bool Conversation::isSilent() const {
-  return state_ == State::draining && unansweredInRow_ >= 2 && !isHeard_;
+  return state_ == State::draining && unansweredInRow_ >= 2 && heardAt_ <= askedAt_;
 }
 
 void Conversation::makeReadyToAsk(int timeOut) {
@@ -212,7 +214,6 @@ void Conversation::drain(int timeOut) {
     hear(listen(std::min(deadline, trustedAt())));
   }
   isRestless_ = false;
-  isHeard_ = false;
 }
 
 std::string Conversation::awaitReply(std::int64_t deadline) {
@@ -220,6 +221,7 @@ std::string Conversation::awaitReply(std::int64_t deadline) {
   while (true) {
     const std::size_t searched = received.size();
     received += listen(deadline);
+    if (received.size() > searched) heardAt_ = clock_.milliseconds();
     const std::size_t end = received.find('\n', searched);
     if (end != std::string::npos) return onlyLine(received, end + 1);
     if (received.size() > longestReply || clock_.milliseconds() >= deadline) throw timeOutError();

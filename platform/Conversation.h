@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <deque>
 #include <functional>
+#include <limits>
 #include <memory>
 #include <optional>
 #include <string>
@@ -29,7 +30,7 @@ namespace tracewell {
 ///   that is owed has come, or it has been quiet for long enough (drainTime).
 /// - Bytes that nobody has asked for make the line untrusted until it has been quiet for as long.
 /// - After two questions in a row without an answer the instrument counts as silent: further ones
-///   are put without draining, until a line is heard.
+///   are put without draining, as long as nothing is heard.
 /// - A plain command never waits, since nothing comes back.
 ///
 /// All times are milliseconds. Every wait is one of StandBy.
@@ -135,9 +136,7 @@ class Conversation {
   /// Questions put and not answered, the present one included.
   int unanswered_ = 0;
   int unansweredInRow_ = 0;
-  /// A line was heard since the last drain that answered nobody.
-  bool isHeard_ = false;
-  /// More has come than was owed.
+  /// More has come than was owed, or what cannot be counted.
   bool isStray_ = false;
   /// The last drain did not bring the line to rest.
   bool isRestless_ = false;
@@ -146,6 +145,7 @@ class Conversation {
   /// On Clock's scale.
   std::int64_t askedAt_ = 0;
   std::int64_t heardAt_ = 0;
+  std::int64_t lineEndAt_ = std::numeric_limits<int>::min();
 };
 
 }  // namespace tracewell

@@ -31,6 +31,7 @@ Image RecordingPictures::withText(const Image& image, const std::string& text, i
 
 void ScriptedWindows::showModal(Window& window) {
   shown.push_back(window.name());
+  if (meanwhile) meanwhile();
   if (user.contains(window.name())) user[window.name()]();
 }
 

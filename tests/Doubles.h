@@ -79,6 +79,8 @@ class RecordingPrinter : public Printer {
 class ScriptedWindows : public WindowHost {
  public:
   std::map<std::string, std::function<void()>> user;
+  /// What happens when any modal window has opened.
+  std::function<void()> meanwhile;
   Lines shown;
 
   void showModal(Window& window) override;

@@ -18,13 +18,10 @@ class VirtualClock : public Clock {
 
   void pumpEvents() override {
     ++now_;
-    runDue();
+    turn();
   }
 
-  void breathe() override {
-    ++breaths;
-    runDue();
-  }
+  void breathe() override { turn(); }
 
   void sleep(int milliseconds) override { now_ += milliseconds; }
 
@@ -43,10 +40,12 @@ class VirtualClock : public Clock {
   /// Steps the count without running anything.
   void jumpTo(std::int64_t milliseconds) { now_ = milliseconds; }
 
-  int breaths = 0;
+  /// Happens whenever events may.
+  std::function<void()> meanwhile;
 
  private:
-  void runDue() {
+  void turn() {
+    if (meanwhile) meanwhile();
     while (!due_.empty() && due_.begin()->first <= now_) {
       const std::function<void()> action = std::move(due_.begin()->second);
       due_.erase(due_.begin());

@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "Doubles.h"
+#include "PacedChannel.h"
 
 namespace tracewell {
 
@@ -37,28 +38,100 @@ TEST(Waiting, DelayLetsEventsRunAndLastsAtLeastOneMillisecondLonger) {
   EXPECT_THROW(Delay(bench.main, 1000), Error);
 }
 
-/// Whatever the program waits for, closing the window ends it at once and in order.
-TEST(Waiting, ClosingTheWindowEndsTheProgramInTheMiddleOfAnything) {
-  const std::tuple<const char*, Button frmDSO::*, int> cases[] = {
-      {"connecting", &frmDSO::cmdStart, 500},
-      {"autoset", &frmDSO::cmdAutoset, 3000},
-      {"a burst of settings", &frmDSO::cmdTrig, 500},
-      {"measurements", &frmDSO::cmdVMeasure, 0}};
-  for (const auto& [what, button, after] : cases) {
-    Bench bench;
-    bench.program.start();
-    bench.port.answerLikeAnInstrument();
-    bench.port.answer(":MEAS:VPP?", {"1\n"});
-    bench.setRow(2, {"1", "1"});
-    bench.windows.user["frmTrig"] = [&] { bench.program.trigger.cmdOK.press(); };
-    bench.windows.user["frmVMeasure"] = [&] { bench.program.measurementChoice.cmdOK.press(); };
-    bench.clock.callAfter(after, [&] { bench.main.close(); });
-    (bench.main.*button).press();
-    EXPECT_LE(bench.clock.milliseconds(), after + 100) << what;
-    EXPECT_EQ(bench.takeWire().back(), ":SYST:UNL") << what;
-    bench.clock.run(20000);
-    EXPECT_TRUE(bench.takeWire().empty()) << what;
-    EXPECT_TRUE(bench.dialogs.runTimeErrors.empty()) << what;
+namespace {
+
+/// The program on a slow instrument that writes down what it hears, in a folder where nothing may
+/// be left behind.
+struct EndingBench : BenchOf<OnALine<PacedOpener>> {
+  EndingBench() {
+    opener.farEnd.thought = 60;
+    opener.farEnd.answer = [this](const std::string& line) {
+      heard.push_back(line);
+      if (line.ends_with("POIN")) return makeRecord([](int i) { return i; });
+      return std::string(line.ends_with('?') ? "1\n" : "");
+    };
+    std::filesystem::current_path(folder.path());
+    program.start();
+    main.txtTest.type("*IDN?");
+    setRow(2, {"1", "1"});
+    windows.user["frmTrig"] = [&] { program.trigger.cmdOK.press(); };
+    windows.user["frmChannel"] = [&] { program.channelDialog.cmdOK.press(); };
+    windows.user["frmDisplay"] = [&] { program.display.cmdOK.press(); };
+    windows.user["frmAcq"] = [&] { program.acquire.cmdOK.press(); };
+    windows.user["frmVMeasure"] = [&] { program.measurementChoice.cmdOK.press(); };
+    windows.user["frmSave"] = [&] { program.saveWindow.cmdOK.press(); };
+  }
+
+  ~EndingBench() { std::filesystem::current_path(before); }
+
+  void end() {
+    if (std::exchange(hasEnded, true)) return;
+    heardBefore = heard.size();
+    endedAt = clock.milliseconds();
+    main.closeForGood();
+  }
+
+  /// Nothing but the release of the panel after the end, however long one waits.
+  void expectTheEnd(const std::string& what) {
+    EXPECT_LE(clock.milliseconds() - endedAt, 50) << what;
+    clock.run(5000);
+    const Lines after(heard.begin() + static_cast<std::ptrdiff_t>(heardBefore), heard.end());
+    EXPECT_TRUE(after.empty() || after == Lines{":SYST:UNL"}) << what << ": " << after.size();
+    EXPECT_FALSE(main.isLoaded()) << what;
+    EXPECT_TRUE(dialogs.runTimeErrors.empty()) << what;
+  }
+
+  std::filesystem::path before = std::filesystem::current_path();
+  Lines heard;
+  std::size_t heardBefore = 0;
+  std::int64_t endedAt = 0;
+  bool hasEnded = false;
+};
+
+const std::pair<const char*, Button frmDSO::*> tasks[] = {
+    {"connect", &frmDSO::cmdStart},    {"read anew", &frmDSO::cmdRS232},
+    {"autoset", &frmDSO::cmdAutoset},  {"trigger", &frmDSO::cmdTrig},
+    {"channel", &frmDSO::cmdCh2},      {"display", &frmDSO::cmdDisplay},
+    {"acquire", &frmDSO::cmdAcq},      {"measure", &frmDSO::cmdVMeasure},
+    {"quickly", &frmDSO::cmdFMeasure}, {"command", &frmDSO::cmdTest},
+    {"console", &frmDSO::cmdDSOcmd},   {"save", &frmDSO::cmdSave},
+    {"load", &frmDSO::cmdLoad},        {"load csv", &frmDSO::cmdLoadCSV},
+    {"graph", &frmDSO::cmdGraph},      {"close", &frmDSO::cmdClose},
+    {"time", &frmDSO::cmdTime},        {"volts", &frmDSO::cmdChannel1}};
+
+}  // namespace
+
+/// Whatever the program waits for, and at whichever moment of it.
+TEST(Waiting, EndInTheMiddleOfAnythingIsTheEnd) {
+  for (const auto& [what, button] : tasks) {
+    bool hasEnded = true;
+    for (int chance = 0; hasEnded; chance += 1 + chance / 2) {
+      EndingBench bench;
+      int chances = 0;
+      bench.clock.meanwhile = [&] {
+        if (chances++ >= chance) bench.end();
+      };
+      (bench.main.*button).press();
+      hasEnded = bench.hasEnded;
+      if (hasEnded) bench.expectTheEnd(what + (" " + std::to_string(chance)));
+    }
+  }
+}
+
+/// A session ends while a window, a box or a file dialog is open.
+TEST(Waiting, EndBehindAnOpenWindowIsTheEnd) {
+  for (const auto& [what, button] : tasks) {
+    for (const bool isDialog : {false, true}) {
+      EndingBench bench;
+      bench.main.Ch1Raw = makeRecord([](int i) { return i; });
+      bench.program.exchange.SendDSOCmd(":Run");
+      (isDialog ? bench.dialogs.meanwhile : bench.windows.meanwhile) = [&] { bench.end(); };
+      const auto files = [] { return std::distance(std::filesystem::directory_iterator("."), {}); };
+      const auto before = files();
+      (bench.main.*button).press();
+      if (bench.hasEnded) bench.expectTheEnd(what);
+      EXPECT_EQ(files(), before) << what;
+    }
   }
 }
 

@@ -46,28 +46,31 @@ TEST_F(ConnectTest, ConnectReadsTheInstrumentAndStartsTheAcquisition) {
 }
 
 /// Their read-out has no scale until the time base is read, and the first knob that moves asks it.
-TEST_F(ConnectTest, TimeCursorsChosenBeforeEndTheReadingUntilItIsAskedForAgain) {
+TEST_F(ConnectTest, TimeCursorsChosenBeforeDoNotEndTheReading) {
   main.opTime.select();
   main.slideTrig.drag(0.5);
   main.cmdStart.press();
-  EXPECT_EQ(takeWire(), (Lines{":CHAN1:SCAL?", ":CHAN1:SCAL 5E-1"}));
-  EXPECT_EQ(logLines(), Lines{"Tracewell - InitDSO : Type mismatch"});
-  main.opOff.select();
-  main.cmdRS232.press();
-  EXPECT_EQ(takeWire()[1], ":CHAN2:SCAL?");
+  EXPECT_EQ(takeWire().size(), 8u);
+  EXPECT_TRUE(logLines().empty());
+  EXPECT_EQ(main.graphDSO.axis("XAxis").caption().substr(0, 12), "P1 = 0.00(ms");
   // The level stands one division above the trace's zero.
   EXPECT_TRUE(main.graphDSO.cursor("Triger").visible());
   EXPECT_EQ(main.graphDSO.cursor("Triger").yPosition(), 50 * (1 + 1.5));
 }
 
+/// A success of before is none of this connect.
 TEST_F(ConnectTest, SilentInstrumentEndsAtTheFirstQuery) {
+  program.exchange.SendDSOCmd(":Run");
+  takeWire();
   port.replies.clear();
   main.cmdStart.press();
   EXPECT_EQ(port.wire, Lines{":CHAN1:SCAL?"});
   expectShown(blue, 9, "Connect");
   EXPECT_FALSE(main.tmDSO.enabled());
   EXPECT_TRUE(logLines().empty());
+  EXPECT_EQ(main.lblStatus.caption(), "Instrument: no answer to 1 of 5 questions");
   // A port that refuses is logged.
+  main.LinkOK = true;
   port.faults = 1000;
   main.cmdRS232.press();
   EXPECT_EQ(logLines(), Lines{"RS232 - SendDSOCmd : no such device"});
@@ -103,6 +106,22 @@ TEST_F(ConnectTest, EmptyScaleIsAskedTwiceAndNullSkipsThePosition) {
             (Lines{":CHAN1:SCAL?", ":CHAN1:SCAL?", ":CHAN2:SCAL?", ":TIM:SCAL?", ":TIM:SCAL?"}));
   EXPECT_EQ(main.lblTime.caption(), "500.0 us ") << "a second reply counts as it stands";
   EXPECT_TRUE(logLines().empty());
+}
+
+TEST_F(ConnectTest, PositionIsReadFromATrimmedReplyAndMarkedWhereThereIsNone) {
+  port.answer("CHAN1:OFFS?", {"500.0 mV \n"});
+  port.replies.erase("CHAN2:OFFS?");
+  program.instrument.InitDSO();
+  EXPECT_EQ(main.Ch1Pos, 1);
+  EXPECT_FALSE(main.slideCH1.isUnread());
+  EXPECT_EQ(main.slideCH2.caption(), "Channel Two Position :0.00 Div");
+  EXPECT_TRUE(main.slideCH2.isUnread());
+  EXPECT_EQ(main.lblStatus.caption(), "Instrument: no answer to 1 of 5 questions");
+  main.slideCH2.drag(1);
+  EXPECT_FALSE(main.slideCH2.isUnread());
+  port.answerLikeAnInstrument();
+  program.instrument.InitDSO();
+  EXPECT_EQ(main.lblStatus.caption(), "");
 }
 
 TEST_F(ConnectTest, UselessRepliesAndABaudRateAbove32767AreLogged) {

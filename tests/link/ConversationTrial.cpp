@@ -189,17 +189,18 @@ class Trial : BenchOf<OnALine<PacedOpener>> {
       default:
         ask();
     }
-    if (main.ChanCount > 2 || main.ChanCount < 0) std::abort();
   }
 
-  /// It begins while nothing is asked: in front of an answer nobody could tell it from that.
+  /// It begins while nothing is owed: in front of an answer nobody could tell it from that.
   void chatter() {
     program.acquisition.StopAcq();
-    clock.run(4000);
-    if (opener.farEnd.lineFreeAt > static_cast<double>(clock.milliseconds())) return;
+    clock.run(8000);
+    if (opener.farEnd.lineFreeAt + 3000 > static_cast<double>(clock.milliseconds())) return;
+    opener.farEnd.byteTime = instrument_.byteTime;
     opener.farEnd.unasked = std::string(static_cast<std::size_t>(below(900)), '?') + "1\n";
     program.exchange.SendDSOCmd(":Run");
     clock.run(50);
+    opener.farEnd.unasked.clear();
   }
 
   void ask() {

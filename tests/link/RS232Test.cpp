@@ -32,6 +32,33 @@ TEST_F(RS232Test, AppliesInThePortsOwnCodes) {
   EXPECT_EQ(row(0), (Lines{"300", "9", "1.5", "Even", "-1"}));
 }
 
+/// Applied when it has been read at the start; loading another one changes the table only.
+TEST_F(RS232Test, SetupOfTheProgramHoldsFromItsStartOn) {
+  const LineSettings kept{33, 4800, 7, 2, 3};
+  setRow(0, {"4800", "7", "2", "Odd", "33"});
+  program.setupFiles.WriteSetupFile(folder.path() / "default.dso");
+  setRow(0, {"fast", "8", "1", "None", "7"});
+  program.setupFiles.WriteSetupFile(folder.path() / "other.dso");
+  Tracewell restarted(services);
+  restarted.start();
+  EXPECT_EQ(settings, kept);
+  EXPECT_EQ(restarted.main.lblPort.caption(), "port 33 - ttyUSB0");
+  EXPECT_EQ(restarted.main.BaudRate, 19200);
+  EXPECT_TRUE(port.wire.empty());
+  EXPECT_TRUE(port.prepared.empty());
+
+  // A rate that is none leaves the line as it was, and the status line says what is in use.
+  for (const char* rate : {"fast", "9600"}) {
+    restarted.main.gridMeasure.setText(0, 2, rate);
+    restarted.setupFiles.WriteSetupFile(folder.path() / "other.dso");
+    dialogs.pickedFile = folder.path() / "other.dso";
+    restarted.main.mnbLoadSetup.choose();
+    EXPECT_EQ(settings, kept);
+    const std::string& status = restarted.main.lblStatus.caption();
+    EXPECT_NE(status.find("in use is port 33, 4800 baud 7-O-2"), std::string::npos) << status;
+  }
+}
+
 TEST_F(RS232Test, OpensWithTheTableAndNamesTheDevice) {
   main.gridMeasure.setText(0, 6, "33");
   windows.user["frmRS232"] = [&] {
