@@ -10,6 +10,10 @@ bool Faults::set(const std::string& name, int value) {
     isSilent = value != 0;
   else if (name == "SLOW")
     slowMilliseconds = value;
+  else if (name == "TRICKLE")
+    trickleMilliseconds = value;
+  else if (name == "MISS")
+    missEvery = value;
   else if (name == "DROP")
     dropEvery = value;
   else if (name == "CUT")

@@ -11,10 +11,14 @@ namespace tracewell {
 ///   SLOW ms     thinks longer          BLANK 1    a blank stands before each line end
 ///   DROP n      loses every n-th byte  HANGUP n   the line is gone n bytes later
 ///   CUT n       records end early      OFF        all is well again
-///   GARBAGE 1   bytes are noise
+///   GARBAGE 1   bytes are noise           TRICKLE ms  each byte takes longer
+///   MISS n      ignores every n-th query
 struct Faults {
   bool isSilent = false;
   int slowMilliseconds = 0;
+  /// Of each byte, on top of what the line takes.
+  int trickleMilliseconds = 0;
+  int missEvery = 0;
   int dropEvery = 0;
   int cutRecordsAt = 0;
   bool isGarbage = false;

@@ -99,6 +99,8 @@ void Instrument::autoset(double at) {
 }
 
 void Instrument::answerQuery(const std::string& name, double at) {
+  ++queryCount_;
+  if (faults_.missEvery > 0 && queryCount_ % faults_.missEvery == 0) return;
   if (name.starts_with("MEAS:")) screen_.sweep(settings_, at / 1000);
   if (const std::optional<std::string> reply = replyTo(name))
     sendLine(*reply, at);
@@ -134,7 +136,7 @@ void Instrument::send(const std::string& bytes, double at) {
   if (faults_.isSilent) return;
   sentUntil_ = std::max(sentUntil_, at + thought + faults_.slowMilliseconds);
   for (char byte : bytes) {
-    sentUntil_ += rate_.byteTime();
+    sentUntil_ += rate_.byteTime() + faults_.trickleMilliseconds;
     ++sentCount_;
     if (faults_.dropEvery > 0 && sentCount_ % faults_.dropEvery == 0) continue;
     if (faults_.isGarbage) byte = static_cast<char>(sentCount_ * 7919 >> 3);

@@ -74,6 +74,7 @@ class Instrument {
   double sentUntil_ = 0;
   double busyUntil_ = 0;
   long sentCount_ = 0;
+  long queryCount_ = 0;
   int errorCount_ = 0;
 };
 
