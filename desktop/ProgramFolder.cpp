@@ -45,6 +45,24 @@ bool isLanguageFile(const fs::path& path) {
   return path.extension() == ".cap" || path.extension() == ".msg";
 }
 
+/// Where that fails, the next start copies again.
+void noteVersion(const fs::path& folder) {
+  try {
+    writeWholeFile(folder / versionFile, TRACEWELL_VERSION);
+  } catch (const Error&) {
+  }
+}
+
+/// False when it could not be done.
+bool copyWhole(const fs::path& from, const fs::path& to) {
+  try {
+    writeWholeFile(to, readWholeFile(from));
+    return true;
+  } catch (const Error&) {
+    return false;
+  }
+}
+
 bool holdsProgramFiles(const fs::path& folder) {
   std::error_code ignored;
   return fs::exists(folder / "dso_la1.msg", ignored);
@@ -57,20 +75,16 @@ void fillProgramFolder(const fs::path& from, const fs::path& to) {
   std::error_code ignored;
   fs::create_directories(to, ignored);
   const bool isUpToDate = isOfThisVersion(to);
+  bool isComplete = true;
   for (const fs::directory_entry& entry : fs::directory_iterator(from, ignored)) {
     std::error_code failed;
     if (!isProgramFile(entry.path()) || !entry.is_regular_file(failed)) continue;
+    const fs::path copy = to / entry.path().filename();
     const bool isReplaced = !isUpToDate && isLanguageFile(entry.path());
-    fs::copy_file(
-        entry.path(), to / entry.path().filename(),
-        isReplaced ? fs::copy_options::overwrite_existing : fs::copy_options::skip_existing,
-        failed);
+    if (isReplaced || !fs::exists(fs::symlink_status(copy, failed)))
+      isComplete = copyWhole(entry.path(), copy) && isComplete;
   }
-  try {
-    if (!isUpToDate) writeWholeFile(to / versionFile, TRACEWELL_VERSION);
-  } catch (const Error&) {
-    // The next start copies again.
-  }
+  if (!isUpToDate && isComplete) noteVersion(to);
 }
 
 fs::path programFolder() {

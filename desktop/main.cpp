@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <QApplication>
 
+#include "DesktopDisk.h"
 #include "DesktopProgram.h"
 #include "ProgramFolder.h"
 #include "Termination.h"
@@ -12,6 +13,8 @@ int main(int argumentCount, char** arguments) {
   // The main window itself says when the program ends.
   QApplication::setQuitOnLastWindowClosed(false);
   tracewell::applyTheme(application);
+  tracewell::DesktopDisk disk;
+  tracewell::useDisk(&disk);
 
   tracewell::DesktopProgram program(tracewell::programFolder());
   const tracewell::Termination termination([&] {

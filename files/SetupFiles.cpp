@@ -6,6 +6,7 @@
 
 #include "Files.h"
 #include "Numbers.h"
+#include "StatusLine.h"
 
 namespace tracewell {
 namespace {
@@ -52,10 +53,22 @@ void SetupFiles::ReadSetupFile(const std::filesystem::path& path) {
   } catch (const Error&) {
     // A setup that cannot be read never keeps the program from starting.
   }
+  if (isTakenWhole(path)) return;
+  notTakenWhole_ = path;
+  sayKept(main_, path);
+}
+
+/// Whether writing the table would give the same bytes. So it is, too, where there is no file.
+bool SetupFiles::isTakenWhole(const std::filesystem::path& path) const {
+  try {
+    return readWholeFile(path, fileLimit::setup) == fileText(main_.gridMeasure);
+  } catch (const Error& error) {
+    return error.number() == fileNotFound;
+  }
 }
 
 void SetupFiles::fillTable(const std::filesystem::path& path) {
-  const std::string text = readWholeFile(path);
+  const std::string text = readWholeFile(path, fileLimit::setup);
   // The lead-in, whatever it is, belongs to no line. What follows the last line end is ignored.
   std::size_t start = leadIn.size();
   std::size_t end = text.find(lineEnd);
@@ -69,7 +82,12 @@ void SetupFiles::fillTable(const std::filesystem::path& path) {
 
 void SetupFiles::WriteSetupFile(const std::filesystem::path& path) {
   if (path.empty()) return;
-  writeWholeFile(path, fileText(main_.gridMeasure));
+  const std::string text = fileText(main_.gridMeasure);
+  if (path == notTakenWhole_) {
+    keepAside(path);
+    notTakenWhole_.clear();
+  }
+  writeWholeFile(path, text);
 }
 
 void SetupFiles::mnbLoadSetup_Click() {

@@ -12,9 +12,6 @@
 namespace tracewell {
 namespace {
 
-/// Bytes; two columns of 500 numbers take some 6000.
-constexpr std::uintmax_t largestFile = 1 << 20;
-
 constexpr double unitsPerDivision = SharedState::unitsPerDivision;
 
 /// Takes the next complete line off the front of `text`; false when there is none.
@@ -24,6 +21,16 @@ bool takeLine(std::string_view& text, std::string_view& line) {
   line = text.substr(0, end);
   if (line.ends_with('\r')) line.remove_suffix(1);
   text.remove_prefix(end + 1);
+  return true;
+}
+
+/// Takes the next line off the front of a description; false when there is none. A lone LF is text
+/// there, since a file may have one in its name.
+bool takeDescriptionLine(std::string_view& text, std::string_view& line) {
+  const std::size_t end = text.find("\r\n");
+  if (end == std::string_view::npos) return false;
+  line = text.substr(0, end);
+  text.remove_prefix(end + 2);
   return true;
 }
 
@@ -47,6 +54,11 @@ double sample(std::string_view text) {
   return toInt16(text);
 }
 
+/// Where a line of a file of two columns has one value, so that later points keep their places.
+void repeatLast(std::vector<double>& points) {
+  points.push_back(points.empty() ? 0 : points.back());
+}
+
 double lifted(std::string_view text, const std::string& position) {
   return sample(text) + checked(toDouble(position) * unitsPerDivision);
 }
@@ -54,22 +66,18 @@ double lifted(std::string_view text, const std::string& position) {
 }  // namespace
 
 std::string readWaveformFile(const std::filesystem::path& path) {
-  std::error_code failed;
-  const std::uintmax_t size = std::filesystem::file_size(path, failed);
-  if (!failed && size > largestFile)
-    throw Error(pathAccess, "Tracewell", "Too large for a waveform: " + pathText(path));
-  return readWholeFile(path);
+  return readWholeFile(path, fileLimit::waveformData);
 }
 
 WaveformDescription readDescription(const std::filesystem::path& path) {
-  const std::string text = readWaveformFile(path);
+  const std::string text = readWholeFile(path, fileLimit::description);
   WaveformDescription result;
   std::string_view rest = text;
   for (std::string* part :
        {&result.picturePath, &result.dataFile, &result.author, &result.description,
         &result.channel1, &result.channel2, &result.time}) {
     std::string_view line;
-    if (!takeLine(rest, line))
+    if (!takeDescriptionLine(rest, line))
       throw Error(invalidProcedureCall, "Tracewell", "Not a description: " + pathText(path));
     *part = line;
   }
@@ -80,14 +88,22 @@ LoadedWaveforms readWaveforms(const std::string& csvText, const std::string& pos
                               const std::string& position2) {
   LoadedWaveforms loaded;
   const bool hasOnlyChannel1 = position2 == notSaved;
+  bool hasTwoColumns = false;
+  forEachDataLine(csvText, [&](std::string_view line) {
+    hasTwoColumns = hasTwoColumns || line.find(',') != std::string_view::npos;
+  });
   forEachDataLine(csvText, [&](std::string_view line) {
     const std::size_t comma = line.find(',');
     const bool hasBoth = comma != std::string_view::npos;
     if (hasBoth || hasOnlyChannel1)
       loaded.channel1.push_back(lifted(line.substr(0, comma), position1));
+    else if (hasTwoColumns)
+      repeatLast(loaded.channel1);
     if (hasBoth || !hasOnlyChannel1)
       loaded.channel2.push_back(
           toInt16(lifted(hasBoth ? line.substr(comma + 1) : line, position2)));
+    else if (hasTwoColumns)
+      repeatLast(loaded.channel2);
   });
   return loaded;
 }

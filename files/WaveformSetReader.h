@@ -34,7 +34,8 @@ struct LoadedWaveforms {
 
 /// The data lines of a ".csv" text, lifted by the positions of the description. The first line is
 /// skipped; a line ends with CR LF or LF, and text behind the last line end is ignored. Raises
-/// "Type mismatch" for what is no number, "Subscript out of range" at the 501st data line.
+/// "Type mismatch" for what is no number, "Subscript out of range" at the 501st data line. In a
+/// file of two columns a line with one value repeats the last point of the other channel.
 LoadedWaveforms readWaveforms(const std::string& csvText, const std::string& position1,
                               const std::string& position2);
 

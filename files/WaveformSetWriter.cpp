@@ -17,6 +17,16 @@ std::string sampleText(const std::string& record, int index) {
   return std::to_string(record[position] == 0 ? low : low - 256);
 }
 
+/// `text` with a blank for each line break, which would move the lines behind it.
+std::string onOneLine(const std::string& text) {
+  std::string line;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text.compare(i, 2, lineEnd) == 0) ++i;
+    line += text[i] == '\n' || text[i] == '\r' ? ' ' : text[i];
+  }
+  return line;
+}
+
 }  // namespace
 
 std::string BuildCsvText(const frmDSO& main) {
@@ -42,8 +52,8 @@ std::string buildInfText(const frmDSO& main, const std::string& picturePath,
   const std::string scale = hasChannel1 ? main.lblChan1.caption() : notSaved;
   std::string text;
   for (const std::string& line :
-       {picturePath, withoutExtension(picturePath) + ".csv", author, description,
-        hasChannel1 ? numberText(main.slideCH1.value()) : notSaved,
+       {picturePath, withoutExtension(picturePath) + ".csv", onOneLine(author),
+        onOneLine(description), hasChannel1 ? numberText(main.slideCH1.value()) : notSaved,
         hasChannel2 ? numberText(main.slideCH2.value()) : notSaved, scale, scale,
         numberText(main.slideTime.value())})
     text += line + lineEnd;

@@ -15,7 +15,7 @@ std::string BuildCsvText(const frmDSO& main);
 
 /// The nine lines that describe a set: picture, data file, author, description, positions, scales
 /// (channel 1's twice, as readers expect), time position. notSaved stands for a channel
-/// that is not displayed.
+/// that is not displayed, and a blank for a line break in author and description.
 std::string buildInfText(const frmDSO& main, const std::string& picturePath,
                          const std::string& author, const std::string& description);
 

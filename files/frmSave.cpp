@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "frmSave.h"
 
-#include <cctype>
-
 #include "Files.h"
 #include "WaveformSetWriter.h"
 
@@ -14,13 +12,14 @@ std::string timeStamp(const Clock& clock) {
   constexpr std::size_t afterYear = 4;
   std::string digits;
   for (const char c : clock.dateAndTime().substr(afterYear))
-    if (std::isdigit(static_cast<unsigned char>(c)) != 0) digits += c;
+    if (c >= '0' && c <= '9') digits += c;
   return digits;
 }
 
 /// Without regard to case, which not every file system knows.
 bool isDataExtension(std::string extension) {
-  for (char& c : extension) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+  for (char& c : extension)
+    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
   return extension == ".csv" || extension == ".inf";
 }
 

@@ -46,7 +46,8 @@ void frmSetup::mnbConf_Click() {
 }
 
 void frmSetup::Form_Load() {
-  txtSetup.text = readWholeFile(services().programFolder / "default.sit");
+  txtSetup.text =
+      readWholeFile(services().programFolder / "default.sit", fileLimit::reportTemplate);
 }
 
 void frmSetup::Form_Activate() {

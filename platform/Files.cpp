@@ -1,53 +1,55 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Files.h"
 
+#include <algorithm>
 #include <array>
-#include <cerrno>
 #include <fstream>
-#include <system_error>
 
-#include "Error.h"
+#include "FileError.h"
 
 namespace tracewell {
 namespace {
 
 namespace fs = std::filesystem;
 
+std::ifstream openForReading(const fs::path& path) {
+  std::error_code failed;
+  const fs::file_status status = fs::status(path, failed);
+  if (status.type() == fs::file_type::not_found)
+    throw fileError(fileNotFound, "File not found", path);
+  if (failed) throw fileError(pathAccess, "Cannot read", path, failed);
+  if (!fs::is_regular_file(status)) throw fileError(pathAccess, "Not a file", path);
+  errno = 0;
+  std::ifstream file(path, std::ios::binary);
+  if (!file.is_open()) throw fileError(pathAccess, "Cannot read", path, lastFailure());
+  return file;
+}
+
+/// What the file holds from here on, at most `limit` bytes.
+std::string readUpTo(std::ifstream& file, const fs::path& path, std::uintmax_t limit) {
+  std::string bytes;
+  std::array<char, 65536> block;
+  errno = 0;
+  while (bytes.size() < limit) {
+    const auto wanted = std::min<std::uintmax_t>(block.size(), limit - bytes.size());
+    file.read(block.data(), static_cast<std::streamsize>(wanted));
+    if (file.gcount() == 0) break;
+    bytes.append(block.data(), static_cast<std::size_t>(file.gcount()));
+  }
+  if (file.bad()) throw fileError(pathAccess, "Cannot read", path, lastFailure());
+  return bytes;
+}
+
+}  // namespace
+
 Error fileError(int number, const std::string& what, const fs::path& path,
-                const std::error_code& reason = {}) {
+                const std::error_code& reason) {
   std::error_code ignored;
   const fs::path whole = fs::absolute(path, ignored);
   std::string text = what + ": " + pathText(whole.empty() ? path : whole);
   if (reason) text += " (" + reason.message() + ")";
   return {number, "Tracewell", text};
 }
-
-/// Why the last operation of a stream failed.
-std::error_code streamFailure() {
-  return {errno, std::generic_category()};
-}
-
-/// Removes an unfinished file, whatever made it so.
-class Unfinished {
- public:
-  explicit Unfinished(fs::path path) : path_(std::move(path)) {}
-  ~Unfinished() {
-    std::error_code ignored;
-    fs::remove(path_, ignored);
-  }
-  Unfinished(const Unfinished&) = delete;
-
- private:
-  fs::path path_;
-};
-
-fs::path linkTarget(const fs::path& path) {
-  std::error_code failed;
-  const fs::path target = fs::canonical(path, failed);
-  return failed ? path : target;
-}
-
-}  // namespace
 
 std::string pathText(const fs::path& path) {
   const std::u8string text = path.u8string();
@@ -62,38 +64,25 @@ fs::path pathOf(const std::string& text) {
   }
 }
 
-std::string readWholeFile(const fs::path& path) {
-  std::error_code failed;
-  const fs::file_status status = fs::status(path, failed);
-  if (status.type() == fs::file_type::not_found)
-    throw fileError(fileNotFound, "File not found", path);
-  if (failed) throw fileError(pathAccess, "Cannot read", path, failed);
-  if (!fs::is_regular_file(status)) throw fileError(pathAccess, "Not a file", path);
-  errno = 0;
-  std::ifstream file(path, std::ios::binary);
-  std::string bytes;
-  std::array<char, 65536> block;
-  while (file.read(block.data(), block.size()), file.gcount() > 0)
-    bytes.append(block.data(), static_cast<std::size_t>(file.gcount()));
-  if (!file.is_open() || file.bad())
-    throw fileError(pathAccess, "Cannot read", path, streamFailure());
+/// The size that the system states is not asked: it is none for some files, and may change.
+std::string readWholeFile(const fs::path& path, std::uintmax_t limit) {
+  std::ifstream file = openForReading(path);
+  std::string bytes = readUpTo(file, path, limit + 1);
+  if (bytes.size() > limit)
+    throw fileError(pathAccess, "Larger than the " + std::to_string(limit) + " bytes allowed",
+                    path);
   return bytes;
 }
 
-void writeWholeFile(const fs::path& path, std::string_view bytes) {
-  const fs::path target = linkTarget(path);
-  fs::path beside = target;
-  beside += ".new";
-  errno = 0;
-  std::ofstream file(beside, std::ios::binary | std::ios::trunc);
-  if (!file) throw fileError(pathAccess, "Cannot write", path, streamFailure());
-  const Unfinished unfinished(beside);
-  file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-  file.close();
-  if (!file) throw fileError(diskFull, "Cannot write", path, streamFailure());
-  std::error_code failed;
-  fs::rename(beside, target, failed);
-  if (failed) throw fileError(pathAccess, "Cannot replace", path, failed);
+FileEnd readFileEnd(const fs::path& path, std::uintmax_t limit) {
+  std::ifstream file = openForReading(path);
+  file.seekg(0, std::ios::end);
+  const std::streamoff size = file.tellg();
+  if (size < 0) throw fileError(pathAccess, "Cannot read", path, lastFailure());
+  const std::streamoff skipped =
+      std::max<std::streamoff>(0, size - static_cast<std::streamoff>(limit));
+  file.seekg(skipped);
+  return {readUpTo(file, path, limit), skipped == 0};
 }
 
 }  // namespace tracewell

@@ -1,21 +1,42 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <string>
 #include <string_view>
 
+#include "FileLimits.h"
+
 /// Whole files, as bytes.
 namespace tracewell {
 
-/// Raises "File not found: <path>" when there is none, and the system's reason with the path when
-/// it cannot be read.
-std::string readWholeFile(const std::filesystem::path& path);
+/// Raises "File not found: <path>" when there is none, and the reason with the path when it cannot
+/// be read or has more than `limit` bytes.
+std::string readWholeFile(const std::filesystem::path& path,
+                          std::uintmax_t limit = fileLimit::anyFile);
 
-/// Replaces the file or leaves it as it was: the bytes go to a new file beside it, which takes its
-/// name only when it is complete. Follows a symbolic link. Raises pathAccess or diskFull with path
-/// and reason.
+/// The last `limit` bytes at most; otherwise the same.
+struct FileEnd {
+  std::string bytes;
+  /// Nothing stands before them.
+  bool isWhole = true;
+};
+FileEnd readFileEnd(const std::filesystem::path& path, std::uintmax_t limit);
+
+/// Replaces the file or leaves it as it was: the bytes go to a new file of a name of its own in the
+/// same folder, with the mode of the old one; once the disk holds it, it takes the name. Follows a
+/// symbolic link. Replaces a regular file or nothing. Raises pathAccess or diskFull with path and
+/// reason.
 void writeWholeFile(const std::filesystem::path& path, std::string_view bytes);
+
+/// Keeps the file under the next free name of "<name>.bad", "<name>.bad2", ..., which it returns;
+/// until the file is written anew it has its old name, too, unless it cannot be read. Raises
+/// pathAccess.
+std::filesystem::path keepAside(const std::filesystem::path& path);
+
+/// The name that keepAside would take now.
+std::filesystem::path nameAside(const std::filesystem::path& path);
 
 /// UTF-8 text of a path, and the path of such a text. The latter raises pathAccess where the system
 /// can make no path of it.

@@ -61,7 +61,7 @@ void Captions::LoadCaptions() {
                               &main_.mnbLA5};
   for (std::size_t i = 0; i < entries.size(); ++i)
     entries[i]->isChecked = code == "la" + std::to_string(i + 1);
-  buffer_ = readWholeFile(languageFile(main_, ".cap"));
+  buffer_ = readWholeFile(languageFile(main_, ".cap"), fileLimit::captions);
   ApplyCaptions(main_);
   for (Window* window : windows_) ApplyCaptions(*window);
 }

@@ -31,7 +31,7 @@ std::filesystem::path languageFile(const frmDSO& main, std::string_view extensio
 
 void LoadMessages(frmDSO& main) {
   const std::filesystem::path path = languageFile(main, ".msg");
-  const std::string text = readWholeFile(path);
+  const std::string text = readWholeFile(path, fileLimit::messages);
   std::array<std::string, messagesInFile> messages;
   std::size_t position = 0;
   for (std::string& message : messages) {

@@ -52,8 +52,9 @@ void frmCmd::Form_Load() {
 void frmCmd::readCommands() {
   std::size_t entry = 0;
   int group = 0;
-  for (const CommandEntry& line :
-       readCommandEntries(readWholeFile(services().programFolder / "dso.cmd"))) {
+  const std::string list =
+      readWholeFile(services().programFolder / "dso.cmd", fileLimit::commandList);
+  for (const CommandEntry& line : readCommandEntries(list)) {
     if (entry >= mostEntries) throw subscriptError();
     CmdDesc_[entry] = line.description;
     CmdHint_[entry] = line.hint;

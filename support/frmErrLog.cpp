@@ -2,6 +2,7 @@
 #include "frmErrLog.h"
 
 #include "Files.h"
+#include "StatusLine.h"
 
 namespace tracewell {
 namespace {
@@ -18,12 +19,19 @@ frmErrLog::frmErrLog(frmDSO& main)
 }
 
 void frmErrLog::Form_Load() {
+  const std::filesystem::path path = services().programFolder / logFile;
   try {
-    txtErrLog.text = readWholeFile(services().programFolder / logFile);
-  } catch (const Error&) {
+    FileEnd log = readFileEnd(path, fileLimit::errorLog);
+    isFileToKeep_ = !log.isWhole;
+    // From the beginning of a line on.
+    if (!log.isWhole) log.bytes.erase(0, log.bytes.find('\n') + 1);
+    txtErrLog.text = std::move(log.bytes);
+  } catch (const Error& error) {
     // No log yet, or none that can be read: a new one begins.
+    isFileToKeep_ = error.number() != fileNotFound;
     txtErrLog.text = "";
   }
+  if (isFileToKeep_) sayKept(main_, path);
 }
 
 void frmErrLog::lblDSOCmd_DblClick() {
@@ -35,7 +43,10 @@ void frmErrLog::cmdClear_Click() {
 }
 
 void frmErrLog::cmdClose_Click() {
-  writeWholeFile(services().programFolder / logFile, txtErrLog.text());
+  const std::filesystem::path path = services().programFolder / logFile;
+  if (isFileToKeep_) keepAside(path);
+  isFileToKeep_ = false;
+  writeWholeFile(path, txtErrLog.text());
   hide();
   main_.refresh();
 }

@@ -7,7 +7,8 @@
 namespace tracewell {
 
 /// The error log's window. The log lives in its text box; the file "dso.err" is read when the
-/// window loads and written only by Close.
+/// window loads, its last part if it is long, and written only by Close. What could not be read is
+/// kept aside then.
 class frmErrLog : public Window {
  public:
   explicit frmErrLog(frmDSO& main);
@@ -25,6 +26,8 @@ class frmErrLog : public Window {
   void cmdClose_Click();
 
   frmDSO& main_;
+  /// The file holds more than the text box.
+  bool isFileToKeep_ = false;
 };
 
 }  // namespace tracewell

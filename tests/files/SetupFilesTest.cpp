@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "SetupFiles.h"
 
-#include <fstream>
-
 #include "Doubles.h"
 #include "Files.h"
 
@@ -103,33 +101,52 @@ TEST_F(SetupFilesTest, MenuAsksInItsOwnWordsAndCancelMeansTheCurrentFolder) {
   EXPECT_TRUE(dialogs.runTimeErrors[0].starts_with("53 File not found: "));
 }
 
-/// A folder in which no file can be made stands for a full disk and for one that is read-only:
-/// the unfinished file is what fails.
-TEST_F(SetupFilesTest, SetupThatCannotBeWrittenIsReportedAndStaysWhole) {
-  program.start();
+TEST_F(SetupFilesTest, WhatCouldNotBeTakenWholeIsKept) {
   const fs::path setup = folder.path() / "default.dso";
-  const std::string old = readWholeFile(setup);
-  main.gridMeasure.setText(0, 0, "new");
-  fs::create_directory(folder.path() / "default.dso.new");
-  const std::ofstream inTheWay(folder.path() / "default.dso.new" / "file");
+  const std::string whole = readWholeFile(setup);
+  std::string lf = whole;
+  std::erase(lf, '\r');
+  std::string wide = "\xFF\xFE";
+  for (const char c : whole) wide += {c, '\0'};
+  const Lines damaged = {lf,
+                         wide,
+                         "",
+                         "\r\n" + whole,
+                         whole + "more,0\r\n",
+                         whole.substr(0, whole.size() - 1),
+                         "RRS232,5" + std::string(40, ',') + "\r\n" + whole,
+                         whole + std::string(fileLimit::setup, ' ')};
+  std::string name = "default.dso.bad";
+  for (std::size_t i = 0; i < damaged.size(); ++i) {
+    SCOPED_TRACE(i);
+    writeWholeFile(setup, damaged[i]);
+    main.lblStatus.caption = "";
+    table = SetupTable();
+    program.setupFiles.ReadSetupFile(setup);
+    EXPECT_NE(main.lblStatus.caption().find(name), std::string::npos) << main.lblStatus.caption();
+    program.setupFiles.WriteSetupFile(setup);
+    EXPECT_EQ(readWholeFile(folder.path() / name), damaged[i]);
+    EXPECT_TRUE(readWholeFile(setup).starts_with("R"));
+    name = "default.dso.bad" + std::to_string(i + 2);
+  }
+  writeWholeFile(setup, whole);
+  program.setupFiles.ReadSetupFile(setup);
+  for (int i = 0; i < 2; ++i) program.setupFiles.WriteSetupFile(setup);
+  EXPECT_FALSE(fs::exists(folder.path() / name));
+  EXPECT_TRUE(dialogs.messages.empty());
+}
+
+/// A folder in the place of the setup stands for all that keeps it from being written.
+TEST_F(SetupFilesTest, SetupThatCannotBeWrittenIsReportedAndTheProgramEnds) {
+  const fs::path setup = folder.path() / "default.dso";
+  fs::remove(setup);
+  fs::create_directory(setup);
+  program.start();
+  EXPECT_FALSE(main.lblStatus.caption().empty());
   main.close();
   ASSERT_EQ(dialogs.messages.size(), 1u);
   EXPECT_NE(dialogs.messages[0].find(pathText(setup)), std::string::npos);
-  EXPECT_EQ(readWholeFile(setup), old);
   EXPECT_FALSE(main.isLoaded());
-}
-
-/// The device that is always full, and a file whose first byte cannot be read.
-TEST(Files, FullDiskAndReadErrorAreErrors) {
-  if (!fs::exists("/dev/full")) GTEST_SKIP();
-  EXPECT_THROW(readWholeFile("/proc/self/mem"), Error);
-  const fs::path link = fs::temp_directory_path() / "tracewell-full.new";
-  fs::remove(link);
-  fs::create_symlink("/dev/full", link);
-  const fs::path file = fs::temp_directory_path() / "tracewell-full";
-  EXPECT_THROW(writeWholeFile(file, "text"), Error);
-  EXPECT_FALSE(fs::exists(file));
-  EXPECT_FALSE(fs::exists(fs::symlink_status(link)));
 }
 
 }  // namespace tracewell

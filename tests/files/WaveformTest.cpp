@@ -108,15 +108,26 @@ TEST_F(WaveformTest, OneChannelNoChannelAndNoRecord) {
   EXPECT_TRUE(file("0315142905").starts_with("11:"));
 }
 
+TEST_F(WaveformTest, LineBreaksInNotesAndNamesMoveNoLine) {
+  saveWindow.txtAuthor.type("Ann\r\nB.\rC");
+  saveWindow.txtDes.type("first\nsecond");
+  save("a\nb.png", 7);
+  const WaveformDescription set = readDescription(place / "a\nb.inf");
+  EXPECT_EQ(set.picturePath, pathText(place / "a\nb.png"));
+  EXPECT_EQ((Lines{set.author, set.description, set.channel1, set.channel2}),
+            (Lines{"Ann B. C", "first second", "0", "N"}));
+}
+
 TEST_F(WaveformTest, FailedSaveSaysSoAndKeepsTheOldFiles) {
   save("one.png", 7);
   const std::string before = file("one.inf");
-  fs::create_directory(place / "one.inf.new");
+  fs::remove(place / "one.inf");
+  fs::create_directory(place / "one.inf");
   main.slideCH1.value = 3;
   windows.user["frmSave"] = [this] {
     saveWindow.cmdOK.press();
     EXPECT_TRUE(saveWindow.isVisible());
-    fs::remove(place / "one.inf.new");
+    fs::remove(place / "one.inf");
     saveWindow.cmdOK.press();
   };
   main.cmdSave.press();
@@ -270,6 +281,10 @@ TEST_F(WaveformTest, DataFilesOfEveryKind) {
       EXPECT_EQ(points1, -1) << what;
     }
   }
+  // A line with one value keeps the places of the points behind it.
+  const LoadedWaveforms mixed = readWaveforms("h\n5\n1,2\n7\n3,4\n", "0", "0");
+  EXPECT_EQ(mixed.channel1, (std::vector<double>{0, 1, 1, 3}));
+  EXPECT_EQ(mixed.channel2, (std::vector<double>{5, 2, 7, 4}));
   EXPECT_EQ(readWaveforms("h\r\n3\r\n", "0.33", "N").channel1[0], 19.5);
   EXPECT_EQ(readWaveforms("h\r\n3\r\n", "N", "0.33").channel2[0], 20);
 }

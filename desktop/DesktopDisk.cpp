@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "DesktopDisk.h"
+
+#include <cerrno>
+
+#ifdef _WIN32
+#include <io.h>
+#else
+#include <fcntl.h>
+#include <unistd.h>
+#endif
+
+namespace tracewell {
+namespace {
+
+std::error_code lastError() {
+  return {errno, std::generic_category()};
+}
+
+}  // namespace
+
+#ifdef _WIN32
+
+std::error_code DesktopDisk::flush(std::FILE& file) {
+  return ::_commit(::_fileno(&file)) == 0 ? std::error_code() : lastError();
+}
+
+/// A folder is no file there; the system keeps its names in a journal.
+std::error_code DesktopDisk::flushFolder(const std::filesystem::path&) {
+  return {};
+}
+
+#else
+
+std::error_code DesktopDisk::flush(std::FILE& file) {
+  return ::fsync(::fileno(&file)) == 0 ? std::error_code() : lastError();
+}
+
+/// A folder that may be written but not read cannot be flushed.
+std::error_code DesktopDisk::flushFolder(const std::filesystem::path& folder) {
+  const int opened = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  if (opened < 0) return errno == EACCES ? std::error_code() : lastError();
+  const bool isFlushed = ::fsync(opened) == 0 || errno == EINVAL || errno == ENOTSUP;
+  const std::error_code failure = isFlushed ? std::error_code() : lastError();
+  ::close(opened);
+  return failure;
+}
+
+#endif
+
+}  // namespace tracewell

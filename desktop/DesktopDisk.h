@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Disk.h"
+
+namespace tracewell {
+
+/// The system's own call for each. Needs no Qt.
+class DesktopDisk : public Disk {
+ public:
+  std::error_code flush(std::FILE& file) override;
+  std::error_code flushFolder(const std::filesystem::path& folder) override;
+};
+
+}  // namespace tracewell

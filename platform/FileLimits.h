@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+
+/// The size that a file of each kind may have in bytes, far above any real one. Of the error log
+/// the last part of that size is read.
+namespace tracewell::fileLimit {
+
+inline constexpr std::uintmax_t kibibyte = 1024;
+inline constexpr std::uintmax_t setup = 64 * kibibyte;
+inline constexpr std::uintmax_t captions = 512 * kibibyte;
+inline constexpr std::uintmax_t messages = 64 * kibibyte;
+inline constexpr std::uintmax_t reportTemplate = 256 * kibibyte;
+inline constexpr std::uintmax_t commandList = 256 * kibibyte;
+inline constexpr std::uintmax_t waveformData = 1024 * kibibyte;
+inline constexpr std::uintmax_t description = 64 * kibibyte;
+inline constexpr std::uintmax_t errorLog = 1024 * kibibyte;
+inline constexpr std::uintmax_t picture = 32 * 1024 * kibibyte;
+inline constexpr std::uintmax_t anyFile = picture;
+
+}  // namespace tracewell::fileLimit

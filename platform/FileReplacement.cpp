@@ -1,0 +1,170 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <cstdint>
+#include <cstdio>
+#include <fstream>
+#include <memory>
+#include <random>
+#include <utility>
+
+#include "Disk.h"
+#include "FileError.h"
+#include "Files.h"
+
+namespace tracewell {
+namespace {
+
+namespace fs = std::filesystem;
+
+Disk* usedDisk = nullptr;
+
+struct CloseFile {
+  void operator()(std::FILE* file) const { std::fclose(file); }
+};
+using OpenFile = std::unique_ptr<std::FILE, CloseFile>;
+
+/// The file that `path` means, which is a regular one, or a place where nothing is.
+fs::path replaceableTarget(const fs::path& path) {
+  std::error_code failed;
+  const fs::file_status itself = fs::symlink_status(path, failed);
+  if (itself.type() == fs::file_type::not_found) return path;
+  const fs::path target = fs::canonical(path, failed);
+  if (failed) throw fileError(pathAccess, "Cannot write", path, failed);
+  const fs::file_status status = fs::status(target, failed);
+  if (failed) throw fileError(pathAccess, "Cannot write", path, failed);
+  if (!fs::is_regular_file(status)) throw fileError(pathAccess, "Not a file", path);
+  return target;
+}
+
+/// A new file, or none with the reason in errno.
+OpenFile createExclusively(const fs::path& path) {
+#ifdef _WIN32
+  // The oldest C library there does not know the mode "x".
+  std::error_code ignored;
+  if (fs::exists(fs::symlink_status(path, ignored))) {
+    errno = EEXIST;
+    return nullptr;
+  }
+  return OpenFile(::_wfopen(path.c_str(), L"wb"));
+#else
+  return OpenFile(std::fopen(path.c_str(), "wbx"));
+#endif
+}
+
+/// A file on its way to take the name of another. Whatever ends it before, it leaves nothing.
+class Replacement {
+ public:
+  /// `target` is the file to be replaced, `path` the name that the user knows for it.
+  Replacement(fs::path target, const fs::path& path) : target_(std::move(target)), path_(path) {
+    create();
+  }
+  ~Replacement() {
+    file_.reset();
+    std::error_code ignored;
+    if (!isDone_) fs::remove(beside_, ignored);
+  }
+  Replacement(const Replacement&) = delete;
+
+  void write(std::string_view bytes) {
+    takeModeOfTarget();
+    errno = 0;
+    if (std::fwrite(bytes.data(), 1, bytes.size(), file_.get()) != bytes.size() ||
+        std::fflush(file_.get()) != 0)
+      throw fileError(diskFull, "Cannot write", path_, lastFailure());
+    if (usedDisk != nullptr) check(usedDisk->flush(*file_), diskFull, "Cannot write");
+    errno = 0;
+    if (std::fclose(file_.release()) != 0)
+      throw fileError(diskFull, "Cannot write", path_, lastFailure());
+  }
+
+  void takeName() {
+    std::error_code failed;
+    fs::rename(beside_, target_, failed);
+    check(failed, pathAccess, "Cannot replace");
+    isDone_ = true;
+    if (usedDisk != nullptr)
+      check(usedDisk->flushFolder(folder()), diskFull, "Written, but perhaps not for good");
+  }
+
+ private:
+  void check(const std::error_code& failed, int number, const char* what) const {
+    if (failed) throw fileError(number, what, path_, failed);
+  }
+
+  fs::path folder() const { return target_.has_parent_path() ? target_.parent_path() : "."; }
+
+  /// Under a short name, since that of the target may already be as long as the system allows.
+  void create() {
+    constexpr int mostTries = 20;
+    std::random_device random;
+    for (int i = 0; i < mostTries && file_ == nullptr; ++i) {
+      beside_ = folder() / (".tracewell-" + std::to_string(random()) + ".new");
+      errno = 0;
+      file_ = createExclusively(beside_);
+      if (file_ == nullptr && errno != EEXIST) break;
+    }
+    if (file_ == nullptr) throw fileError(pathAccess, "Cannot write", path_, lastFailure());
+  }
+
+  /// Before there is any content, so that nobody reads it who could not read the old one.
+  void takeModeOfTarget() const {
+    std::error_code failed;
+    const fs::file_status old = fs::status(target_, failed);
+    if (!fs::exists(old)) return;
+    if (!failed && old.permissions() != fs::status(beside_, failed).permissions())
+      fs::permissions(beside_, old.permissions(), failed);
+    check(failed, pathAccess, "Cannot write");
+  }
+
+  fs::path target_;
+  const fs::path& path_;
+  fs::path beside_;
+  OpenFile file_;
+  bool isDone_ = false;
+};
+
+bool canBeRead(const fs::path& path) {
+  return std::ifstream(path, std::ios::binary).is_open();
+}
+
+}  // namespace
+
+void useDisk(Disk* disk) {
+  usedDisk = disk;
+}
+
+void writeWholeFile(const fs::path& path, std::string_view bytes) {
+  Replacement replacement(replaceableTarget(path), path);
+  replacement.write(bytes);
+  replacement.takeName();
+}
+
+fs::path nameAside(const fs::path& path) {
+  const fs::path target = replaceableTarget(path);
+  fs::path aside;
+  int number = 1;
+  std::error_code ignored;
+  do {
+    aside = target;
+    aside += number == 1 ? ".bad" : ".bad" + std::to_string(number);
+    ++number;
+  } while (fs::exists(fs::symlink_status(aside, ignored)));
+  return aside;
+}
+
+/// A second name for the same file needs no right to read it, and takes nobody's place.
+fs::path keepAside(const fs::path& path) {
+  const fs::path target = replaceableTarget(path);
+  const fs::path aside = nameAside(path);
+  std::error_code failed;
+  fs::create_hard_link(target, aside, failed);
+  // Where the file system has no second names, and where the new file would take over a mode that
+  // keeps it from being read.
+  if (failed)
+    fs::rename(target, aside, failed);
+  else if (!canBeRead(target))
+    fs::remove(target, failed);
+  if (failed) throw fileError(pathAccess, "Cannot keep", path, failed);
+  return aside;
+}
+
+}  // namespace tracewell

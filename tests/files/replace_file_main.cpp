@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// Writes its second argument into the file that its first one names, as the program does. For
+/// file_faults_test.py.
+
+#include <cstdlib>
+#include <iostream>
+
+#include "DesktopDisk.h"
+#include "Error.h"
+#include "Files.h"
+
+int main(int, char** arguments) {
+  tracewell::DesktopDisk disk;
+  tracewell::useDisk(&disk);
+  try {
+    tracewell::writeWholeFile(arguments[1], arguments[2]);
+  } catch (const tracewell::Error& error) {
+    std::cerr << error.what() << "\n";
+    return EXIT_FAILURE;
+  }
+  return EXIT_SUCCESS;
+}
