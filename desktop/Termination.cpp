@@ -7,6 +7,7 @@
 #include <utility>
 
 #ifdef Q_OS_UNIX
+#include <fcntl.h>
 #include <unistd.h>
 
 #include <array>
@@ -21,8 +22,22 @@ namespace {
 
 constexpr std::array<int, 3> endingSignals = {SIGTERM, SIGINT, SIGHUP};
 
-/// A signal can do no more than write a byte; the event loop reads it.
+/// A signal can do no more than write a byte; the event loop reads it. A full pipe says enough.
 std::array<int, 2> signalPipe = {-1, -1};
+
+bool openPipe() {
+  if (::pipe(signalPipe.data()) != 0) return false;
+  for (const int end : signalPipe) {
+    ::fcntl(end, F_SETFD, FD_CLOEXEC);
+    ::fcntl(end, F_SETFL, O_NONBLOCK);
+  }
+  return true;
+}
+
+bool isIgnored(int number) {
+  struct sigaction action = {};
+  return ::sigaction(number, nullptr, &action) == 0 && action.sa_handler == SIG_IGN;
+}
 
 void signalled(int) {
   const int interrupted = errno;
@@ -43,17 +58,22 @@ Termination::Termination(std::function<void()> end) : end_(std::move(end)) {
 
 #ifdef Q_OS_UNIX
 void Termination::watchSignals() {
-  if (::pipe(signalPipe.data()) != 0) return;
-  auto* arrival = new QSocketNotifier(signalPipe[0], QSocketNotifier::Read, this);
-  connect(arrival, &QSocketNotifier::activated, this, [this, arrival] {
-    arrival->setEnabled(false);
+  if (!openPipe()) return;
+  arrival_ = std::make_unique<QSocketNotifier>(signalPipe[0], QSocketNotifier::Read);
+  connect(arrival_.get(), &QSocketNotifier::activated, this, [this] {
+    arrival_->setEnabled(false);
     end_();
   });
-  for (const int number : endingSignals) std::signal(number, signalled);
+  for (const int number : endingSignals)
+    if (!isIgnored(number)) std::signal(number, signalled);
 }
 
 Termination::~Termination() {
-  for (const int number : endingSignals) std::signal(number, SIG_DFL);
+  if (arrival_ == nullptr) return;
+  for (const int number : endingSignals)
+    if (!isIgnored(number)) std::signal(number, SIG_DFL);
+  arrival_.reset();
+  for (int& end : signalPipe) ::close(std::exchange(end, -1));
 }
 #else
 void Termination::watchSignals() {}

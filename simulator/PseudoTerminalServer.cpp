@@ -40,18 +40,27 @@ int orRaise(int result, const char* what) {
   return result;
 }
 
-void endOnSignals() {
+/// Signals come during waits only, so that none is lost between a look at isAskedToEnd and the next
+/// wait. The result is what waits let through.
+sigset_t endOnSignals() {
   struct sigaction action = {};
   action.sa_handler = askToEnd;
-  sigaction(SIGINT, &action, nullptr);
-  sigaction(SIGTERM, &action, nullptr);
+  sigset_t ending;
+  sigemptyset(&ending);
+  for (const int number : {SIGINT, SIGTERM}) {
+    sigaction(number, &action, nullptr);
+    sigaddset(&ending, number);
+  }
+  sigset_t before;
+  sigprocmask(SIG_BLOCK, &ending, &before);
+  for (const int number : {SIGINT, SIGTERM}) sigdelset(&before, number);
+  return before;
 }
 
 }  // namespace
 
 PseudoTerminalServer::PseudoTerminalServer(Instrument& instrument, Options options)
-    : instrument_(instrument), options_(std::move(options)) {
-  endOnSignals();
+    : instrument_(instrument), options_(std::move(options)), duringWaits_(endOnSignals()) {
   plugIn();
 }
 
@@ -92,11 +101,17 @@ int PseudoTerminalServer::millisecondsToNextByte() const {
   return std::max(1, static_cast<int>(std::ceil(*next - millisecondsNow())));
 }
 
+void PseudoTerminalServer::wait(std::span<pollfd> watched, int milliseconds) const {
+  constexpr int perSecond = 1000;
+  const timespec duration = {milliseconds / perSecond, milliseconds % perSecond * 1'000'000L};
+  ppoll(watched.data(), watched.size(), milliseconds < 0 ? nullptr : &duration, &duringWaits_);
+}
+
 void PseudoTerminalServer::serve() {
   while (!isAskedToEnd) {
     std::array<pollfd, 2> watched = {
         {{controller_, POLLIN, 0}, {hasStandardInput_ ? STDIN_FILENO : -1, POLLIN, 0}}};
-    poll(watched.data(), watched.size(), millisecondsToNextByte());
+    wait(watched, millisecondsToNextByte());
     if (watched[0].revents & POLLIN) takeBytes();
     if (watched[1].revents != 0) takeFaultLines();
     sendDueBytes();
@@ -104,7 +119,7 @@ void PseudoTerminalServer::serve() {
     pullPlug();
     if (options_.replugAfter < 0) return;
     // A signal ends this wait, too.
-    poll(nullptr, 0, options_.replugAfter);
+    wait({}, options_.replugAfter);
     if (isAskedToEnd) return;
     plugIn();
   }

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <poll.h>
+
+#include <csignal>
+#include <span>
 #include <string>
 
 #include "Instrument.h"
@@ -34,12 +38,15 @@ class PseudoTerminalServer {
   void plugIn();
   void pullPlug();
   int millisecondsToNextByte() const;
+  /// Until one of them is ready, a signal comes or the time is over; negative for no end.
+  void wait(std::span<pollfd> watched, int milliseconds) const;
   void takeBytes();
   void sendDueBytes();
   void takeFaultLines();
 
   Instrument& instrument_;
   Options options_;
+  sigset_t duringWaits_;
   std::string path_;
   std::string faultLine_;
   bool hasStandardInput_ = true;
