@@ -1,5 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <algorithm>
 #include "CommandFile.h"
+
+
 #include "Doubles.h"
 
 namespace tracewell {
@@ -67,9 +70,20 @@ TEST_F(ConsoleTest, HundredEntriesAreTheLimit) {
 TEST_F(ConsoleTest, ShippedListIsReadWholeAndAMissingOneLogged) {
   main.mnbDSOcmd.choose();
   EXPECT_TRUE(logLines().empty());
+  // With room for the user's own.
   EXPECT_GT(console.tvCmd.nodes().size(), 80u);
-  for (const Tree::Node& node : console.tvCmd.nodes())
+  EXPECT_LE(console.tvCmd.nodes().size(), 90u);
+  port.wire.clear();
+  for (int number = 1; number <= std::ssize(console.tvCmd.nodes()); ++number) {
+    const Tree::Node node = console.tvCmd.nodes()[static_cast<std::size_t>(number) - 1];
     EXPECT_EQ(node.text.starts_with(':'), node.parent != 0) << node.text;
+    if (node.parent != 0) continue;
+    const auto isBelow = [number](const Tree::Node& other) { return other.parent == number; };
+    EXPECT_TRUE(std::ranges::any_of(console.tvCmd.nodes(), isBelow)) << node.text;
+    console.tvCmd.choose(number);
+    console.cmdRun.press();
+  }
+  EXPECT_EQ(port.wire, Lines()) << "a group was sent";
   console.unload();
   std::filesystem::remove(folder.path() / "dso.cmd");
   main.mnbDSOcmd.choose();
