@@ -32,6 +32,7 @@
 #include "LineWidget.h"
 #include "Lists.h"
 #include "PictureWidget.h"
+#include "ShownText.h"
 #include "SlideWidget.h"
 #include "Text.h"
 #include "UnreadMark.h"
@@ -110,12 +111,19 @@ void onMoveByKey(QObject* list, const std::function<void()>& action) {
   });
 }
 
+/// What a label on one line may take up before it would push its window off a small screen. Pixels.
+int widestOf(const QLabel& label) {
+  const auto is = [&label](const char* kind) { return label.property(kind).toBool(); };
+  if (is("status")) return QWIDGETSIZE_MAX;
+  if (is("state")) return 640;
+  return is("readout") || is("cell") ? 150 : 300;
+}
+
 template <class AnyLabel>
 QLabel* bindLabel(AnyLabel& control, QWidget& form) {
   auto* label = findObject<QLabel>(control, form);
-  showWith(control, label, [&control, label] {
-    label->setText(toQt(control.caption()).remove(QLatin1Char('\r')));
-  });
+  showWith(control, label,
+           [&control, label] { showInLabel(*label, control.caption(), widestOf(*label)); });
   return label;
 }
 
@@ -130,7 +138,7 @@ void bind(ValueLabel& control, QWidget& form) {
 
 void bind(Frame& control, QWidget& form) {
   auto* box = findObject<QGroupBox>(control, form);
-  showWith(control, box, [&control, box] { box->setTitle(plainCaption(control.caption())); });
+  showWith(control, box, [&control, box] { box->setTitle(shownCaption(control.caption())); });
 }
 
 QIcon swatch(const QColor& colour) {
@@ -144,7 +152,7 @@ void bind(Button& control, QWidget& form) {
   auto* button = findObject<QPushButton>(control, form);
   // A new text would take the form's shortcut away.
   showWith(control, button, [&control, button, shortcut = button->shortcut()] {
-    button->setText(plainCaption(control.caption()));
+    button->setText(shownCaption(control.caption()));
     button->setShortcut(shortcut);
     button->setEnabled(control.enabled() && control.click);
     if (const auto colour = control.backColour()) button->setIcon(swatch(toQt(*colour)));
@@ -155,7 +163,7 @@ void bind(Button& control, QWidget& form) {
 void bind(Switch& control, QWidget& form) {
   auto* button = findObject<QAbstractButton>(control, form);
   showWith(control, button, [&control, button] {
-    button->setText(plainCaption(control.caption()));
+    button->setText(shownCaption(control.caption()));
     button->setChecked(control.value());
   });
   QObject::connect(button, &QAbstractButton::clicked, button, [&control] { control.press(); });
@@ -164,12 +172,12 @@ void bind(Switch& control, QWidget& form) {
 void bind(MenuEntry& control, QWidget& form) {
   if (auto* menu = form.findChild<QMenu*>(toQt(control.objectName()))) {
     showWith(control, menu->menuAction(),
-             [&control, menu] { menu->setTitle(plainCaption(control.caption())); });
+             [&control, menu] { menu->setTitle(shownCaption(control.caption())); });
     return;
   }
   auto* action = findObject<QAction>(control, form);
   showWith(control, action, [&control, action] {
-    action->setText(plainCaption(control.caption()));
+    action->setText(shownCaption(control.caption()));
     action->setEnabled(control.enabled() && control.click);
     action->setCheckable(control.isChecked());
     action->setChecked(control.isChecked());
@@ -184,7 +192,7 @@ void bind(MenuEntry& control, QWidget& form) {
 void bind(CheckBox& control, QWidget& form) {
   auto* box = findObject<QCheckBox>(control, form);
   showWith(control, box, [&control, box] {
-    box->setText(plainCaption(control.caption()));
+    box->setText(shownCaption(control.caption()));
     box->setChecked(control.isChecked());
   });
   QObject::connect(box, &QCheckBox::clicked, box, [&control] { control.toggle(); });
@@ -195,7 +203,7 @@ void bind(OptionButton& control, QWidget& form) {
   // The model clears the siblings; Qt's own exclusion would not let all of them be clear.
   button->setAutoExclusive(false);
   showWith(control, button, [&control, button] {
-    button->setText(plainCaption(control.caption()));
+    button->setText(shownCaption(control.caption()));
     button->setChecked(control.value());
   });
   QObject::connect(button, &QRadioButton::clicked, button, [&control] {
@@ -204,11 +212,16 @@ void bind(OptionButton& control, QWidget& form) {
   });
 }
 
+QStringList shownEntries(const std::vector<std::string>& entries) {
+  QStringList shown;
+  for (const std::string& entry : entries) shown << shownText(entry, roomOfEntry);
+  return shown;
+}
+
 void bind(ComboBox& control, QWidget& form) {
   auto* box = findObject<QComboBox>(control, form);
   showWith(control, box, [&control, box] {
-    QStringList items;
-    for (const std::string& item : control.items()) items << toQt(item);
+    const QStringList items = shownEntries(control.items());
     QStringList shown;
     for (int i = 0; i < box->count(); ++i) shown << box->itemText(i);
     if (items != shown) {
@@ -216,7 +229,7 @@ void bind(ComboBox& control, QWidget& form) {
       box->addItems(items);
     }
     box->setCurrentIndex(control.listIndex());
-    if (box->isEditable()) box->setEditText(toQt(control.text()));
+    if (box->isEditable()) box->setEditText(shownText(control.text(), roomOfEditor));
   });
   QObject::connect(box, &QComboBox::activated, box,
                    [&control](int index) { control.choose(index); });
@@ -225,22 +238,23 @@ void bind(ComboBox& control, QWidget& form) {
   // What is typed is meant: "3" is not the beginning of port 33.
   box->setCompleter(nullptr);
   QObject::connect(box->lineEdit(), &QLineEdit::editingFinished, box, [&control, box] {
-    const std::string typed = fromQt(box->currentText());
-    if (typed != control.text()) control.type(typed);
+    const QString typed = box->currentText();
+    if (typed != shownText(control.text(), roomOfEditor)) control.type(fromQt(typed));
   });
 }
 
 void bind(TextBox& control, QWidget& form) {
   if (auto* area = form.findChild<QPlainTextEdit*>(toQt(control.objectName()))) {
     showWith(control, area, [&control, area] {
-      const QString text = toQt(control.text()).remove(QLatin1Char('\r'));
+      const QString text = shownText(control.text(), roomOfPage);
       if (area->toPlainText() != text) area->setPlainText(text);
     });
     return;
   }
   auto* line = findObject<QLineEdit>(control, form);
   showWith(control, line, [&control, line] {
-    if (line->text() != toQt(control.text())) line->setText(toQt(control.text()));
+    if (line->text() != toQt(control.text()))
+      line->setText(shownText(control.text(), roomOfEditor));
   });
   QObject::connect(line, &QLineEdit::textEdited, line,
                    [&control](const QString& text) { control.type(fromQt(text)); });
@@ -281,7 +295,7 @@ void bind(Slide& control, QWidget& form) {
   slide->setRange(control.range().minimum, control.range().maximum, control.range().step);
   showWith(control, slide, [&control, slide, caption] {
     slide->setValue(control.value());
-    if (caption != nullptr) caption->setText(toQt(control.caption()));
+    if (caption != nullptr) showInLabel(*caption, control.caption(), widestOf(*caption));
   });
   QObject::connect(slide, &SlideWidget::dragged, slide,
                    [&control](double to) { control.drag(to); });
@@ -295,8 +309,7 @@ void bind(Graph& control, QWidget& form) {
 void bind(ListBox& control, QWidget& form) {
   auto* list = findObject<QListWidget>(control, form);
   showWith(control, list, [&control, list] {
-    QStringList items;
-    for (const std::string& item : control.items()) items << toQt(item);
+    const QStringList items = shownEntries(control.items());
     QStringList shown;
     for (int i = 0; i < list->count(); ++i) shown << list->item(i)->text();
     if (items != shown) {
@@ -323,7 +336,7 @@ void fillTree(QTreeWidget& tree, const std::vector<Tree::Node>& nodes) {
   tree.clear();
   std::vector<QTreeWidgetItem*> items;
   for (const Tree::Node& node : nodes) {
-    auto* item = new QTreeWidgetItem({toQt(node.text)});
+    auto* item = new QTreeWidgetItem({shownText(node.text, roomOfEntry)});
     items.push_back(item);
     item->setData(0, Qt::UserRole, static_cast<int>(items.size()));
     if (node.parent > 0)
@@ -364,14 +377,22 @@ bool bindAsOneOf(Control& control, QWidget& form) {
 }  // namespace
 
 void bindControls(Window& window, QWidget& form) {
-  for (Control* control : window.controls())
-    bindAsOneOf<Label, ValueLabel, Frame, Button, Switch, MenuEntry, CheckBox, OptionButton,
-                ComboBox, TextBox, Line, Lamp, Progress, Knob, Slide, ListBox, Tree, PictureBox,
-                Graph>(*control, form);
+  for (Control* control : window.controls()) {
+    const bool isBound = bindAsOneOf<Label, ValueLabel, Frame, Button, Switch, MenuEntry, CheckBox,
+                                     OptionButton, ComboBox, TextBox, Line, Lamp, Progress, Knob,
+                                     Slide, ListBox, Tree, PictureBox, Graph>(*control, form);
+    if (!isBound)
+      throw Error(invalidProcedureCall, "Tracewell",
+                  "Nothing shows a control of the kind of " + control->objectName());
+  }
 }
 
 void unbindControls(Window& window) {
-  for (Control* control : window.controls()) control->changed = {};
+  for (Control* control : window.controls()) {
+    auto* graph = dynamic_cast<Graph*>(control);
+    if (graph != nullptr && graph->letGo) graph->letGo();
+    control->changed = {};
+  }
 }
 
 }  // namespace tracewell

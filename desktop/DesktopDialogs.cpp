@@ -7,6 +7,7 @@
 #include <QMessageBox>
 #include <iostream>
 
+#include "ShownText.h"
 #include "Text.h"
 
 namespace tracewell {
@@ -14,6 +15,15 @@ namespace {
 
 QWidget* windowInUse() {
   return QApplication::activeWindow();
+}
+
+QMessageBox::StandardButton showBox(QMessageBox::Icon icon, const std::string& title,
+                                    const std::string& text,
+                                    QMessageBox::StandardButtons buttons = QMessageBox::Ok) {
+  QMessageBox box(icon, shownTitle(title), QString(), buttons, windowInUse());
+  box.setTextFormat(Qt::PlainText);
+  box.setText(shownText(text, roomOfParagraph));
+  return static_cast<QMessageBox::StandardButton>(box.exec());
 }
 
 /// "*.dso|*.dso" (description, pattern) in Qt's form.
@@ -30,7 +40,7 @@ QString suffix(const std::string& filter) {
 }
 
 std::filesystem::path ask(const FileDialog& dialog, QFileDialog::AcceptMode mode) {
-  QFileDialog box(windowInUse(), toQt(dialog.title), toQt(dialog.initialFolder),
+  QFileDialog box(windowInUse(), shownTitle(dialog.title), toQt(dialog.initialFolder),
                   nameFilter(dialog.filter));
   box.setAcceptMode(mode);
   box.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile
@@ -44,7 +54,8 @@ std::filesystem::path ask(const FileDialog& dialog, QFileDialog::AcceptMode mode
 }  // namespace
 
 Answer DesktopDialogs::answerYesNo(const std::string& prompt, const std::string& title) {
-  const auto answer = QMessageBox::question(windowInUse(), toQt(title), toQt(prompt));
+  const auto answer =
+      showBox(QMessageBox::Question, title, prompt, QMessageBox::Yes | QMessageBox::No);
   return answer == QMessageBox::Yes ? Answer::Yes : Answer::No;
 }
 
@@ -52,13 +63,12 @@ void DesktopDialogs::showMessage(const std::string& text) {
   if (isAlone_)
     std::cerr << "tracewell: " << text << "\n";
   else
-    QMessageBox::warning(windowInUse(), QStringLiteral("Tracewell"), toQt(text));
+    showBox(QMessageBox::Warning, "Tracewell", text);
 }
 
 void DesktopDialogs::showRunTimeError(const Error& error) {
-  QMessageBox::critical(
-      windowInUse(), QStringLiteral("Tracewell"),
-      QStringLiteral("Run-time error %1\n\n%2").arg(error.number()).arg(toQt(error.description())));
+  showBox(QMessageBox::Critical, "Tracewell",
+          "Run-time error " + std::to_string(error.number()) + "\n\n" + error.description());
 }
 
 std::filesystem::path DesktopDialogs::fileToOpen(const FileDialog& dialog) {

@@ -9,6 +9,7 @@
 #include "Graph.h"
 #include "Images.h"
 #include "PictureFormats.h"
+#include "ShownText.h"
 #include "Text.h"
 
 namespace tracewell {
@@ -46,7 +47,7 @@ Image DesktopPictures::graphImage(const Graph& graph, const std::string& footnot
   painter.setFont(font);
   painter.setPen(view->palette().color(QPalette::WindowText));
   painter.drawText(QRect(8, shown.height(), shown.width() - 16, lineHeight),
-                   Qt::AlignVCenter | Qt::AlignLeft, toQt(footnote));
+                   Qt::AlignVCenter | Qt::AlignLeft, shownText(footnote, roomOfLine));
   painter.end();
   return fromQt(picture);
 }
@@ -56,10 +57,11 @@ Image DesktopPictures::withText(const Image& image, const std::string& text, int
   QPainter painter(&picture);
   painter.setFont(noteFont(picture));
   const QRect place(x, y, picture.width(), picture.height());
+  const QString note = shownText(text, roomOfParagraph);
   painter.setPen(noteShadow);
-  painter.drawText(place.translated(1, 1), Qt::AlignLeft | Qt::AlignTop, toQt(text));
+  painter.drawText(place.translated(1, 1), Qt::AlignLeft | Qt::AlignTop, note);
   painter.setPen(noteColour);
-  painter.drawText(place, Qt::AlignLeft | Qt::AlignTop, toQt(text));
+  painter.drawText(place, Qt::AlignLeft | Qt::AlignTop, note);
   painter.end();
   return fromQt(picture);
 }

@@ -10,6 +10,7 @@
 #include "Error.h"
 #include "Images.h"
 #include "PaperGraph.h"
+#include "ShownText.h"
 #include "Text.h"
 
 namespace tracewell {
@@ -96,7 +97,7 @@ void DesktopPrinter::printText(const std::string& text) {
   font.setStyleHint(QFont::Monospace);
   font.setPointSizeF(textSize);
   document.setDefaultFont(font);
-  document.setPlainText(toQt(text).remove(QLatin1Char('\r')));
+  document.setPlainText(shownText(text, roomOfPage));
   document.print(&printer());
   if (printer().printerState() == QPrinter::Error)
     throw printError(QStringLiteral("Printing has failed"));

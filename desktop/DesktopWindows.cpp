@@ -11,6 +11,7 @@
 #include "Binder.h"
 #include "Control.h"
 #include "Forms.h"
+#include "ShownText.h"
 #include "Text.h"
 #include "Window.h"
 
@@ -23,7 +24,7 @@ class DesktopWindows::Form : public QObject {
   Form(Window& window, QWidget* parent) : window_(window) {
     widget_ = makeForm(window.name(), parent);
     bindControls(window, *widget_);
-    window.changed = [this] { widget_->setWindowTitle(toQt(window_.caption())); };
+    window.changed = [this] { widget_->setWindowTitle(shownTitle(window_.caption())); };
     window.changed();
     widget_->installEventFilter(this);
     if (isMain()) reachMenusByKey();

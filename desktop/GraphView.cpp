@@ -12,6 +12,7 @@
 
 #include "Graph.h"
 #include "SharedState.h"
+#include "ShownText.h"
 #include "Text.h"
 
 namespace tracewell {
@@ -100,6 +101,7 @@ void GraphView::makeGraticule() {
 void GraphView::bind(Graph& graph) {
   unbind();
   graph_ = &graph;
+  graph.letGo = [this] { unbind(); };
   const auto dirty = [this] { markDirty(); };
   graph.changed = dirty;
   for (Axis& axis : graph.axes()) axis.changed = dirty;
@@ -117,16 +119,18 @@ void GraphView::bind(Graph& graph) {
 }
 
 void GraphView::unbind() {
-  if (graph_ == nullptr) return;
-  graph_->changed = {};
-  for (Axis& axis : graph_->axes()) axis.changed = {};
-  for (Cursor& cursor : graph_->cursors()) cursor.changed = {};
-  for (Plot& plot : graph_->plots()) {
+  Graph* const graph = std::exchange(graph_, nullptr);
+  grabbed_ = nullptr;
+  if (graph == nullptr) return;
+  graph->changed = {};
+  for (Axis& axis : graph->axes()) axis.changed = {};
+  for (Cursor& cursor : graph->cursors()) cursor.changed = {};
+  for (Plot& plot : graph->plots()) {
     plot.changed = {};
     plot.plotted = {};
   }
-  graph_ = nullptr;
-  grabbed_ = nullptr;
+  // Last: it may be what is running.
+  graph->letGo = {};
 }
 
 void GraphView::markDirty() {
@@ -149,7 +153,7 @@ void GraphView::replot() {
   }
   showCursors();
   showTriggerMarker();
-  note_->setText(toQt(graph_->note()));
+  note_->setText(shownText(graph_->note(), roomOfLine));
   note_->setVisible(!graph_->note().empty());
   plot_->replot(QCustomPlot::rpImmediateRefresh);
 }
@@ -164,7 +168,7 @@ void GraphView::showAxes() {
   plot_->xAxis->grid()->setZeroLinePen(QPen(toQt(x.gridColour()).lighter(170), 1));
   plot_->yAxis->grid()->setZeroLinePen(QPen(toQt(y.gridColour()).lighter(170), 1));
   plot_->setBackground(QBrush(toQt(graph_->plotAreaColour())));
-  caption_->setText(toQt(x.caption()));
+  showInLabel(*caption_, x.caption(), qMax(width(), minimumSizeHint().width()));
   // Small ticks along the centre lines: a dotted line five units wide each way.
   const QPen ticks(toQt(x.gridColour()).lighter(170), 5, Qt::CustomDashLine, Qt::FlatCap);
   const std::array<std::array<double, 4>, 2> ends = {

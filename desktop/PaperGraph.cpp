@@ -5,6 +5,7 @@
 #include <array>
 
 #include "SharedState.h"
+#include "ShownText.h"
 #include "Text.h"
 
 namespace tracewell {
@@ -71,7 +72,7 @@ void paintOnPaper(const GraphPage& page, QPainter& painter, const QRectF& paper)
   painter.setRenderHint(QPainter::Antialiasing);
   const qreal lineHeight = unit * 7;
   painter.drawText(QRectF(paper.left(), paper.top(), paper.width(), lineHeight), Qt::AlignLeft,
-                   toQt(page.title));
+                   shownText(page.title, roomOfLine));
   const auto captionLines = static_cast<qreal>(page.captions.size() + 1);
   const QRectF grid = paper.adjusted(0, lineHeight * 1.3, 0, -lineHeight * (captionLines + 0.3));
   paintGrid(painter, grid, unit);
@@ -91,14 +92,15 @@ void paintOnPaper(const GraphPage& page, QPainter& painter, const QRectF& paper)
     const Ink& ink = inkOf(page.traces[i]);
     painter.setPen(QPen(ink.colour, unit * 0.5, ink.line));
     painter.drawLine(QPointF(x, y + lineHeight / 2), QPointF(x + unit * 12, y + lineHeight / 2));
-    painter.drawText(QPointF(x + unit * 14, y + lineHeight * 0.72), toQt(page.traces[i].name));
+    painter.drawText(QPointF(x + unit * 14, y + lineHeight * 0.72),
+                     shownText(page.traces[i].name, roomOfLine));
     x += unit * 40;
   }
   painter.setPen(Qt::black);
   for (const std::string& caption : page.captions) {
     y += lineHeight;
     painter.drawText(QRectF(paper.left(), y, paper.width(), lineHeight), Qt::AlignLeft,
-                     toQt(caption));
+                     shownText(caption, roomOfLine));
   }
 }
 

@@ -20,6 +20,8 @@ namespace {
 using namespace std::string_view_literals;
 
 constexpr std::size_t largestSideLoaded = 8192;
+/// Pixels; each takes some fifteen bytes on its way.
+constexpr std::size_t largestAreaLoaded = 10'000'000;
 /// Metafiles count in signed 16-bit numbers; no other format here is narrower.
 constexpr int largestSideEncoded = std::numeric_limits<std::int16_t>::max();
 
@@ -230,7 +232,8 @@ void checkSize(const std::string& name, const Magick::Blob& blob, const std::str
   } catch (const Magick::WarningCoder&) {
     // The size is there nevertheless.
   }
-  if (std::max(picture.columns(), picture.rows()) > largestSideLoaded)
+  if (std::max(picture.columns(), picture.rows()) > largestSideLoaded ||
+      picture.columns() * picture.rows() > largestAreaLoaded)
     throw pictureError("Picture too large: " + path + " (" + std::to_string(picture.columns()) +
                        " x " + std::to_string(picture.rows()) + " pixels)");
 }
@@ -258,7 +261,7 @@ Image imageOf(Magick::Image picture) {
 }
 
 Image loaded(const std::filesystem::path& path) {
-  const std::string bytes = readWholeFile(path);
+  const std::string bytes = readWholeFile(path, fileLimit::picture);
   const std::string name = signatureName(bytes);
   if (name.empty()) throw pictureError("Not a bmp, gif, pcx, tif, png or jpg: " + pathText(path));
   const Magick::Blob blob(bytes.data(), bytes.size());

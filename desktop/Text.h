@@ -8,7 +8,8 @@
 
 #include "Colour.h"
 
-/// The program's texts are UTF-8 bytes; Qt's are QString, and likewise for colours.
+/// The program's texts are UTF-8 bytes; Qt's are QString, and likewise for colours. What is to be
+/// shown goes through ShownText.h.
 namespace tracewell {
 
 inline QString toQt(const std::string& text) {
@@ -36,11 +37,6 @@ inline QColor toQt(const Colour& colour) {
 inline Colour fromQt(const QColor& colour) {
   return {static_cast<std::uint8_t>(colour.red()), static_cast<std::uint8_t>(colour.green()),
           static_cast<std::uint8_t>(colour.blue())};
-}
-
-/// A caption for a widget that would take "&" for a keyboard mark.
-inline QString plainCaption(const std::string& caption) {
-  return toQt(caption).replace(QLatin1Char('&'), QLatin1String("&&"));
 }
 
 }  // namespace tracewell

@@ -4,6 +4,7 @@
 #include "DesktopDisk.h"
 #include "DesktopProgram.h"
 #include "ProgramFolder.h"
+#include "ShownText.h"
 #include "Termination.h"
 #include "Theme.h"
 
@@ -13,6 +14,7 @@ int main(int argumentCount, char** arguments) {
   // The main window itself says when the program ends.
   QApplication::setQuitOnLastWindowClosed(false);
   tracewell::applyTheme(application);
+  tracewell::keepLabelsPlain(application);
   tracewell::DesktopDisk disk;
   tracewell::useDisk(&disk);
 

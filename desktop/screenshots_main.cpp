@@ -18,6 +18,7 @@
 
 #include "DesktopProgram.h"
 #include "ProgramFolder.h"
+#include "ShownText.h"
 #include "Text.h"
 #include "Theme.h"
 
@@ -189,6 +190,7 @@ int main(int argumentCount, char** arguments) {
   const QStringList words = QApplication::arguments();
   if (words.value(3) == QStringLiteral("dark")) QApplication::setPalette(QColor(Qt::black));
   applyTheme(application);
+  keepLabelsPlain(application);
   if (words.size() < 2 || !QDir().mkpath(words[1])) return EXIT_FAILURE;
   DesktopProgram desktop(programFolder());
   if (!desktop.start()) return EXIT_FAILURE;

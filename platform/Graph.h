@@ -93,6 +93,9 @@ class Graph : public Control {
   std::array<Axis, 3>& axes() { return axes_; }
   std::array<Cursor, 3>& cursors() { return cursors_; }
 
+  /// The view puts here how it lets go of the graph, which it else reaches until its own end.
+  std::function<void()> letGo;
+
   Property<Colour> plotAreaColour;
   /// Shown in a corner, for instance that the trace is a simulated one; empty for nothing.
   Property<std::string> note{*this};

@@ -56,6 +56,12 @@ Lines cutTexts(QWidget& form) {
   return cut;
 }
 
+bool isShortened(const QWidget& form) {
+  return std::ranges::any_of(form.findChildren<QLabel*>(), [](const QLabel* label) {
+    return label->text().endsWith(QChar(0x2026));
+  });
+}
+
 TEST_F(FormsTest, EveryWindowFitsASmallScreenInEveryLanguageWithNothingCut) {
   for (MenuEntry* language :
        {&main.mnbLA1, &main.mnbLA2, &main.mnbLA3, &main.mnbLA4, &main.mnbLA5}) {
@@ -70,12 +76,14 @@ TEST_F(FormsTest, EveryWindowFitsASmallScreenInEveryLanguageWithNothingCut) {
     EXPECT_LE(form->minimumSizeHint().width(), 1280);
     EXPECT_LE(form->minimumSizeHint().height(), 800);
     EXPECT_EQ(cutTexts(*form), Lines());
+    EXPECT_FALSE(isShortened(*form));
     forEachDialog([](Window&, QWidget& dialog) {
       dialog.show();
       QApplication::processEvents();
       dialog.adjustSize();
       QApplication::processEvents();
       EXPECT_EQ(cutTexts(dialog), Lines());
+      EXPECT_FALSE(isShortened(dialog));
       EXPECT_LE(dialog.height(), 760);
     });
   }
@@ -162,7 +170,7 @@ TEST_F(FormsTest, ConsoleSendsOncePerEnterAndFocusChoosesNothing) {
   QApplication::processEvents();
   EXPECT_EQ(console.txtCmd.text(), "");
   QTest::keyClick(tree, Qt::Key_Home);
-  EXPECT_EQ(console.txtCmd.text(), "Channel 1");
+  EXPECT_EQ(console.txtCmd.text(), " Channel 1");
   auto* line = dialog->findChild<QLineEdit*>(QStringLiteral("txtCmd"));
   line->clear();
   QTest::keyClicks(line, QStringLiteral(":CHAN1:OFFS -1"));
@@ -230,6 +238,7 @@ TEST(ProgramFolder, NewVersionBringsItsWordsAndLeavesTheRest) {
   const auto users = parent.path() / "user" / "tracewell";
   fillProgramFolder(shipped.path(), users);
   const std::string words = readWholeFile(users / "dso_la3.cap");
+  EXPECT_EQ(readWholeFile(users / "about.jpg"), readWholeFile(shipped.path() / "about.jpg"));
   for (const char* file : {"dso_la3.cap", "default.dso", "dso.cmd"})
     writeWholeFile(users / file, "mine");
   std::filesystem::remove(users / "default.sit");
