@@ -116,7 +116,8 @@ int widestOf(const QLabel& label) {
   const auto is = [&label](const char* kind) { return label.property(kind).toBool(); };
   if (is("status")) return QWIDGETSIZE_MAX;
   if (is("state")) return 640;
-  return is("readout") || is("cell") ? 150 : 300;
+  if (is("readout")) return 130;
+  return is("cell") ? 150 : 300;
 }
 
 template <class AnyLabel>

@@ -27,7 +27,7 @@ fs::path replaceableTarget(const fs::path& path) {
   std::error_code failed;
   const fs::file_status itself = fs::symlink_status(path, failed);
   if (itself.type() == fs::file_type::not_found) return path;
-  const fs::path target = fs::canonical(path, failed);
+  fs::path target = fs::canonical(path, failed);
   if (failed) throw fileError(pathAccess, "Cannot write", path, failed);
   const fs::file_status status = fs::status(target, failed);
   if (failed) throw fileError(pathAccess, "Cannot write", path, failed);
@@ -154,7 +154,7 @@ fs::path nameAside(const fs::path& path) {
 /// A second name for the same file needs no right to read it, and takes nobody's place.
 fs::path keepAside(const fs::path& path) {
   const fs::path target = replaceableTarget(path);
-  const fs::path aside = nameAside(path);
+  fs::path aside = nameAside(path);
   std::error_code failed;
   fs::create_hard_link(target, aside, failed);
   // Where the file system has no second names, and where the new file would take over a mode that

@@ -34,9 +34,9 @@ TEST_F(FilesTest, OnlyARegularFileOrNothingIsReplaced) {
   const fs::path inTheWay = folder.path() / "in the way";
   const auto makers = std::to_array<std::function<void()>>({
       [&] { fs::create_directory(inTheWay); },
+#ifndef _WIN32  // Where making links is a privilege.
       [&] { fs::create_symlink("nowhere", inTheWay); },
       [&] { fs::create_symlink(inTheWay.filename(), inTheWay); },
-#ifndef _WIN32
       [&] { fs::create_symlink("/dev/null", inTheWay); },
 #endif
   });

@@ -2,7 +2,6 @@
 #include <algorithm>
 #include "CommandFile.h"
 
-
 #include "Doubles.h"
 
 namespace tracewell {

@@ -32,7 +32,7 @@ NOBODY = 65534
 KEYS = ["Tab", "shift+Tab", "Return", "space", "Escape", "Up", "Down", "Left", "Right", "Home", "End",
         "Page_Up", "Page_Down", "BackSpace", "ctrl+a", "F5", "F5", "F6", "F10", "ctrl+r", "ctrl+1",
         "ctrl+2", "ctrl+t", "ctrl+d", "ctrl+m", "ctrl+f", "ctrl+w", "ctrl+l", "ctrl+o", "ctrl+s",
-        "ctrl+g", "ctrl+i", "ctrl+k", "ctrl+e", "ctrl+p", "ctrl+q", "alt+n", "e", "c", "7", "0"]
+        "ctrl+g", "ctrl+i", "ctrl+k", "ctrl+e", "ctrl+p", "ctrl+q", "alt+n", "alt+y", "e", "c", "7", "0"]
 TEXTS = ["*IDN?", ":MEAS:VPP?", ":CHAN1:SCAL 5", ":NONSENSE?", "Average", "Advance", "-1", "99999", "<b>",
          ":SIM:SLOW 300", ":SIM:OFF 0", "name"]
 FAULTS = ["SILENT 1", "SLOW 200", "DROP 7", "CUT 500", "GARBAGE 1", "NONNUM 1", "BLANK 1", "HANGUP 100",
