@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <algorithm>
 #include "CommandFile.h"
+
+#include <algorithm>
 
 #include "Doubles.h"
 
