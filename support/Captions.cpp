@@ -67,19 +67,20 @@ void Captions::LoadCaptions() {
 }
 
 void Captions::ApplyCaptions(Window& window) {
-  // A window wears the caption of every section passed on the way to its own, the first included.
+  // A window takes the caption of every section passed on the way to its own, the first included,
+  // and shows the last of them: a file may have tens of thousands.
   std::optional<SectionHeader> header;
-  std::size_t from = 0;
-  do {
-    header = findHeader(buffer_, from);
-    if (!header) {
+  while (!header || header->windowName != window.name()) {
+    std::optional<SectionHeader> next = findHeader(buffer_, header ? header->end : 0);
+    if (!next) {
+      if (header) window.caption = header->caption;
       throw Error(
           invalidProcedureCall, "Tracewell",
           "No captions for " + window.name() + " in " + pathText(languageFile(main_, ".cap")));
     }
-    window.caption = header->caption;
-    from = header->end;
-  } while (header->windowName != window.name());
+    header = std::move(next);
+  }
+  window.caption = header->caption;
 
   ControlLine line;
   std::size_t position = header->end + 2;
