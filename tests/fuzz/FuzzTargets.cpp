@@ -42,6 +42,8 @@ void messages(const std::string& bytes) {
 void setup(const std::string& bytes) {
   SetupFiles& files = bench().program.setupFiles;
   const auto path = file("fuzz.dso", bytes);
+  // Else each input would leave one.
+  std::filesystem::remove(pathText(path) + ".bad");
   files.ReadSetupFile(path);
   files.WriteSetupFile(path);
   const std::string written = readWholeFile(path);
