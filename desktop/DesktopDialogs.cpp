@@ -61,7 +61,7 @@ Answer DesktopDialogs::answerYesNo(const std::string& prompt, const std::string&
 
 void DesktopDialogs::showMessage(const std::string& text) {
   if (isAlone_)
-    std::cerr << "tracewell: " << text << "\n";
+    std::cerr << "tracewell: " << fromQt(shownText(text, roomOfParagraph)) << "\n";
   else
     showBox(QMessageBox::Warning, "Tracewell", text);
 }
