@@ -2,7 +2,6 @@
 #include "Instrument.h"
 
 #include <algorithm>
-#include <cctype>
 #include <utility>
 
 #include "Measurements.h"
@@ -15,8 +14,9 @@ constexpr double thought = 4;
 constexpr double autosetTime = 1000;
 
 std::string capitals(std::string text) {
-  std::ranges::transform(text, text.begin(),
-                         [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
+  // Whatever the locale is.
+  for (char& c : text)
+    if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
   return text;
 }
 

@@ -120,7 +120,8 @@ TEST_F(HostileTextTest, RepliesCostLittleAndLeaveTheMainWindowItsSize) {
 }
 
 TEST_F(HostileTextTest, BoxesAreTextOnly) {
-  DesktopDialogs boxes;
+  const Gate gate;
+  DesktopDialogs boxes(gate);
   const auto closeBox = [] {
     QTimer::singleShot(0, [] {
       auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
