@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "UnreadMark.h"
 
+#include <QAbstractButton>
+#include <QComboBox>
 #include <QEvent>
 #include <QPainter>
+#include <algorithm>
 
 namespace tracewell {
 namespace {
@@ -22,7 +25,7 @@ UnreadMark::UnreadMark(QWidget& marked) : QWidget(&marked) {
   setToolTip(QStringLiteral("The instrument has not answered; this is not its value"));
   setAccessibleName(QStringLiteral("not answered"));
   marked.installEventFilter(this);
-  toCorner();
+  toPlace();
 }
 
 void UnreadMark::paintEvent(QPaintEvent*) {
@@ -40,12 +43,21 @@ void UnreadMark::paintEvent(QPaintEvent*) {
 }
 
 bool UnreadMark::eventFilter(QObject*, QEvent* event) {
-  if (event->type() == QEvent::Resize) toCorner();
+  if (event->type() == QEvent::Resize) toPlace();
   return false;
 }
 
-void UnreadMark::toCorner() {
-  move(parentWidget()->width() - width(), 0);
+void UnreadMark::toPlace() {
+  const QWidget& marked = *parentWidget();
+  const int middle = (marked.height() - height()) / 2;
+  const int right = marked.width() - width();
+  constexpr int arrow = 22;
+  if (qobject_cast<const QComboBox*>(&marked) != nullptr)
+    move(right - arrow, middle);
+  else if (qobject_cast<const QAbstractButton*>(&marked) != nullptr)
+    move(std::min(right, marked.sizeHint().width() + 2), middle);
+  else
+    move(right, 0);
 }
 
 }  // namespace tracewell

@@ -5,7 +5,8 @@
 
 namespace tracewell {
 
-/// A question mark in the upper right corner of a widget whose value the instrument has not told.
+/// A question mark on a widget whose value the instrument has not told: behind the words of a
+/// button, in front of the arrow of a box with a list, otherwise in the upper right corner.
 class UnreadMark : public QWidget {
   Q_OBJECT
 
@@ -19,7 +20,7 @@ class UnreadMark : public QWidget {
 
  private:
   explicit UnreadMark(QWidget& marked);
-  void toCorner();
+  void toPlace();
 };
 
 }  // namespace tracewell

@@ -8,10 +8,10 @@ namespace {
 
 constexpr int boxCount = 3;
 
-/// Selects the option that the reply names, or marks the one that is selected.
-void showOption(ControlArray<OptionButton>& options, const std::string& reply) {
+/// Selects the option that the reply names, or marks the group, of which none may be selected yet.
+void showOption(Frame& group, ControlArray<OptionButton>& options, const std::string& reply) {
   if (isNumeric(reply)) options(toInt16(reply)).value = true;
-  for (OptionButton& option : options) option.isUnread = option.value() && !isNumeric(reply);
+  group.isUnread = !isNumeric(reply);
 }
 
 }  // namespace
@@ -19,15 +19,17 @@ void showOption(ControlArray<OptionButton>& options, const std::string& reply) {
 frmChannel::frmChannel(frmDSO& main)
     : Window("frmChannel", "Channel", main.services()), main_(main) {
   formActivate = [this] { tag = "0"; };
+  for (OptionButton& option : obCoupling) option.click = [this] { fmCoupling.isUnread = false; };
+  for (OptionButton& option : obProbe) option.click = [this] { fmProbe.isUnread = false; };
   cmdOK.click = [this] { cmdOK_Click(); };
   cmdCancel.click = [this] { cmdCancel_Click(); };
 }
 
 void frmChannel::show(int place, const std::string& reply) {
   if (place == boxCount) {
-    showOption(obCoupling, reply);
+    showOption(fmCoupling, obCoupling, reply);
   } else if (place > boxCount) {
-    showOption(obProbe, reply);
+    showOption(fmProbe, obProbe, reply);
   } else {
     if (isNumeric(reply)) cbCh(place).value = toInt16(reply);
     cbCh(place).isUnread = !isNumeric(reply);

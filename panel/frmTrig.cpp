@@ -73,11 +73,11 @@ void frmTrig::readAdvancedSettings() {
     const std::string reply = inquiry ? exchange_.SendDSOCmd(query + "?") : "";
     if (i < 2) {
       cbTrigAdv(i).listIndex = indexOf(reply, SetupTable::advancedTrigger, 2 + i);
-      cbTrigAdv(i).isUnread = !isNumeric(reply);
+      cbTrigAdv(i).isUnread = inquiry && !isNumeric(reply);
     } else {
       TextBox& box = txtTrigAdv(i - 2);
       box.text = inquiry ? reply : main_.gridMeasure.text(SetupTable::advancedTrigger, 2 + i);
-      box.isUnread = reply.empty();
+      box.isUnread = inquiry && reply.empty();
     }
   }
 }
