@@ -77,7 +77,13 @@ void Tracewell::connectView() {
 
 void Tracewell::connectFiles() {
   main.mnbLoadSetup.click = [this] {
-    setupFiles.mnbLoadSetup_Click();
+    try {
+      setupFiles.mnbLoadSetup_Click();
+    } catch (const Error&) {
+      // The rows in front of the error are new.
+      showDifferingLink(main);
+      throw;
+    }
     showDifferingLink(main);
   };
   main.mnbSaveSetup.click = [this] { setupFiles.mnbSaveSetup_Click(); };

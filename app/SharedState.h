@@ -68,6 +68,9 @@ struct SharedState {
   /// The graph has the window to itself.
   bool GraphEnlarged = false;
 
+  /// What the status line says of line settings that are not in use.
+  std::string LinkNotice;
+
   /// The setup table.
   SetupTable gridMeasure;
 };

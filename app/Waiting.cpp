@@ -49,9 +49,11 @@ void Delay(frmDSO& main, std::int32_t milliseconds) {
   const StandBy& standBy = main.services().standBy;
   const std::int32_t start = tickCount(clock);
   do {
+    // Nothing runs inside a burst that has been given up: it would find no answers either.
+    if (standBy.isGivenUp()) return;
     clock.pumpEvents();
     main.services().gate.mustBeOpen();
-  } while (elapsedSince(start, tickCount(clock)) <= milliseconds && !standBy.isGivenUp());
+  } while (elapsedSince(start, tickCount(clock)) <= milliseconds);
 }
 
 }  // namespace tracewell

@@ -196,7 +196,11 @@ void bind(CheckBox& control, QWidget& form) {
     box->setText(shownCaption(control.caption()));
     box->setChecked(control.isChecked());
   });
-  QObject::connect(box, &QCheckBox::clicked, box, [&control] { control.toggle(); });
+  QObject::connect(box, &QCheckBox::clicked, box, [&control] {
+    control.toggle();
+    // Also where the program has not taken it.
+    control.notifyChanged();
+  });
 }
 
 void bind(OptionButton& control, QWidget& form) {

@@ -59,16 +59,25 @@ Answer DesktopDialogs::answerYesNo(const std::string& prompt, const std::string&
   return answer == QMessageBox::Yes ? Answer::Yes : Answer::No;
 }
 
+void DesktopDialogs::goOnAlone() {
+  isAlone_ = true;
+  if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) box->reject();
+}
+
 void DesktopDialogs::showMessage(const std::string& text) {
-  if (isAlone_)
-    std::cerr << "tracewell: " << fromQt(shownText(text, roomOfParagraph)) << "\n";
-  else
-    showBox(QMessageBox::Warning, "Tracewell", text);
+  say(QMessageBox::Warning, text);
 }
 
 void DesktopDialogs::showRunTimeError(const Error& error) {
-  showBox(QMessageBox::Critical, "Tracewell",
-          "Run-time error " + std::to_string(error.number()) + "\n\n" + error.description());
+  say(QMessageBox::Critical,
+      "Run-time error " + std::to_string(error.number()) + "\n\n" + error.description());
+}
+
+void DesktopDialogs::say(QMessageBox::Icon icon, const std::string& text) {
+  if (isAlone_)
+    std::cerr << "tracewell: " << fromQt(shownText(text, roomOfParagraph)) << "\n";
+  else
+    showBox(icon, "Tracewell", text);
 }
 
 std::filesystem::path DesktopDialogs::fileToOpen(const FileDialog& dialog) {

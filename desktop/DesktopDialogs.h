@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QMessageBox>
+
 #include "Dialogs.h"
 
 namespace tracewell {
@@ -11,7 +13,7 @@ class DesktopDialogs : public Dialogs {
   using Dialogs::Dialogs;
 
   /// From now on nobody answers: what would be said goes to the standard error output.
-  void goOnAlone() { isAlone_ = true; }
+  void goOnAlone();
 
   void showMessage(const std::string& text) override;
   void showRunTimeError(const Error& error) override;
@@ -21,6 +23,8 @@ class DesktopDialogs : public Dialogs {
   std::filesystem::path fileToOpen(const FileDialog& dialog) override;
   std::filesystem::path fileToSave(const FileDialog& dialog) override;
   Colour pickedColour(Colour initial) override;
+
+  void say(QMessageBox::Icon icon, const std::string& text);
 
   bool isAlone_ = false;
 };

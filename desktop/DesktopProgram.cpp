@@ -22,8 +22,10 @@ bool DesktopProgram::start() {
     return true;
   } catch (const Error& error) {
     dialogs.showRunTimeError(error);
-    return false;
+  } catch (const std::exception& error) {
+    dialogs.showRunTimeError(Error(invalidProcedureCall, "Tracewell", error.what()));
   }
+  return false;
 }
 
 }  // namespace tracewell

@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFile>
 #include <QTimer>
+#include <utility>
 
 #ifdef Q_OS_UNIX
 #include <fcntl.h>
@@ -84,7 +85,8 @@ void QtSerialChannel::write(std::string_view bytes) {
 }
 
 std::string QtSerialChannel::read(int timeOut) {
-  QByteArray bytes = port_.isOpen() ? port_.readAll() : QByteArray();
+  QByteArray bytes = std::exchange(rest_, {});
+  if (port_.isOpen()) bytes += port_.readAll();
   // Also with a time-out of zero: without events nobody else has fetched what the system holds.
   if (bytes.isEmpty() && failure_.isNull() && port_.waitForReadyRead(timeOut))
     bytes = port_.readAll();
@@ -98,7 +100,10 @@ void QtSerialChannel::watch(QSerialPort::SerialPortError error) {
   if (error == QSerialPort::NoError || error == QSerialPort::TimeoutError) return;
   if (!failure_.isNull()) return;
   failure_ = port_.errorString();
-  QTimer::singleShot(0, &context_, [this] { port_.close(); });
+  QTimer::singleShot(0, &context_, [this] {
+    rest_ = port_.readAll();
+    port_.close();
+  });
   announce();
 }
 

@@ -27,6 +27,8 @@ class QtSerialChannel : public ByteChannel {
   QString device_;
   QSerialPort port_;
   QString failure_;
+  /// What had arrived when the device was found gone.
+  QByteArray rest_;
   bool isAnnounced_ = false;
   /// Declared last: announcements that are still due are dropped before anything else goes.
   QObject context_;

@@ -22,7 +22,7 @@ void UnreadMark::show(QWidget& marked, bool isUnread) {
 
 UnreadMark::UnreadMark(QWidget& marked) : QWidget(&marked) {
   resize(side, side);
-  setToolTip(QStringLiteral("The instrument has not answered; this is not its value"));
+  setToolTip(QStringLiteral("The instrument has not told this value"));
   setAccessibleName(QStringLiteral("not answered"));
   marked.installEventFilter(this);
   toPlace();

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "UserInput.h"
 
-#include <QCoreApplication>
+#include <QAction>
+#include <QApplication>
 #include <QKeyEvent>
+#include <QWidget>
 #include <QWindow>
+#include <algorithm>
 #include <utility>
 
 namespace tracewell {
@@ -18,6 +21,19 @@ bool isDialog(const QObject* receiver) {
 bool isEscape(const QEvent& event) {
   const bool isKey = event.type() == QEvent::KeyPress || event.type() == QEvent::ShortcutOverride;
   return isKey && static_cast<const QKeyEvent&>(event).key() == Qt::Key_Escape;
+}
+
+/// A shortcut that was kept goes straight to its action, past the window that has opened since.
+bool isBehindModalWindow(const QObject* receiver, const QEvent& event) {
+  const QWidget* modal = QApplication::activeModalWidget();
+  if (event.type() != QEvent::Shortcut || modal == nullptr) return false;
+  const auto isInside = [modal](const QObject* object) {
+    const auto* widget = qobject_cast<const QWidget*>(object);
+    return widget != nullptr && widget->window() == modal;
+  };
+  if (const auto* action = qobject_cast<const QAction*>(receiver))
+    return std::ranges::none_of(action->associatedObjects(), isInside);
+  return !isInside(receiver) && !isInside(receiver->parent());
 }
 
 bool isUserInput(const QObject* receiver, const QEvent& event) {
@@ -35,6 +51,7 @@ bool isUserInput(const QObject* receiver, const QEvent& event) {
     case QEvent::TouchBegin:
     case QEvent::TouchUpdate:
     case QEvent::TouchEnd:
+    case QEvent::TouchCancel:
       return true;
     case QEvent::Close:
       return isDialog(receiver);
@@ -56,6 +73,7 @@ void UserInput::release() {
 
 bool UserInput::eventFilter(QObject* receiver, QEvent* event) {
   if (endWaits(receiver, *event)) return true;
+  if (!gate_.isHeld() && isBehindModalWindow(receiver, *event)) return true;
   if (!gate_.isHeld() || !isUserInput(receiver, *event)) return false;
   keep(receiver, *event);
   return true;
@@ -73,7 +91,8 @@ bool UserInput::endWaits(const QObject* receiver, QEvent& event) {
 /// Of a movement its last place is enough.
 void UserInput::keep(QObject* receiver, const QEvent& event) {
   const bool isMove = event.type() == QEvent::MouseMove;
-  if (isMove && !kept_.empty() && kept_.back().event->type() == QEvent::MouseMove) kept_.pop_back();
+  const bool isNext = !kept_.empty() && kept_.back().receiver == receiver;
+  if (isMove && isNext && kept_.back().event->type() == QEvent::MouseMove) kept_.pop_back();
   kept_.push_back({receiver, std::unique_ptr<QEvent>(event.clone())});
 }
 

@@ -40,14 +40,15 @@ std::string CommandExchange::send(const std::string& command, int repeatsLeft) {
     if (inquiry_ != nullptr && isQuery(command)) inquiry_->note(true);
     return reply;
   } catch (const Error& error) {
-    wasSent_ = error.number() == portReadTimeOut;
-    if (inquiry_ != nullptr && isQuery(command)) inquiry_->note(false);
+    wasSent_ = false;
     if (error.number() == portReadTimeOut)
       main_.LinkOK = false;
     else if (isQuery(command) && repeatsLeft > 0)
       send(command, repeatsLeft - 1);
     else
       errorLog_.ErrLog(error, "SendDSOCmd : ");
+    // Also where the repeated query had a reply, which is not used.
+    if (inquiry_ != nullptr && isQuery(command)) inquiry_->note(false);
     return "";
   }
 }

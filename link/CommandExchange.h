@@ -24,7 +24,7 @@ class CommandExchange {
   /// failed command, and a query that has failed to the last, are logged.
   std::string SendDSOCmd(const std::string& command);
 
-  /// Whether the last command or query went out without an error of the port.
+  /// Whether the last command went out.
   bool wasSent() const { return wasSent_; }
 
   /// Releases the instrument's own panel if a command has locked it. Logs its failure.
@@ -44,6 +44,7 @@ class CommandExchange {
   Inquiry* inquiry_ = nullptr;
   /// What the last one that missed something left in the status line.
   std::string complaint_;
+  bool isComplaintOfOne_ = false;
 };
 
 }  // namespace tracewell

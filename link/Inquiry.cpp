@@ -16,26 +16,49 @@ Inquiry::Inquiry(frmDSO& main, CommandExchange& exchange, std::string name, Of i
       count_(count),
       outer_(std::exchange(exchange.inquiry_, this)),
       statusBefore_(main.lblStatus.caption()) {
-  // What the last one complained of is over with this one.
-  if (statusBefore_ == std::exchange(exchange_.complaint_, "")) statusBefore_.clear();
+  forgetComplaint();
+  shown_ = statusBefore_;
 }
 
 Inquiry::Inquiry(frmDSO& main, CommandExchange& exchange, const std::string& question)
-    : Inquiry(main, exchange, question, Of::questions, 1) {
+    : Inquiry(main, exchange, question, Of::oneQuestion, 1) {
   next();
 }
 
+/// Whatever another handler has said meanwhile stays.
 Inquiry::~Inquiry() {
   finishItem();
   exchange_.inquiry_ = outer_;
-  if (missing_ > 0) exchange_.complaint_ = complaint();
-  showStatus(main_, missing_ > 0 ? exchange_.complaint_ : statusBefore_);
+  const std::string& now = main_.lblStatus.caption();
+  const std::string& kept = now == shown_ ? statusBefore_ : now;
+  if (missing_ == 0) {
+    showStatus(main_, kept);
+    return;
+  }
+  exchange_.complaint_ = (kept.empty() ? "" : kept + "; ") + complaint();
+  exchange_.isComplaintOfOne_ = items_ == Of::oneQuestion;
+  showStatus(main_, exchange_.complaint_);
+}
+
+/// Settings that are sent belong to the task that has begun with questions, and so does a single
+/// question behind them.
+void Inquiry::forgetComplaint() {
+  const bool isOver =
+      items_ == Of::questions || (items_ == Of::oneQuestion && exchange_.isComplaintOfOne_);
+  if (!isOver || exchange_.complaint_.empty()) return;
+  if (statusBefore_ == exchange_.complaint_) statusBefore_.clear();
+  exchange_.complaint_.clear();
+}
+
+void Inquiry::show(const std::string& text) {
+  shown_ = text;
+  showStatus(main_, text);
 }
 
 void Inquiry::next() {
   finishItem();
   ++item_;
-  showStatus(main_, progress());
+  show(progress());
 }
 
 void Inquiry::finishItem() {
@@ -43,13 +66,13 @@ void Inquiry::finishItem() {
 }
 
 std::string Inquiry::progress() const {
-  if (count_ == 1) return "Waiting for the answer to " + name_;
+  if (items_ == Of::oneQuestion) return "Waiting for the answer to " + name_;
   return name_ + (items_ == Of::questions ? ": question " : ": setting ") + std::to_string(item_) +
          " of " + std::to_string(count_);
 }
 
 std::string Inquiry::complaint() const {
-  if (count_ == 1) return "No answer to " + name_;
+  if (items_ == Of::oneQuestion) return "No answer to " + name_;
   const std::string share = std::to_string(missing_) + " of " + std::to_string(count_);
   return name_ + (items_ == Of::questions ? ": no answer to " + share + " questions"
                                           : ": " + share + " settings not confirmed");

@@ -9,9 +9,10 @@ namespace tracewell {
 
 /// A series of questions to the instrument, as long as it lives. The status line counts them while
 /// they are put, and says at the end how many had no answer; Escape ends the waits that are left.
+/// What it says goes with the next series of questions; what a single question left, with the next.
 class Inquiry {
  public:
-  enum class Of { questions, settings };
+  enum class Of { oneQuestion, questions, settings };
 
   /// `name` is what the status line calls it, `count` how many items follow.
   Inquiry(frmDSO& main, CommandExchange& exchange, std::string name, Of items, int count);
@@ -28,6 +29,8 @@ class Inquiry {
   bool isGivenUp() const { return waits_.isGivenUp(); }
 
  private:
+  void forgetComplaint();
+  void show(const std::string& text);
   void finishItem();
   std::string progress() const;
   std::string complaint() const;
@@ -43,6 +46,8 @@ class Inquiry {
   bool isMissing_ = false;
   Inquiry* outer_;
   std::string statusBefore_;
+  /// What this one has written into the status line last.
+  std::string shown_;
 };
 
 }  // namespace tracewell

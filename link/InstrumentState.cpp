@@ -25,18 +25,19 @@ void InstrumentState::InitDSO() {
   try {
     applyBaudRateAndPort();
     Inquiry inquiry(main_, exchange_, main_.fmInstrument.caption(), Inquiry::Of::questions, 5);
+    markAllUnread();
     inquiry.next();
     main_.lblChan1.caption = trimmed(exchange_.SendDSOCmd(":CHAN1:SCAL?"));
     if (!main_.LinkOK) return;
     if (main_.lblChan1.caption().empty())
       main_.lblChan1.caption = exchange_.SendDSOCmd(":CHAN1:SCAL?");
-    showScale(ScaleKnob::Chan1, main_.lblChan1, main_.knobChan1);
+    showScaleOnly(ScaleKnob::Chan1, main_.lblChan1, main_.knobChan1);
     inquiry.next();
     main_.lblChan2.caption = scaleReply(":CHAN2:SCAL?");
-    showScale(ScaleKnob::Chan2, main_.lblChan2, main_.knobChan2);
+    showScaleOnly(ScaleKnob::Chan2, main_.lblChan2, main_.knobChan2);
     inquiry.next();
     main_.lblTime.caption = scaleReply(":TIM:SCAL?");
-    showScale(ScaleKnob::Time, main_.lblTime, main_.knobTime);
+    showScaleOnly(ScaleKnob::Time, main_.lblTime, main_.knobTime);
     inquiry.next();
     readChannel1Position();
     inquiry.next();
@@ -66,17 +67,28 @@ void InstrumentState::readScale(const std::string& query, ScaleKnob kind, ValueL
 }
 
 void InstrumentState::showScale(ScaleKnob kind, ValueLabel& label, Knob& knob) {
-  label.isUnread = label.caption().empty();
-  knob.isUnread = label.caption().empty();
-  label.refresh();
   const auto step = ScaleStepForReply(kind, label.caption());
-  if (!step) return;
+  label.isUnread = label.caption().empty();
+  knob.isUnread = !step;
+  label.refresh();
+  if (step) knob.value = *step;
+}
+
+/// Without the read-out of the cursors, which a knob refreshes as its last act: not all of its
+/// scales may be known yet, and reading the instrument goes on.
+void InstrumentState::showScaleOnly(ScaleKnob kind, ValueLabel& label, Knob& knob) {
   try {
-    knob.value = *step;
+    showScale(kind, label, knob);
   } catch (const Error&) {
-    // The knob's last act is to refresh the read-out of the cursors, for which not all scales may
-    // be known yet. Reading the instrument goes on.
   }
+}
+
+/// Until each has its answer.
+void InstrumentState::markAllUnread() {
+  for (Control* control : std::initializer_list<Control*>{
+           &main_.lblChan1, &main_.lblChan2, &main_.lblTime, &main_.knobChan1, &main_.knobChan2,
+           &main_.knobTime, &main_.slideCH1, &main_.slideCH2})
+    control->isUnread = true;
 }
 
 /// A second reply counts as it stands.
@@ -95,8 +107,9 @@ double InstrumentState::readPosition(const std::string& query, const ValueLabel&
                                      Slide& slide) {
   const double voltsPerDivision = ParseScaleCaption(scale.caption());
   const std::string reply = positionReply(query);
-  slide.isUnread = reply.empty();
-  return divide(ParseScaleCaption(reply), voltsPerDivision);
+  const double divisions = divide(ParseScaleCaption(reply), voltsPerDivision);
+  slide.isUnread = captionNumber(reply).find_first_of("0123456789") == std::string::npos;
+  return divisions;
 }
 
 void InstrumentState::showPosition(Slide& slide, double divisions) {

@@ -26,6 +26,8 @@ class InstrumentState {
   void applyBaudRateAndPort();
   std::string scaleReply(const std::string& query);
   std::string positionReply(const std::string& query);
+  void markAllUnread();
+  void showScaleOnly(ScaleKnob kind, ValueLabel& label, Knob& knob);
   void showScale(ScaleKnob kind, ValueLabel& label, Knob& knob);
   void readChannel1Position();
   void readChannel2Position();

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "LinkSettings.h"
 
+#include <utility>
+
 #include "Numbers.h"
 #include "PortNotice.h"
 #include "StatusLine.h"
@@ -14,6 +16,19 @@ std::string lineText(const LineSettings& settings) {
   return "port " + std::to_string(settings.portNumber) + ", " + std::to_string(settings.baudRate) +
          " baud " + std::to_string(settings.dataBits) + "-" + parity + "-" +
          (settings.stopBits == 0 ? "1" : "2");
+}
+
+/// Empty where the table and the port agree.
+std::string differingLink(const frmDSO& main) {
+  const LineSettings& settings = main.services().port.settings;
+  const std::string inUse = "In use: " + lineText(settings);
+  try {
+    const LineSettings wanted = linkSettings(main.gridMeasure);
+    if (wanted == settings) return "";
+    return inUse + ". The setup: " + lineText(wanted) + " (OK in the RS-232 dialog applies it)";
+  } catch (const Error& error) {
+    return inUse + ". The line settings of the setup: " + error.description();
+  }
 }
 
 }  // namespace
@@ -44,23 +59,19 @@ void applyLinkSettings(frmDSO& main) {
   LineSettings& settings = main.services().port.settings;
   try {
     settings = linkSettings(main.gridMeasure);
-  } catch (const Error& error) {
-    showStatus(main, "Line settings of the setup: " + error.description() +
-                         ". In use: " + lineText(settings));
+  } catch (const Error&) {
+    // The port's stay, and the notice says so.
   }
   showPort(main, settings.portNumber);
+  showDifferingLink(main);
 }
 
 void showDifferingLink(frmDSO& main) {
-  const LineSettings& settings = main.services().port.settings;
-  try {
-    const LineSettings wanted = linkSettings(main.gridMeasure);
-    if (wanted == settings) return;
-    showStatus(main, "The setup has " + lineText(wanted) + "; in use is " + lineText(settings) +
-                         " until OK in the RS-232 dialog");
-  } catch (const Error&) {
-    showStatus(main, "The setup has no usable line settings; in use is " + lineText(settings));
-  }
+  const std::string before = std::exchange(main.LinkNotice, differingLink(main));
+  if (!main.LinkNotice.empty())
+    showStatus(main, main.LinkNotice);
+  else if (main.lblStatus.caption() == before)
+    showStatus(main, "");
 }
 
 }  // namespace tracewell

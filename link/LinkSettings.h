@@ -26,7 +26,8 @@ LineSettings linkSettings(const SetupTable& table);
 /// port's stay as they are, and the status line says so.
 void applyLinkSettings(frmDSO& main);
 
-/// The status line says in what the table differs from the port's settings, if it does.
+/// The status line says what the table and the port have, where they differ, and no longer says it
+/// where they agree.
 void showDifferingLink(frmDSO& main);
 
 }  // namespace tracewell

@@ -53,6 +53,7 @@ void frmRS232::cmdOK_Click() {
   for (int i = 0; i < linkValues; ++i)
     main_.gridMeasure.setText(SetupTable::link, linkColumn(i), cbRS232(i).text());
   showPort(main_, settings.portNumber);
+  showDifferingLink(main_);
   hide();
   main_.refresh();
 }

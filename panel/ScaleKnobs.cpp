@@ -17,10 +17,12 @@ void ScaleKnobs::knobTime_ValueChanged() {
   sendScale(ScaleKnob::Time, main_.knobTime, main_.lblTime);
 }
 
-void ScaleKnobs::sendScale(ScaleKnob kind, const Knob& knob, ValueLabel& label) {
+void ScaleKnobs::sendScale(ScaleKnob kind, Knob& knob, ValueLabel& label) {
   exchange_.SendDSOCmd(ScaleCommandForKnob(kind, knob.value()));
   label.caption = scaleCaptionForKnob(kind, knob.value());
-  label.isUnread = false;
+  // What could not be sent is not what the instrument has.
+  label.isUnread = !exchange_.wasSent();
+  knob.isUnread = !exchange_.wasSent();
   UpdateTriggerMarker(main_);
   cursors_.graphDSO_CursorMoved();
 }

@@ -19,7 +19,7 @@ class ScaleKnobs {
   void knobTime_ValueChanged();
 
  private:
-  void sendScale(ScaleKnob kind, const Knob& knob, ValueLabel& label);
+  void sendScale(ScaleKnob kind, Knob& knob, ValueLabel& label);
 
   frmDSO& main_;
   CommandExchange& exchange_;

@@ -21,8 +21,7 @@ class Clock {
   virtual void pumpEvents() = 0;
 
   /// Lets what is to be painted be painted and the desktop get its answers, at once. Actions that
-  /// are due run, too: for use while the gate is held. What the user does meanwhile is not lost but
-  /// waits.
+  /// are due run, too: for use while the gate is held. What the user does meanwhile is kept.
   virtual void breathe() = 0;
 
   /// Waits without running any event.

@@ -14,10 +14,7 @@ std::string Control::objectName() const {
 
 void Control::userDoes(const std::function<void()>& action) {
   if (!visible() || !enabled()) return;
-  owner_.services().dispatcher.dispatch([&] {
-    isUnread = false;
-    action();
-  });
+  owner_.services().dispatcher.dispatch(action);
 }
 
 }  // namespace tracewell

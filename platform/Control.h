@@ -35,7 +35,7 @@ class Control : public Observable {
   Property<bool> visible{*this, true};
   Property<bool> enabled{*this, true};
   /// The instrument was asked for this value and did not answer: what is shown is another one, such
-  /// as the stored one. The view marks it; a user who changes the value takes the mark away.
+  /// as the stored one. The view marks it; a user who chooses a value takes the mark away.
   Property<bool> isUnread{*this, false};
 
   /// Shows the control at once, although a handler is running.

@@ -43,7 +43,10 @@ CheckBox::CheckBox(Window& owner, std::string_view name, std::string_view captio
           checkCheckBoxValue) {}
 
 void CheckBox::toggle() {
-  userDoes([this] { value = isChecked() ? 0 : 1; });
+  userDoes([this] {
+    isUnread = false;
+    value = isChecked() ? 0 : 1;
+  });
 }
 
 OptionButton::OptionButton(Window& owner, std::string_view name, std::string_view captionText,
@@ -92,18 +95,25 @@ std::int16_t ComboBox::entryOf(const std::string& wanted) const {
 }
 
 void ComboBox::choose(int entry) {
-  userDoes([this, entry] { listIndex = static_cast<std::int16_t>(entry); });
+  userDoes([this, entry] {
+    isUnread = false;
+    listIndex = static_cast<std::int16_t>(entry);
+  });
 }
 
 void ComboBox::type(const std::string& typed) {
   userDoes([this, &typed] {
+    isUnread = false;
     text = typed;
     click.raise();
   });
 }
 
 void TextBox::type(const std::string& typed) {
-  userDoes([this, &typed] { text = typed; });
+  userDoes([this, &typed] {
+    isUnread = false;
+    text = typed;
+  });
 }
 
 void TextBox::pressKey(int code) {

@@ -34,8 +34,8 @@ Conversation::Conversation(ChannelOpener& opener, const Clock& clock,
 void Conversation::use(const LineSettings& settings) {
   if (channel_ && !(openSettings_ == settings)) close();
   if (!channel_) {
-    if (openSettings_.portNumber != settings.portNumber) forget();
     channel_ = opener_.open(settings);
+    if (openSettings_.portNumber != settings.portNumber) forget();
     openSettings_ = settings;
     channel_->readable = [this] { dispatcher_.dispatch([this] { arrived(); }); };
   }
@@ -209,8 +209,10 @@ void Conversation::drain(int timeOut) {
   const int longest = isRestless_ ? timeOut : 2 * drainTime_;
   const std::int64_t deadline = clock_.milliseconds() + longest;
   while (state_ != State::idle) {
-    isRestless_ = clock_.milliseconds() >= deadline;
-    if (isRestless_) throw timeOutError();
+    if (clock_.milliseconds() >= deadline) {
+      isRestless_ = true;
+      throw timeOutError();
+    }
     hear(listen(std::min(deadline, trustedAt())));
   }
   isRestless_ = false;
@@ -223,7 +225,7 @@ std::string Conversation::awaitReply(std::int64_t deadline) {
     received += listen(deadline);
     if (received.size() > searched) heardAt_ = clock_.milliseconds();
     const std::size_t end = received.find('\n', searched);
-    if (end != std::string::npos) return onlyLine(received, end + 1);
+    if (end < longestReply) return onlyLine(received, end + 1);
     if (received.size() > longestReply || clock_.milliseconds() >= deadline) throw timeOutError();
   }
 }
@@ -258,7 +260,7 @@ void Conversation::arrived() {
       const Record record = *std::exchange(whole_, std::nullopt);
       delivered(record);
     }
-    sendHeld();
+    if (dispatcher_.isOpen()) sendHeld();
   } catch (const Error&) {
     // Closed now. Whoever uses the port next opens it again or is told the reason.
   }

@@ -27,7 +27,8 @@ namespace tracewell {
 ///   longestThought has passed without a byte. Further requests wait, one for each tag.
 /// - A question without an answer stays owed. A line that comes while more is owed than the present
 ///   question answers nobody. Before the next question or record the line is *drained*: until all
-///   that is owed has come, or it has been quiet for long enough (drainTime).
+///   that is owed has come, or it has been quiet for long enough (drainTime). A line that does not
+///   come to rest within twice that time is not asked: the question is unanswered, unsent.
 /// - Bytes that nobody has asked for make the line untrusted until it has been quiet for as long.
 /// - After two questions in a row without an answer the instrument counts as silent: further ones
 ///   are put without draining, as long as nothing is heard.

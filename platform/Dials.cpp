@@ -28,7 +28,11 @@ Slide::Slide(Window& owner, std::string_view name, std::string_view captionText,
       range_(range) {}
 
 void Slide::drag(double to) {
-  userDoes([this, to] { value = std::clamp(to, range_.minimum, range_.maximum); });
+  userDoes([this, to] {
+    const double before = value();
+    value = std::clamp(to, range_.minimum, range_.maximum);
+    if (value() != before) isUnread = false;
+  });
 }
 
 void Slide::release() {

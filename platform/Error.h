@@ -39,7 +39,8 @@ class Error : public std::exception {
   std::string description_;
 };
 
-/// Thrown out of a wait when the main window was closed during it: the handler that waited is over.
+/// Thrown out of every wait, and by what would begin something, when the program has ended or is
+/// about to: the handler that meets it is over.
 /// Deliberately no Error, so that no trap logs it; the event dispatcher swallows it.
 struct ProgramEnded {};
 

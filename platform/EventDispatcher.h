@@ -18,6 +18,9 @@ class EventDispatcher {
   /// one box with its number and description; the program goes on.
   void dispatch(const std::function<void()>& handler) const;
 
+  /// Whether the program goes on.
+  bool isOpen() const { return !gate_.isClosed(); }
+
   /// The same for the handler that ends the program. While the gate is held it is kept: the wait
   /// ends (StandBy), and it runs as soon as the handler that waited has unwound.
   void dispatchEnd(const std::function<void()>& handler) const;

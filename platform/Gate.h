@@ -7,8 +7,8 @@
 namespace tracewell {
 
 /// Whether anything may run and be begun. Every way into the program passes it (EventDispatcher),
-/// and so does everything that the program begins outside: transfers on the port, modal windows,
-/// dialogs.
+/// and so does what the program begins outside: transfers on the port, modal windows, dialogs that
+/// ask the user.
 ///
 /// It is open; or held, while a handler waits for the instrument and no other may run; or closed,
 /// once the program has ended.

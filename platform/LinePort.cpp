@@ -3,22 +3,9 @@
 
 #include <utility>
 
+#include "Flag.h"
+
 namespace tracewell {
-namespace {
-
-/// True as long as it lives, unless somebody takes it back before.
-class Flag {
- public:
-  explicit Flag(bool& flag) : flag_(flag) { flag_ = true; }
-  ~Flag() { flag_ = false; }
-  Flag(const Flag&) = delete;
-
- private:
-  bool& flag_;
-};
-
-}  // namespace
-
 LinePort::LinePort(ChannelOpener& opener, const Clock& clock, Gate& gate,
                    const EventDispatcher& dispatcher, StandBy& standBy)
     : SerialPort(gate), dispatcher_(dispatcher), conversation_(opener, clock, dispatcher, standBy) {

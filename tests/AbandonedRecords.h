@@ -82,7 +82,9 @@ class AbandonedRecords {
     user_.send(":CHAN1:SCAL 5E-1");
     port_.reset();
     user_.request("2");
-    run_(2 * recordTime + 600);
+    for (int waited = 0; user_.records.empty() && waited < 3 * recordTime + 5000; waited += 50)
+      run_(50);
+    run_(100);
     ASSERT_EQ(user_.records.size(), 1u);
     EXPECT_EQ(user_.records[0].first, "2");
     EXPECT_EQ(user_.records[0].second.substr(0, 12), "KRM410 REC 2");

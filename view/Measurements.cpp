@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "ConnectionIndicator.h"
+#include "Flag.h"
 #include "Numbers.h"
 #include "Waiting.h"
 
@@ -22,17 +23,6 @@ std::string labelText(std::string_view name, int channel) {
 bool isNoValue(const std::string& reply) {
   return reply.empty() || reply.starts_with('N');
 }
-
-/// True as long as it lives.
-class Flag {
- public:
-  explicit Flag(bool& flag) : flag_(flag) { flag_ = true; }
-  ~Flag() { flag_ = false; }
-  Flag(const Flag&) = delete;
-
- private:
-  bool& flag_;
-};
 
 }  // namespace
 
@@ -103,10 +93,10 @@ void Measurements::measureFlagged(Inquiry& inquiry, int channel,
     if (!isFlagged(flagRow, item)) continue;
     inquiry.next();
     const std::string reply = askPatiently(channel, std::string(queries[item]));
-    inquiry.note(!reply.empty());
     showNext(labelText(names[item], channel) + ": ", reply);
     // The list can be long and the instrument slow: the window stays alive between two items.
     Delay(main_, 0);
+    inquiry.note(!reply.empty());
   }
 }
 

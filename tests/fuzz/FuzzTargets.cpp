@@ -90,7 +90,7 @@ void reply(const std::string& bytes) {
   line.opener.farEnd.answer = [&](const std::string&) { return bytes; };
   line.port.readTimeOut = 100;
   line.port.prepare();
-  line.port.write("*IDN?\r\n");
+  line.port.write("*IDN?\r\n", SerialPort::Expects::reply);
   if (line.port.read().find('\n') == std::string::npos) std::abort();
 }
 

@@ -55,7 +55,7 @@ TEST_F(RS232Test, SetupOfTheProgramHoldsFromItsStartOn) {
     restarted.main.mnbLoadSetup.choose();
     EXPECT_EQ(settings, kept);
     const std::string& status = restarted.main.lblStatus.caption();
-    EXPECT_NE(status.find("in use is port 33, 4800 baud 7-O-2"), std::string::npos) << status;
+    EXPECT_NE(status.find("In use: port 33, 4800 baud 7-O-2"), std::string::npos) << status;
   }
 }
 

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+namespace tracewell {
+
+/// True as long as it lives, unless somebody takes it back before.
+class Flag {
+ public:
+  explicit Flag(bool& flag) : flag_(flag) { flag_ = true; }
+  ~Flag() { flag_ = false; }
+  Flag(const Flag&) = delete;
+
+ private:
+  bool& flag_;
+};
+
+}  // namespace tracewell
