@@ -54,15 +54,6 @@ TEST_F(LinePortTest, ReplyKeepsItsLineFeedAndLosesTheCarriageReturn) {
   EXPECT_EQ(farEnd.opened, 2);
 }
 
-TEST_F(LinePortTest, TimeOutIsTheSetOneAndLateReplyAnswersNothing) {
-  port.readTimeOut = 300;
-  farEnd.thought = 400;
-  EXPECT_EQ(user.ask("SLOW?"), "30312");
-  EXPECT_EQ(clock.milliseconds(), 300);
-  farEnd.thought = 5;
-  EXPECT_EQ(user.ask("NEXT?"), "reply to NEXT?\n");
-}
-
 /// Part of a record is on its way when something else wants the line, or has not been sent yet.
 TEST_F(LinePortTest, AbandonedRecordLeaksIntoNothing) {
   for (const double baudRate : {2400, 9600, 19200}) {
@@ -100,17 +91,6 @@ TEST_F(LinePortTest, StallInTheMiddleOfARecordSpoilsNone) {
     clock.run(3000);
     expectCleanRecords(2);
   }
-}
-
-TEST_F(LinePortTest, BothTracesRefreshWhereARecordOutlastsTheTick) {
-  farEnd.byteTime = 10.0 / 2.4;
-  for (int tick = 0; tick < 40; ++tick) {
-    user.request(tick % 2 == 0 ? "1" : "2");
-    clock.run(1200);
-  }
-  for (const char* tag : {"1", "2"})
-    EXPECT_GE(std::ranges::count(user.records, tag, [](const auto& r) { return r.first; }), 4);
-  expectCleanRecords(user.records.size());
 }
 
 }  // namespace
