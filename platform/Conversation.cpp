@@ -267,7 +267,6 @@ void Conversation::arrived() {
 }
 
 void Conversation::sendHeld() {
-  review();
   if (state_ != State::idle || held_.empty()) return;
   hear(take(0));
   if (state_ != State::idle) return;

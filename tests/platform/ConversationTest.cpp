@@ -95,6 +95,14 @@ TEST_F(ConversationTest, NothingThatIsLongerThanALineIsAReply) {
   farEnd.answer = echo;
   EXPECT_EQ(user.ask("*IDN?"), "*IDN?\n");
   EXPECT_LE(elapsed(), timeOut + 2 * Conversation::longestThought);
+  // Once at rest, the line is trusted again as soon as a late answer is there.
+  farEnd.byteTime = 0.5;
+  farEnd.thought = timeOut + 100;
+  EXPECT_EQ(user.ask("A?"), none);
+  farEnd.thought = 5;
+  elapsed();
+  EXPECT_EQ(user.ask("B?"), "B?\n");
+  EXPECT_LE(elapsed(), 200);
 }
 
 /// One line of chatter every 100 ms, for good.
@@ -164,6 +172,13 @@ TEST_F(ConversationTest, RequestsTakeStrictTurnsAndWaitThreeSecondsForALostRecor
     EXPECT_EQ(requests[i], i % 2 == 0 ? "1" : "2") << i;
   EXPECT_GE(user.records.size(), 5u);
   for (const auto& [tag, bytes] : user.records) EXPECT_EQ(bytes, std::string(1014, tag[0]));
+  // What is abandoned does not come, neither the record on its way nor the request behind it.
+  port.reset();
+  user.records.clear();
+  const std::size_t before = requests.size();
+  clock.run(20000);
+  EXPECT_TRUE(user.records.empty());
+  EXPECT_EQ(requests.size(), before);
 }
 
 /// The screen has its turn, and nothing of the program runs.
