@@ -69,6 +69,7 @@ TEST_F(ConnectTest, SilentInstrumentEndsAtTheFirstQuery) {
   EXPECT_FALSE(main.tmDSO.enabled());
   EXPECT_TRUE(logLines().empty());
   EXPECT_EQ(main.lblStatus.caption(), "Instrument: no answer to 1 of 5 questions");
+  EXPECT_TRUE(main.lblChan1.isUnread() && main.slideCH2.isUnread());
   // A port that refuses is logged.
   main.LinkOK = true;
   port.faults = 1000;
@@ -81,6 +82,7 @@ TEST_F(ConnectTest, SilentInstrumentEndsAtTheFirstQuery) {
   port.answerLikeAnInstrument();
   main.cmdStart.press();
   EXPECT_TRUE(main.tmDSO.enabled());
+  EXPECT_FALSE(main.lblChan1.isUnread() || main.knobTime.isUnread() || main.slideCH2.isUnread());
 }
 
 TEST_F(ConnectTest, RepliesOutsideTheTablesLeaveTheKnobsAndChannel2KeepsWholeDivisions) {

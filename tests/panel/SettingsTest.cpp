@@ -124,6 +124,8 @@ TEST_F(SettingsTest, ChannelDialogReadsWritesVerifiesAndReadsTheScaleAgain) {
     EXPECT_TRUE(channel.obCoupling(0).value());
     EXPECT_TRUE(channel.obProbe(2).value());
     EXPECT_FALSE(main.lblTest.visible());
+    EXPECT_FALSE(channel.cbCh(1).isUnread());
+    EXPECT_TRUE(channel.cbCh(2).isUnread());
     channel.cbCh(0).toggle();
     channel.cbCh(1).toggle();
     channel.obCoupling(2).select();
@@ -147,11 +149,17 @@ TEST_F(SettingsTest, ChannelDialogReadsWritesVerifiesAndReadsTheScaleAgain) {
   EXPECT_EQ(with(main.cmdCh2, "frmChannel", invert, channel.cmdCancel), Lines{":CHAN2:SCAL?"});
   EXPECT_EQ(cell(10, 3), "0");
   EXPECT_TRUE(main.tmDSO.enabled());
+  EXPECT_TRUE(channel.fmProbe.isUnread());
+  EXPECT_EQ(main.lblStatus.caption(),
+            "Channel 2: no answer to 5 of 5 questions; No answer to :CHAN2:SCAL?");
 }
 
 TEST_F(SettingsTest, BurstEndsWhereNothingVerifiesAndWhereThePortHasGone) {
   port.answer(":CHAN1:INV?", {"1 \n"});
+  port.answer(":CHAN1:SCAL?", {"1.000 V\n"});
   EXPECT_EQ(count(with(main.cmdCh1, "frmChannel", nothing, channel.cmdOK), ":CHAN1:INV 1"), 3);
+  // The answer to the scale behind it is no reason to forget.
+  EXPECT_TRUE(main.lblStatus.caption().ends_with("Channel 1: 4 of 4 settings not confirmed"));
   with(
       main.cmdCh1, "frmChannel", [&] { port.faults = 100000; }, channel.cmdOK);
   // Three attempts at each of four settings, a command and a query each, and the scale.
@@ -171,7 +179,9 @@ TEST_F(SettingsTest, TriggerDialogTakesTheInstrumentsValuesAndSendsAllSix) {
     EXPECT_EQ(trigger.cbTrig(1).text(), "Auto");
     EXPECT_EQ(trigger.cbTrig(2).text(), "-");
     EXPECT_FALSE(trigger.fmAdv.enabled());
+    EXPECT_TRUE(trigger.cbTrig(2).isUnread());
     trigger.cbTrig(2).choose(0);
+    EXPECT_FALSE(trigger.cbTrig(2).isUnread());
   };
   EXPECT_EQ(with(main.cmdTrig, "frmTrig", change, trigger.cmdOK),
             (Lines{":TRIG:SOUR 0", ":TRIG:SOUR?", ":TRIG:MOD 1", ":TRIG:MOD?", ":TRIG:SLOP 0",
