@@ -3,7 +3,9 @@
 
 #include <array>
 #include <cstdint>
+#include <filesystem>
 #include <string>
+#include <vector>
 
 #include "SetupTable.h"
 
@@ -70,6 +72,9 @@ struct SharedState {
 
   /// What the status line says of line settings that are not in use.
   std::string LinkNotice;
+
+  /// Whole paths, in the order in which they were noted. Kept through app/KeptFiles.h.
+  std::vector<std::filesystem::path> FilesToKeep;
 
   /// The setup table.
   SetupTable gridMeasure;

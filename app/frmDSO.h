@@ -124,6 +124,8 @@ class frmDSO : public Window, public SharedState {
 
   /// Written through app/StatusLine.h.
   ValueLabel lblStatus{*this, "lblStatus", ""};
+  /// Written through app/KeptFiles.h.
+  ValueLabel lblNotice{*this, "lblNotice", ""};
 
   /// Waveform requests, and a bench diagnostic that nothing enables. Milliseconds.
   static constexpr int tickInterval = 1200;

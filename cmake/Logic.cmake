@@ -2,6 +2,7 @@
 add_library(tracewell_logic STATIC
   app/ConnectionIndicator.cpp
   app/Connections.cpp
+  app/KeptFiles.cpp
   app/Lifecycle.cpp
   app/Tracewell.cpp
   app/Waiting.cpp

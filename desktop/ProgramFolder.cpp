@@ -27,7 +27,7 @@ constexpr const char* versionFile = "shipped-version";
 
 bool isOfThisVersion(const fs::path& folder) {
   try {
-    return readWholeFile(folder / versionFile) == TRACEWELL_VERSION;
+    return readWholeFile(folder / versionFile, fileLimit::shippedVersion) == TRACEWELL_VERSION;
   } catch (const Error&) {
     return false;
   }
@@ -76,15 +76,17 @@ void fillProgramFolder(const fs::path& from, const fs::path& to) {
   fs::create_directories(to, ignored);
   const bool isUpToDate = isOfThisVersion(to);
   bool isComplete = true;
-  for (const fs::directory_entry& entry : fs::directory_iterator(from, ignored)) {
+  std::error_code unread;
+  for (fs::directory_iterator entry(from, unread), end; !unread && entry != end;
+       entry.increment(unread)) {
     std::error_code failed;
-    if (!isProgramFile(entry.path()) || !entry.is_regular_file(failed)) continue;
-    const fs::path copy = to / entry.path().filename();
-    const bool isReplaced = !isUpToDate && isLanguageFile(entry.path());
+    if (!isProgramFile(entry->path()) || !entry->is_regular_file(failed)) continue;
+    const fs::path copy = to / entry->path().filename();
+    const bool isReplaced = !isUpToDate && isLanguageFile(entry->path());
     if (isReplaced || !fs::exists(fs::symlink_status(copy, failed)))
-      isComplete = copyWhole(entry.path(), copy) && isComplete;
+      isComplete = copyWhole(entry->path(), copy) && isComplete;
   }
-  if (!isUpToDate && isComplete) noteVersion(to);
+  if (!isUpToDate && isComplete && !unread) noteVersion(to);
 }
 
 fs::path programFolder() {

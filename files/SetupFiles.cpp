@@ -5,8 +5,8 @@
 #include <string_view>
 
 #include "Files.h"
+#include "KeptFiles.h"
 #include "Numbers.h"
-#include "StatusLine.h"
 
 namespace tracewell {
 namespace {
@@ -36,6 +36,18 @@ std::string fileText(const SetupTable& table) {
   return text;
 }
 
+/// Those of a line are no part of its last value.
+std::string withoutOuterBlanks(std::string_view text) {
+  std::string lines;
+  for (std::size_t end = text.find(lineEnd); end != std::string_view::npos;
+       end = text.find(lineEnd)) {
+    lines += trimBlanks(text.substr(0, end));
+    lines += lineEnd;
+    text.remove_prefix(end + lineEnd.size());
+  }
+  return lines.append(text);
+}
+
 /// Loading and saving ask in the same words.
 FileDialog setupDialog(const std::filesystem::path& folder) {
   return {folder, "Load DSO Setup file", defaultName, "*.dso|*.dso"};
@@ -49,19 +61,34 @@ std::filesystem::path SetupFiles::defaultPath() const {
 
 void SetupFiles::ReadSetupFile(const std::filesystem::path& path) {
   try {
-    fillTable(path);
+    loadFile(path);
   } catch (const Error&) {
     // A setup that cannot be read never keeps the program from starting.
   }
-  if (isTakenWhole(path)) return;
-  notTakenWhole_ = path;
-  sayKept(main_, path);
+}
+
+void SetupFiles::loadFile(const std::filesystem::path& path) {
+  try {
+    fillTable(path);
+  } catch (const Error&) {
+    noteWhatWasTaken(path);
+    throw;
+  }
+  noteWhatWasTaken(path);
+}
+
+void SetupFiles::noteWhatWasTaken(const std::filesystem::path& path) {
+  if (isTakenWhole(path))
+    forgetFileToKeep(main_, path);
+  else
+    noteFileToKeep(main_, path);
 }
 
 /// Whether writing the table would give the same bytes. So it is, too, where there is no file.
 bool SetupFiles::isTakenWhole(const std::filesystem::path& path) const {
   try {
-    return readWholeFile(path, fileLimit::setup) == fileText(main_.gridMeasure);
+    const std::string bytes = readWholeFile(path, fileLimit::setup);
+    return withoutOuterBlanks(bytes) == withoutOuterBlanks(fileText(main_.gridMeasure));
   } catch (const Error& error) {
     return error.number() == fileNotFound;
   }
@@ -83,16 +110,13 @@ void SetupFiles::fillTable(const std::filesystem::path& path) {
 void SetupFiles::WriteSetupFile(const std::filesystem::path& path) {
   if (path.empty()) return;
   const std::string text = fileText(main_.gridMeasure);
-  if (path == notTakenWhole_) {
-    keepAside(path);
-    notTakenWhole_.clear();
-  }
+  keepNotedFile(main_, path);
   writeWholeFile(path, text);
 }
 
 void SetupFiles::mnbLoadSetup_Click() {
   Services& services = main_.services();
-  fillTable(services.dialogs.openFile(setupDialog(services.programFolder)));
+  loadFile(services.dialogs.openFile(setupDialog(services.programFolder)));
 }
 
 void SetupFiles::mnbSaveSetup_Click() {

@@ -17,10 +17,10 @@ class SetupFiles {
   std::filesystem::path defaultPath() const;
 
   /// Fills the table. Stops at the first error without a box: rows read so far are new, the
-  /// others as they were. The status line says when the file holds more than was taken.
+  /// others as they were. A file that holds more than was taken is noted as one to keep.
   void ReadSetupFile(const std::filesystem::path& path);
 
-  /// Writes rows 0 to 12; does nothing for an empty path. A file that ReadSetupFile could not take
+  /// Writes rows 0 to 12; does nothing for an empty path. A file that was read but not taken
   /// whole is kept aside first. Raises "Type mismatch" when a row's count is no number, and the
   /// file system's reason; the old file is whole then.
   void WriteSetupFile(const std::filesystem::path& path);
@@ -29,12 +29,13 @@ class SetupFiles {
   void mnbSaveSetup_Click();
 
  private:
+  /// Raises the reason why a part could not be read; what was taken is noted also then.
+  void loadFile(const std::filesystem::path& path);
   void fillTable(const std::filesystem::path& path);
+  void noteWhatWasTaken(const std::filesystem::path& path);
   bool isTakenWhole(const std::filesystem::path& path) const;
 
   frmDSO& main_;
-  /// A file of which the table does not hold everything; empty for none.
-  std::filesystem::path notTakenWhole_;
 };
 
 }  // namespace tracewell

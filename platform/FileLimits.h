@@ -14,9 +14,10 @@ inline constexpr std::uintmax_t messages = 64 * kibibyte;
 inline constexpr std::uintmax_t reportTemplate = 256 * kibibyte;
 inline constexpr std::uintmax_t commandList = 256 * kibibyte;
 inline constexpr std::uintmax_t waveformData = 1024 * kibibyte;
-inline constexpr std::uintmax_t description = 64 * kibibyte;
+inline constexpr std::uintmax_t description = 256 * kibibyte;
 inline constexpr std::uintmax_t errorLog = 1024 * kibibyte;
 inline constexpr std::uintmax_t picture = kibibyte * 1024 * 32;
+inline constexpr std::uintmax_t shippedVersion = kibibyte;
 inline constexpr std::uintmax_t anyFile = picture;
 
 }  // namespace tracewell::fileLimit

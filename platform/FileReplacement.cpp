@@ -109,8 +109,10 @@ class Replacement {
   void takeModeOfTarget() const {
     std::error_code failed;
     const fs::file_status old = fs::status(target_, failed);
-    if (!fs::exists(old)) return;
-    if (!failed && old.permissions() != fs::status(beside_, failed).permissions())
+    if (old.type() == fs::file_type::not_found) return;
+    check(failed, pathAccess, "Cannot write");
+    const fs::file_status own = fs::status(beside_, failed);
+    if (!failed && old.permissions() != own.permissions())
       fs::permissions(beside_, old.permissions(), failed);
     check(failed, pathAccess, "Cannot write");
   }
@@ -124,6 +126,42 @@ class Replacement {
 
 bool canBeRead(const fs::path& path) {
   return std::ifstream(path, std::ios::binary).is_open();
+}
+
+fs::path asideOf(fs::path target, int number) {
+  return target += number == 1 ? ".bad" : ".bad" + std::to_string(number);
+}
+
+/// A second name, not a link by a name, which would lead to whatever is written there next.
+bool isSecondName(const fs::path& aside, const fs::path& target) {
+  std::error_code ignored;
+  return fs::is_regular_file(fs::symlink_status(aside, ignored)) &&
+         fs::equivalent(aside, target, ignored);
+}
+
+bool isWithoutSecondNames(const std::error_code& failed) {
+  return failed == std::errc::operation_not_permitted || failed == std::errc::not_supported ||
+         failed == std::errc::operation_not_supported || failed == std::errc::too_many_links ||
+         failed == std::errc::function_not_supported;
+}
+
+/// Takes the name first, with an empty file, so that nobody else's is ever replaced.
+std::error_code renameToNew(const fs::path& target, const fs::path& aside) {
+  errno = 0;
+  if (createExclusively(aside) == nullptr) return lastFailure();
+  std::error_code failed;
+  fs::rename(target, aside, failed);
+  std::error_code ignored;
+  if (failed) fs::remove(aside, ignored);
+  return failed;
+}
+
+/// A second name for the same file needs no right to read it, and takes nobody's place.
+std::error_code keepAs(const fs::path& aside, const fs::path& target) {
+  if (isSecondName(aside, target)) return {};
+  std::error_code failed;
+  fs::create_hard_link(target, aside, failed);
+  return isWithoutSecondNames(failed) ? renameToNew(target, aside) : failed;
 }
 
 }  // namespace
@@ -140,31 +178,26 @@ void writeWholeFile(const fs::path& path, std::string_view bytes) {
 
 fs::path nameAside(const fs::path& path) {
   const fs::path target = replaceableTarget(path);
-  fs::path aside;
+  const auto isTaken = [&target](const fs::path& aside) {
+    std::error_code ignored;
+    return fs::exists(fs::symlink_status(aside, ignored)) && !isSecondName(aside, target);
+  };
   int number = 1;
-  std::error_code ignored;
-  do {
-    aside = target;
-    aside += number == 1 ? ".bad" : ".bad" + std::to_string(number);
-    ++number;
-  } while (fs::exists(fs::symlink_status(aside, ignored)));
-  return aside;
+  while (isTaken(asideOf(target, number))) ++number;
+  return asideOf(target, number);
 }
 
-/// A second name for the same file needs no right to read it, and takes nobody's place.
-fs::path keepAside(const fs::path& path) {
+void keepAside(const fs::path& path) {
   const fs::path target = replaceableTarget(path);
-  fs::path aside = nameAside(path);
   std::error_code failed;
-  fs::create_hard_link(target, aside, failed);
-  // Where the file system has no second names, and where the new file would take over a mode that
-  // keeps it from being read.
-  if (failed)
-    fs::rename(target, aside, failed);
-  else if (!canBeRead(target))
-    fs::remove(target, failed);
+  int number = 0;
+  do {
+    failed = keepAs(asideOf(target, ++number), target);
+  } while (failed == std::errc::file_exists);
+  if (failed == std::errc::no_such_file_or_directory) return;
+  // Its mode, which the new file would take over, would keep that from being read, too.
+  if (!failed && fs::exists(target, failed) && !canBeRead(target)) fs::remove(target, failed);
   if (failed) throw fileError(pathAccess, "Cannot keep", path, failed);
-  return aside;
 }
 
 }  // namespace tracewell

@@ -30,10 +30,10 @@ FileEnd readFileEnd(const std::filesystem::path& path, std::uintmax_t limit);
 /// reason.
 void writeWholeFile(const std::filesystem::path& path, std::string_view bytes);
 
-/// Keeps the file under the next free name of "<name>.bad", "<name>.bad2", ..., which it returns;
-/// until the file is written anew it has its old name, too, unless it cannot be read. Raises
-/// pathAccess.
-std::filesystem::path keepAside(const std::filesystem::path& path);
+/// Keeps the file under the first name of "<name>.bad", "<name>.bad2", ... that is free or is
+/// already its own; until the file is written anew it has its old name, too, where the file system
+/// has second names, unless it cannot be read. Does nothing where no file is. Raises pathAccess.
+void keepAside(const std::filesystem::path& path);
 
 /// The name that keepAside would take now.
 std::filesystem::path nameAside(const std::filesystem::path& path);

@@ -2,12 +2,20 @@
 #include "frmErrLog.h"
 
 #include "Files.h"
-#include "StatusLine.h"
+#include "KeptFiles.h"
 
 namespace tracewell {
 namespace {
 
 constexpr const char* logFile = "dso.err";
+
+/// As much as leaves a log that was cut room to grow, so that the next run takes it whole.
+std::string newestLines(const std::string& log) {
+  constexpr std::size_t most = fileLimit::errorLog / 2;
+  if (log.size() <= most) return log;
+  const std::size_t end = log.find('\n', log.size() - most - 1);
+  return end == std::string::npos ? "" : log.substr(end + 1);
+}
 
 }  // namespace
 
@@ -22,16 +30,16 @@ void frmErrLog::Form_Load() {
   const std::filesystem::path path = services().programFolder / logFile;
   try {
     FileEnd log = readFileEnd(path, fileLimit::errorLog);
-    isFileToKeep_ = !log.isWhole;
+    isCut_ = !log.isWhole;
     // From the beginning of a line on.
-    if (!log.isWhole) log.bytes.erase(0, log.bytes.find('\n') + 1);
+    if (isCut_) log.bytes.erase(0, log.bytes.find('\n') + 1);
     txtErrLog.text = std::move(log.bytes);
+    if (isCut_) noteFileToKeep(main_, path);
   } catch (const Error& error) {
     // No log yet, or none that can be read: a new one begins.
-    isFileToKeep_ = error.number() != fileNotFound;
     txtErrLog.text = "";
+    if (error.number() != fileNotFound) noteFileToKeep(main_, path);
   }
-  if (isFileToKeep_) sayKept(main_, path);
 }
 
 void frmErrLog::lblDSOCmd_DblClick() {
@@ -44,9 +52,8 @@ void frmErrLog::cmdClear_Click() {
 
 void frmErrLog::cmdClose_Click() {
   const std::filesystem::path path = services().programFolder / logFile;
-  if (isFileToKeep_) keepAside(path);
-  isFileToKeep_ = false;
-  writeWholeFile(path, txtErrLog.text());
+  keepNotedFile(main_, path);
+  writeWholeFile(path, isCut_ ? newestLines(txtErrLog.text()) : txtErrLog.text());
   hide();
   main_.refresh();
 }

@@ -7,8 +7,8 @@
 namespace tracewell {
 
 /// The error log's window. The log lives in its text box; the file "dso.err" is read when the
-/// window loads, its last part if it is long, and written only by Close. What could not be read is
-/// kept aside then.
+/// window loads, its last part if it is long, and written only by Close: of a long one the newest
+/// half of that. What could not be read is kept aside then.
 class frmErrLog : public Window {
  public:
   explicit frmErrLog(frmDSO& main);
@@ -26,8 +26,8 @@ class frmErrLog : public Window {
   void cmdClose_Click();
 
   frmDSO& main_;
-  /// The file holds more than the text box.
-  bool isFileToKeep_ = false;
+  /// The file held more than the text box.
+  bool isCut_ = false;
 };
 
 }  // namespace tracewell

@@ -99,7 +99,8 @@ TEST_F(WaveformTest, OneChannelNoChannelAndNoRecord) {
   main.cbCh2.toggle();
   main.Ch2Raw.resize(600);
   EXPECT_THROW(BuildCsvText(main), Error);
-  save("cut.jpg");  // The text of the description before is what is left to save.
+  save("cut.jpg");  // No data are saved where the record is cut.
+  EXPECT_EQ(file("cut.csv"), "");
   EXPECT_TRUE(dialogs.runTimeErrors.empty());
   // A cancelled file dialog writes under the preset name.
   save("");
@@ -303,12 +304,9 @@ TEST_F(WaveformTest, DirectLoadTakesTheFirstColumnIntoLoad1AndExportWritesTheMes
   main.cmdExportCSV.press();
   EXPECT_EQ(file("text.csv"), file("data.csv"));
   EXPECT_TRUE(main.tmDSO.enabled());
-  std::ofstream(place / "data.csv").seekp(1 << 30).put('x');
-  main.mnbLoadCSV.choose();
-  EXPECT_EQ(dialogs.runTimeErrors.size(), 1u);
   dialogs.pickedFile.clear();
   main.cmdLoadCSV.press();
-  EXPECT_EQ(dialogs.runTimeErrors.size(), 1u);
+  EXPECT_TRUE(dialogs.runTimeErrors.empty());
   EXPECT_EQ(dialogs.fileDialogs.back().title, "Load CSV file");
 }
 

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "KeptFiles.h"
+
+#include <algorithm>
+
+#include "Files.h"
+
+namespace tracewell {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Also where there is no file any more.
+fs::path wholePath(const fs::path& path) {
+  std::error_code failed;
+  const fs::path absolute = fs::absolute(path, failed);
+  const fs::path whole = fs::weakly_canonical(failed ? path : absolute, failed);
+  return failed ? absolute : whole;
+}
+
+auto findNoted(frmDSO& main, const fs::path& path) {
+  return std::ranges::find_if(main.FilesToKeep, [whole = wholePath(path)](const fs::path& noted) {
+    std::error_code ignored;
+    return noted == whole || fs::equivalent(noted, whole, ignored);
+  });
+}
+
+/// No folder: it is kept in its own.
+std::string notice(const fs::path& path) {
+  try {
+    return pathText(path.filename()) + " could not be read whole and will be kept as " +
+           pathText(nameAside(path).filename());
+  } catch (const Error& error) {
+    return error.description();
+  }
+}
+
+void showNotice(frmDSO& main) {
+  std::string text;
+  for (const fs::path& path : main.FilesToKeep) text += (text.empty() ? "" : "; ") + notice(path);
+  main.lblNotice.visible = !text.empty();
+  main.lblNotice.caption = text;
+}
+
+}  // namespace
+
+void noteFileToKeep(frmDSO& main, const fs::path& path) {
+  if (findNoted(main, path) == main.FilesToKeep.end()) main.FilesToKeep.push_back(wholePath(path));
+  showNotice(main);
+}
+
+void forgetFileToKeep(frmDSO& main, const fs::path& path) {
+  const auto noted = findNoted(main, path);
+  if (noted == main.FilesToKeep.end()) return;
+  main.FilesToKeep.erase(noted);
+  showNotice(main);
+}
+
+void keepNotedFile(frmDSO& main, const fs::path& path) {
+  if (findNoted(main, path) == main.FilesToKeep.end()) return;
+  keepAside(path);
+  forgetFileToKeep(main, path);
+}
+
+}  // namespace tracewell

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <filesystem>
+
+#include "frmDSO.h"
+
+/// Files that hold more than the program took from them. Each is kept aside before it is written
+/// anew; until then a notice beside the status line names it.
+namespace tracewell {
+
+void noteFileToKeep(frmDSO& main, const std::filesystem::path& path);
+
+/// It was taken whole, or is of no account any more.
+void forgetFileToKeep(frmDSO& main, const std::filesystem::path& path);
+
+/// Keeps the file aside if it is one of them, by whatever path it is named. Raises pathAccess.
+void keepNotedFile(frmDSO& main, const std::filesystem::path& path);
+
+}  // namespace tracewell
