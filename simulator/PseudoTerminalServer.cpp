@@ -41,15 +41,18 @@ int orRaise(int result, const char* what) {
 }
 
 /// Signals come during waits only, so that none is lost between a look at isAskedToEnd and the next
-/// wait. The result is what waits let through.
+/// wait. One that was ignored, as in the background of a shell, stays so. The result is what waits
+/// let through.
 sigset_t endOnSignals() {
   struct sigaction action = {};
   action.sa_handler = askToEnd;
   sigset_t ending;
   sigemptyset(&ending);
   for (const int number : {SIGINT, SIGTERM}) {
-    sigaction(number, &action, nullptr);
     sigaddset(&ending, number);
+    struct sigaction before = {};
+    sigaction(number, nullptr, &before);
+    if (before.sa_handler != SIG_IGN) sigaction(number, &action, nullptr);
   }
   sigset_t before;
   sigprocmask(SIG_BLOCK, &ending, &before);
