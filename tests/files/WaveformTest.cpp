@@ -124,7 +124,7 @@ TEST_F(WaveformTest, LineBreaksInNotesAndNamesMoveNoLine) {
             (Lines{"Ann B. C", "first second", "0", "N"}));
 }
 
-TEST_F(WaveformTest, FailedSaveSaysSoAndKeepsTheOldFiles) {
+TEST_F(WaveformTest, FailedSaveSaysSoAndTheNextOneIsWhole) {
   save("one.png", 7);
   const std::string before = file("one.inf");
   fs::remove(place / "one.inf");
