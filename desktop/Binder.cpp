@@ -379,16 +379,24 @@ bool bindAsOneOf(Control& control, QWidget& form) {
   return (bindAs(dynamic_cast<Kinds*>(&control)) || ...);
 }
 
+void bindControl(Control& control, QWidget& form) {
+  const bool isBound = bindAsOneOf<Label, ValueLabel, Frame, Button, Switch, MenuEntry, CheckBox,
+                                   OptionButton, ComboBox, TextBox, Line, Lamp, Progress, Knob,
+                                   Slide, ListBox, Tree, PictureBox, Graph>(control, form);
+  if (!isBound)
+    throw Error(invalidProcedureCall, "Tracewell",
+                "Nothing shows a control of the kind of " + control.objectName());
+}
+
 }  // namespace
 
+/// The form does not outlive an error, and the controls must not know it then.
 void bindControls(Window& window, QWidget& form) {
-  for (Control* control : window.controls()) {
-    const bool isBound = bindAsOneOf<Label, ValueLabel, Frame, Button, Switch, MenuEntry, CheckBox,
-                                     OptionButton, ComboBox, TextBox, Line, Lamp, Progress, Knob,
-                                     Slide, ListBox, Tree, PictureBox, Graph>(*control, form);
-    if (!isBound)
-      throw Error(invalidProcedureCall, "Tracewell",
-                  "Nothing shows a control of the kind of " + control->objectName());
+  try {
+    for (Control* control : window.controls()) bindControl(*control, form);
+  } catch (...) {
+    unbindControls(window);
+    throw;
   }
 }
 

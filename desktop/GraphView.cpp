@@ -100,6 +100,7 @@ void GraphView::makeGraticule() {
 
 void GraphView::bind(Graph& graph) {
   unbind();
+  if (graph.letGo) graph.letGo();
   graph_ = &graph;
   graph.letGo = [this] { unbind(); };
   const auto dirty = [this] { markDirty(); };

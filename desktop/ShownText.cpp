@@ -3,6 +3,7 @@
 
 #include <QEvent>
 #include <algorithm>
+#include <utility>
 
 namespace tracewell {
 namespace {
@@ -53,20 +54,22 @@ class Shown {
     if (++lines_ > room_.lines) return false;
     text_ += QLatin1Char('\n');
     lineStart_ = text_.size();
+    hasDots_ = false;
     return true;
   }
 
   /// A line of a page that is too long ends in dots, and the next one is shown again.
   bool isTooLong() {
-    const qsizetype length = text_.size() - lineStart_;
-    if (length == longestLine) text_ += dots;
-    return length >= longestLine;
+    if (text_.size() - lineStart_ < longestLine) return false;
+    if (!std::exchange(hasDots_, true)) text_ += dots;
+    return true;
   }
 
   Room room_;
   QString text_;
   qsizetype lines_ = 1;
   qsizetype lineStart_ = 0;
+  bool hasDots_ = false;
 };
 
 /// Paths break at their separators already.

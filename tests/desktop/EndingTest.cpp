@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <QDir>
+#include <QLabel>
 #include <QTest>
 #include <csignal>
 
@@ -52,9 +53,16 @@ TEST(Binder, ControlOfAnUnknownKindIsAnError) {
   };
   Bench bench;
   Window window("frmNew", "New", bench.services);
+  ValueLabel known(window, "known", "");
   const Novelty novelty(window, "novelty");
-  QWidget form;
-  EXPECT_THROW(bindControls(window, form), Error);
+  {
+    QWidget form;
+    (new QLabel(&form))->setObjectName("known");
+    EXPECT_THROW(bindControls(window, form), Error);
+  }
+  // The control bound before it has forgotten the form.
+  EXPECT_FALSE(known.changed);
+  known.caption = "x";
 }
 
 }  // namespace

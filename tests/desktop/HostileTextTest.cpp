@@ -163,8 +163,11 @@ TEST(ShownText, WhatIsLeftOfATextWhereThereIsLittleRoom) {
   for (const auto& [text, room, shown] : cases) EXPECT_EQ(fromQt(shownText(text, room)), shown);
   EXPECT_EQ(fromQt(shownCaption("a & b")), "a && b");
   EXPECT_EQ(fromQt(shownTitle("a[*]")), "a[*][*]");
-  const QString page = shownText(std::string(6000, 'x') + "\nnext", roomOfPage);
-  EXPECT_TRUE(page.endsWith(QStringLiteral("x…\nnext")));
+  // Also where a character of two units stands across the limit of a line.
+  for (const std::string edge : {"x", "\U0001F600"}) {
+    const std::string line = std::string(4999, 'x') + edge;
+    EXPECT_EQ(fromQt(shownText(line + "yy\nnext", roomOfPage)), line + "…\nnext");
+  }
 }
 
 }  // namespace
