@@ -3,6 +3,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTimer>
 #include <utility>
 
@@ -62,7 +63,11 @@ QtSerialChannel::QtSerialChannel(const QString& device, const LineSettings& sett
   port_.setParity(parityOf(settings.parity));
   port_.setFlowControl(QSerialPort::NoFlowControl);
   if (!port_.open(QIODevice::ReadWrite)) {
-    failure_ = port_.errorString();
+    // A device that may be used and yet cannot be opened is somebody else's at the moment.
+    const bool isInUse =
+        port_.error() == QSerialPort::PermissionError &&
+        QFileInfo(QDir(QStringLiteral("/dev")).absoluteFilePath(device)).isWritable();
+    failure_ = isInUse ? QStringLiteral("in use by another program") : port_.errorString();
     raiseFailure();
   }
   port_.clear();

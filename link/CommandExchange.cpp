@@ -37,10 +37,12 @@ std::string CommandExchange::send(const std::string& command, int repeatsLeft) {
   try {
     std::string reply = exchange(command);
     wasSent_ = true;
+    failure_.clear();
     if (inquiry_ != nullptr && isQuery(command)) inquiry_->note(true);
     return reply;
   } catch (const Error& error) {
     wasSent_ = false;
+    failure_ = error.number() == portReadTimeOut ? "" : error.description();
     if (error.number() == portReadTimeOut)
       main_.LinkOK = false;
     else if (isQuery(command) && repeatsLeft > 0)

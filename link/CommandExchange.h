@@ -40,6 +40,8 @@ class CommandExchange {
   frmDSO& main_;
   ErrorLog& errorLog_;
   bool wasSent_ = false;
+  /// Why the last exchange failed, in the port's words; empty after a success and after silence.
+  std::string failure_;
   /// The innermost one under way, if any.
   Inquiry* inquiry_ = nullptr;
   /// What the last one that missed something left in the status line.

@@ -72,6 +72,11 @@ std::string Inquiry::progress() const {
 }
 
 std::string Inquiry::complaint() const {
+  const std::string& failure = exchange_.failure_;
+  return missed() + (failure.empty() ? "" : " (" + failure + ")");
+}
+
+std::string Inquiry::missed() const {
   if (items_ == Of::oneQuestion) return "No answer to " + name_;
   const std::string share = std::to_string(missing_) + " of " + std::to_string(count_);
   return name_ + (items_ == Of::questions ? ": no answer to " + share + " questions"

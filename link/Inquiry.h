@@ -33,7 +33,9 @@ class Inquiry {
   void show(const std::string& text);
   void finishItem();
   std::string progress() const;
+  /// What had no answer, and why, where that is known.
   std::string complaint() const;
+  std::string missed() const;
 
   frmDSO& main_;
   CommandExchange& exchange_;

@@ -75,6 +75,7 @@ TEST_F(ConnectTest, SilentInstrumentEndsAtTheFirstQuery) {
   port.faults = 1000;
   main.cmdRS232.press();
   EXPECT_EQ(logLines(), Lines{"RS232 - SendDSOCmd : no such device"});
+  EXPECT_EQ(main.lblStatus.caption(), "Instrument: no answer to 1 of 5 questions (no such device)");
   expectShown(blue, 9, "Connect");
   EXPECT_FALSE(main.tmDSO.enabled());
   // With the cable in, the same button connects.
