@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <algorithm>
+#include <ctime>
 #include <fstream>
 
 #include "Doubles.h"
@@ -311,22 +312,14 @@ TEST_F(WaveformTest, DirectLoadTakesTheFirstColumnIntoLoad1AndExportWritesTheMes
 }
 
 /// On Windows the kind of every file is asked for by itself, which Wine does slowly.
+/// In processor time, which a busy machine and a sanitizer stretch little beside what a list that is
+/// searched for each of its entries would take.
 TEST_F(WaveformTest, TenThousandFilesAreListedInAnInstant) {
-#ifdef _WIN32
-  constexpr std::chrono::milliseconds instant(2000);
-#else
-  constexpr std::chrono::milliseconds instant(200);
-#endif
   for (int i = 0; i < 10000; ++i) std::ofstream(place / (std::to_string(i) + ".csv"));
-  // The best of three: the machine may be busy with something else.
-  auto fastest = std::chrono::steady_clock::duration::max();
-  for (int i = 0; i < 3; ++i) {
-    const auto start = std::chrono::steady_clock::now();
-    load({});
-    fastest = std::min(fastest, std::chrono::steady_clock::now() - start);
-    EXPECT_EQ(loadWindow.fileCSV.items().size(), 10000u);
-  }
-  EXPECT_LT(fastest, instant);
+  const std::clock_t start = std::clock();
+  load({});
+  EXPECT_EQ(loadWindow.fileCSV.items().size(), 10000u);
+  EXPECT_LT(std::clock() - start, 2 * CLOCKS_PER_SEC);
 }
 
 }  // namespace tracewell
