@@ -26,7 +26,6 @@ void DesktopClock::pumpEvents() {
 void DesktopClock::breathe() {
   constexpr int longest = 10;
   QCoreApplication::processEvents(QEventLoop::AllEvents, longest);
-  if (breathed) breathed();
 }
 
 void DesktopClock::sleep(int milliseconds) {

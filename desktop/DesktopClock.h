@@ -13,9 +13,6 @@ class DesktopClock : public Clock {
  public:
   DesktopClock();
 
-  /// Called behind each breath.
-  std::function<void()> breathed;
-
   std::int64_t milliseconds() const override;
   void pumpEvents() override;
   void breathe() override;

@@ -6,9 +6,7 @@ namespace tracewell {
 DesktopProgram::DesktopProgram(const std::filesystem::path& programFolder)
     : ports(programFolder, clock), services{clock,    dialogs, gate,         dispatcher,
                                             standBy,  port,    ports,        windows,
-                                            pictures, printer, programFolder} {
-  clock.breathed = [this] { input.release(); };
-}
+                                            pictures, printer, programFolder} {}
 
 /// However the event loop has ended, forms go before the windows that they show.
 DesktopProgram::~DesktopProgram() {

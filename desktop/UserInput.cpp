@@ -4,6 +4,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QKeyEvent>
+#include <QTimer>
 #include <QWidget>
 #include <QWindow>
 #include <algorithm>
@@ -11,6 +12,9 @@
 
 namespace tracewell {
 namespace {
+
+/// Milliseconds between two looks whether the wait is over.
+constexpr int interval = 5;
 
 /// A dialog's window; the main window has none above it.
 bool isDialog(const QObject* receiver) {
@@ -66,7 +70,12 @@ UserInput::UserInput(const Gate& gate, StandBy& standBy) : gate_(gate), standBy_
   QCoreApplication::instance()->installEventFilter(this);
 }
 
+/// All at once and not before the wait is over: what came later may not overtake what is kept.
 void UserInput::release() {
+  if (gate_.isHeld()) {
+    QTimer::singleShot(interval, this, [this] { release(); });
+    return;
+  }
   for (Kept& kept : std::exchange(kept_, {}))
     if (kept.receiver) QCoreApplication::postEvent(kept.receiver, kept.event.release());
 }
@@ -74,7 +83,7 @@ void UserInput::release() {
 bool UserInput::eventFilter(QObject* receiver, QEvent* event) {
   if (endWaits(receiver, *event)) return true;
   if (!gate_.isHeld() && isBehindModalWindow(receiver, *event)) return true;
-  if (!gate_.isHeld() || !isUserInput(receiver, *event)) return false;
+  if ((!gate_.isHeld() && kept_.empty()) || !isUserInput(receiver, *event)) return false;
   keep(receiver, *event);
   return true;
 }
@@ -93,6 +102,7 @@ void UserInput::keep(QObject* receiver, const QEvent& event) {
   const bool isMove = event.type() == QEvent::MouseMove;
   const bool isNext = !kept_.empty() && kept_.back().receiver == receiver;
   if (isMove && isNext && kept_.back().event->type() == QEvent::MouseMove) kept_.pop_back();
+  if (kept_.empty()) QTimer::singleShot(interval, this, [this] { release(); });
   kept_.push_back({receiver, std::unique_ptr<QEvent>(event.clone())});
 }
 

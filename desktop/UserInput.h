@@ -19,13 +19,11 @@ class UserInput : public QObject {
  public:
   UserInput(const Gate& gate, StandBy& standBy);
 
-  /// Gives what was kept back to the event loop. While the gate is held it is kept anew there.
-  void release();
-
   bool eventFilter(QObject* receiver, QEvent* event) override;
 
  private:
   bool endWaits(const QObject* receiver, QEvent& event);
+  void release();
   void keep(QObject* receiver, const QEvent& event);
 
   struct Kept {
