@@ -26,7 +26,7 @@
 #include "Dials.h"
 #include "Graph.h"
 #include "GraphView.h"
-#include "Images.h"
+#include "QtImages.h"
 #include "KnobWidget.h"
 #include "LampWidget.h"
 #include "LineWidget.h"
@@ -34,7 +34,7 @@
 #include "PictureWidget.h"
 #include "ShownText.h"
 #include "SlideWidget.h"
-#include "Text.h"
+#include "QtValues.h"
 #include "UnreadMark.h"
 
 namespace tracewell {

@@ -6,7 +6,7 @@
 #include <QThread>
 #include <QTimer>
 
-#include "Text.h"
+#include "QtValues.h"
 
 namespace tracewell {
 

@@ -8,7 +8,7 @@
 #include <iostream>
 
 #include "ShownText.h"
-#include "Text.h"
+#include "QtValues.h"
 
 namespace tracewell {
 namespace {

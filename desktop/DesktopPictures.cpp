@@ -7,10 +7,10 @@
 #include <QWidget>
 
 #include "Graph.h"
-#include "Images.h"
+#include "QtImages.h"
 #include "PictureFormats.h"
 #include "ShownText.h"
-#include "Text.h"
+#include "QtValues.h"
 
 namespace tracewell {
 namespace {

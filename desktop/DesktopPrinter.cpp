@@ -8,10 +8,10 @@
 #include <QTextDocument>
 
 #include "Error.h"
-#include "Images.h"
+#include "QtImages.h"
 #include "PaperGraph.h"
 #include "ShownText.h"
-#include "Text.h"
+#include "QtValues.h"
 
 namespace tracewell {
 namespace {

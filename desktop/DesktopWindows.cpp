@@ -12,7 +12,7 @@
 #include "Control.h"
 #include "Forms.h"
 #include "ShownText.h"
-#include "Text.h"
+#include "QtValues.h"
 #include "Window.h"
 
 namespace tracewell {

@@ -13,7 +13,7 @@
 #include "Graph.h"
 #include "SharedState.h"
 #include "ShownText.h"
-#include "Text.h"
+#include "QtValues.h"
 
 namespace tracewell {
 namespace {

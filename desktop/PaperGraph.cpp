@@ -6,7 +6,7 @@
 
 #include "SharedState.h"
 #include "ShownText.h"
-#include "Text.h"
+#include "QtValues.h"
 
 namespace tracewell {
 namespace {

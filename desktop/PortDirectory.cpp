@@ -8,7 +8,7 @@
 #include "Error.h"
 #include "QtSerialChannel.h"
 #include "SimulatedChannel.h"
-#include "Text.h"
+#include "QtValues.h"
 
 namespace tracewell {
 namespace {

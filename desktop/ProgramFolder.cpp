@@ -9,7 +9,7 @@
 
 #include "Error.h"
 #include "Files.h"
-#include "Text.h"
+#include "QtValues.h"
 
 namespace tracewell {
 namespace {

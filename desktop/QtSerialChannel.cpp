@@ -14,7 +14,7 @@
 #endif
 
 #include "Error.h"
-#include "Text.h"
+#include "QtValues.h"
 
 namespace tracewell {
 namespace {

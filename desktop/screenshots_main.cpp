@@ -19,7 +19,7 @@
 #include "DesktopProgram.h"
 #include "ProgramFolder.h"
 #include "ShownText.h"
-#include "Text.h"
+#include "QtValues.h"
 #include "Theme.h"
 
 namespace tracewell {

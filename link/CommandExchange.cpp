@@ -3,7 +3,6 @@
 
 #include <optional>
 
-#include "Inquiry.h"
 #include "Numbers.h"
 
 namespace tracewell {
@@ -29,7 +28,7 @@ std::string CommandExchange::SendDSOCmd(const std::string& command) {
 
 std::string CommandExchange::ask(const std::string& query) {
   std::optional<Inquiry> alone;
-  if (inquiry_ == nullptr) alone.emplace(main_, *this, query);
+  if (inquiries_.current() == nullptr) alone.emplace(inquiries_, query);
   return send(query, repeatLimit);
 }
 
@@ -37,12 +36,12 @@ std::string CommandExchange::send(const std::string& command, int repeatsLeft) {
   try {
     std::string reply = exchange(command);
     wasSent_ = true;
-    failure_.clear();
-    if (inquiry_ != nullptr && isQuery(command)) inquiry_->note(true);
+    inquiries_.noteFailure("");
+    noteAnswer(command, true);
     return reply;
   } catch (const Error& error) {
     wasSent_ = false;
-    failure_ = error.number() == portReadTimeOut ? "" : error.description();
+    inquiries_.noteFailure(error.number() == portReadTimeOut ? "" : error.description());
     if (error.number() == portReadTimeOut)
       main_.LinkOK = false;
     else if (isQuery(command) && repeatsLeft > 0)
@@ -50,9 +49,13 @@ std::string CommandExchange::send(const std::string& command, int repeatsLeft) {
     else
       errorLog_.ErrLog(error, "SendDSOCmd : ");
     // Also where the repeated query had a reply, which is not used.
-    if (inquiry_ != nullptr && isQuery(command)) inquiry_->note(false);
+    noteAnswer(command, false);
     return "";
   }
+}
+
+void CommandExchange::noteAnswer(const std::string& command, bool isAnswered) {
+  if (inquiries_.current() != nullptr && isQuery(command)) inquiries_.current()->note(isAnswered);
 }
 
 std::string CommandExchange::exchange(const std::string& command) {

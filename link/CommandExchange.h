@@ -4,16 +4,16 @@
 #include <string>
 
 #include "ErrorLog.h"
+#include "Inquiry.h"
 #include "frmDSO.h"
 
 namespace tracewell {
 
-class Inquiry;
-
 /// Command lines to the instrument and its reply lines.
 class CommandExchange {
  public:
-  CommandExchange(frmDSO& main, ErrorLog& errorLog) : main_(main), errorLog_(errorLog) {}
+  CommandExchange(frmDSO& main, ErrorLog& errorLog)
+      : main_(main), errorLog_(errorLog), inquiries_(main) {}
 
   /// Sends the command as it stands, with CR LF behind it. For a query (its last character is "?")
   /// the result is the reply without the blanks around it and without its terminator; for any other
@@ -24,6 +24,9 @@ class CommandExchange {
   /// failed command, and a query that has failed to the last, are logged.
   std::string SendDSOCmd(const std::string& command);
 
+  /// What an Inquiry begins with.
+  Inquiries& inquiries() { return inquiries_; }
+
   /// Whether the last command went out.
   bool wasSent() const { return wasSent_; }
 
@@ -31,22 +34,16 @@ class CommandExchange {
   void LoadSetup();
 
  private:
-  friend class Inquiry;
   static constexpr int repeatLimit = 8;
   std::string ask(const std::string& query);
   std::string send(const std::string& command, int repeatsLeft);
+  void noteAnswer(const std::string& command, bool isAnswered);
   std::string exchange(const std::string& command);
 
   frmDSO& main_;
   ErrorLog& errorLog_;
   bool wasSent_ = false;
-  /// Why the last exchange failed, in the port's words; empty after a success and after silence.
-  std::string failure_;
-  /// The innermost one under way, if any.
-  Inquiry* inquiry_ = nullptr;
-  /// What the last one that missed something left in the status line.
-  std::string complaint_;
-  bool isComplaintOfOne_ = false;
+  Inquiries inquiries_;
 };
 
 }  // namespace tracewell

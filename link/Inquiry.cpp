@@ -7,47 +7,47 @@
 
 namespace tracewell {
 
-Inquiry::Inquiry(frmDSO& main, CommandExchange& exchange, std::string name, Of items, int count)
-    : main_(main),
-      exchange_(exchange),
-      waits_(main.services().standBy),
+Inquiry::Inquiry(Inquiries& all, std::string name, Of items, int count)
+    : all_(all),
+      main_(all.main_),
+      waits_(main_.services().standBy),
       name_(std::move(name)),
       items_(items),
       count_(count),
-      outer_(std::exchange(exchange.inquiry_, this)),
-      statusBefore_(main.lblStatus.caption()) {
+      outer_(std::exchange(all.current_, this)),
+      statusBefore_(main_.lblStatus.caption()) {
   forgetComplaint();
   shown_ = statusBefore_;
 }
 
-Inquiry::Inquiry(frmDSO& main, CommandExchange& exchange, const std::string& question)
-    : Inquiry(main, exchange, question, Of::oneQuestion, 1) {
+Inquiry::Inquiry(Inquiries& all, const std::string& question)
+    : Inquiry(all, question, Of::oneQuestion, 1) {
   next();
 }
 
 /// Whatever another handler has said meanwhile stays.
 Inquiry::~Inquiry() {
   finishItem();
-  exchange_.inquiry_ = outer_;
+  all_.current_ = outer_;
   const std::string& now = main_.lblStatus.caption();
   const std::string& kept = now == shown_ ? statusBefore_ : now;
   if (missing_ == 0) {
     showStatus(main_, kept);
     return;
   }
-  exchange_.complaint_ = (kept.empty() ? "" : kept + "; ") + complaint();
-  exchange_.isComplaintOfOne_ = items_ == Of::oneQuestion;
-  showStatus(main_, exchange_.complaint_);
+  all_.complaint_ = (kept.empty() ? "" : kept + "; ") + complaint();
+  all_.isComplaintOfOne_ = items_ == Of::oneQuestion;
+  showStatus(main_, all_.complaint_);
 }
 
 /// Settings that are sent belong to the task that has begun with questions, and so does a single
 /// question behind them.
 void Inquiry::forgetComplaint() {
   const bool isOver =
-      items_ == Of::questions || (items_ == Of::oneQuestion && exchange_.isComplaintOfOne_);
-  if (!isOver || exchange_.complaint_.empty()) return;
-  if (statusBefore_ == exchange_.complaint_) statusBefore_.clear();
-  exchange_.complaint_.clear();
+      items_ == Of::questions || (items_ == Of::oneQuestion && all_.isComplaintOfOne_);
+  if (!isOver || all_.complaint_.empty()) return;
+  if (statusBefore_ == all_.complaint_) statusBefore_.clear();
+  all_.complaint_.clear();
 }
 
 void Inquiry::show(const std::string& text) {
@@ -72,7 +72,7 @@ std::string Inquiry::progress() const {
 }
 
 std::string Inquiry::complaint() const {
-  const std::string& failure = exchange_.failure_;
+  const std::string& failure = all_.failure_;
   return missed() + (failure.empty() ? "" : " (" + failure + ")");
 }
 

@@ -3,9 +3,33 @@
 
 #include <string>
 
-#include "CommandExchange.h"
+#include "StandBy.h"
+#include "frmDSO.h"
 
 namespace tracewell {
+
+class Inquiry;
+
+/// What all questions to the instrument share. CommandExchange owns it and tells it how each
+/// exchange ended.
+class Inquiries {
+ public:
+  explicit Inquiries(frmDSO& main) : main_(main) {}
+
+  /// The innermost series under way, or null.
+  Inquiry* current() const { return current_; }
+  /// Why the last exchange failed, in the port's words; empty after a success and after silence.
+  void noteFailure(const std::string& reason) { failure_ = reason; }
+
+ private:
+  friend class Inquiry;
+  frmDSO& main_;
+  Inquiry* current_ = nullptr;
+  std::string failure_;
+  /// What the last one that missed something left in the status line.
+  std::string complaint_;
+  bool isComplaintOfOne_ = false;
+};
 
 /// A series of questions to the instrument, as long as it lives. The status line counts them while
 /// they are put, and says at the end how many had no answer; Escape ends the waits that are left.
@@ -15,9 +39,9 @@ class Inquiry {
   enum class Of { oneQuestion, questions, settings };
 
   /// `name` is what the status line calls it, `count` how many items follow.
-  Inquiry(frmDSO& main, CommandExchange& exchange, std::string name, Of items, int count);
+  Inquiry(Inquiries& all, std::string name, Of items, int count);
   /// A single question.
-  Inquiry(frmDSO& main, CommandExchange& exchange, const std::string& question);
+  Inquiry(Inquiries& all, const std::string& question);
   ~Inquiry();
   Inquiry(const Inquiry&) = delete;
 
@@ -37,8 +61,8 @@ class Inquiry {
   std::string complaint() const;
   std::string missed() const;
 
+  Inquiries& all_;
   frmDSO& main_;
-  CommandExchange& exchange_;
   StandBy::Burst waits_;
   std::string name_;
   Of items_;

@@ -24,7 +24,7 @@ bool isNull(const ValueLabel& scale) {
 void InstrumentState::InitDSO() {
   try {
     applyBaudRateAndPort();
-    Inquiry inquiry(main_, exchange_, main_.fmInstrument.caption(), Inquiry::Of::questions, 5);
+    Inquiry inquiry(exchange_.inquiries(), main_.fmInstrument.caption(), Inquiry::Of::questions, 5);
     markAllUnread();
     inquiry.next();
     main_.lblChan1.caption = trimmed(exchange_.SendDSOCmd(":CHAN1:SCAL?"));

@@ -12,7 +12,7 @@ void SettingsBurst::writeAndVerify(const std::string& name, std::span<const std:
   const ShortTimeOut shortTimeOut(main_);
   main_.txtMsg.text = "";
   const int count = static_cast<int>(stems.size());
-  Inquiry inquiry(main_, exchange_, name, Inquiry::Of::settings, count - first);
+  Inquiry inquiry(exchange_.inquiries(), name, Inquiry::Of::settings, count - first);
   for (int i = first; i < count; ++i) {
     inquiry.next();
     bool isDone = false;

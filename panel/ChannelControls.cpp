@@ -105,7 +105,7 @@ void ChannelControls::editSettings(const Channel& channel) {
 
 void ChannelControls::readSettings(const Channel& channel) {
   const WaitingNotice notice(main_);
-  Inquiry inquiry(main_, exchange_, channel.menuEntry.caption(), Inquiry::Of::questions, 5);
+  Inquiry inquiry(exchange_.inquiries(), channel.menuEntry.caption(), Inquiry::Of::questions, 5);
   channelDialog_.setupRow = channel.setupRow;
   for (int i = 0; i < 5; ++i) {
     inquiry.next();

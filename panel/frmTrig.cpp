@@ -53,7 +53,7 @@ void frmTrig::cmdTrig_Click() {
 
 /// Setting a box runs its click, so the instrument's values go into the table, too.
 void frmTrig::readSettings() {
-  Inquiry inquiry(main_, exchange_, caption(), Inquiry::Of::questions, cbTrig.size());
+  Inquiry inquiry(exchange_.inquiries(), caption(), Inquiry::Of::questions, cbTrig.size());
   for (int i = 0; i < cbTrig.size(); ++i) {
     inquiry.next();
     const std::string query(TrigQuery[static_cast<std::size_t>(i)]);
@@ -66,7 +66,8 @@ void frmTrig::readSettings() {
 
 void frmTrig::readAdvancedSettings() {
   std::optional<Inquiry> inquiry;
-  if (isAdvanced()) inquiry.emplace(main_, exchange_, fmAdv.caption(), Inquiry::Of::questions, 5);
+  if (isAdvanced())
+    inquiry.emplace(exchange_.inquiries(), fmAdv.caption(), Inquiry::Of::questions, 5);
   for (int i = 0; i < 5; ++i) {
     if (inquiry) inquiry->next();
     const std::string query(TrigAdvQuery[static_cast<std::size_t>(i)]);

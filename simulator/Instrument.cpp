@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "Measurements.h"
+#include "MeasuredSignal.h"
 
 namespace tracewell {
 namespace {

@@ -66,7 +66,7 @@ void Measurements::RunMeasurements() {
   for (const int channel : {1, 2})
     count += flaggedCount(channel + 1, VoltMeasName.size()) +
              flaggedCount(channel + 3, FreqMeasName.size());
-  Inquiry inquiry(main_, exchange_, main_.fmMeasure.caption(), Inquiry::Of::questions, count);
+  Inquiry inquiry(exchange_.inquiries(), main_.fmMeasure.caption(), Inquiry::Of::questions, count);
   for (const int channel : {1, 2}) {
     chooseSource(channel);
     measureFlagged(inquiry, channel, VoltMeasName, VoltMeasQuery, channel + 1);
@@ -159,7 +159,7 @@ void Measurements::cmdFMeasure_Click() {
 void Measurements::measureQuickly() {
   const ShortTimeOut shortTimeOut(main_, 1);
   chooseSource(main_.FMeasChan);
-  Inquiry inquiry(main_, exchange_, main_.fmMeasure.caption(), Inquiry::Of::questions,
+  Inquiry inquiry(exchange_.inquiries(), main_.fmMeasure.caption(), Inquiry::Of::questions,
                   flaggedCount(SetupTable::voltageChannel1, FreqMeasQuery.size()));
   int label = 0;
   for (std::size_t item = 0; item < FreqMeasQuery.size(); ++item) {

@@ -15,7 +15,7 @@
 #include "GraphView.h"
 #include "MainFormTest.h"
 #include "ProgramFolder.h"
-#include "Text.h"
+#include "QtValues.h"
 #include "Theme.h"
 
 namespace tracewell {

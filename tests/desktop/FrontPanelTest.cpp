@@ -3,7 +3,7 @@
 #include <QWheelEvent>
 
 #include "MainFormTest.h"
-#include "Text.h"
+#include "QtValues.h"
 
 namespace tracewell {
 

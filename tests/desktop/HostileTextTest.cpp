@@ -9,7 +9,7 @@
 #include "DesktopDialogs.h"
 #include "MainFormTest.h"
 #include "ShownText.h"
-#include "Text.h"
+#include "QtValues.h"
 
 namespace tracewell {
 namespace {

@@ -6,8 +6,8 @@
 
 #include "DesktopProgram.h"
 #include "Doubles.h"
-#include "Images.h"
-#include "Text.h"
+#include "QtImages.h"
+#include "QtValues.h"
 
 namespace tracewell {
 

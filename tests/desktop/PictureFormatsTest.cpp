@@ -10,7 +10,7 @@
 #include "Error.h"
 #include "Files.h"
 #include "Pictures.h"
-#include "Text.h"
+#include "QtValues.h"
 
 namespace tracewell {
 namespace {

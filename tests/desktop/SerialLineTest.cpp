@@ -11,7 +11,7 @@
 #include "DesktopClock.h"
 #include "Doubles.h"
 #include "QtSerialChannel.h"
-#include "Text.h"
+#include "QtValues.h"
 
 namespace tracewell {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Measurements.h"
+#include "MeasuredSignal.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Images.h"
+#include "QtImages.h"
 
 namespace tracewell {
 

@@ -73,7 +73,7 @@ struct SharedState {
   /// What the status line says of line settings that are not in use.
   std::string LinkNotice;
 
-  /// Whole paths, in the order in which they were noted. Kept through app/KeptFiles.h.
+  /// Whole paths, in the order in which they were noted. Kept through app/window/KeptFiles.h.
   std::vector<std::filesystem::path> FilesToKeep;
 
   /// The setup table.

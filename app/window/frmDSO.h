@@ -122,9 +122,9 @@ class frmDSO : public Window, public SharedState {
   Button cmdExportCSV{*this, "cmdExportCSV", "Export CSV"};
   Button cmdClose{*this, "cmdClose", "Close"};
 
-  /// Written through app/StatusLine.h.
+  /// Written through app/window/StatusLine.h.
   ValueLabel lblStatus{*this, "lblStatus", ""};
-  /// Written through app/KeptFiles.h.
+  /// Written through app/window/KeptFiles.h.
   ValueLabel lblNotice{*this, "lblNotice", ""};
 
   /// Waveform requests, and a bench diagnostic that nothing enables. Milliseconds.
