@@ -35,12 +35,12 @@ void Tracewell::connectPanel() {
   main.slideCH2.pointerValueChanged = [this] { channels.slideCH2_PointerValueChanged(); };
   main.slideCH1.pointerValueCommitted = [this] { channels.slideCH1_PointerValueCommitted(); };
   main.slideCH2.pointerValueCommitted = [this] { channels.slideCH2_PointerValueCommitted(); };
-  main.cmdCh1.click = [this] { channels.cmdCh1_Click(); };
-  main.mnbCh1.click = [this] { channels.cmdCh1_Click(); };
-  main.cmdCh2.click = [this] { channels.cmdCh2_Click(); };
-  main.mnbCh2.click = [this] { channels.cmdCh2_Click(); };
-  main.cmdChannel1.click = [this] { channels.cmdChannel1_Click(); };
-  main.cmdChannel2.click = [this] { channels.cmdChannel2_Click(); };
+  main.cmdCh1.click = [this] { channelDialog.cmdCh1_Click(); };
+  main.mnbCh1.click = [this] { channelDialog.cmdCh1_Click(); };
+  main.cmdCh2.click = [this] { channelDialog.cmdCh2_Click(); };
+  main.mnbCh2.click = [this] { channelDialog.cmdCh2_Click(); };
+  main.cmdChannel1.click = [this] { channelScale.cmdChannel1_Click(); };
+  main.cmdChannel2.click = [this] { channelScale.cmdChannel2_Click(); };
   main.slideTime.pointerValueChanged = [this] { timeControls.slideTime_PointerValueChanged(); };
   main.slideTime.pointerValueCommitted = [this] { timeControls.slideTime_PointerValueCommitted(); };
   main.slideTrig.pointerValueChanged = [this] { timeControls.slideTrig_PointerValueChanged(); };
@@ -67,7 +67,7 @@ void Tracewell::connectView() {
   main.cmdGraph.click = [this] { graphStyle.cmdGraph_Click(); };
   main.mnbGraph.click = [this] { graphStyle.cmdGraph_Click(); };
   main.cmdVMeasure.click = [this] { measurements.cmdVMeasure_Click(); };
-  main.mnbVoltage.click = [this] { measurements.cmdVMeasure_Click(); };
+  main.mnbVoltage.click = [this] { measurements.mnbVoltage_Click(); };
   main.cmdFMeasure.click = [this] { measurements.cmdFMeasure_Click(); };
   main.cmdPrint.click = [this] { printing.cmdPrint_Click(); };
   main.mnbPrint.click = [this] { printing.cmdPrint_Click(); };

@@ -17,6 +17,8 @@
 #include "WaveformButtons.h"
 #include "frmAbout.h"
 #include "frmAcq.h"
+#include "frmChDiv.h"
+#include "frmChannel.h"
 #include "frmCmd.h"
 #include "frmDisplay.h"
 #include "frmGraph.h"

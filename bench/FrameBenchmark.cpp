@@ -18,7 +18,8 @@ class GraphBench {
     view.bind(graph);
     for (int i = 0; i < SharedState::sampleCount; ++i)
       x[static_cast<std::size_t>(i)] = static_cast<std::int16_t>(i - 250);
-    for (int number = 1; number <= Graph::plotCount; ++number) graph.plot(number).visible = true;
+    for (int number = 1; number <= ScopeGraph::plotCount; ++number)
+      graph.plot(number).visible = true;
     graph.cursor("cur1").visible = true;
     graph.cursor("cur2").visible = true;
     view.show();
@@ -26,7 +27,7 @@ class GraphBench {
   }
 
   void plotAll(double phase) {
-    for (int number = 1; number <= Graph::plotCount; ++number) {
+    for (int number = 1; number <= ScopeGraph::plotCount; ++number) {
       for (std::size_t i = 0; i < y.size(); ++i) {
         const double wave = std::sin(static_cast<double>(i) / 40 + number + phase);
         y[i] = static_cast<std::int16_t>(std::lround(150 * wave));

@@ -11,9 +11,8 @@
 #include <cmath>
 
 #include "Graph.h"
-#include "SharedState.h"
-#include "ShownText.h"
 #include "QtValues.h"
+#include "ShownText.h"
 
 namespace tracewell {
 namespace {
@@ -29,7 +28,7 @@ const QColor noteColour(255, 171, 64);
 /// Ticks at whole divisions, five small ones between; no numbers.
 QSharedPointer<QCPAxisTicker> divisionTicker() {
   auto ticker = QSharedPointer<QCPAxisTickerFixed>::create();
-  ticker->setTickStep(SharedState::unitsPerDivision);
+  ticker->setTickStep(Graph::unitsPerDivision);
   return ticker;
 }
 
@@ -179,7 +178,7 @@ void GraphView::showAxes() {
                                 : plot_->axisRect()->height() / (y.maximum() - y.minimum());
     QPen pen = ticks;
     // Dash lengths count in pen widths: one pixel drawn, the rest of a fifth of a division not.
-    const qreal spacing = length * SharedState::unitsPerDivision / 5;
+    const qreal spacing = length * Graph::unitsPerDivision / 5;
     pen.setDashPattern({1.0 / 5, qMax(0.2, (spacing - 1) / 5)});
     centreLines_[i]->setPen(pen);
     centreLines_[i]->start->setCoords(ends[i][0], ends[i][1]);

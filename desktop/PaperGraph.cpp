@@ -4,9 +4,9 @@
 #include <QPolygonF>
 #include <array>
 
-#include "SharedState.h"
-#include "ShownText.h"
+#include "Graph.h"
 #include "QtValues.h"
+#include "ShownText.h"
 
 namespace tracewell {
 namespace {
@@ -53,8 +53,8 @@ void paintGrid(QPainter& painter, const QRectF& grid, qreal unit) {
 }
 
 QPolygonF lineOf(const GraphPage::Trace& trace, const QRectF& grid) {
-  const qreal perUnitAcross = grid.width() / (divisionsAcross * SharedState::unitsPerDivision);
-  const qreal perUnitUp = grid.height() / (divisionsUp * SharedState::unitsPerDivision);
+  const qreal perUnitAcross = grid.width() / (divisionsAcross * Graph::unitsPerDivision);
+  const qreal perUnitUp = grid.height() / (divisionsUp * Graph::unitsPerDivision);
   QPolygonF line;
   for (std::size_t i = 0; i < trace.x.size(); ++i)
     line << QPointF(grid.center().x() + trace.x[i] * perUnitAcross,

@@ -49,7 +49,7 @@ std::string withoutOuterBlanks(std::string_view text) {
 }
 
 /// Loading and saving ask in the same words.
-FileDialog setupDialog(const std::filesystem::path& folder) {
+FileDialog dialogDSO(const std::filesystem::path& folder) {
   return {folder, "Load DSO Setup file", defaultName, "*.dso|*.dso"};
 }
 
@@ -116,12 +116,12 @@ void SetupFiles::WriteSetupFile(const std::filesystem::path& path) {
 
 void SetupFiles::mnbLoadSetup_Click() {
   Services& services = main_.services();
-  loadFile(services.dialogs.openFile(setupDialog(services.programFolder)));
+  loadFile(services.dialogs.openFile(dialogDSO(services.programFolder)));
 }
 
 void SetupFiles::mnbSaveSetup_Click() {
   Services& services = main_.services();
-  WriteSetupFile(services.dialogs.saveFile(setupDialog(services.programFolder)));
+  WriteSetupFile(services.dialogs.saveFile(dialogDSO(services.programFolder)));
 }
 
 }  // namespace tracewell

@@ -39,13 +39,13 @@ void WaveformButtons::cmdLoadCSV_Click() {
   if (path.empty()) return;
   main_.txtMsg.text = readWaveformFile(path);
   const std::vector<double> points = readFirstColumn(main_.txtMsg.text());
-  Plot& load1 = main_.graphDSO.plot(Graph::firstReference);
+  Plot& load1 = main_.graphDSO.plot(ScopeGraph::firstReference);
   load1.plotXvsY(main_.XIndex, points);
   load1.visible = true;
 }
 
 void WaveformButtons::cmdRemove_Click() {
-  for (int number = Graph::firstReference; number <= Graph::plotCount; ++number)
+  for (int number = ScopeGraph::firstReference; number <= ScopeGraph::plotCount; ++number)
     main_.graphDSO.plot(number).visible = false;
 }
 

@@ -6,13 +6,14 @@
 
 #include "Error.h"
 #include "Files.h"
+#include "Graph.h"
 #include "Numbers.h"
 #include "SharedState.h"
 
 namespace tracewell {
 namespace {
 
-constexpr double unitsPerDivision = SharedState::unitsPerDivision;
+constexpr double unitsPerDivision = Graph::unitsPerDivision;
 
 /// Takes the next complete line off the front of `text`; false when there is none.
 bool takeLine(std::string_view& text, std::string_view& line) {

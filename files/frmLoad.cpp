@@ -119,16 +119,16 @@ void frmLoad::fileCSV_Click() {
     constexpr std::size_t extensionLength = 3;
     std::string base = pathText(folder_ / pathOf(fileCSV.chosenText()));
     base.resize(base.size() - extensionLength);
-    const WaveformDescription set = readDescription(pathOf(base + "inf"));
-    if (!isPictureType(set.picturePath))
-      throw Error(invalidProcedureCall, "Tracewell", "No picture: " + set.picturePath);
-    pictureCSV.image = services().pictures.load(pathOf(set.picturePath));
-    txtFile.text = "Data File : " + set.dataFile + "\r\nAuthor : " + set.author +
-                   "\r\nDescription : " + set.description + "\r\nCh1 : " + set.channel1 +
-                   "\r\nCh2 : " + set.channel2 + "\r\nTime : " + set.time + "\r\n";
+    const WaveformDescription txtCSV = readDescription(pathOf(base + "inf"));
+    if (!isPictureType(txtCSV.picturePath))
+      throw Error(invalidProcedureCall, "Tracewell", "No picture: " + txtCSV.picturePath);
+    pictureCSV.image = services().pictures.load(pathOf(txtCSV.picturePath));
+    txtFile.text = "Data File : " + txtCSV.dataFile + "\r\nAuthor : " + txtCSV.author +
+                   "\r\nDescription : " + txtCSV.description + "\r\nCh1 : " + txtCSV.channel1 +
+                   "\r\nCh2 : " + txtCSV.channel2 + "\r\nTime : " + txtCSV.time + "\r\n";
     basePath_ = base;
-    channel1Value_ = set.channel1;
-    channel2Value_ = set.channel2;
+    channel1Value_ = txtCSV.channel1;
+    channel2Value_ = txtCSV.channel2;
     shownFile_ = fileCSV.chosen();
   } catch (const Error&) {
     services().dialogs.showMessage("File is not correct!");
@@ -148,11 +148,11 @@ void frmLoad::cmdOK_Click() {
 
 /// Into the first reference plot that is free and, for the second channel, the one behind it.
 void frmLoad::drawSet(const LoadedWaveforms& set) {
-  int number = Graph::firstReference;
-  while (number <= Graph::plotCount && main_.graphDSO.plot(number).visible()) ++number;
-  if (number > Graph::plotCount) return;
+  int number = ScopeGraph::firstReference;
+  while (number <= ScopeGraph::plotCount && main_.graphDSO.plot(number).visible()) ++number;
+  if (number > ScopeGraph::plotCount) return;
   const auto draw = [&](const std::vector<double>& points) {
-    if (points.empty() || number > Graph::plotCount) return;
+    if (points.empty() || number > ScopeGraph::plotCount) return;
     Plot& plot = main_.graphDSO.plot(number);
     plot.plotXvsY(main_.XIndex, points);
     plot.visible = true;

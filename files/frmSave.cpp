@@ -78,9 +78,9 @@ void frmSave::cmdReload_Click() {
 
 void frmSave::cmdOK_Click() {
   const std::string pattern = "*." + pictureExtension_;
-  const std::filesystem::path path = services().dialogs.saveFile(
-      {services().programFolder, caption(), timeStamp(services().clock), pattern + "|" + pattern});
-  saveSet(path);
+  const FileDialog dialogSave{services().programFolder, caption(), timeStamp(services().clock),
+                              pattern + "|" + pattern};
+  saveSet(services().dialogs.saveFile(dialogSave));
   hide();
   main_.refresh();
 }

@@ -64,10 +64,10 @@ void Acquisition::DataReady(const std::string& data) {
 std::int16_t Acquisition::keepRecord(std::int16_t channel, const std::string& data) {
   if (channel == 1) {
     main_.Ch1Raw = data;
-    return toInt16(SharedState::unitsPerDivision * main_.Ch1Pos);
+    return toInt16(Graph::unitsPerDivision * main_.Ch1Pos);
   }
   main_.Ch2Raw = data;
-  return mulInt16(main_.Ch2Pos, SharedState::unitsPerDivision);
+  return mulInt16(main_.Ch2Pos, Graph::unitsPerDivision);
 }
 
 void Acquisition::StopAcq() {
@@ -77,7 +77,7 @@ void Acquisition::StopAcq() {
       main_.services().port.reset();
       main_.PortBusy = false;
     }
-    main_.cmdStart.caption = main_.Msg[2];
+    showOnStart(main_, 2);
   } catch (const Error& error) {
     errorLog_.ErrLog(error, "StopAcq : ");
   }
@@ -87,7 +87,7 @@ void Acquisition::ResumeAcq() {
   showRunning(main_);
   main_.PortBusy = true;
   main_.tmDSO.enabled = true;
-  main_.cmdStart.caption = main_.Msg[3];
+  showOnStart(main_, 3);
 }
 
 void Acquisition::RunAcq() {
@@ -98,10 +98,10 @@ void Acquisition::RunAcq() {
 void Acquisition::cmdRunStop_Click() {
   if (main_.cmdRunStop.caption() != main_.Msg[5]) {
     exchange_.SendDSOCmd(":Stop");
-    main_.cmdRunStop.caption = main_.Msg[5];
+    showOnRunStop(main_, 5);
   } else {
     exchange_.SendDSOCmd(":Run");
-    main_.cmdRunStop.caption = main_.Msg[6];
+    showOnRunStop(main_, 6);
   }
 }
 

@@ -6,6 +6,7 @@
 #include "Numbers.h"
 #include "PortNotice.h"
 #include "SlideCaption.h"
+#include "SlideValues.h"
 #include "TriggerMarker.h"
 
 namespace tracewell {
@@ -114,13 +115,14 @@ double InstrumentState::readPosition(const std::string& query, const ValueLabel&
 
 void InstrumentState::showPosition(Slide& slide, double divisions) {
   slide.value = divisions;
+  noteSlideValue(main_, slide);
   slide.caption = slideTitle(slide.caption()) + formatTwoDecimals(divisions) + " Div";
 }
 
 void InstrumentState::readChannel1Position() {
   if (isNull(main_.lblChan1)) return;
   main_.Ch1Pos = readPosition("CHAN1:OFFS?", main_.lblChan1, main_.slideCH1);
-  main_.Ch1PosCounts = toInt16(main_.Ch1Pos * SharedState::unitsPerDivision);
+  main_.Ch1PosCounts = toInt16(main_.Ch1Pos * Graph::unitsPerDivision);
   showPosition(main_.slideCH1, main_.Ch1Pos);
 }
 
@@ -128,7 +130,7 @@ void InstrumentState::readChannel1Position() {
 void InstrumentState::readChannel2Position() {
   if (isNull(main_.lblChan2)) return;
   main_.Ch2Pos = toInt16(readPosition("CHAN2:OFFS?", main_.lblChan2, main_.slideCH2));
-  main_.Ch2PosCounts = mulInt16(main_.Ch2Pos, SharedState::unitsPerDivision);
+  main_.Ch2PosCounts = mulInt16(main_.Ch2Pos, Graph::unitsPerDivision);
   showPosition(main_.slideCH2, main_.Ch2Pos);
 }
 

@@ -33,7 +33,7 @@ class InstrumentState {
   void readChannel2Position();
   /// In divisions; 0 where there is no answer, and the slide is marked then.
   double readPosition(const std::string& query, const ValueLabel& scale, Slide& slide);
-  static void showPosition(Slide& slide, double divisions);
+  void showPosition(Slide& slide, double divisions);
 
   frmDSO& main_;
   CommandExchange& exchange_;

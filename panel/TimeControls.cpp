@@ -3,7 +3,7 @@
 
 #include "Numbers.h"
 #include "ScaleTables.h"
-#include "SlideCaption.h"
+#include "SlideValues.h"
 #include "TriggerMarker.h"
 
 namespace tracewell {
@@ -21,8 +21,7 @@ double delaySeconds(const std::string& scale, double divisions) {
 }  // namespace
 
 void TimeControls::slideTime_PointerValueChanged() {
-  Slide& slide = main_.slideTime;
-  slide.caption = slideCaption(slide.caption(), slide.value(), " Div");
+  showSlideValue(main_, main_.slideTime);
 }
 
 void TimeControls::slideTime_PointerValueCommitted() {
@@ -37,8 +36,7 @@ void TimeControls::slideTime_PointerValueCommitted() {
 }
 
 void TimeControls::slideTrig_PointerValueChanged() {
-  Slide& slide = main_.slideTrig;
-  slide.caption = slideCaption(slide.caption(), slide.value(), " V");
+  showSlideValue(main_, main_.slideTrig);
   main_.TriggerLevelSet = true;
   UpdateTriggerMarker(main_);
 }

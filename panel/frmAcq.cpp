@@ -3,8 +3,8 @@
 
 #include <array>
 
-#include "ScaleTables.h"
 #include "SettingsBurst.h"
+#include "SettingsQueries.h"
 #include "Waiting.h"
 
 namespace tracewell {

@@ -13,6 +13,11 @@ frmChDiv::frmChDiv(frmDSO& main) : Window("frmChDiv", "Volt/Div", main.services(
   cmdClose.click = [this] { cmdClose_Click(); };
 }
 
+void frmChDiv::pickFor(const char* channelNumber) {
+  tag = channelNumber;
+  showModal();
+}
+
 Knob& frmChDiv::knob() {
   return tag == "1" ? main_.knobChan1 : main_.knobChan2;
 }

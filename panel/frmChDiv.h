@@ -20,7 +20,11 @@ class frmChDiv : public Window {
   Button cmdSelect{*this, "cmdSelect", "Select"};
   Button cmdClose{*this, "cmdClose", "Close"};
 
+  void cmdChannel1_Click() { pickFor("1"); }
+  void cmdChannel2_Click() { pickFor("2"); }
+
  private:
+  void pickFor(const char* channelNumber);
   Knob& knob();
   void Form_Activate();
   void cmdSelect_Click();

@@ -1,15 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Acquisition.h"
+#include "Channel.h"
 #include "Controls.h"
-#include "frmDSO.h"
+#include "InstrumentState.h"
+#include "SettingsBurst.h"
 
 namespace tracewell {
 
-/// The channel dialog: edits one channel's row of the setup table. Its tag reads "1" after OK.
+/// The channel dialog: reads one channel's settings, edits its row of the setup table, and sends
+/// the row. Its tag reads "1" after OK.
 class frmChannel : public Window {
  public:
-  explicit frmChannel(frmDSO& main);
+  frmChannel(frmDSO& main, CommandExchange& exchange, ErrorLog& errorLog, Acquisition& acquisition,
+             SettingsBurst& burst, InstrumentState& instrument);
 
   ControlArray<CheckBox> cbCh{*this, "cbCh", {"Display On", "Invert On", "BW Limit On"}};
   Frame fmCoupling{*this, "fmCoupling", "Coupling"};
@@ -19,20 +24,29 @@ class frmChannel : public Window {
   Button cmdOK{*this, "cmdOK", "OK"};
   Button cmdCancel{*this, "cmdCancel", "Cancel"};
 
-  /// The row that OK writes; set by the opener.
-  std::int16_t setupRow = SetupTable::channel1;
+  /// Leaves the acquisition running meanwhile, and running afterwards in every case.
+  void cmdCh1_Click() { editSettings(Channel::of(main_, 1)); }
+  void cmdCh2_Click() { editSettings(Channel::of(main_, 2)); }
 
+ private:
+  void editSettings(const Channel& channel);
+  void readSettings(const Channel& channel);
   /// Shows the reply to the query of a place in the row. What is no number leaves the control as
   /// the dialog last had it, and marks it as unread. Raises an error for a number without a
   /// control.
   void show(int place, const std::string& reply);
-
- private:
   void cmdOK_Click();
   void cmdCancel_Click();
   void keepSelected(ControlArray<OptionButton>& options, int column);
 
   frmDSO& main_;
+  CommandExchange& exchange_;
+  ErrorLog& errorLog_;
+  Acquisition& acquisition_;
+  SettingsBurst& burst_;
+  InstrumentState& instrument_;
+  /// The row that OK writes.
+  std::int16_t setupRow_ = SetupTable::channel1;
 };
 
 }  // namespace tracewell

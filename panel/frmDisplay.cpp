@@ -3,8 +3,8 @@
 
 #include "Inquiry.h"
 #include "Numbers.h"
-#include "ScaleTables.h"
 #include "SettingsBurst.h"
+#include "SettingsQueries.h"
 #include "Waiting.h"
 #include "WaitingNotice.h"
 

@@ -5,7 +5,7 @@
 
 #include "Inquiry.h"
 #include "Numbers.h"
-#include "ScaleTables.h"
+#include "SettingsQueries.h"
 #include "TriggerMarker.h"
 #include "WaitingNotice.h"
 

@@ -28,7 +28,7 @@ class Levels {
 
   double lowest = 0;
   double highest = 0;
-  /// Where the signal rests: the mean of the outer tenth at each end.
+  /// Where the signal rests: the mean of what is no farther from each end than 0.3 of the swing.
   double top = 0;
   double base = 0;
 

@@ -18,6 +18,7 @@ class LanguageMenu {
  private:
   void load(const std::string& number);
   void goBackTo(const std::string& number);
+  void showStateAgain();
 
   frmDSO& main_;
   Captions& captions_;

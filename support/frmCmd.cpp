@@ -29,7 +29,7 @@ frmCmd::frmCmd(frmDSO& main, ErrorLog& errorLog, Acquisition& acquisition, Comma
   formLoad = [this] { Form_Load(); };
   tvCmd.nodeClick = [this](int node) { tvCmd_NodeClick(node); };
   txtCmd.keyDown = [this](int code) { txtCmd_KeyDown(code); };
-  cmdRun.click = [this] { RunConsoleCommand(); };
+  cmdRun.click = [this] { cmdRun_Click(); };
   cmdOK.click = [this] { hide(); };
 }
 
@@ -56,8 +56,8 @@ void frmCmd::readCommands() {
       readWholeFile(services().programFolder / "dso.cmd", fileLimit::commandList);
   for (const CommandEntry& line : readCommandEntries(list)) {
     if (entry >= mostEntries) throw subscriptError();
-    CmdDesc_[entry] = line.description;
-    CmdHint_[entry] = line.hint;
+    CmdDesc[entry] = line.description;
+    CmdHint[entry] = line.hint;
     ++entry;
     if (!line.hasNode) continue;
     const bool isCommand = line.node.starts_with(':');
@@ -69,12 +69,16 @@ void frmCmd::readCommands() {
 void frmCmd::tvCmd_NodeClick(int node) {
   const auto entry = static_cast<std::size_t>(node - 1);
   txtCmd.text = tvCmd.nodes().at(entry).text;
-  lblDescription.caption = CmdDesc_.at(entry);
-  lblCmdHint.caption = CmdHint_.at(entry);
+  lblDescription.caption = CmdDesc.at(entry);
+  lblCmdHint.caption = CmdHint.at(entry);
 }
 
 void frmCmd::txtCmd_KeyDown(int code) {
   if (code == TextBox::enterKey) RunConsoleCommand();
+}
+
+void frmCmd::cmdRun_Click() {
+  RunConsoleCommand();
 }
 
 void frmCmd::RunConsoleCommand() {

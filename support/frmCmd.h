@@ -33,6 +33,7 @@ class frmCmd : public Window {
   void readCommands();
   void tvCmd_NodeClick(int node);
   void txtCmd_KeyDown(int code);
+  void cmdRun_Click();
   void RunConsoleCommand();
 
   frmDSO& main_;
@@ -40,8 +41,8 @@ class frmCmd : public Window {
   Acquisition& acquisition_;
   CommandLine& commandLine_;
   /// By entry; node n of the tree shows entry n - 1.
-  std::array<std::string, mostEntries> CmdDesc_;
-  std::array<std::string, mostEntries> CmdHint_;
+  std::array<std::string, mostEntries> CmdDesc;
+  std::array<std::string, mostEntries> CmdHint;
 };
 
 }  // namespace tracewell

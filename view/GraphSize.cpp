@@ -4,9 +4,8 @@
 namespace tracewell {
 
 void GraphSize::ToggleGraphSize() {
-  main_.GraphEnlarged = !main_.GraphEnlarged;
-  main_.graphDSO.enlarged = main_.GraphEnlarged;
-  for (Control* panel : panels()) panel->visible = !main_.GraphEnlarged;
+  main_.GraphEnlarged = !main_.GraphEnlarged();
+  for (Control* panel : panels()) panel->visible = !main_.GraphEnlarged();
 }
 
 /// What makes room: all that stands beside the graph and below its buttons.

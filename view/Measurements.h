@@ -21,6 +21,7 @@ class Measurements {
   /// Stops the acquisition, has the user choose, measures, and leaves the acquisition stopped. Logs
   /// its failure, as the next one does.
   void cmdVMeasure_Click();
+  void mnbVoltage_Click() { cmdVMeasure_Click(); }
   /// Measures the times of one channel with the last choice. The acquisition goes on.
   void cmdFMeasure_Click();
   /// The same after the user has chosen.

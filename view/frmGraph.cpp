@@ -5,13 +5,13 @@ namespace tracewell {
 
 frmGraph::frmGraph(frmDSO& main) : Window("frmGraph", "Graph Setup", main.services()), main_(main) {
   formActivate = [this] { Form_Activate(); };
-  for (int row = 0; row < Graph::plotCount; ++row) {
+  for (int row = 0; row < ScopeGraph::plotCount; ++row) {
     cmdLine(row).click = [this, row] { cmdLine_Click(row); };
     opDot(row).click = [this, row] { opDot_Click(row); };
     opSolid(row).click = [this, row] { opSolid_Click(row); };
   }
-  cmdPlotArea.click = [this] { pickColour(cmdPlotArea); };
-  cmdPlotGrid.click = [this] { pickColour(cmdPlotGrid); };
+  cmdPlotArea.click = [this] { cmdPlotArea_Click(); };
+  cmdPlotGrid.click = [this] { cmdPlotGrid_Click(); };
   cmdOK.click = [this] { cmdOK_Click(); };
   cmdCancel.click = [this] { hide(); };
 }
@@ -21,7 +21,7 @@ void frmGraph::cmdGraph_Click() {
 }
 
 void frmGraph::Form_Activate() {
-  for (int row = 0; row < Graph::plotCount; ++row) {
+  for (int row = 0; row < ScopeGraph::plotCount; ++row) {
     const Plot& plot = main_.graphDSO.plot(row + 1);
     const bool isSolid = plot.lineStyle() == Plot::solidLine;
     lblPlot(row).caption = plot.name();
@@ -40,8 +40,17 @@ void frmGraph::cmdLine_Click(int row) {
   linePlot(row).borderColour = *cmdLine(row).backColour();
 }
 
+void frmGraph::cmdPlotArea_Click() {
+  pickColour(cmdPlotArea);
+}
+
+void frmGraph::cmdPlotGrid_Click() {
+  pickColour(cmdPlotGrid);
+}
+
 void frmGraph::pickColour(Button& button) {
-  button.backColour = services().dialogs.pickColour(button.backColour().value_or(Colour()));
+  Dialogs& dialogGraph = services().dialogs;
+  button.backColour = dialogGraph.pickColour(button.backColour().value_or(Colour()));
 }
 
 /// Each box writes the other one's style and then changes the other box, whose own handler writes
@@ -64,7 +73,7 @@ void frmGraph::showStyle(int row) {
 }
 
 void frmGraph::cmdOK_Click() {
-  for (int row = 0; row < Graph::plotCount; ++row) {
+  for (int row = 0; row < ScopeGraph::plotCount; ++row) {
     Plot& plot = main_.graphDSO.plot(row + 1);
     plot.lineColour = linePlot(row).borderColour();
     plot.lineStyle = Plot::solidLine;

@@ -13,8 +13,8 @@ class frmGraph : public Window {
   explicit frmGraph(frmDSO& main);
 
   Frame fmPlots{*this, "fmPlots", "Plots"};
-  ControlArray<ValueLabel> lblPlot{*this, "lblPlot", Graph::plotCount};
-  ControlArray<Line> linePlot{*this, "linePlot", Graph::plotCount};
+  ControlArray<ValueLabel> lblPlot{*this, "lblPlot", ScopeGraph::plotCount};
+  ControlArray<Line> linePlot{*this, "linePlot", ScopeGraph::plotCount};
   ControlArray<Button> cmdLine{*this, "cmdLine", {"", "", "", "", "", ""}};
   ControlArray<CheckBox> opDot{*this, "opDot", {"Dot", "Dot", "Dot", "Dot", "Dot", "Dot"}};
   ControlArray<CheckBox> opSolid{
@@ -34,6 +34,8 @@ class frmGraph : public Window {
   void opDot_Click(int row);
   void opSolid_Click(int row);
   void showStyle(int row);
+  void cmdPlotArea_Click();
+  void cmdPlotGrid_Click();
   void pickColour(Button& button);
   void cmdOK_Click();
 

@@ -8,27 +8,49 @@ constexpr Colour blue{0, 0, 255};
 constexpr Colour green{0, 255, 0};
 constexpr Colour red{255, 0, 0};
 
+void showConnection(frmDSO& main, std::size_t message) {
+  main.shownMessages.lblConnect = message;
+  main.lblConnect.caption = main.Msg[message];
+}
+
 }  // namespace
 
 void showWaitingForConnect(frmDSO& main) {
-  main.lblConnect.caption = main.Msg[1];
+  showConnection(main, 1);
   main.spConnect.fillColour = blue;
 }
 
 void showRunning(frmDSO& main) {
   main.spConnect.fillColour = green;
-  main.lblConnect.caption = main.Msg[7];
-  main.cmdStart.caption = main.Msg[2];
+  showConnection(main, 7);
+  showOnStart(main, 2);
 }
 
 void showStopped(frmDSO& main) {
   main.spConnect.fillColour = red;
-  main.lblConnect.caption = main.Msg[8];
-  main.cmdStart.caption = main.Msg[3];
+  showConnection(main, 8);
+  showOnStart(main, 3);
 }
 
 void showConnectFailed(frmDSO& main) {
-  main.lblConnect.caption = main.Msg[9];
+  showConnection(main, 9);
+}
+
+void showOnStart(frmDSO& main, std::size_t message) {
+  main.shownMessages.cmdStart = message;
+  main.cmdStart.caption = main.Msg[message];
+}
+
+void showOnRunStop(frmDSO& main, std::size_t message) {
+  main.shownMessages.cmdRunStop = message;
+  main.cmdRunStop.caption = main.Msg[message];
+}
+
+void showMessagesAgain(frmDSO& main) {
+  const SharedState::ShownMessages& shown = main.shownMessages;
+  if (shown.lblConnect != 0) showConnection(main, shown.lblConnect);
+  if (shown.cmdStart != 0) showOnStart(main, shown.cmdStart);
+  if (shown.cmdRunStop != 0) showOnRunStop(main, shown.cmdRunStop);
 }
 
 }  // namespace tracewell

@@ -15,8 +15,6 @@ namespace tracewell {
 /// arithmetic on them is checked (Numbers.h).
 struct SharedState {
   static constexpr int sampleCount = 500;
-  /// Graph units, which are also sample units, to one screen division.
-  static constexpr std::int16_t unitsPerDivision = 50;
   static constexpr int messageCount = 21;
 
   /// Baud rate in use. A rate above 32767 does not fit and is refused with "Overflow".
@@ -67,8 +65,12 @@ struct SharedState {
   double Cur1Pos = 0;
   double Cur2Pos = 0;
 
-  /// The graph has the window to itself.
-  bool GraphEnlarged = false;
+  /// Number of the message that stands on each of these captions; 0 while it is the caption file's.
+  struct ShownMessages {
+    std::size_t lblConnect = 0;
+    std::size_t cmdStart = 0;
+    std::size_t cmdRunStop = 0;
+  } shownMessages;
 
   /// What the status line says of line settings that are not in use.
   std::string LinkNotice;

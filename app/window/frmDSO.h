@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <set>
+
 #include "Controls.h"
 #include "Dials.h"
-#include "Graph.h"
+#include "ScopeGraph.h"
 #include "SharedState.h"
 #include "Timer.h"
 
@@ -61,7 +63,8 @@ class frmDSO : public Window, public SharedState {
   Button cmdAutoset{*this, "cmdAutoset", "Autoset"};
   Switch cmdLock{*this, "cmdLock", "Lock"};
 
-  Graph graphDSO{*this, "graphDSO"};
+  ScopeGraph graphDSO{*this, "graphDSO"};
+  Property<bool>& GraphEnlarged = graphDSO.enlarged;
 
   // Vertical
   Frame fmCh1{*this, "fmCh1", "Channel 1"};
@@ -131,6 +134,9 @@ class frmDSO : public Window, public SharedState {
   static constexpr int tickInterval = 1200;
   Timer tmDSO{*this, tickInterval};
   Timer tmTest{*this, tickInterval};
+
+  /// Those that have been moved or read; the captions of the others are the caption file's.
+  std::set<Slide*> slidesWithValue;
 
  private:
   static std::vector<std::string> voltDetents();

@@ -26,18 +26,6 @@ const std::array<std::string_view, timeDivSteps> TimeDivValue = {
     "5E-6", "1E-5", "2E-5", "5E-5", "1E-4", "2E-4", "5E-4", "1E-3", "2E-3", "5E-3",
     "1E-2", "2E-2", "5E-2", "1E-1", "2E-1", "5E-1", "1",    "2",    "5"};
 
-const std::array<std::string_view, 5> ChanQuery1 = {":CHAN1:DISP", ":CHAN1:INV", ":CHAN1:BWL",
-                                                    ":CHAN1:COUP", ":CHAN1:PROB"};
-const std::array<std::string_view, 5> ChanQuery2 = {":CHAN2:DISP", ":CHAN2:INV", ":CHAN2:BWL",
-                                                    ":CHAN2:COUP", ":CHAN2:PROB"};
-const std::array<std::string_view, 3> AcqQuery = {":ACQ:MOD", ":ACQ:AVER", ":ACQ:LEN"};
-const std::array<std::string_view, 6> TrigQuery = {":TRIG:SOUR", ":TRIG:MOD", ":TRIG:SLOP",
-                                                   ":TRIG:COUP", ":TRIG:REJ", ":TRIG:NREJ"};
-const std::array<std::string_view, 5> TrigAdvQuery = {
-    ":TRIG:ADV:MOD", ":TRIG:ADV:TYP", ":TRIG:ADV:EVEN", ":TRIG:ADV:LEV", ":TRIG:ADV:DEL"};
-const std::array<std::string_view, 3> BrightQuery = {"DISP:BRIG:DATA", "DISP:BRIG:GRAT",
-                                                     "DISP:BRIG:WAV"};
-
 namespace {
 
 std::string_view commandPrefix(ScaleKnob kind) {

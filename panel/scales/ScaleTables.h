@@ -17,15 +17,6 @@ extern const std::array<std::string_view, voltDivSteps> VoltDivValue;
 extern const std::array<std::string_view, timeDivSteps> TimeDivText;
 extern const std::array<std::string_view, timeDivSteps> TimeDivValue;
 
-/// Stems of the settings queries of each dialog; "?" behind one asks, " value" sets.
-extern const std::array<std::string_view, 5> ChanQuery1;
-extern const std::array<std::string_view, 5> ChanQuery2;
-extern const std::array<std::string_view, 3> AcqQuery;
-extern const std::array<std::string_view, 6> TrigQuery;
-extern const std::array<std::string_view, 5> TrigAdvQuery;
-/// Without the leading colon of the others, and so sent.
-extern const std::array<std::string_view, 3> BrightQuery;
-
 enum class ScaleKnob { Chan1, Chan2, Time };
 
 /// The command that sets the scale of a knob's position (":CHAN1:SCAL 1E-1"), and the caption of

@@ -43,21 +43,17 @@ Axis::Axis(std::string_view axisName, double low, double high)
       maximum(*this, high),
       name_(axisName) {}
 
-Graph::Graph(Window& owner, std::string_view name)
-    : Control(owner, name),
-      plotAreaColour(*this, tracewell::plotAreaColour),
-      plots_{{{"Chan1", {255, 213, 79}, true},
-              {"Chan2", {77, 208, 245}, true},
-              {"Load1", {190, 130, 220}, false},
-              {"Load2", {129, 199, 132}, false},
-              {"Load3", {255, 138, 101}, false},
-              {"Load4", {176, 190, 197}, false}}},
-      axes_{{{"XAxis", -250, 250}, {"YAxis-1", -200, 200}, {"YAxis-2", -200, 200}}},
-      cursors_{Cursor("cur1"), Cursor("cur2"), Cursor("Triger")} {}
+Graph::Graph(Window& owner, std::string_view name, const GraphParts& parts)
+    : Control(owner, name), plotAreaColour(*this, tracewell::plotAreaColour) {
+  for (const auto& plot : parts.plots) plots_.emplace_back(plot.name, plot.colour, plot.isVisible);
+  for (const auto& axis : parts.axes) axes_.emplace_back(axis.name, axis.minimum, axis.maximum);
+  for (const std::string_view cursor : parts.cursors) cursors_.emplace_back(cursor);
+}
 
 Plot& Graph::plot(int number) {
-  if (number < 1 || number > plotCount) throw subscriptError();
-  return plots_[static_cast<std::size_t>(number - 1)];
+  const auto index = static_cast<std::size_t>(number - 1);
+  if (number < 1 || index >= plots_.size()) throw subscriptError();
+  return plots_[index];
 }
 
 Axis& Graph::axis(std::string_view axisName) {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <array>
+#include <deque>
 #include <span>
 #include <string>
 #include <string_view>
@@ -73,25 +73,40 @@ class Cursor : public Observable {
   std::string name_;
 };
 
-/// The waveform view: six plots, three axes, three cursors.
+/// What a graph is made of; names are unique among their kind.
+struct GraphParts {
+  struct PlotPart {
+    std::string_view name;
+    Colour colour;
+    bool isVisible;
+  };
+  struct AxisPart {
+    std::string_view name;
+    double minimum;
+    double maximum;
+  };
+  std::vector<PlotPart> plots;
+  std::vector<AxisPart> axes;
+  std::vector<std::string_view> cursors;
+};
+
+/// A view of traces over a grid, with cursors.
 class Graph : public Control {
  public:
-  static constexpr int plotCount = 6;
-  /// Number of the first plot for loaded traces; the ones below show the channels.
-  static constexpr int firstReference = 3;
+  /// Graph units to one screen division, on both axes.
+  static constexpr std::int16_t unitsPerDivision = 50;
 
-  Graph(Window& owner, std::string_view name);
+  Graph(Window& owner, std::string_view name, const GraphParts& parts);
 
-  /// Plots are numbered 1 to 6: Chan1, Chan2, Load1 to Load4. Raises "Subscript out of range".
+  /// Plots are numbered from 1. Raises "Subscript out of range".
   Plot& plot(int number);
-  /// "XAxis", "YAxis-1" or "YAxis-2".
+  /// Raise "Subscript out of range" where nothing has that name.
   Axis& axis(std::string_view axisName);
-  /// "cur1", "cur2" or "Triger".
   Cursor& cursor(std::string_view cursorName);
 
-  std::array<Plot, plotCount>& plots() { return plots_; }
-  std::array<Axis, 3>& axes() { return axes_; }
-  std::array<Cursor, 3>& cursors() { return cursors_; }
+  std::deque<Plot>& plots() { return plots_; }
+  std::deque<Axis>& axes() { return axes_; }
+  std::deque<Cursor>& cursors() { return cursors_; }
 
   /// The view puts here how it lets go of the graph, which it else reaches until its own end.
   std::function<void()> letGo;
@@ -103,7 +118,7 @@ class Graph : public Control {
   /// The view has the window to itself; set by the program.
   Property<bool> enlarged{*this};
 
-  /// Raised when the user has moved cur1 or cur2.
+  /// Raised when the user has moved a cursor.
   Event<> cursorMoved;
   /// Raised by the view's own gesture for a larger or the normal view: a double click, or a key.
   Event<> enlargeToggled;
@@ -112,9 +127,9 @@ class Graph : public Control {
   void dragCursor(Cursor& cursor, double x, double y);
 
  private:
-  std::array<Plot, plotCount> plots_;
-  std::array<Axis, 3> axes_;
-  std::array<Cursor, 3> cursors_;
+  std::deque<Plot> plots_;
+  std::deque<Axis> axes_;
+  std::deque<Cursor> cursors_;
 };
 
 }  // namespace tracewell

@@ -7,7 +7,7 @@
 namespace tracewell {
 namespace {
 
-constexpr double unitsPerDivision = SharedState::unitsPerDivision;
+constexpr double unitsPerDivision = Graph::unitsPerDivision;
 
 /// Microseconds are labelled "msec" too.
 std::string timeUnit(char prefix) {

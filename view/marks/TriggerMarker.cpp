@@ -18,7 +18,7 @@ std::optional<double> levelHeight(const frmDSO& main) {
   const double voltsPerDivision = ParseScaleCaption(scale.caption());
   if (voltsPerDivision == 0) return std::nullopt;
   const double position = isSecond ? main.Ch2Pos : main.Ch1Pos;
-  return SharedState::unitsPerDivision * (main.slideTrig.value() / voltsPerDivision + position);
+  return Graph::unitsPerDivision * (main.slideTrig.value() / voltsPerDivision + position);
 }
 
 }  // namespace
