@@ -39,7 +39,7 @@ class GraphBench {
  private:
   DesktopProgram program{"."};
   Window window{"frmBench", "", program.services};
-  Graph graph{window, "graphDSO"};
+  ScopeGraph graph{window, "graphDSO"};
   std::array<std::int16_t, SharedState::sampleCount> x{};
   std::array<std::int16_t, SharedState::sampleCount> y{};
   /// Declared last: it lets go of the graph when it goes.
