@@ -22,6 +22,8 @@ using namespace std::string_view_literals;
 constexpr std::size_t largestSideLoaded = 8192;
 /// Pixels; each takes some fifteen bytes on its way.
 constexpr std::size_t largestAreaLoaded = 10'000'000;
+/// Of a progressive JPEG; each goes over all pixels, and drawing programs write some ten.
+constexpr int mostScansLoaded = 64;
 /// Metafiles count in signed 16-bit numbers; no other format here is narrower.
 constexpr int largestSideEncoded = std::numeric_limits<std::int16_t>::max();
 
@@ -216,6 +218,28 @@ std::string signatureName(std::string_view bytes) {
   return isPcx(bytes) ? "PCX" : "";
 }
 
+/// How often a JPEG goes over its pixels: its markers of the kind "start of scan". Segments are
+/// passed by the length that they state; within a scan's data no such marker can stand.
+int scansOf(std::string_view jpeg) {
+  constexpr auto isAlone = [](unsigned char code) {
+    return code <= 0x01 || (code >= 0xD0 && code <= 0xD8) || code == 0xFF;
+  };
+  constexpr unsigned char endOfImage = 0xD9;
+  constexpr unsigned char startOfScan = 0xDA;
+  const auto byteAt = [jpeg](std::size_t at) {
+    return at < jpeg.size() ? static_cast<unsigned char>(jpeg[at]) : endOfImage;
+  };
+  int scans = 0;
+  for (std::size_t at = jpeg.find('\xFF'); at != jpeg.npos; at = jpeg.find('\xFF', at)) {
+    const unsigned char code = byteAt(++at);
+    if (code == endOfImage) break;
+    if (isAlone(code)) continue;
+    if (code == startOfScan) ++scans;
+    at += 1 + std::size_t{byteAt(at + 1)} * 256 + byteAt(at + 2);
+  }
+  return scans;
+}
+
 Magick::Image firstOnly(const std::string& name) {
   Magick::Image picture;
   picture.magick(name);
@@ -264,6 +288,8 @@ Image loaded(const std::filesystem::path& path) {
   const std::string bytes = readWholeFile(path, fileLimit::picture);
   const std::string name = signatureName(bytes);
   if (name.empty()) throw pictureError("Not a bmp, gif, pcx, tif, png or jpg: " + pathText(path));
+  if (name == "JPEG" && scansOf(bytes) > mostScansLoaded)
+    throw pictureError("Too many scans: " + pathText(path));
   const Magick::Blob blob(bytes.data(), bytes.size());
   checkSize(name, blob, pathText(path));
   return imageOf(decoded(name, blob));

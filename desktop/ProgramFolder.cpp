@@ -56,7 +56,7 @@ void noteVersion(const fs::path& folder) {
 /// False when it could not be done.
 bool copyWhole(const fs::path& from, const fs::path& to) {
   try {
-    writeWholeFile(to, readWholeFile(from));
+    writeWholeFile(to, readWholeFile(from, fileLimit::shipped));
     return true;
   } catch (const Error&) {
     return false;

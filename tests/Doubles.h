@@ -21,6 +21,10 @@ namespace tracewell {
 
 using Lines = std::vector<std::string>;
 
+inline std::string contentOf(const std::filesystem::path& path) {
+  return readWholeFile(path, fileLimit::picture);
+}
+
 /// Writes down what the program would have said, and answers as told.
 class RecordingDialogs : public Dialogs {
  public:
@@ -57,7 +61,7 @@ class RecordingPictures : public Pictures {
   std::string encode(const Image& image, int format) override {
     return std::to_string(format) + ":" + image.pixels;
   }
-  Image load(const std::filesystem::path& path) override { return {1, 1, readWholeFile(path)}; }
+  Image load(const std::filesystem::path& path) override { return {1, 1, contentOf(path)}; }
 };
 
 class RecordingPrinter : public Printer {

@@ -13,8 +13,7 @@ namespace tracewell {
 
 /// Raises "File not found: <path>" when there is none, and the reason with the path when it cannot
 /// be read or has more than `limit` bytes.
-std::string readWholeFile(const std::filesystem::path& path,
-                          std::uintmax_t limit = fileLimit::anyFile);
+std::string readWholeFile(const std::filesystem::path& path, std::uintmax_t limit);
 
 /// The last `limit` bytes at most; otherwise the same.
 struct FileEnd {

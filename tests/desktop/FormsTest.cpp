@@ -237,19 +237,19 @@ TEST(ProgramFolder, NewVersionBringsItsWordsAndLeavesTheRest) {
   const ProgramFolderCopy parent;
   const auto users = parent.path() / "user" / "tracewell";
   fillProgramFolder(shipped.path(), users);
-  const std::string words = readWholeFile(users / "dso_la3.cap");
-  EXPECT_EQ(readWholeFile(users / "about.jpg"), readWholeFile(shipped.path() / "about.jpg"));
+  const std::string words = contentOf(users / "dso_la3.cap");
+  EXPECT_EQ(contentOf(users / "about.jpg"), contentOf(shipped.path() / "about.jpg"));
   for (const char* file : {"dso_la3.cap", "default.dso", "dso.cmd"})
     writeWholeFile(users / file, "mine");
   std::filesystem::remove(users / "default.sit");
   fillProgramFolder(shipped.path(), users);
-  EXPECT_EQ(readWholeFile(users / "dso_la3.cap"), "mine");
+  EXPECT_EQ(contentOf(users / "dso_la3.cap"), "mine");
   EXPECT_TRUE(std::filesystem::exists(users / "default.sit"));
   writeWholeFile(users / "shipped-version", "0.0.1");
   fillProgramFolder(shipped.path(), users);
-  EXPECT_EQ(readWholeFile(users / "dso_la3.cap"), words);
-  EXPECT_EQ(readWholeFile(users / "default.dso"), "mine");
-  EXPECT_EQ(readWholeFile(users / "dso.cmd"), "mine");
+  EXPECT_EQ(contentOf(users / "dso_la3.cap"), words);
+  EXPECT_EQ(contentOf(users / "default.dso"), "mine");
+  EXPECT_EQ(contentOf(users / "dso.cmd"), "mine");
 }
 
 }  // namespace

@@ -3,9 +3,12 @@
 
 #include <gtest/gtest.h>
 
+#include <QBuffer>
 #include <QImage>
+#include <QImageWriter>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <ctime>
 
 #include "Error.h"
 #include "Files.h"
@@ -14,6 +17,12 @@
 
 namespace tracewell {
 namespace {
+
+#ifdef __SANITIZE_ADDRESS__
+constexpr int slowness = 10;
+#else
+constexpr int slowness = 1;
+#endif
 
 constexpr int unread = -1;
 const struct {
@@ -107,6 +116,35 @@ TEST(PictureFormatsTest, BadFilesCodesAndImagesAreRefused) {
   const std::string row(120000, 'x');
   for (const Image& image : {Image{}, {4, 4, "short"}, {-1, -1, "abc"}, {40000, 1, row}})
     EXPECT_THROW(encodePicture(image, Pictures::wmf), Error) << image.width;
+}
+
+/// Each scan goes over all pixels, and a file can hold thousands of them.
+TEST(PictureFormatsTest, JpegIsNotGoneOverWithoutEnd) {
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  QImageWriter writer(&buffer, "jpeg");
+  writer.setProgressiveScanWrite(true);
+  QImage largest(4000, 2500, QImage::Format_RGB888);
+  largest.fill(Qt::darkBlue);
+  ASSERT_TRUE(writer.write(largest));
+  const QByteArray image = bytes.chopped(2);
+  const QByteArray lastScan = image.mid(image.lastIndexOf("\xFF\xDA"));
+  const QTemporaryDir folder;
+  const QString path = folder.filePath(QStringLiteral("a.jpg"));
+  const auto expectScansRefused = [&](qsizetype count, const char* reason) {
+    const QByteArray more = lastScan.repeated(count - image.count("\xFF\xDA"));
+    const std::clock_t start = std::clock();
+    expectRefused(path, (image + more + bytes.right(2)).toStdString(), reason);
+    EXPECT_LT(std::clock() - start, CLOCKS_PER_SEC * slowness) << count;
+  };
+  expectScansRefused(64, "Inconsistent progression");
+  expectScansRefused(65, "Too many scans");
+  expectScansRefused(951, "Too many scans");
+  // No scans, but the marks of some in a comment, and behind the end.
+  const QByteArray marks = QByteArray("\xFF\xDA").repeated(127);
+  const QByteArray comment = QByteArray("\xFF\xFE\x01\0", 4) + marks;
+  writeWholeFile(toPath(path), (image + comment + bytes.right(2) + marks).toStdString());
+  EXPECT_EQ(loadPicture(toPath(path)).width, 4000);
 }
 
 TEST(PictureFormatsTest, IconsAreScaledDownInProportion) {

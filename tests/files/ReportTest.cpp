@@ -60,7 +60,7 @@ TEST_F(ReportTest, SavedByteForByteAndPrinted) {
   main.mnbConf.choose();
   program.report.cmdSave.press();
   program.report.cmdPrint.press();
-  EXPECT_EQ(readWholeFile(dialogs.pickedFile), text.text());
+  EXPECT_EQ(contentOf(dialogs.pickedFile), text.text());
   EXPECT_EQ(printer.printed, Lines{text.text()});
   EXPECT_EQ(dialogs.fileDialogs.back().title, "Save Setup Report file");
   EXPECT_EQ(dialogs.fileDialogs.back().fileName, "default.sir");

@@ -21,14 +21,14 @@ class SetupFilesTest : public testing::Test, protected Bench {
 
 TEST_F(SetupFilesTest, WhatIsWrittenComesBack) {
   program.setupFiles.WriteSetupFile(file);
-  EXPECT_EQ(readWholeFile(file), readWholeFile(folder.path() / "default.dso"));
+  EXPECT_EQ(contentOf(file), contentOf(folder.path() / "default.dso"));
   for (int row = 0; row < 13; ++row) {
     table.setText(row, 0, "Row " + std::to_string(row));
     table.setText(row, 1, std::to_string(row));
     for (int i = 0; i < row; ++i) table.setText(row, 2 + i, std::to_string(row * 100 + i));
   }
   program.setupFiles.WriteSetupFile(file);
-  const std::string bytes = readWholeFile(file);
+  const std::string bytes = contentOf(file);
   EXPECT_TRUE(bytes.starts_with("RRow 0,0\r\nRow 1,1,100\r\n"));
   table = SetupTable();
   program.setupFiles.ReadSetupFile(file);
@@ -62,7 +62,7 @@ TEST_F(SetupFilesTest, ReadingOfOddFiles) {
 }
 
 TEST_F(SetupFilesTest, EveryPrefixOfAFileIsReadWithoutHarm) {
-  const std::string whole = readWholeFile(folder.path() / "default.dso");
+  const std::string whole = contentOf(folder.path() / "default.dso");
   for (std::size_t length = 0; length <= whole.size(); ++length) {
     table = SetupTable();
     read(whole.substr(0, length));
@@ -76,7 +76,7 @@ TEST_F(SetupFilesTest, CountThatIsNoNumberFailsBeforeAnythingIsWritten) {
   dialogs.pickedFile = file;
   main.mnbSaveSetup.choose();
   EXPECT_EQ(dialogs.runTimeErrors, Lines{"13 Type mismatch"});
-  EXPECT_EQ(readWholeFile(file), "old");
+  EXPECT_EQ(contentOf(file), "old");
 }
 
 TEST_F(SetupFilesTest, MenuAsksInItsOwnWordsAndCancelMeansTheCurrentFolder) {
@@ -103,7 +103,7 @@ TEST_F(SetupFilesTest, MenuAsksInItsOwnWordsAndCancelMeansTheCurrentFolder) {
 
 TEST_F(SetupFilesTest, WhatCouldNotBeTakenWholeIsKept) {
   const fs::path setup = folder.path() / "default.dso";
-  const std::string whole = readWholeFile(setup);
+  const std::string whole = contentOf(setup);
   std::string lf = whole;
   std::erase(lf, '\r');
   std::string wide = "\xFF\xFE";
@@ -129,8 +129,8 @@ TEST_F(SetupFilesTest, WhatCouldNotBeTakenWholeIsKept) {
     EXPECT_TRUE(main.lblNotice.visible());
     main.mnbSaveSetup.choose();
     EXPECT_FALSE(main.lblNotice.visible());
-    EXPECT_EQ(readWholeFile(folder.path() / name), damaged[i]);
-    EXPECT_TRUE(readWholeFile(setup).starts_with("R"));
+    EXPECT_EQ(contentOf(folder.path() / name), damaged[i]);
+    EXPECT_TRUE(contentOf(setup).starts_with("R"));
     name = "default.dso.bad" + std::to_string(i + 2);
   }
   fs::current_path(before);

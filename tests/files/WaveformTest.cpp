@@ -46,7 +46,7 @@ class WaveformTest : public ProgramTest {
     ASSERT_NE(found, items.end()) << name;
     loadWindow.fileCSV.choose(static_cast<int>(found - items.begin()));
   }
-  std::string file(const char* name) { return readWholeFile(place / name); }
+  std::string file(const char* name) { return contentOf(place / name); }
   void write(const char* name, const std::string& bytes) { writeWholeFile(place / name, bytes); }
   int shownReferences() {
     int count = 0;
@@ -312,8 +312,8 @@ TEST_F(WaveformTest, DirectLoadTakesTheFirstColumnIntoLoad1AndExportWritesTheMes
 }
 
 /// On Windows the kind of every file is asked for by itself, which Wine does slowly.
-/// In processor time, which a busy machine and a sanitizer stretch little beside what a list that is
-/// searched for each of its entries would take.
+/// In processor time, which a busy machine and a sanitizer stretch little beside what a list that
+/// is searched for each of its entries would take.
 TEST_F(WaveformTest, TenThousandFilesAreListedInAnInstant) {
   for (int i = 0; i < 10000; ++i) std::ofstream(place / (std::to_string(i) + ".csv"));
   const std::clock_t start = std::clock();

@@ -46,11 +46,11 @@ void setup(const std::string& bytes) {
   std::filesystem::remove(pathText(path) + ".bad");
   files.ReadSetupFile(path);
   files.WriteSetupFile(path);
-  const std::string written = readWholeFile(path);
+  const std::string written = contentOf(path);
   files.ReadSetupFile(path);
   files.WriteSetupFile(path);
   // What has been read and written once stays as it is, but for blanks that a line loses.
-  if (readWholeFile(path).size() > written.size()) std::abort();
+  if (contentOf(path).size() > written.size()) std::abort();
 }
 
 void data(const std::string& bytes) {

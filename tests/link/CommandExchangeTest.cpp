@@ -86,16 +86,16 @@ TEST_F(CommandExchangeTest, LogKeepsTheLinesOfEarlierRunsAndReachesTheDiskByClos
   send(":A");
   const std::string log = "old\r\n2026-03-15 14:29:05  RS232 - SendDSOCmd : no such device\r\n";
   EXPECT_EQ(program.errLog.txtErrLog.text(), log);
-  EXPECT_EQ(readWholeFile(file), "old\r\n");
+  EXPECT_EQ(contentOf(file), "old\r\n");
   windows.user["frmErrLog"] = [this] { program.errLog.cmdClose.press(); };
   main.lblDSOCmd.doubleClick();
-  EXPECT_EQ(readWholeFile(file), log);
+  EXPECT_EQ(contentOf(file), log);
   windows.user["frmErrLog"] = [this] {
     program.errLog.cmdClear.press();
     program.errLog.cmdClose.press();
   };
   main.mnbErrLog.choose();
-  EXPECT_EQ(readWholeFile(file), "");
+  EXPECT_EQ(contentOf(file), "");
 }
 
 }  // namespace tracewell

@@ -42,7 +42,7 @@ TEST_F(CaptionsTest, ShippedFilesNameEveryWindowAndControlInOrder) {
   }
   for (const char* number : {"1", "2", "3", "4", "5"}) {
     main.gridMeasure.setText(12, 2, number);
-    std::istringstream file(readWholeFile(languageFile(main, ".cap")));
+    std::istringstream file(contentOf(languageFile(main, ".cap")));
     std::string line;
     for (const std::string& start : expected) {
       ASSERT_TRUE(std::getline(file, line)) << number << " ends before " << start;
@@ -85,7 +85,7 @@ TEST_F(CaptionsTest, LanguageChangesEveryWindowAndKeepsWhatIsShown) {
 TEST_F(CaptionsTest, LanguageWhoseFilesAreBadIsNotTaken) {
   start();
   for (const char* file : {"dso_la2.cap", "dso_la2.msg"}) {
-    const std::string whole = readWholeFile(folder.path() / file);
+    const std::string whole = contentOf(folder.path() / file);
     writeWholeFile(folder.path() / file, whole.substr(0, 60));
     main.mnbLA2.choose();
     ASSERT_EQ(dialogs.runTimeErrors.size(), 1u);
@@ -132,7 +132,7 @@ TEST_F(CaptionsTest, CaptionsGoToTheirWindowInOnePass) {
 /// Neither loops nor crashes, and is named. Cut after any byte, the shipped file is one of these or
 /// gives captions.
 TEST_F(CaptionsTest, FileThatCannotBeUsedIsOneErrorThatNamesIt) {
-  const std::string whole = readWholeFile(folder.path() / "dso_la1.cap");
+  const std::string whole = contentOf(folder.path() / "dso_la1.cap");
   std::string sections;
   while (sections.size() < fileLimit::captions - 10) sections += "//x,,y\r\n";
   Lines files = {sections, "//RS232,a,b\r\n", "//DSO,a,b\n//RS232,c,d\n"};

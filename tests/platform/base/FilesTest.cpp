@@ -5,11 +5,7 @@
 #include <sys/stat.h>
 #endif
 
-#include <fstream>
-
 #include "Doubles.h"
-#include "Messages.h"
-#include "WaveformSetReader.h"
 
 namespace tracewell {
 
@@ -60,10 +56,10 @@ TEST_F(FilesTest, NeighboursStayAndLongNamesFit) {
   const fs::path neighbour = folder.path() / "default.dso.new";
   writeWholeFile(neighbour, "the user's");
   writeWholeFile(folder.path() / "default.dso", "text");
-  EXPECT_EQ(readWholeFile(neighbour), "the user's");
+  EXPECT_EQ(contentOf(neighbour), "the user's");
   const std::size_t before = entries();
   for (const char* text : {"first", "second"}) writeWholeFile(file, text);
-  EXPECT_EQ(readWholeFile(file), "second");
+  EXPECT_EQ(contentOf(file), "second");
   EXPECT_EQ(entries(), before + 1);
 }
 
@@ -82,64 +78,8 @@ TEST_F(FilesTest, EndOfAFileBeginsWhereItsLimitSays) {
 /// The device whose first byte cannot be read.
 TEST_F(FilesTest, ReadErrorIsAnError) {
   if (!fs::exists("/proc/self/mem")) GTEST_SKIP();
-  EXPECT_NE(errorOf([] { readWholeFile("/proc/self/mem"); }), "");
+  EXPECT_NE(errorOf([] { contentOf("/proc/self/mem"); }), "");
   EXPECT_NE(errorOf([] { readFileEnd("/proc/self/mem", 10); }), "");
-}
-
-/// Each kind of file has its limit, to the byte; what is no file is neither waited for nor
-/// replaced.
-TEST_F(FilesTest, LimitAndKindOfEveryFileAreChecked) {
-  const auto loadSetup = [](Bench& bench) { bench.main.mnbLoadSetup.choose(); };
-  const auto loadData = [](Bench& bench) { bench.main.mnbLoadCSV.choose(); };
-  const auto describe = [](Bench& bench) { readDescription(bench.dialogs.pickedFile); };
-  const auto openLog = [](Bench& bench) {
-    bench.main.mnbErrLog.choose();
-    bench.program.errLog.cmdClose.press();
-  };
-  const std::tuple<const char*, std::uintmax_t, void (*)(Bench&), const char*> readers[] = {
-      {"default.dso", 64 << 10, loadSetup, "Larger than"},
-      {"dso_la1.cap", 512 << 10, [](Bench& bench) { bench.main.mnbLA1.choose(); }, "Larger than"},
-      {"dso_la1.msg", 64 << 10, [](Bench& bench) { LoadMessages(bench.main); }, "Larger than"},
-      {"default.sit", 256 << 10, [](Bench& bench) { bench.main.mnbConf.choose(); }, "Larger than"},
-      {"dso.cmd", 256 << 10, [](Bench& bench) { bench.main.mnbDSOcmd.choose(); }, "Larger than"},
-      {"x.csv", 1 << 20, loadData, "Larger than"},
-      {"x.inf", 256 << 10, describe, "Larger than"},
-      {"dso.err", 1 << 20, openLog, "could not be read whole"}};
-  for (const auto& [name, limit, read, complaint] : readers) {
-    const auto said = [&](const std::function<void(const fs::path&)>& place) {
-      Bench bench;
-      const fs::path path = bench.folder.path() / name;
-      bench.program.start();
-      fs::remove(path);
-      place(path);
-      const fs::file_type type = fs::symlink_status(path).type();
-      bench.dialogs.pickedFile = path;
-      std::string text;
-      bench.main.lblNotice.changed = [&] { text += bench.main.lblNotice.caption(); };
-      text += errorOf([&] { read(bench); });
-      EXPECT_EQ(fs::symlink_status(path).type(), type) << name;
-      for (const std::string& error : bench.dialogs.runTimeErrors) text += error;
-      return text + bench.program.errLog.txtErrLog.text();
-    };
-    const auto saidOf = [&](std::uintmax_t size) {
-      return said([size](const fs::path& path) {
-        std::ofstream(path).close();
-        fs::resize_file(path, size);
-      });
-    };
-    EXPECT_EQ(saidOf(limit).find(complaint), std::string::npos) << name;
-    const std::string refusal = saidOf(limit + 1);
-    EXPECT_NE(refusal.find(complaint), std::string::npos) << name << refusal;
-    EXPECT_NE(refusal.find(name), std::string::npos) << name << refusal;
-    const auto isNamed = [name](const std::string& text) {
-      return text.find(name) != std::string::npos;
-    };
-    EXPECT_PRED1(isNamed, said([](const fs::path& path) { fs::create_directory(path); }));
-#ifndef _WIN32
-    EXPECT_PRED1(isNamed, said([](const fs::path& path) { mkfifo(path.c_str(), 0600); }));
-    EXPECT_PRED1(isNamed, said([](const fs::path& path) { fs::create_symlink("no", path); }));
-#endif
-  }
 }
 
 TEST_F(FilesTest, FileIsKeptOnceUnderANameOfItsOwn) {
@@ -155,7 +95,7 @@ TEST_F(FilesTest, FileIsKeptOnceUnderANameOfItsOwn) {
   writeWholeFile(file, "third");
   Lines kept;
   for (const char* name : {"file", "file.bad", "file.bad2", "file.bad3"})
-    kept.push_back(readWholeFile(folder.path() / name));
+    kept.push_back(contentOf(folder.path() / name));
   EXPECT_EQ(kept, (Lines{"third", "another's", "first", "second"}));
   EXPECT_EQ(nameAside(file), folder.path() / "file.bad4");
 }
@@ -174,16 +114,16 @@ TEST_F(FilesTest, LongLogIsKeptOnceAndItsNewestHalfWritten) {
   EXPECT_TRUE(main.lblNotice.caption().ends_with("dso.err.bad"));
   program.errLog.txtErrLog.text = shown + "new\r\n";
   for (int i = 0; i < 2; ++i) program.errLog.cmdClose.press();
-  const std::string written = readWholeFile(file);
+  const std::string written = contentOf(file);
   EXPECT_TRUE((log + "new\r\n").ends_with("\n" + written));
   EXPECT_LE(written.size(), fileLimit::errorLog / 2);
   EXPECT_GT(written.size(), fileLimit::errorLog / 2 - 100);
-  EXPECT_EQ(readWholeFile(folder.path() / "dso.err.bad"), log);
+  EXPECT_EQ(contentOf(folder.path() / "dso.err.bad"), log);
   program.errLog.unload();
   main.mnbErrLog.choose();
   EXPECT_EQ(program.errLog.txtErrLog.text(), written);
   program.errLog.cmdClose.press();
-  EXPECT_EQ(readWholeFile(file), written);
+  EXPECT_EQ(contentOf(file), written);
   EXPECT_FALSE(fs::exists(folder.path() / "dso.err.bad2"));
 }
 
