@@ -51,6 +51,20 @@ TEST_F(ConsoleTest, EntriesAndTheirPlaces) {
   EXPECT_TRUE(main.tmDSO.enabled());
 }
 
+TEST_F(ConsoleTest, GroupIsNoCommand) {
+  open(
+      "'1,:AUT,h,d\r\n2,Channel 1,h,d\r\n3,:CHAN1:INV 1,h,d\r\n4,Acquisition,h,d\r\n5,*RST,h,d\r\n",
+      [this] {
+        takeWire();
+        for (int node = 1; node <= 5; ++node) {
+          console.tvCmd.choose(node);
+          console.cmdRun.press();
+        }
+        EXPECT_EQ(takeWire(), (Lines{":AUT", ":CHAN1:INV 1", "*RST"}));
+        EXPECT_EQ(dialogs.messages, (Lines{"Out of range", "Out of range"}));
+      });
+}
+
 TEST_F(ConsoleTest, FirstCharacterBelongsToNoLine) {
   for (const char* list : {"''c\r\n1,G,h,d\r\n", "'1,G,h,d\r\n", "\r\n"})
     EXPECT_EQ(readCommandEntries(list).size(), 1u) << list;
