@@ -251,7 +251,8 @@ void bind(ComboBox& control, QWidget& form) {
 void bind(TextBox& control, QWidget& form) {
   if (auto* area = form.findChild<QPlainTextEdit*>(toQt(control.objectName()))) {
     showWith(control, area, [&control, area] {
-      const QString text = shownText(control.text(), roomOfPage);
+      const bool isLog = area->property("newest").toBool();
+      const QString text = (isLog ? shownEnd : shownText)(control.text(), roomOfPage);
       if (area->toPlainText() != text) area->setPlainText(text);
     });
     return;

@@ -42,6 +42,7 @@ class Shown {
     if (text_.size() >= room_.characters) return false;
     if (character == '\n' && room_.lines > 1) return startLine();
     if (isTooLong()) return true;
+    if (character == '\t' && !room_.hasTabs) character = ' ';
     if (character != '\t' && !isHarmless(character)) character = stranger.unicode();
     text_ += QStringView(QChar::fromUcs4(character));
     return true;
@@ -87,6 +88,11 @@ QString breakable(const QString& text) {
   return broken;
 }
 
+/// For what would take "&" for a keyboard mark.
+QString withoutMarks(QString text) {
+  return text.replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
 class PlainLabels : public QObject {
  public:
   using QObject::QObject;
@@ -111,8 +117,19 @@ QString shownText(const std::string& text, Room room) {
   return shown.text(bytes == static_cast<qsizetype>(text.size()));
 }
 
+QString shownEnd(const std::string& text, Room room) {
+  const std::size_t most = static_cast<std::size_t>(room.characters);
+  std::size_t start = text.size() > most ? text.find('\n', text.size() - most) + 1 : 0;
+  std::size_t lineStart = text.size();
+  for (qsizetype lines = 2; lines < room.lines && lineStart > start; ++lines)
+    lineStart = lineStart < 2 ? 0 : text.rfind('\n', lineStart - 2) + 1;
+  start = std::max(start, lineStart);
+  return start == 0 ? shownText(text, room)
+                    : QString(dots) + QLatin1Char('\n') + shownText(text.substr(start), room);
+}
+
 QString shownCaption(const std::string& caption) {
-  return shownText(caption, roomOfCaption).replace(QLatin1Char('&'), QLatin1String("&&"));
+  return withoutMarks(shownText(caption, roomOfCaption));
 }
 
 QString shownTitle(const std::string& title) {
@@ -121,13 +138,11 @@ QString shownTitle(const std::string& title) {
 
 void showInLabel(QLabel& label, const std::string& text, int widest) {
   label.setTextFormat(Qt::PlainText);
-  if (label.wordWrap()) {
-    label.setText(breakable(shownText(text, roomOfParagraph)));
-    return;
-  }
   label.ensurePolished();
-  label.setText(
-      label.fontMetrics().elidedText(shownText(text, roomOfLine), Qt::ElideRight, widest));
+  const QString shown = label.wordWrap() ? breakable(shownText(text, roomOfParagraph))
+                                         : label.fontMetrics().elidedText(
+                                               shownText(text, roomOfLine), Qt::ElideRight, widest);
+  label.setText(label.buddy() == nullptr ? shown : withoutMarks(shown));
 }
 
 void keepLabelsPlain(QApplication& application) {

@@ -15,6 +15,8 @@ namespace tracewell {
 struct Room {
   qsizetype characters;
   qsizetype lines = 1;
+  /// Elsewhere each is a blank: nobody can say how wide it is.
+  bool hasTabs = false;
 };
 inline constexpr Room roomOfCaption{60};
 inline constexpr Room roomOfLine{200};
@@ -22,11 +24,15 @@ inline constexpr Room roomOfEntry{300};
 inline constexpr Room roomOfEditor{4000};
 inline constexpr Room roomOfParagraph{1000, 20};
 /// Above the last part of an error log.
-inline constexpr Room roomOfPage{1100000, 30000};
+inline constexpr Room roomOfPage{1100000, 30000, true};
 
 /// Bytes that are no UTF-8, control characters, direction marks and the like become U+FFFD; so does
-/// a line end where there is room for one line. Tabs stay, CR goes.
+/// a line end where there is room for one line. CR goes.
 QString shownText(const std::string& text, Room room);
+
+/// The last lines of a text for which there is room, behind a line of "…" where others were before
+/// them: of a log the newest count.
+QString shownEnd(const std::string& text, Room room);
 
 /// A caption for a widget that would take "&" for a keyboard mark.
 QString shownCaption(const std::string& caption);
