@@ -92,11 +92,11 @@ void frmSave::saveSet(const std::filesystem::path& path) {
   const std::string picture = services().pictures.encode(pictureTemp.image(), pictureType_);
   if (isDataExtension(name.substr(base.size())))
     throw Error(pathAccess, "Tracewell", "A picture cannot have the name of its data: " + name);
-  writeWholeFile(pathOf(base + ".csv"), csv);
   txtDatFile.text = buildInfText(main_, name, txtAuthor.text(), txtDes.text());
   try {
-    writeWholeFile(pathOf(base + ".inf"), txtDatFile.text());
-    writeWholeFile(path, picture);
+    writeWholeFiles({{pathOf(base + ".csv"), csv},
+                     {pathOf(base + ".inf"), txtDatFile.text()},
+                     {path, picture}});
   } catch (const Error&) {
     // The window stays open, and its next OK begins with the data again.
     txtDatFile.text = csv;

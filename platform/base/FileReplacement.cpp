@@ -2,6 +2,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <fstream>
+#include <list>
 #include <memory>
 #include <random>
 #include <utility>
@@ -81,6 +82,9 @@ class Replacement {
     fs::rename(beside_, target_, failed);
     check(failed, pathAccess, "Cannot replace");
     isDone_ = true;
+  }
+
+  void keepName() const {
     if (usedDisk != nullptr)
       check(usedDisk->flushFolder(folder()), diskFull, "Written, but perhaps not for good");
   }
@@ -171,9 +175,16 @@ void useDisk(Disk* disk) {
 }
 
 void writeWholeFile(const fs::path& path, std::string_view bytes) {
-  Replacement replacement(replaceableTarget(path), path);
-  replacement.write(bytes);
-  replacement.takeName();
+  writeWholeFiles({{path, bytes}});
+}
+
+/// A full disk, a folder in the way and the like are met before the first file takes its name.
+void writeWholeFiles(std::initializer_list<WholeFile> files) {
+  std::list<Replacement> replacements;
+  for (const WholeFile& file : files)
+    replacements.emplace_back(replaceableTarget(file.path), file.path).write(file.bytes);
+  for (Replacement& replacement : replacements) replacement.takeName();
+  for (const Replacement& replacement : replacements) replacement.keepName();
 }
 
 fs::path nameAside(const fs::path& path) {

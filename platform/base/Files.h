@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -28,6 +29,14 @@ FileEnd readFileEnd(const std::filesystem::path& path, std::uintmax_t limit);
 /// symbolic link. Replaces a regular file or nothing. Raises pathAccess or diskFull with path and
 /// reason.
 void writeWholeFile(const std::filesystem::path& path, std::string_view bytes);
+
+/// The same for files that belong together: all are on the disk before the first one takes its
+/// name, and they take them in this order.
+struct WholeFile {
+  const std::filesystem::path& path;
+  std::string_view bytes;
+};
+void writeWholeFiles(std::initializer_list<WholeFile> files);
 
 /// Keeps the file under the first name of "<name>.bad", "<name>.bad2", ... that is free or is
 /// already its own; until the file is written anew it has its old name, too, where the file system

@@ -126,22 +126,38 @@ TEST_F(WaveformTest, LineBreaksInNotesAndNamesMoveNoLine) {
 }
 
 TEST_F(WaveformTest, FailedSaveSaysSoAndTheNextOneIsWhole) {
-  save("one.png", 7);
-  const std::string before = file("one.inf");
-  fs::remove(place / "one.inf");
-  fs::create_directory(place / "one.inf");
-  main.slideCH1.value = 3;
-  windows.user["frmSave"] = [this] {
-    saveWindow.cmdOK.press();
-    EXPECT_TRUE(saveWindow.isVisible());
-    fs::remove(place / "one.inf");
-    saveWindow.cmdOK.press();
+  const Lines names = {"one.csv", "one.inf", "one.png"};
+  const auto set = [&] {
+    Lines contents;
+    for (const std::string& name : names)
+      contents.push_back(fs::is_directory(place / name) ? "" : file(name.c_str()));
+    return contents;
   };
-  main.cmdSave.press();
-  EXPECT_EQ(dialogs.runTimeErrors.size(), 1u);
-  EXPECT_NE(file("one.inf"), before);
-  // Not the text of the description, which the failed try had come to.
-  EXPECT_TRUE(file("one.csv").starts_with("Channel 1\r\n"));
+  int position = 0;
+  for (std::size_t i = 0; i < names.size(); ++i) {
+    SCOPED_TRACE(names[i]);
+    save("one.png", 7);
+    Lines before = set();
+    before[i] = "";
+    fs::remove(place / names[i]);
+    fs::create_directory(place / names[i]);
+    main.slideCH1.value = ++position;
+    main.lblChan1.caption = std::to_string(position) + " V";
+    main.Ch1Raw = makeRecord([position](int) { return position; });
+    windows.user["frmSave"] = [&] {
+      saveWindow.cmdOK.press();
+      EXPECT_TRUE(saveWindow.isVisible());
+      EXPECT_EQ(set(), before) << "a part of the set is another one's";
+      fs::remove(place / names[i]);
+      saveWindow.cmdOK.press();
+    };
+    main.cmdSave.press();
+    EXPECT_EQ(dialogs.runTimeErrors.size(), i + 1);
+    for (std::size_t other = 0; other < names.size(); ++other)
+      EXPECT_NE(set()[other], before[other]);
+    // Not the text of the description, which the failed try had come to.
+    EXPECT_TRUE(file("one.csv").starts_with("Channel 1\r\n" + std::to_string(position)));
+  }
   dialogs.runTimeErrors.clear();
   save("one.csv");
   EXPECT_EQ(dialogs.runTimeErrors.size(), 1u);
