@@ -143,12 +143,6 @@ bool isSecondName(const fs::path& aside, const fs::path& target) {
          fs::equivalent(aside, target, ignored);
 }
 
-bool isWithoutSecondNames(const std::error_code& failed) {
-  return failed == std::errc::operation_not_permitted || failed == std::errc::not_supported ||
-         failed == std::errc::operation_not_supported || failed == std::errc::too_many_links ||
-         failed == std::errc::function_not_supported;
-}
-
 /// Takes the name first, with an empty file, so that nobody else's is ever replaced.
 std::error_code renameToNew(const fs::path& target, const fs::path& aside) {
   errno = 0;
@@ -160,12 +154,16 @@ std::error_code renameToNew(const fs::path& target, const fs::path& aside) {
   return failed;
 }
 
-/// A second name for the same file needs no right to read it, and takes nobody's place.
+/// A second name for the same file needs no right to read it, and takes nobody's place. File
+/// systems without second names say so in many ways, so that any other reason leads to the first
+/// name.
 std::error_code keepAs(const fs::path& aside, const fs::path& target) {
   if (isSecondName(aside, target)) return {};
   std::error_code failed;
   fs::create_hard_link(target, aside, failed);
-  return isWithoutSecondNames(failed) ? renameToNew(target, aside) : failed;
+  const bool isAnswer =
+      !failed || failed == std::errc::file_exists || failed == std::errc::no_such_file_or_directory;
+  return isAnswer ? failed : renameToNew(target, aside);
 }
 
 }  // namespace
@@ -209,6 +207,8 @@ void keepAside(const fs::path& path) {
   // Its mode, which the new file would take over, would keep that from being read, too.
   if (!failed && fs::exists(target, failed) && !canBeRead(target)) fs::remove(target, failed);
   if (failed) throw fileError(pathAccess, "Cannot keep", path, failed);
+  // A link that leads nowhere would not be followed.
+  if (fs::is_symlink(path, failed) && !fs::exists(target, failed)) createExclusively(target);
 }
 
 }  // namespace tracewell
