@@ -11,8 +11,10 @@
 namespace tracewell {
 namespace {
 
-/// A query passes as it is; of a command's parameter only a whole number that is not negative.
+/// A query passes as it is; of a command's parameter only a whole number that is not negative. A
+/// line end in it, which only a file can have brought, would hide a second command.
 bool isInRange(const std::string& command) {
+  if (command.find_first_of("\r\n") != std::string::npos) return false;
   const std::size_t blank = command.find(' ');
   if (command.ends_with('?') || blank == std::string::npos) return true;
   const std::string parameter = command.substr(blank + 1);

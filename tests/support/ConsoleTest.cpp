@@ -121,6 +121,8 @@ TEST_F(ConsoleTest, ParametersThatPassAndThatDoNot) {
                {":CHAN1:INV ", nullptr, ":CHAN1:INV"},
                {":CHAN1:INV on", nullptr, ":CHAN1:INV"},
                {":CHAN1:INV 1 2", nullptr, ":CHAN1:INV"},
+               {":AUT\n:CHAN1:INV 1", nullptr, ":AUT\n:CHAN1:INV"},
+               {":AUT\r?", nullptr, ":AUT\r?"},
                {" 1", " 1", nullptr},
                {"", nullptr, ""}};
   for (const auto& c : cases) {
