@@ -115,7 +115,8 @@ void onMoveByKey(QObject* list, const std::function<void()>& action) {
 int widestOf(const QLabel& label) {
   const auto is = [&label](const char* kind) { return label.property(kind).toBool(); };
   if (is("status")) return QWIDGETSIZE_MAX;
-  if (is("state")) return 640;
+  if (is("state")) return 550;
+  if (is("port")) return 230;
   if (is("readout")) return 130;
   return is("cell") ? 150 : 300;
 }

@@ -2,6 +2,8 @@
 #include "Doubles.h"
 
 #include <atomic>
+#include <ctime>
+#include <fstream>
 #include <random>
 
 namespace tracewell {
@@ -82,6 +84,37 @@ ProgramFolderCopy::~ProgramFolderCopy() {
   std::error_code ignored;
   fs::permissions(path_, fs::perms::owner_all, ignored);
   fs::remove_all(path_, ignored);
+}
+
+namespace {
+
+/// Of this process: now ("VmRSS:"), or the most since the last call of forgetPeak ("VmHWM:").
+long residentMegabytes(const std::string& which) {
+  std::ifstream status("/proc/self/status");
+  std::string word;
+  long kilobytes = 0;
+  while (status >> word)
+    if (word == which) status >> kilobytes;
+  return kilobytes / 1024;
+}
+
+void forgetPeak() {
+  std::ofstream("/proc/self/clear_refs") << 5;
+}
+
+}  // namespace
+
+void expectCheap(const std::function<void()>& action, double seconds, long megabytes) {
+#ifdef __SANITIZE_ADDRESS__
+  seconds *= 10;
+  megabytes *= 10;
+#endif
+  forgetPeak();
+  const long before = residentMegabytes("VmRSS:");
+  const std::clock_t start = std::clock();
+  action();
+  EXPECT_LT(static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC, seconds);
+  EXPECT_LT(residentMegabytes("VmHWM:") - before, megabytes);
 }
 
 std::string makeRecord(const std::function<int(int)>& sample) {

@@ -5,6 +5,7 @@
 
 #include <deque>
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <sstream>
 #include <string>
@@ -24,6 +25,10 @@ using Lines = std::vector<std::string>;
 inline std::string contentOf(const std::filesystem::path& path) {
   return readWholeFile(path, fileLimit::picture);
 }
+
+/// Processor time, which a busy machine does not stretch, and memory at its peak; a sanitizer is
+/// allowed ten times as much.
+void expectCheap(const std::function<void()>& action, double seconds = 1, long megabytes = 200);
 
 /// Writes down what the program would have said, and answers as told.
 class RecordingDialogs : public Dialogs {

@@ -2,8 +2,6 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QComboBox>
-#include <QElapsedTimer>
-#include <QFile>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -14,7 +12,6 @@
 #include <QTimer>
 #include <QToolTip>
 #include <QTreeWidget>
-#include <ctime>
 #include <map>
 
 #include "DesktopDialogs.h"
@@ -60,12 +57,6 @@ void fill(Control& control, const std::string& text) {
     combo->items.setQuietly({text, text});
     combo->text.setQuietly(text);
   }
-}
-
-qint64 residentBytes() {
-  QFile status(QStringLiteral("/proc/self/statm"));
-  EXPECT_TRUE(status.open(QIODevice::ReadOnly));
-  return status.readAll().split(' ').value(1).toLongLong() * 4096;
 }
 
 bool isHarmless(const QString& text) {
@@ -155,54 +146,42 @@ void expectHarmless(const QWidget& top, qsizetype textSize, std::map<std::string
 
 class HostileTextTest : public MainFormTest {};
 
-#ifdef __SANITIZE_ADDRESS__
-constexpr int slowness = 10;
-#else
-constexpr int slowness = 1;
-#endif
-
 TEST_F(HostileTextTest, EveryWindowShowsItHarmlesslyAndAtOnce) {
-  std::vector<Window*> opened = program.otherWindows();
+  std::vector<Window*> windows = program.otherWindows();
+  windows.push_back(&main);
   std::map<std::string, int> seen;
   for (const std::string& text : hostileTexts()) {
     SCOPED_TRACE(fromQt(shownText(text, {40})));
-    for (Window* window : opened) {
+    for (Window* window : windows) {
       SCOPED_TRACE(window->name());
       window->caption = text;
       for (Control* control : window->controls()) fill(*control, text);
-      const qint64 before = residentBytes();
-      const std::clock_t start = std::clock();
       DesktopWindows screen;
-      screen.show(*window);
-      QApplication::processEvents();
-      QWidget& widget = *screen.widgetOf(*window->controls()[0])->window();
-      widget.grab();
-      EXPECT_LT(std::clock() - start, CLOCKS_PER_SEC * slowness);
-      EXPECT_LT((residentBytes() - before) >> 20, 100 * slowness);
-      expectHarmless(widget, std::ssize(text), seen);
+      QWidget* widget = nullptr;
+      const auto show = [&] {
+        screen.show(*window);
+        QApplication::processEvents();
+        const Control& inside = window == &main ? main.graphDSO : *window->controls()[0];
+        widget = screen.widgetOf(inside)->window();
+        widget->grab();
+      };
+      expectCheap(show);
+      expectHarmless(*widget, std::ssize(text), seen);
     }
-    for (Control* control : main.controls()) fill(*control, text);
-    expectHarmless(*form, std::ssize(text), seen);
   }
   for (const Kind& kind : kinds) EXPECT_GT(seen[kind.name], 0) << kind.name;
 }
 
-TEST_F(HostileTextTest, RepliesCostLittleAndLeaveTheMainWindowItsSize) {
-  const qint64 before = residentBytes();
-  QElapsedTimer timer;
+TEST_F(HostileTextTest, RepliesLeaveTheMainWindowItsSize) {
   for (const std::string& reply : hostileTexts()) {
-    timer.start();
-    for (ValueLabel* label : {&main.lblChan1, &main.lblChan2, &main.lblTime, &main.lblPort,
-                              &main.lblMeasure(0), &main.lblMeasure(15), &main.lblStatus})
-      label->caption = reply;
-    main.graphDSO.axis("XAxis").caption = reply;
-    main.txtMsg.text = reply;
+    for (Control* control : main.controls())
+      if (dynamic_cast<ValueLabel*>(control) != nullptr) fill(*control, reply);
+    fill(main.graphDSO, reply);
+    fill(main.txtMsg, reply);
     QApplication::processEvents();
-    EXPECT_LT(timer.elapsed(), 500 * slowness);
     EXPECT_LE(form->minimumSizeHint().width(), 1280);
     EXPECT_LE(form->minimumSizeHint().height(), 800);
   }
-  EXPECT_LT((residentBytes() - before) >> 20, 100 * slowness);
 }
 
 TEST_F(HostileTextTest, BoxesAreTextOnly) {
