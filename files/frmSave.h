@@ -9,8 +9,8 @@ namespace tracewell {
 
 /// The save window: a picture of the graph to write notes on, and three files of one base name: the
 /// picture in one of nine formats, the samples (".csv"), and the description (".inf"). A set of the
-/// same name is replaced as a whole: where one file cannot be written all stay as they were, so that
-/// no description ever speaks of other data or of a picture that is not there.
+/// same name is replaced as a whole: where one file cannot be written all stay as they were, so
+/// that no description ever speaks of other data or of a picture that is not there.
 class frmSave : public Window {
  public:
   explicit frmSave(frmDSO& main);
