@@ -34,6 +34,7 @@ struct DesktopProgram {
   DesktopWindows windows;
   DesktopPictures pictures{windows};
   DesktopPrinter printer;
+  Words words;
   Services services;
   Tracewell program{services};
   UserInput input{gate, standBy};

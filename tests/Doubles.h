@@ -185,9 +185,10 @@ struct BenchOf : Port {
   ScriptedWindows windows;
   RecordingPictures pictures;
   RecordingPrinter printer;
-  Services services{this->clock,   this->dialogs, this->gate,   this->dispatcher,
-                    this->standBy, this->port,    list,         windows,
-                    pictures,      printer,       folder.path()};
+  Words words;
+  Services services{this->clock,   this->dialogs, this->gate, this->dispatcher,
+                    this->standBy, this->port,    list,       windows,
+                    pictures,      printer,       words,      folder.path()};
   Tracewell program{services};
   frmDSO& main = program.main;
 

@@ -12,6 +12,7 @@
 #include "SerialPort.h"
 #include "StandBy.h"
 #include "WindowHost.h"
+#include "Words.h"
 
 namespace tracewell {
 
@@ -28,6 +29,7 @@ struct Services {
   WindowHost& windows;
   Pictures& pictures;
   Printer& printer;
+  Words& words;
   /// Where the setup, the language files and the error log are. Writable.
   std::filesystem::path programFolder;
 };

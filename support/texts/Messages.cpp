@@ -43,6 +43,8 @@ void LoadMessages(frmDSO& main) {
     position = end + 1;
   }
   std::ranges::move(messages, main.Msg.begin());
+  const std::string code = languageCode(main.gridMeasure);
+  main.services().words.use(code.empty() ? 1 : code.back() - '0');
 }
 
 }  // namespace tracewell
