@@ -21,13 +21,16 @@ class AliveTest(SystemTestCase):
         self.instrument = self.make_instrument(self.program)
         self.program.start()
         self.program.keys("F5")
-        self.expect_live_trace()
+        self.expect_live_trace(self.program)
+
+    def begin_to_wait(self, key):
+        self.program.keys(key)
+        wait_for(lambda: "question" in self.program.place("frmDSO.lblStatus").text, 10, "a wait")
 
     def wait_in(self, fault, key):
         """The program begins to wait for an instrument with the fault."""
         self.instrument.fault(fault)
-        time.sleep(1.5)
-        self.program.keys(key)
+        self.begin_to_wait(key)
 
     def expect_alive(self, what):
         gap = Desktop().longest_gap(self.program.window, 2)
@@ -44,6 +47,7 @@ class AliveTest(SystemTestCase):
         self.assertLess(time.monotonic() - given_up, 2)
         self.program.focus(trigger)
         self.program.keys("Escape")
+        self.begin_to_wait("ctrl+t")
         self.end()
 
     def test_trickle(self):
@@ -57,8 +61,7 @@ class AliveTest(SystemTestCase):
         self.end()
 
     def end(self):
-        """Told to end in the middle of a wait, the program releases the panel and is gone."""
-        self.program.keys("ctrl+t")
+        """Told to end, whatever it waits for, the program releases the panel and is gone."""
         told = time.monotonic()
         self.program.process.send_signal(signal.SIGTERM)
         wait_for(lambda: self.program.process.poll() is not None, 5, "the end")

@@ -2,7 +2,8 @@
 """What the system tests share: an X server of their own, the program in a folder of its own, and
 krm410-sim behind a link.
 
-Each test is called with TRACEWELL KRM410_SIM DATA_FOLDER.
+Each test is called with TRACEWELL KRM410_SIM DATA_FOLDER. Where a control is on the screen is said by
+Whereabouts.cpp; what the user does there is done by xdotool.
 """
 
 import ctypes
@@ -10,17 +11,18 @@ import os
 import pathlib
 import select
 import shutil
+import socket
 import subprocess
 import sys
 import tempfile
 import time
+import typing
 import unittest
 
 TRACEWELL, SIMULATOR, DATA = (os.path.abspath(argument) for argument in sys.argv[1:4])
 WIDTH, HEIGHT = 1280, 800
-# Inside the graticule of the window at that size.
-GRATICULE = (20, 110, 790, 535)
-KNOB_CHAN1 = (905, 200)
+# Built beside the program, under tests/.
+PLUGINS = pathlib.Path(TRACEWELL).parents[1] / "tests" / "plugins"
 
 
 def wait_for(condition, seconds, what):
@@ -70,28 +72,25 @@ class Screen:
         assert header[1] == f"{WIDTH} {HEIGHT}".encode()
         return header[3]
 
-    def trace(self):
-        """Where the graph shows the colour of channel 1."""
+    def within(self, place):
+        """Position and colour of every pixel there."""
         pixels = self.pixels()
-        left, top, right, bottom = GRATICULE
-        found = set()
-        for y in range(top, bottom):
-            for x in range(left, right):
-                red, green, blue = pixels[3 * (y * WIDTH + x):3 * (y * WIDTH + x) + 3]
-                if red > 170 and 120 < green < red and red - blue > 90:
-                    found.add((x, y))
-        return found
+        for y in range(place.top, place.top + place.height):
+            for x in range(place.left, place.left + place.width):
+                yield (x, y), pixels[3 * (y * WIDTH + x):3 * (y * WIDTH + x) + 3]
 
-    def lamp(self):
-        pixels = self.pixels()
-        counts = {"blue": 0, "green": 0, "red": 0}
-        for y in range(20, 56):
-            for x in range(8, 40):
-                red, green, blue = pixels[3 * (y * WIDTH + x):3 * (y * WIDTH + x) + 3]
-                for name, value, others in (("red", red, green + blue), ("green", green, red + blue),
-                                            ("blue", blue, red + green)):
-                    counts[name] += value > 150 and value > others
-        return max(counts, key=counts.get)
+
+class Place(typing.NamedTuple):
+    """Where an object of the program is on the screen, and the text on it."""
+
+    left: int
+    top: int
+    width: int
+    height: int
+    text: str
+
+    def middle(self):
+        return str(self.left + self.width // 2), str(self.top + self.height // 2)
 
 
 class Program:
@@ -104,6 +103,7 @@ class Program:
             shutil.copy(file, self.folder)
         self.setup = self.folder / "default.dso"
         self.write_port(port)
+        self.environment = dict(os.environ)
         self.process = None
 
     def write_port(self, port):
@@ -113,38 +113,53 @@ class Program:
     window = None
 
     def start(self):
-        self.process = subprocess.Popen([self.folder / "tracewell"], cwd=self.folder)
+        self.process = subprocess.Popen([self.folder / "tracewell"], cwd=self.folder,
+                                        env=self.environment)
         self.window = None
         self.window = self.find("Tracewell")
-        run("xdotool", "windowmove", self.window, "0", "0",
-            "windowsize", self.window, str(WIDTH), str(HEIGHT))
+        run("xdotool", "windowmove", "--sync", self.window, "0", "0",
+            "windowsize", "--sync", self.window, str(WIDTH), str(HEIGHT))
         self.focus(self.window)
+
+    def windows(self, title):
+        found = subprocess.run(
+            ["xdotool", "search", "--all", "--onlyvisible", "--pid", str(self.process.pid),
+             "--name", f"^{title}$"], capture_output=True, text=True).stdout.split()
+        return [window for window in found if window != self.window]
 
     def find(self, title, besides=None):
         """The window of that title, other than the main one and the one given."""
-        def search():
-            found = subprocess.run(
-                ["xdotool", "search", "--all", "--onlyvisible", "--pid", str(self.process.pid),
-                 "--name", f"^{title}$"], capture_output=True, text=True).stdout.split()
-            return [window for window in found if window not in (self.window, besides)]
-        return wait_for(search, 10, f"the window {title}")[0]
+        return wait_for(lambda: [window for window in self.windows(title) if window != besides],
+                        30, f"the window {title}")[0]
+
+    def closed(self, title):
+        wait_for(lambda: not self.windows(title), 30, f"{title} to close")
 
     def focus(self, window):
         run("xdotool", "windowfocus", "--sync", window)
-        time.sleep(0.3)
 
     def keys(self, *names):
         run("xdotool", "key", *names)
-        time.sleep(0.3)
 
     def type(self, text):
         run("xdotool", "type", text)
-        time.sleep(0.2)
 
-    def wheel(self, x, y, button):
-        """Button 4 turns up, 5 down."""
-        run("xdotool", "mousemove", str(x), str(y), "click", str(button))
-        time.sleep(0.2)
+    def shown(self, name):
+        """The place of an object, "frmDSO.cmdStart", that a click would reach; None without one."""
+        with socket.socket(socket.AF_UNIX) as question:
+            question.settimeout(10)
+            question.connect(str(self.folder / "whereabouts"))
+            question.sendall(name.encode() + b"\n")
+            with question.makefile(encoding="utf-8") as answer:
+                *place, text = answer.readline().rstrip("\n").split(" ", 4) or [""]
+        return Place(*map(int, place), text) if place else None
+
+    def place(self, name):
+        return wait_for(lambda: self.shown(name), 30, name)
+
+    def click(self, name, button=1):
+        """Button 4 turns the wheel up, 5 down."""
+        run("xdotool", "mousemove", *self.place(name).middle(), "click", str(button))
 
     def processor_seconds(self):
         fields = pathlib.Path(f"/proc/{self.process.pid}/stat").read_text().rsplit(")", 1)[1].split()
@@ -279,6 +294,8 @@ class SystemTestCase(unittest.TestCase):
 
     def make_program(self, port):
         program = Program(port)
+        program.environment["QT_PLUGIN_PATH"] = str(PLUGINS)
+        program.environment["QT_QPA_GENERIC_PLUGINS"] = f"whereabouts:{program.folder}/whereabouts"
         self.addCleanup(program.remove)
         return program
 
@@ -287,9 +304,26 @@ class SystemTestCase(unittest.TestCase):
         self.addCleanup(instrument.stop)
         return instrument
 
-    def expect_live_trace(self):
-        first = wait_for(lambda: len(trace := self.screen.trace()) > 300 and trace, 10, "a trace")
-        wait_for(lambda: self.screen.trace() != first, 10, "a second frame")
+    def trace(self, program):
+        """Where the graph shows the colour of channel 1."""
+        return {position for position, (red, green, blue)
+                in self.screen.within(program.place("frmDSO.graphDSO"))
+                if red > 170 and 120 < green < red and red - blue > 90}
+
+    def expect_live_trace(self, program):
+        first = wait_for(lambda: len(trace := self.trace(program)) > 300 and trace, 30, "a trace")
+        wait_for(lambda: self.trace(program) != first, 30, "a second frame")
+
+    def lamp(self, program):
+        counts = {"blue": 0, "green": 0, "red": 0}
+        for _, (red, green, blue) in self.screen.within(program.place("frmDSO.spConnect")):
+            for name, value, others in (("red", red, green + blue), ("green", green, red + blue),
+                                        ("blue", blue, red + green)):
+                counts[name] += value > 150 and value > others
+        return max(counts, key=counts.get)
+
+    def expect_lamp(self, program, colour):
+        wait_for(lambda: self.lamp(program) == colour, 10, f"the {colour} lamp")
 
 
 def main():

@@ -9,7 +9,7 @@ that of the second.
 
 import time
 
-from real_desktop import SystemTestCase, main, resident_kilobytes, run
+from real_desktop import SystemTestCase, main, resident_kilobytes
 
 MINUTES = 10
 
@@ -19,9 +19,9 @@ class Soak(SystemTestCase):
         program = self.make_program(7)
         self.make_instrument(program)
         program.start()
-        run("xdotool", "mousemove", "1064", "61", "click", "1")
+        program.click("frmDSO.cbCh2")
         program.keys("F5")
-        self.expect_live_trace()
+        self.expect_live_trace(program)
         figures = []
         for minute in range(1, MINUTES + 1):
             before = program.processor_seconds()
@@ -29,7 +29,7 @@ class Soak(SystemTestCase):
             share = 100 * (program.processor_seconds() - before) / 60
             figures.append(resident_kilobytes(program.process.pid))
             print(f"minute {minute}: {figures[-1]} kB, {share:.2f} % of a core", flush=True)
-        self.expect_live_trace()
+        self.expect_live_trace(program)
         self.assertLess(figures[-1], figures[1] * 1.01)
         program.close()
 
