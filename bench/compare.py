@@ -5,6 +5,7 @@
 compare.py TRACEWELL KRM410_SIM DATA_FOLDER BENCHMARKS_FOLDER
 """
 
+import os
 import pathlib
 import subprocess
 import sys
@@ -28,28 +29,35 @@ def benchmark_milliseconds(program, name):
     return float(row[2]) * {"ns": 1e-6, "us": 1e-3, "ms": 1}[row[4]]
 
 
-def start_up(command, title, **options):
-    """Milliseconds from the start of a program to its window, and its memory a moment later; the
-    best of three."""
-    best = None
-    for _ in range(3):
-        begun = time.monotonic()
-        process = subprocess.Popen(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
-                                   **options)
-        try:
-            while subprocess.run(["xdotool", "search", "--onlyvisible", "--name", title],
-                                 capture_output=True).returncode != 0:
-                if time.monotonic() - begun > 20:
-                    raise AssertionError(f"{command[0]} shows no window {title}")
-            elapsed = 1000 * (time.monotonic() - begun)
-            time.sleep(2)
-            figures = (elapsed, resident_kilobytes(process.pid))
-        finally:
-            process.kill()
-            process.wait()
-            time.sleep(0.5)
-        best = min(best, figures) if best else figures
-    return best
+def own_windows(process, title):
+    return subprocess.run(["xdotool", "search", "--all", "--onlyvisible", "--pid", str(process.pid),
+                           "--name", f"^{title}$"], capture_output=True, text=True).stdout.split()
+
+
+def start_once(command, title, folder):
+    """Milliseconds from the start of a program to its window, and its memory two seconds later, when
+    it must still be showing that window."""
+    begun = time.monotonic()
+    process = subprocess.Popen(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
+                               cwd=folder, env=dict(os.environ, HOME=str(folder)))
+    try:
+        while not (windows := own_windows(process, title)):
+            assert process.poll() is None, f"{command[0]} ended with {process.returncode}"
+            assert time.monotonic() - begun < 20, f"{command[0]} shows no window {title}"
+        elapsed = 1000 * (time.monotonic() - begun)
+        time.sleep(2)
+        assert own_windows(process, title) == windows, f"{command[0]} shows another window"
+        memory = resident_kilobytes(process.pid)
+    finally:
+        process.terminate()
+        process.wait(10)
+    print(f"{command[0]}: {elapsed:.1f} ms, {memory / 1024:.1f} MB", file=sys.stderr)
+    return elapsed, memory
+
+
+def start_up(command, title, folder):
+    """The best of five."""
+    return min(start_once(command, title, folder) for _ in range(5))
 
 
 def measure_script(instrument_link):
@@ -78,15 +86,13 @@ def main():
     try:
         delay, processor, first, memory = measure_script(link)
         own_processor, own_memory = measure_tracewell(program)
-        program.process.kill()
-        program.process.wait()
+        program.close()
         own_delay = (benchmark_milliseconds("record_benchmark", "recordToTrace") +
                      benchmark_milliseconds("frame_benchmark", "frame"))
-        own_start, own_idle = start_up([program.folder / "tracewell"], "^Tracewell$",
-                                       cwd=program.folder)
+        own_start, own_idle = start_up([program.folder / "tracewell"], "Tracewell", program.folder)
         others = {
-            "PulseView": start_up(["pulseview", "-c"], "PulseView"),
-            "xoscope": start_up(["xoscope"], "oscope"),
+            "PulseView": start_up(["pulseview", "-c"], "Session 1 - PulseView", program.folder),
+            "xoscope": start_up(["xoscope"], "Xoscope", program.folder),
         }
     finally:
         instrument.stop()

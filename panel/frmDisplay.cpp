@@ -83,7 +83,7 @@ void frmDisplay::sendBrightness() {
     inquiry.next();
     const std::string stem(BrightQuery[setting]);
     const std::string& value = main_.gridMeasure.text(SetupTable::display, column(setting));
-    const std::string command = stem + " " + value;
+    const std::string command = std::string(stem).append(" ").append(value);
     exchange_.SendDSOCmd(command);
     Delay(main_, SettingsBurst::settlingTime);
     echoLine(main_, command);

@@ -17,8 +17,8 @@ std::string channelName(int channel) {
 }
 
 /// Longer than a period of any signal, in steps finer than its steepest part.
-constexpr double searchTime = 0.045;
 constexpr double searchStep = 2e-6;
+constexpr int searchSteps = 22500;
 constexpr int middleSample = Screen::sampleCount / 2;
 
 }  // namespace
@@ -68,7 +68,8 @@ double Screen::findTrigger(const InstrumentSettings& settings, double from) cons
     return direction * (triggerVolts(settings, at) - level) > 0;
   };
   bool wasAbove = true;
-  for (double at = from; at < from + searchTime; at += searchStep) {
+  for (int step = 0; step < searchSteps; ++step) {
+    const double at = from + step * searchStep;
     const bool above = isAbove(at);
     if (above && !wasAbove) {
       double low = at - searchStep;
@@ -87,7 +88,8 @@ double Screen::findTrigger(const InstrumentSettings& settings, double from) cons
 void Screen::levelToTheMiddle(InstrumentSettings& settings, double from) const {
   double lowest = triggerVolts(settings, from);
   double highest = lowest;
-  for (double at = from; at < from + searchTime; at += 10 * searchStep) {
+  for (int step = 0; step < searchSteps; step += 10) {
+    const double at = from + step * searchStep;
     lowest = std::min(lowest, triggerVolts(settings, at));
     highest = std::max(highest, triggerVolts(settings, at));
   }
