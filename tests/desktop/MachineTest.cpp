@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <QApplication>
+#include <QColorDialog>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QTimer>
+
+#include "DesktopDialogs.h"
+#include "Doubles.h"
+#include "PortDirectory.h"
+#include "Text.h"
+
+namespace tracewell {
+namespace {
+
+namespace fs = std::filesystem;
+
+TEST(PortDirectory, NumbersMeanDevicesUnlessALinkInTheProgramFolderSaysOtherwise) {
+  const ProgramFolderCopy folder;
+  VirtualClock clock;
+  PortDirectory directory(folder.path(), clock);
+  const fs::path link = folder.path() / "com34";
+  fs::create_symlink(folder.path() / "device", link);
+  const std::pair<std::int16_t, std::string> cases[] = {{0, "simulated instrument"},
+                                                        {1, "ttyS0"},
+                                                        {32, "ttyS31"},
+                                                        {33, "ttyUSB0"},
+                                                        {34, link.string()},
+                                                        {35, "ttyUSB2"},
+                                                        {64, "ttyUSB31"},
+                                                        {65, "ttyACM0"},
+                                                        {96, "ttyACM31"},
+                                                        {97, ""},
+                                                        {-1, ""}};
+  for (const auto& [number, device] : cases)
+    EXPECT_EQ(directory.deviceOf(number), device) << number;
+
+  const auto isListed = [&](std::int16_t number) {
+    const auto ports = directory.ports();
+    return std::ranges::count(ports, number, &PortList::Entry::number) == 1;
+  };
+  EXPECT_TRUE(isListed(0));
+  EXPECT_FALSE(isListed(34));
+  fs::create_directory(folder.path() / "device");
+  EXPECT_TRUE(isListed(34));
+  EXPECT_NE(directory.open({.portNumber = 0}), nullptr);
+  EXPECT_THROW(directory.open({.portNumber = 34}), Error);
+  EXPECT_THROW(directory.open({.portNumber = 97}), Error);
+}
+
+/// Does so with the dialog that is opened next.
+template <class Dialog>
+void use(const std::function<void(Dialog&)>& action) {
+  QTimer::singleShot(0, [action] {
+    auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    action(*dialog);
+  });
+}
+
+class DesktopDialogsTest : public testing::Test {
+ protected:
+  const ProgramFolderCopy folder;
+  const Gate gate;
+  DesktopDialogs dialogs{gate};
+};
+
+TEST_F(DesktopDialogsTest, FilesArePickedWithTheSuffixOfTheFilter) {
+  const FileDialog offer{folder.path(), "Setup", "offered", "*.dso|*.dso"};
+  // What the user types (nothing: Cancel), the file to save, the file to open.
+  const std::tuple<QString, fs::path, fs::path> cases[] = {
+      {"", "offered", "offered"},
+      {"new", folder.path() / "new.dso", {}},
+      {"new.txt", folder.path() / "new.txt", {}},
+      {"default", folder.path() / "default.dso", folder.path() / "default.dso"}};
+  for (const auto& [typed, saved, opened] : cases) {
+    const auto answer = [name = typed](QFileDialog& dialog) {
+      EXPECT_EQ(dialog.nameFilters(), QStringList("*.dso (*.dso)"));
+      dialog.setOption(QFileDialog::DontConfirmOverwrite);
+      auto* line = dialog.findChild<QLineEdit*>("fileNameEdit");
+      EXPECT_EQ(line->text(), "offered");
+      line->setText(name);
+      QDialog& box = dialog;
+      name.isEmpty() ? box.reject() : box.accept();
+    };
+    use<QFileDialog>(answer);
+    EXPECT_EQ(dialogs.saveFile(offer), saved);
+    if (opened.empty()) continue;
+    use<QFileDialog>(answer);
+    EXPECT_EQ(dialogs.openFile(offer), opened);
+  }
+}
+
+TEST_F(DesktopDialogsTest, ColourStaysUnlessOneIsPicked) {
+  const Colour before{1, 2, 3};
+  const Colour other{200, 100, 50};
+  for (const bool isPicked : {false, true}) {
+    use<QColorDialog>([&](QColorDialog& dialog) {
+      dialog.setCurrentColor(toQt(other));
+      isPicked ? dialog.accept() : dialog.reject();
+    });
+    EXPECT_EQ(dialogs.pickColour(before), isPicked ? other : before);
+  }
+}
+
+TEST_F(DesktopDialogsTest, AloneTheProgramAsksAndShowsNothing) {
+  use<QMessageBox>([&](QMessageBox&) { dialogs.goOnAlone(); });
+  EXPECT_EQ(dialogs.askYesNo("End?", "Tracewell"), Answer::No);
+  testing::internal::CaptureStderr();
+  dialogs.showMessage("not \x1Bsaved");
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "tracewell: not \uFFFDsaved\n");
+}
+
+}  // namespace
+}  // namespace tracewell
