@@ -56,8 +56,22 @@ def start_once(command, title, folder):
 
 
 def start_up(command, title, folder):
-    """The best of five."""
+    """The best of five, the first not counted."""
+    start_once(command, title, folder)
     return min(start_once(command, title, folder) for _ in range(5))
+
+
+def start_up_on_a_new_screen(command, title, folder):
+    """The best of five. The first GTK program on a screen loads OpenGL to look at it; those after
+    it read what that one has left at the root window."""
+    figures = []
+    for _ in range(5):
+        screen = Screen()
+        try:
+            figures.append(start_once(command, title, folder))
+        finally:
+            screen.stop()
+    return min(figures)
 
 
 def measure_script(instrument_link):
@@ -89,10 +103,12 @@ def main():
         program.close()
         own_delay = (benchmark_milliseconds("record_benchmark", "recordToTrace") +
                      benchmark_milliseconds("frame_benchmark", "frame"))
-        own_start, own_idle = start_up([program.folder / "tracewell"], "Tracewell", program.folder)
+        folder = program.folder
+        own_start, own_idle = start_up([program.folder / "tracewell"], "Tracewell", folder)
         others = {
-            "PulseView": start_up(["pulseview", "-c"], "Session 1 - PulseView", program.folder),
-            "xoscope": start_up(["xoscope"], "Xoscope", program.folder),
+            "PulseView": start_up(["pulseview", "-c"], "Session 1 - PulseView", folder),
+            "xoscope, later GTK program": start_up(["xoscope"], "Xoscope", folder),
+            "xoscope, first GTK program": start_up_on_a_new_screen(["xoscope"], "Xoscope", folder),
         }
     finally:
         instrument.stop()
