@@ -404,9 +404,9 @@ void bindControls(Window& window, QWidget& form) {
 
 void unbindControls(Window& window) {
   for (Control* control : window.controls()) {
+    control->changed = {};
     auto* graph = dynamic_cast<Graph*>(control);
     if (graph != nullptr && graph->letGo) graph->letGo();
-    control->changed = {};
   }
 }
 

@@ -63,7 +63,7 @@ std::string ScriptedPort::read() {
   timeOuts.push_back(readTimeOut);
   std::deque<std::string>& lines = replies[lastCommand_];
   if (lines.empty()) throw Error(portReadTimeOut, "RS232", "silence");
-  const std::string line = lines.front();
+  std::string line = lines.front();
   if (lines.size() > 1) lines.pop_front();
   return line;
 }

@@ -86,6 +86,7 @@ class SystemTest(SystemTestCase):
         program.keys("ctrl+e")
         program.focus(program.find("Error Log"))
         program.keys("Return")
+        program.closed("Error Log")
         log = (program.folder / "dso.err").read_text()
         self.assertEqual(log.count("\n"), 1, log)
         self.assertIn("AcqDSO : ", log)
