@@ -7,7 +7,8 @@ QImage toQt(const Image& image) {
   if (image.isEmpty()) return {};
   const auto* const bytes = reinterpret_cast<const uchar*>(image.pixels.data());
   // A copy of its own: the bytes here are the caller's.
-  return QImage(bytes, image.width, image.height, 3 * image.width, QImage::Format_RGB888).copy();
+  const qsizetype rowBytes = qsizetype{3} * image.width;
+  return QImage(bytes, image.width, image.height, rowBytes, QImage::Format_RGB888).copy();
 }
 
 Image fromQt(const QImage& image) {

@@ -60,8 +60,8 @@ void use(const std::function<void(Dialog&)>& action) {
 
 class DesktopDialogsTest : public testing::Test {
  protected:
-  const ProgramFolderCopy folder;
-  const Gate gate;
+  ProgramFolderCopy folder;
+  Gate gate;
   DesktopDialogs dialogs{gate};
 };
 

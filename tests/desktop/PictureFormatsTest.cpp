@@ -137,7 +137,7 @@ TEST(PictureFormatsTest, JpegIsNotGoneOverWithoutEnd) {
 }
 
 TEST(PictureFormatsTest, IconsAreScaledDownInProportion) {
-  const Image large{640, 320, std::string(640 * 320 * 3, '\x55')};
+  const Image large{640, 320, std::string(std::size_t{640} * 320 * 3, '\x55')};
   for (const int format : {Pictures::ico, Pictures::cur})
     EXPECT_EQ(QImage::fromData(QByteArray::fromStdString(encodePicture(large, format))).size(),
               QSize(256, 128));
