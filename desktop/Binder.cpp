@@ -26,15 +26,15 @@
 #include "Dials.h"
 #include "Graph.h"
 #include "GraphView.h"
-#include "QtImages.h"
 #include "KnobWidget.h"
 #include "LampWidget.h"
 #include "LineWidget.h"
 #include "Lists.h"
 #include "PictureWidget.h"
+#include "QtImages.h"
+#include "QtValues.h"
 #include "ShownText.h"
 #include "SlideWidget.h"
-#include "QtValues.h"
 #include "UnreadMark.h"
 
 namespace tracewell {

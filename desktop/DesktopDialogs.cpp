@@ -7,8 +7,8 @@
 #include <QMessageBox>
 #include <iostream>
 
-#include "ShownText.h"
 #include "QtValues.h"
+#include "ShownText.h"
 
 namespace tracewell {
 namespace {

@@ -7,10 +7,10 @@
 #include <QWidget>
 
 #include "Graph.h"
-#include "QtImages.h"
 #include "PictureFormats.h"
-#include "ShownText.h"
+#include "QtImages.h"
 #include "QtValues.h"
+#include "ShownText.h"
 
 namespace tracewell {
 namespace {

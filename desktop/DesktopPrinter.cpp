@@ -8,10 +8,10 @@
 #include <QTextDocument>
 
 #include "Error.h"
-#include "QtImages.h"
 #include "PaperGraph.h"
-#include "ShownText.h"
+#include "QtImages.h"
 #include "QtValues.h"
+#include "ShownText.h"
 
 namespace tracewell {
 namespace {

@@ -11,8 +11,8 @@
 #include "Binder.h"
 #include "Control.h"
 #include "Forms.h"
-#include "ShownText.h"
 #include "QtValues.h"
+#include "ShownText.h"
 #include "Window.h"
 
 namespace tracewell {

@@ -7,8 +7,8 @@
 
 #include "Error.h"
 #include "QtSerialChannel.h"
-#include "SimulatedChannel.h"
 #include "QtValues.h"
+#include "SimulatedChannel.h"
 
 namespace tracewell {
 namespace {

@@ -18,8 +18,8 @@
 
 #include "DesktopProgram.h"
 #include "ProgramFolder.h"
-#include "ShownText.h"
 #include "QtValues.h"
+#include "ShownText.h"
 #include "Theme.h"
 
 namespace tracewell {

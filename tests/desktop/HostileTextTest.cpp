@@ -17,8 +17,8 @@
 #include "DesktopDialogs.h"
 #include "DesktopWindows.h"
 #include "MainFormTest.h"
-#include "ShownText.h"
 #include "QtValues.h"
+#include "ShownText.h"
 
 namespace tracewell {
 namespace {

@@ -8,7 +8,7 @@
 #include "DesktopDialogs.h"
 #include "Doubles.h"
 #include "PortDirectory.h"
-#include "Text.h"
+#include "QtValues.h"
 
 namespace tracewell {
 namespace {
