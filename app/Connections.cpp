@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "LinkSettings.h"
+#include "StaleScales.h"
+#include "TraceAge.h"
 #include "Tracewell.h"
 
 /// Which routine answers which control of the main window. A dialog joins its own controls to its
@@ -12,6 +14,10 @@ void Tracewell::connectLifecycle() {
   main.cmdClose.click = [this] { lifecycle.cmdClose_Click(); };
   main.mnbClose.click = [this] { lifecycle.cmdClose_Click(); };
   main.tmDSO.timer = [this] { acquisition.tmDSO_Timer(); };
+  main.tmStatus.timer = [this] {
+    showTraceAges(main);
+    showStaleScales(main);
+  };
   main.tmTest.timer = [this] { lifecycle.tmTest_Timer(); };
 }
 
@@ -100,6 +106,7 @@ void Tracewell::connectFiles() {
 
 void Tracewell::connectSupport() {
   main.lblDSOCmd.doubleClicked = [this] { errLog.lblDSOCmd_DblClick(); };
+  main.cmdNewErrors.click = [this] { errLog.lblDSOCmd_DblClick(); };
   main.mnbErrLog.click = [this] { errLog.lblDSOCmd_DblClick(); };
   main.cmdDSOcmd.click = [this] { console.cmdDSOcmd_Click(); };
   main.mnbDSOcmd.click = [this] { console.cmdDSOcmd_Click(); };

@@ -33,6 +33,7 @@ void Lifecycle::Form_Load() {
   captions_.LoadCaptions();
   LoadMessages(main_);
   showWaitingForConnect(main_);
+  main_.tmStatus.enabled = true;
 }
 
 void Lifecycle::Form_Unload() {

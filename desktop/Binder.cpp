@@ -6,6 +6,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QEvent>
+#include <QGraphicsOpacityEffect>
 #include <QGroupBox>
 #include <QIcon>
 #include <QKeyEvent>
@@ -50,6 +51,18 @@ Object* findObject(const Control& control, QWidget& form) {
   return object;
 }
 
+/// Without an effect where nothing is pale: an effect costs a picture of its own at each painting.
+void showPale(QWidget& widget, bool isPale) {
+  if (isPale == (widget.graphicsEffect() != nullptr)) return;
+  if (!isPale) {
+    widget.setGraphicsEffect(nullptr);
+    return;
+  }
+  auto* effect = new QGraphicsOpacityEffect(&widget);
+  effect->setOpacity(0.45);
+  widget.setGraphicsEffect(effect);
+}
+
 /// Shows the control now and whenever it changes. The signals of its object are held back
 /// meanwhile, so that nothing echoes.
 template <class Object, class Show>
@@ -58,7 +71,10 @@ void showWith(Control& control, Object* object, Show show) {
     const QSignalBlocker blocker(object);
     object->setVisible(control.visible());
     object->setEnabled(control.enabled());
-    if constexpr (std::is_base_of_v<QWidget, Object>) UnreadMark::show(*object, control.isUnread());
+    if constexpr (std::is_base_of_v<QWidget, Object>) {
+      UnreadMark::show(*object, control.isUnread());
+      showPale(*object, control.isStale());
+    }
     show();
   };
   control.changed();
@@ -117,6 +133,7 @@ int widestOf(const QLabel& label) {
   if (is("status")) return QWIDGETSIZE_MAX;
   if (is("state")) return 550;
   if (is("port")) return 230;
+  if (is("age")) return 330;
   if (is("readout")) return 130;
   return is("cell") ? 150 : 300;
 }
@@ -160,6 +177,13 @@ void bind(Button& control, QWidget& form) {
     if (const auto colour = control.backColour()) button->setIcon(swatch(toQt(*colour)));
   });
   QObject::connect(button, &QPushButton::clicked, button, [&control] { control.press(); });
+}
+
+void bind(ValueButton& control, QWidget& form) {
+  auto* button = findObject<QAbstractButton>(control, form);
+  showWith(control, button,
+           [&control, button] { button->setText(shownCaption(control.caption())); });
+  QObject::connect(button, &QAbstractButton::clicked, button, [&control] { control.press(); });
 }
 
 void bind(Switch& control, QWidget& form) {
@@ -382,9 +406,9 @@ bool bindAsOneOf(Control& control, QWidget& form) {
 }
 
 void bindControl(Control& control, QWidget& form) {
-  const bool isBound = bindAsOneOf<Label, ValueLabel, Frame, Button, Switch, MenuEntry, CheckBox,
-                                   OptionButton, ComboBox, TextBox, Line, Lamp, Progress, Knob,
-                                   Slide, ListBox, Tree, PictureBox, Graph>(control, form);
+  const bool isBound = bindAsOneOf<Label, ValueLabel, Frame, Button, ValueButton, Switch, MenuEntry,
+                                   CheckBox, OptionButton, ComboBox, TextBox, Line, Lamp, Progress,
+                                   Knob, Slide, ListBox, Tree, PictureBox, Graph>(control, form);
   if (!isBound)
     throw Error(invalidProcedureCall, "Tracewell",
                 "Nothing shows a control of the kind of " + control.objectName());

@@ -7,6 +7,7 @@
 #include "Files.h"
 #include "KeptFiles.h"
 #include "Numbers.h"
+#include "StatusLine.h"
 
 namespace tracewell {
 namespace {
@@ -116,12 +117,16 @@ void SetupFiles::WriteSetupFile(const std::filesystem::path& path) {
 
 void SetupFiles::mnbLoadSetup_Click() {
   Services& services = main_.services();
-  loadFile(services.dialogs.openFile(dialogDSO(services.programFolder)));
+  const std::filesystem::path path = services.dialogs.openFile(dialogDSO(services.programFolder));
+  loadFile(path);
+  showStatus(main_, services.words.say("Setup loaded from %1", {pathText(path)}));
 }
 
 void SetupFiles::mnbSaveSetup_Click() {
   Services& services = main_.services();
-  WriteSetupFile(services.dialogs.saveFile(dialogDSO(services.programFolder)));
+  const std::filesystem::path path = services.dialogs.saveFile(dialogDSO(services.programFolder));
+  WriteSetupFile(path);
+  if (!path.empty()) showStatus(main_, services.words.say("Setup saved to %1", {pathText(path)}));
 }
 
 }  // namespace tracewell

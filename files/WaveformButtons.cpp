@@ -3,6 +3,7 @@
 
 #include "Files.h"
 #include "Paused.h"
+#include "StatusLine.h"
 #include "WaveformSetReader.h"
 
 namespace tracewell {
@@ -42,6 +43,7 @@ void WaveformButtons::cmdLoadCSV_Click() {
   Plot& load1 = main_.graphDSO.plot(ScopeGraph::firstReference);
   load1.plotXvsY(main_.XIndex, points);
   load1.visible = true;
+  showStatus(main_, services.words.say("Loaded %1", {pathText(path)}));
 }
 
 void WaveformButtons::cmdRemove_Click() {
@@ -50,7 +52,10 @@ void WaveformButtons::cmdRemove_Click() {
 }
 
 void WaveformButtons::cmdExportCSV_Click() {
-  writeWholeFile("text.csv", main_.txtMsg.text());
+  const std::filesystem::path path = "text.csv";
+  writeWholeFile(path, main_.txtMsg.text());
+  showStatus(main_,
+             main_.services().words.say("Saved %1", {pathText(std::filesystem::absolute(path))}));
 }
 
 }  // namespace tracewell

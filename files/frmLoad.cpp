@@ -5,6 +5,7 @@
 #include <array>
 
 #include "Files.h"
+#include "StatusLine.h"
 #include "WaveformSetReader.h"
 
 namespace tracewell {
@@ -141,6 +142,7 @@ void frmLoad::cmdOK_Click() {
     drawSet(
         readWaveforms(readWaveformFile(pathOf(basePath_ + "csv")), channel1Value_, channel2Value_));
     hide();
+    showStatus(main_, services().words.say("Loaded %1", {basePath_ + "csv"}));
   } catch (const Error&) {
     // Says nothing, and the window stays for another choice.
   }

@@ -2,6 +2,7 @@
 #include "frmSave.h"
 
 #include "Files.h"
+#include "StatusLine.h"
 #include "WaveformSetWriter.h"
 
 namespace tracewell {
@@ -14,6 +15,11 @@ std::string timeStamp(const Clock& clock) {
   for (const char c : clock.dateAndTime().substr(afterYear))
     if (c >= '0' && c <= '9') digits += c;
   return digits;
+}
+
+/// Where it is without a folder of its own, the present one.
+std::string folderText(const std::filesystem::path& path) {
+  return pathText(std::filesystem::absolute(path).parent_path());
 }
 
 /// Without regard to case, which not every file system knows.
@@ -102,6 +108,8 @@ void frmSave::saveSet(const std::filesystem::path& path) {
     txtDatFile.text = csv;
     throw;
   }
+  showStatus(main_, services().words.say("Saved %1 with its .csv and .inf in %2",
+                                         {pathText(path.filename()), folderText(path)}));
 }
 
 }  // namespace tracewell

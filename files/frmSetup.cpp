@@ -2,6 +2,7 @@
 #include "frmSetup.h"
 
 #include "Files.h"
+#include "StatusLine.h"
 
 namespace tracewell {
 namespace {
@@ -57,7 +58,9 @@ void frmSetup::Form_Activate() {
 void frmSetup::cmdSave_Click() {
   const std::filesystem::path path = services().dialogs.saveFile(
       {services().programFolder, "Save Setup Report file", "default.sir", "*.sir|*.sir"});
-  if (!path.empty()) writeWholeFile(path, txtSetup.text());
+  if (path.empty()) return;
+  writeWholeFile(path, txtSetup.text());
+  showStatus(main_, services().words.say("Saved %1", {pathText(path)}));
 }
 
 }  // namespace tracewell

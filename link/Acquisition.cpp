@@ -4,6 +4,7 @@
 #include "ConnectionIndicator.h"
 #include "Numbers.h"
 #include "PortNotice.h"
+#include "TraceAge.h"
 #include "WaveformRecord.h"
 
 namespace tracewell {
@@ -56,6 +57,7 @@ void Acquisition::DataReady(const std::string& data) {
   ignoringErrors([&] { main_.graphDSO.plot(channel).plotXvsY(main_.XIndex, samples); });
   main_.txtMsg.text = recordText(channel, samples);
   markTrace(main_);
+  noteRecord(main_, channel);
   ignoringErrors([&] { port.reset(); });
   ignoringErrors([&] { main_.WaveCount = addInt16(main_.WaveCount, 1); });
 }

@@ -2,6 +2,7 @@
 #include "Connect.h"
 
 #include "ConnectionIndicator.h"
+#include "StatusLine.h"
 #include "Waiting.h"
 #include "WaitingNotice.h"
 
@@ -17,7 +18,11 @@ void Connect::cmdStart_Click() {
 
 void Connect::startOrStop() {
   if (!main_.Initialised && !connectFirst()) return;
-  if (!main_.LinkOK) return;
+  if (!main_.LinkOK) {
+    showStatus(main_, main_.services().words.say("The last question had no answer: press %1",
+                                                 {main_.cmdRS232.caption()}));
+    return;
+  }
   main_.tmDSO.enabled = !main_.tmDSO.enabled();
   Delay(main_, 1000);
   showAcquisition();

@@ -66,9 +66,12 @@ void Inquiry::finishItem() {
 }
 
 std::string Inquiry::progress() const {
-  if (items_ == Of::oneQuestion) return "Waiting for the answer to " + name_;
-  return name_ + (items_ == Of::questions ? ": question " : ": setting ") + std::to_string(item_) +
-         " of " + std::to_string(count_);
+  const Words& words = main_.services().words;
+  if (items_ == Of::oneQuestion) return words.say("Waiting for the answer to %1", {name_});
+  const std::string item = std::to_string(item_);
+  const std::string count = std::to_string(count_);
+  return items_ == Of::questions ? words.say("%1: question %2 of %3", {name_, item, count})
+                                 : words.say("%1: setting %2 of %3", {name_, item, count});
 }
 
 std::string Inquiry::complaint() const {
@@ -77,10 +80,15 @@ std::string Inquiry::complaint() const {
 }
 
 std::string Inquiry::missed() const {
-  if (items_ == Of::oneQuestion) return "No answer to " + name_;
-  const std::string share = std::to_string(missing_) + " of " + std::to_string(count_);
-  return name_ + (items_ == Of::questions ? ": no answer to " + share + " questions"
-                                          : ": " + share + " settings not confirmed");
+  const Words& words = main_.services().words;
+  if (items_ == Of::oneQuestion)
+    return isGivenUp() ? words.say("%1: given up", {name_}) : words.say("No answer to %1", {name_});
+  const std::string missing = std::to_string(missing_);
+  const std::string count = std::to_string(count_);
+  if (isGivenUp()) return words.say("%1: given up, %2 of %3 not answered", {name_, missing, count});
+  return items_ == Of::questions
+             ? words.say("%1: no answer to %2 of %3 questions", {name_, missing, count})
+             : words.say("%1: %2 of %3 settings not confirmed", {name_, missing, count});
 }
 
 }  // namespace tracewell

@@ -7,6 +7,7 @@
 #include "PortNotice.h"
 #include "SlideCaption.h"
 #include "SlideValues.h"
+#include "StaleScales.h"
 #include "TriggerMarker.h"
 
 namespace tracewell {
@@ -43,6 +44,7 @@ void InstrumentState::InitDSO() {
     readChannel1Position();
     inquiry.next();
     readChannel2Position();
+    if (main_.LinkOK) noteScalesRead(main_);
     UpdateTriggerMarker(main_);
   } catch (const Error& error) {
     errorLog_.ErrLog(error, "InitDSO : ");

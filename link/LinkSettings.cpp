@@ -21,13 +21,16 @@ std::string lineText(const LineSettings& settings) {
 /// Empty where the table and the port agree.
 std::string differingLink(const frmDSO& main) {
   const LineSettings& settings = main.services().port.settings;
-  const std::string inUse = "In use: " + lineText(settings);
+  const Words& words = main.services().words;
+  const std::string inUse = lineText(settings);
   try {
     const LineSettings wanted = linkSettings(main.gridMeasure);
     if (wanted == settings) return "";
-    return inUse + ". The setup: " + lineText(wanted) + " (OK in the RS-232 dialog applies it)";
+    return words.say("In use: %1. The setup: %2 (OK in the RS-232 dialog applies it)",
+                     {inUse, lineText(wanted)});
   } catch (const Error& error) {
-    return inUse + ". The line settings of the setup: " + error.description();
+    return words.say("In use: %1. The line settings of the setup: %2",
+                     {inUse, error.description()});
   }
 }
 

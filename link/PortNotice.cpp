@@ -5,13 +5,15 @@ namespace tracewell {
 
 void showPort(frmDSO& main, std::int16_t portNumber) {
   const std::string device = main.services().ports.deviceOf(portNumber);
+  const Words& words = main.services().words;
+  const std::string number = std::to_string(portNumber);
   main.lblPort.caption =
-      "port " + std::to_string(portNumber) + (device.empty() ? "" : " - " + device);
+      device.empty() ? words.say("port %1", {number}) : words.say("port %1 - %2", {number, device});
 }
 
 void markTrace(frmDSO& main) {
   const bool isSimulated = main.services().port.openPort() == PortList::simulatedPort;
-  main.graphDSO.note = isSimulated ? "SIMULATED" : "";
+  main.graphDSO.note = isSimulated ? main.services().words.say("SIMULATED") : "";
 }
 
 }  // namespace tracewell

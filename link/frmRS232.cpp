@@ -4,6 +4,7 @@
 #include "LinkSettings.h"
 #include "Numbers.h"
 #include "PortNotice.h"
+#include "StaleScales.h"
 
 namespace tracewell {
 
@@ -54,6 +55,7 @@ void frmRS232::cmdOK_Click() {
     main_.gridMeasure.setText(SetupTable::link, linkColumn(i), cbRS232(i).text());
   showPort(main_, settings.portNumber);
   showDifferingLink(main_);
+  showStaleScales(main_);
   hide();
   main_.refresh();
 }

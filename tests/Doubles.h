@@ -114,6 +114,7 @@ class ScriptedPort : public SerialPort, public PortList {
   std::vector<int> timeOuts;
   std::vector<LineSettings> prepared;
   int resets = 0;
+  int timesOpened = 1;
   int recordLength = 0;
   /// Resetting fails.
   bool isStuck = false;
@@ -129,6 +130,7 @@ class ScriptedPort : public SerialPort, public PortList {
   std::int16_t openPort() const override {
     return prepared.empty() ? 0 : prepared.back().portNumber;
   }
+  int openings() const override { return timesOpened; }
   void write(std::string_view bytes, Expects expects) override;
   std::string read() override;
   void beginRead(int count) override { recordLength = count; }

@@ -6,6 +6,7 @@
 #include "ConnectionIndicator.h"
 #include "Flag.h"
 #include "Numbers.h"
+#include "StatusLine.h"
 #include "Waiting.h"
 
 namespace tracewell {
@@ -66,12 +67,25 @@ void Measurements::RunMeasurements() {
   for (const int channel : {1, 2})
     count += flaggedCount(channel + 1, VoltMeasName.size()) +
              flaggedCount(channel + 3, FreqMeasName.size());
-  Inquiry inquiry(exchange_.inquiries(), main_.fmMeasure.caption(), Inquiry::Of::questions, count);
-  for (const int channel : {1, 2}) {
-    chooseSource(channel);
-    measureFlagged(inquiry, channel, VoltMeasName, VoltMeasQuery, channel + 1);
-    measureFlagged(inquiry, channel, FreqMeasName, FreqMeasQuery, channel + 3);
+  {
+    Inquiry inquiry(exchange_.inquiries(), main_.fmMeasure.caption(), Inquiry::Of::questions,
+                    count);
+    for (const int channel : {1, 2}) {
+      chooseSource(channel);
+      measureFlagged(inquiry, channel, VoltMeasName, VoltMeasQuery, channel + 1);
+      measureFlagged(inquiry, channel, FreqMeasName, FreqMeasQuery, channel + 3);
+    }
   }
+  sayWhatDoesNotFit(count);
+}
+
+/// The last place holds the last result.
+void Measurements::sayWhatDoesNotFit(int count) {
+  const int places = main_.lblMeasure.size();
+  if (count <= places) return;
+  showStatus(main_, main_.services().words.say("%1 results in %2 places: %3 are not shown",
+                                               {std::to_string(count), std::to_string(places),
+                                                std::to_string(count - places)}));
 }
 
 void Measurements::chooseSource(int channel) {
@@ -83,6 +97,7 @@ void Measurements::ClearMeasureLabels() {
   for (ValueLabel& label : main_.lblMeasure) {
     label.caption = "";
     label.isUnread = false;
+    label.isStale = false;
   }
 }
 
@@ -110,6 +125,7 @@ void Measurements::showResult(ValueLabel& label, const std::string& title,
                               const std::string& reply) {
   label.caption = title + reply;
   label.isUnread = reply.empty();
+  label.isStale = false;
 }
 
 bool Measurements::isFlagged(int row, std::size_t item) const {
@@ -161,6 +177,8 @@ void Measurements::measureQuickly() {
   chooseSource(main_.FMeasChan);
   Inquiry inquiry(exchange_.inquiries(), main_.fmMeasure.caption(), Inquiry::Of::questions,
                   flaggedCount(SetupTable::voltageChannel1, FreqMeasQuery.size()));
+  // Those that it does not write over are of another time, and perhaps of the other channel.
+  for (ValueLabel& old : main_.lblMeasure) old.isStale = true;
   int label = 0;
   for (std::size_t item = 0; item < FreqMeasQuery.size(); ++item) {
     if (!isFlagged(SetupTable::voltageChannel1, item)) continue;

@@ -33,6 +33,7 @@ class Measurements {
   /// instrument does not have is asked for up to three times more. Throws ProgramEnded when the
   /// window is closed in between.
   void RunMeasurements();
+  void sayWhatDoesNotFit(int count);
   void ClearMeasureLabels();
   void measureQuickly();
   void measureFlagged(Inquiry& inquiry, int channel, std::span<const std::string_view> names,

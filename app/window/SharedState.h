@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdint>
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -71,6 +72,19 @@ struct SharedState {
     std::size_t cmdStart = 0;
     std::size_t cmdRunStop = 0;
   } shownMessages;
+
+  /// When the last record of each channel came; Clock milliseconds.
+  std::array<std::optional<std::int64_t>, 2> RecordTime;
+  /// Where the scales were read: number of the port, and its count of openings then.
+  struct ScaleOrigin {
+    std::int16_t portNumber = 0;
+    int openings = 0;
+    bool operator==(const ScaleOrigin&) const = default;
+  };
+  std::optional<ScaleOrigin> scaleOrigin;
+
+  /// Lines that the error log has got since it was last open.
+  int NewLogLines = 0;
 
   /// What the status line says of line settings that are not in use.
   std::string LinkNotice;

@@ -127,6 +127,10 @@ class frmDSO : public Window, public SharedState {
 
   /// Written through app/window/StatusLine.h.
   ValueLabel lblStatus{*this, "lblStatus", ""};
+  /// How old the traces are.
+  ValueLabel lblAge{*this, "lblAge", ""};
+  /// Opens the error log.
+  ValueButton cmdNewErrors{*this, "cmdNewErrors"};
   /// Written through app/window/KeptFiles.h.
   ValueLabel lblNotice{*this, "lblNotice", ""};
 
@@ -134,6 +138,8 @@ class frmDSO : public Window, public SharedState {
   static constexpr int tickInterval = 1200;
   Timer tmDSO{*this, tickInterval};
   Timer tmTest{*this, tickInterval};
+  /// What the panel says of itself is looked at anew.
+  Timer tmStatus{*this, 500};
 
   /// Those that have been moved or read; the captions of the others are the caption file's.
   std::set<Slide*> slidesWithValue;

@@ -37,6 +37,7 @@ void Conversation::use(const LineSettings& settings) {
     channel_ = opener_.open(settings);
     if (openSettings_.portNumber != settings.portNumber) forget();
     openSettings_ = settings;
+    ++openings_;
     channel_->readable = [this] { dispatcher_.dispatch([this] { arrived(); }); };
   }
   hear(take(0));

@@ -64,6 +64,8 @@ class Conversation {
   void use(const LineSettings& settings);
   /// The settings of the line that was opened last.
   const LineSettings& openSettings() const { return openSettings_; }
+  /// How often a line has been opened.
+  int openings() const { return openings_; }
 
   /// Sends a line to which nothing comes back. Raises deviceError.
   void command(std::string_view line);
@@ -124,6 +126,7 @@ class Conversation {
   StandBy& standBy_;
   std::unique_ptr<ByteChannel> channel_;
   LineSettings openSettings_;
+  int openings_ = 0;
 
   State state_ = State::idle;
   /// The record on its way (recordAwaited), and whether somebody still wants it.

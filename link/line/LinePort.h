@@ -16,6 +16,7 @@ class LinePort : public SerialPort {
   LinePort(const LinePort&) = delete;
 
   std::int16_t openPort() const override { return conversation_.openSettings().portNumber; }
+  int openings() const override { return conversation_.openings(); }
   void write(std::string_view bytes, Expects expects) override;
   std::string read() override;
   void beginRead(int count) override;

@@ -38,6 +38,9 @@ class Control : public Observable {
   /// as the stored one. The view marks it; a user who chooses a value takes the mark away.
   Property<bool> isUnread{*this, false};
 
+  /// What is shown was right once and may be no longer. The view shows it pale.
+  Property<bool> isStale{*this, false};
+
   /// Shows the control at once, although a handler is running.
   void refresh() { owner_.refresh(); }
 

@@ -25,6 +25,10 @@ void Button::press() {
   userDoes([this] { click.raise(); });
 }
 
+void ValueButton::press() {
+  userDoes([this] { click.raise(); });
+}
+
 void Switch::press() {
   userDoes([this] { value = !value(); });
 }

@@ -46,6 +46,15 @@ class Button : public CaptionedControl {
   void press();
 };
 
+/// A button that says something of the program: the caption files leave it alone.
+class ValueButton : public Control {
+ public:
+  using Control::Control;
+  Property<std::string> caption{*this};
+  Event<> click;
+  void press();
+};
+
 /// A button that stays in: shows a state and has no event of its own.
 class Switch : public CaptionedControl {
  public:

@@ -29,6 +29,9 @@ class Plot : public Observable {
   Property<Colour> lineColour;
   Property<int> lineStyle{*this, solidLine};
   Property<int> pointStyle{*this, noPoints};
+  /// The instrument should have sent another trace since. The view shows it pale; pictures and
+  /// pages do not.
+  Property<bool> isOld{*this, false};
 
   /// Replaces the data; the shorter of the two arrays says how many points there are.
   void plotXvsY(std::span<const std::int16_t> x, std::span<const std::int16_t> y);

@@ -45,6 +45,9 @@ class SerialPort {
   /// about the next one.
   virtual std::int16_t openPort() const = 0;
 
+  /// How often a line has been opened; another instrument may be on it each time.
+  virtual int openings() const = 0;
+
   /// What the instrument answers to a line.
   enum class Expects { nothing, reply, record };
 

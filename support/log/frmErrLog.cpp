@@ -43,7 +43,15 @@ void frmErrLog::Form_Load() {
 }
 
 void frmErrLog::lblDSOCmd_DblClick() {
+  showNewLines(0);
   showModal();
+}
+
+void frmErrLog::showNewLines(int count) {
+  main_.NewLogLines = count;
+  const std::string number = std::to_string(count);
+  main_.cmdNewErrors.caption = services().words.say("Error log: %1 new", {number});
+  main_.cmdNewErrors.visible = count > 0;
 }
 
 void frmErrLog::cmdClear_Click() {

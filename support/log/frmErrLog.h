@@ -19,6 +19,8 @@ class frmErrLog : public Window {
 
   /// Also opened from the menu entry of its name.
   void lblDSOCmd_DblClick();
+  /// Says in the main window how many lines nobody has seen yet.
+  void showNewLines(int count);
 
  private:
   void Form_Load();
