@@ -19,8 +19,9 @@ void Connect::cmdStart_Click() {
 void Connect::startOrStop() {
   if (!main_.Initialised && !connectFirst()) return;
   if (!main_.LinkOK) {
-    showStatus(main_, main_.services().words.say("The last question had no answer: press %1",
-                                                 {main_.cmdRS232.caption()}));
+    main_.LinkHint = main_.services().words.say("The last question had no answer: press %1",
+                                                {main_.cmdRS232.caption()});
+    showStatus(main_, main_.LinkHint);
     return;
   }
   main_.tmDSO.enabled = !main_.tmDSO.enabled();

@@ -32,7 +32,7 @@ Inquiry::~Inquiry() {
   const std::string& now = main_.lblStatus.caption();
   const std::string& kept = now == shown_ ? statusBefore_ : now;
   if (missing_ == 0) {
-    showStatus(main_, kept);
+    showStatus(main_, kept == main_.LinkHint ? "" : kept);
     return;
   }
   all_.complaint_ = (kept.empty() ? "" : kept + "; ") + complaint();

@@ -26,29 +26,33 @@ bool isNull(const ValueLabel& scale) {
 void InstrumentState::InitDSO() {
   try {
     applyBaudRateAndPort();
-    Inquiry inquiry(exchange_.inquiries(), main_.fmInstrument.caption(), Inquiry::Of::questions, 5);
-    markAllUnread();
-    inquiry.next();
-    main_.lblChan1.caption = trimmed(exchange_.SendDSOCmd(":CHAN1:SCAL?"));
-    if (!main_.LinkOK) return;
-    if (main_.lblChan1.caption().empty())
-      main_.lblChan1.caption = exchange_.SendDSOCmd(":CHAN1:SCAL?");
-    showScaleOnly(ScaleKnob::Chan1, main_.lblChan1, main_.knobChan1);
-    inquiry.next();
-    main_.lblChan2.caption = scaleReply(":CHAN2:SCAL?");
-    showScaleOnly(ScaleKnob::Chan2, main_.lblChan2, main_.knobChan2);
-    inquiry.next();
-    main_.lblTime.caption = scaleReply(":TIM:SCAL?");
-    showScaleOnly(ScaleKnob::Time, main_.lblTime, main_.knobTime);
-    inquiry.next();
-    readChannel1Position();
-    inquiry.next();
-    readChannel2Position();
+    readAll();
     if (main_.LinkOK) noteScalesRead(main_);
     UpdateTriggerMarker(main_);
   } catch (const Error& error) {
     errorLog_.ErrLog(error, "InitDSO : ");
   }
+}
+
+void InstrumentState::readAll() {
+  Inquiry inquiry(exchange_.inquiries(), main_.fmInstrument.caption(), Inquiry::Of::questions, 5);
+  markAllUnread();
+  inquiry.next();
+  main_.lblChan1.caption = trimmed(exchange_.SendDSOCmd(":CHAN1:SCAL?"));
+  if (!main_.LinkOK) return;
+  if (main_.lblChan1.caption().empty())
+    main_.lblChan1.caption = exchange_.SendDSOCmd(":CHAN1:SCAL?");
+  showScaleOnly(ScaleKnob::Chan1, main_.lblChan1, main_.knobChan1);
+  inquiry.next();
+  main_.lblChan2.caption = scaleReply(":CHAN2:SCAL?");
+  showScaleOnly(ScaleKnob::Chan2, main_.lblChan2, main_.knobChan2);
+  inquiry.next();
+  main_.lblTime.caption = scaleReply(":TIM:SCAL?");
+  showScaleOnly(ScaleKnob::Time, main_.lblTime, main_.knobTime);
+  inquiry.next();
+  readChannel1Position();
+  inquiry.next();
+  readChannel2Position();
 }
 
 /// Data bits, stop bits and parity stay those of the start and of the RS-232 dialog.

@@ -23,6 +23,7 @@ class InstrumentState {
   void readScale(const std::string& query, ScaleKnob kind, ValueLabel& label, Knob& knob);
 
  private:
+  void readAll();
   void applyBaudRateAndPort();
   std::string scaleReply(const std::string& query);
   std::string positionReply(const std::string& query);

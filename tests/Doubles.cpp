@@ -11,17 +11,19 @@ namespace tracewell {
 namespace fs = std::filesystem;
 
 Answer RecordingDialogs::answerYesNo(const std::string& prompt, const std::string& title) {
-  questions.push_back(title + ": " + prompt);
+  told.raise("? " + title + ": " + prompt);
   if (meanwhile) meanwhile();
   return answer;
 }
 
 void RecordingDialogs::showRunTimeError(const Error& error) {
   runTimeErrors.push_back(std::to_string(error.number()) + " " + error.description());
+  told.raise("error " + runTimeErrors.back());
 }
 
 fs::path RecordingDialogs::fileToOpen(const FileDialog& dialog) {
   fileDialogs.push_back(dialog);
+  told.raise("pick " + dialog.title + "|" + dialog.fileName + "|" + dialog.filter);
   if (meanwhile) meanwhile();
   return pickedFile.empty() ? fs::path(dialog.fileName) : pickedFile;
 }
@@ -31,9 +33,20 @@ Image RecordingPictures::withText(const Image& image, const std::string& text, i
           image.pixels + "|" + text + "@" + std::to_string(x) + "," + std::to_string(y)};
 }
 
+void RecordingPrinter::printPage(const GraphPage& page) {
+  std::string text = "page " + page.title;
+  for (const std::string& caption : page.captions) text += "|" + caption;
+  for (const GraphPage::Trace& trace : page.traces)
+    text += "|" + std::to_string(trace.number) + " " + trace.name;
+  told.raise(text);
+  if (isOutOfPaper) throw Error(deviceError, "Printer", "Out of paper");
+  pages.push_back(page);
+}
+
 void ScriptedWindows::showModal(Window& window) {
   shown.push_back(window.name());
   if (meanwhile) meanwhile();
+  opened.raise(window);
   if (user.contains(window.name())) user[window.name()]();
 }
 
@@ -49,18 +62,20 @@ void ScriptedPort::prepareLine() {
   prepared.push_back(settings);
   if (faults > 0) {
     --faults;
+    told.raise("fails");
     throw Error(deviceError, "RS232", "no such device");
   }
 }
 
-void ScriptedPort::write(std::string_view bytes, Expects) {
+void ScriptedPort::write(std::string_view bytes, Expects expects) {
   EXPECT_TRUE(bytes.ends_with("\r\n"));
   lastCommand_ = bytes.substr(0, bytes.size() - 2);
   wire.push_back(lastCommand_);
+  const bool isTold = expects == Expects::reply && readTimeOut != 600;
+  told.raise(lastCommand_ + (isTold ? " @" + std::to_string(readTimeOut) : ""));
 }
 
 std::string ScriptedPort::read() {
-  timeOuts.push_back(readTimeOut);
   std::deque<std::string>& lines = replies[lastCommand_];
   if (lines.empty()) throw Error(portReadTimeOut, "RS232", "silence");
   std::string line = lines.front();

@@ -37,7 +37,6 @@ class RecordingDialogs : public Dialogs {
   Answer answer = Answer::Yes;
   /// Empty means Cancel.
   std::filesystem::path pickedFile;
-  Lines questions;
   Lines messages;
   Lines runTimeErrors;
   std::vector<FileDialog> fileDialogs;
@@ -45,8 +44,13 @@ class RecordingDialogs : public Dialogs {
   Colour colour;
   /// What happens while a box or a dialog is open.
   std::function<void()> meanwhile;
+  /// All of it, as it happens.
+  Event<const std::string&> told;
 
-  void showMessage(const std::string& text) override { messages.push_back(text); }
+  void showMessage(const std::string& text) override {
+    messages.push_back(text);
+    told.raise("! " + text);
+  }
   void showRunTimeError(const Error& error) override;
 
  private:
@@ -74,13 +78,18 @@ class RecordingPrinter : public Printer {
   Lines printed;
   std::vector<GraphPage> pages;
   bool isOutOfPaper = false;
+  /// All of it, as it happens.
+  Event<const std::string&> told;
 
-  void setUp() override { printed.emplace_back("set up"); }
-  void printImage(const Image& image) override { printed.push_back(image.pixels); }
-  void printText(const std::string& text) override { printed.push_back(text); }
-  void printPage(const GraphPage& page) override {
-    if (isOutOfPaper) throw Error(deviceError, "Printer", "Out of paper");
-    pages.push_back(page);
+  void setUp() override { print("set up"); }
+  void printImage(const Image& image) override { print(image.pixels); }
+  void printText(const std::string& text) override { print(text); }
+  void printPage(const GraphPage& page) override;
+
+ private:
+  void print(const std::string& text) {
+    printed.push_back(text);
+    told.raise("print " + text.substr(0, 40));
   }
 };
 
@@ -90,13 +99,20 @@ class ScriptedWindows : public WindowHost {
   std::map<std::string, std::function<void()>> user;
   /// What happens when any modal window has opened.
   std::function<void()> meanwhile;
+  Event<Window&> opened;
+  Event<Window&> hidden;
+  Event<Window&> unloaded;
+  Event<> painted;
   Lines shown;
 
   void showModal(Window& window) override;
-  void show(Window& window) override { shown.push_back(window.name()); }
-  void hide(Window&) override {}
-  void repaint(Window&) override {}
-  void unload(Window&) override {}
+  void show(Window& window) override {
+    shown.push_back(window.name());
+    opened.raise(window);
+  }
+  void hide(Window& window) override { hidden.raise(window); }
+  void repaint(Window&) override { painted.raise(); }
+  void unload(Window& window) override { unloaded.raise(window); }
 };
 
 /// A port that writes down the wire and answers each query from a table. What it has no answer for
@@ -111,7 +127,8 @@ class ScriptedPort : public SerialPort, public PortList {
   int faults = 0;
   /// Every line written, without CR LF.
   Lines wire;
-  std::vector<int> timeOuts;
+  /// The same as it happens, with the time that a reply is given where that is not the usual one.
+  Event<const std::string&> told;
   std::vector<LineSettings> prepared;
   int resets = 0;
   int timesOpened = 1;

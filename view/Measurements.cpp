@@ -83,9 +83,10 @@ void Measurements::RunMeasurements() {
 void Measurements::sayWhatDoesNotFit(int count) {
   const int places = main_.lblMeasure.size();
   if (count <= places) return;
-  showStatus(main_, main_.services().words.say("%1 results in %2 places: %3 are not shown",
-                                               {std::to_string(count), std::to_string(places),
-                                                std::to_string(count - places)}));
+  showStatus(main_,
+             main_.services().words.say(
+                 "%1 results in %2 places: the first %3 and the last are shown",
+                 {std::to_string(count), std::to_string(places), std::to_string(places - 1)}));
 }
 
 void Measurements::chooseSource(int channel) {
@@ -178,7 +179,7 @@ void Measurements::measureQuickly() {
   Inquiry inquiry(exchange_.inquiries(), main_.fmMeasure.caption(), Inquiry::Of::questions,
                   flaggedCount(SetupTable::voltageChannel1, FreqMeasQuery.size()));
   // Those that it does not write over are of another time, and perhaps of the other channel.
-  for (ValueLabel& old : main_.lblMeasure) old.isStale = true;
+  for (ValueLabel& old : main_.lblMeasure) old.isStale = !old.caption().empty();
   int label = 0;
   for (std::size_t item = 0; item < FreqMeasQuery.size(); ++item) {
     if (!isFlagged(SetupTable::voltageChannel1, item)) continue;

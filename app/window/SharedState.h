@@ -86,6 +86,9 @@ struct SharedState {
   /// Lines that the error log has got since it was last open.
   int NewLogLines = 0;
 
+  /// Why the start button does nothing, as the status line says it until a question is answered.
+  std::string LinkHint;
+
   /// What the status line says of line settings that are not in use.
   std::string LinkNotice;
 

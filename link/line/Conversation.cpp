@@ -94,7 +94,6 @@ void Conversation::forget() {
   unanswered_ = 0;
   unansweredInRow_ = 0;
   isStray_ = false;
-  isRestless_ = false;
 }
 
 void Conversation::send(std::string_view bytes) {

@@ -54,12 +54,10 @@ struct EndingBench : BenchOf<OnALine<PacedOpener>> {
     program.start();
     main.txtTest.type("*IDN?");
     setRow(2, {"1", "1"});
-    windows.user["frmTrig"] = [&] { program.trigger.cmdOK.press(); };
-    windows.user["frmChannel"] = [&] { program.channelDialog.cmdOK.press(); };
-    windows.user["frmDisplay"] = [&] { program.display.cmdOK.press(); };
-    windows.user["frmAcq"] = [&] { program.acquire.cmdOK.press(); };
-    windows.user["frmVMeasure"] = [&] { program.measurementChoice.cmdOK.press(); };
-    windows.user["frmSave"] = [&] { program.saveWindow.cmdOK.press(); };
+    windows.opened = [](Window& window) {
+      for (Control* control : window.controls())
+        if (control->name() == "cmdOK") dynamic_cast<Button&>(*control).press();
+    };
   }
 
   ~EndingBench() { std::filesystem::current_path(before); }

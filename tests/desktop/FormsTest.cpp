@@ -23,15 +23,16 @@ namespace {
 
 class FormsTest : public MainFormTest {
  protected:
-  /// Does something to every window but the main one and the widgets bound to it.
+  /// Does something to a window and the widgets bound to it.
+  static void bound(Window& window, const std::function<void(Window&, QWidget&)>& act) {
+    SCOPED_TRACE(window.name());
+    const auto dialog = makeForm(window.name(), nullptr);
+    bindControls(window, *dialog);
+    act(window, *dialog);
+    unbindControls(window);
+  }
   void forEachDialog(const std::function<void(Window&, QWidget&)>& act) {
-    for (Window* window : program.otherWindows()) {
-      SCOPED_TRACE(window->name());
-      const auto dialog = makeForm(window->name(), nullptr);
-      bindControls(*window, *dialog);
-      act(*window, *dialog);
-      unbindControls(*window);
-    }
+    for (Window* window : program.otherWindows()) bound(*window, act);
   }
 };
 
@@ -91,10 +92,13 @@ TEST_F(FormsTest, EveryWindowFitsASmallScreenInEveryLanguageWithNothingCut) {
 
 /// What a screen reader says of a control: its caption in the chosen language, or a name of its
 /// own.
-TEST_F(FormsTest, EveryControlHasANameForScreenReaders) {
+TEST_F(FormsTest, EveryFormHasAWindowAndEveryControlWithANameForScreenReaders) {
   main.mnbLA3.choose();
-  const auto expectNames = [](Window& window, QWidget& form) {
+  Lines names;
+  const auto expectNames = [&names](Window& window, QWidget& form) {
+    names.push_back(window.name());
     for (Control* control : window.controls()) {
+      EXPECT_TRUE(control->changed) << control->objectName();
       auto* widget = form.findChild<QWidget*>(toQt(control->objectName()));
       const bool isMenu = dynamic_cast<MenuEntry*>(control) != nullptr;
       if (isMenu) continue;  // Menus and their entries are their texts.
@@ -105,19 +109,10 @@ TEST_F(FormsTest, EveryControlHasANameForScreenReaders) {
   };
   expectNames(main, *form);
   forEachDialog(expectNames);
-  QAccessibleInterface* close = QAccessible::queryAccessibleInterface(find("cmdClose"));
-  EXPECT_EQ(close->text(QAccessible::Name), QStringLiteral("Fermer"));
-}
-
-TEST_F(FormsTest, EveryFormHasAWindowAndEveryControl) {
-  Lines names = {"frmDSO"};
-  forEachDialog([&](Window& window, QWidget&) {
-    names.push_back(window.name());
-    for (Control* control : window.controls())
-      EXPECT_TRUE(control->changed) << control->objectName();
-  });
   std::ranges::sort(names);
   EXPECT_EQ(names, formNames());
+  QAccessibleInterface* close = QAccessible::queryAccessibleInterface(find("cmdClose"));
+  EXPECT_EQ(close->text(QAccessible::Name), QStringLiteral("Fermer"));
 }
 
 /// In processor time, which a busy machine does not stretch.
@@ -159,77 +154,48 @@ TEST_F(FormsTest, CursorsFollowTheMouseAndTheArrowKeys) {
   EXPECT_TRUE(main.graphDSO.axis("XAxis").caption().starts_with("P1 = "));
 }
 
-TEST_F(FormsTest, ConsoleSendsOncePerEnterAndFocusChoosesNothing) {
-  frmCmd& console = program.console;
-  console.load();
-  const auto dialog = makeForm("frmCmd", nullptr);
-  bindControls(console, *dialog);
-  dialog->show();
-  auto* tree = dialog->findChild<QTreeWidget*>();
-  tree->setFocus();
-  QApplication::processEvents();
-  EXPECT_EQ(console.txtCmd.text(), "");
-  QTest::keyClick(tree, Qt::Key_Home);
-  EXPECT_EQ(console.txtCmd.text(), " Channel 1");
-  auto* line = dialog->findChild<QLineEdit*>(QStringLiteral("txtCmd"));
-  line->clear();
-  QTest::keyClicks(line, QStringLiteral(":CHAN1:OFFS -1"));
-  QTest::keyClick(line, Qt::Key_Return);
-  EXPECT_TRUE(takeWire().empty());
-  EXPECT_EQ(dialogs.messages, Lines{"Out of range"});
-  EXPECT_EQ(line->text(), QStringLiteral(":CHAN1:OFFS"));
-  QTest::keyClick(line, Qt::Key_Return);
-  EXPECT_EQ(takeWire(), Lines{":CHAN1:OFFS"});
-  unbindControls(console);
-}
-
-TEST_F(FormsTest, TypedEntryIsTakenAsItIs) {
-  const auto dialog = makeForm("frmRS232", nullptr);
-  bindControls(program.rs232, *dialog);
-  program.rs232.cbRS232(4).items = {"0", "33"};
-  dialog->show();
-  dialog->activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(dialog.get()));
-  auto* port = dialog->findChild<QComboBox*>(QStringLiteral("cbRS232_4"));
-  port->setFocus();
-  port->lineEdit()->selectAll();
-  QTest::keyClicks(port->lineEdit(), QStringLiteral("3"));
-  QTest::keyClick(port->lineEdit(), Qt::Key_Return);
-  EXPECT_EQ(program.rs232.cbRS232(4).text(), "3");
-  unbindControls(program.rs232);
+TEST_F(FormsTest, FocusChoosesNothing) {
+  program.console.load();
+  bound(program.console, [this](Window&, QWidget& dialog) {
+    dialog.show();
+    auto* tree = dialog.findChild<QTreeWidget*>();
+    tree->setFocus();
+    QApplication::processEvents();
+    EXPECT_EQ(program.console.txtCmd.text(), "");
+    QTest::keyClick(tree, Qt::Key_Home);
+    EXPECT_EQ(program.console.txtCmd.text(), " Channel 1");
+  });
 }
 
 TEST_F(FormsTest, ListKeepsTheEntryThatTheProgramGoesBackTo) {
-  frmLoad& window = program.loadWindow;
-  const auto dialog = makeForm("frmLoad", nullptr);
-  bindControls(window, *dialog);
-  dialog->show();
-  window.fileCSV.items = {"good.csv", "bad.csv"};
-  window.fileCSV.click = [&] { window.fileCSV.chosen = 0; };
-  auto* list = dialog->findChild<QListWidget*>(QStringLiteral("fileCSV"));
-  QApplication::processEvents();
-  QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
-                    list->visualItemRect(list->item(1)).center());
-  EXPECT_EQ(list->currentRow(), 0);
-  EXPECT_TRUE(list->item(0)->isSelected());
-  EXPECT_FALSE(list->item(1)->isSelected());
-  // A key on an empty list, and the release of one that was pressed elsewhere, choose nothing.
-  window.fileCSV.click = [] { ADD_FAILURE() << "chosen"; };
-  QTest::keyRelease(list, Qt::Key_Escape);
-  window.fileCSV.items = {};
-  QTest::keyClick(list, Qt::Key_Down);
-  // Enter on a folder opens it and does no more.
-  auto* folders = dialog->findChild<QListWidget*>(QStringLiteral("dirCSV"));
-  int opened = 0;
-  window.dirCSV.opened = [&] { ++opened; };
-  window.cmdOK.click = [] { ADD_FAILURE() << "pressed"; };
-  window.dirCSV.items = {"..", "a"};
-  folders->setFocus();
-  QTest::keyClick(folders, Qt::Key_Down);
-  QTest::keyClick(folders, Qt::Key_Return);
-  EXPECT_EQ(opened, 1);
-  EXPECT_EQ(window.dirCSV.chosenText(), "a");
-  unbindControls(window);
+  bound(program.loadWindow, [&window = program.loadWindow](Window&, QWidget& dialog) {
+    dialog.show();
+    window.fileCSV.items = {"good.csv", "bad.csv"};
+    window.fileCSV.click = [&] { window.fileCSV.chosen = 0; };
+    auto* list = dialog.findChild<QListWidget*>(QStringLiteral("fileCSV"));
+    QApplication::processEvents();
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
+                      list->visualItemRect(list->item(1)).center());
+    EXPECT_EQ(list->currentRow(), 0);
+    EXPECT_TRUE(list->item(0)->isSelected());
+    EXPECT_FALSE(list->item(1)->isSelected());
+    // A key on an empty list, and the release of one that was pressed elsewhere, choose nothing.
+    window.fileCSV.click = [] { ADD_FAILURE() << "chosen"; };
+    QTest::keyRelease(list, Qt::Key_Escape);
+    window.fileCSV.items = {};
+    QTest::keyClick(list, Qt::Key_Down);
+    // Enter on a folder opens it and does no more.
+    auto* folders = dialog.findChild<QListWidget*>(QStringLiteral("dirCSV"));
+    int opened = 0;
+    window.dirCSV.opened = [&] { ++opened; };
+    window.cmdOK.click = [] { ADD_FAILURE() << "pressed"; };
+    window.dirCSV.items = {"..", "a"};
+    folders->setFocus();
+    QTest::keyClick(folders, Qt::Key_Down);
+    QTest::keyClick(folders, Qt::Key_Return);
+    EXPECT_EQ(opened, 1);
+    EXPECT_EQ(window.dirCSV.chosenText(), "a");
+  });
 }
 
 TEST(ProgramFolder, NewVersionBringsItsWordsAndLeavesTheRest) {

@@ -1,128 +1,190 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <QAbstractButton>
+#include <QAction>
+#include <QComboBox>
 #include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTimer>
 #include <QWheelEvent>
 
+#include "DesktopWindows.h"
 #include "MainFormTest.h"
+#include "Numbers.h"
+#include "Played.h"
 #include "QtValues.h"
 
 namespace tracewell {
 
-/// Mouse and keyboard on the same control must come to the same on the wire.
-class FrontPanelTest : public MainFormTest {
- protected:
-  void wheel(const char* name, double notches) {
-    QWidget* widget = find(name);
-    const QPointF at = widget->rect().center();
-    QWheelEvent event(at, widget->mapToGlobal(at), {}, {0, static_cast<int>(120 * notches)},
-                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(widget, &event);
-  }
-  /// Takes hold of a slide somewhere and lets go at an end of it: 0 low, 1 high.
-  void dragToEnd(const char* name, int end) {
-    QWidget* slide = find(name);
-    const bool isVertical = slide->height() > slide->width();
-    const QPoint low = isVertical ? QPoint(slide->width() / 2, slide->height()) : QPoint(0, 9);
-    const QPoint high = isVertical ? QPoint(slide->width() / 2, 0) : QPoint(slide->width(), 9);
-    QTest::mousePress(slide, Qt::LeftButton, {}, slide->rect().center());
-    QTest::mouseMove(slide, end == 0 ? low : high);
-    EXPECT_TRUE(port.wire.empty()) << name << " sends while it is dragged";
-    QTest::mouseRelease(slide, Qt::LeftButton, {}, end == 0 ? low : high);
-  }
-  /// Turns the cap with the mouse; points are counted from its centre.
-  void dragKnob(const char* name, QPoint from, QPoint to) {
-    QWidget* knob = find(name);
-    const QPoint centre = knob->rect().center();
-    QTest::mousePress(knob, Qt::LeftButton, {}, centre + from);
-    QTest::mouseMove(knob, centre + to);
-    QTest::mouseRelease(knob, Qt::LeftButton, {}, centre + to);
-  }
-};
+namespace {
 
-TEST_F(FrontPanelTest, MouseAndKeyboardGiveTheSameCommands) {
-  main.lblChan1.caption = "1.000 V";
-  main.lblChan2.caption = "2.000 V";
-  main.lblTime.caption = "1.000 ms";
-  enum Means { drag, turn, press };
-  const std::tuple<const char*, Means, int, Qt::Key, const char*> cases[] = {
-      {"slideCH1", drag, 1, Qt::Key_End, ":CHAN1:OFFS 4E0"},
-      {"slideCH2", drag, 0, Qt::Key_Home, ":CHAN2:OFFS -8E0"},
-      {"slideTime", drag, 1, Qt::Key_End, ":TIM:DEL 5E-3"},
-      {"slideTrig", drag, 0, Qt::Key_Home, ":TRIG:LEV -5E0"},
-      {"knobChan1", turn, 1, Qt::Key_Up, ":CHAN1:SCAL 5E-3"},
-      {"knobChan2", turn, 3, Qt::Key_PageUp, ":CHAN2:SCAL 2E-2"},
-      {"knobTime", turn, 40, Qt::Key_End, ":TIM:SCAL 5"},
-      {"cbCh2", press, 0, Qt::Key_Space, ":CHAN2:DISP 1"}};
-  for (const auto& [name, byMouse, amount, byKeyboard, sent] : cases) {
-    for (const bool isByMouse : {true, false}) {
-      for (Slide* slide : {&main.slideCH1, &main.slideCH2, &main.slideTime, &main.slideTrig})
-        slide->value = 0;
-      for (Knob* knob : {&main.knobChan1, &main.knobChan2, &main.knobTime}) knob->value = 0;
-      main.cbCh2.value = 0;
-      main.lblChan1.caption = "1.000 V";
-      main.lblChan2.caption = "2.000 V";
-      main.lblTime.caption = "1.000 ms";
-      takeWire();
-      if (!isByMouse)
-        key(name, byKeyboard);
-      else if (byMouse == drag)
-        dragToEnd(name, amount);
-      else if (byMouse == turn)
-        wheel(name, amount);
-      else
-        click(name);
-      EXPECT_EQ(takeWire(), Lines{sent}) << name << (isByMouse ? " by mouse" : " by keyboard");
-    }
-  }
-  EXPECT_EQ(find<QLabel>("slideCH1_caption")->text(), toQt(main.slideCH1.caption()));
-  // The first caption of a knob stands at the lower left, outside the cap.
-  QWidget* knob = find("knobTime");
-  const QPoint first(knob->width() / 2 - knob->height() / 2 + 4, knob->height() - 6);
-  main.knobTime.value = 17;
-  takeWire();
-  QTest::mouseClick(knob, Qt::LeftButton, {}, first);
-  EXPECT_EQ(takeWire(), Lines{":TIM:SCAL 2E-9"});
-  port.answer("*IDN?", {"KRM-410\n"});
-  QTest::keyClicks(find("txtTest"), QStringLiteral("*IDN?"));
-  key("txtTest", Qt::Key_Return);
-  click("cmdTest");
-  EXPECT_EQ(takeWire(), (Lines{"*IDN?", "*IDN?"}));
+void wheel(QWidget& widget, double notches) {
+  const QPointF at = widget.rect().center();
+  QWheelEvent event(at, widget.mapToGlobal(at), {}, {0, static_cast<int>(120 * notches)},
+                    Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+  QApplication::sendEvent(&widget, &event);
 }
 
-TEST_F(FrontPanelTest, EachDialogOpensByMouseKeyboardAndMenu) {
-  const std::tuple<const char*, const char*, const char*> cases[] = {
-      {"cmdCh1", "mnbCh1", "frmChannel"}, {"cmdCh2", "mnbCh2", "frmChannel"},
-      {"cmdTrig", "mnbTrig", "frmTrig"},  {"cmdGraph", "mnbGraph", "frmGraph"},
-      {"cmdTime", nullptr, "frmTimeDiv"}, {"cmdChannel1", nullptr, "frmChDiv"}};
-  for (const auto& [button, entry, window] : cases) {
-    click(button);
-    key(button, Qt::Key_Space);
-    Lines expected = {window, window};
-    if (entry != nullptr) {
-      find<QAction>(entry)->trigger();
-      expected.emplace_back(window);
-    }
-    EXPECT_EQ(std::exchange(windows.shown, {}), expected) << button;
-  }
-  QTest::mouseDClick(find("lblDSOCmd"), Qt::LeftButton);
-  EXPECT_EQ(windows.shown, Lines{"frmErrLog"});
+void drag(QWidget& widget, QPoint from, QPoint to) {
+  QTest::mousePress(&widget, Qt::LeftButton, {}, from);
+  QTest::mouseMove(&widget, to);
+  QTest::mouseRelease(&widget, Qt::LeftButton, {}, to);
 }
+
+/// Takes hold of a slide somewhere and lets go at an end of it.
+void dragToEnd(QWidget& slide, bool isHigh) {
+  const bool isVertical = slide.height() > slide.width();
+  const int along = isVertical != isHigh ? (isVertical ? slide.height() : slide.width()) : 0;
+  drag(slide, slide.rect().center(),
+       isVertical ? QPoint(slide.width() / 2, along) : QPoint(along, 9));
+}
+
+}  // namespace
+
+using FrontPanelTest = MainFormTest;
 
 TEST_F(FrontPanelTest, KnobTurnsWithTheCapAndStopsAtItsEnds) {
-  const int reach = find("knobChan1")->height() / 10;
-  dragKnob("knobChan1", {-reach, 0}, {0, -reach});
+  QWidget& knob = *find("knobChan1");
+  const QPoint centre = knob.rect().center();
+  const int reach = knob.height() / 10;
+  drag(knob, centre - QPoint(reach, 0), centre - QPoint(0, reach));
   EXPECT_NEAR(main.knobChan1.value(), 3.3, 0.7);
-  for (int i = 0; i < 4; ++i) dragKnob("knobChan1", {0, -reach}, {reach, reach / 4});
+  for (int i = 0; i < 4; ++i)
+    drag(knob, centre - QPoint(0, reach), centre + QPoint(reach, reach / 4));
   EXPECT_EQ(main.knobChan1.value(), 10);
   takeWire();
   key("knobChan1", Qt::Key_Up);
-  wheel("knobChan1", 5);
+  wheel(knob, 5);
   EXPECT_TRUE(takeWire().empty());
+  // The first caption of a knob stands at the lower left, outside the cap.
+  QTest::mouseClick(&knob, Qt::LeftButton, {},
+                    {knob.width() / 2 - knob.height() / 2 + 4, knob.height() - 6});
+  EXPECT_EQ(takeWire(), Lines{":CHAN1:SCAL 2E-3"});
   // A touchpad sends pieces of a notch.
-  const double before = main.slideCH1.value();
-  for (int i = 0; i < 3; ++i) wheel("slideCH1", 0.5);
-  EXPECT_NEAR(main.slideCH1.value(), before + 0.1, 1e-9);
+  for (int i = 0; i < 3; ++i) wheel(*find("slideCH1"), 0.5);
+  EXPECT_NEAR(main.slideCH1.value(), 0.1, 1e-9);
   EXPECT_EQ(takeWire().size(), 1u);
+  EXPECT_EQ(find<QLabel>("slideCH1_caption")->text(), toQt(main.slideCH1.caption()));
 }
+
+/// A user with real windows: by mouse, or by keyboard. What there is no simple way for with either,
+/// such as a slide's exact value, the control does by itself.
+class Hands : public Played {
+ public:
+  explicit Hands(bool areOnKeys) : areOnKeys_(areOnKeys) {
+    desktop_.show(main);
+    watchNotice();
+  }
+
+ private:
+  void opened(Window& window) override {
+    QTimer::singleShot(0, &timer_, [this, &window] {
+      playIn(window);
+      // The script leaves it open.
+      if (window.isVisible()) desktop_.hide(window);
+    });
+    desktop_.showModal(window);
+  }
+  void hidden(Window& window) override { desktop_.hide(window); }
+  void unloaded(Window& window) override { desktop_.unload(window); }
+
+  QWidget& formOf(const Window& window) {
+    return *desktop_.widgetOf(*window.controls().back())->window();
+  }
+  void close(Window& window) override {
+    if (areOnKeys_)
+      QTest::keyClick(&formOf(window), Qt::Key_Escape);
+    else
+      formOf(window).close();
+  }
+
+  void use(Control& control, const std::string& value) override {
+    QWidget* widget = desktop_.widgetOf(control);
+    if (auto* button = qobject_cast<QAbstractButton*>(widget))
+      press(*button);
+    else if (auto* box = qobject_cast<QComboBox*>(widget);
+             box != nullptr && box->isEditable() && !value.starts_with('#'))
+      write(*box->lineEdit(), value, Qt::Key_Tab);
+    else if (auto* slide = dynamic_cast<Slide*>(&control); slide != nullptr && isEnd(*slide, value))
+      moveToEnd(*widget, value.starts_with('-'));
+    else if (auto* knob = dynamic_cast<Knob*>(&control))
+      turn(*widget, *knob, std::stoi(value));
+    else if (auto* line = qobject_cast<QLineEdit*>(widget); line != nullptr && value.ends_with('~'))
+      write(*line, value.substr(0, value.size() - 1), Qt::Key_Return);
+    else if (qobject_cast<QLabel*>(widget) != nullptr)
+      QTest::mouseDClick(widget, Qt::LeftButton);
+    else if (auto* action = formOf(main).findChild<QAction*>(toQt(control.objectName())))
+      action->trigger();
+    else
+      Played::use(control, value);
+  }
+
+  void press(QAbstractButton& button) {
+    const bool isPush = qobject_cast<QPushButton*>(&button) != nullptr;
+    const QPoint place = isPush ? button.rect().center() : QPoint(8, button.height() / 2);
+    // In the console Enter sends the line.
+    const bool isDefault = button.objectName() == QLatin1String("cmdOK") &&
+                           button.window()->objectName() != QLatin1String("frmCmd");
+    if (!areOnKeys_)
+      QTest::mouseClick(&button, Qt::LeftButton, {}, place);
+    else if (isDefault)
+      QTest::keyClick(button.window(), Qt::Key_Return);
+    else
+      QTest::keyClick(&button, Qt::Key_Space);
+  }
+  static bool isEnd(const Slide& slide, const std::string& value) {
+    const Slide::Range& range = slide.range();
+    return value == numberText(range.minimum) || value == numberText(range.maximum);
+  }
+  void moveToEnd(QWidget& slide, bool isLow) {
+    if (areOnKeys_)
+      QTest::keyClick(&slide, isLow ? Qt::Key_Home : Qt::Key_End);
+    else
+      dragToEnd(slide, !isLow);
+  }
+
+  void turn(QWidget& widget, Knob& knob, int detent) {
+    const double steps = detent - knob.value();
+    const std::map<double, Qt::Key> keys = {
+        {1, Qt::Key_Up}, {-1, Qt::Key_Down}, {3, Qt::Key_PageUp}, {-3, Qt::Key_PageDown}};
+    if (!areOnKeys_)
+      wheel(widget, steps);
+    else if (detent == 0 || detent + 1 == std::ssize(knob.detents()))
+      QTest::keyClick(&widget, detent == 0 ? Qt::Key_Home : Qt::Key_End);
+    else if (keys.contains(steps))
+      QTest::keyClick(&widget, keys.at(steps));
+    else
+      Played::use(knob, std::to_string(detent));
+  }
+
+  static void write(QLineEdit& line, const std::string& text, Qt::Key end) {
+    line.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(line.window()));
+    line.setFocus();
+    line.selectAll();
+    QTest::keyClick(&line, Qt::Key_Backspace);
+    QTest::keyClicks(&line, toQt(text));
+    QTest::keyClick(&line, end);
+  }
+
+  bool areOnKeys_;
+  QObject timer_;
+  DesktopWindows desktop_;
+};
+
+class HandsTest : public testing::TestWithParam<std::tuple<const char*, bool>> {};
+
+TEST_P(HandsTest, RealWidgetsComeToTheSame) {
+  const auto& [file, areOnKeys] = GetParam();
+  playFile(file, [areOnKeys = areOnKeys](const std::string& script) {
+    return Hands(areOnKeys).play(script);
+  });
+}
+
+INSTANTIATE_TEST_SUITE_P(Files, HandsTest,
+                         testing::Combine(testing::Values("link.txt", "panel.txt", "view.txt",
+                                                          "files.txt"),
+                                          testing::Bool()));
 
 TEST_F(FrontPanelTest, LanguageInUseKeepsItsTickWhenItIsChosenAgain) {
   auto* english = find<QAction>("mnbLA1");

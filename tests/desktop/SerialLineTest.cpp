@@ -7,9 +7,9 @@
 #include <QProcess>
 #include <QTest>
 
-#include "AbandonedRecords.h"
 #include "DesktopClock.h"
 #include "Doubles.h"
+#include "PortUser.h"
 #include "QtSerialChannel.h"
 #include "QtValues.h"
 
@@ -43,13 +43,16 @@ class SerialLineTest : public testing::Test, public ChannelOpener {
   LinePort port{*this, clock, gate, dispatcher, standBy};
 };
 
-TEST_F(SerialLineTest, AbandonedRecordsLeaveNothingBehind) {
-  AbandonedRecords records(port, [](int milliseconds) { QTest::qWait(milliseconds); });
-  for (const int baudRate : {2400, 9600, 19200}) {
-    startInstrument({QStringLiteral("--baud"), QString::number(baudRate)});
-    records.tryAt(baudRate);
-    stopInstrument();
+TEST_F(SerialLineTest, CarriesRecordsAndReplies) {
+  startInstrument({});
+  PortUser user(port);
+  EXPECT_EQ(user.ask("*IDN?"), "KRM-410 SIMULATED\n");
+  for (int tick = 0; tick < 10 && user.records.empty(); ++tick) {
+    user.request("2");
+    QTest::qWait(1200);
   }
+  ASSERT_FALSE(user.records.empty());
+  EXPECT_EQ(user.records.at(0).second.substr(0, 12), "KRM410 REC 2");
 }
 
 /// The instrument's control lines stay up when the port is closed.

@@ -60,6 +60,8 @@ TEST_F(CaptionsTest, ShippedFilesNameEveryWindowAndControlInOrder) {
 
 TEST_F(CaptionsTest, LanguageChangesEveryWindowAndKeepsWhatIsShown) {
   start();
+  main.mnbLA2.choose();
+  EXPECT_EQ(main.lblConnect.caption(), main.Msg[1]);
   port.answerLikeAnInstrument();
   main.cmdStart.press();
   main.cmdRunStop.press();
@@ -82,32 +84,18 @@ TEST_F(CaptionsTest, LanguageChangesEveryWindowAndKeepsWhatIsShown) {
   EXPECT_EQ(port.wire, Lines{":Run"});
 }
 
-TEST_F(CaptionsTest, LanguageWhoseFilesAreBadIsNotTaken) {
-  start();
-  for (const char* file : {"dso_la2.cap", "dso_la2.msg"}) {
-    const std::string whole = contentOf(folder.path() / file);
-    writeWholeFile(folder.path() / file, whole.substr(0, 60));
-    main.mnbLA2.choose();
-    ASSERT_EQ(dialogs.runTimeErrors.size(), 1u);
-    EXPECT_NE(dialogs.runTimeErrors[0].find(file), std::string::npos);
-    EXPECT_EQ(main.gridMeasure.text(12, 2), "1");
-    EXPECT_TRUE(main.mnbLA1.isChecked());
-    EXPECT_EQ(main.mnbFile.caption(), "File");
-    EXPECT_EQ(main.lblConnect.caption(), main.Msg[1]);
-    writeWholeFile(folder.path() / file, whole);
-    dialogs.runTimeErrors.clear();
-  }
-}
-
 TEST_F(CaptionsTest, DumpedSectionIsACaptionFileOfItsWindow) {
   start();
-  main.mnbLA4.choose();
-  program.rs232.cmdOK.caption = "A, b";
+  program.rs232.lblRS232(0).caption = "A, b";
   program.captions.DumpCaptions(program.rs232);
-  const std::string before = program.rs232.lblRS232(0).caption();
   program.rs232.lblRS232(0).caption = "x";
+  // The first section of the name counts.
+  writeCaptions("//DSO,,\r\n");
+  EXPECT_ANY_THROW(program.captions.LoadCaptions());
+  program.captions.DumpCaptions(program.rs232);
+  program.rs232.lblRS232(0).caption = "y";
   program.captions.ApplyCaptions(program.rs232);
-  EXPECT_EQ(program.rs232.lblRS232(0).caption(), before);
+  EXPECT_EQ(program.rs232.lblRS232(0).caption(), "x");
 }
 
 TEST_F(CaptionsTest, CaptionsGoToTheirWindowInOnePass) {
@@ -157,31 +145,31 @@ TEST_F(CaptionsTest, FileThatCannotBeUsedIsOneErrorThatNamesIt) {
 TEST_F(CaptionsTest, MessagesKeepTheirCommasAndNeedThirteenLines) {
   std::string lines;
   for (int i = 0; i < 13; ++i) lines += "key,text, " + std::to_string(i) + " \r\n";
-  const auto file = folder.path() / "dso_la1.msg";
-  writeWholeFile(file, lines + "more,ignored\r\n");
-  LoadMessages(main);
-  EXPECT_EQ(main.Msg[0], "text, 0 ");
-  EXPECT_EQ(main.Msg[12], "text, 12 ");
-  EXPECT_EQ(main.Msg[13], "");
-  const std::string before = main.Msg[1];
-  writeWholeFile(file, lines.substr(0, lines.size() - 2));
-  EXPECT_THROW(LoadMessages(main), Error);
-  EXPECT_EQ(main.Msg[1], before);
-  std::filesystem::remove(file);
+  // An unknown number stands for the files without a code: it does not keep the program from
+  // starting.
+  for (const auto& [number, name] : std::map<const char*, const char*>{{"0", "dso_.msg"},
+                                                                       {"12", "dso_.msg"},
+                                                                       {"x", "dso_.msg"},
+                                                                       {"", "dso_.msg"},
+                                                                       {"6", "dso_.msg"},
+                                                                       {"1", "dso_la1.msg"},
+                                                                       {"5", "dso_la5.msg"}}) {
+    main.gridMeasure.setText(12, 2, number);
+    EXPECT_NO_THROW(program.captions.LoadCaptions()) << number;
+    const auto file = languageFile(main, ".msg");
+    EXPECT_EQ(file.filename(), name);
+    main.Msg = {};
+    writeWholeFile(file, lines.substr(0, lines.size() - 2));
+    EXPECT_THROW(LoadMessages(main), Error);
+    EXPECT_EQ(main.Msg[1], "");
+    writeWholeFile(file, lines + "more,ignored\r\n");
+    LoadMessages(main);
+    EXPECT_EQ((Lines{main.Msg[0], main.Msg[12], main.Msg[13]}),
+              (Lines{"text, 0 ", "text, 12 ", ""}));
+  }
+  std::filesystem::remove(folder.path() / "dso_la1.msg");
   EXPECT_NE(start(), 0);
   EXPECT_NE(description.find("dso_la1.msg"), std::string::npos);
-}
-
-TEST_F(CaptionsTest, UnknownLanguageNumberReadsTheFilesWithoutACode) {
-  for (const char* number : {"0", "6", "12", "x", ""}) {
-    main.gridMeasure.setText(12, 2, number);
-    EXPECT_EQ(languageFile(main, ".cap").filename(), "dso_.cap");
-    // A setup that is no good does not keep the program from starting.
-    EXPECT_NO_THROW(LoadMessages(main));
-    EXPECT_NO_THROW(program.captions.LoadCaptions());
-  }
-  main.gridMeasure.setText(12, 2, "5");
-  EXPECT_EQ(languageFile(main, ".msg").filename(), "dso_la5.msg");
 }
 
 }  // namespace tracewell

@@ -3,41 +3,109 @@
 
 #include <algorithm>
 
-#include "AbandonedRecords.h"
-#include "Doubles.h"
 #include "PacedChannel.h"
+#include "Played.h"
+#include "PortUser.h"
 
 namespace tracewell {
 namespace {
 
-/// Answers that tell what they answer.
-std::string echo(const std::string& line) {
-  return line.ends_with('?') ? line + "\n" : "";
-}
+/// A port, and an instrument at the far end of its line whose answers tell what they answer. Both
+/// do as a script says (tests/scripts/line.txt); what they do is written down with its
+/// milliseconds.
+class LineScript : OnALine<PacedOpener> {
+ public:
+  LineScript() {
+    port.readTimeOut = 300;
+    farEnd.answer = [this](const std::string& line) {
+      note("> " + line);
+      return answer(line);
+    };
+    port.dataReady = [this](const std::string& data) {
+      const std::size_t own = static_cast<std::size_t>(std::ranges::count(data, port.tag.at(0)));
+      note("record " + port.tag + " " + std::to_string(own));
+      port.reset();
+    };
+  }
+
+  std::string play(const std::string& script) {
+    for (const std::string& step : split(script, ", ")) {
+      const std::size_t equals = step.find('=');
+      act(step.substr(0, equals), equals == std::string::npos ? "" : step.substr(equals + 1));
+    }
+    std::string text = std::to_string(farEnd.opened) + " opened";
+    for (const std::string& event : events_) text += "; " + event;
+    return text;
+  }
+
+ private:
+  void act(const std::string& name, const std::string& value) {
+    const double number = std::atof(value.c_str());
+    if (name.ends_with('?')) ask(name);
+    if (name == "ask")
+      for (int i = 1; i <= number; ++i) ask("Q" + std::to_string(i) + "?");
+    if (name == "record") user_.request(value);
+    if (name == "send") user_.send(value);
+    if (name == "run") clock.run(static_cast<int>(number));
+    if (name == "sleep") clock.sleep(static_cast<int>(number));
+    if (name == "reset") port.reset();
+    if (name == "port") port.settings.portNumber = static_cast<std::int16_t>(number);
+    if (name == "parity") port.settings.parity = static_cast<std::int16_t>(number);
+    if (name == "time") port.readTimeOut = static_cast<int>(number);
+    if (name == "thought") farEnd.thought = number;
+    if (name == "byte") farEnd.byteTime = number;
+    if (name == "free") farEnd.lineFreeAt = 0;
+    if (name == "hang up") farEnd.hangUpAfter = value.empty() ? std::string::npos : 0;
+    if (name == "unasked")
+      for (int i = 0; i < number; ++i) farEnd.unasked += i % 10 == 9 ? '\n' : '5';
+    if (name == "ignored") ignored_ = static_cast<int>(number);
+    if (name == "length") length_ = static_cast<std::size_t>(number);
+    if (name == "bytes") bytes_ = value.empty() ? "" : std::string(length_, 'x') + "\n";
+    if (name == "answer") {
+      bytes_ = value;
+      for (char& byte : bytes_) byte = byte == '^' ? '\n' : byte == '<' ? '\r' : byte;
+    }
+  }
+
+  void ask(const std::string& query) {
+    try {
+      std::string reply = user_.ask(query);
+      if (reply == query + "\n") reply = "right";
+      if (reply == std::to_string(portReadTimeOut)) reply = "none";
+      if (reply.ends_with('\n')) reply.back() = '^';
+      note(query + " " + (reply.size() > 60 ? std::to_string(reply.size()) : reply));
+    } catch (const Error& error) {
+      note(query + " " + error.description());
+    }
+  }
+
+  std::string answer(const std::string& line) {
+    const bool isRecord = line.ends_with("POIN");
+    if (!isRecord && !line.ends_with('?')) return "";
+    if (ignored_ > 0 && ++asked_ % ignored_ == 0) return "";
+    if (!bytes_.empty()) return bytes_;
+    return isRecord ? std::string(length_, line[4]) : line + "\n";
+  }
+
+  void note(const std::string& event) {
+    events_.push_back(std::to_string(clock.milliseconds()) + " " + event);
+  }
+
+  FarEnd& farEnd = opener.farEnd;
+  PortUser user_{port};
+  Lines events_;
+  int ignored_ = 0;
+  int asked_ = 0;
+  std::size_t length_ = 1014;
+  std::string bytes_;
+};
 
 class ConversationTest : public testing::Test, protected OnALine<PacedOpener> {
  protected:
-  ConversationTest() {
-    farEnd.answer = echo;
-    port.readTimeOut = timeOut;
-  }
-
-  /// "Q1?", "Q2?" and so on; the replies without their line ends, or the numbers of the errors.
-  Lines askMany(int count) {
-    Lines replies;
-    for (int i = 1; i <= count; ++i) {
-      std::string reply = user.ask("Q" + std::to_string(i) + "?");
-      if (reply.ends_with('\n')) reply.pop_back();
-      replies.push_back(reply);
-    }
-    return replies;
-  }
   std::int64_t elapsed() {
     return clock.milliseconds() - std::exchange(start_, clock.milliseconds());
   }
 
-  static constexpr int timeOut = 300;
-  static constexpr const char* none = "30312";
   FarEnd& farEnd = opener.farEnd;
   PortUser user{port};
 
@@ -45,146 +113,14 @@ class ConversationTest : public testing::Test, protected OnALine<PacedOpener> {
   std::int64_t start_ = 0;
 };
 
-TEST_F(ConversationTest, HoweverLateAnAnswerIsItAnswersItsOwnQuestionOrNone) {
-  for (const int lateness : {100, 310, 600, 900, 1800, 2900}) {
-    farEnd.thought = lateness;
-    const Lines replies = askMany(12);
-    for (int i = 1; i <= 12; ++i) {
-      const std::string mine = "Q" + std::to_string(i) + "?";
-      EXPECT_EQ(replies.at(static_cast<std::size_t>(i - 1)), lateness < timeOut ? mine : none)
-          << lateness;
-    }
-    // An instrument that has come to itself is believed again.
-    farEnd.thought = 5;
-    clock.run(Conversation::longestThought);
-    EXPECT_EQ(user.ask("*IDN?"), "*IDN?\n") << lateness;
-  }
-}
-
-TEST_F(ConversationTest, IgnoredQuestionCostsNoOtherItsAnswer) {
-  for (const int every : {2, 3, 5}) {
-    int asked = 0;
-    farEnd.answer = [&](const std::string& line) { return ++asked % every == 0 ? "" : echo(line); };
-    elapsed();
-    const Lines replies = askMany(20);
-    EXPECT_EQ(std::ranges::count(replies, none), 20 / every);
-    EXPECT_LE(elapsed(), 20 / every * (timeOut + Conversation::longestThought) + 20 * 50);
-    clock.run(5000);
-  }
-}
-
-TEST_F(ConversationTest, SilenceCostsOneDrainAndAnAnswerEndsIt) {
-  farEnd.thought = 1e9;
-  elapsed();
-  EXPECT_EQ(askMany(11), Lines(11, none));
-  EXPECT_LE(elapsed(), 11 * timeOut + Conversation::longestThought);
-  // A command and the release of the panel do not wait.
-  user.send(":SYST:UNL");
-  EXPECT_EQ(elapsed(), 0);
-  farEnd.thought = 5;
-  farEnd.lineFreeAt = 0;
-  clock.run(Conversation::longestThought);
-  EXPECT_EQ(user.ask("*IDN?"), "30312") << "the answers of before stand in front";
-}
-
-TEST_F(ConversationTest, NothingThatIsLongerThanALineIsAReply) {
-  farEnd.byteTime = 0.0001;
-  farEnd.answer = [](const std::string&) { return std::string(5 << 20, 'x') + "\n"; };
-  elapsed();
-  EXPECT_EQ(user.ask("*IDN?"), none);
-  farEnd.answer = echo;
-  EXPECT_EQ(user.ask("*IDN?"), "*IDN?\n");
-  EXPECT_LE(elapsed(), timeOut + 2 * Conversation::longestThought);
-  // Once at rest, the line is trusted again as soon as a late answer is there.
-  farEnd.byteTime = 0.5;
-  farEnd.thought = timeOut + 100;
-  EXPECT_EQ(user.ask("A?"), none);
-  farEnd.thought = 5;
-  elapsed();
-  EXPECT_EQ(user.ask("B?"), "B?\n");
-  EXPECT_LE(elapsed(), 200);
-}
-
-/// One line of chatter every 100 ms, for good.
-TEST_F(ConversationTest, ChatterIsNoAnswerAndHoldsNobodyForLong) {
-  farEnd.byteTime = 10;
-  for (int i = 0; i < 100000; ++i) farEnd.unasked += i % 10 == 9 ? '\n' : '5';
-  user.send(":Run");
-  clock.run(100);
-  elapsed();
-  EXPECT_EQ(askMany(6), Lines(6, none));
-  EXPECT_LE(elapsed(), 2 * Conversation::longestThought + 6 * timeOut);
-}
-
-TEST_F(ConversationTest, TricklingRecordHoldsAQueryNoLongerThanItsBytesAllow) {
-  farEnd.answer = [](const std::string& line) {
-    return line.ends_with("POIN") ? std::string(1014, '\n') : echo(line);
-  };
-  farEnd.byteTime = 100;
-  user.request("1");
-  clock.run(1000);
-  elapsed();
-  const double rest = 2 * 1004 * 10 / 19.2 + Conversation::restMargin;
-  EXPECT_EQ(user.ask("A?"), none);
-  EXPECT_LE(elapsed(), rest + 2 * Conversation::longestThought + 2);
-  EXPECT_EQ(askMany(5), Lines(5, none));
-  EXPECT_LE(elapsed(), 5 * timeOut + 5 * rest);
-  farEnd.byteTime = 0.5;
-  clock.run(110000);
-  EXPECT_EQ(user.ask("A?"), "A?\n");
-  EXPECT_TRUE(user.records.empty());
-}
-
-/// What was on its way when the plug was pulled may still be when it is in again.
-TEST_F(ConversationTest, LineOpenedAnewIsTrustedWhenItIsQuiet) {
-  farEnd.answer = [](const std::string& line) {
-    return line.ends_with("POIN") ? std::string(1014, '7') : echo(line);
-  };
-  user.request("1");
-  clock.run(100);
-  farEnd.hangUpAfter = 0;
-  clock.run(100);
-  farEnd.hangUpAfter = std::string::npos;
-  elapsed();
-  EXPECT_EQ(user.ask("B?"), "B?\n");
-  EXPECT_GE(elapsed(), Conversation::longestThought - 200);
-  // Another port is another instrument.
-  user.request("1");
-  port.settings.portNumber = 5;
-  elapsed();
-  EXPECT_EQ(user.ask("C?"), "C?\n");
-  EXPECT_LE(elapsed(), 50);
-}
-
-TEST_F(ConversationTest, RequestsTakeStrictTurnsAndWaitThreeSecondsForALostRecord) {
-  Lines requests;
-  farEnd.answer = [&](const std::string& line) {
-    requests.push_back(line.substr(4, 1));
-    return requests.size() == 3 ? "" : std::string(1014, line[4]);
-  };
-  farEnd.byteTime = 3;
-  for (int tick = 0; tick < 20; ++tick) {
-    user.request(tick % 2 == 0 ? "1" : "2");
-    clock.run(1200);
-  }
-  ASSERT_GE(requests.size(), 7u);
-  for (std::size_t i = 0; i < requests.size(); ++i)
-    EXPECT_EQ(requests[i], i % 2 == 0 ? "1" : "2") << i;
-  EXPECT_GE(user.records.size(), 5u);
-  for (const auto& [tag, bytes] : user.records) EXPECT_EQ(bytes, std::string(1014, tag[0]));
-  // What is abandoned does not come, neither the record on its way nor the request behind it.
-  port.reset();
-  user.records.clear();
-  const std::size_t before = requests.size();
-  clock.run(20000);
-  EXPECT_TRUE(user.records.empty());
-  EXPECT_EQ(requests.size(), before);
+TEST(LineScriptTest, ComesToWhatStandsBelowIt) {
+  playFile("line.txt", [](const std::string& script) { return LineScript().play(script); });
 }
 
 /// The screen has its turn, and nothing of the program runs.
 TEST_F(ConversationTest, WaitKeepsTheDesktopAliveAndTheProgramStill) {
   farEnd.thought = 1e9;
-  port.readTimeOut = 2000;
+  farEnd.answer = [](const std::string&) { return ""; };
   int handled = 0;
   int turns = 0;
   clock.meanwhile = [&] {
@@ -205,7 +141,7 @@ TEST_F(ConversationTest, WaitKeepsTheDesktopAliveAndTheProgramStill) {
     const StandBy::Burst burst(standBy);
     clock.callAfter(500, [&] { standBy.giveUp(); });
     elapsed();
-    EXPECT_EQ(askMany(10), Lines(10, none));
+    for (int i = 0; i < 10; ++i) EXPECT_EQ(user.ask("A?"), std::to_string(portReadTimeOut));
     EXPECT_LE(elapsed(), 600);
   }
   standBy.giveUp();

@@ -61,32 +61,16 @@ class OddInstrument {
     if (below(100) >= errors) return bytes;
     const std::size_t place = random_() % bytes.size();
     const bool isRecord = bytes.size() == 1014;
-    switch (below(8)) {
-      case 0:
-        return "";
-      case 1:
-        bytes.resize(place);
-        break;
-      case 2:
-        bytes.erase(place, 1);
-        break;
-      case 3:
-        bytes[place] = '#';
-        break;
-      case 4:
-        bytes[place] = '\n';
-        break;
-      case 5:
-        end_.byteTime = isRecord ? 100 : 100.0;
-        return bytes;
-      case 6:
-        // More than was asked for; a record has its length and no more.
-        if (!isRecord) bytes += "and more\n";
-        break;
-      default:
-        end_.thought = 100 + below(2700);
-        return bytes;
-    }
+    const int error = below(8);
+    if (error == 0) return "";
+    if (error == 1) bytes.resize(place);
+    if (error == 2) bytes.erase(place, 1);
+    if (error == 3) bytes[place] = '#';
+    if (error == 4) bytes[place] = '\n';
+    if (error == 5) end_.byteTime = 100;
+    // More than was asked for; a record has its length and no more.
+    if (error == 6 && !isRecord) bytes += "and more\n";
+    if (error == 7) end_.thought = 100 + below(2700);
     return bytes;
   }
 
@@ -106,8 +90,6 @@ class Trial : BenchOf<OnALine<PacedOpener>> {
     for (int row = 2; row <= 5; ++row) setRow(row, Lines(row < 4 ? 8 : 7, "1"));
     windows.user["frmTrig"] = [this] { program.trigger.cmdCancel.press(); };
     windows.user["frmVMeasure"] = [this] { program.measurementChoice.cmdOK.press(); };
-    // Escape, at some moment of a measurement.
-    windows.user["frmErrLog"] = [] {};
   }
 
   void step() {
@@ -125,74 +107,47 @@ class Trial : BenchOf<OnALine<PacedOpener>> {
   int below(int limit) { return instrument_.below(limit); }
 
   void setLine() {
-    const struct {
-      const char* rate;
-      const char* bits;
-      const char* stop;
-      const char* parity;
-      double byteTime;
-    } lines[] = {{"1200", "8", "1", "None", 8.34}, {"2400", "7", "2", "Odd", 4.59},
-                 {"4800", "8", "1", "None", 2.09}, {"9600", "8", "2", "Even", 1.25},
-                 {"14400", "8", "1", "Odd", 0.77}, {"19200", "8", "1", "None", 0.53},
-                 {"19200", "7", "1", "Even", 0.53}};
-    const auto& line = lines[random_() % std::size(lines)];
-    instrument_.byteTime = line.byteTime;
-    setRow(0, {line.rate, line.bits, line.stop, line.parity, "0"});
-    port.settings = {0, toInt16(line.rate), 8, 0, 0};
-    main.BaudRate = toInt16(line.rate);
+    const std::pair<Lines, double> lines[] = {
+        {{"1200", "8", "1", "None", "0"}, 8.34}, {{"2400", "7", "2", "Odd", "0"}, 4.59},
+        {{"4800", "8", "1", "None", "0"}, 2.09}, {{"9600", "8", "2", "Even", "0"}, 1.25},
+        {{"14400", "8", "1", "Odd", "0"}, 0.77}, {{"19200", "8", "1", "None", "0"}, 0.53},
+        {{"19200", "7", "1", "Even", "0"}, 0.53}};
+    const auto& [settings, byteTime] = lines[random_() % std::size(lines)];
+    instrument_.byteTime = byteTime;
+    setRow(0, settings);
+    port.settings = {0, toInt16(settings[0]), 8, 0, 0};
+    main.BaudRate = toInt16(settings[0]);
   }
 
+  /// Each as often as its weight says, out of 24.
   void act() {
-    switch (below(24)) {
-      case 0:
-        program.acquisition.StopAcq();
-        break;
-      case 1:
-      case 2:
-        program.acquisition.ResumeAcq();
-        break;
-      case 3:
-        main.cbCh1.toggle();
-        break;
-      case 4:
-        main.cbCh2.toggle();
-        break;
-      case 5:
-        main.knobTime.turn(below(29));
-        break;
-      case 6:
-        if (below(4) == 0) main.cmdTrig.press();
-        break;
-      case 7:
-        if (below(8) == 0) measure();
-        break;
-      case 8:
-        if (below(6) == 0) main.cmdRS232.press();
-        break;
-      case 9:
-        if (below(6) == 0) opener.farEnd.hangUpAfter = static_cast<std::size_t>(below(2000));
-        break;
-      case 10:
-        if (instrument_.errors > 0 && below(3) == 0) chatter();
-        break;
-      case 11:
-        opener.farEnd.hangUpAfter = std::string::npos;
-        break;
-      case 12:
-      case 13:
-      case 14:
-      case 15:
-      case 16:
-      case 17:
-        clock.run(below(below(3) == 0 ? 9000 : 1500));
-        break;
-      default:
-        ask();
-    }
+    const std::pair<int, std::function<void()>> acts[] = {
+        {1, [this] { program.acquisition.StopAcq(); }},
+        {2, [this] { program.acquisition.ResumeAcq(); }},
+        {1, [this] { main.cbCh1.toggle(); }},
+        {1, [this] { main.cbCh2.toggle(); }},
+        {1, [this] { main.knobTime.turn(below(29)); }},
+        {1, [this] { oneIn(4, [this] { main.cmdTrig.press(); }); }},
+        {1, [this] { oneIn(8, [this] { measure(); }); }},
+        {1, [this] { oneIn(6, [this] { main.cmdRS232.press(); }); }},
+        {1, [this] { oneIn(6, [this] { hangUpAfter(static_cast<std::size_t>(below(2000))); }); }},
+        {1, [this] { oneIn(3, [this] { chatter(); }); }},
+        {1, [this] { hangUpAfter(std::string::npos); }},
+        {6, [this] { clock.run(below(below(3) == 0 ? 9000 : 1500)); }},
+        {6, [this] { ask(); }}};
+    int left = below(24);
+    for (const auto& [weight, doIt] : acts)
+      if ((left -= weight) < 0) return doIt();
   }
+
+  void oneIn(int chances, const std::function<void()>& doIt) {
+    if (below(chances) == 0) doIt();
+  }
+  void hangUpAfter(std::size_t bytes) { opener.farEnd.hangUpAfter = bytes; }
 
   /// It begins while nothing is owed: in front of an answer nobody could tell it from that.
   void chatter() {
+    if (instrument_.errors == 0) return;
     program.acquisition.StopAcq();
     clock.run(8000);
     if (opener.farEnd.lineFreeAt + 3000 > static_cast<double>(clock.milliseconds())) return;
@@ -221,21 +176,15 @@ class Trial : BenchOf<OnALine<PacedOpener>> {
     main.cmdVMeasure.press();
     exchanges += 30;
     // The sixteenth shows the last of both channels.
-    for (ValueLabel& label : main.lblMeasure) {
-      const std::string& text = label.caption();
-      const std::size_t reply = text.find(": ");
-      if (reply == std::string::npos || reply + 2 == text.size()) continue;
-      const auto item = static_cast<std::size_t>(label.index());
-      const std::string query(item == 15 ? ":MEAS:PDUT?"
-                              : item < 8 ? VoltMeasQuery[item]
-                                         : FreqMeasQuery[item - 8]);
-      // Of channel 2 only the last result is shown.
-      const std::string answer = text.substr(reply + 2);
-      if (item == 15) {
-        EXPECT_EQ(answer + "\n", instrument_.sent[query]);
-      } else if (answer.find('#') == std::string::npos && answer.size() == 4) {
-        EXPECT_EQ(answer, query.substr(6, 3) + "1") << text;
-      }
+    for (int item = 0; item < 15; ++item) {
+      const std::string& text = main.lblMeasure(item).caption();
+      const auto place = static_cast<std::size_t>(item);
+      const std::string query(item < 8 ? VoltMeasQuery[place] : FreqMeasQuery[place - 8]);
+      const std::size_t end = text.find(": ");
+      const std::string answer = end == std::string::npos ? "" : text.substr(end + 2);
+      // One that was damaged on its way is no other's.
+      const bool isWhole = answer.find('#') == std::string::npos && answer.size() == 4;
+      EXPECT_TRUE(!isWhole || answer == query.substr(6, 3) + "1") << text;
     }
   }
 

@@ -63,18 +63,6 @@ TEST_F(FilesTest, NeighboursStayAndLongNamesFit) {
   EXPECT_EQ(entries(), before + 1);
 }
 
-TEST_F(FilesTest, EndOfAFileBeginsWhereItsLimitSays) {
-  const fs::path file = folder.path() / "file";
-  writeWholeFile(file, "a\nbcd");
-  const std::tuple<std::uintmax_t, const char*, bool> ends[] = {
-      {5, "a\nbcd", true}, {6, "a\nbcd", true}, {4, "\nbcd", false}};
-  for (const auto& [limit, bytes, isWhole] : ends) {
-    const FileEnd end = readFileEnd(file, limit);
-    EXPECT_EQ(end.bytes, bytes);
-    EXPECT_EQ(end.isWhole, isWhole);
-  }
-}
-
 /// The device whose first byte cannot be read.
 TEST_F(FilesTest, ReadErrorIsAnError) {
   if (!fs::exists("/proc/self/mem")) GTEST_SKIP();

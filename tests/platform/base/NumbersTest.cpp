@@ -35,6 +35,8 @@ TEST(Numbers, OverflowAndDivisionAreErrors) {
   EXPECT_EQ(errorOf([] { addInt16(-32768, -1); }), overflow);
   EXPECT_EQ(errorOf([] { mulInt16(656, 50); }), overflow);
   EXPECT_EQ(mulInt16(655, 50), 32750);
+  EXPECT_EQ(addInt16(32766, 1), 32767);
+  EXPECT_EQ(addInt16(-32767, -1), -32768);
   EXPECT_EQ(errorOf([] { divide(1, 0); }), divisionByZero);
   EXPECT_EQ(errorOf([] { divide(0, 0); }), overflow);
   EXPECT_EQ(errorOf([] { divide(1e300, 1e-300); }), overflow);

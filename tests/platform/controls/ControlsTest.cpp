@@ -27,16 +27,6 @@ TEST_F(ControlsTest, ComboRaisesClickAtEveryAssignmentAndTakesTypedText) {
   EXPECT_EQ(box.listIndex(), 0);
 }
 
-TEST_F(ControlsTest, UntrappedErrorEndsInOneBoxAndDisabledControlsAreOutOfReach) {
-  Button button(window, "cmd", "Do");
-  button.click = [] { throw typeMismatchError(); };
-  for (const bool isEnabled : {true, false}) {
-    button.enabled = isEnabled;
-    button.press();
-  }
-  EXPECT_EQ(dialogs.runTimeErrors, Lines{"13 Type mismatch"});
-}
-
 TEST_F(ControlsTest, TimerStartsAFullIntervalAndStopsAtOnce) {
   Timer timer(window, 100);
   timer.timer = [this] { ++raised; };

@@ -1,0 +1,349 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Played.h"
+
+#include <algorithm>
+
+#include "Files.h"
+#include "Numbers.h"
+#include "Waiting.h"
+
+namespace tracewell {
+namespace {
+
+template <class Kind>
+const Kind* as(const Control& control) {
+  return dynamic_cast<const Kind*>(&control);
+}
+
+std::string shortened(const std::string& text) {
+  constexpr std::size_t most = 60;
+  constexpr std::size_t kept = 24;
+  if (text.find('\0') != std::string::npos) return std::to_string(text.size()) + " bytes";
+  if (text.size() <= most) return text;
+  return text.substr(0, kept) + "..." + std::to_string(text.size()) + "..." +
+         text.substr(text.size() - kept);
+}
+
+std::string textOf(Colour colour) {
+  return "#" + std::to_string(colour.red) + "." + std::to_string(colour.green) + "." +
+         std::to_string(colour.blue);
+}
+
+/// What the control shows beside being there.
+std::string textOf(const Control& control) {
+  if (auto* box = as<CheckBox>(control)) return std::to_string(box->value());
+  if (auto* option = as<OptionButton>(control)) return option->value() ? "on" : "off";
+  if (auto* entry = as<MenuEntry>(control); entry && entry->isChecked())
+    return entry->caption() + " ticked";
+  if (auto* button = as<Switch>(control)) return button->value() ? "in" : "out";
+  if (auto* button = as<Button>(control); button && button->backColour())
+    return textOf(*button->backColour());
+  if (auto* slide = as<Slide>(control)) return numberText(slide->value()) + " " + slide->caption();
+  if (auto* captioned = as<CaptionedControl>(control)) return captioned->caption();
+  if (auto* label = as<ValueLabel>(control)) return label->caption();
+  if (auto* button = as<ValueButton>(control)) return button->caption();
+  if (auto* box = as<ComboBox>(control))
+    return std::to_string(box->listIndex()) + " " + box->text();
+  if (auto* box = as<TextBox>(control)) return box->text();
+  if (auto* knob = as<Knob>(control)) return numberText(knob->value());
+  if (auto* lamp = as<Lamp>(control)) return textOf(lamp->fillColour());
+  if (auto* line = as<Line>(control))
+    return textOf(line->borderColour()) + (line->borderStyle() == Line::solid ? "" : " dotted");
+  if (auto* bar = as<Progress>(control)) return std::to_string(bar->percent());
+  if (auto* picture = as<PictureBox>(control)) return picture->image().pixels;
+  if (auto* list = as<ListBox>(control)) return list->chosenText();
+  if (auto* tree = as<Tree>(control)) {
+    std::string text;
+    for (const Tree::Node& node : tree->nodes())
+      text += node.text + "^" + std::to_string(node.parent) + " ";
+    return shortened(text);
+  }
+  if (auto* graph = as<Graph>(control))
+    return textOf(graph->plotAreaColour()) + graph->note() + (graph->enlarged() ? " enlarged" : "");
+  return "";
+}
+
+void showParts(Graph& graph, std::map<std::string, std::string>& shown) {
+  for (const Plot& plot : graph.plots()) {
+    const auto& [x, y] = std::tie(plot.x(), plot.y());
+    if (!x.empty())
+      shown[plot.name()] = numberText(x.front()) + ":" + numberText(y.front()) + ".." +
+                           numberText(x.back()) + ":" + numberText(y.back());
+    shown[plot.name() + ".style"] = (plot.visible() ? "" : "hidden ") + textOf(plot.lineColour()) +
+                                    " " + std::to_string(plot.lineStyle()) + "/" +
+                                    std::to_string(plot.pointStyle());
+  }
+  for (const Axis& axis : graph.axes()) {
+    shown[axis.name()] = axis.caption();
+    shown[axis.name() + ".grid"] = textOf(axis.gridColour());
+  }
+  for (const Cursor& cursor : graph.cursors())
+    shown[cursor.name()] = (cursor.visible() ? "" : "hidden ") +
+                           std::to_string(static_cast<int>(cursor.style())) + " " +
+                           numberText(cursor.xPosition()) + ":" + numberText(cursor.yPosition());
+}
+
+void replaceAll(std::string& text, const std::string& old, const std::string& with) {
+  for (std::size_t at = 0; (at = text.find(old, at)) != std::string::npos; at += with.size())
+    text.replace(at, old.size(), with);
+}
+
+/// One event a line, so that a difference shows where it is.
+std::string lines(std::string text) {
+  replaceAll(text, "; ", "\n");
+  return text;
+}
+
+}  // namespace
+
+Lines split(const std::string& text, const std::string& separator) {
+  Lines parts;
+  for (std::size_t start = 0, end = 0; end != std::string::npos; start = end + separator.size()) {
+    end = text.find(separator, start);
+    parts.push_back(text.substr(start, end - start));
+  }
+  return parts;
+}
+
+Played::Played() {
+  program.start();
+  port.readTimeOut = ReplyTimeout(main);
+  for (Window* window : program.otherWindows()) newIn(*window);
+  newIn(main);
+  port.told = dialogs.told = printer.told = [this](const std::string& event) { note(event); };
+  windows.painted = [this] {
+    if (!events_.empty()) events_.back() += '~';
+  };
+  windows.hidden = [this](Window& window) {
+    if (&window == &program.message) note("</frmMsg>");
+    hidden(window);
+  };
+  windows.unloaded = [this](Window& window) {
+    note("unload " + window.name());
+    unloaded(window);
+  };
+  windows.opened = [this](Window& window) {
+    note("<" + window.name() + newIn(window) + ">");
+    if (&window == &program.message) return;
+    opened(window);
+    if (window.isVisible()) note("open");
+  };
+  main.tmDSO.changed = [this] { note(main.tmDSO.enabled() ? "run" : "rest"); };
+  program.errLog.txtErrLog.changed = [this] {
+    const Lines log = logLines();
+    if (!log.empty()) note("log " + log.back());
+  };
+  watchNotice();
+}
+
+void Played::watchNotice() {
+  main.lblTest.changed = [this, shown = main.lblTest.changed, wasVisible = false]() mutable {
+    if (shown) shown();
+    if (std::exchange(wasVisible, main.lblTest.visible()) != wasVisible)
+      note(wasVisible ? "[" : "]");
+  };
+}
+
+std::map<std::string, std::string> Played::shownBy(Window& window) {
+  std::map<std::string, std::string> shown = {{"title", window.caption()}};
+  for (Control* control : window.controls()) {
+    std::string text = textOf(*control);
+    replaceAll(text, pathText(folder.path()), "FOLDER");
+    if (as<TextBox>(*control) || as<PictureBox>(*control)) text = shortened(text);
+    shown[control->objectName()] = text + (control->visible() ? "" : " hidden") +
+                                   (control->enabled() ? "" : " disabled") +
+                                   (control->isUnread() ? " unread" : "") +
+                                   (isTruthTold_ && control->isStale() ? " stale" : "");
+  }
+  if (!isTruthTold_)
+    for (const char* name : {"lblAge", "cmdNewErrors"}) shown.erase(name);
+  // Where it is depends on the machine.
+  for (const char* name : {"driveCSV", "lblPath"}) shown.erase(name);
+  if (&window != &main) return shown;
+  showParts(main.graphDSO, shown);
+  for (const int number : {1, 2})
+    if (isTruthTold_ && main.graphDSO.plot(number).isOld())
+      shown["old" + std::to_string(number)] = "";
+  for (int number = 0; number < SetupTable::fileRows; ++number)
+    for (const std::string& value : row(number))
+      shown["row" + std::to_string(number)] += "," + value;
+  const LineSettings& line = port.settings;
+  for (const int value : {int{line.portNumber}, int{line.baudRate}, int{line.dataBits},
+                          int{line.stopBits}, int{line.parity}})
+    shown["line"] += "," + std::to_string(value);
+  return shown;
+}
+
+std::string Played::newIn(Window& window) {
+  const auto now = shownBy(window);
+  const auto before = std::exchange(seen_[&window], now);
+  std::string text;
+  for (const auto& [name, shown] : now)
+    if (const auto old = before.find(name); old == before.end() || old->second != shown)
+      text += "; " + name + " " + shown + (shown.empty() || shown.ends_with(' ') ? "|" : "");
+  return text;
+}
+
+std::string Played::play(const std::string& script) {
+  events_.clear();
+  start_ = clock.milliseconds();
+  for (std::string& text : split(script, ", ")) steps_.push_back(std::move(text));
+  while (!steps_.empty()) {
+    const std::string text = steps_.front();
+    steps_.pop_front();
+    step(main, text);
+  }
+  if (clock.milliseconds() != start_) note(std::to_string(clock.milliseconds() - start_) + " ms");
+  std::string text;
+  for (const std::string& event : events_) text += "; " + event;
+  text += newIn(main);
+  replaceAll(text, "\r\n", "\\n");
+  replaceAll(text, "\r", "\\r");
+  replaceAll(text, "\n", "\\n");
+  replaceAll(text, pathText(folder.path()) + pathText(std::filesystem::path("/").make_preferred()),
+             "FOLDER/");
+  return text.substr(std::min<std::size_t>(2, text.size()));
+}
+
+void Played::playIn(Window& window) {
+  while (!steps_.empty() && window.isVisible()) {
+    const std::string text = steps_.front();
+    steps_.pop_front();
+    step(window, text);
+  }
+}
+
+void Played::step(Window& window, const std::string& text) {
+  const std::size_t equals = text.find('=');
+  const std::string name = text.substr(0, equals);
+  const std::string value = equals == std::string::npos ? "" : text.substr(equals + 1);
+  if (name == "close") return close(window);
+  if (name == "look")
+    return note("look" + newIn(window) +
+                (program.message.isVisible() ? newIn(program.message) : ""));
+  for (Control* control : window.controls())
+    if (control->objectName() == name) return use(*control, value);
+  if (!setUp(name, value)) ADD_FAILURE() << "no such step in " << window.name() << ": " << text;
+}
+
+bool Played::setUp(const std::string& name, const std::string& value) {
+  if (name.ends_with('?')) {
+    port.replies[name].clear();
+    for (const std::string& line : split(value, "|")) port.replies[name].push_back(line + "\n");
+  } else if (name.starts_with("row")) {
+    setRow(std::stoi(name.substr(3)), split(value, " "));
+  } else if (name == "connected") {
+    port.answerLikeAnInstrument();
+    main.cmdStart.press();
+    newIn(main);
+    events_.clear();
+    start_ = clock.milliseconds();
+  } else if (name == "plug") {
+    port.answerLikeAnInstrument();
+  } else if (name == "faults") {
+    port.faults = std::stoi(value);
+  } else if (name == "baud") {
+    main.BaudRate = toInt16(value);
+  } else if (name == "file") {
+    dialogs.pickedFile = value.empty() ? std::filesystem::path() : folder.path() / value;
+  } else if (name == "colour") {
+    const Lines parts = split(value, " ");
+    const auto part = [&](std::size_t i) { return static_cast<std::uint8_t>(std::stoi(parts[i])); };
+    dialogs.colour = {part(0), part(1), part(2)};
+  } else if (name == "write") {
+    const std::size_t blank = value.find(' ');
+    std::string text = value.substr(blank + 1);
+    replaceAll(text, "\\n", "\r\n");
+    writeWholeFile(folder.path() / value.substr(0, blank), text);
+  } else if (name == "remove") {
+    std::filesystem::remove(folder.path() / value);
+  } else if (name == "folder") {
+    std::filesystem::create_directory(folder.path() / value);
+  } else if (name == "answer") {
+    dialogs.answer = value == "no" ? Answer::No : Answer::Yes;
+  } else if (name == "give up") {
+    standBy.giveUp();
+  } else if (name == "cur1" || name == "cur2") {
+    const Lines at = split(value, ":");
+    main.graphDSO.dragCursor(main.graphDSO.cursor(name), std::stod(at[0]), std::stod(at[1]));
+  } else if (name == "wait") {
+    clock.run(std::stoi(value));
+  } else if (name == "at") {
+    const std::size_t space = value.find(' ');
+    clock.callAfter(std::stoi(value),
+                    [this, later = value.substr(space + 1)] { step(main, later); });
+  } else if (name == "record1" || name == "record2") {
+    (name == "record1" ? main.Ch1Raw : main.Ch2Raw) =
+        makeRecord([sample = std::stoi(value)](int i) { return i == 0 ? 0 : sample; });
+  } else if (name == "trace1" || name == "trace2") {
+    port.tag = name.substr(5);
+    port.deliver(makeRecord([sample = std::stoi(value)](int i) { return sample + i; }));
+  } else if (name == "truth") {
+    isTruthTold_ = true;
+    newIn(main);
+  } else if (name == "opened") {
+    port.timesOpened = std::stoi(value);
+  } else if (name == "status") {
+    main.lblStatus.changed = [this] { note("'" + main.lblStatus.caption() + "'"); };
+  } else {
+    for (Control* control : main.controls())
+      if (auto* label = dynamic_cast<ValueLabel*>(control);
+          label && label->objectName() + ":" == name) {
+        label->caption = value;
+        return true;
+      }
+    return false;
+  }
+  return true;
+}
+
+void Played::use(Control& control, const std::string& value) {
+  if (auto* button = dynamic_cast<Button*>(&control)) return button->press();
+  if (auto* button = dynamic_cast<Switch*>(&control)) return button->press();
+  if (auto* button = dynamic_cast<ValueButton*>(&control)) return button->press();
+  if (auto* entry = dynamic_cast<MenuEntry*>(&control)) return entry->choose();
+  if (auto* box = dynamic_cast<CheckBox*>(&control)) return box->toggle();
+  if (auto* option = dynamic_cast<OptionButton*>(&control)) return option->select();
+  if (auto* label = dynamic_cast<Label*>(&control)) return label->doubleClick();
+  if (auto* graph = dynamic_cast<Graph*>(&control)) return graph->toggleEnlarged();
+  if (auto* knob = dynamic_cast<Knob*>(&control)) return knob->turn(std::stoi(value));
+  if (auto* tree = dynamic_cast<Tree*>(&control)) return tree->choose(std::stoi(value));
+  if (auto* list = dynamic_cast<ListBox*>(&control)) return list->choose(std::stoi(value));
+  if (auto* picture = dynamic_cast<PictureBox*>(&control))
+    return picture->clickAt(std::stoi(value), 6);
+  if (auto* box = dynamic_cast<ComboBox*>(&control))
+    return value.starts_with('#') ? box->choose(std::stoi(value.substr(1))) : box->type(value);
+  if (auto* slide = dynamic_cast<Slide*>(&control)) {
+    const bool isHeld = value.ends_with('~');
+    slide->drag(std::stod(value));
+    return isHeld ? void() : slide->release();
+  }
+  auto& box = dynamic_cast<TextBox&>(control);
+  const bool isEntered = value.ends_with('~');
+  box.type(value.substr(0, value.size() - (isEntered ? 1 : 0)));
+  if (isEntered) box.pressKey(TextBox::enterKey);
+}
+
+void playFile(const char* name, const std::function<std::string(const std::string& script)>& play) {
+  std::istringstream file(contentOf(std::filesystem::path(TRACEWELL_SCRIPT_FOLDER) / name));
+  std::string script;
+  std::string expected;
+  for (std::string line; std::getline(file, line) || !script.empty();) {
+    const auto add = [](std::string& all, const std::string& separator, const std::string& more) {
+      all += (all.empty() ? "" : separator) + more;
+    };
+    if (line.starts_with("> ")) {
+      add(script, ", ", line.substr(2));
+    } else if (!line.empty() && !line.starts_with('#')) {
+      add(expected, "; ", line);
+    } else if (line.empty() && !script.empty()) {
+      const std::string came = play(script);
+      EXPECT_EQ(lines(expected), lines(came)) << script << "\n" << came;
+      script.clear();
+      expected.clear();
+    }
+    line.clear();
+  }
+}
+
+}  // namespace tracewell

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Doubles.h"
+
+namespace tracewell {
+
+/// The whole program, used as a script says. All that the instrument and the user get of it is
+/// written down, so that a script and what came of it pin every effect, wanted or not, and its
+/// place in the order. tests/scripts/README.md says how to read and write both.
+class Played : public Bench {
+ public:
+  Played();
+  virtual ~Played() = default;
+  /// Plays the steps; the result is what came of them.
+  std::string play(const std::string& script);
+
+ protected:
+  /// What the user does with a control of an open window, and the window's own way to close it.
+  virtual void use(Control& control, const std::string& value);
+  virtual void close(Window& window) { window.close(); }
+  /// A modal window that opens, and windows that go.
+  virtual void opened(Window& window) { playIn(window); }
+  virtual void hidden(Window&) {}
+  virtual void unloaded(Window&) {}
+  /// Plays what is left in the window until it is closed.
+  void playIn(Window& window);
+  /// Writes down when "Waiting" shows; again when a view has been bound to it.
+  void watchNotice();
+
+ private:
+  void step(Window& window, const std::string& text);
+  bool setUp(const std::string& name, const std::string& value);
+  std::map<std::string, std::string> shownBy(Window& window);
+  std::string newIn(Window& window);
+  void note(const std::string& event) { events_.push_back(event); }
+
+  std::deque<std::string> steps_;
+  std::int64_t start_ = 0;
+  bool isTruthTold_ = false;
+  Lines events_;
+  /// By window, what it showed last.
+  std::map<const Window*, std::map<std::string, std::string>> seen_;
+};
+
+/// The parts of a text.
+Lines split(const std::string& text, const std::string& separator);
+
+/// Plays every script of the file. What comes of it is what stands below.
+void playFile(const char* name, const std::function<std::string(const std::string& script)>& play);
+
+}  // namespace tracewell
