@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "KeptFiles.h"
 #include "LinkSettings.h"
+#include "PortNotice.h"
 #include "StaleScales.h"
 #include "TraceAge.h"
 #include "Tracewell.h"
@@ -104,6 +106,15 @@ void Tracewell::connectFiles() {
   main.mnbConf.click = [this] { report.mnbConf_Click(); };
 }
 
+/// What stands in the window in words of the panel's own.
+void Tracewell::sayAgain() {
+  sayPortAgain(main);
+  showDifferingLink(main);
+  showTraceAges(main);
+  showFilesToKeep(main);
+  errLog.showNewLines(main.NewLogLines);
+}
+
 void Tracewell::connectSupport() {
   main.lblDSOCmd.doubleClicked = [this] { errLog.lblDSOCmd_DblClick(); };
   main.cmdNewErrors.click = [this] { errLog.lblDSOCmd_DblClick(); };
@@ -113,7 +124,10 @@ void Tracewell::connectSupport() {
   main.mnbAbout.click = [this] { about.mnbAbout_Click(); };
   int language = 1;
   for (MenuEntry* entry : {&main.mnbLA1, &main.mnbLA2, &main.mnbLA3, &main.mnbLA4, &main.mnbLA5})
-    entry->click = [this, number = language++] { languageMenu.mnbLA_Click(number); };
+    entry->click = [this, number = language++] {
+      languageMenu.mnbLA_Click(number);
+      sayAgain();
+    };
 }
 
 }  // namespace tracewell

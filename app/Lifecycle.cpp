@@ -6,6 +6,7 @@
 #include "ConnectionIndicator.h"
 #include "Files.h"
 #include "GraphSetup.h"
+#include "KeptFiles.h"
 #include "LinkSettings.h"
 #include "Messages.h"
 #include "Numbers.h"
@@ -29,9 +30,10 @@ void Lifecycle::Form_Load() {
   main_.AcqChan = 1;
   setUpSecondAxis(main_.graphDSO);
   setupFiles_.ReadSetupFile(setupFiles_.defaultPath());
-  applyLinkSettings(main_);
   captions_.LoadCaptions();
   LoadMessages(main_);
+  applyLinkSettings(main_);
+  showFilesToKeep(main_);
   showWaitingForConnect(main_);
   main_.tmStatus.enabled = true;
 }
@@ -52,8 +54,10 @@ void Lifecycle::saveSetup() {
   try {
     setupFiles_.WriteSetupFile(path);
   } catch (const Error& error) {
-    main_.services().dialogs.showMessage("The setup could not be saved to " + pathText(path) +
-                                         ".\n" + error.description());
+    const Services& services = main_.services();
+    services.dialogs.showMessage(
+        services.words.say("The setup could not be saved to %1.", {pathText(path)}) + "\n" +
+        error.description());
   }
 }
 

@@ -92,6 +92,7 @@ class Tracewell {
   void connectView();
   void connectFiles();
   void connectSupport();
+  void sayAgain();
 };
 
 }  // namespace tracewell

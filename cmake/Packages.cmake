@@ -50,8 +50,8 @@ set(CPACK_DEBIAN_PACKAGE_SECTION electronics)
 # Without it the package would come out without its dependencies, and nobody would be told.
 find_program(SHLIBDEPS dpkg-shlibdeps REQUIRED)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# Screens that are no X server, and the words of the Chinese entries.
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland, fonts-wqy-microhei")
+# Screens that are no X server, the words of the Chinese entries, Qt's dialogs in other languages.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland, fonts-wqy-microhei, qt6-translations-l10n")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
 "front panel of a two-channel storage oscilloscope
  Tracewell operates the KRM-410, a two-channel digital storage oscilloscope on

@@ -7,6 +7,7 @@
 #include <QMessageBox>
 #include <iostream>
 
+#include "DesktopWords.h"
 #include "QtValues.h"
 #include "ShownText.h"
 
@@ -70,7 +71,7 @@ void DesktopDialogs::showMessage(const std::string& text) {
 
 void DesktopDialogs::showRunTimeError(const Error& error) {
   say(QMessageBox::Critical,
-      "Run-time error " + std::to_string(error.number()) + "\n\n" + error.description());
+      fromQt(panelText("Run-time error %1").arg(error.number())) + "\n\n" + error.description());
 }
 
 void DesktopDialogs::say(QMessageBox::Icon icon, const std::string& text) {

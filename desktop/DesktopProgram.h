@@ -8,6 +8,7 @@
 #include "DesktopPictures.h"
 #include "DesktopPrinter.h"
 #include "DesktopWindows.h"
+#include "DesktopWords.h"
 #include "LinePort.h"
 #include "PortDirectory.h"
 #include "Tracewell.h"
@@ -34,7 +35,7 @@ struct DesktopProgram {
   DesktopWindows windows;
   DesktopPictures pictures{windows};
   DesktopPrinter printer;
-  Words words;
+  DesktopWords words;
   Services services;
   Tracewell program{services};
   UserInput input{gate, standBy};

@@ -10,6 +10,7 @@
 
 #include "Binder.h"
 #include "Control.h"
+#include "DesktopWords.h"
 #include "Forms.h"
 #include "QtValues.h"
 #include "ShownText.h"
@@ -42,6 +43,7 @@ class DesktopWindows::Form : public QObject {
   QDialog& dialog() { return *qobject_cast<QDialog*>(widget_.get()); }
 
   bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() == QEvent::LanguageChange) sayInLanguage(*widget_);
     const bool isEscape = event->type() == QEvent::KeyPress && !isMain() &&
                           static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape;
     if (!isEscape && event->type() != QEvent::Close) return false;

@@ -5,6 +5,7 @@
 #include <QSet>
 #include <utility>
 
+#include "DesktopWords.h"
 #include "Error.h"
 #include "QtSerialChannel.h"
 #include "QtValues.h"
@@ -71,7 +72,7 @@ std::vector<PortList::Entry> PortDirectory::ports() {
 }
 
 std::string PortDirectory::deviceOf(std::int16_t number) {
-  return number == simulatedPort ? "simulated instrument" : fromQt(systemDevice(number));
+  return fromQt(number == simulatedPort ? panelText("simulated instrument") : systemDevice(number));
 }
 
 fs::path PortDirectory::overrideOf(int number) const {

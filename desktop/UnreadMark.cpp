@@ -7,6 +7,8 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "DesktopWords.h"
+
 namespace tracewell {
 namespace {
 
@@ -24,6 +26,8 @@ UnreadMark::UnreadMark(QWidget& marked) : QWidget(&marked) {
   resize(side, side);
   setToolTip(QStringLiteral("The instrument has not told this value"));
   setAccessibleName(QStringLiteral("not answered"));
+  keepEnglish(*this);
+  sayInLanguage(*this);
   marked.installEventFilter(this);
   toPlace();
 }

@@ -11,23 +11,24 @@ namespace tracewell {
 namespace {
 
 /// "port 7, 9600 baud 8-N-1".
-std::string lineText(const LineSettings& settings) {
+std::string lineText(const Words& words, const LineSettings& settings) {
   const char parity = settings.parity == 0 ? 'N' : settings.parity == 3 ? 'O' : 'E';
-  return "port " + std::to_string(settings.portNumber) + ", " + std::to_string(settings.baudRate) +
-         " baud " + std::to_string(settings.dataBits) + "-" + parity + "-" +
-         (settings.stopBits == 0 ? "1" : "2");
+  const std::string bits =
+      std::to_string(settings.dataBits) + "-" + parity + "-" + (settings.stopBits == 0 ? "1" : "2");
+  return words.say("port %1, %2 baud %3",
+                   {std::to_string(settings.portNumber), std::to_string(settings.baudRate), bits});
 }
 
 /// Empty where the table and the port agree.
 std::string differingLink(const frmDSO& main) {
   const LineSettings& settings = main.services().port.settings;
   const Words& words = main.services().words;
-  const std::string inUse = lineText(settings);
+  const std::string inUse = lineText(words, settings);
   try {
     const LineSettings wanted = linkSettings(main.gridMeasure);
     if (wanted == settings) return "";
     return words.say("In use: %1. The setup: %2 (OK in the RS-232 dialog applies it)",
-                     {inUse, lineText(wanted)});
+                     {inUse, lineText(words, wanted)});
   } catch (const Error& error) {
     return words.say("In use: %1. The line settings of the setup: %2",
                      {inUse, error.description()});

@@ -2,6 +2,13 @@
 #include "PortNotice.h"
 
 namespace tracewell {
+namespace {
+
+std::string simulatedMark(const frmDSO& main) {
+  return main.services().words.say("SIMULATED");
+}
+
+}  // namespace
 
 void showPort(frmDSO& main, std::int16_t portNumber) {
   const std::string device = main.services().ports.deviceOf(portNumber);
@@ -13,7 +20,12 @@ void showPort(frmDSO& main, std::int16_t portNumber) {
 
 void markTrace(frmDSO& main) {
   const bool isSimulated = main.services().port.openPort() == PortList::simulatedPort;
-  main.graphDSO.note = isSimulated ? main.services().words.say("SIMULATED") : "";
+  main.graphDSO.note = isSimulated ? simulatedMark(main) : "";
+}
+
+void sayPortAgain(frmDSO& main) {
+  showPort(main, main.services().port.settings.portNumber);
+  if (!main.graphDSO.note().empty()) main.graphDSO.note = simulatedMark(main);
 }
 
 }  // namespace tracewell

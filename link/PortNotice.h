@@ -12,4 +12,7 @@ void showPort(frmDSO& main, std::int16_t portNumber);
 /// takes it for a measurement. The mark stays until a trace of another port comes.
 void markTrace(frmDSO& main);
 
+/// Both in the language in force.
+void sayPortAgain(frmDSO& main);
+
 }  // namespace tracewell

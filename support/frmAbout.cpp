@@ -9,6 +9,7 @@ frmAbout::frmAbout(frmDSO& main) : Window("frmAbout", "About Tracewell", main.se
 }
 
 void frmAbout::mnbAbout_Click() {
+  caption = services().words.say("About Tracewell");
   showModal();
 }
 

@@ -26,34 +26,35 @@ auto findNoted(frmDSO& main, const fs::path& path) {
 }
 
 /// No folder: it is kept in its own.
-std::string notice(const fs::path& path) {
+std::string notice(const Words& words, const fs::path& path) {
   try {
-    return pathText(path.filename()) + " could not be read whole and will be kept as " +
-           pathText(nameAside(path).filename());
+    return words.say("%1 could not be read whole and will be kept as %2",
+                     {pathText(path.filename()), pathText(nameAside(path).filename())});
   } catch (const Error& error) {
     return error.description();
   }
 }
 
-void showNotice(frmDSO& main) {
+}  // namespace
+
+void showFilesToKeep(frmDSO& main) {
   std::string text;
-  for (const fs::path& path : main.FilesToKeep) text += (text.empty() ? "" : "; ") + notice(path);
+  for (const fs::path& path : main.FilesToKeep)
+    text += (text.empty() ? "" : "; ") + notice(main.services().words, path);
   main.lblNotice.visible = !text.empty();
   main.lblNotice.caption = text;
 }
 
-}  // namespace
-
 void noteFileToKeep(frmDSO& main, const fs::path& path) {
   if (findNoted(main, path) == main.FilesToKeep.end()) main.FilesToKeep.push_back(wholePath(path));
-  showNotice(main);
+  showFilesToKeep(main);
 }
 
 void forgetFileToKeep(frmDSO& main, const fs::path& path) {
   const auto noted = findNoted(main, path);
   if (noted == main.FilesToKeep.end()) return;
   main.FilesToKeep.erase(noted);
-  showNotice(main);
+  showFilesToKeep(main);
 }
 
 void keepNotedFile(frmDSO& main, const fs::path& path) {

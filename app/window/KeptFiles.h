@@ -17,4 +17,7 @@ void forgetFileToKeep(frmDSO& main, const std::filesystem::path& path);
 /// Keeps the file aside if it is one of them, by whatever path it is named. Raises pathAccess.
 void keepNotedFile(frmDSO& main, const std::filesystem::path& path);
 
+/// The notice, in the language in force.
+void showFilesToKeep(frmDSO& main);
+
 }  // namespace tracewell

@@ -44,6 +44,10 @@ void frmErrLog::Form_Load() {
 
 void frmErrLog::lblDSOCmd_DblClick() {
   showNewLines(0);
+  const Words& words = services().words;
+  caption = words.say("Error Log");
+  cmdClear.caption = words.say("Clear");
+  cmdClose.caption = words.say("Close");
   showModal();
 }
 

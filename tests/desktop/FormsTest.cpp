@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <ctime>
 
+#include "DesktopProgram.h"
 #include "GraphView.h"
 #include "MainFormTest.h"
 #include "ProgramFolder.h"
@@ -113,6 +114,39 @@ TEST_F(FormsTest, EveryFormHasAWindowAndEveryControlWithANameForScreenReaders) {
   EXPECT_EQ(names, formNames());
   QAccessibleInterface* close = QAccessible::queryAccessibleInterface(find("cmdClose"));
   EXPECT_EQ(close->text(QAccessible::Name), QStringLiteral("Fermer"));
+}
+
+TEST(DesktopWords, FollowTheLanguageInEveryWindowAndLeaveWhatIsShown) {
+  const ProgramFolderCopy folder;
+  DesktopProgram desktop(folder.path());
+  ASSERT_TRUE(desktop.start());
+  frmDSO& main = desktop.program.main;
+  QApplication::processEvents();
+  const auto tip = [&](const Control& control) {
+    return fromQt(desktop.windows.widgetOf(control)->toolTip());
+  };
+  const std::string english = tip(main.opOff);
+  main.txtTest.text = "typed";
+  main.lblTime.isUnread = true;
+  main.mnbLA3.choose();
+  desktop.windows.show(desktop.program.rs232);
+  QApplication::processEvents();
+  EXPECT_EQ(tip(main.opOff), "Sans curseurs");
+  EXPECT_EQ(tip(desktop.program.rs232.cbRS232(4)), "Numéro du port ; 0 : instrument simulé");
+  const QWidget* mark = desktop.windows.widgetOf(main.lblTime)->findChild<QWidget*>();
+  EXPECT_EQ(mark->accessibleName(), QStringLiteral("sans réponse"));
+  EXPECT_EQ(main.lblPort.caption(), "port 0 - instrument simulé");
+  EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel"), QStringLiteral("Annuler"));
+  const auto shown = [&](const Control& control) {
+    return desktop.windows.widgetOf(control)->property("text").toString();
+  };
+  EXPECT_EQ(shown(main.opOff), QStringLiteral("Aucun"));
+  EXPECT_EQ(shown(main.lblTime), QStringLiteral("Not Initialized"));
+  EXPECT_EQ(shown(main.txtTest), QStringLiteral("typed"));
+  main.mnbLA1.choose();
+  QApplication::processEvents();
+  EXPECT_EQ(tip(main.opOff), english);
+  EXPECT_EQ(mark->accessibleName(), QStringLiteral("not answered"));
 }
 
 /// In processor time, which a busy machine does not stretch.

@@ -1,0 +1,759 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name>Panel</name>
+    <message>
+        <source>%1 could not be read whole and will be kept as %2</source>
+        <translation>%1 n'a pas pu être lu en entier et sera conservé sous %2</translation>
+    </message>
+    <message>
+        <source>%1 results in %2 places: %3 are not shown</source>
+        <translation>%1 résultats pour %2 places : %3 ne sont pas affichés</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3 settings not confirmed</source>
+        <translation>%1 : %2 réglages sur %3 non confirmés</translation>
+    </message>
+    <message>
+        <source>%1: given up</source>
+        <translation>%1 : abandonné</translation>
+    </message>
+    <message>
+        <source>%1: given up, %2 of %3 not answered</source>
+        <translation>%1 : abandonné, %2 sur %3 sans réponse</translation>
+    </message>
+    <message>
+        <source>%1: last record %2 min ago</source>
+        <translation>%1 : dernier enregistrement il y a %2 min</translation>
+    </message>
+    <message>
+        <source>%1: last record %2 s ago</source>
+        <translation>%1 : dernier enregistrement il y a %2 s</translation>
+    </message>
+    <message>
+        <source>%1: live</source>
+        <translation>%1 : en direct</translation>
+    </message>
+    <message>
+        <source>%1: no answer to %2 of %3 questions</source>
+        <translation>%1 : %2 questions sur %3 sans réponse</translation>
+    </message>
+    <message>
+        <source>%1: no record yet</source>
+        <translation>%1 : pas encore d'enregistrement</translation>
+    </message>
+    <message>
+        <source>%1: question %2 of %3</source>
+        <translation>%1 : question %2 sur %3</translation>
+    </message>
+    <message>
+        <source>%1: setting %2 of %3</source>
+        <translation>%1 : réglage %2 sur %3</translation>
+    </message>
+    <message>
+        <source>About Tracewell</source>
+        <translation>À propos de Tracewell</translation>
+    </message>
+    <message>
+        <source>Acquisition mode and averaging</source>
+        <translation>Mode d'acquisition et moyennage</translation>
+    </message>
+    <message>
+        <source>Advanced trigger</source>
+        <translation>Déclenchement avancé</translation>
+    </message>
+    <message>
+        <source>Advanced trigger: Delay</source>
+        <translation>Déclenchement avancé : retard</translation>
+    </message>
+    <message>
+        <source>Advanced trigger: Event</source>
+        <translation>Déclenchement avancé : événement</translation>
+    </message>
+    <message>
+        <source>Advanced trigger: Level</source>
+        <translation>Déclenchement avancé : niveau</translation>
+    </message>
+    <message>
+        <source>Advanced trigger: Mode</source>
+        <translation>Déclenchement avancé : mode</translation>
+    </message>
+    <message>
+        <source>Advanced trigger: Type</source>
+        <translation>Déclenchement avancé : type</translation>
+    </message>
+    <message>
+        <source>Age of the traces</source>
+        <translation>Âge des traces</translation>
+    </message>
+    <message>
+        <source>Attenuation of the probe</source>
+        <translation>Atténuation de la sonde</translation>
+    </message>
+    <message>
+        <source>Bandwidth limit against noise</source>
+        <translation>Limitation de la bande passante contre le bruit</translation>
+    </message>
+    <message>
+        <source>Brightness of the grid on the instrument, in percent</source>
+        <translation>Luminosité de la grille sur l'instrument, en pour cent</translation>
+    </message>
+    <message>
+        <source>Brightness of the screen of the instrument</source>
+        <translation>Luminosité de l'écran de l'instrument</translation>
+    </message>
+    <message>
+        <source>Brightness of the traces on the instrument, in percent</source>
+        <translation>Luminosité des traces sur l'instrument, en pour cent</translation>
+    </message>
+    <message>
+        <source>Channel is displayed</source>
+        <translation>La voie est affichée</translation>
+    </message>
+    <message>
+        <source>Channel of the voltage read-out</source>
+        <translation>Voie de la lecture de tension</translation>
+    </message>
+    <message>
+        <source>Channel to measure</source>
+        <translation>Voie à mesurer</translation>
+    </message>
+    <message>
+        <source>Choose and run measurements</source>
+        <translation>Choisir et lancer les mesures</translation>
+    </message>
+    <message>
+        <source>Choose from the list of commands</source>
+        <translation>Choisir dans la liste des commandes</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Vider</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Colour behind the traces</source>
+        <translation>Couleur derrière les traces</translation>
+    </message>
+    <message>
+        <source>Colour of the grid</source>
+        <translation>Couleur de la grille</translation>
+    </message>
+    <message>
+        <source>Colour of the trace</source>
+        <translation>Couleur de la trace</translation>
+    </message>
+    <message>
+        <source>Colours and styles of the traces</source>
+        <translation>Couleurs et styles des traces</translation>
+    </message>
+    <message>
+        <source>Command line</source>
+        <translation>Ligne de commande</translation>
+    </message>
+    <message>
+        <source>Command line: Enter sends</source>
+        <translation>Ligne de commande : Entrée envoie</translation>
+    </message>
+    <message>
+        <source>Commands of the instrument</source>
+        <translation>Commandes de l'instrument</translation>
+    </message>
+    <message>
+        <source>Coupling</source>
+        <translation>Couplage</translation>
+    </message>
+    <message>
+        <source>Coupling of the input</source>
+        <translation>Couplage de l'entrée</translation>
+    </message>
+    <message>
+        <source>Coupling, probe, inversion and bandwidth limit of channel 1</source>
+        <translation>Couplage, sonde, inversion et limitation de bande de la voie 1</translation>
+    </message>
+    <message>
+        <source>Coupling, probe, inversion and bandwidth limit of channel 2</source>
+        <translation>Couplage, sonde, inversion et limitation de bande de la voie 2</translation>
+    </message>
+    <message>
+        <source>Cursors off</source>
+        <translation>Sans curseurs</translation>
+    </message>
+    <message>
+        <source>Data bits of a byte</source>
+        <translation>Bits de données par octet</translation>
+    </message>
+    <message>
+        <source>Description of the chosen waveform</source>
+        <translation>Description de la courbe choisie</translation>
+    </message>
+    <message>
+        <source>Device of the port</source>
+        <translation>Périphérique du port</translation>
+    </message>
+    <message>
+        <source>Display channel 1</source>
+        <translation>Afficher la voie 1</translation>
+    </message>
+    <message>
+        <source>Display channel 2</source>
+        <translation>Afficher la voie 2</translation>
+    </message>
+    <message>
+        <source>Dots at the samples</source>
+        <translation>Points aux échantillons</translation>
+    </message>
+    <message>
+        <source>Double click: the error log</source>
+        <translation>Double-clic : journal d'erreurs</translation>
+    </message>
+    <message>
+        <source>Drive</source>
+        <translation>Lecteur</translation>
+    </message>
+    <message>
+        <source>Empty the log</source>
+        <translation>Vider le journal</translation>
+    </message>
+    <message>
+        <source>Error Log</source>
+        <translation>Journal d'erreurs</translation>
+    </message>
+    <message>
+        <source>Error log</source>
+        <translation>Journal d'erreurs</translation>
+    </message>
+    <message>
+        <source>Error log: %1 new</source>
+        <translation>Journal d'erreurs : %1 nouv.</translation>
+    </message>
+    <message>
+        <source>Folders</source>
+        <translation>Dossiers</translation>
+    </message>
+    <message>
+        <source>Folders; double click or Enter opens</source>
+        <translation>Dossiers ; double-clic ou Entrée pour ouvrir</translation>
+    </message>
+    <message>
+        <source>Format of the picture file</source>
+        <translation>Format du fichier image</translation>
+    </message>
+    <message>
+        <source>Frequency Reject</source>
+        <translation>Réjection de fréquence</translation>
+    </message>
+    <message>
+        <source>Horizontal position in divisions</source>
+        <translation>Position horizontale, en divisions</translation>
+    </message>
+    <message>
+        <source>Horizontal position in divisions; double click for zero</source>
+        <translation>Position horizontale, en divisions ; double-clic : zéro</translation>
+    </message>
+    <message>
+        <source>How records are taken</source>
+        <translation>Façon de prendre les enregistrements</translation>
+    </message>
+    <message>
+        <source>How records are taken; type Average for averaging</source>
+        <translation>Façon de prendre les enregistrements ; taper Average pour moyenner</translation>
+    </message>
+    <message>
+        <source>How the trace looks</source>
+        <translation>Aspect de la trace</translation>
+    </message>
+    <message>
+        <source>In use: %1. The line settings of the setup: %2</source>
+        <translation>Utilisé : %1. Réglages de ligne enregistrés : %2</translation>
+    </message>
+    <message>
+        <source>In use: %1. The setup: %2 (OK in the RS-232 dialog applies it)</source>
+        <translation>Utilisé : %1. Réglages enregistrés : %2 (OK dans le dialogue RS-232 les applique)</translation>
+    </message>
+    <message>
+        <source>Lay a data file over the traces</source>
+        <translation>Superposer un fichier de données aux traces</translation>
+    </message>
+    <message>
+        <source>Lay a saved waveform over the traces</source>
+        <translation>Superposer une courbe enregistrée aux traces</translation>
+    </message>
+    <message>
+        <source>Let the instrument find its settings</source>
+        <translation>Laisser l'instrument trouver ses réglages</translation>
+    </message>
+    <message>
+        <source>Licence</source>
+        <translation>Licence</translation>
+    </message>
+    <message>
+        <source>Line only</source>
+        <translation>Trait seul</translation>
+    </message>
+    <message>
+        <source>Line rate in bits per second</source>
+        <translation>Débit de la ligne, en bits par seconde</translation>
+    </message>
+    <message>
+        <source>Lit while the panel of the instrument is locked</source>
+        <translation>Allumé tant que la face avant de l'instrument est verrouillée</translation>
+    </message>
+    <message>
+        <source>Load the trace of channel 1</source>
+        <translation>Charger la trace de la voie 1</translation>
+    </message>
+    <message>
+        <source>Load the trace of channel 2</source>
+        <translation>Charger la trace de la voie 2</translation>
+    </message>
+    <message>
+        <source>Loaded %1</source>
+        <translation>%1 chargé</translation>
+    </message>
+    <message>
+        <source>Measure time</source>
+        <translation>Mesurer un temps</translation>
+    </message>
+    <message>
+        <source>Measure voltage</source>
+        <translation>Mesurer une tension</translation>
+    </message>
+    <message>
+        <source>Measurement 1</source>
+        <translation>Mesure 1</translation>
+    </message>
+    <message>
+        <source>Measurement 10</source>
+        <translation>Mesure 10</translation>
+    </message>
+    <message>
+        <source>Measurement 11</source>
+        <translation>Mesure 11</translation>
+    </message>
+    <message>
+        <source>Measurement 12</source>
+        <translation>Mesure 12</translation>
+    </message>
+    <message>
+        <source>Measurement 13</source>
+        <translation>Mesure 13</translation>
+    </message>
+    <message>
+        <source>Measurement 14</source>
+        <translation>Mesure 14</translation>
+    </message>
+    <message>
+        <source>Measurement 15</source>
+        <translation>Mesure 15</translation>
+    </message>
+    <message>
+        <source>Measurement 16</source>
+        <translation>Mesure 16</translation>
+    </message>
+    <message>
+        <source>Measurement 2</source>
+        <translation>Mesure 2</translation>
+    </message>
+    <message>
+        <source>Measurement 3</source>
+        <translation>Mesure 3</translation>
+    </message>
+    <message>
+        <source>Measurement 4</source>
+        <translation>Mesure 4</translation>
+    </message>
+    <message>
+        <source>Measurement 5</source>
+        <translation>Mesure 5</translation>
+    </message>
+    <message>
+        <source>Measurement 6</source>
+        <translation>Mesure 6</translation>
+    </message>
+    <message>
+        <source>Measurement 7</source>
+        <translation>Mesure 7</translation>
+    </message>
+    <message>
+        <source>Measurement 8</source>
+        <translation>Mesure 8</translation>
+    </message>
+    <message>
+        <source>Measurement 9</source>
+        <translation>Mesure 9</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Mode</translation>
+    </message>
+    <message>
+        <source>Name of the plot</source>
+        <translation>Nom de la courbe</translation>
+    </message>
+    <message>
+        <source>New lines in the error log</source>
+        <translation>Nouvelles lignes dans le journal d'erreurs</translation>
+    </message>
+    <message>
+        <source>Next cursor mode</source>
+        <translation>Mode de curseur suivant</translation>
+    </message>
+    <message>
+        <source>No answer to %1</source>
+        <translation>Pas de réponse à %1</translation>
+    </message>
+    <message>
+        <source>Noise Reject</source>
+        <translation>Réjection du bruit</translation>
+    </message>
+    <message>
+        <source>Notice</source>
+        <translation>Avis</translation>
+    </message>
+    <message>
+        <source>Number of the port</source>
+        <translation>Numéro du port</translation>
+    </message>
+    <message>
+        <source>Number of the port; 0 is the simulated instrument</source>
+        <translation>Numéro du port ; 0 : instrument simulé</translation>
+    </message>
+    <message>
+        <source>Open the error log</source>
+        <translation>Ouvrir le journal d'erreurs</translation>
+    </message>
+    <message>
+        <source>Parameter of the command</source>
+        <translation>Paramètre de la commande</translation>
+    </message>
+    <message>
+        <source>Parity bit of a byte</source>
+        <translation>Bit de parité de l'octet</translation>
+    </message>
+    <message>
+        <source>Pick the time per division</source>
+        <translation>Choisir le temps par division</translation>
+    </message>
+    <message>
+        <source>Pick the volts per division of channel 1</source>
+        <translation>Choisir les volts par division de la voie 1</translation>
+    </message>
+    <message>
+        <source>Pick the volts per division of channel 2</source>
+        <translation>Choisir les volts par division de la voie 2</translation>
+    </message>
+    <message>
+        <source>Picture of the chosen waveform</source>
+        <translation>Image de la courbe choisie</translation>
+    </message>
+    <message>
+        <source>Print the graph</source>
+        <translation>Imprimer le graphique</translation>
+    </message>
+    <message>
+        <source>Print the picture</source>
+        <translation>Imprimer l'image</translation>
+    </message>
+    <message>
+        <source>Print the report</source>
+        <translation>Imprimer le rapport</translation>
+    </message>
+    <message>
+        <source>Read the instrument again with the present port settings</source>
+        <translation>Relire l'instrument avec les réglages actuels du port</translation>
+    </message>
+    <message>
+        <source>Read the instrument, then start and stop the traces</source>
+        <translation>Lire l'instrument, puis démarrer et arrêter les traces</translation>
+    </message>
+    <message>
+        <source>Records in an average</source>
+        <translation>Enregistrements par moyenne</translation>
+    </message>
+    <message>
+        <source>Remove the loaded waveforms</source>
+        <translation>Retirer les courbes chargées</translation>
+    </message>
+    <message>
+        <source>Replies and records</source>
+        <translation>Réponses et enregistrements</translation>
+    </message>
+    <message>
+        <source>Run or stop the acquisition of the instrument itself</source>
+        <translation>Mettre en marche ou arrêter l'acquisition de l'instrument lui-même</translation>
+    </message>
+    <message>
+        <source>Run the quick time measurements</source>
+        <translation>Lancer les mesures de temps rapides</translation>
+    </message>
+    <message>
+        <source>Run-time error %1</source>
+        <translation>Erreur d'exécution %1</translation>
+    </message>
+    <message>
+        <source>SIMULATED</source>
+        <translation>SIMULÉ</translation>
+    </message>
+    <message>
+        <source>Samples as dots</source>
+        <translation>Échantillons en points</translation>
+    </message>
+    <message>
+        <source>Samples joined by lines</source>
+        <translation>Échantillons reliés par des traits</translation>
+    </message>
+    <message>
+        <source>Samples of a record</source>
+        <translation>Échantillons par enregistrement</translation>
+    </message>
+    <message>
+        <source>Save picture and data</source>
+        <translation>Enregistrer l'image et les données</translation>
+    </message>
+    <message>
+        <source>Save the log and close</source>
+        <translation>Enregistrer le journal et fermer</translation>
+    </message>
+    <message>
+        <source>Save the report as a file</source>
+        <translation>Enregistrer le rapport dans un fichier</translation>
+    </message>
+    <message>
+        <source>Save the setup and close</source>
+        <translation>Enregistrer les réglages et fermer</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>%1 enregistré</translation>
+    </message>
+    <message>
+        <source>Saved %1 with its .csv and .inf in %2</source>
+        <translation>%1 enregistré avec ses .csv et .inf dans %2</translation>
+    </message>
+    <message>
+        <source>Saved waveforms</source>
+        <translation>Courbes enregistrées</translation>
+    </message>
+    <message>
+        <source>Send the command</source>
+        <translation>Envoyer la commande</translation>
+    </message>
+    <message>
+        <source>Setup loaded from %1</source>
+        <translation>Réglages chargés depuis %1</translation>
+    </message>
+    <message>
+        <source>Setup saved to %1</source>
+        <translation>Réglages enregistrés dans %1</translation>
+    </message>
+    <message>
+        <source>Slope</source>
+        <translation>Front</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Source</translation>
+    </message>
+    <message>
+        <source>Source, mode, slope and coupling of the trigger</source>
+        <translation>Source, mode, front et couplage du déclenchement</translation>
+    </message>
+    <message>
+        <source>State of the acquisition</source>
+        <translation>État de l'acquisition</translation>
+    </message>
+    <message>
+        <source>State of the connection</source>
+        <translation>État de la connexion</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>État</translation>
+    </message>
+    <message>
+        <source>Stop bits behind a byte</source>
+        <translation>Bits d'arrêt après un octet</translation>
+    </message>
+    <message>
+        <source>Sum or difference of the channels</source>
+        <translation>Somme ou différence des voies</translation>
+    </message>
+    <message>
+        <source>Take all texts away</source>
+        <translation>Retirer tous les textes</translation>
+    </message>
+    <message>
+        <source>Take the last text away</source>
+        <translation>Retirer le dernier texte</translation>
+    </message>
+    <message>
+        <source>Text to write onto the picture</source>
+        <translation>Texte à écrire sur l'image</translation>
+    </message>
+    <message>
+        <source>The data file</source>
+        <translation>Le fichier de données</translation>
+    </message>
+    <message>
+        <source>The folder that is shown</source>
+        <translation>Le dossier affiché</translation>
+    </message>
+    <message>
+        <source>The instrument has not told this value</source>
+        <translation>L'instrument n'a pas communiqué cette valeur</translation>
+    </message>
+    <message>
+        <source>The instrument is being read</source>
+        <translation>Lecture de l'instrument en cours</translation>
+    </message>
+    <message>
+        <source>The last question had no answer: press %1</source>
+        <translation>La dernière question est restée sans réponse : appuyer sur %1</translation>
+    </message>
+    <message>
+        <source>The picture to save</source>
+        <translation>L'image à enregistrer</translation>
+    </message>
+    <message>
+        <source>The port in use</source>
+        <translation>Le port utilisé</translation>
+    </message>
+    <message>
+        <source>The product</source>
+        <translation>Le produit</translation>
+    </message>
+    <message>
+        <source>The report</source>
+        <translation>Le rapport</translation>
+    </message>
+    <message>
+        <source>The scales may be those of another instrument: press %1 to read them</source>
+        <translation>Les calibres sont peut-être ceux d'un autre instrument : appuyer sur %1 pour les lire</translation>
+    </message>
+    <message>
+        <source>The setup could not be saved to %1.</source>
+        <translation>Les réglages n'ont pas pu être enregistrés dans %1.</translation>
+    </message>
+    <message>
+        <source>Time per division</source>
+        <translation>Temps par division</translation>
+    </message>
+    <message>
+        <source>Time per division: drag, wheel, arrow keys, or click a value</source>
+        <translation>Temps par division : glisser, molette, flèches ou clic sur une valeur</translation>
+    </message>
+    <message>
+        <source>Time that the instrument takes</source>
+        <translation>Temps que prend l'instrument</translation>
+    </message>
+    <message>
+        <source>Trace upside down</source>
+        <translation>Trace inversée</translation>
+    </message>
+    <message>
+        <source>Traces</source>
+        <translation>Traces</translation>
+    </message>
+    <message>
+        <source>Traces: drag the cursors, or move them with the arrow keys; C changes the cursor. Double click or E: larger, Escape: back</source>
+        <translation>Traces : glisser les curseurs ou les déplacer avec les flèches ; C change de curseur. Double-clic ou E : agrandir, Échap : revenir</translation>
+    </message>
+    <message>
+        <source>Trigger level in volts</source>
+        <translation>Niveau de déclenchement, en volts</translation>
+    </message>
+    <message>
+        <source>Trigger level in volts; double click for zero</source>
+        <translation>Niveau de déclenchement, en volts ; double-clic : zéro</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>Vertical position of channel 1 in divisions</source>
+        <translation>Position verticale de la voie 1, en divisions</translation>
+    </message>
+    <message>
+        <source>Vertical position of channel 1 in divisions; double click for zero</source>
+        <translation>Position verticale de la voie 1, en divisions ; double-clic : zéro</translation>
+    </message>
+    <message>
+        <source>Vertical position of channel 2 in divisions</source>
+        <translation>Position verticale de la voie 2, en divisions</translation>
+    </message>
+    <message>
+        <source>Vertical position of channel 2 in divisions; double click for zero</source>
+        <translation>Position verticale de la voie 2, en divisions ; double-clic : zéro</translation>
+    </message>
+    <message>
+        <source>Volts per division of channel 1</source>
+        <translation>Volts par division de la voie 1</translation>
+    </message>
+    <message>
+        <source>Volts per division of channel 1: drag, wheel, arrow keys, or click a value</source>
+        <translation>Volts par division de la voie 1 : glisser, molette, flèches ou clic sur une valeur</translation>
+    </message>
+    <message>
+        <source>Volts per division of channel 2</source>
+        <translation>Volts par division de la voie 2</translation>
+    </message>
+    <message>
+        <source>Volts per division of channel 2: drag, wheel, arrow keys, or click a value</source>
+        <translation>Volts par division de la voie 2 : glisser, molette, flèches ou clic sur une valeur</translation>
+    </message>
+    <message>
+        <source>Waiting for the answer to %1</source>
+        <translation>En attente de la réponse à %1</translation>
+    </message>
+    <message>
+        <source>What it shows</source>
+        <translation>Ce que l'image montre</translation>
+    </message>
+    <message>
+        <source>What the command does</source>
+        <translation>Ce que fait la commande</translation>
+    </message>
+    <message>
+        <source>When the last record of each channel came</source>
+        <translation>Quand est venu le dernier enregistrement de chaque voie</translation>
+    </message>
+    <message>
+        <source>Who saves it</source>
+        <translation>Qui enregistre</translation>
+    </message>
+    <message>
+        <source>Write the shown record to text.csv</source>
+        <translation>Écrire l'enregistrement affiché dans text.csv</translation>
+    </message>
+    <message>
+        <source>Write the text where the picture is clicked</source>
+        <translation>Écrire le texte à l'endroit cliqué de l'image</translation>
+    </message>
+    <message>
+        <source>not answered</source>
+        <translation>sans réponse</translation>
+    </message>
+    <message>
+        <source>port %1</source>
+        <translation>port %1</translation>
+    </message>
+    <message>
+        <source>port %1 - %2</source>
+        <translation>port %1 - %2</translation>
+    </message>
+    <message>
+        <source>port %1, %2 baud %3</source>
+        <translation>port %1, %2 bauds %3</translation>
+    </message>
+    <message>
+        <source>simulated instrument</source>
+        <translation>instrument simulé</translation>
+    </message>
+</context>
+</TS>

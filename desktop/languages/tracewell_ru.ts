@@ -1,0 +1,759 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ru" sourcelanguage="en">
+<context>
+    <name>Panel</name>
+    <message>
+        <source>%1 could not be read whole and will be kept as %2</source>
+        <translation>%1 прочитан не полностью и будет сохранён как %2</translation>
+    </message>
+    <message>
+        <source>%1 results in %2 places: %3 are not shown</source>
+        <translation>Результатов: %1, мест: %2, не показано: %3</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3 settings not confirmed</source>
+        <translation>%1: не подтверждено настроек: %2 из %3</translation>
+    </message>
+    <message>
+        <source>%1: given up</source>
+        <translation>%1: прервано</translation>
+    </message>
+    <message>
+        <source>%1: given up, %2 of %3 not answered</source>
+        <translation>%1: прервано, без ответа: %2 из %3</translation>
+    </message>
+    <message>
+        <source>%1: last record %2 min ago</source>
+        <translation>%1: последняя запись %2 мин назад</translation>
+    </message>
+    <message>
+        <source>%1: last record %2 s ago</source>
+        <translation>%1: последняя запись %2 с назад</translation>
+    </message>
+    <message>
+        <source>%1: live</source>
+        <translation>%1: в реальном времени</translation>
+    </message>
+    <message>
+        <source>%1: no answer to %2 of %3 questions</source>
+        <translation>%1: нет ответа на запросы: %2 из %3</translation>
+    </message>
+    <message>
+        <source>%1: no record yet</source>
+        <translation>%1: записи ещё не было</translation>
+    </message>
+    <message>
+        <source>%1: question %2 of %3</source>
+        <translation>%1: запрос %2 из %3</translation>
+    </message>
+    <message>
+        <source>%1: setting %2 of %3</source>
+        <translation>%1: настройка %2 из %3</translation>
+    </message>
+    <message>
+        <source>About Tracewell</source>
+        <translation>О программе Tracewell</translation>
+    </message>
+    <message>
+        <source>Acquisition mode and averaging</source>
+        <translation>Режим сбора и усреднение</translation>
+    </message>
+    <message>
+        <source>Advanced trigger</source>
+        <translation>Дополнительная синхронизация</translation>
+    </message>
+    <message>
+        <source>Advanced trigger: Delay</source>
+        <translation>Дополнительная синхронизация: задержка</translation>
+    </message>
+    <message>
+        <source>Advanced trigger: Event</source>
+        <translation>Дополнительная синхронизация: событие</translation>
+    </message>
+    <message>
+        <source>Advanced trigger: Level</source>
+        <translation>Дополнительная синхронизация: уровень</translation>
+    </message>
+    <message>
+        <source>Advanced trigger: Mode</source>
+        <translation>Дополнительная синхронизация: режим</translation>
+    </message>
+    <message>
+        <source>Advanced trigger: Type</source>
+        <translation>Дополнительная синхронизация: тип</translation>
+    </message>
+    <message>
+        <source>Age of the traces</source>
+        <translation>Давность осциллограмм</translation>
+    </message>
+    <message>
+        <source>Attenuation of the probe</source>
+        <translation>Коэффициент деления щупа</translation>
+    </message>
+    <message>
+        <source>Bandwidth limit against noise</source>
+        <translation>Ограничение полосы для подавления шума</translation>
+    </message>
+    <message>
+        <source>Brightness of the grid on the instrument, in percent</source>
+        <translation>Яркость сетки на экране прибора, в процентах</translation>
+    </message>
+    <message>
+        <source>Brightness of the screen of the instrument</source>
+        <translation>Яркость экрана прибора</translation>
+    </message>
+    <message>
+        <source>Brightness of the traces on the instrument, in percent</source>
+        <translation>Яркость луча на экране прибора, в процентах</translation>
+    </message>
+    <message>
+        <source>Channel is displayed</source>
+        <translation>Канал показан на экране</translation>
+    </message>
+    <message>
+        <source>Channel of the voltage read-out</source>
+        <translation>Канал для отсчёта напряжения</translation>
+    </message>
+    <message>
+        <source>Channel to measure</source>
+        <translation>Измеряемый канал</translation>
+    </message>
+    <message>
+        <source>Choose and run measurements</source>
+        <translation>Выбрать и выполнить измерения</translation>
+    </message>
+    <message>
+        <source>Choose from the list of commands</source>
+        <translation>Выбрать из списка команд</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Очистить</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>Colour behind the traces</source>
+        <translation>Цвет фона под осциллограммами</translation>
+    </message>
+    <message>
+        <source>Colour of the grid</source>
+        <translation>Цвет сетки</translation>
+    </message>
+    <message>
+        <source>Colour of the trace</source>
+        <translation>Цвет осциллограммы</translation>
+    </message>
+    <message>
+        <source>Colours and styles of the traces</source>
+        <translation>Цвета и вид осциллограмм</translation>
+    </message>
+    <message>
+        <source>Command line</source>
+        <translation>Командная строка</translation>
+    </message>
+    <message>
+        <source>Command line: Enter sends</source>
+        <translation>Командная строка: Enter отправляет</translation>
+    </message>
+    <message>
+        <source>Commands of the instrument</source>
+        <translation>Команды прибора</translation>
+    </message>
+    <message>
+        <source>Coupling</source>
+        <translation>Связь</translation>
+    </message>
+    <message>
+        <source>Coupling of the input</source>
+        <translation>Связь по входу</translation>
+    </message>
+    <message>
+        <source>Coupling, probe, inversion and bandwidth limit of channel 1</source>
+        <translation>Связь, щуп, инверсия и ограничение полосы канала 1</translation>
+    </message>
+    <message>
+        <source>Coupling, probe, inversion and bandwidth limit of channel 2</source>
+        <translation>Связь, щуп, инверсия и ограничение полосы канала 2</translation>
+    </message>
+    <message>
+        <source>Cursors off</source>
+        <translation>Курсоры выключены</translation>
+    </message>
+    <message>
+        <source>Data bits of a byte</source>
+        <translation>Битов данных в байте</translation>
+    </message>
+    <message>
+        <source>Description of the chosen waveform</source>
+        <translation>Описание выбранной осциллограммы</translation>
+    </message>
+    <message>
+        <source>Device of the port</source>
+        <translation>Устройство порта</translation>
+    </message>
+    <message>
+        <source>Display channel 1</source>
+        <translation>Показывать канал 1</translation>
+    </message>
+    <message>
+        <source>Display channel 2</source>
+        <translation>Показывать канал 2</translation>
+    </message>
+    <message>
+        <source>Dots at the samples</source>
+        <translation>Точки на отсчётах</translation>
+    </message>
+    <message>
+        <source>Double click: the error log</source>
+        <translation>Двойной щелчок: журнал ошибок</translation>
+    </message>
+    <message>
+        <source>Drive</source>
+        <translation>Диск</translation>
+    </message>
+    <message>
+        <source>Empty the log</source>
+        <translation>Очистить журнал</translation>
+    </message>
+    <message>
+        <source>Error Log</source>
+        <translation>Журнал ошибок</translation>
+    </message>
+    <message>
+        <source>Error log</source>
+        <translation>Журнал ошибок</translation>
+    </message>
+    <message>
+        <source>Error log: %1 new</source>
+        <translation>Журнал ошибок: новых %1</translation>
+    </message>
+    <message>
+        <source>Folders</source>
+        <translation>Папки</translation>
+    </message>
+    <message>
+        <source>Folders; double click or Enter opens</source>
+        <translation>Папки; двойной щелчок или Enter открывает</translation>
+    </message>
+    <message>
+        <source>Format of the picture file</source>
+        <translation>Формат файла рисунка</translation>
+    </message>
+    <message>
+        <source>Frequency Reject</source>
+        <translation>Подавление частот</translation>
+    </message>
+    <message>
+        <source>Horizontal position in divisions</source>
+        <translation>Сдвиг по горизонтали, в делениях</translation>
+    </message>
+    <message>
+        <source>Horizontal position in divisions; double click for zero</source>
+        <translation>Сдвиг по горизонтали, в делениях; двойной щелчок: ноль</translation>
+    </message>
+    <message>
+        <source>How records are taken</source>
+        <translation>Как снимаются записи</translation>
+    </message>
+    <message>
+        <source>How records are taken; type Average for averaging</source>
+        <translation>Как снимаются записи; для усреднения введите Average</translation>
+    </message>
+    <message>
+        <source>How the trace looks</source>
+        <translation>Как выглядит осциллограмма</translation>
+    </message>
+    <message>
+        <source>In use: %1. The line settings of the setup: %2</source>
+        <translation>Используется: %1. Параметры линии в настройках: %2</translation>
+    </message>
+    <message>
+        <source>In use: %1. The setup: %2 (OK in the RS-232 dialog applies it)</source>
+        <translation>Используется: %1. В настройках: %2 (применит OK в окне RS-232)</translation>
+    </message>
+    <message>
+        <source>Lay a data file over the traces</source>
+        <translation>Наложить файл данных на осциллограммы</translation>
+    </message>
+    <message>
+        <source>Lay a saved waveform over the traces</source>
+        <translation>Наложить сохранённую осциллограмму</translation>
+    </message>
+    <message>
+        <source>Let the instrument find its settings</source>
+        <translation>Прибор сам подберёт настройки</translation>
+    </message>
+    <message>
+        <source>Licence</source>
+        <translation>Лицензия</translation>
+    </message>
+    <message>
+        <source>Line only</source>
+        <translation>Только линия</translation>
+    </message>
+    <message>
+        <source>Line rate in bits per second</source>
+        <translation>Скорость линии, бит/с</translation>
+    </message>
+    <message>
+        <source>Lit while the panel of the instrument is locked</source>
+        <translation>Горит, пока передняя панель прибора заблокирована</translation>
+    </message>
+    <message>
+        <source>Load the trace of channel 1</source>
+        <translation>Загрузить осциллограмму канала 1</translation>
+    </message>
+    <message>
+        <source>Load the trace of channel 2</source>
+        <translation>Загрузить осциллограмму канала 2</translation>
+    </message>
+    <message>
+        <source>Loaded %1</source>
+        <translation>Загружено: %1</translation>
+    </message>
+    <message>
+        <source>Measure time</source>
+        <translation>Измерять время</translation>
+    </message>
+    <message>
+        <source>Measure voltage</source>
+        <translation>Измерять напряжение</translation>
+    </message>
+    <message>
+        <source>Measurement 1</source>
+        <translation>Измерение 1</translation>
+    </message>
+    <message>
+        <source>Measurement 10</source>
+        <translation>Измерение 10</translation>
+    </message>
+    <message>
+        <source>Measurement 11</source>
+        <translation>Измерение 11</translation>
+    </message>
+    <message>
+        <source>Measurement 12</source>
+        <translation>Измерение 12</translation>
+    </message>
+    <message>
+        <source>Measurement 13</source>
+        <translation>Измерение 13</translation>
+    </message>
+    <message>
+        <source>Measurement 14</source>
+        <translation>Измерение 14</translation>
+    </message>
+    <message>
+        <source>Measurement 15</source>
+        <translation>Измерение 15</translation>
+    </message>
+    <message>
+        <source>Measurement 16</source>
+        <translation>Измерение 16</translation>
+    </message>
+    <message>
+        <source>Measurement 2</source>
+        <translation>Измерение 2</translation>
+    </message>
+    <message>
+        <source>Measurement 3</source>
+        <translation>Измерение 3</translation>
+    </message>
+    <message>
+        <source>Measurement 4</source>
+        <translation>Измерение 4</translation>
+    </message>
+    <message>
+        <source>Measurement 5</source>
+        <translation>Измерение 5</translation>
+    </message>
+    <message>
+        <source>Measurement 6</source>
+        <translation>Измерение 6</translation>
+    </message>
+    <message>
+        <source>Measurement 7</source>
+        <translation>Измерение 7</translation>
+    </message>
+    <message>
+        <source>Measurement 8</source>
+        <translation>Измерение 8</translation>
+    </message>
+    <message>
+        <source>Measurement 9</source>
+        <translation>Измерение 9</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Режим</translation>
+    </message>
+    <message>
+        <source>Name of the plot</source>
+        <translation>Имя кривой</translation>
+    </message>
+    <message>
+        <source>New lines in the error log</source>
+        <translation>Новые строки в журнале ошибок</translation>
+    </message>
+    <message>
+        <source>Next cursor mode</source>
+        <translation>Следующий режим курсоров</translation>
+    </message>
+    <message>
+        <source>No answer to %1</source>
+        <translation>Нет ответа на %1</translation>
+    </message>
+    <message>
+        <source>Noise Reject</source>
+        <translation>Подавление шума</translation>
+    </message>
+    <message>
+        <source>Notice</source>
+        <translation>Уведомление</translation>
+    </message>
+    <message>
+        <source>Number of the port</source>
+        <translation>Номер порта</translation>
+    </message>
+    <message>
+        <source>Number of the port; 0 is the simulated instrument</source>
+        <translation>Номер порта; 0 означает имитатор прибора</translation>
+    </message>
+    <message>
+        <source>Open the error log</source>
+        <translation>Открыть журнал ошибок</translation>
+    </message>
+    <message>
+        <source>Parameter of the command</source>
+        <translation>Параметр команды</translation>
+    </message>
+    <message>
+        <source>Parity bit of a byte</source>
+        <translation>Бит чётности байта</translation>
+    </message>
+    <message>
+        <source>Pick the time per division</source>
+        <translation>Выбрать время на деление</translation>
+    </message>
+    <message>
+        <source>Pick the volts per division of channel 1</source>
+        <translation>Выбрать вольты на деление канала 1</translation>
+    </message>
+    <message>
+        <source>Pick the volts per division of channel 2</source>
+        <translation>Выбрать вольты на деление канала 2</translation>
+    </message>
+    <message>
+        <source>Picture of the chosen waveform</source>
+        <translation>Рисунок выбранной осциллограммы</translation>
+    </message>
+    <message>
+        <source>Print the graph</source>
+        <translation>Напечатать график</translation>
+    </message>
+    <message>
+        <source>Print the picture</source>
+        <translation>Напечатать рисунок</translation>
+    </message>
+    <message>
+        <source>Print the report</source>
+        <translation>Напечатать отчёт</translation>
+    </message>
+    <message>
+        <source>Read the instrument again with the present port settings</source>
+        <translation>Прочитать прибор заново с текущими настройками порта</translation>
+    </message>
+    <message>
+        <source>Read the instrument, then start and stop the traces</source>
+        <translation>Прочитать прибор, затем запускать и останавливать осциллограммы</translation>
+    </message>
+    <message>
+        <source>Records in an average</source>
+        <translation>Число усредняемых записей</translation>
+    </message>
+    <message>
+        <source>Remove the loaded waveforms</source>
+        <translation>Убрать загруженные осциллограммы</translation>
+    </message>
+    <message>
+        <source>Replies and records</source>
+        <translation>Ответы и записи</translation>
+    </message>
+    <message>
+        <source>Run or stop the acquisition of the instrument itself</source>
+        <translation>Пуск или остановка сбора данных самого прибора</translation>
+    </message>
+    <message>
+        <source>Run the quick time measurements</source>
+        <translation>Выполнить быстрые измерения времени</translation>
+    </message>
+    <message>
+        <source>Run-time error %1</source>
+        <translation>Ошибка выполнения %1</translation>
+    </message>
+    <message>
+        <source>SIMULATED</source>
+        <translation>ИМИТАЦИЯ</translation>
+    </message>
+    <message>
+        <source>Samples as dots</source>
+        <translation>Отсчёты точками</translation>
+    </message>
+    <message>
+        <source>Samples joined by lines</source>
+        <translation>Отсчёты соединены линиями</translation>
+    </message>
+    <message>
+        <source>Samples of a record</source>
+        <translation>Число отсчётов в записи</translation>
+    </message>
+    <message>
+        <source>Save picture and data</source>
+        <translation>Сохранить рисунок и данные</translation>
+    </message>
+    <message>
+        <source>Save the log and close</source>
+        <translation>Сохранить журнал и закрыть</translation>
+    </message>
+    <message>
+        <source>Save the report as a file</source>
+        <translation>Сохранить отчёт в файл</translation>
+    </message>
+    <message>
+        <source>Save the setup and close</source>
+        <translation>Сохранить настройки и закрыть</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>Сохранено: %1</translation>
+    </message>
+    <message>
+        <source>Saved %1 with its .csv and .inf in %2</source>
+        <translation>%1 и файлы .csv и .inf к нему сохранены в %2</translation>
+    </message>
+    <message>
+        <source>Saved waveforms</source>
+        <translation>Сохранённые осциллограммы</translation>
+    </message>
+    <message>
+        <source>Send the command</source>
+        <translation>Отправить команду</translation>
+    </message>
+    <message>
+        <source>Setup loaded from %1</source>
+        <translation>Настройки загружены из %1</translation>
+    </message>
+    <message>
+        <source>Setup saved to %1</source>
+        <translation>Настройки сохранены в %1</translation>
+    </message>
+    <message>
+        <source>Slope</source>
+        <translation>Фронт</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Источник</translation>
+    </message>
+    <message>
+        <source>Source, mode, slope and coupling of the trigger</source>
+        <translation>Источник, режим, фронт и связь синхронизации</translation>
+    </message>
+    <message>
+        <source>State of the acquisition</source>
+        <translation>Состояние сбора данных</translation>
+    </message>
+    <message>
+        <source>State of the connection</source>
+        <translation>Состояние связи с прибором</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Состояние</translation>
+    </message>
+    <message>
+        <source>Stop bits behind a byte</source>
+        <translation>Стоп-биты после байта</translation>
+    </message>
+    <message>
+        <source>Sum or difference of the channels</source>
+        <translation>Сумма или разность каналов</translation>
+    </message>
+    <message>
+        <source>Take all texts away</source>
+        <translation>Убрать все надписи</translation>
+    </message>
+    <message>
+        <source>Take the last text away</source>
+        <translation>Убрать последнюю надпись</translation>
+    </message>
+    <message>
+        <source>Text to write onto the picture</source>
+        <translation>Текст надписи на рисунке</translation>
+    </message>
+    <message>
+        <source>The data file</source>
+        <translation>Файл данных</translation>
+    </message>
+    <message>
+        <source>The folder that is shown</source>
+        <translation>Показанная папка</translation>
+    </message>
+    <message>
+        <source>The instrument has not told this value</source>
+        <translation>Прибор не сообщил это значение</translation>
+    </message>
+    <message>
+        <source>The instrument is being read</source>
+        <translation>Идёт чтение прибора</translation>
+    </message>
+    <message>
+        <source>The last question had no answer: press %1</source>
+        <translation>На последний запрос нет ответа: нажмите «%1»</translation>
+    </message>
+    <message>
+        <source>The picture to save</source>
+        <translation>Сохраняемый рисунок</translation>
+    </message>
+    <message>
+        <source>The port in use</source>
+        <translation>Используемый порт</translation>
+    </message>
+    <message>
+        <source>The product</source>
+        <translation>Изделие</translation>
+    </message>
+    <message>
+        <source>The report</source>
+        <translation>Отчёт</translation>
+    </message>
+    <message>
+        <source>The scales may be those of another instrument: press %1 to read them</source>
+        <translation>Масштабы могут быть от другого прибора: нажмите «%1», чтобы прочитать их</translation>
+    </message>
+    <message>
+        <source>The setup could not be saved to %1.</source>
+        <translation>Не удалось сохранить настройки в %1.</translation>
+    </message>
+    <message>
+        <source>Time per division</source>
+        <translation>Время на деление</translation>
+    </message>
+    <message>
+        <source>Time per division: drag, wheel, arrow keys, or click a value</source>
+        <translation>Время на деление: мышью, колёсиком, стрелками или щелчком по значению</translation>
+    </message>
+    <message>
+        <source>Time that the instrument takes</source>
+        <translation>Время, нужное прибору</translation>
+    </message>
+    <message>
+        <source>Trace upside down</source>
+        <translation>Осциллограмма перевёрнута</translation>
+    </message>
+    <message>
+        <source>Traces</source>
+        <translation>Осциллограммы</translation>
+    </message>
+    <message>
+        <source>Traces: drag the cursors, or move them with the arrow keys; C changes the cursor. Double click or E: larger, Escape: back</source>
+        <translation>Осциллограммы: курсоры двигаются мышью или стрелками; C переключает курсор. Двойной щелчок или E: крупнее, Esc: обратно</translation>
+    </message>
+    <message>
+        <source>Trigger level in volts</source>
+        <translation>Уровень синхронизации, в вольтах</translation>
+    </message>
+    <message>
+        <source>Trigger level in volts; double click for zero</source>
+        <translation>Уровень синхронизации, в вольтах; двойной щелчок: ноль</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Версия</translation>
+    </message>
+    <message>
+        <source>Vertical position of channel 1 in divisions</source>
+        <translation>Смещение канала 1 по вертикали, в делениях</translation>
+    </message>
+    <message>
+        <source>Vertical position of channel 1 in divisions; double click for zero</source>
+        <translation>Смещение канала 1 по вертикали, в делениях; двойной щелчок: ноль</translation>
+    </message>
+    <message>
+        <source>Vertical position of channel 2 in divisions</source>
+        <translation>Смещение канала 2 по вертикали, в делениях</translation>
+    </message>
+    <message>
+        <source>Vertical position of channel 2 in divisions; double click for zero</source>
+        <translation>Смещение канала 2 по вертикали, в делениях; двойной щелчок: ноль</translation>
+    </message>
+    <message>
+        <source>Volts per division of channel 1</source>
+        <translation>Вольты на деление канала 1</translation>
+    </message>
+    <message>
+        <source>Volts per division of channel 1: drag, wheel, arrow keys, or click a value</source>
+        <translation>Вольты на деление канала 1: мышью, колёсиком, стрелками или щелчком по значению</translation>
+    </message>
+    <message>
+        <source>Volts per division of channel 2</source>
+        <translation>Вольты на деление канала 2</translation>
+    </message>
+    <message>
+        <source>Volts per division of channel 2: drag, wheel, arrow keys, or click a value</source>
+        <translation>Вольты на деление канала 2: мышью, колёсиком, стрелками или щелчком по значению</translation>
+    </message>
+    <message>
+        <source>Waiting for the answer to %1</source>
+        <translation>Ожидание ответа на %1</translation>
+    </message>
+    <message>
+        <source>What it shows</source>
+        <translation>Что на нём показано</translation>
+    </message>
+    <message>
+        <source>What the command does</source>
+        <translation>Что делает команда</translation>
+    </message>
+    <message>
+        <source>When the last record of each channel came</source>
+        <translation>Когда пришла последняя запись каждого канала</translation>
+    </message>
+    <message>
+        <source>Who saves it</source>
+        <translation>Кто сохраняет</translation>
+    </message>
+    <message>
+        <source>Write the shown record to text.csv</source>
+        <translation>Записать показанную запись в text.csv</translation>
+    </message>
+    <message>
+        <source>Write the text where the picture is clicked</source>
+        <translation>Писать текст там, где щёлкнули по рисунку</translation>
+    </message>
+    <message>
+        <source>not answered</source>
+        <translation>нет ответа</translation>
+    </message>
+    <message>
+        <source>port %1</source>
+        <translation>порт %1</translation>
+    </message>
+    <message>
+        <source>port %1 - %2</source>
+        <translation>порт %1 - %2</translation>
+    </message>
+    <message>
+        <source>port %1, %2 baud %3</source>
+        <translation>порт %1, %2 бод %3</translation>
+    </message>
+    <message>
+        <source>simulated instrument</source>
+        <translation>имитатор прибора</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,759 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en">
+<context>
+    <name>Panel</name>
+    <message>
+        <source>%1 could not be read whole and will be kept as %2</source>
+        <translation>%1 未能完整读取，将保留为 %2</translation>
+    </message>
+    <message>
+        <source>%1 results in %2 places: %3 are not shown</source>
+        <translation>%1 个结果只有 %2 个位置：有 %3 个未显示</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3 settings not confirmed</source>
+        <translation>%1：%3 项设置中有 %2 项未确认</translation>
+    </message>
+    <message>
+        <source>%1: given up</source>
+        <translation>%1：已放弃</translation>
+    </message>
+    <message>
+        <source>%1: given up, %2 of %3 not answered</source>
+        <translation>%1：已放弃，%3 个中有 %2 个未应答</translation>
+    </message>
+    <message>
+        <source>%1: last record %2 min ago</source>
+        <translation>%1：最近记录在 %2 分钟前</translation>
+    </message>
+    <message>
+        <source>%1: last record %2 s ago</source>
+        <translation>%1：最近记录在 %2 秒前</translation>
+    </message>
+    <message>
+        <source>%1: live</source>
+        <translation>%1：实时</translation>
+    </message>
+    <message>
+        <source>%1: no answer to %2 of %3 questions</source>
+        <translation>%1：%3 个查询中有 %2 个无应答</translation>
+    </message>
+    <message>
+        <source>%1: no record yet</source>
+        <translation>%1：尚无记录</translation>
+    </message>
+    <message>
+        <source>%1: question %2 of %3</source>
+        <translation>%1：第 %2 个查询，共 %3 个</translation>
+    </message>
+    <message>
+        <source>%1: setting %2 of %3</source>
+        <translation>%1：第 %2 项设置，共 %3 项</translation>
+    </message>
+    <message>
+        <source>About Tracewell</source>
+        <translation>关于 Tracewell</translation>
+    </message>
+    <message>
+        <source>Acquisition mode and averaging</source>
+        <translation>采集方式与平均</translation>
+    </message>
+    <message>
+        <source>Advanced trigger</source>
+        <translation>高级触发</translation>
+    </message>
+    <message>
+        <source>Advanced trigger: Delay</source>
+        <translation>高级触发：延迟</translation>
+    </message>
+    <message>
+        <source>Advanced trigger: Event</source>
+        <translation>高级触发：事件</translation>
+    </message>
+    <message>
+        <source>Advanced trigger: Level</source>
+        <translation>高级触发：电平</translation>
+    </message>
+    <message>
+        <source>Advanced trigger: Mode</source>
+        <translation>高级触发：方式</translation>
+    </message>
+    <message>
+        <source>Advanced trigger: Type</source>
+        <translation>高级触发：类型</translation>
+    </message>
+    <message>
+        <source>Age of the traces</source>
+        <translation>波形的新旧</translation>
+    </message>
+    <message>
+        <source>Attenuation of the probe</source>
+        <translation>探头衰减比</translation>
+    </message>
+    <message>
+        <source>Bandwidth limit against noise</source>
+        <translation>限制带宽以抑制噪声</translation>
+    </message>
+    <message>
+        <source>Brightness of the grid on the instrument, in percent</source>
+        <translation>仪器屏幕上网格的亮度（百分比）</translation>
+    </message>
+    <message>
+        <source>Brightness of the screen of the instrument</source>
+        <translation>仪器屏幕的亮度</translation>
+    </message>
+    <message>
+        <source>Brightness of the traces on the instrument, in percent</source>
+        <translation>仪器屏幕上波形的亮度（百分比）</translation>
+    </message>
+    <message>
+        <source>Channel is displayed</source>
+        <translation>显示该通道</translation>
+    </message>
+    <message>
+        <source>Channel of the voltage read-out</source>
+        <translation>电压读数所用的通道</translation>
+    </message>
+    <message>
+        <source>Channel to measure</source>
+        <translation>要测量的通道</translation>
+    </message>
+    <message>
+        <source>Choose and run measurements</source>
+        <translation>选择并执行测量</translation>
+    </message>
+    <message>
+        <source>Choose from the list of commands</source>
+        <translation>从命令列表中选择</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>清空</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Colour behind the traces</source>
+        <translation>波形的背景颜色</translation>
+    </message>
+    <message>
+        <source>Colour of the grid</source>
+        <translation>网格的颜色</translation>
+    </message>
+    <message>
+        <source>Colour of the trace</source>
+        <translation>波形的颜色</translation>
+    </message>
+    <message>
+        <source>Colours and styles of the traces</source>
+        <translation>波形的颜色与样式</translation>
+    </message>
+    <message>
+        <source>Command line</source>
+        <translation>命令行</translation>
+    </message>
+    <message>
+        <source>Command line: Enter sends</source>
+        <translation>命令行：按回车键发送</translation>
+    </message>
+    <message>
+        <source>Commands of the instrument</source>
+        <translation>仪器的命令</translation>
+    </message>
+    <message>
+        <source>Coupling</source>
+        <translation>耦合</translation>
+    </message>
+    <message>
+        <source>Coupling of the input</source>
+        <translation>输入耦合</translation>
+    </message>
+    <message>
+        <source>Coupling, probe, inversion and bandwidth limit of channel 1</source>
+        <translation>通道 1 的耦合、探头、反相与带宽限制</translation>
+    </message>
+    <message>
+        <source>Coupling, probe, inversion and bandwidth limit of channel 2</source>
+        <translation>通道 2 的耦合、探头、反相与带宽限制</translation>
+    </message>
+    <message>
+        <source>Cursors off</source>
+        <translation>关闭光标</translation>
+    </message>
+    <message>
+        <source>Data bits of a byte</source>
+        <translation>每字节的数据位</translation>
+    </message>
+    <message>
+        <source>Description of the chosen waveform</source>
+        <translation>所选波形的说明</translation>
+    </message>
+    <message>
+        <source>Device of the port</source>
+        <translation>端口对应的设备</translation>
+    </message>
+    <message>
+        <source>Display channel 1</source>
+        <translation>显示通道 1</translation>
+    </message>
+    <message>
+        <source>Display channel 2</source>
+        <translation>显示通道 2</translation>
+    </message>
+    <message>
+        <source>Dots at the samples</source>
+        <translation>在采样点处画点</translation>
+    </message>
+    <message>
+        <source>Double click: the error log</source>
+        <translation>双击：打开错误日志</translation>
+    </message>
+    <message>
+        <source>Drive</source>
+        <translation>驱动器</translation>
+    </message>
+    <message>
+        <source>Empty the log</source>
+        <translation>清空日志</translation>
+    </message>
+    <message>
+        <source>Error Log</source>
+        <translation>错误日志</translation>
+    </message>
+    <message>
+        <source>Error log</source>
+        <translation>错误日志</translation>
+    </message>
+    <message>
+        <source>Error log: %1 new</source>
+        <translation>错误日志：%1 条新</translation>
+    </message>
+    <message>
+        <source>Folders</source>
+        <translation>文件夹</translation>
+    </message>
+    <message>
+        <source>Folders; double click or Enter opens</source>
+        <translation>文件夹；双击或按回车键打开</translation>
+    </message>
+    <message>
+        <source>Format of the picture file</source>
+        <translation>图片文件的格式</translation>
+    </message>
+    <message>
+        <source>Frequency Reject</source>
+        <translation>频率抑制</translation>
+    </message>
+    <message>
+        <source>Horizontal position in divisions</source>
+        <translation>水平位置（格）</translation>
+    </message>
+    <message>
+        <source>Horizontal position in divisions; double click for zero</source>
+        <translation>水平位置（格）；双击归零</translation>
+    </message>
+    <message>
+        <source>How records are taken</source>
+        <translation>记录的采集方式</translation>
+    </message>
+    <message>
+        <source>How records are taken; type Average for averaging</source>
+        <translation>记录的采集方式；要取平均请键入 Average</translation>
+    </message>
+    <message>
+        <source>How the trace looks</source>
+        <translation>波形的外观</translation>
+    </message>
+    <message>
+        <source>In use: %1. The line settings of the setup: %2</source>
+        <translation>正在使用：%1。设置中的线路参数：%2</translation>
+    </message>
+    <message>
+        <source>In use: %1. The setup: %2 (OK in the RS-232 dialog applies it)</source>
+        <translation>正在使用：%1。设置中：%2（在 RS-232 对话框中按“确定”生效）</translation>
+    </message>
+    <message>
+        <source>Lay a data file over the traces</source>
+        <translation>将数据文件叠加到波形上</translation>
+    </message>
+    <message>
+        <source>Lay a saved waveform over the traces</source>
+        <translation>将已保存的波形叠加到波形上</translation>
+    </message>
+    <message>
+        <source>Let the instrument find its settings</source>
+        <translation>让仪器自动找到合适的设置</translation>
+    </message>
+    <message>
+        <source>Licence</source>
+        <translation>许可证</translation>
+    </message>
+    <message>
+        <source>Line only</source>
+        <translation>仅画线</translation>
+    </message>
+    <message>
+        <source>Line rate in bits per second</source>
+        <translation>线路速率（比特/秒）</translation>
+    </message>
+    <message>
+        <source>Lit while the panel of the instrument is locked</source>
+        <translation>仪器面板锁定时点亮</translation>
+    </message>
+    <message>
+        <source>Load the trace of channel 1</source>
+        <translation>读取通道 1 的波形</translation>
+    </message>
+    <message>
+        <source>Load the trace of channel 2</source>
+        <translation>读取通道 2 的波形</translation>
+    </message>
+    <message>
+        <source>Loaded %1</source>
+        <translation>已读取 %1</translation>
+    </message>
+    <message>
+        <source>Measure time</source>
+        <translation>测量时间</translation>
+    </message>
+    <message>
+        <source>Measure voltage</source>
+        <translation>测量电压</translation>
+    </message>
+    <message>
+        <source>Measurement 1</source>
+        <translation>测量值 1</translation>
+    </message>
+    <message>
+        <source>Measurement 10</source>
+        <translation>测量值 10</translation>
+    </message>
+    <message>
+        <source>Measurement 11</source>
+        <translation>测量值 11</translation>
+    </message>
+    <message>
+        <source>Measurement 12</source>
+        <translation>测量值 12</translation>
+    </message>
+    <message>
+        <source>Measurement 13</source>
+        <translation>测量值 13</translation>
+    </message>
+    <message>
+        <source>Measurement 14</source>
+        <translation>测量值 14</translation>
+    </message>
+    <message>
+        <source>Measurement 15</source>
+        <translation>测量值 15</translation>
+    </message>
+    <message>
+        <source>Measurement 16</source>
+        <translation>测量值 16</translation>
+    </message>
+    <message>
+        <source>Measurement 2</source>
+        <translation>测量值 2</translation>
+    </message>
+    <message>
+        <source>Measurement 3</source>
+        <translation>测量值 3</translation>
+    </message>
+    <message>
+        <source>Measurement 4</source>
+        <translation>测量值 4</translation>
+    </message>
+    <message>
+        <source>Measurement 5</source>
+        <translation>测量值 5</translation>
+    </message>
+    <message>
+        <source>Measurement 6</source>
+        <translation>测量值 6</translation>
+    </message>
+    <message>
+        <source>Measurement 7</source>
+        <translation>测量值 7</translation>
+    </message>
+    <message>
+        <source>Measurement 8</source>
+        <translation>测量值 8</translation>
+    </message>
+    <message>
+        <source>Measurement 9</source>
+        <translation>测量值 9</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>方式</translation>
+    </message>
+    <message>
+        <source>Name of the plot</source>
+        <translation>曲线的名称</translation>
+    </message>
+    <message>
+        <source>New lines in the error log</source>
+        <translation>错误日志中有新条目</translation>
+    </message>
+    <message>
+        <source>Next cursor mode</source>
+        <translation>下一种光标方式</translation>
+    </message>
+    <message>
+        <source>No answer to %1</source>
+        <translation>%1 无应答</translation>
+    </message>
+    <message>
+        <source>Noise Reject</source>
+        <translation>噪声抑制</translation>
+    </message>
+    <message>
+        <source>Notice</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>Number of the port</source>
+        <translation>端口号</translation>
+    </message>
+    <message>
+        <source>Number of the port; 0 is the simulated instrument</source>
+        <translation>端口号；0 为模拟仪器</translation>
+    </message>
+    <message>
+        <source>Open the error log</source>
+        <translation>打开错误日志</translation>
+    </message>
+    <message>
+        <source>Parameter of the command</source>
+        <translation>命令的参数</translation>
+    </message>
+    <message>
+        <source>Parity bit of a byte</source>
+        <translation>每字节的校验位</translation>
+    </message>
+    <message>
+        <source>Pick the time per division</source>
+        <translation>选择每格时间</translation>
+    </message>
+    <message>
+        <source>Pick the volts per division of channel 1</source>
+        <translation>选择通道 1 的每格伏数</translation>
+    </message>
+    <message>
+        <source>Pick the volts per division of channel 2</source>
+        <translation>选择通道 2 的每格伏数</translation>
+    </message>
+    <message>
+        <source>Picture of the chosen waveform</source>
+        <translation>所选波形的图片</translation>
+    </message>
+    <message>
+        <source>Print the graph</source>
+        <translation>打印图形</translation>
+    </message>
+    <message>
+        <source>Print the picture</source>
+        <translation>打印图片</translation>
+    </message>
+    <message>
+        <source>Print the report</source>
+        <translation>打印报告</translation>
+    </message>
+    <message>
+        <source>Read the instrument again with the present port settings</source>
+        <translation>按当前端口设置重新读取仪器</translation>
+    </message>
+    <message>
+        <source>Read the instrument, then start and stop the traces</source>
+        <translation>读取仪器，然后开始和停止波形</translation>
+    </message>
+    <message>
+        <source>Records in an average</source>
+        <translation>每次平均的记录数</translation>
+    </message>
+    <message>
+        <source>Remove the loaded waveforms</source>
+        <translation>移除已读取的波形</translation>
+    </message>
+    <message>
+        <source>Replies and records</source>
+        <translation>应答与记录</translation>
+    </message>
+    <message>
+        <source>Run or stop the acquisition of the instrument itself</source>
+        <translation>运行或停止仪器自身的采集</translation>
+    </message>
+    <message>
+        <source>Run the quick time measurements</source>
+        <translation>执行快速时间测量</translation>
+    </message>
+    <message>
+        <source>Run-time error %1</source>
+        <translation>运行时错误 %1</translation>
+    </message>
+    <message>
+        <source>SIMULATED</source>
+        <translation>模拟</translation>
+    </message>
+    <message>
+        <source>Samples as dots</source>
+        <translation>采样显示为点</translation>
+    </message>
+    <message>
+        <source>Samples joined by lines</source>
+        <translation>采样以线相连</translation>
+    </message>
+    <message>
+        <source>Samples of a record</source>
+        <translation>每个记录的采样数</translation>
+    </message>
+    <message>
+        <source>Save picture and data</source>
+        <translation>保存图片与数据</translation>
+    </message>
+    <message>
+        <source>Save the log and close</source>
+        <translation>保存日志并关闭</translation>
+    </message>
+    <message>
+        <source>Save the report as a file</source>
+        <translation>将报告保存为文件</translation>
+    </message>
+    <message>
+        <source>Save the setup and close</source>
+        <translation>保存设置并关闭</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>已保存 %1</translation>
+    </message>
+    <message>
+        <source>Saved %1 with its .csv and .inf in %2</source>
+        <translation>已将 %1 及其 .csv 和 .inf 保存到 %2</translation>
+    </message>
+    <message>
+        <source>Saved waveforms</source>
+        <translation>已保存的波形</translation>
+    </message>
+    <message>
+        <source>Send the command</source>
+        <translation>发送命令</translation>
+    </message>
+    <message>
+        <source>Setup loaded from %1</source>
+        <translation>已从 %1 读取设置</translation>
+    </message>
+    <message>
+        <source>Setup saved to %1</source>
+        <translation>设置已保存到 %1</translation>
+    </message>
+    <message>
+        <source>Slope</source>
+        <translation>斜率</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>信源</translation>
+    </message>
+    <message>
+        <source>Source, mode, slope and coupling of the trigger</source>
+        <translation>触发的信源、方式、斜率与耦合</translation>
+    </message>
+    <message>
+        <source>State of the acquisition</source>
+        <translation>采集状态</translation>
+    </message>
+    <message>
+        <source>State of the connection</source>
+        <translation>连接状态</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>Stop bits behind a byte</source>
+        <translation>每字节后的停止位</translation>
+    </message>
+    <message>
+        <source>Sum or difference of the channels</source>
+        <translation>通道之和或差</translation>
+    </message>
+    <message>
+        <source>Take all texts away</source>
+        <translation>去掉全部文字</translation>
+    </message>
+    <message>
+        <source>Take the last text away</source>
+        <translation>去掉最后一处文字</translation>
+    </message>
+    <message>
+        <source>Text to write onto the picture</source>
+        <translation>要写在图片上的文字</translation>
+    </message>
+    <message>
+        <source>The data file</source>
+        <translation>数据文件</translation>
+    </message>
+    <message>
+        <source>The folder that is shown</source>
+        <translation>当前显示的文件夹</translation>
+    </message>
+    <message>
+        <source>The instrument has not told this value</source>
+        <translation>仪器没有给出这个值</translation>
+    </message>
+    <message>
+        <source>The instrument is being read</source>
+        <translation>正在读取仪器</translation>
+    </message>
+    <message>
+        <source>The last question had no answer: press %1</source>
+        <translation>上一个查询无应答：请按“%1”</translation>
+    </message>
+    <message>
+        <source>The picture to save</source>
+        <translation>要保存的图片</translation>
+    </message>
+    <message>
+        <source>The port in use</source>
+        <translation>正在使用的端口</translation>
+    </message>
+    <message>
+        <source>The product</source>
+        <translation>产品</translation>
+    </message>
+    <message>
+        <source>The report</source>
+        <translation>报告</translation>
+    </message>
+    <message>
+        <source>The scales may be those of another instrument: press %1 to read them</source>
+        <translation>档位可能属于另一台仪器：请按“%1”重新读取</translation>
+    </message>
+    <message>
+        <source>The setup could not be saved to %1.</source>
+        <translation>设置无法保存到 %1。</translation>
+    </message>
+    <message>
+        <source>Time per division</source>
+        <translation>每格时间</translation>
+    </message>
+    <message>
+        <source>Time per division: drag, wheel, arrow keys, or click a value</source>
+        <translation>每格时间：拖动、滚轮、方向键，或单击某个值</translation>
+    </message>
+    <message>
+        <source>Time that the instrument takes</source>
+        <translation>仪器所需的时间</translation>
+    </message>
+    <message>
+        <source>Trace upside down</source>
+        <translation>波形上下颠倒</translation>
+    </message>
+    <message>
+        <source>Traces</source>
+        <translation>波形</translation>
+    </message>
+    <message>
+        <source>Traces: drag the cursors, or move them with the arrow keys; C changes the cursor. Double click or E: larger, Escape: back</source>
+        <translation>波形：用鼠标拖动光标，或用方向键移动；C 键切换光标。双击或 E 键放大，Esc 键还原</translation>
+    </message>
+    <message>
+        <source>Trigger level in volts</source>
+        <translation>触发电平（伏）</translation>
+    </message>
+    <message>
+        <source>Trigger level in volts; double click for zero</source>
+        <translation>触发电平（伏）；双击归零</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>版本</translation>
+    </message>
+    <message>
+        <source>Vertical position of channel 1 in divisions</source>
+        <translation>通道 1 的垂直位置（格）</translation>
+    </message>
+    <message>
+        <source>Vertical position of channel 1 in divisions; double click for zero</source>
+        <translation>通道 1 的垂直位置（格）；双击归零</translation>
+    </message>
+    <message>
+        <source>Vertical position of channel 2 in divisions</source>
+        <translation>通道 2 的垂直位置（格）</translation>
+    </message>
+    <message>
+        <source>Vertical position of channel 2 in divisions; double click for zero</source>
+        <translation>通道 2 的垂直位置（格）；双击归零</translation>
+    </message>
+    <message>
+        <source>Volts per division of channel 1</source>
+        <translation>通道 1 的每格伏数</translation>
+    </message>
+    <message>
+        <source>Volts per division of channel 1: drag, wheel, arrow keys, or click a value</source>
+        <translation>通道 1 的每格伏数：拖动、滚轮、方向键，或单击某个值</translation>
+    </message>
+    <message>
+        <source>Volts per division of channel 2</source>
+        <translation>通道 2 的每格伏数</translation>
+    </message>
+    <message>
+        <source>Volts per division of channel 2: drag, wheel, arrow keys, or click a value</source>
+        <translation>通道 2 的每格伏数：拖动、滚轮、方向键，或单击某个值</translation>
+    </message>
+    <message>
+        <source>Waiting for the answer to %1</source>
+        <translation>正在等待 %1 的应答</translation>
+    </message>
+    <message>
+        <source>What it shows</source>
+        <translation>图中所示内容</translation>
+    </message>
+    <message>
+        <source>What the command does</source>
+        <translation>命令的作用</translation>
+    </message>
+    <message>
+        <source>When the last record of each channel came</source>
+        <translation>各通道最近一次收到记录的时间</translation>
+    </message>
+    <message>
+        <source>Who saves it</source>
+        <translation>保存者</translation>
+    </message>
+    <message>
+        <source>Write the shown record to text.csv</source>
+        <translation>将显示的记录写入 text.csv</translation>
+    </message>
+    <message>
+        <source>Write the text where the picture is clicked</source>
+        <translation>在图片上单击处写入文字</translation>
+    </message>
+    <message>
+        <source>not answered</source>
+        <translation>未应答</translation>
+    </message>
+    <message>
+        <source>port %1</source>
+        <translation>端口 %1</translation>
+    </message>
+    <message>
+        <source>port %1 - %2</source>
+        <translation>端口 %1 - %2</translation>
+    </message>
+    <message>
+        <source>port %1, %2 baud %3</source>
+        <translation>端口 %1，%2 波特 %3</translation>
+    </message>
+    <message>
+        <source>simulated instrument</source>
+        <translation>模拟仪器</translation>
+    </message>
+</context>
+</TS>

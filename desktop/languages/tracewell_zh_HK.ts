@@ -1,0 +1,759 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_HK" sourcelanguage="en">
+<context>
+    <name>Panel</name>
+    <message>
+        <source>%1 could not be read whole and will be kept as %2</source>
+        <translation>%1 讀唔晒，會保留做 %2</translation>
+    </message>
+    <message>
+        <source>%1 results in %2 places: %3 are not shown</source>
+        <translation>%1 個結果得 %2 個位：有 %3 個冇顯示</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3 settings not confirmed</source>
+        <translation>%1：%3 項設定有 %2 項未確認</translation>
+    </message>
+    <message>
+        <source>%1: given up</source>
+        <translation>%1：已經放棄</translation>
+    </message>
+    <message>
+        <source>%1: given up, %2 of %3 not answered</source>
+        <translation>%1：已經放棄，%3 個有 %2 個未有回應</translation>
+    </message>
+    <message>
+        <source>%1: last record %2 min ago</source>
+        <translation>%1：最近嘅記錄係 %2 分鐘前</translation>
+    </message>
+    <message>
+        <source>%1: last record %2 s ago</source>
+        <translation>%1：最近嘅記錄係 %2 秒前</translation>
+    </message>
+    <message>
+        <source>%1: live</source>
+        <translation>%1：實時</translation>
+    </message>
+    <message>
+        <source>%1: no answer to %2 of %3 questions</source>
+        <translation>%1：%3 個查詢有 %2 個冇回應</translation>
+    </message>
+    <message>
+        <source>%1: no record yet</source>
+        <translation>%1：未有記錄</translation>
+    </message>
+    <message>
+        <source>%1: question %2 of %3</source>
+        <translation>%1：第 %2 個查詢，共 %3 個</translation>
+    </message>
+    <message>
+        <source>%1: setting %2 of %3</source>
+        <translation>%1：第 %2 項設定，共 %3 項</translation>
+    </message>
+    <message>
+        <source>About Tracewell</source>
+        <translation>關於 Tracewell</translation>
+    </message>
+    <message>
+        <source>Acquisition mode and averaging</source>
+        <translation>擷取模式同平均</translation>
+    </message>
+    <message>
+        <source>Advanced trigger</source>
+        <translation>進階觸發</translation>
+    </message>
+    <message>
+        <source>Advanced trigger: Delay</source>
+        <translation>進階觸發：延遲</translation>
+    </message>
+    <message>
+        <source>Advanced trigger: Event</source>
+        <translation>進階觸發：事件</translation>
+    </message>
+    <message>
+        <source>Advanced trigger: Level</source>
+        <translation>進階觸發：電平</translation>
+    </message>
+    <message>
+        <source>Advanced trigger: Mode</source>
+        <translation>進階觸發：模式</translation>
+    </message>
+    <message>
+        <source>Advanced trigger: Type</source>
+        <translation>進階觸發：類型</translation>
+    </message>
+    <message>
+        <source>Age of the traces</source>
+        <translation>波形有幾舊</translation>
+    </message>
+    <message>
+        <source>Attenuation of the probe</source>
+        <translation>探頭嘅衰減比</translation>
+    </message>
+    <message>
+        <source>Bandwidth limit against noise</source>
+        <translation>限制頻寬以減少噪音</translation>
+    </message>
+    <message>
+        <source>Brightness of the grid on the instrument, in percent</source>
+        <translation>儀器畫面上網格嘅亮度（百分比）</translation>
+    </message>
+    <message>
+        <source>Brightness of the screen of the instrument</source>
+        <translation>儀器螢幕嘅亮度</translation>
+    </message>
+    <message>
+        <source>Brightness of the traces on the instrument, in percent</source>
+        <translation>儀器畫面上波形嘅亮度（百分比）</translation>
+    </message>
+    <message>
+        <source>Channel is displayed</source>
+        <translation>顯示呢條通道</translation>
+    </message>
+    <message>
+        <source>Channel of the voltage read-out</source>
+        <translation>電壓讀數用邊條通道</translation>
+    </message>
+    <message>
+        <source>Channel to measure</source>
+        <translation>要量度嘅通道</translation>
+    </message>
+    <message>
+        <source>Choose and run measurements</source>
+        <translation>揀選並進行量度</translation>
+    </message>
+    <message>
+        <source>Choose from the list of commands</source>
+        <translation>喺指令清單度揀</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>清空</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>關閉</translation>
+    </message>
+    <message>
+        <source>Colour behind the traces</source>
+        <translation>波形後面嘅背景顏色</translation>
+    </message>
+    <message>
+        <source>Colour of the grid</source>
+        <translation>網格嘅顏色</translation>
+    </message>
+    <message>
+        <source>Colour of the trace</source>
+        <translation>波形嘅顏色</translation>
+    </message>
+    <message>
+        <source>Colours and styles of the traces</source>
+        <translation>波形嘅顏色同樣式</translation>
+    </message>
+    <message>
+        <source>Command line</source>
+        <translation>指令列</translation>
+    </message>
+    <message>
+        <source>Command line: Enter sends</source>
+        <translation>指令列：撳 Enter 就傳送</translation>
+    </message>
+    <message>
+        <source>Commands of the instrument</source>
+        <translation>儀器嘅指令</translation>
+    </message>
+    <message>
+        <source>Coupling</source>
+        <translation>耦合</translation>
+    </message>
+    <message>
+        <source>Coupling of the input</source>
+        <translation>輸入耦合</translation>
+    </message>
+    <message>
+        <source>Coupling, probe, inversion and bandwidth limit of channel 1</source>
+        <translation>通道 1 嘅耦合、探頭、反相同頻寬限制</translation>
+    </message>
+    <message>
+        <source>Coupling, probe, inversion and bandwidth limit of channel 2</source>
+        <translation>通道 2 嘅耦合、探頭、反相同頻寬限制</translation>
+    </message>
+    <message>
+        <source>Cursors off</source>
+        <translation>關閉游標</translation>
+    </message>
+    <message>
+        <source>Data bits of a byte</source>
+        <translation>每個位元組嘅數據位元</translation>
+    </message>
+    <message>
+        <source>Description of the chosen waveform</source>
+        <translation>揀選咗嘅波形嘅說明</translation>
+    </message>
+    <message>
+        <source>Device of the port</source>
+        <translation>連接埠嘅裝置</translation>
+    </message>
+    <message>
+        <source>Display channel 1</source>
+        <translation>顯示通道 1</translation>
+    </message>
+    <message>
+        <source>Display channel 2</source>
+        <translation>顯示通道 2</translation>
+    </message>
+    <message>
+        <source>Dots at the samples</source>
+        <translation>喺取樣點畫點</translation>
+    </message>
+    <message>
+        <source>Double click: the error log</source>
+        <translation>撳兩下：打開錯誤記錄</translation>
+    </message>
+    <message>
+        <source>Drive</source>
+        <translation>磁碟</translation>
+    </message>
+    <message>
+        <source>Empty the log</source>
+        <translation>清空記錄</translation>
+    </message>
+    <message>
+        <source>Error Log</source>
+        <translation>錯誤記錄</translation>
+    </message>
+    <message>
+        <source>Error log</source>
+        <translation>錯誤記錄</translation>
+    </message>
+    <message>
+        <source>Error log: %1 new</source>
+        <translation>錯誤記錄：%1 條新</translation>
+    </message>
+    <message>
+        <source>Folders</source>
+        <translation>資料夾</translation>
+    </message>
+    <message>
+        <source>Folders; double click or Enter opens</source>
+        <translation>資料夾；撳兩下或者撳 Enter 打開</translation>
+    </message>
+    <message>
+        <source>Format of the picture file</source>
+        <translation>圖片檔案嘅格式</translation>
+    </message>
+    <message>
+        <source>Frequency Reject</source>
+        <translation>頻率抑制</translation>
+    </message>
+    <message>
+        <source>Horizontal position in divisions</source>
+        <translation>水平位置（格）</translation>
+    </message>
+    <message>
+        <source>Horizontal position in divisions; double click for zero</source>
+        <translation>水平位置（格）；撳兩下歸零</translation>
+    </message>
+    <message>
+        <source>How records are taken</source>
+        <translation>點樣擷取記錄</translation>
+    </message>
+    <message>
+        <source>How records are taken; type Average for averaging</source>
+        <translation>點樣擷取記錄；要平均就輸入 Average</translation>
+    </message>
+    <message>
+        <source>How the trace looks</source>
+        <translation>波形嘅樣</translation>
+    </message>
+    <message>
+        <source>In use: %1. The line settings of the setup: %2</source>
+        <translation>用緊：%1。設定入面嘅線路參數：%2</translation>
+    </message>
+    <message>
+        <source>In use: %1. The setup: %2 (OK in the RS-232 dialog applies it)</source>
+        <translation>用緊：%1。設定入面：%2（喺 RS-232 視窗撳「確定」就生效）</translation>
+    </message>
+    <message>
+        <source>Lay a data file over the traces</source>
+        <translation>將數據檔案疊加喺波形上面</translation>
+    </message>
+    <message>
+        <source>Lay a saved waveform over the traces</source>
+        <translation>將儲存咗嘅波形疊加上去</translation>
+    </message>
+    <message>
+        <source>Let the instrument find its settings</source>
+        <translation>等儀器自己搵設定</translation>
+    </message>
+    <message>
+        <source>Licence</source>
+        <translation>授權條款</translation>
+    </message>
+    <message>
+        <source>Line only</source>
+        <translation>淨係畫線</translation>
+    </message>
+    <message>
+        <source>Line rate in bits per second</source>
+        <translation>線路速率（位元／秒）</translation>
+    </message>
+    <message>
+        <source>Lit while the panel of the instrument is locked</source>
+        <translation>儀器面板鎖定嗰陣會着燈</translation>
+    </message>
+    <message>
+        <source>Load the trace of channel 1</source>
+        <translation>載入通道 1 嘅波形</translation>
+    </message>
+    <message>
+        <source>Load the trace of channel 2</source>
+        <translation>載入通道 2 嘅波形</translation>
+    </message>
+    <message>
+        <source>Loaded %1</source>
+        <translation>載入咗 %1</translation>
+    </message>
+    <message>
+        <source>Measure time</source>
+        <translation>量度時間</translation>
+    </message>
+    <message>
+        <source>Measure voltage</source>
+        <translation>量度電壓</translation>
+    </message>
+    <message>
+        <source>Measurement 1</source>
+        <translation>量度結果 1</translation>
+    </message>
+    <message>
+        <source>Measurement 10</source>
+        <translation>量度結果 10</translation>
+    </message>
+    <message>
+        <source>Measurement 11</source>
+        <translation>量度結果 11</translation>
+    </message>
+    <message>
+        <source>Measurement 12</source>
+        <translation>量度結果 12</translation>
+    </message>
+    <message>
+        <source>Measurement 13</source>
+        <translation>量度結果 13</translation>
+    </message>
+    <message>
+        <source>Measurement 14</source>
+        <translation>量度結果 14</translation>
+    </message>
+    <message>
+        <source>Measurement 15</source>
+        <translation>量度結果 15</translation>
+    </message>
+    <message>
+        <source>Measurement 16</source>
+        <translation>量度結果 16</translation>
+    </message>
+    <message>
+        <source>Measurement 2</source>
+        <translation>量度結果 2</translation>
+    </message>
+    <message>
+        <source>Measurement 3</source>
+        <translation>量度結果 3</translation>
+    </message>
+    <message>
+        <source>Measurement 4</source>
+        <translation>量度結果 4</translation>
+    </message>
+    <message>
+        <source>Measurement 5</source>
+        <translation>量度結果 5</translation>
+    </message>
+    <message>
+        <source>Measurement 6</source>
+        <translation>量度結果 6</translation>
+    </message>
+    <message>
+        <source>Measurement 7</source>
+        <translation>量度結果 7</translation>
+    </message>
+    <message>
+        <source>Measurement 8</source>
+        <translation>量度結果 8</translation>
+    </message>
+    <message>
+        <source>Measurement 9</source>
+        <translation>量度結果 9</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>模式</translation>
+    </message>
+    <message>
+        <source>Name of the plot</source>
+        <translation>曲線嘅名</translation>
+    </message>
+    <message>
+        <source>New lines in the error log</source>
+        <translation>錯誤記錄有新內容</translation>
+    </message>
+    <message>
+        <source>Next cursor mode</source>
+        <translation>下一種游標模式</translation>
+    </message>
+    <message>
+        <source>No answer to %1</source>
+        <translation>%1 冇回應</translation>
+    </message>
+    <message>
+        <source>Noise Reject</source>
+        <translation>噪音抑制</translation>
+    </message>
+    <message>
+        <source>Notice</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>Number of the port</source>
+        <translation>連接埠編號</translation>
+    </message>
+    <message>
+        <source>Number of the port; 0 is the simulated instrument</source>
+        <translation>連接埠編號；0 係模擬儀器</translation>
+    </message>
+    <message>
+        <source>Open the error log</source>
+        <translation>打開錯誤記錄</translation>
+    </message>
+    <message>
+        <source>Parameter of the command</source>
+        <translation>指令嘅參數</translation>
+    </message>
+    <message>
+        <source>Parity bit of a byte</source>
+        <translation>每個位元組嘅奇偶校驗位元</translation>
+    </message>
+    <message>
+        <source>Pick the time per division</source>
+        <translation>揀選每格時間</translation>
+    </message>
+    <message>
+        <source>Pick the volts per division of channel 1</source>
+        <translation>揀選通道 1 嘅每格伏特</translation>
+    </message>
+    <message>
+        <source>Pick the volts per division of channel 2</source>
+        <translation>揀選通道 2 嘅每格伏特</translation>
+    </message>
+    <message>
+        <source>Picture of the chosen waveform</source>
+        <translation>揀選咗嘅波形嘅圖片</translation>
+    </message>
+    <message>
+        <source>Print the graph</source>
+        <translation>打印圖形</translation>
+    </message>
+    <message>
+        <source>Print the picture</source>
+        <translation>打印圖片</translation>
+    </message>
+    <message>
+        <source>Print the report</source>
+        <translation>打印報告</translation>
+    </message>
+    <message>
+        <source>Read the instrument again with the present port settings</source>
+        <translation>用而家嘅連接埠設定再讀取儀器</translation>
+    </message>
+    <message>
+        <source>Read the instrument, then start and stop the traces</source>
+        <translation>讀取儀器，之後開始同停止波形</translation>
+    </message>
+    <message>
+        <source>Records in an average</source>
+        <translation>每次平均嘅記錄數目</translation>
+    </message>
+    <message>
+        <source>Remove the loaded waveforms</source>
+        <translation>移除載入咗嘅波形</translation>
+    </message>
+    <message>
+        <source>Replies and records</source>
+        <translation>回應同記錄</translation>
+    </message>
+    <message>
+        <source>Run or stop the acquisition of the instrument itself</source>
+        <translation>運行或者停止儀器本身嘅擷取</translation>
+    </message>
+    <message>
+        <source>Run the quick time measurements</source>
+        <translation>進行快速時間量度</translation>
+    </message>
+    <message>
+        <source>Run-time error %1</source>
+        <translation>執行錯誤 %1</translation>
+    </message>
+    <message>
+        <source>SIMULATED</source>
+        <translation>模擬</translation>
+    </message>
+    <message>
+        <source>Samples as dots</source>
+        <translation>取樣以點顯示</translation>
+    </message>
+    <message>
+        <source>Samples joined by lines</source>
+        <translation>取樣以線相連</translation>
+    </message>
+    <message>
+        <source>Samples of a record</source>
+        <translation>每個記錄嘅取樣數目</translation>
+    </message>
+    <message>
+        <source>Save picture and data</source>
+        <translation>儲存圖片同數據</translation>
+    </message>
+    <message>
+        <source>Save the log and close</source>
+        <translation>儲存記錄並關閉</translation>
+    </message>
+    <message>
+        <source>Save the report as a file</source>
+        <translation>將報告儲存做檔案</translation>
+    </message>
+    <message>
+        <source>Save the setup and close</source>
+        <translation>儲存設定並關閉</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>儲存咗 %1</translation>
+    </message>
+    <message>
+        <source>Saved %1 with its .csv and .inf in %2</source>
+        <translation>%1 同埋佢嘅 .csv、.inf 儲存咗喺 %2</translation>
+    </message>
+    <message>
+        <source>Saved waveforms</source>
+        <translation>儲存咗嘅波形</translation>
+    </message>
+    <message>
+        <source>Send the command</source>
+        <translation>傳送指令</translation>
+    </message>
+    <message>
+        <source>Setup loaded from %1</source>
+        <translation>由 %1 載入咗設定</translation>
+    </message>
+    <message>
+        <source>Setup saved to %1</source>
+        <translation>設定儲存咗去 %1</translation>
+    </message>
+    <message>
+        <source>Slope</source>
+        <translation>斜率</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>訊號源</translation>
+    </message>
+    <message>
+        <source>Source, mode, slope and coupling of the trigger</source>
+        <translation>觸發嘅訊號源、模式、斜率同耦合</translation>
+    </message>
+    <message>
+        <source>State of the acquisition</source>
+        <translation>擷取狀態</translation>
+    </message>
+    <message>
+        <source>State of the connection</source>
+        <translation>連接狀態</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>狀態</translation>
+    </message>
+    <message>
+        <source>Stop bits behind a byte</source>
+        <translation>每個位元組之後嘅停止位元</translation>
+    </message>
+    <message>
+        <source>Sum or difference of the channels</source>
+        <translation>通道嘅和或者差</translation>
+    </message>
+    <message>
+        <source>Take all texts away</source>
+        <translation>移除全部文字</translation>
+    </message>
+    <message>
+        <source>Take the last text away</source>
+        <translation>移除最後嘅文字</translation>
+    </message>
+    <message>
+        <source>Text to write onto the picture</source>
+        <translation>要寫喺圖片上嘅文字</translation>
+    </message>
+    <message>
+        <source>The data file</source>
+        <translation>數據檔案</translation>
+    </message>
+    <message>
+        <source>The folder that is shown</source>
+        <translation>而家顯示緊嘅資料夾</translation>
+    </message>
+    <message>
+        <source>The instrument has not told this value</source>
+        <translation>儀器冇話到呢個數值</translation>
+    </message>
+    <message>
+        <source>The instrument is being read</source>
+        <translation>讀取緊儀器</translation>
+    </message>
+    <message>
+        <source>The last question had no answer: press %1</source>
+        <translation>上一個查詢冇回應：請撳「%1」</translation>
+    </message>
+    <message>
+        <source>The picture to save</source>
+        <translation>要儲存嘅圖片</translation>
+    </message>
+    <message>
+        <source>The port in use</source>
+        <translation>用緊嘅連接埠</translation>
+    </message>
+    <message>
+        <source>The product</source>
+        <translation>產品</translation>
+    </message>
+    <message>
+        <source>The report</source>
+        <translation>報告</translation>
+    </message>
+    <message>
+        <source>The scales may be those of another instrument: press %1 to read them</source>
+        <translation>檔位可能係第部儀器嘅：撳「%1」再讀取</translation>
+    </message>
+    <message>
+        <source>The setup could not be saved to %1.</source>
+        <translation>設定儲存唔到去 %1。</translation>
+    </message>
+    <message>
+        <source>Time per division</source>
+        <translation>每格時間</translation>
+    </message>
+    <message>
+        <source>Time per division: drag, wheel, arrow keys, or click a value</source>
+        <translation>每格時間：拖曳、滾輪、方向鍵，或者撳一個數值</translation>
+    </message>
+    <message>
+        <source>Time that the instrument takes</source>
+        <translation>儀器需要嘅時間</translation>
+    </message>
+    <message>
+        <source>Trace upside down</source>
+        <translation>波形上下倒轉</translation>
+    </message>
+    <message>
+        <source>Traces</source>
+        <translation>波形</translation>
+    </message>
+    <message>
+        <source>Traces: drag the cursors, or move them with the arrow keys; C changes the cursor. Double click or E: larger, Escape: back</source>
+        <translation>波形：拖曳游標，或者用方向鍵移動；C 鍵轉另一條游標。撳兩下或者 E 鍵放大，Esc 鍵還原</translation>
+    </message>
+    <message>
+        <source>Trigger level in volts</source>
+        <translation>觸發電平（伏特）</translation>
+    </message>
+    <message>
+        <source>Trigger level in volts; double click for zero</source>
+        <translation>觸發電平（伏特）；撳兩下歸零</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>版本</translation>
+    </message>
+    <message>
+        <source>Vertical position of channel 1 in divisions</source>
+        <translation>通道 1 嘅垂直位置（格）</translation>
+    </message>
+    <message>
+        <source>Vertical position of channel 1 in divisions; double click for zero</source>
+        <translation>通道 1 嘅垂直位置（格）；撳兩下歸零</translation>
+    </message>
+    <message>
+        <source>Vertical position of channel 2 in divisions</source>
+        <translation>通道 2 嘅垂直位置（格）</translation>
+    </message>
+    <message>
+        <source>Vertical position of channel 2 in divisions; double click for zero</source>
+        <translation>通道 2 嘅垂直位置（格）；撳兩下歸零</translation>
+    </message>
+    <message>
+        <source>Volts per division of channel 1</source>
+        <translation>通道 1 嘅每格伏特</translation>
+    </message>
+    <message>
+        <source>Volts per division of channel 1: drag, wheel, arrow keys, or click a value</source>
+        <translation>通道 1 嘅每格伏特：拖曳、滾輪、方向鍵，或者撳一個數值</translation>
+    </message>
+    <message>
+        <source>Volts per division of channel 2</source>
+        <translation>通道 2 嘅每格伏特</translation>
+    </message>
+    <message>
+        <source>Volts per division of channel 2: drag, wheel, arrow keys, or click a value</source>
+        <translation>通道 2 嘅每格伏特：拖曳、滾輪、方向鍵，或者撳一個數值</translation>
+    </message>
+    <message>
+        <source>Waiting for the answer to %1</source>
+        <translation>等緊 %1 嘅回應</translation>
+    </message>
+    <message>
+        <source>What it shows</source>
+        <translation>圖入面係乜嘢</translation>
+    </message>
+    <message>
+        <source>What the command does</source>
+        <translation>指令嘅作用</translation>
+    </message>
+    <message>
+        <source>When the last record of each channel came</source>
+        <translation>每條通道最近一次收到記錄係幾時</translation>
+    </message>
+    <message>
+        <source>Who saves it</source>
+        <translation>邊個儲存</translation>
+    </message>
+    <message>
+        <source>Write the shown record to text.csv</source>
+        <translation>將顯示緊嘅記錄寫入 text.csv</translation>
+    </message>
+    <message>
+        <source>Write the text where the picture is clicked</source>
+        <translation>喺圖片上撳嘅位置寫入文字</translation>
+    </message>
+    <message>
+        <source>not answered</source>
+        <translation>未有回應</translation>
+    </message>
+    <message>
+        <source>port %1</source>
+        <translation>連接埠 %1</translation>
+    </message>
+    <message>
+        <source>port %1 - %2</source>
+        <translation>連接埠 %1 - %2</translation>
+    </message>
+    <message>
+        <source>port %1, %2 baud %3</source>
+        <translation>連接埠 %1，%2 波特 %3</translation>
+    </message>
+    <message>
+        <source>simulated instrument</source>
+        <translation>模擬儀器</translation>
+    </message>
+</context>
+</TS>
