@@ -388,6 +388,10 @@
         <translation>Mesure 9</translation>
     </message>
     <message>
+        <source>Message</source>
+        <translation>Message</translation>
+    </message>
+    <message>
         <source>Mode</source>
         <translation>Mode</translation>
     </message>

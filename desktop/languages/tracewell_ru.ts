@@ -388,6 +388,10 @@
         <translation>Измерение 9</translation>
     </message>
     <message>
+        <source>Message</source>
+        <translation>Сообщение</translation>
+    </message>
+    <message>
         <source>Mode</source>
         <translation>Режим</translation>
     </message>

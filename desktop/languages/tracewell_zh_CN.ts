@@ -388,6 +388,10 @@
         <translation>测量值 9</translation>
     </message>
     <message>
+        <source>Message</source>
+        <translation>提示</translation>
+    </message>
+    <message>
         <source>Mode</source>
         <translation>方式</translation>
     </message>

@@ -388,6 +388,10 @@
         <translation>量度結果 9</translation>
     </message>
     <message>
+        <source>Message</source>
+        <translation>訊息</translation>
+    </message>
+    <message>
         <source>Mode</source>
         <translation>模式</translation>
     </message>
