@@ -44,6 +44,39 @@ QString usualDevice(int number) {
 #endif
 }
 
+QSet<QString> presentDevices() {
+  QSet<QString> names;
+  for (const QSerialPortInfo& port : QSerialPortInfo::availablePorts()) names << port.portName();
+  return names;
+}
+
+bool hasOpen(const fs::path& process, const fs::path& device) {
+  std::error_code unread;
+  for (fs::directory_iterator file(process / "fd", unread), end; !unread && file != end;
+       file.increment(unread)) {
+    std::error_code ignored;
+    if (fs::read_symlink(file->path(), ignored) == device) return true;
+  }
+  return false;
+}
+
+/// Looks without opening it, which would move its control lines. The processes of other users do
+/// not show.
+bool isOpenElsewhere(const fs::path& device) {
+  std::error_code ignored;
+  const fs::path processes = "/proc";
+  const fs::path real = fs::canonical(device, ignored);
+  const fs::path own = fs::read_symlink(processes / "self", ignored);
+  std::error_code unread;
+  for (fs::directory_iterator process(processes, unread), end; !unread && process != end;
+       process.increment(unread)) {
+    const bool isNumber = process->path().filename().native().front() <= '9';
+    if (isNumber && process->path().filename() != own && hasOpen(process->path(), real))
+      return true;
+  }
+  return false;
+}
+
 }  // namespace
 
 PortDirectory::PortDirectory(fs::path programFolder, Clock& clock)
@@ -59,20 +92,30 @@ std::unique_ptr<ByteChannel> PortDirectory::open(const LineSettings& settings) {
 }
 
 std::vector<PortList::Entry> PortDirectory::ports() {
-  QSet<QString> present;
-  for (const QSerialPortInfo& port : QSerialPortInfo::availablePorts()) present << port.portName();
+  const QSet<QString> present = presentDevices();
   std::vector<Entry> found = {{simulatedPort, deviceOf(simulatedPort)}};
   for (std::int16_t number = 1; number <= highestNumber; ++number) {
-    std::error_code ignored;
-    const bool isThere = isOverridden(number) ? fs::exists(overrideOf(number), ignored)
-                                              : present.contains(systemDevice(number));
-    if (isThere) found.push_back({number, deviceOf(number)});
+    if (isPresent(number, present)) found.push_back({number, deviceOf(number)});
   }
   return found;
 }
 
 std::string PortDirectory::deviceOf(std::int16_t number) {
   return fromQt(number == simulatedPort ? panelText("simulated instrument") : systemDevice(number));
+}
+
+PortList::State PortDirectory::stateOf(std::int16_t number) {
+  if (number == simulatedPort) return State::ready;
+  if (!isPresent(number, presentDevices())) return State::absent;
+  const fs::path device =
+      isOverridden(number) ? overrideOf(number) : "/dev" / toPath(usualDevice(number));
+  return isOpenElsewhere(device) ? State::inUseElsewhere : State::ready;
+}
+
+bool PortDirectory::isPresent(int number, const QSet<QString>& devices) const {
+  std::error_code ignored;
+  return isOverridden(number) ? fs::exists(overrideOf(number), ignored)
+                              : devices.contains(usualDevice(number));
 }
 
 fs::path PortDirectory::overrideOf(int number) const {
@@ -82,7 +125,9 @@ fs::path PortDirectory::overrideOf(int number) const {
 /// A link whose device is away still means that device and no other.
 bool PortDirectory::isOverridden(int number) const {
   std::error_code ignored;
-  return hasOverrides && fs::exists(fs::symlink_status(overrideOf(number), ignored));
+  if (hasOverrides && fs::exists(fs::symlink_status(overrideOf(number), ignored)))
+    overridden_.insert(number);
+  return overridden_.contains(number);
 }
 
 QString PortDirectory::systemDevice(int number) const {

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QSet>
 #include <QString>
 #include <filesystem>
+#include <set>
 
 #include "Clock.h"
 #include "Instrument.h"
@@ -14,7 +16,8 @@ namespace tracewell {
 ///
 /// Number 0 is the built-in simulated instrument. On Windows n is COMn, always. Elsewhere 1
 /// to 32 are ttyS0 to ttyS31, 33 to 64 ttyUSB0 to ttyUSB31, 65 to 96 ttyACM0 to ttyACM31; a file or
-/// link "comN" in the program folder stands for number N whatever its range.
+/// link "comN" in the program folder stands for number N whatever its range, and, once it has been
+/// seen there, until the program ends: a number does not become another device when a link goes.
 class PortDirectory : public ChannelOpener, public PortList {
  public:
   PortDirectory(std::filesystem::path programFolder, Clock& clock);
@@ -22,13 +25,17 @@ class PortDirectory : public ChannelOpener, public PortList {
   std::unique_ptr<ByteChannel> open(const LineSettings& settings) override;
   std::vector<Entry> ports() override;
   std::string deviceOf(std::int16_t number) override;
+  State stateOf(std::int16_t number) override;
 
  private:
   std::filesystem::path overrideOf(int number) const;
   bool isOverridden(int number) const;
   QString systemDevice(int number) const;
+  bool isPresent(int number, const QSet<QString>& devices) const;
 
   std::filesystem::path programFolder_;
+  /// The numbers that have had a file or link of their own during this run.
+  mutable std::set<int> overridden_;
   Clock& clock_;
   Instrument simulatedInstrument_;
 };

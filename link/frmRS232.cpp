@@ -13,7 +13,8 @@ frmRS232::frmRS232(frmDSO& main) : Window("frmRS232", "RS-232", main.services())
   cbRS232(dataBitsValue).items = {"7", "8"};
   cbRS232(stopBitsValue).items = {"1", "2"};
   cbRS232(parityValue).items = {"None", "Odd", "Even"};
-  cbRS232(portValue).click = [this] { showDevice(); };
+  cbRS232(portValue).click = [this] { showDevice(cbRS232(portValue).text()); };
+  cbRS232(portValue).edited = [this](const std::string& typed) { showDevice(typed); };
   cmdOK.click = [this] { cmdOK_Click(); };
   cmdCancel.click = [this] { cmdCancel_Click(); };
 }
@@ -22,7 +23,7 @@ void frmRS232::mnbRS232_Click() {
   listPorts();
   for (int i = 0; i < linkValues; ++i)
     cbRS232(i).text = main_.gridMeasure.text(SetupTable::link, linkColumn(i));
-  showDevice();
+  showDevice(cbRS232(portValue).text());
   showModal();
 }
 
@@ -35,11 +36,25 @@ void frmRS232::listPorts() {
 }
 
 /// No device for a text that is no port number; OK is where that is an error.
-void frmRS232::showDevice() {
+void frmRS232::showDevice(const std::string& typed) {
   try {
-    lblDevice.caption = services().ports.deviceOf(toInt16(cbRS232(portValue).text()));
+    lblDevice.caption = deviceAndState(toInt16(typed));
   } catch (const Error&) {
     lblDevice.caption = "";
+  }
+}
+
+std::string frmRS232::deviceAndState(std::int16_t number) const {
+  PortList& ports = services().ports;
+  const std::string device = ports.deviceOf(number);
+  if (device.empty()) return services().words.say("There is no such port");
+  switch (ports.stateOf(number)) {
+    case PortList::State::absent:
+      return services().words.say("Not present: %1", {device});
+    case PortList::State::inUseElsewhere:
+      return services().words.say("In use by another program: %1", {device});
+    default:
+      return device;
   }
 }
 

@@ -15,7 +15,7 @@ class frmRS232 : public Window {
       *this, "lblRS232", {"Baud Rate :", "Data Bits :", "Stop Bits :", "Parity :", "Port :"}};
   /// Baud rate, data bits, stop bits, parity, port number, as in the setup table.
   ControlArray<ComboBox> cbRS232{*this, "cbRS232", 5};
-  /// Which device the port number means.
+  /// Which device the port number means, and what stands in its way.
   ValueLabel lblDevice{*this, "lblDevice", ""};
   Button cmdOK{*this, "cmdOK", "OK"};
   Button cmdCancel{*this, "cmdCancel", "Cancel"};
@@ -24,7 +24,8 @@ class frmRS232 : public Window {
 
  private:
   void listPorts();
-  void showDevice();
+  void showDevice(const std::string& typed);
+  std::string deviceAndState(std::int16_t number) const;
   void cmdOK_Click();
   void cmdCancel_Click();
 

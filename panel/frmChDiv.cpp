@@ -23,6 +23,11 @@ Knob& frmChDiv::knob() {
 }
 
 void frmChDiv::Form_Activate() {
+  for (ValueLabel& label : lblChannel) {
+    const std::string number = std::to_string(label.index() + 1);
+    label.caption = services().words.say("Channel %1", {number});
+    label.visible = number == tag;
+  }
   opVDiv(toInt32(knob().value())).value = true;
 }
 

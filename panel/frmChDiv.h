@@ -12,6 +12,8 @@ class frmChDiv : public Window {
  public:
   explicit frmChDiv(frmDSO& main);
 
+  /// For which channel the steps are; one of the two shows.
+  ControlArray<ValueLabel> lblChannel{*this, "lblChannel", 2};
   Frame fmVDiv{*this, "fmVDiv", "Volt/Div"};
   ControlArray<OptionButton> opVDiv{
       *this,

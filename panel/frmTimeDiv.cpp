@@ -19,6 +19,7 @@ void frmTimeDiv::cmdTime_Click() {
 }
 
 void frmTimeDiv::Form_Activate() {
+  lblHeading.caption = services().words.say("Both channels");
   obTimeDiv(toInt32(main_.knobTime.value())).value = true;
 }
 

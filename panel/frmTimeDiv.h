@@ -11,6 +11,7 @@ class frmTimeDiv : public Window {
  public:
   explicit frmTimeDiv(frmDSO& main);
 
+  ValueLabel lblHeading{*this, "lblHeading", ""};
   Frame fmTimeDiv{*this, "fmTimeDiv", "Time/Div"};
   ControlArray<OptionButton> obTimeDiv{
       *this, "obTimeDiv", {"2ns",   "5ns",   "10ns", "20ns", "50ns", "100ns", "200ns", "500ns",

@@ -153,6 +153,8 @@ class ScriptedPort : public SerialPort, public PortList {
   void beginRead(int count) override { recordLength = count; }
   void reset() override;
   std::vector<Entry> ports() override { return {{0, "simulated instrument"}, {33, "ttyUSB0"}}; }
+  State stateOf(std::int16_t number) override { return number == 33 ? stateOf33 : State::ready; }
+  State stateOf33 = State::ready;
   std::string deviceOf(std::int16_t number) override {
     for (const Entry& entry : ports())
       if (entry.number == number) return entry.device;

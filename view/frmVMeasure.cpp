@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "frmVMeasure.h"
 
+#include <algorithm>
+
 #include "MeasurementItems.h"
 
 namespace tracewell {
@@ -33,7 +35,12 @@ void keepFlag(SetupTable& table, Cell cell, const CheckBox& box) {
 
 frmVMeasure::frmVMeasure(frmDSO& main, Captions& captions)
     : Window("frmVMeasure", "Voltage Measure", main.services()), main_(main), captions_(captions) {
-  formActivate = [this] { tag = "0"; };
+  formActivate = [this] {
+    tag = "0";
+    showHint();
+  };
+  for (CheckBox& box : cbV) box.click = [this] { showHint(); };
+  for (CheckBox& box : cbF) box.click = [this] { showHint(); };
   cmdSelectAll.click = [this] { setChannel(0, true); };
   cmdClearAll.click = [this] { setChannel(0, false); };
   cmdSelectAll2.click = [this] { setChannel(1, true); };
@@ -45,6 +52,22 @@ frmVMeasure::frmVMeasure(frmDSO& main, Captions& captions)
 void frmVMeasure::showFlags() {
   for (CheckBox& box : cbV) showFlag(main_.gridMeasure, voltageCell(box.index()), box);
   for (CheckBox& box : cbF) showFlag(main_.gridMeasure, timeCell(box.index()), box);
+}
+
+int frmVMeasure::ticked() {
+  const auto isTicked = [](const CheckBox& box) { return box.isChecked(); };
+  return static_cast<int>(std::ranges::count_if(cbV, isTicked) +
+                          std::ranges::count_if(cbF, isTicked));
+}
+
+void frmVMeasure::showHint() {
+  const int cells = main_.lblMeasure.size();
+  const int count = ticked();
+  lblHint.caption =
+      count <= cells ? ""
+                     : services().words.say(
+                           "%1 are chosen, and there is room for %2: the last cell shows the last.",
+                           {std::to_string(count), std::to_string(cells)});
 }
 
 void frmVMeasure::setChannel(int channel, bool isChecked) {

@@ -31,6 +31,8 @@ class frmVMeasure : public Window {
   Button cmdClearAll{*this, "cmdClearAll", "Clear All"};
   Button cmdSelectAll2{*this, "cmdSelectAll2", "Select All"};
   Button cmdClearAll2{*this, "cmdClearAll2", "Clear All"};
+  /// Says when more are ticked than there are cells to show them.
+  ValueLabel lblHint{*this, "lblHint", ""};
   Button cmdOK{*this, "cmdOK", "OK"};
   Button cmdCancel{*this, "cmdCancel", "Cancel"};
 
@@ -38,6 +40,8 @@ class frmVMeasure : public Window {
   void showFlags();
 
  private:
+  int ticked();
+  void showHint();
   void setChannel(int channel, bool isChecked);
   void cmdOK_Click();
   void cmdCancel_Click();

@@ -105,6 +105,10 @@ void ComboBox::choose(int entry) {
   });
 }
 
+void ComboBox::edit(const std::string& typed) {
+  userDoes([this, &typed] { edited.raise(typed); });
+}
+
 void ComboBox::type(const std::string& typed) {
   userDoes([this, &typed] {
     isUnread = false;

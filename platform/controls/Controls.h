@@ -117,6 +117,10 @@ class ComboBox : public Control {
   /// Assigning makes listIndex follow quietly.
   Property<std::string> text;
   Event<> click;
+  /// Raised with what stands in the box while the user types, before any of it is taken.
+  Event<const std::string&> edited;
+  /// The user changes a letter.
+  void edit(const std::string& typed);
   /// The user takes an entry of the list.
   void choose(int entry);
   /// The user types into the box and leaves it.

@@ -95,6 +95,10 @@ class PortList {
   /// The device that a number means, whether it is there now or not; empty for a number without
   /// one.
   virtual std::string deviceOf(std::int16_t number) = 0;
+
+  /// Whether its device could be opened, as far as that shows from outside.
+  enum class State { ready, absent, inUseElsewhere };
+  virtual State stateOf(std::int16_t number) = 0;
 };
 
 }  // namespace tracewell
