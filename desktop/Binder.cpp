@@ -25,6 +25,7 @@
 
 #include "Controls.h"
 #include "Dials.h"
+#include "ElidedLabel.h"
 #include "Graph.h"
 #include "GraphView.h"
 #include "KnobWidget.h"
@@ -83,7 +84,7 @@ void showWith(Control& control, Object* object, Show show) {
 /// Shows every event of the watched object to `action` first, which says whether it has used it up.
 class EventWatch : public QObject {
  public:
-  using Action = std::function<bool(const QEvent&)>;
+  using Action = std::function<bool(QEvent&)>;
   EventWatch(QObject* watched, Action action) : QObject(watched), action_(std::move(action)) {
     watched->installEventFilter(this);
   }
@@ -112,6 +113,29 @@ void onEnter(QObject* watched, const std::function<void()>& action) {
   });
 }
 
+/// Enter on a text that is not taken yet takes it and does no more: what it opens is to be seen
+/// before the dialog is closed.
+void takeOnEnter(QComboBox& box, const ComboBox& control) {
+  new EventWatch(box.lineEdit(), [&box, &control](const QEvent& event) {
+    if (event.type() != QEvent::KeyPress) return false;
+    const int key = static_cast<const QKeyEvent&>(event).key();
+    const bool isEnter = key == Qt::Key_Return || key == Qt::Key_Enter;
+    if (!isEnter || box.currentText() == shownText(control.text(), roomOfEditor)) return false;
+    emit box.lineEdit()->editingFinished();
+    return true;
+  });
+}
+
+/// In an empty line there is nothing to select, and the key is the menu's.
+void giveUpSelectAll(QLineEdit& line) {
+  new EventWatch(&line, [&line](QEvent& event) {
+    const bool isOurs = event.type() == QEvent::ShortcutOverride && line.text().isEmpty() &&
+                        static_cast<QKeyEvent&>(event).matches(QKeySequence::SelectAll);
+    if (isOurs) event.ignore();
+    return isOurs;
+  });
+}
+
 /// When the user has pressed a key in a list, which moves through it. Focus alone, which also gives
 /// a list its current entry, is no choice, and neither is the release of a key that was pressed
 /// elsewhere.
@@ -130,12 +154,10 @@ void onMoveByKey(QObject* list, const std::function<void()>& action) {
 /// What a label on one line may take up before it would push its window off a small screen. Pixels.
 int widestOf(const QLabel& label) {
   const auto is = [&label](const char* kind) { return label.property(kind).toBool(); };
-  if (is("status")) return QWIDGETSIZE_MAX;
+  if (qobject_cast<const ElidedLabel*>(&label) != nullptr) return QWIDGETSIZE_MAX;
   if (is("state")) return 550;
-  if (is("port")) return 230;
   if (is("age")) return 330;
-  if (is("readout")) return 130;
-  return is("cell") ? 150 : 300;
+  return is("readout") ? 130 : 300;
 }
 
 template <class AnyLabel>
@@ -267,6 +289,9 @@ void bind(ComboBox& control, QWidget& form) {
   box->setInsertPolicy(QComboBox::NoInsert);
   // What is typed is meant: "3" is not the beginning of port 33.
   box->setCompleter(nullptr);
+  if (box->property("opensMore").toBool()) takeOnEnter(*box, control);
+  QObject::connect(box->lineEdit(), &QLineEdit::textEdited, box,
+                   [&control](const QString& typed) { control.edit(fromQt(typed)); });
   QObject::connect(box->lineEdit(), &QLineEdit::editingFinished, box, [&control, box] {
     const QString typed = box->currentText();
     if (typed != shownText(control.text(), roomOfEditor)) control.type(fromQt(typed));
@@ -287,6 +312,7 @@ void bind(TextBox& control, QWidget& form) {
     if (line->text() != toQt(control.text()))
       line->setText(shownText(control.text(), roomOfEditor));
   });
+  giveUpSelectAll(*line);
   QObject::connect(line, &QLineEdit::textEdited, line,
                    [&control](const QString& text) { control.type(fromQt(text)); });
   QObject::connect(line, &QLineEdit::returnPressed, line,

@@ -12,11 +12,24 @@
 #include "Control.h"
 #include "DesktopWords.h"
 #include "Forms.h"
+#include "ManualEntry.h"
 #include "QtValues.h"
 #include "ShownText.h"
 #include "Window.h"
 
 namespace tracewell {
+namespace {
+
+/// Where the user begins, whatever had the focus when the form was last closed.
+void focusFirst(QWidget& form) {
+  for (QWidget* next = form.nextInFocusChain(); next != &form; next = next->nextInFocusChain()) {
+    const bool isStop = (next->focusPolicy() & Qt::TabFocus) != 0 && next->isEnabledTo(&form);
+    if (isStop && next->isVisibleTo(&form) && next->focusProxy() == nullptr)
+      return next->setFocus(Qt::TabFocusReason);
+  }
+}
+
+}  // namespace
 
 /// A window's widget. Its title bar's button and Escape ask the window to close; the widget itself
 /// only ever goes when the window says so.
@@ -28,7 +41,10 @@ class DesktopWindows::Form : public QObject {
     window.changed = [this] { widget_->setWindowTitle(shownTitle(window_.caption())); };
     window.changed();
     widget_->installEventFilter(this);
-    if (isMain()) reachMenusByKey();
+    if (isMain()) {
+      reachMenusByKey();
+      new ManualEntry(*widget_->findChild<QMenu*>(QStringLiteral("mnbHelp")));
+    }
   }
   ~Form() override {
     window_.changed = {};
@@ -72,7 +88,8 @@ class DesktopWindows::Form : public QObject {
   std::unique_ptr<QWidget> widget_;
 };
 
-DesktopWindows::DesktopWindows() = default;
+DesktopWindows::DesktopWindows(const std::filesystem::path& programFolder)
+    : state_(programFolder) {}
 DesktopWindows::~DesktopWindows() = default;
 
 QWidget* DesktopWindows::widgetOf(const Control& control) const {
@@ -94,11 +111,15 @@ QWidget* DesktopWindows::mainForm() const {
 DesktopWindows::Form& DesktopWindows::formOf(Window& window) {
   const auto known = forms_.find(&window);
   if (known != forms_.end()) return *known->second;
-  return *forms_.emplace(&window, std::make_unique<Form>(window, mainForm())).first->second;
+  auto form = std::make_unique<Form>(window, mainForm());
+  if (form->isMain()) state_.restore(form->widget());
+  return *forms_.emplace(&window, std::move(form)).first->second;
 }
 
 void DesktopWindows::showModal(Window& window) {
-  formOf(window).dialog().exec();
+  QDialog& dialog = formOf(window).dialog();
+  focusFirst(dialog);
+  dialog.exec();
 }
 
 void DesktopWindows::show(Window& window) {
@@ -120,6 +141,7 @@ void DesktopWindows::unload(Window& window) {
   const auto found = forms_.find(&window);
   if (found == forms_.end()) return;
   const bool wasMain = found->second->isMain();
+  if (wasMain) state_.keep(found->second->widget());
   forms_.erase(found);
   if (wasMain) QCoreApplication::quit();
 }

@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "WindowHost.h"
+#include "WindowState.h"
 
 namespace tracewell {
 
@@ -15,7 +16,8 @@ class Control;
 /// kept until the window is unloaded.
 class DesktopWindows : public WindowHost {
  public:
-  DesktopWindows();
+  /// The main window is remembered in the folder.
+  explicit DesktopWindows(const std::filesystem::path& programFolder);
   ~DesktopWindows() override;
 
   void showModal(Window& window) override;
@@ -35,6 +37,7 @@ class DesktopWindows : public WindowHost {
   Form& formOf(Window& window);
   QWidget* mainForm() const;
 
+  WindowState state_;
   std::map<Window*, std::unique_ptr<Form>> forms_;
 };
 

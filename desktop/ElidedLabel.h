@@ -11,10 +11,11 @@ class ElidedLabel : public QLabel {
 
  public:
   explicit ElidedLabel(QWidget* parent = nullptr);
-  QSize sizeHint() const override { return {0, fontMetrics().height() + 2}; }
+  QSize sizeHint() const override { return {0, QLabel::sizeHint().height()}; }
   QSize minimumSizeHint() const override { return sizeHint(); }
 
  protected:
+  bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 };
 

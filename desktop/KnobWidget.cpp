@@ -44,8 +44,16 @@ QPointF KnobWidget::centre() const {
   return {width() / 2.0, height() / 2.0 + radius() * 0.12};
 }
 
+qreal KnobWidget::scale() const {
+  return qBound(1.0, qMin(width() / 200.0, height() / 190.0), 1.6);
+}
+
 qreal KnobWidget::radius() const {
-  return qMin(width() / 2.0 - 30, height() / 2.0 - 14) * 0.86;
+  return qMin(width() / 2.0 - 30 * scale(), height() / 2.0 - 14 * scale()) * 0.86;
+}
+
+QPointF KnobWidget::gap() const {
+  return pointAt(270, radius() + 9);
 }
 
 qreal KnobWidget::angleOf(int detent) const {
@@ -94,21 +102,23 @@ void KnobWidget::paintEvent(QPaintEvent*) {
 
 void KnobWidget::paintDetents(QPainter& painter) {
   QFont font = painter.font();
-  font.setPointSizeF(qMax(6.5, font.pointSizeF() * 0.78));
+  font.setPointSizeF(qMax(6.5, font.pointSizeF() * 0.78 * scale()));
   painter.setFont(font);
   for (int detent = 0; detent < captions_.size(); ++detent) {
     const bool isChosen = detent == value_;
     QColor colour = isChosen ? accent_ : palette().color(QPalette::WindowText);
-    if (!isChosen) colour.setAlphaF(0.6F);
+    if (!isChosen) colour.setAlphaF(0.75F);
     painter.setPen(QPen(colour, isChosen ? 2 : 1));
-    painter.drawLine(pointAt(angleOf(detent), radius() + 4),
-                     pointAt(angleOf(detent), radius() + 8));
+    painter.drawLine(pointAt(angleOf(detent), radius() + 4 * scale()),
+                     pointAt(angleOf(detent), radius() + 8 * scale()));
     // Beside the chosen caption there is no room for its neighbours.
     const bool isCrowded =
         captions_.size() > mostCaptions && !isChosen && qAbs(detent - value_) < 2;
     if (!hasCaption(detent) || isCrowded) continue;
-    const QPointF at = pointAt(angleOf(detent), radius() + 19);
-    painter.drawText(QRectF(at.x() - 24, at.y() - 9, 48, 18), Qt::AlignCenter, captions_[detent]);
+    const QPointF at = pointAt(angleOf(detent), radius() + 19 * scale());
+    const QSizeF room = QSizeF(48, 18) * scale();
+    painter.drawText(QRectF(at - QPointF(room.width(), room.height()) / 2, room), Qt::AlignCenter,
+                     captions_[detent]);
   }
 }
 

@@ -25,6 +25,9 @@ class KnobWidget : public QWidget {
   QColor accent() const { return accent_; }
   void setAccent(const QColor& accent);
 
+  /// Middle of the room below the cap, between the first detent and the last.
+  QPointF gap() const;
+
   QSize sizeHint() const override { return {168, 150}; }
   QSize minimumSizeHint() const override { return {128, 116}; }
 
@@ -40,6 +43,8 @@ class KnobWidget : public QWidget {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  /// How much larger than at its usual size it is drawn, captions included.
+  qreal scale() const;
   QPointF centre() const;
   qreal radius() const;
   /// Direction of a detent from the centre, in degrees counter-clockwise from three o'clock.

@@ -16,6 +16,7 @@ constexpr qreal pointerLength = 11;
 constexpr qreal pointerWidth = 20;
 /// A mark at each whole number, as long as they are not more than so many.
 constexpr double mostMarks = 20;
+constexpr int numberWidth = 24;
 
 }  // namespace
 
@@ -41,6 +42,12 @@ void SlideWidget::setAccent(const QColor& accent) {
   update();
 }
 
+void SlideWidget::setNumbered(bool isNumbered) {
+  isNumbered_ = isNumbered;
+  updateGeometry();
+  update();
+}
+
 void SlideWidget::setOrientation(Qt::Orientation orientation) {
   orientation_ = orientation;
   if (isVertical())
@@ -51,11 +58,17 @@ void SlideWidget::setOrientation(Qt::Orientation orientation) {
 }
 
 QSize SlideWidget::sizeHint() const {
-  return isVertical() ? QSize(44, 150) : QSize(150, 34);
+  return isVertical() ? QSize(thickness(), 150) : QSize(150, 34);
 }
 
 QSize SlideWidget::minimumSizeHint() const {
-  return isVertical() ? QSize(44, 90) : QSize(90, 34);
+  return isVertical() ? QSize(thickness(), 90) : QSize(90, 34);
+}
+
+/// The numbers stand on one side only: as much is left free on the other, so that the track keeps
+/// to the middle.
+int SlideWidget::thickness() const {
+  return 44 + (isNumbered_ ? 2 * numberWidth : 0);
 }
 
 qreal SlideWidget::positionOf(double value) const {
@@ -82,18 +95,18 @@ void SlideWidget::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   const QColor text = palette().color(QPalette::WindowText);
-  const QColor groove = palette().color(QPalette::Base);
-  painter.setPen(QPen(groove.darker(130), 6, Qt::SolidLine, Qt::RoundCap));
+  painter.setPen(QPen(palette().color(QPalette::Mid), 6, Qt::SolidLine, Qt::RoundCap));
   painter.drawLine(pointAt(positionOf(minimum_), 0), pointAt(positionOf(maximum_), 0));
   const double spacing = maximum_ - minimum_ > mostMarks ? (maximum_ - minimum_) / 10 : 1;
   const int marks = static_cast<int>((maximum_ - std::ceil(minimum_)) / spacing) + 1;
   for (int i = 0; i < marks; ++i) {
     const double mark = std::ceil(minimum_) + i * spacing;
     QColor colour = text;
-    colour.setAlphaF(mark == 0 ? 0.95F : 0.45F);
+    colour.setAlphaF(mark == 0 ? 0.95F : 0.65F);
     painter.setPen(QPen(colour, mark == 0 ? 2 : 1));
     const qreal end = mark == 0 ? 20 : 15;
     painter.drawLine(pointAt(positionOf(mark), 12), pointAt(positionOf(mark), end));
+    if (isNumbered_) paintNumber(painter, mark);
   }
   const QPointF centre = pointAt(positionOf(value_), 0);
   const QSizeF size =
@@ -104,6 +117,13 @@ void SlideWidget::paintEvent(QPaintEvent*) {
   painter.setPen(hasFocus() ? QPen(palette().color(QPalette::Highlight), 2)
                             : QPen(accent_.darker(160), 1));
   painter.drawRoundedRect(pointer, 3, 3);
+}
+
+void SlideWidget::paintNumber(QPainter& painter, double mark) {
+  const QPointF at = pointAt(positionOf(mark), 24);
+  painter.setPen(palette().color(QPalette::WindowText));
+  painter.drawText(QRectF(at.x(), at.y() - 8, numberWidth, 16), Qt::AlignLeft | Qt::AlignVCenter,
+                   QString::number(mark));
 }
 
 void SlideWidget::moveTo(double value) {

@@ -13,6 +13,7 @@ namespace tracewell {
 class SlideWidget : public QWidget {
   Q_OBJECT
   Q_PROPERTY(QColor accent READ accent WRITE setAccent)
+  Q_PROPERTY(bool isNumbered READ isNumbered WRITE setNumbered)
   Q_PROPERTY(Qt::Orientation orientation READ orientation WRITE setOrientation)
 
  public:
@@ -24,6 +25,9 @@ class SlideWidget : public QWidget {
   double value() const { return value_; }
   QColor accent() const { return accent_; }
   void setAccent(const QColor& accent);
+  /// A vertical slide has its numbers beside its marks.
+  bool isNumbered() const { return isNumbered_; }
+  void setNumbered(bool isNumbered);
   Qt::Orientation orientation() const { return orientation_; }
   void setOrientation(Qt::Orientation orientation);
 
@@ -46,6 +50,8 @@ class SlideWidget : public QWidget {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  int thickness() const;
+  void paintNumber(QPainter& painter, double mark);
   bool isVertical() const { return orientation_ == Qt::Vertical; }
   /// Pixels along the slide.
   qreal positionOf(double value) const;
@@ -60,6 +66,7 @@ class SlideWidget : public QWidget {
   WheelTravel wheel_;
   double value_ = 0;
   QColor accent_{Qt::white};
+  bool isNumbered_ = false;
   Qt::Orientation orientation_ = Qt::Vertical;
   bool isDragged_ = false;
 };

@@ -4,7 +4,8 @@
 #include <QFile>
 #include <QIcon>
 #include <QPalette>
-#include <QStyleFactory>
+
+#include "PanelStyle.h"
 
 /// Qt leaves the resources of a static library out unless they are asked for, outside any
 /// namespace.
@@ -16,15 +17,15 @@ namespace tracewell {
 namespace {
 
 struct Colours {
-  QColor window, panel, button, base, text, dimmed, highlight;
+  QColor window, panel, button, base, text, dimmed, outline, highlight;
 };
 
 const Colours dark = {QColor(0x1b, 0x1e, 0x22), QColor(0x24, 0x28, 0x2e), QColor(0x48, 0x50, 0x5a),
                       QColor(0x38, 0x3f, 0x48), QColor(0xdd, 0xe3, 0xe8), QColor(0x7c, 0x85, 0x8e),
-                      QColor(0x4f, 0x9c, 0xd8)};
+                      QColor(0x8c, 0x95, 0x9e), QColor(0x4f, 0x9c, 0xd8)};
 const Colours light = {QColor(0xe9, 0xec, 0xef), QColor(0xf7, 0xf8, 0xf9), QColor(0xdd, 0xe1, 0xe6),
                        QColor(0xff, 0xff, 0xff), QColor(0x1c, 0x22, 0x28), QColor(0x8b, 0x93, 0x9b),
-                       QColor(0x1d, 0x6f, 0xb8)};
+                       QColor(0x78, 0x80, 0x88), QColor(0x1d, 0x6f, 0xb8)};
 
 QPalette paletteOf(const Colours& colours) {
   QPalette palette;
@@ -38,9 +39,10 @@ QPalette paletteOf(const Colours& colours) {
   palette.setColor(QPalette::ToolTipBase, colours.panel);
   palette.setColor(QPalette::ToolTipText, colours.text);
   palette.setColor(QPalette::PlaceholderText, colours.dimmed);
-  palette.setColor(QPalette::Mid, colours.dimmed);
+  palette.setColor(QPalette::Mid, colours.outline);
   palette.setColor(QPalette::Highlight, colours.highlight);
-  palette.setColor(QPalette::HighlightedText, Qt::white);
+  const bool isPale = colours.highlight.lightness() > 140;
+  palette.setColor(QPalette::HighlightedText, isPale ? Qt::black : Qt::white);
   for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
     palette.setColor(QPalette::Disabled, role, colours.dimmed);
   return palette;
@@ -61,7 +63,7 @@ void applyTheme(QApplication& application) {
   initResources();
   QApplication::setWindowIcon(QIcon(QStringLiteral(":/tracewell.png")));
   const bool isDark = QApplication::palette().color(QPalette::Window).lightness() < 128;
-  QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  QApplication::setStyle(new PanelStyle);
   QApplication::setPalette(paletteOf(isDark ? dark : light));
   application.setStyleSheet(styleSheet(isDark ? QStringLiteral("dark") : QStringLiteral("light")));
 }

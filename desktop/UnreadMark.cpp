@@ -3,23 +3,31 @@
 
 #include <QAbstractButton>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QEvent>
 #include <QPainter>
 #include <algorithm>
 
 #include "DesktopWords.h"
+#include "KnobWidget.h"
 
 namespace tracewell {
 namespace {
 
 constexpr int side = 13;
 
+QString meaning() {
+  return QCoreApplication::translate("Panel", "The instrument has not told this value");
+}
+
 }  // namespace
 
 void UnreadMark::show(QWidget& marked, bool isUnread) {
   auto* mark = marked.findChild<UnreadMark*>(QString(), Qt::FindDirectChildrenOnly);
-  if (mark == nullptr && isUnread) mark = new UnreadMark(marked);
-  if (mark != nullptr) mark->setVisible(isUnread);
+  if (mark == nullptr && !isUnread) return;
+  marked.setAccessibleDescription(isUnread ? meaning() : QString());
+  if (mark == nullptr) mark = new UnreadMark(marked);
+  mark->setVisible(isUnread);
 }
 
 UnreadMark::UnreadMark(QWidget& marked) : QWidget(&marked) {
@@ -36,7 +44,7 @@ void UnreadMark::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
-  painter.setBrush(QColor(0xc7, 0x78, 0x00));
+  painter.setBrush(QColor(0xa3, 0x5f, 0x00));
   painter.drawEllipse(rect());
   QFont bold = font();
   bold.setBold(true);
@@ -56,7 +64,9 @@ void UnreadMark::toPlace() {
   const int middle = (marked.height() - height()) / 2;
   const int right = marked.width() - width();
   constexpr int arrow = 22;
-  if (qobject_cast<const QComboBox*>(&marked) != nullptr)
+  if (const auto* knob = qobject_cast<const KnobWidget*>(&marked))
+    move(knob->gap().toPoint() - rect().center());
+  else if (qobject_cast<const QComboBox*>(&marked) != nullptr)
     move(right - arrow, middle);
   else if (qobject_cast<const QAbstractButton*>(&marked) != nullptr)
     move(std::min(right, marked.sizeHint().width() + 2), middle);

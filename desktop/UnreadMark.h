@@ -6,7 +6,8 @@
 namespace tracewell {
 
 /// A question mark on a widget whose value the instrument has not told: behind the words of a
-/// button, in front of the arrow of a box with a list, otherwise in the upper right corner.
+/// button, in front of the arrow of a box with a list, in the gap of a knob's scale, otherwise in
+/// the upper right corner. Screen readers hear it as the widget's description.
 class UnreadMark : public QWidget {
   Q_OBJECT
 

@@ -18,6 +18,7 @@ inline constexpr std::uintmax_t description = 256 * kibibyte;
 inline constexpr std::uintmax_t errorLog = 1024 * kibibyte;
 inline constexpr std::uintmax_t picture = kibibyte * 1024 * 32;
 inline constexpr std::uintmax_t shippedVersion = kibibyte;
+inline constexpr std::uintmax_t windowState = kibibyte;
 /// One of the files that come with the program, whatever its kind.
 inline constexpr std::uintmax_t shipped = picture;
 

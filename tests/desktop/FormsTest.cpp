@@ -7,12 +7,15 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
+#include <QScrollArea>
 #include <QTest>
+#include <QTimer>
 #include <QTreeWidget>
 #include <algorithm>
 #include <ctime>
 
 #include "DesktopProgram.h"
+#include "DesktopWindows.h"
 #include "GraphView.h"
 #include "MainFormTest.h"
 #include "ProgramFolder.h"
@@ -73,10 +76,9 @@ TEST_F(FormsTest, EveryWindowFitsASmallScreenInEveryLanguageWithNothingCut) {
     main.cmdStart.caption = main.Msg[3];
     main.lblTest.visible = true;
     QApplication::processEvents();
-    form->resize(1280, 800);
+    form->resize(1024, 700);
     QApplication::processEvents();
-    EXPECT_LE(form->minimumSizeHint().width(), 1280);
-    EXPECT_LE(form->minimumSizeHint().height(), 800);
+    EXPECT_EQ(find("central")->size(), find<QScrollArea>("view")->viewport()->size());
     EXPECT_EQ(cutTexts(*form), Lines());
     EXPECT_FALSE(isShortened(*form));
     forEachDialog([](Window&, QWidget& dialog) {
@@ -86,7 +88,8 @@ TEST_F(FormsTest, EveryWindowFitsASmallScreenInEveryLanguageWithNothingCut) {
       QApplication::processEvents();
       EXPECT_EQ(cutTexts(dialog), Lines());
       EXPECT_FALSE(isShortened(dialog));
-      EXPECT_LE(dialog.height(), 760);
+      EXPECT_LE(dialog.width(), 1024);
+      EXPECT_LE(dialog.height(), 660);
     });
   }
 }
@@ -199,6 +202,69 @@ TEST_F(FormsTest, FocusChoosesNothing) {
     QTest::keyClick(tree, Qt::Key_Home);
     EXPECT_EQ(program.console.txtCmd.text(), " Channel 1");
   });
+}
+
+/// What "Average" opens is to be seen before the dialog goes; the next Enter is the dialog's.
+TEST_F(FormsTest, EnterOnATypedModeTakesItAndNoMore) {
+  const auto dialog = makeForm("frmAcq", nullptr);
+  frmAcq& window = program.acquire;
+  bindControls(window, *dialog);
+  int presses = 0;
+  window.cmdOK.click = [&] { ++presses; };
+  dialog->show();
+  auto* mode = dialog->findChild<QComboBox*>(QStringLiteral("cbMode"));
+  mode->lineEdit()->selectAll();
+  QTest::keyClicks(mode->lineEdit(), QStringLiteral("Average"));
+  EXPECT_NE(window.cbMode.text(), "Average");
+  QTest::keyClick(mode->lineEdit(), Qt::Key_Return);
+  EXPECT_EQ(window.cbMode.text(), "Average");
+  EXPECT_TRUE(window.cbAverage.visible());
+  EXPECT_EQ(presses, 0);
+  QTest::keyClick(mode->lineEdit(), Qt::Key_Return);
+  EXPECT_EQ(presses, 1);
+  unbindControls(window);
+}
+
+TEST_F(FormsTest, DialogBeginsWithItsFirstBoxAtEachOpening) {
+  DesktopWindows screen(folder.path());
+  for (int i = 0; i < 2; ++i) {
+    QTimer::singleShot(0, [&] {
+      QWidget* first = screen.widgetOf(program.rs232.cbRS232(0));
+      EXPECT_EQ(first->window()->focusWidget(), first);
+      screen.widgetOf(program.rs232.cmdCancel)->setFocus();
+      screen.hide(program.rs232);
+    });
+    screen.showModal(program.rs232);
+  }
+}
+
+TEST_F(FormsTest, UnreadValueIsMarkedForEyesAndScreenReaders) {
+  main.knobTime.isUnread = true;
+  QWidget* knob = find("knobTime");
+  const auto description = [knob] {
+    return QAccessible::queryAccessibleInterface(knob)->text(QAccessible::Description);
+  };
+  const QString marked = description();
+  const QRect mark = knob->findChild<QWidget*>()->geometry();
+  EXPECT_TRUE(knob->rect().contains(mark));
+  EXPECT_LT(qAbs(mark.center().x() - knob->rect().center().x()), 3);
+  main.knobTime.isUnread = false;
+  EXPECT_NE(marked, description());
+}
+
+/// The shortcuts of the menu work there, too, but for those that edit the line.
+TEST_F(FormsTest, CommandLineKeepsTheKeysThatEditIt) {
+  form->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
+  auto* line = find<QLineEdit>("txtTest");
+  line->setFocus();
+  QTest::keyClick(line, Qt::Key_A, Qt::ControlModifier);
+  QTest::keyClick(line, Qt::Key_R, Qt::ControlModifier);
+  EXPECT_EQ(std::exchange(windows.shown, {}), (Lines{"frmAcq", "frmRS232"}));
+  QTest::keyClicks(line, QStringLiteral("*IDN?"));
+  QTest::keyClick(line, Qt::Key_A, Qt::ControlModifier);
+  EXPECT_EQ(line->selectedText(), QStringLiteral("*IDN?"));
+  EXPECT_TRUE(windows.shown.empty());
 }
 
 TEST_F(FormsTest, ListKeepsTheEntryThatTheProgramGoesBackTo) {

@@ -156,7 +156,7 @@ TEST_F(HostileTextTest, EveryWindowShowsItHarmlesslyAndAtOnce) {
       SCOPED_TRACE(window->name());
       window->caption = text;
       for (Control* control : window->controls()) fill(*control, text);
-      DesktopWindows screen;
+      DesktopWindows screen(folder.path());
       QWidget* widget = nullptr;
       const auto show = [&] {
         screen.show(*window);

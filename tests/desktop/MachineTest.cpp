@@ -3,12 +3,16 @@
 #include <QColorDialog>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QProcess>
+#include <QScreen>
 #include <QTimer>
 
 #include "DesktopDialogs.h"
+#include "DesktopProgram.h"
 #include "Doubles.h"
 #include "PortDirectory.h"
 #include "QtValues.h"
+#include "WindowState.h"
 
 namespace tracewell {
 namespace {
@@ -39,13 +43,62 @@ TEST(PortDirectory, NumbersMeanDevicesUnlessALinkInTheProgramFolderSaysOtherwise
     const auto ports = directory.ports();
     return std::ranges::count(ports, number, &PortList::Entry::number) == 1;
   };
+  using State = PortList::State;
   EXPECT_TRUE(isListed(0));
   EXPECT_FALSE(isListed(34));
-  fs::create_directory(folder.path() / "device");
+  EXPECT_EQ(directory.stateOf(34), State::absent);
+  writeWholeFile(folder.path() / "device", "");
   EXPECT_TRUE(isListed(34));
+  EXPECT_EQ(directory.stateOf(34), State::ready);
+  {
+    QProcess other;
+    other.setStandardInputFile(toQt(folder.path() / "device"));
+    other.start(QStringLiteral("sleep"), {QStringLiteral("60")});
+    ASSERT_TRUE(other.waitForStarted());
+    EXPECT_EQ(directory.stateOf(34), State::inUseElsewhere);
+    other.kill();
+    other.waitForFinished();
+  }
+  fs::remove(link);
+  EXPECT_EQ(directory.deviceOf(34), link.string());
+  EXPECT_EQ(directory.stateOf(34), State::absent);
   EXPECT_NE(directory.open({.portNumber = 0}), nullptr);
   EXPECT_THROW(directory.open({.portNumber = 34}), Error);
   EXPECT_THROW(directory.open({.portNumber = 97}), Error);
+}
+
+TEST(WindowState, WindowComesBackWhereItWasIfThatIsOnAScreen) {
+  const ProgramFolderCopy folder;
+  const fs::path file = folder.path() / "window.state";
+  const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+  const QSize most = screen.size().boundedTo({1280, 800});
+  const std::pair<const char*, QRect> cases[] = {{"60,70,500,400,0\r\n", {60, 70, 500, 400}},
+                                                 {"60,70,500,400,1\r\n", {60, 70, 500, 400}},
+                                                 {"9000,-700,500,400,0\r\n", {}},
+                                                 {"60,70,0,400,0\r\n", {}},
+                                                 {"60,70,99999,99999,0\r\n", {}},
+                                                 {"60,70,500,400,0\r\n\r\n", {}},
+                                                 {"60,70,999999999999,400,0\r\n", {}},
+                                                 {"", {}}};
+  for (const auto& [content, place] : cases) {
+    SCOPED_TRACE(content);
+    writeWholeFile(file, content);
+    QWidget window;
+    WindowState(folder.path()).restore(window);
+    EXPECT_TRUE(screen.contains(window.frameGeometry()));
+    EXPECT_TRUE(!place.isValid() || window.geometry() == place);
+    EXPECT_LE(window.width(), most.width());
+    EXPECT_EQ(window.isMaximized(), std::string(content).ends_with(",1\r\n"));
+  }
+  // Kept by the program itself at its end.
+  {
+    DesktopProgram desktop(folder.path());
+    ASSERT_TRUE(desktop.start());
+    QWidget* window = desktop.windows.widgetOf(desktop.program.main.graphDSO)->window();
+    window->setGeometry(30, 50, 640, 480);
+    desktop.program.main.closeForGood();
+  }
+  EXPECT_EQ(contentOf(file), "30,50,640,480,0\r\n");
 }
 
 /// Does so with the dialog that is opened next.

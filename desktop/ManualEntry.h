@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QAction>
+#include <QMenu>
+
+namespace tracewell {
+
+/// The manual where the program has been installed, unpacked or built; empty if there is none.
+QString manualFile(const QString& executableFolder);
+
+/// Opens the manual, which also lists the keys, with whatever shows such files here. The caption
+/// files do not name it: it is no control of the main window.
+class ManualEntry : public QAction {
+  Q_OBJECT
+
+ public:
+  explicit ManualEntry(QMenu& menu);
+
+ private:
+  void showState();
+};
+
+}  // namespace tracewell

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "PanelStyle.h"
+
+#include <QPainter>
+#include <QStyleOption>
+
+namespace tracewell {
+namespace {
+
+/// Radius of the corners of Fusion's boxes.
+constexpr qreal corner = 2;
+
+void outline(QPainter& painter, const QStyleOption& option, bool isRound = false) {
+  const bool isFocused = option.state & QStyle::State_HasFocus;
+  const QRectF line = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setBrush(Qt::NoBrush);
+  painter.setPen(option.palette.color(isFocused ? QPalette::Highlight : QPalette::Mid));
+  if (isRound)
+    painter.drawEllipse(line);
+  else
+    painter.drawRoundedRect(line, corner, corner);
+  painter.restore();
+}
+
+}  // namespace
+
+PanelStyle::PanelStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+void PanelStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
+                               QPainter* painter, const QWidget* widget) const {
+  QProxyStyle::drawPrimitive(element, option, painter, widget);
+  const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
+  const bool hasFrame = frame == nullptr || frame->lineWidth > 0;
+  switch (element) {
+    case PE_IndicatorCheckBox:
+    case PE_PanelButtonCommand:
+      return outline(*painter, *option);
+    case PE_IndicatorRadioButton:
+      return outline(*painter, *option, true);
+    case PE_PanelLineEdit:
+      if (hasFrame) outline(*painter, *option);
+      return;
+    default:
+      return;
+  }
+}
+
+void PanelStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                    QPainter* painter, const QWidget* widget) const {
+  QProxyStyle::drawComplexControl(control, option, painter, widget);
+  if (control == CC_ComboBox) outline(*painter, *option);
+}
+
+}  // namespace tracewell

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QProxyStyle>
+
+namespace tracewell {
+
+/// Fusion, whose outlines are shades of the window's colour and vanish on a dark panel: boxes that
+/// can be ticked, chosen, typed into and pressed are outlined in the palette's Mid.
+class PanelStyle : public QProxyStyle {
+  Q_OBJECT
+
+ public:
+  PanelStyle();
+
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
+  void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                          QPainter* painter, const QWidget* widget) const override;
+};
+
+}  // namespace tracewell
