@@ -6,6 +6,7 @@
 #include <QDialog>
 #include <QMainWindow>
 #include <QMenuBar>
+#include <QRadioButton>
 #include <QShortcut>
 
 #include "Binder.h"
@@ -20,12 +21,20 @@
 namespace tracewell {
 namespace {
 
+/// Of options the chosen one.
+QWidget& chosenLike(QWidget& stop) {
+  if (qobject_cast<QRadioButton*>(&stop) == nullptr) return stop;
+  for (auto* option : stop.parentWidget()->findChildren<QRadioButton*>())
+    if (option->isChecked() && option->isEnabled()) return *option;
+  return stop;
+}
+
 /// Where the user begins, whatever had the focus when the form was last closed.
 void focusFirst(QWidget& form) {
   for (QWidget* next = form.nextInFocusChain(); next != &form; next = next->nextInFocusChain()) {
     const bool isStop = (next->focusPolicy() & Qt::TabFocus) != 0 && next->isEnabledTo(&form);
     if (isStop && next->isVisibleTo(&form) && next->focusProxy() == nullptr)
-      return next->setFocus(Qt::TabFocusReason);
+      return chosenLike(*next).setFocus(Qt::TabFocusReason);
   }
 }
 

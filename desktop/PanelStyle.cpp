@@ -16,7 +16,8 @@ void outline(QPainter& painter, const QStyleOption& option, bool isRound = false
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setBrush(Qt::NoBrush);
-  painter.setPen(option.palette.color(isFocused ? QPalette::Highlight : QPalette::Mid));
+  painter.setPen(isFocused ? QPen(option.palette.color(QPalette::Highlight), 2)
+                           : QPen(option.palette.color(QPalette::Mid), 1));
   if (isRound)
     painter.drawEllipse(line);
   else
