@@ -93,6 +93,17 @@ std::string incremented(std::string digits) {
   return "1" + digits;
 }
 
+/// What a reader of the number takes it for: 0.015 - 0.01 is 0.005, and 1.005 has a 5 at its end.
+double atFifteenDigits(double value) {
+  NumberBuffer buffer;
+  char* const start = buffer.data();
+  const char* const end =
+      std::to_chars(start, start + buffer.size(), value, std::chars_format::scientific, 14).ptr;
+  double rounded = 0;
+  std::from_chars(start, end, rounded);
+  return rounded;
+}
+
 }  // namespace
 
 std::int16_t toInt16(double value) {
@@ -170,18 +181,17 @@ std::string formatExponent(double value) {
 }
 
 std::string formatTwoDecimals(double value) {
-  // Rounding the shortest decimal text, not the binary value, makes 1.005 the 1.01 that a reader
-  // of the number expects.
-  std::string digits = numberText(std::fabs(checked(value)));
-  const std::size_t point = digits.find('.');
-  if (point == std::string::npos) {
-    digits += ".00";
-  } else {
-    const std::size_t end = point + 3;
-    const bool roundUp = digits.size() > end && digits[end] >= '5';
-    digits.resize(end, '0');
-    if (roundUp) digits = incremented(digits);
-  }
+  return formatDecimals(value, 2);
+}
+
+std::string formatDecimals(double value, int decimals) {
+  std::string digits = numberText(atFifteenDigits(std::fabs(checked(value))));
+  if (digits.find('.') == std::string::npos) digits += '.';
+  const std::size_t end = digits.find('.') + 1 + static_cast<std::size_t>(decimals);
+  const bool roundUp = digits.size() > end && digits[end] >= '5';
+  digits.resize(end, '0');
+  if (roundUp) digits = incremented(digits);
+  if (decimals == 0) digits.pop_back();
   const bool isZero = digits.find_first_not_of("0.") == std::string::npos;
   return value < 0 && !isZero ? "-" + digits : digits;
 }

@@ -39,8 +39,11 @@ std::string_view trimBlanks(std::string_view text);
 
 /// Pattern "0.###########E-": 0.4 is "4E-1", -3 is "-3E0", 0.125 is "1.25E-1", 0 is "0E0".
 std::string formatExponent(double value);
-/// Pattern "0.00": two decimals, half away from zero, never "-0.00".
+/// Pattern "0.00": two decimals of the number at 15 significant digits, half away from zero, never
+/// "-0.00".
 std::string formatTwoDecimals(double value);
+/// The same with so many decimals; none leaves the point out.
+std::string formatDecimals(double value, int decimals);
 /// The shortest decimal text that reads back as the same number, without an exponent.
 std::string numberText(double value);
 
