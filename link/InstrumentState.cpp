@@ -78,6 +78,7 @@ void InstrumentState::showScale(ScaleKnob kind, ValueLabel& label, Knob& knob) {
   label.isUnread = label.caption().empty();
   knob.isUnread = !step;
   label.refresh();
+  UpdateTriggerMarker(main_);
   if (step) knob.value = *step;
 }
 
@@ -96,6 +97,7 @@ void InstrumentState::markAllUnread() {
            &main_.lblChan1, &main_.lblChan2, &main_.lblTime, &main_.knobChan1, &main_.knobChan2,
            &main_.knobTime, &main_.slideCH1, &main_.slideCH2})
     control->isUnread = true;
+  main_.graphDSO.notifyChanged();
 }
 
 /// A second reply counts as it stands.

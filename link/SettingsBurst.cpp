@@ -6,23 +6,28 @@
 
 namespace tracewell {
 
-void SettingsBurst::writeAndVerify(const std::string& name, std::span<const std::string_view> stems,
-                                   int row, int first) {
+std::vector<bool> SettingsBurst::writeAndVerify(const std::string& name,
+                                                std::span<const std::string_view> stems, int row,
+                                                int first) {
   main_.refresh();
   const ShortTimeOut shortTimeOut(main_);
   main_.txtMsg.text = "";
   const int count = static_cast<int>(stems.size());
+  std::vector<bool> areTaken;
   Inquiry inquiry(exchange_.inquiries(), name, Inquiry::Of::settings, count - first);
   for (int i = first; i < count; ++i) {
     inquiry.next();
+    bool isRight = false;
     bool isDone = false;
     for (int attempt = 0; attempt < attempts && !isDone; ++attempt) {
-      const bool isRight = isAccepted(std::string(stems[static_cast<std::size_t>(i)]), row,
-                                      SetupTable::firstValue + i);
+      isRight = isAccepted(std::string(stems[static_cast<std::size_t>(i)]), row,
+                           SetupTable::firstValue + i);
       inquiry.note(isRight);
       isDone = isRight || inquiry.isGivenUp();
     }
+    areTaken.push_back(isRight);
   }
+  return areTaken;
 }
 
 bool SettingsBurst::isAccepted(const std::string& stem, int row, int column) {

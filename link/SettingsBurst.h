@@ -4,6 +4,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "CommandExchange.h"
 
@@ -22,8 +23,9 @@ class SettingsBurst {
   /// follows without a word. The reply box shows every line as it goes out. Replies are given
   /// the short time-out meanwhile. Throws ProgramEnded when the window is closed in between.
   /// `name` is what the status line calls them. After Escape each is written once, unverified.
-  void writeAndVerify(const std::string& name, std::span<const std::string_view> stems, int row,
-                      int first);
+  /// Returns for each whether the instrument has it.
+  std::vector<bool> writeAndVerify(const std::string& name, std::span<const std::string_view> stems,
+                                   int row, int first);
 
  private:
   static constexpr int attempts = 3;

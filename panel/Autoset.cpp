@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Autoset.h"
 
+#include "TriggerMarker.h"
 #include "Waiting.h"
 
 namespace tracewell {
@@ -20,6 +21,7 @@ void Autoset::cmdAutoset_Click() {
     message_.show();
     acquisition_.StopAcq();
     exchange_.SendDSOCmd(":AUT");
+    forgetWhatItSets();
     message_.showProgress(duration);
     Delay(main_, duration);
     instrument_.InitDSO();
@@ -30,6 +32,14 @@ void Autoset::cmdAutoset_Click() {
     message_.hide();
     errorLog_.ErrLog(error, "cmdAutoset_Click : ");
   }
+}
+
+/// Reading the instrument does not ask for these.
+void Autoset::forgetWhatItSets() {
+  main_.TriggerLevelSet = false;
+  main_.TriggerSource.reset();
+  main_.MathEntry.reset();
+  UpdateTriggerMarker(main_);
 }
 
 }  // namespace tracewell

@@ -19,6 +19,8 @@ class Autoset {
   void cmdAutoset_Click();
 
  private:
+  void forgetWhatItSets();
+
   frmDSO& main_;
   CommandExchange& exchange_;
   ErrorLog& errorLog_;

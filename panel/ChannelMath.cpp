@@ -14,7 +14,10 @@ constexpr std::array<const char*, 4> commands = {"CHAN1:MATH 1", "CHAN1:MATH 2",
 
 void ChannelMath::cbMath_Click() {
   const std::int16_t entry = main_.cbMath.listIndex();
-  if (entry != ComboBox::noEntry) exchange_.SendDSOCmd(commands.at(static_cast<unsigned>(entry)));
+  if (entry == ComboBox::noEntry) return;
+  exchange_.SendDSOCmd(commands.at(static_cast<unsigned>(entry)));
+  if (exchange_.wasSent()) main_.MathEntry = entry;
+  main_.graphDSO.notifyChanged();
 }
 
 }  // namespace tracewell

@@ -43,6 +43,8 @@ void TimeControls::slideTrig_PointerValueChanged() {
 
 void TimeControls::slideTrig_MouseUp() {
   exchange_.SendDSOCmd(":TRIG:LEV " + formatExponent(main_.slideTrig.value()));
+  main_.TriggerLevelSet = exchange_.wasSent();
+  UpdateTriggerMarker(main_);
 }
 
 }  // namespace tracewell

@@ -44,11 +44,19 @@ void frmTrig::cmdTrig_Click() {
     readAdvancedSettings();
   }
   showModal();
-  if (tag != "0") burst_.writeAndVerify(caption(), TrigQuery, SetupTable::trigger, 0);
+  if (tag != "0") sendSettings();
   if (tag == "2")
     burst_.writeAndVerify(fmAdv.caption(), TrigAdvQuery, SetupTable::advancedTrigger, 0);
   UpdateTriggerMarker(main_);
   acquisition_.RunAcq();
+}
+
+void frmTrig::sendSettings() {
+  const std::vector<bool> areTaken =
+      burst_.writeAndVerify(caption(), TrigQuery, SetupTable::trigger, 0);
+  main_.TriggerSource.reset();
+  if (areTaken.front())
+    main_.TriggerSource = main_.gridMeasure.number(SetupTable::trigger, SetupTable::firstValue);
 }
 
 /// Setting a box runs its click, so the instrument's values go into the table, too.
@@ -62,6 +70,8 @@ void frmTrig::readSettings() {
     cbTrig(i).listIndex = indexOf(reply, SetupTable::trigger, 2 + i);
     cbTrig(i).isUnread = !isNumeric(reply);
   }
+  main_.TriggerSource.reset();
+  if (!cbTrig(0).isUnread()) main_.TriggerSource = cbTrig(0).listIndex();
 }
 
 void frmTrig::readAdvancedSettings() {

@@ -31,6 +31,7 @@ class frmTrig : public Window {
 
  private:
   void readSettings();
+  void sendSettings();
   void readAdvancedSettings();
   bool isAdvanced() { return cbTrig(1).text() == "Advance"; }
   std::int16_t indexOf(const std::string& reply, int row, int column) const;

@@ -54,8 +54,14 @@ struct SharedState {
   /// x of each sample in graph units: -250 to 249.
   std::array<std::int16_t, sampleCount> XIndex{};
 
-  /// The user has set a trigger level; the instrument's own is not known.
+  /// The trigger level of the slide is the instrument's, or is being set: the instrument's own is
+  /// not read.
   bool TriggerLevelSet = false;
+  /// The trigger source that the instrument has told or taken, as its number in the trigger
+  /// dialog; none while that is not known.
+  std::optional<std::int16_t> TriggerSource;
+  /// The entry of the math box that the instrument has in force; none while that is not known.
+  std::optional<std::int16_t> MathEntry;
 
   /// Channel of the quick frequency measurement, 1 or 2.
   std::int16_t FMeasChan = 1;

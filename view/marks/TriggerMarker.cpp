@@ -9,14 +9,14 @@ namespace tracewell {
 namespace {
 
 /// Where the level lies on the trace of the trigger's source, in graph units; nothing for a source
-/// without a trace and for a scale that is not known.
+/// without a trace, and while source, scale or position are not known.
 std::optional<double> levelHeight(const frmDSO& main) {
-  const std::string& source = main.gridMeasure.text(SetupTable::trigger, SetupTable::firstValue);
-  const bool isSecond = source == "1";
-  if (!isSecond && source != "0") return std::nullopt;
+  const bool isSecond = main.TriggerSource == 1;
+  if (!isSecond && main.TriggerSource != 0) return std::nullopt;
   const ValueLabel& scale = isSecond ? main.lblChan2 : main.lblChan1;
+  const Slide& slide = isSecond ? main.slideCH2 : main.slideCH1;
   const double voltsPerDivision = ParseScaleCaption(scale.caption());
-  if (voltsPerDivision == 0) return std::nullopt;
+  if (voltsPerDivision == 0 || scale.isUnread() || slide.isUnread()) return std::nullopt;
   const double position = isSecond ? main.Ch2Pos : main.Ch1Pos;
   return Graph::unitsPerDivision * (main.slideTrig.value() / voltsPerDivision + position);
 }
@@ -29,6 +29,7 @@ void UpdateTriggerMarker(frmDSO& main) {
   marker.style = CursorStyle::marker;
   marker.visible = main.TriggerLevelSet && height.has_value();
   if (height) marker.yPosition = *height;
+  main.graphDSO.notifyChanged();
 }
 
 }  // namespace tracewell

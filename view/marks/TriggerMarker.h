@@ -6,8 +6,9 @@
 namespace tracewell {
 
 /// Puts the marker "Triger" at the height of the trigger level on the trace of the trigger's
-/// source. It stays hidden until a level has been set, since the instrument's own is not read, and
-/// while the source is no channel or its scale is not known. Called whenever one of these changes.
+/// source. Of both only what the instrument has counts: the marker is hidden while the level, the
+/// source, the scale or the position are not known, and for a source that is no channel. What the
+/// setup table holds is a choice, not a setting in force. Called whenever one of these changes.
 void UpdateTriggerMarker(frmDSO& main);
 
 }  // namespace tracewell
