@@ -2,6 +2,7 @@
 #include "KeptFiles.h"
 #include "LinkSettings.h"
 #include "PortNotice.h"
+#include "ScreenMarks.h"
 #include "StaleScales.h"
 #include "TraceAge.h"
 #include "Tracewell.h"
@@ -72,6 +73,8 @@ void Tracewell::connectView() {
   main.cmdCursor.click = [this] { cursors.cmdCursor_Click(); };
   main.graphDSO.cursorMoved = [this] { cursors.graphDSO_CursorMoved(); };
   main.graphDSO.enlargeToggled = [this] { graphSize.ToggleGraphSize(); };
+  main.graphDSO.marks = [this] { return screenMarks(main); };
+  main.graphDSO.valuesAt = [this](double x, double y) { return valuesAt(main, x, y); };
   main.cmdGraph.click = [this] { graphStyle.cmdGraph_Click(); };
   main.mnbGraph.click = [this] { graphStyle.cmdGraph_Click(); };
   main.cmdVMeasure.click = [this] { measurements.cmdVMeasure_Click(); };

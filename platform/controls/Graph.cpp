@@ -51,6 +51,10 @@ Graph::Graph(Window& owner, std::string_view name, const GraphParts& parts)
 }
 
 Plot& Graph::plot(int number) {
+  return const_cast<Plot&>(std::as_const(*this).plot(number));
+}
+
+const Plot& Graph::plot(int number) const {
   const auto index = static_cast<std::size_t>(number - 1);
   if (number < 1 || index >= plots_.size()) throw subscriptError();
   return plots_[index];
@@ -60,7 +64,15 @@ Axis& Graph::axis(std::string_view axisName) {
   return named(axes_, axisName);
 }
 
+const Axis& Graph::axis(std::string_view axisName) const {
+  return named(axes_, axisName);
+}
+
 Cursor& Graph::cursor(std::string_view cursorName) {
+  return named(cursors_, cursorName);
+}
+
+const Cursor& Graph::cursor(std::string_view cursorName) const {
   return named(cursors_, cursorName);
 }
 

@@ -9,6 +9,7 @@
 
 #include "Colour.h"
 #include "Control.h"
+#include "GraphMarks.h"
 
 namespace tracewell {
 
@@ -103,9 +104,12 @@ class Graph : public Control {
 
   /// Plots are numbered from 1. Raises "Subscript out of range".
   Plot& plot(int number);
+  const Plot& plot(int number) const;
   /// Raise "Subscript out of range" where nothing has that name.
   Axis& axis(std::string_view axisName);
+  const Axis& axis(std::string_view axisName) const;
   Cursor& cursor(std::string_view cursorName);
+  const Cursor& cursor(std::string_view cursorName) const;
 
   std::deque<Plot>& plots() { return plots_; }
   std::deque<Axis>& axes() { return axes_; }
@@ -115,6 +119,12 @@ class Graph : public Control {
   std::function<void()> letGo;
 
   Property<Colour> plotAreaColour;
+  /// What stands beside the traces now. The view asks whenever it paints, so it must not raise;
+  /// where it changes without a change of the graph, notifyChanged says so.
+  std::function<GraphMarks()> marks;
+  /// The same for what lies at a point in graph units, under the pointer.
+  std::function<std::vector<GraphMarks::Text>(double x, double y)> valuesAt;
+
   /// Shown in a corner, for instance that the trace is a simulated one; empty for nothing.
   Property<std::string> note{*this};
 

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace tracewell {
+
+/// What the screen shows on a graph beside its traces and cursors; pictures and paper do not have
+/// it. Texts are ready ones, heights are graph units.
+struct GraphMarks {
+  /// In the colour of the plot of that number, or in the graph's own for 0.
+  struct Text {
+    int plot = 0;
+    std::string text;
+    bool operator==(const Text&) const = default;
+  };
+  /// A flag at the left edge, or an arrow to what lies above or below the screen.
+  struct Side {
+    enum Direction { here, above, below };
+    int plot = 0;
+    Direction direction = here;
+    double height = 0;
+    std::string text;
+    bool operator==(const Side&) const = default;
+  };
+
+  std::vector<Side> sides;
+  /// Stand at the right ends of their traces.
+  std::vector<Text> names;
+  /// For the larger view, where the labels that show the scales are hidden.
+  std::vector<Text> scales;
+  /// Lines of the badge beside the cursors; none while there is nothing to tell.
+  std::vector<std::string> badge;
+};
+
+}  // namespace tracewell

@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ScreenMarks.h"
+
+#include <algorithm>
+
+#include "TrueUnits.h"
+
+namespace tracewell {
+namespace {
+
+using Side = GraphMarks::Side;
+
+/// A channel as far as it is known.
+struct ShownChannel {
+  int number;
+  bool isDisplayed;
+  const Plot& plot;
+  const ValueLabel& scale;
+  const CheckBox& box;
+  /// Height of its zero, in graph units.
+  std::optional<double> zero;
+  std::optional<double> voltsPerDivision;
+};
+
+ShownChannel channel(const frmDSO& main, int number) {
+  const bool isFirst = number == 1;
+  const ValueLabel& scale = isFirst ? main.lblChan1 : main.lblChan2;
+  const Slide& slide = isFirst ? main.slideCH1 : main.slideCH2;
+  const double position = isFirst ? main.Ch1Pos : main.Ch2Pos;
+  ShownChannel shown{number,      main.ChanOn[isFirst ? 0 : 1],      main.graphDSO.plot(number),
+                     scale,       isFirst ? main.cbCh1 : main.cbCh2, std::nullopt,
+                     std::nullopt};
+  if (!slide.isUnread()) shown.zero = position * Graph::unitsPerDivision;
+  if (!scale.isUnread()) shown.voltsPerDivision = trueScale(scale.caption(), "V");
+  return shown;
+}
+
+std::optional<double> secondsPerDivision(const frmDSO& main) {
+  if (main.lblTime.isUnread()) return std::nullopt;
+  return trueScale(main.lblTime.caption(), "s");
+}
+
+bool isShown(const Plot& plot) {
+  return plot.visible() && !plot.y().empty();
+}
+
+Side::Direction directionOf(double lowest, double highest, const Axis& axis) {
+  if (lowest > axis.maximum()) return Side::above;
+  return highest < axis.minimum() ? Side::below : Side::here;
+}
+
+/// The flag at the zero, and an arrow to a trace that has left the screen.
+void addSides(std::vector<Side>& sides, const ShownChannel& channel, const Axis& axis) {
+  if (!channel.isDisplayed || !isShown(channel.plot)) return;
+  const std::string text = std::to_string(channel.number);
+  Side::Direction zero = Side::here;
+  if (channel.zero) {
+    zero = directionOf(*channel.zero, *channel.zero, axis);
+    sides.push_back({channel.number, zero, *channel.zero, text});
+  }
+  const auto [lowest, highest] = std::ranges::minmax(channel.plot.y());
+  const Side::Direction trace = directionOf(lowest, highest, axis);
+  if (trace != Side::here && trace != zero) sides.push_back({channel.number, trace, lowest, text});
+}
+
+/// The instrument shows its math in the place of a channel: a sum or a difference in the first, the
+/// difference the other way round in the second.
+void addMathName(std::vector<GraphMarks::Text>& names, const frmDSO& main) {
+  const std::size_t off = main.cbMath.items().size() - 1;
+  if (!main.MathEntry || static_cast<std::size_t>(*main.MathEntry) >= off) return;
+  const int number = *main.MathEntry == 2 ? 2 : 1;
+  if (main.ChanOn[number == 1 ? 0 : 1] && isShown(main.graphDSO.plot(number)))
+    names.push_back({number, main.cbMath.items()[static_cast<std::size_t>(*main.MathEntry)]});
+}
+
+std::vector<std::string> badge(const frmDSO& main) {
+  const Cursor& cur1 = main.graphDSO.cursor("cur1");
+  const Cursor& cur2 = main.graphDSO.cursor("cur2");
+  if (main.opOff.value()) return {};
+  if (main.CursorTimeMode) {
+    const std::optional<double> scale = secondsPerDivision(main);
+    if (!scale) return {};
+    return timeBadge(*scale, cur1.xPosition(), cur2.xPosition());
+  }
+  const ShownChannel measured = channel(main, main.cbCurChan.text() == "1" ? 1 : 2);
+  if (!measured.voltsPerDivision) return {};
+  return voltageBadge(*measured.voltsPerDivision, measured.zero, cur1.yPosition(),
+                      cur2.yPosition());
+}
+
+}  // namespace
+
+GraphMarks screenMarks(const frmDSO& main) {
+  GraphMarks marks;
+  for (const int number : {1, 2}) {
+    const ShownChannel shown = channel(main, number);
+    addSides(marks.sides, shown, main.graphDSO.axis("YAxis-1"));
+    if (shown.isDisplayed && shown.voltsPerDivision)
+      marks.scales.push_back({number, shown.box.caption() + " " + shown.scale.caption()});
+  }
+  if (secondsPerDivision(main)) marks.scales.push_back({0, main.lblTime.caption()});
+  addMathName(marks.names, main);
+  for (int number = ScopeGraph::firstReference; number <= ScopeGraph::plotCount; ++number) {
+    const Plot& plot = main.graphDSO.plot(number);
+    if (isShown(plot)) marks.names.push_back({number, plot.name()});
+  }
+  marks.badge = badge(main);
+  return marks;
+}
+
+std::vector<GraphMarks::Text> valuesAt(const frmDSO& main, double x, double y) {
+  std::vector<GraphMarks::Text> values;
+  for (const int number : {1, 2}) {
+    const ShownChannel shown = channel(main, number);
+    if (shown.isDisplayed && shown.zero && shown.voltsPerDivision)
+      values.push_back({number, valueOf(y - *shown.zero, *shown.voltsPerDivision, "V")});
+  }
+  if (const auto scale = secondsPerDivision(main)) values.push_back({0, valueOf(x, *scale, "s")});
+  return values;
+}
+
+}  // namespace tracewell

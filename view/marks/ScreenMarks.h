@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "frmDSO.h"
+
+namespace tracewell {
+
+/// What the screen shows beside the traces: where the channels' zeros are and what has left the
+/// screen, names, scales, and true values at the cursors. What has not been read is left out.
+GraphMarks screenMarks(const frmDSO& main);
+
+/// Volts of the displayed channels, from their zeros, and the time at a point in graph units.
+std::vector<GraphMarks::Text> valuesAt(const frmDSO& main, double x, double y);
+
+}  // namespace tracewell
