@@ -10,7 +10,8 @@
 namespace tracewell {
 namespace {
 
-/// A window with nothing but the graph: 900 x 600, six traces, two cursors.
+/// A window with nothing but the graph: 900 x 600, six traces, two cursors, and all marks of the
+/// larger view: flags, names, scales, the badge, an old trace.
 class GraphBench {
  public:
   GraphBench() {
@@ -20,8 +21,13 @@ class GraphBench {
       x[static_cast<std::size_t>(i)] = static_cast<std::int16_t>(i - 250);
     for (int number = 1; number <= ScopeGraph::plotCount; ++number)
       graph.plot(number).visible = true;
-    graph.cursor("cur1").visible = true;
-    graph.cursor("cur2").visible = true;
+    main.ChanOn = {true, true};
+    main.lblChan1.caption = "500.0 mV";
+    main.lblChan2.caption = "1.000 V";
+    main.lblTime.caption = "500.0 us";
+    main.opTime.value = true;
+    graph.plot(2).isOld = true;
+    graph.enlarged = true;
     view.show();
     QApplication::processEvents();
   }
@@ -38,8 +44,8 @@ class GraphBench {
 
  private:
   DesktopProgram program{"."};
-  Window window{"frmBench", "", program.services};
-  ScopeGraph graph{window, "graphDSO"};
+  frmDSO& main = program.program.main;
+  ScopeGraph& graph = main.graphDSO;
   std::array<std::int16_t, SharedState::sampleCount> x{};
   std::array<std::int16_t, SharedState::sampleCount> y{};
   /// Declared last: it lets go of the graph when it goes.

@@ -418,6 +418,7 @@ void bind(Tree& control, QWidget& form) {
 void bind(PictureBox& control, QWidget& form) {
   auto* picture = findObject<PictureWidget>(control, form);
   showWith(control, picture, [&control, picture] { picture->setPicture(toQt(control.image())); });
+  if (control.clicked) picture->setCursor(Qt::CrossCursor);
   QObject::connect(picture, &PictureWidget::clicked, picture,
                    [&control](int x, int y) { control.clickAt(x, y); });
 }

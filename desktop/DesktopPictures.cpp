@@ -7,6 +7,7 @@
 #include <QWidget>
 
 #include "Graph.h"
+#include "GraphView.h"
 #include "PictureFormats.h"
 #include "QtImages.h"
 #include "QtValues.h"
@@ -32,9 +33,9 @@ QFont noteFont(const QImage& picture) {
 }  // namespace
 
 Image DesktopPictures::graphImage(const Graph& graph, const std::string& footnote) {
-  QWidget* view = windows_.widgetOf(graph);
+  auto* view = qobject_cast<GraphView*>(windows_.widgetOf(graph));
   if (view == nullptr) throw Error(invalidProcedureCall, "Tracewell", "The graph is not shown");
-  QImage shown = view->grab().toImage();
+  QImage shown = view->picture().toImage();
   QFont font;
   font.setPixelSize(static_cast<int>(15 * shown.devicePixelRatio()));
   // From here on a pixel is a pixel.

@@ -3,6 +3,7 @@
 
 #include <filesystem>
 
+#include "BusyPointer.h"
 #include "DesktopClock.h"
 #include "DesktopDialogs.h"
 #include "DesktopPictures.h"
@@ -39,6 +40,7 @@ struct DesktopProgram {
   Services services;
   Tracewell program{services};
   UserInput input{gate, standBy};
+  BusyPointer pointer{gate};
 };
 
 }  // namespace tracewell

@@ -11,6 +11,7 @@
 #include <cmath>
 
 #include "Graph.h"
+#include "GraphOverlay.h"
 #include "QtValues.h"
 #include "ShownText.h"
 
@@ -22,6 +23,10 @@ constexpr qreal grip = 6;
 /// Wide enough to read from afar, and still a frame in two milliseconds.
 constexpr qreal traceWidth = 1.4;
 const QColor cursorColour(255, 138, 128);
+const QColor activeCursorColour(255, 205, 198);
+constexpr qreal activeCursorWidth = 2;
+/// Share of its own colour that a trace keeps when what it shows is old.
+constexpr float oldShare = 0.4F;
 const QColor triggerColour(129, 212, 132);
 const QColor noteColour(255, 171, 64);
 
@@ -30,6 +35,12 @@ QSharedPointer<QCPAxisTicker> divisionTicker() {
   auto ticker = QSharedPointer<QCPAxisTickerFixed>::create();
   ticker->setTickStep(Graph::unitsPerDivision);
   return ticker;
+}
+
+QColor mixed(const QColor& colour, const QColor& ground, float share) {
+  const auto mix = [share](float one, float other) { return share * one + (1 - share) * other; };
+  return QColor::fromRgbF(mix(colour.redF(), ground.redF()), mix(colour.greenF(), ground.greenF()),
+                          mix(colour.blueF(), ground.blueF()));
 }
 
 QCPItemText* makeText(QCustomPlot* plot, const QColor& colour, Qt::Alignment alignment) {
@@ -77,6 +88,7 @@ GraphView::GraphView(QWidget* parent)
   note_->setBrush(QColor(0, 0, 0, 170));
   note_->position->setType(QCPItemPosition::ptAxisRectRatio);
   note_->position->setCoords(0.995, 0.99);
+  overlay_ = new GraphOverlay(*plot_);
 }
 
 GraphView::~GraphView() {
@@ -101,6 +113,7 @@ void GraphView::bind(Graph& graph) {
   unbind();
   if (graph.letGo) graph.letGo();
   graph_ = &graph;
+  overlay_->setGraph(graph_);
   graph.letGo = [this] { unbind(); };
   const auto dirty = [this] { markDirty(); };
   graph.changed = dirty;
@@ -121,6 +134,7 @@ void GraphView::bind(Graph& graph) {
 void GraphView::unbind() {
   Graph* const graph = std::exchange(graph_, nullptr);
   grabbed_ = nullptr;
+  overlay_->setGraph(nullptr);
   if (graph == nullptr) return;
   graph->changed = {};
   for (Axis& axis : graph->axes()) axis.changed = {};
@@ -136,7 +150,22 @@ void GraphView::unbind() {
 void GraphView::markDirty() {
   if (isDirty_) return;
   isDirty_ = true;
-  QTimer::singleShot(0, this, [this] { replot(); });
+  QTimer::singleShot(0, this, [this] {
+    replot();
+    plot_->repaint();
+  });
+}
+
+/// The screen is not painted meanwhile.
+QPixmap GraphView::picture() {
+  overlay_->hide();
+  isForPicture_ = true;
+  replot();
+  const QPixmap picture = grab();
+  isForPicture_ = false;
+  replot();
+  overlay_->show();
+  return picture;
 }
 
 void GraphView::replot() {
@@ -155,7 +184,7 @@ void GraphView::replot() {
   showTriggerMarker();
   note_->setText(shownText(graph_->note(), roomOfLine));
   note_->setVisible(!graph_->note().empty());
-  plot_->replot(QCustomPlot::rpImmediateRefresh);
+  plot_->replot(QCustomPlot::rpQueuedRefresh);
 }
 
 void GraphView::showAxes() {
@@ -188,7 +217,10 @@ void GraphView::showAxes() {
 
 void GraphView::showTrace(Plot& plot, QCPGraph& trace) {
   trace.setVisible(plot.visible());
-  trace.setPen(QPen(toQt(plot.lineColour()), traceWidth));
+  QColor colour = toQt(plot.lineColour());
+  if (plot.isOld() && !isForPicture_)
+    colour = mixed(colour, toQt(graph_->plotAreaColour()), oldShare);
+  trace.setPen(QPen(colour, traceWidth));
   trace.setScatterStyle(plot.pointStyle() == Plot::noPoints
                             ? QCPScatterStyle(QCPScatterStyle::ssNone)
                             : QCPScatterStyle(QCPScatterStyle::ssDisc, 4));
@@ -201,9 +233,15 @@ void GraphView::showCursors() {
     const Cursor& cursor = graph_->cursors()[i];
     CursorItems& items = cursorItems_[i];
     const bool isVertical = cursor.style() == CursorStyle::verticalLine;
+    const bool standsOut = i == activeCursor_ && !isForPicture_;
+    items.line->setPen(standsOut ? QPen(activeCursorColour, activeCursorWidth, Qt::DashLine)
+                                 : QPen(cursorColour, 1, Qt::DashLine));
+    items.name->setColor(standsOut ? activeCursorColour : cursorColour);
     items.line->setVisible(cursor.visible());
     items.name->setVisible(cursor.visible());
-    items.name->setText(QStringLiteral(" P%1").arg(i + 1));
+    // Beside the flags of the channels.
+    const int indent = isVertical || isForPicture_ ? 1 : 6;
+    items.name->setText(QString(indent, QLatin1Char(' ')) + QStringLiteral("P%1").arg(i + 1));
     if (isVertical) {
       items.line->start->setCoords(cursor.xPosition(), y.minimum());
       items.line->end->setCoords(cursor.xPosition(), y.maximum());
@@ -230,19 +268,30 @@ QPointF GraphView::toUnits(const QPointF& position) const {
   return {plot_->xAxis->pixelToCoord(position.x()), plot_->yAxis->pixelToCoord(position.y())};
 }
 
-Cursor* GraphView::cursorAt(const QPointF& position) {
-  if (graph_ == nullptr) return nullptr;
+std::optional<std::size_t> GraphView::cursorAt(const QPointF& position) const {
+  if (graph_ == nullptr) return std::nullopt;
   for (std::size_t i = 0; i < cursorItems_.size(); ++i) {
-    Cursor& cursor = graph_->cursors()[i];
+    const Cursor& cursor = graph_->cursors()[i];
     const qreal distance = cursor.style() == CursorStyle::verticalLine
                                ? position.x() - plot_->xAxis->coordToPixel(cursor.xPosition())
                                : position.y() - plot_->yAxis->coordToPixel(cursor.yPosition());
-    if (cursor.visible() && std::fabs(distance) <= grip) {
-      activeCursor_ = i;
-      return &cursor;
-    }
+    if (cursor.visible() && std::fabs(distance) <= grip) return i;
   }
-  return nullptr;
+  return std::nullopt;
+}
+
+void GraphView::activate(std::size_t cursor) {
+  activeCursor_ = cursor;
+  markDirty();
+}
+
+void GraphView::takeHold(const QMouseEvent& event) {
+  setFocus(Qt::MouseFocusReason);
+  grabbed_ = nullptr;
+  const std::optional<std::size_t> found = cursorAt(event.position());
+  if (event.button() != Qt::LeftButton || !found) return;
+  activate(*found);
+  grabbed_ = &graph_->cursors()[*found];
 }
 
 void GraphView::dragTo(const QPointF& position) {
@@ -250,27 +299,63 @@ void GraphView::dragTo(const QPointF& position) {
   graph_->dragCursor(*grabbed_, std::round(units.x()), std::round(units.y()));
 }
 
+void GraphView::follow(const QMouseEvent& event) {
+  overlay_->setPointer(event.position());
+  // A box that came up during the drag has had the release.
+  if (!(event.buttons() & Qt::LeftButton)) grabbed_ = nullptr;
+  if (grabbed_ != nullptr)
+    dragTo(event.position());
+  else
+    showPointerShape(event.position());
+}
+
+/// Which way a line can be moved shows where it can be taken.
+void GraphView::showPointerShape(const QPointF& position) {
+  const std::optional<std::size_t> found = cursorAt(position);
+  if (!found)
+    plot_->setCursor(Qt::CrossCursor);
+  else if (graph_->cursors()[*found].style() == CursorStyle::verticalLine)
+    plot_->setCursor(Qt::SplitHCursor);
+  else
+    plot_->setCursor(Qt::SplitVCursor);
+}
+
 /// The plot's own mouse handling knows nothing of cursors, so they are looked for first.
 bool GraphView::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::MouseButtonPress) {
-    setFocus(Qt::MouseFocusReason);
-    const auto* mouse = static_cast<QMouseEvent*>(event);
-    grabbed_ = mouse->button() == Qt::LeftButton ? cursorAt(mouse->position()) : nullptr;
-  } else if (event->type() == QEvent::MouseMove && grabbed_ != nullptr) {
-    const auto* mouse = static_cast<QMouseEvent*>(event);
-    // A box that came up during the drag has had the release.
-    if (mouse->buttons() & Qt::LeftButton)
-      dragTo(mouse->position());
-    else
+  switch (event->type()) {
+    case QEvent::MouseButtonPress:
+      takeHold(*static_cast<QMouseEvent*>(event));
+      break;
+    case QEvent::MouseMove:
+      follow(*static_cast<QMouseEvent*>(event));
+      break;
+    case QEvent::MouseButtonRelease:
       grabbed_ = nullptr;
-  } else if (event->type() == QEvent::MouseButtonRelease) {
-    grabbed_ = nullptr;
-  } else if (event->type() == QEvent::MouseButtonDblClick && graph_ != nullptr) {
-    graph_->toggleEnlarged();
-  } else if (event->type() == QEvent::Resize) {
-    markDirty();
+      break;
+    case QEvent::MouseButtonDblClick:
+      if (graph_ != nullptr) graph_->toggleEnlarged();
+      break;
+    case QEvent::Leave:
+      overlay_->setPointer(std::nullopt);
+      break;
+    case QEvent::Resize:
+      overlay_->setGeometry(plot_->rect());
+      markDirty();
+      break;
+    default:
+      break;
   }
   return QWidget::eventFilter(watched, event);
+}
+
+void GraphView::focusInEvent(QFocusEvent* event) {
+  overlay_->setFocusShown(true);
+  QWidget::focusInEvent(event);
+}
+
+void GraphView::focusOutEvent(QFocusEvent* event) {
+  overlay_->setFocusShown(false);
+  QWidget::focusOutEvent(event);
 }
 
 void GraphView::keyPressEvent(QKeyEvent* event) {
@@ -297,7 +382,7 @@ void GraphView::keyPressEvent(QKeyEvent* event) {
       if (graph_->enlarged()) graph_->toggleEnlarged();
       return;
     case Qt::Key_C:
-      activeCursor_ = 1 - activeCursor_;
+      activate(1 - activeCursor_);
       return;
     default:
       QWidget::keyPressEvent(event);

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QPixmap>
 #include <QPointF>
 #include <QWidget>
 #include <array>
+#include <optional>
 
 class QCustomPlot;
 class QCPGraph;
@@ -15,12 +17,14 @@ namespace tracewell {
 
 class Cursor;
 class Graph;
+class GraphOverlay;
 class Plot;
 
 /// Draws a Graph: a graticule of 10 by 8 divisions that stays the same in every theme, traces,
 /// cursors and the trigger marker, the x axis's caption below. The user drags the cursors, or moves
 /// the active one with the arrow keys (Shift: ten times as far); C makes the other one active. A
-/// double click or E enlarges the view and restores it.
+/// double click or E enlarges the view and restores it. An overlay shows what is for the screen
+/// alone.
 ///
 /// Changes are painted once an event-loop turn, however many they are.
 class GraphView : public QWidget {
@@ -34,12 +38,17 @@ class GraphView : public QWidget {
   void bind(Graph& graph);
   void unbind();
 
+  /// What a saved picture shows: nothing dimmed or marked, no focus.
+  QPixmap picture();
+
   QSize sizeHint() const override { return {820, 540}; }
   QSize minimumSizeHint() const override { return {320, 240}; }
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
 
  private:
   struct CursorItems {
@@ -54,12 +63,18 @@ class GraphView : public QWidget {
   void showCursors();
   void showTriggerMarker();
   void makeGraticule();
-  Cursor* cursorAt(const QPointF& position);
+  /// The number of the cursor there, from 0.
+  std::optional<std::size_t> cursorAt(const QPointF& position) const;
+  void activate(std::size_t cursor);
+  void takeHold(const QMouseEvent& event);
+  void follow(const QMouseEvent& event);
+  void showPointerShape(const QPointF& position);
   QPointF toUnits(const QPointF& position) const;
   void dragTo(const QPointF& position);
 
   QCustomPlot* plot_;
   QLabel* caption_;
+  GraphOverlay* overlay_ = nullptr;
   std::array<QCPGraph*, 6> traces_{};
   std::array<bool, 6> isDataNew_{};
   std::array<CursorItems, 2> cursorItems_;
@@ -70,6 +85,7 @@ class GraphView : public QWidget {
   Cursor* grabbed_ = nullptr;
   std::size_t activeCursor_ = 0;
   bool isDirty_ = false;
+  bool isForPicture_ = false;
 };
 
 }  // namespace tracewell

@@ -22,6 +22,7 @@ constexpr int mostCaptions = 12;
 
 KnobWidget::KnobWidget(QWidget* parent) : QWidget(parent) {
   setFocusPolicy(Qt::StrongFocus);
+  setCursor(Qt::OpenHandCursor);
   setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
 }
 

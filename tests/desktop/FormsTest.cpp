@@ -191,6 +191,41 @@ TEST_F(FormsTest, CursorsFollowTheMouseAndTheArrowKeys) {
   EXPECT_TRUE(main.graphDSO.axis("XAxis").caption().starts_with("P1 = "));
 }
 
+TEST_F(FormsTest, PicturesOfTheGraphShowNothingThatIsForTheScreen) {
+  const std::array<double, 2> level = {50, 60};
+  main.graphDSO.plot(1).plotXvsY(main.XIndex, level);
+  main.knobTime.turn(18);
+  main.opTime.select();
+  auto* view = find<GraphView>("graphDSO");
+  QWidget* plot = view->findChild<QWidget*>();
+  const auto screen = [view] {
+    QApplication::processEvents();
+    return view->grab().toImage();
+  };
+  const QImage picture = view->picture().toImage();
+  QImage before = screen();
+  const auto expectOnlyOnScreen = [&](const char* what) {
+    const QImage after = screen();
+    EXPECT_TRUE(after != before) << what;
+    EXPECT_TRUE(view->picture().toImage() == picture) << what;
+    EXPECT_TRUE(screen() == after) << what;
+    before = after;
+  };
+  EXPECT_TRUE(before != picture);
+  main.graphDSO.plot(1).isOld = true;
+  expectOnlyOnScreen("an old trace");
+  QTest::keyClick(view, Qt::Key_C);
+  expectOnlyOnScreen("the active cursor");
+  QTest::mouseMove(plot, QPoint(70, 70));
+  expectOnlyOnScreen("the values under the pointer");
+  EXPECT_EQ(plot->cursor().shape(), Qt::CrossCursor);
+  QTest::mouseMove(plot, plot->rect().center());
+  EXPECT_EQ(plot->cursor().shape(), Qt::SplitHCursor);
+  QFocusEvent focus(QEvent::FocusIn);
+  QApplication::sendEvent(view, &focus);
+  expectOnlyOnScreen("the focus");
+}
+
 TEST_F(FormsTest, FocusChoosesNothing) {
   program.console.load();
   bound(program.console, [this](Window&, QWidget& dialog) {

@@ -1,0 +1,283 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "GraphOverlay.h"
+
+#include <qcustomplot.h>
+
+#include <QPainter>
+#include <algorithm>
+
+#include "Graph.h"
+#include "QtValues.h"
+#include "ShownText.h"
+
+namespace tracewell {
+namespace {
+
+using Side = GraphMarks::Side;
+
+/// Pixels.
+constexpr qreal flagLength = 17;
+constexpr qreal flagWidth = 14;
+constexpr qreal padding = 6;
+constexpr qreal gap = 14;
+constexpr qreal edge = 6;
+/// Kept free at the right for the mark of the trigger level.
+constexpr qreal roomOfTrigger = 26;
+/// Kept free at the top for the names of the cursors and the row of the scales.
+constexpr qreal roomOfRow = 34;
+/// Kept free at the bottom for the note.
+constexpr qreal roomOfNote = 26;
+constexpr qreal nearCursor = 10;
+
+/// Points to the right, or up, or down.
+QPolygonF flagShape(const QRectF& place, Side::Direction direction) {
+  const qreal left = place.left();
+  const qreal right = place.right();
+  const qreal top = place.top();
+  const qreal bottom = place.bottom();
+  const QPointF centre = place.center();
+  constexpr qreal tip = 6;
+  if (direction == Side::here)
+    return QPolygonF({{left, top},
+                      {right - tip, top},
+                      {right, centre.y()},
+                      {right - tip, bottom},
+                      {left, bottom}});
+  if (direction == Side::above)
+    return QPolygonF({{centre.x(), top},
+                      {right, top + tip},
+                      {right, bottom},
+                      {left, bottom},
+                      {left, top + tip}});
+  return QPolygonF({{left, top},
+                    {right, top},
+                    {right, bottom - tip},
+                    {centre.x(), bottom},
+                    {left, bottom - tip}});
+}
+
+/// The digit stands in the part behind the tip.
+QRectF digitPlace(const QRectF& place, Side::Direction direction) {
+  switch (direction) {
+    case Side::here:
+      return place.adjusted(0, 0, -4, 0);
+    case Side::above:
+      return place.adjusted(0, 4, 0, 0);
+    case Side::below:
+      break;
+  }
+  return place.adjusted(0, 0, 0, -4);
+}
+
+/// Moves what overlaps apart, from the top down, and back up where the bottom is reached.
+void spread(std::vector<qreal>& tops, qreal height, qreal bottom) {
+  for (std::size_t i = 1; i < tops.size(); ++i) tops[i] = qMax(tops[i], tops[i - 1] + height);
+  qreal limit = bottom - height;
+  for (std::size_t i = tops.size(); i-- > 0; limit = tops[i] - height)
+    tops[i] = qMin(tops[i], limit);
+}
+
+QString shown(const std::string& text) {
+  return shownText(text, roomOfLine);
+}
+
+}  // namespace
+
+GraphOverlay::GraphOverlay(QCustomPlot& plot) : QWidget(&plot), plot_(plot) {
+  setAttribute(Qt::WA_TransparentForMouseEvents);
+  setFocusPolicy(Qt::NoFocus);
+}
+
+void GraphOverlay::setGraph(const Graph* graph) {
+  graph_ = graph;
+  update();
+}
+
+void GraphOverlay::setFocusShown(bool isShown) {
+  isFocusShown_ = isShown;
+  update();
+}
+
+void GraphOverlay::setPointer(const std::optional<QPointF>& position) {
+  if (position == pointer_) return;
+  pointer_ = position;
+  update();
+}
+
+void GraphOverlay::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  if (graph_ != nullptr && graph_->marks) {
+    const GraphMarks marks = graph_->marks();
+    paintNames(painter, marks.names);
+    paintSides(painter, marks.sides);
+    if (graph_->enlarged()) paintScales(painter, marks.scales);
+    paintBadge(painter, marks.badge);
+  }
+  paintPointerValues(painter);
+  if (!isFocusShown_) return;
+  painter.setBrush(Qt::NoBrush);
+  painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+  painter.drawRect(QRectF(rect()).adjusted(1, 1, -1, -1));
+}
+
+/// A flag that would cover another one stands beside it.
+QRectF GraphOverlay::flagPlace(const Side& side, const QList<QRectF>& taken) const {
+  const bool isHere = side.direction == Side::here;
+  QRectF place(0, 0, isHere ? flagLength : flagWidth, isHere ? flagWidth : flagLength);
+  place.moveLeft(1);
+  if (isHere)
+    place.moveTop(
+        qBound(1.0, toPixels(0, side.height).y() - flagWidth / 2, height() - 1.0 - flagWidth));
+  else
+    place.moveTop(side.direction == Side::above ? 1 : height() - 1 - flagLength);
+  for (const QRectF& other : taken)
+    if (place.intersects(other)) place.moveLeft(other.right() + 2);
+  return place;
+}
+
+void GraphOverlay::paintSides(QPainter& painter, const std::vector<Side>& sides) const {
+  QFont font = this->font();
+  font.setBold(true);
+  font.setPixelSize(11);
+  painter.save();
+  painter.setFont(font);
+  QList<QRectF> taken;
+  for (const Side& side : sides) {
+    const QRectF place = flagPlace(side, taken);
+    taken << place;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(colourOf(side.plot));
+    painter.drawPolygon(flagShape(place, side.direction));
+    painter.setPen(colourOf(side.plot).lightness() < 110 ? Qt::white : Qt::black);
+    painter.drawText(digitPlace(place, side.direction), Qt::AlignCenter, shown(side.text));
+  }
+  painter.restore();
+}
+
+/// At the right ends of their traces, which may be anywhere, one above the other.
+void GraphOverlay::paintNames(QPainter& painter, const Texts& names) const {
+  struct Name {
+    Texts row;
+    qreal top;
+  };
+  const qreal rowHeight = sizeOf({}).height();
+  std::vector<Name> placed;
+  for (const GraphMarks::Text& name : names) {
+    const Plot& plot = graph_->plot(name.plot);
+    const qreal top = toPixels(0, plot.y().back()).y() - rowHeight / 2;
+    placed.push_back({{name}, qBound(roomOfRow, top, height() - rowHeight)});
+  }
+  std::ranges::stable_sort(placed, {}, &Name::top);
+  std::vector<qreal> tops;
+  for (const Name& name : placed) tops.push_back(name.top);
+  spread(tops, rowHeight + 1, height() - edge);
+  for (std::size_t i = 0; i < placed.size(); ++i) {
+    const Texts& row = placed[i].row;
+    const QSizeF size = sizeOf(row);
+    const qreal end = toPixels(graph_->plot(row[0].plot).x().back(), 0).x();
+    const qreal right = qMin(end, width() - roomOfTrigger);
+    paintRow(painter, row, {QPointF(right - size.width(), tops[i]), size});
+  }
+}
+
+void GraphOverlay::paintScales(QPainter& painter, const Texts& scales) const {
+  if (!scales.empty())
+    paintRow(painter, scales, {QPointF(2 * flagLength + edge, edge), sizeOf(scales)});
+}
+
+void GraphOverlay::paintPointerValues(QPainter& painter) const {
+  if (!pointer_ || graph_ == nullptr || !graph_->valuesAt) return;
+  const Texts values = graph_->valuesAt(plot_.xAxis->pixelToCoord(pointer_->x()),
+                                        plot_.yAxis->pixelToCoord(pointer_->y()));
+  if (values.empty()) return;
+  const QSizeF size = sizeOf(values);
+  QRectF place(QPointF(width() - edge - size.width(), edge), size);
+  // Not under the pointer itself.
+  if (place.adjusted(-gap, 0, 0, gap).contains(*pointer_))
+    place.moveTopLeft({2 * flagLength + edge, height() - edge - size.height()});
+  paintRow(painter, values, place);
+}
+
+void GraphOverlay::paintBadge(QPainter& painter, const Texts& lines) const {
+  if (lines.empty()) return;
+  const QFontMetricsF metrics(font());
+  qreal widest = 0;
+  for (const GraphMarks::Text& line : lines)
+    widest = qMax(widest, metrics.horizontalAdvance(shown(line.text)));
+  const QSizeF size(widest + 2 * padding,
+                    metrics.height() * static_cast<qreal>(lines.size()) + padding);
+  const QRectF place(badgePlace(size), size);
+  paintGround(painter, place);
+  qreal top = place.top() + padding / 2;
+  for (const GraphMarks::Text& line : lines) {
+    painter.setPen(colourOf(line.plot));
+    painter.drawText(QRectF(place.left() + padding, top, widest, metrics.height()),
+                     Qt::AlignLeft | Qt::AlignVCenter, shown(line.text));
+    top += metrics.height();
+  }
+}
+
+/// Behind the right one of two upright lines, below the lower one of two level lines; on the other
+/// side of the other line where there is no room.
+QPointF GraphOverlay::badgePlace(const QSizeF& size) const {
+  const Cursor& cur1 = graph_->cursor("cur1");
+  const Cursor& cur2 = graph_->cursor("cur2");
+  const QPointF first = toPixels(cur1.xPosition(), cur1.yPosition());
+  const QPointF second = toPixels(cur2.xPosition(), cur2.yPosition());
+  const qreal mostLeft = width() - roomOfTrigger - size.width();
+  const qreal mostTop = height() - roomOfNote - size.height();
+  if (cur1.style() == CursorStyle::verticalLine) {
+    qreal left = qMax(first.x(), second.x()) + nearCursor;
+    if (left > mostLeft) left = qMin(first.x(), second.x()) - nearCursor - size.width();
+    return {qBound(edge, left, mostLeft), roomOfRow};
+  }
+  qreal top = qMax(first.y(), second.y()) + nearCursor;
+  if (top > mostTop) top = qMin(first.y(), second.y()) - nearCursor - size.height();
+  return {mostLeft - gap, qBound(roomOfRow, top, mostTop)};
+}
+
+QSizeF GraphOverlay::sizeOf(const Texts& row) const {
+  const QFontMetricsF metrics(font());
+  qreal width = 2 * padding - gap;
+  for (const GraphMarks::Text& part : row)
+    width += metrics.horizontalAdvance(shown(part.text)) + gap;
+  return {width, metrics.height() + 4};
+}
+
+void GraphOverlay::paintRow(QPainter& painter, const Texts& row, const QRectF& place) const {
+  paintGround(painter, place);
+  const QFontMetricsF metrics(font());
+  qreal left = place.left() + padding;
+  for (const GraphMarks::Text& part : row) {
+    const QString text = shown(part.text);
+    const qreal width = metrics.horizontalAdvance(text);
+    painter.setPen(colourOf(part.plot));
+    painter.drawText(QRectF(left, place.top(), width + 1, place.height()),
+                     Qt::AlignLeft | Qt::AlignVCenter, text);
+    left += width + gap;
+  }
+}
+
+void GraphOverlay::paintGround(QPainter& painter, const QRectF& place) const {
+  QColor ground = toQt(graph_->plotAreaColour());
+  ground.setAlpha(215);
+  QColor border = colourOf(0);
+  border.setAlpha(70);
+  painter.setPen(QPen(border, 1));
+  painter.setBrush(ground);
+  painter.drawRoundedRect(place, 3, 3);
+}
+
+/// The graph's own colour is readable on its ground.
+QColor GraphOverlay::colourOf(int plot) const {
+  if (plot > 0) return toQt(graph_->plot(plot).lineColour());
+  const bool isDark = toQt(graph_->plotAreaColour()).lightness() < 128;
+  return isDark ? QColor(0xe6, 0xeb, 0xef) : QColor(0x1c, 0x22, 0x28);
+}
+
+QPointF GraphOverlay::toPixels(double x, double y) const {
+  return {plot_.xAxis->coordToPixel(x), plot_.yAxis->coordToPixel(y)};
+}
+
+}  // namespace tracewell
