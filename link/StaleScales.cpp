@@ -2,6 +2,7 @@
 #include "StaleScales.h"
 
 #include "StatusLine.h"
+#include "TriggerMarker.h"
 
 namespace tracewell {
 namespace {
@@ -14,6 +15,7 @@ SharedState::ScaleOrigin presentOrigin(const frmDSO& main) {
 }  // namespace
 
 void noteScalesRead(frmDSO& main) {
+  if (main.scaleOrigin && *main.scaleOrigin != presentOrigin(main)) ForgetTriggerAndMath(main);
   main.scaleOrigin = presentOrigin(main);
   showStaleScales(main);
 }
@@ -28,6 +30,7 @@ void showStaleScales(frmDSO& main) {
            &main.lblChan1, &main.lblChan2, &main.lblTime, &main.knobChan1, &main.knobChan2,
            &main.knobTime, &main.slideCH1, &main.slideCH2})
     control->isStale = isStale;
+  if (isStale != wasStale) UpdateTriggerMarker(main);
   if (isStale && !wasStale)
     showStatus(main, hint);
   else if (wasStale && !isStale && main.lblStatus.caption() == hint)

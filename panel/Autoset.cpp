@@ -21,7 +21,7 @@ void Autoset::cmdAutoset_Click() {
     message_.show();
     acquisition_.StopAcq();
     exchange_.SendDSOCmd(":AUT");
-    forgetWhatItSets();
+    ForgetTriggerAndMath(main_);
     message_.showProgress(duration);
     Delay(main_, duration);
     instrument_.InitDSO();
@@ -32,14 +32,6 @@ void Autoset::cmdAutoset_Click() {
     message_.hide();
     errorLog_.ErrLog(error, "cmdAutoset_Click : ");
   }
-}
-
-/// Reading the instrument does not ask for these.
-void Autoset::forgetWhatItSets() {
-  main_.TriggerLevelSet = false;
-  main_.TriggerSource.reset();
-  main_.MathEntry.reset();
-  UpdateTriggerMarker(main_);
 }
 
 }  // namespace tracewell

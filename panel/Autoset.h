@@ -19,8 +19,6 @@ class Autoset {
   void cmdAutoset_Click();
 
  private:
-  void forgetWhatItSets();
-
   frmDSO& main_;
   CommandExchange& exchange_;
   ErrorLog& errorLog_;

@@ -31,7 +31,7 @@ struct GraphMarks {
   /// For the larger view, where the labels that show the scales are hidden.
   std::vector<Text> scales;
   /// Lines of the badge beside the cursors; none while there is nothing to tell.
-  std::vector<std::string> badge;
+  std::vector<Text> badge;
 };
 
 }  // namespace tracewell

@@ -31,12 +31,12 @@ ShownChannel channel(const frmDSO& main, int number) {
                      scale,       isFirst ? main.cbCh1 : main.cbCh2, std::nullopt,
                      std::nullopt};
   if (!slide.isUnread()) shown.zero = position * Graph::unitsPerDivision;
-  if (!scale.isUnread()) shown.voltsPerDivision = trueScale(scale.caption(), "V");
+  if (!scale.isUnread() && !scale.isStale()) shown.voltsPerDivision = trueScale(scale.caption(), "V");
   return shown;
 }
 
 std::optional<double> secondsPerDivision(const frmDSO& main) {
-  if (main.lblTime.isUnread()) return std::nullopt;
+  if (main.lblTime.isUnread() || main.lblTime.isStale()) return std::nullopt;
   return trueScale(main.lblTime.caption(), "s");
 }
 
@@ -73,19 +73,29 @@ void addMathName(std::vector<GraphMarks::Text>& names, const frmDSO& main) {
     names.push_back({number, main.cbMath.items()[static_cast<std::size_t>(*main.MathEntry)]});
 }
 
-std::vector<std::string> badge(const frmDSO& main) {
+std::vector<std::string> timeLines(const frmDSO& main, const Cursor& cur1, const Cursor& cur2) {
+  const std::optional<double> scale = secondsPerDivision(main);
+  if (!scale) return {};
+  return timeBadge(*scale, cur1.xPosition(), cur2.xPosition());
+}
+
+std::vector<std::string> voltageLines(const ShownChannel& channel, const Cursor& cur1,
+                                      const Cursor& cur2) {
+  if (!channel.voltsPerDivision) return {};
+  return voltageBadge(*channel.voltsPerDivision, channel.zero, cur1.yPosition(), cur2.yPosition());
+}
+
+/// Volts in the colour of the channel whose scale counts.
+std::vector<GraphMarks::Text> badge(const frmDSO& main) {
+  if (main.opOff.value()) return {};
   const Cursor& cur1 = main.graphDSO.cursor("cur1");
   const Cursor& cur2 = main.graphDSO.cursor("cur2");
-  if (main.opOff.value()) return {};
-  if (main.CursorTimeMode) {
-    const std::optional<double> scale = secondsPerDivision(main);
-    if (!scale) return {};
-    return timeBadge(*scale, cur1.xPosition(), cur2.xPosition());
-  }
   const ShownChannel measured = channel(main, main.cbCurChan.text() == "1" ? 1 : 2);
-  if (!measured.voltsPerDivision) return {};
-  return voltageBadge(*measured.voltsPerDivision, measured.zero, cur1.yPosition(),
-                      cur2.yPosition());
+  std::vector<GraphMarks::Text> badge;
+  for (const std::string& line :
+       main.CursorTimeMode ? timeLines(main, cur1, cur2) : voltageLines(measured, cur1, cur2))
+    badge.push_back({main.CursorTimeMode ? 0 : measured.number, line});
+  return badge;
 }
 
 }  // namespace

@@ -16,7 +16,8 @@ std::optional<double> levelHeight(const frmDSO& main) {
   const ValueLabel& scale = isSecond ? main.lblChan2 : main.lblChan1;
   const Slide& slide = isSecond ? main.slideCH2 : main.slideCH1;
   const double voltsPerDivision = ParseScaleCaption(scale.caption());
-  if (voltsPerDivision == 0 || scale.isUnread() || slide.isUnread()) return std::nullopt;
+  const bool isKnown = !scale.isUnread() && !slide.isUnread() && !scale.isStale();
+  if (voltsPerDivision == 0 || !isKnown) return std::nullopt;
   const double position = isSecond ? main.Ch2Pos : main.Ch1Pos;
   return Graph::unitsPerDivision * (main.slideTrig.value() / voltsPerDivision + position);
 }
@@ -30,6 +31,13 @@ void UpdateTriggerMarker(frmDSO& main) {
   marker.visible = main.TriggerLevelSet && height.has_value();
   if (height) marker.yPosition = *height;
   main.graphDSO.notifyChanged();
+}
+
+void ForgetTriggerAndMath(frmDSO& main) {
+  main.TriggerLevelSet = false;
+  main.TriggerSource.reset();
+  main.MathEntry.reset();
+  UpdateTriggerMarker(main);
 }
 
 }  // namespace tracewell

@@ -11,4 +11,7 @@ namespace tracewell {
 /// setup table holds is a choice, not a setting in force. Called whenever one of these changes.
 void UpdateTriggerMarker(frmDSO& main);
 
+/// After autoset, and with another instrument: reading an instrument does not ask for them.
+void ForgetTriggerAndMath(frmDSO& main);
+
 }  // namespace tracewell
