@@ -23,6 +23,8 @@ constexpr qreal gap = 14;
 constexpr qreal edge = 6;
 /// Kept free at the right for the mark of the trigger level.
 constexpr qreal roomOfTrigger = 26;
+/// The badge leaves it to the names of the traces.
+constexpr qreal roomOfNames = 60;
 /// Kept free at the top for the names of the cursors and the row of the scales.
 constexpr qreal roomOfRow = 34;
 /// Kept free at the bottom for the note.
@@ -225,7 +227,7 @@ QPointF GraphOverlay::badgePlace(const QSizeF& size) const {
   const Cursor& cur2 = graph_->cursor("cur2");
   const QPointF first = toPixels(cur1.xPosition(), cur1.yPosition());
   const QPointF second = toPixels(cur2.xPosition(), cur2.yPosition());
-  const qreal mostLeft = width() - roomOfTrigger - size.width();
+  const qreal mostLeft = width() - roomOfTrigger - roomOfNames - size.width();
   const qreal mostTop = height() - roomOfNote - size.height();
   if (cur1.style() == CursorStyle::verticalLine) {
     qreal left = qMax(first.x(), second.x()) + nearCursor;
@@ -234,7 +236,7 @@ QPointF GraphOverlay::badgePlace(const QSizeF& size) const {
   }
   qreal top = qMax(first.y(), second.y()) + nearCursor;
   if (top > mostTop) top = qMin(first.y(), second.y()) - nearCursor - size.height();
-  return {mostLeft - gap, qBound(roomOfRow, top, mostTop)};
+  return {mostLeft, qBound(roomOfRow, top, mostTop)};
 }
 
 QSizeF GraphOverlay::sizeOf(const Texts& row) const {

@@ -61,7 +61,10 @@ std::optional<double> trueScale(std::string_view caption, std::string_view unit)
   if (prefix.size() < unit.size()) return std::nullopt;
   prefix.remove_suffix(unit.size());
   const auto known = std::ranges::find(prefixes, prefix, &Prefix::text);
-  const bool isPlain = number.find_first_not_of("0123456789.") == std::string_view::npos;
+  // A long reply must not overflow.
+  constexpr std::size_t longest = 12;
+  const bool isPlain =
+      number.size() <= longest && number.find_first_not_of("0123456789.") == std::string_view::npos;
   if (known == prefixes.end() || !isPlain || !isNumeric(number)) return std::nullopt;
   const double perDivision = scaled(leadingNumber(number), known->exponent);
   return perDivision > 0 ? std::optional(perDivision) : std::nullopt;
