@@ -173,7 +173,7 @@ void GraphOverlay::paintNames(QPainter& painter, const Texts& names) const {
   std::ranges::stable_sort(placed, {}, &Name::top);
   std::vector<qreal> tops;
   for (const Name& name : placed) tops.push_back(name.top);
-  spread(tops, rowHeight + 1, height() - edge);
+  spread(tops, rowHeight + 1, height() - roomOfNote);
   for (std::size_t i = 0; i < placed.size(); ++i) {
     const Texts& row = placed[i].row;
     const QSizeF size = sizeOf(row);
