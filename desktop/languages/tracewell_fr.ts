@@ -8,8 +8,8 @@
         <translation>%1 n'a pas pu être lu en entier et sera conservé sous %2</translation>
     </message>
     <message>
-        <source>%1 results in %2 places: %3 are not shown</source>
-        <translation>%1 résultats pour %2 places : %3 ne sont pas affichés</translation>
+        <source>%1 results in %2 places: the first %3 and the last are shown</source>
+        <translation>%1 résultats pour %2 places : les %3 premiers et le dernier sont affichés</translation>
     </message>
     <message>
         <source>%1: %2 of %3 settings not confirmed</source>

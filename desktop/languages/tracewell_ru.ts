@@ -8,8 +8,8 @@
         <translation>%1 прочитан не полностью и будет сохранён как %2</translation>
     </message>
     <message>
-        <source>%1 results in %2 places: %3 are not shown</source>
-        <translation>Результатов: %1, мест: %2, не показано: %3</translation>
+        <source>%1 results in %2 places: the first %3 and the last are shown</source>
+        <translation>Результатов: %1, мест: %2, показаны первые %3 и последний</translation>
     </message>
     <message>
         <source>%1: %2 of %3 settings not confirmed</source>

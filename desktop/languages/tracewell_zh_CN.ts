@@ -8,8 +8,8 @@
         <translation>%1 未能完整读取，将保留为 %2</translation>
     </message>
     <message>
-        <source>%1 results in %2 places: %3 are not shown</source>
-        <translation>%1 个结果只有 %2 个位置：有 %3 个未显示</translation>
+        <source>%1 results in %2 places: the first %3 and the last are shown</source>
+        <translation>%1 个结果只有 %2 个位置：显示前 %3 个和最后一个</translation>
     </message>
     <message>
         <source>%1: %2 of %3 settings not confirmed</source>

@@ -8,8 +8,8 @@
         <translation>%1 讀唔晒，會保留做 %2</translation>
     </message>
     <message>
-        <source>%1 results in %2 places: %3 are not shown</source>
-        <translation>%1 個結果得 %2 個位：有 %3 個冇顯示</translation>
+        <source>%1 results in %2 places: the first %3 and the last are shown</source>
+        <translation>%1 個結果得 %2 個位：顯示頭 %3 個同最後一個</translation>
     </message>
     <message>
         <source>%1: %2 of %3 settings not confirmed</source>
