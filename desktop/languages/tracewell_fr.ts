@@ -4,6 +4,10 @@
 <context>
     <name>Panel</name>
     <message>
+        <source>%1 are chosen, and there is room for %2: the last cell shows the last.</source>
+        <translation>%1 sont choisies pour %2 cases : la dernière case montre la dernière.</translation>
+    </message>
+    <message>
         <source>%1 could not be read whole and will be kept as %2</source>
         <translation>%1 n'a pas pu être lu en entier et sera conservé sous %2</translation>
     </message>
@@ -52,6 +56,166 @@
         <translation>%1 : réglage %2 sur %3</translation>
     </message>
     <message>
+        <source>100mV per division</source>
+        <translation>100 mV par division</translation>
+    </message>
+    <message>
+        <source>100ms per division</source>
+        <translation>100 ms par division</translation>
+    </message>
+    <message>
+        <source>100ns per division</source>
+        <translation>100 ns par division</translation>
+    </message>
+    <message>
+        <source>100us per division</source>
+        <translation>100 µs par division</translation>
+    </message>
+    <message>
+        <source>10mV per division</source>
+        <translation>10 mV par division</translation>
+    </message>
+    <message>
+        <source>10ms per division</source>
+        <translation>10 ms par division</translation>
+    </message>
+    <message>
+        <source>10ns per division</source>
+        <translation>10 ns par division</translation>
+    </message>
+    <message>
+        <source>10us per division</source>
+        <translation>10 µs par division</translation>
+    </message>
+    <message>
+        <source>1V per division</source>
+        <translation>1 V par division</translation>
+    </message>
+    <message>
+        <source>1ms per division</source>
+        <translation>1 ms par division</translation>
+    </message>
+    <message>
+        <source>1s per division</source>
+        <translation>1 s par division</translation>
+    </message>
+    <message>
+        <source>1us per division</source>
+        <translation>1 µs par division</translation>
+    </message>
+    <message>
+        <source>200mV per division</source>
+        <translation>200 mV par division</translation>
+    </message>
+    <message>
+        <source>200ms per division</source>
+        <translation>200 ms par division</translation>
+    </message>
+    <message>
+        <source>200ns per division</source>
+        <translation>200 ns par division</translation>
+    </message>
+    <message>
+        <source>200us per division</source>
+        <translation>200 µs par division</translation>
+    </message>
+    <message>
+        <source>20mV per division</source>
+        <translation>20 mV par division</translation>
+    </message>
+    <message>
+        <source>20ms per division</source>
+        <translation>20 ms par division</translation>
+    </message>
+    <message>
+        <source>20ns per division</source>
+        <translation>20 ns par division</translation>
+    </message>
+    <message>
+        <source>20us per division</source>
+        <translation>20 µs par division</translation>
+    </message>
+    <message>
+        <source>2V per division</source>
+        <translation>2 V par division</translation>
+    </message>
+    <message>
+        <source>2mV per division</source>
+        <translation>2 mV par division</translation>
+    </message>
+    <message>
+        <source>2ms per division</source>
+        <translation>2 ms par division</translation>
+    </message>
+    <message>
+        <source>2ns per division</source>
+        <translation>2 ns par division</translation>
+    </message>
+    <message>
+        <source>2s per division</source>
+        <translation>2 s par division</translation>
+    </message>
+    <message>
+        <source>2us per division</source>
+        <translation>2 µs par division</translation>
+    </message>
+    <message>
+        <source>500mV per division</source>
+        <translation>500 mV par division</translation>
+    </message>
+    <message>
+        <source>500ms per division</source>
+        <translation>500 ms par division</translation>
+    </message>
+    <message>
+        <source>500ns per division</source>
+        <translation>500 ns par division</translation>
+    </message>
+    <message>
+        <source>500us per division</source>
+        <translation>500 µs par division</translation>
+    </message>
+    <message>
+        <source>50mV per division</source>
+        <translation>50 mV par division</translation>
+    </message>
+    <message>
+        <source>50ms per division</source>
+        <translation>50 ms par division</translation>
+    </message>
+    <message>
+        <source>50ns per division</source>
+        <translation>50 ns par division</translation>
+    </message>
+    <message>
+        <source>50us per division</source>
+        <translation>50 µs par division</translation>
+    </message>
+    <message>
+        <source>5V per division</source>
+        <translation>5 V par division</translation>
+    </message>
+    <message>
+        <source>5mV per division</source>
+        <translation>5 mV par division</translation>
+    </message>
+    <message>
+        <source>5ms per division</source>
+        <translation>5 ms par division</translation>
+    </message>
+    <message>
+        <source>5ns per division</source>
+        <translation>5 ns par division</translation>
+    </message>
+    <message>
+        <source>5s per division</source>
+        <translation>5 s par division</translation>
+    </message>
+    <message>
+        <source>5us per division</source>
+        <translation>5 µs par division</translation>
+    </message>
+    <message>
         <source>About Tracewell</source>
         <translation>À propos de Tracewell</translation>
     </message>
@@ -88,12 +252,28 @@
         <translation>Âge des traces</translation>
     </message>
     <message>
+        <source>All of channel 1</source>
+        <translation>Toutes celles de la voie 1</translation>
+    </message>
+    <message>
+        <source>All of channel 2</source>
+        <translation>Toutes celles de la voie 2</translation>
+    </message>
+    <message>
+        <source>Amplitude: high level less low level</source>
+        <translation>Amplitude : niveau haut moins niveau bas</translation>
+    </message>
+    <message>
         <source>Attenuation of the probe</source>
         <translation>Atténuation de la sonde</translation>
     </message>
     <message>
         <source>Bandwidth limit against noise</source>
         <translation>Limitation de la bande passante contre le bruit</translation>
+    </message>
+    <message>
+        <source>Both channels</source>
+        <translation>Les deux voies</translation>
     </message>
     <message>
         <source>Brightness of the grid on the instrument, in percent</source>
@@ -106,6 +286,14 @@
     <message>
         <source>Brightness of the traces on the instrument, in percent</source>
         <translation>Luminosité des traces sur l'instrument, en pour cent</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Voie</translation>
+    </message>
+    <message>
+        <source>Channel %1</source>
+        <translation>Voie %1</translation>
     </message>
     <message>
         <source>Channel is displayed</source>
@@ -244,8 +432,24 @@
         <translation>Format du fichier image</translation>
     </message>
     <message>
+        <source>Frequency</source>
+        <translation>Fréquence</translation>
+    </message>
+    <message>
         <source>Frequency Reject</source>
         <translation>Réjection de fréquence</translation>
+    </message>
+    <message>
+        <source>High level</source>
+        <translation>Niveau haut</translation>
+    </message>
+    <message>
+        <source>Highest value</source>
+        <translation>Valeur maximale</translation>
+    </message>
+    <message>
+        <source>Hint</source>
+        <translation>Indication</translation>
     </message>
     <message>
         <source>Horizontal position in divisions</source>
@@ -268,12 +472,20 @@
         <translation>Aspect de la trace</translation>
     </message>
     <message>
+        <source>In use by another program: %1</source>
+        <translation>Utilisé par un autre programme : %1</translation>
+    </message>
+    <message>
         <source>In use: %1. The line settings of the setup: %2</source>
         <translation>Utilisé : %1. Réglages de ligne enregistrés : %2</translation>
     </message>
     <message>
         <source>In use: %1. The setup: %2 (OK in the RS-232 dialog applies it)</source>
         <translation>Utilisé : %1. Réglages enregistrés : %2 (OK dans le dialogue RS-232 les applique)</translation>
+    </message>
+    <message>
+        <source>Keep what has been set</source>
+        <translation>Garder ce qui a été réglé</translation>
     </message>
     <message>
         <source>Lay a data file over the traces</source>
@@ -316,12 +528,32 @@
         <translation>%1 chargé</translation>
     </message>
     <message>
+        <source>Low level</source>
+        <translation>Niveau bas</translation>
+    </message>
+    <message>
+        <source>Lowest value</source>
+        <translation>Valeur minimale</translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation>Moyenne</translation>
+    </message>
+    <message>
+        <source>Measure nothing</source>
+        <translation>Ne rien mesurer</translation>
+    </message>
+    <message>
         <source>Measure time</source>
         <translation>Mesurer un temps</translation>
     </message>
     <message>
         <source>Measure voltage</source>
         <translation>Mesurer une tension</translation>
+    </message>
+    <message>
+        <source>Measure what is ticked</source>
+        <translation>Mesurer ce qui est coché</translation>
     </message>
     <message>
         <source>Measurement 1</source>
@@ -416,6 +648,18 @@
         <translation>Réjection du bruit</translation>
     </message>
     <message>
+        <source>None of channel 1</source>
+        <translation>Aucune de la voie 1</translation>
+    </message>
+    <message>
+        <source>None of channel 2</source>
+        <translation>Aucune de la voie 2</translation>
+    </message>
+    <message>
+        <source>Not present: %1</source>
+        <translation>Absent : %1</translation>
+    </message>
+    <message>
         <source>Notice</source>
         <translation>Avis</translation>
     </message>
@@ -440,6 +684,14 @@
         <translation>Bit de parité de l'octet</translation>
     </message>
     <message>
+        <source>Peak to peak</source>
+        <translation>Crête à crête</translation>
+    </message>
+    <message>
+        <source>Period</source>
+        <translation>Période</translation>
+    </message>
+    <message>
         <source>Pick the time per division</source>
         <translation>Choisir le temps par division</translation>
     </message>
@@ -454,6 +706,10 @@
     <message>
         <source>Picture of the chosen waveform</source>
         <translation>Image de la courbe choisie</translation>
+    </message>
+    <message>
+        <source>Positive width in percent of the period</source>
+        <translation>Largeur positive en pour cent de la période</translation>
     </message>
     <message>
         <source>Print the graph</source>
@@ -486,6 +742,10 @@
     <message>
         <source>Replies and records</source>
         <translation>Réponses et enregistrements</translation>
+    </message>
+    <message>
+        <source>Root mean square</source>
+        <translation>Valeur efficace</translation>
     </message>
     <message>
         <source>Run or stop the acquisition of the instrument itself</source>
@@ -546,6 +806,10 @@
     <message>
         <source>Send the command</source>
         <translation>Envoyer la commande</translation>
+    </message>
+    <message>
+        <source>Set it and stay open, to try others</source>
+        <translation>Régler et rester ouvert pour en essayer d'autres</translation>
     </message>
     <message>
         <source>Setup loaded from %1</source>
@@ -644,6 +908,18 @@
         <translation>Les réglages n'ont pas pu être enregistrés dans %1.</translation>
     </message>
     <message>
+        <source>There is no such port</source>
+        <translation>Ce port n'existe pas</translation>
+    </message>
+    <message>
+        <source>Time of the falling edge</source>
+        <translation>Temps de descente</translation>
+    </message>
+    <message>
+        <source>Time of the rising edge</source>
+        <translation>Temps de montée</translation>
+    </message>
+    <message>
         <source>Time per division</source>
         <translation>Temps par division</translation>
     </message>
@@ -716,6 +992,10 @@
         <translation>En attente de la réponse à %1</translation>
     </message>
     <message>
+        <source>What is set</source>
+        <translation>Ce qui est réglé</translation>
+    </message>
+    <message>
         <source>What it shows</source>
         <translation>Ce que l'image montre</translation>
     </message>
@@ -730,6 +1010,14 @@
     <message>
         <source>Who saves it</source>
         <translation>Qui enregistre</translation>
+    </message>
+    <message>
+        <source>Width of the negative pulse</source>
+        <translation>Largeur de l'impulsion négative</translation>
+    </message>
+    <message>
+        <source>Width of the positive pulse</source>
+        <translation>Largeur de l'impulsion positive</translation>
     </message>
     <message>
         <source>Write the shown record to text.csv</source>

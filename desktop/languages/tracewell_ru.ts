@@ -4,6 +4,10 @@
 <context>
     <name>Panel</name>
     <message>
+        <source>%1 are chosen, and there is room for %2: the last cell shows the last.</source>
+        <translation>Выбрано %1, а мест %2: в последней ячейке будет последнее.</translation>
+    </message>
+    <message>
         <source>%1 could not be read whole and will be kept as %2</source>
         <translation>%1 прочитан не полностью и будет сохранён как %2</translation>
     </message>
@@ -52,6 +56,166 @@
         <translation>%1: настройка %2 из %3</translation>
     </message>
     <message>
+        <source>100mV per division</source>
+        <translation>100 мВ на деление</translation>
+    </message>
+    <message>
+        <source>100ms per division</source>
+        <translation>100 мс на деление</translation>
+    </message>
+    <message>
+        <source>100ns per division</source>
+        <translation>100 нс на деление</translation>
+    </message>
+    <message>
+        <source>100us per division</source>
+        <translation>100 мкс на деление</translation>
+    </message>
+    <message>
+        <source>10mV per division</source>
+        <translation>10 мВ на деление</translation>
+    </message>
+    <message>
+        <source>10ms per division</source>
+        <translation>10 мс на деление</translation>
+    </message>
+    <message>
+        <source>10ns per division</source>
+        <translation>10 нс на деление</translation>
+    </message>
+    <message>
+        <source>10us per division</source>
+        <translation>10 мкс на деление</translation>
+    </message>
+    <message>
+        <source>1V per division</source>
+        <translation>1 В на деление</translation>
+    </message>
+    <message>
+        <source>1ms per division</source>
+        <translation>1 мс на деление</translation>
+    </message>
+    <message>
+        <source>1s per division</source>
+        <translation>1 с на деление</translation>
+    </message>
+    <message>
+        <source>1us per division</source>
+        <translation>1 мкс на деление</translation>
+    </message>
+    <message>
+        <source>200mV per division</source>
+        <translation>200 мВ на деление</translation>
+    </message>
+    <message>
+        <source>200ms per division</source>
+        <translation>200 мс на деление</translation>
+    </message>
+    <message>
+        <source>200ns per division</source>
+        <translation>200 нс на деление</translation>
+    </message>
+    <message>
+        <source>200us per division</source>
+        <translation>200 мкс на деление</translation>
+    </message>
+    <message>
+        <source>20mV per division</source>
+        <translation>20 мВ на деление</translation>
+    </message>
+    <message>
+        <source>20ms per division</source>
+        <translation>20 мс на деление</translation>
+    </message>
+    <message>
+        <source>20ns per division</source>
+        <translation>20 нс на деление</translation>
+    </message>
+    <message>
+        <source>20us per division</source>
+        <translation>20 мкс на деление</translation>
+    </message>
+    <message>
+        <source>2V per division</source>
+        <translation>2 В на деление</translation>
+    </message>
+    <message>
+        <source>2mV per division</source>
+        <translation>2 мВ на деление</translation>
+    </message>
+    <message>
+        <source>2ms per division</source>
+        <translation>2 мс на деление</translation>
+    </message>
+    <message>
+        <source>2ns per division</source>
+        <translation>2 нс на деление</translation>
+    </message>
+    <message>
+        <source>2s per division</source>
+        <translation>2 с на деление</translation>
+    </message>
+    <message>
+        <source>2us per division</source>
+        <translation>2 мкс на деление</translation>
+    </message>
+    <message>
+        <source>500mV per division</source>
+        <translation>500 мВ на деление</translation>
+    </message>
+    <message>
+        <source>500ms per division</source>
+        <translation>500 мс на деление</translation>
+    </message>
+    <message>
+        <source>500ns per division</source>
+        <translation>500 нс на деление</translation>
+    </message>
+    <message>
+        <source>500us per division</source>
+        <translation>500 мкс на деление</translation>
+    </message>
+    <message>
+        <source>50mV per division</source>
+        <translation>50 мВ на деление</translation>
+    </message>
+    <message>
+        <source>50ms per division</source>
+        <translation>50 мс на деление</translation>
+    </message>
+    <message>
+        <source>50ns per division</source>
+        <translation>50 нс на деление</translation>
+    </message>
+    <message>
+        <source>50us per division</source>
+        <translation>50 мкс на деление</translation>
+    </message>
+    <message>
+        <source>5V per division</source>
+        <translation>5 В на деление</translation>
+    </message>
+    <message>
+        <source>5mV per division</source>
+        <translation>5 мВ на деление</translation>
+    </message>
+    <message>
+        <source>5ms per division</source>
+        <translation>5 мс на деление</translation>
+    </message>
+    <message>
+        <source>5ns per division</source>
+        <translation>5 нс на деление</translation>
+    </message>
+    <message>
+        <source>5s per division</source>
+        <translation>5 с на деление</translation>
+    </message>
+    <message>
+        <source>5us per division</source>
+        <translation>5 мкс на деление</translation>
+    </message>
+    <message>
         <source>About Tracewell</source>
         <translation>О программе Tracewell</translation>
     </message>
@@ -88,12 +252,28 @@
         <translation>Давность осциллограмм</translation>
     </message>
     <message>
+        <source>All of channel 1</source>
+        <translation>Все для канала 1</translation>
+    </message>
+    <message>
+        <source>All of channel 2</source>
+        <translation>Все для канала 2</translation>
+    </message>
+    <message>
+        <source>Amplitude: high level less low level</source>
+        <translation>Амплитуда: верхний уровень минус нижний</translation>
+    </message>
+    <message>
         <source>Attenuation of the probe</source>
         <translation>Коэффициент деления щупа</translation>
     </message>
     <message>
         <source>Bandwidth limit against noise</source>
         <translation>Ограничение полосы для подавления шума</translation>
+    </message>
+    <message>
+        <source>Both channels</source>
+        <translation>Оба канала</translation>
     </message>
     <message>
         <source>Brightness of the grid on the instrument, in percent</source>
@@ -106,6 +286,14 @@
     <message>
         <source>Brightness of the traces on the instrument, in percent</source>
         <translation>Яркость луча на экране прибора, в процентах</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Канал</translation>
+    </message>
+    <message>
+        <source>Channel %1</source>
+        <translation>Канал %1</translation>
     </message>
     <message>
         <source>Channel is displayed</source>
@@ -244,8 +432,24 @@
         <translation>Формат файла рисунка</translation>
     </message>
     <message>
+        <source>Frequency</source>
+        <translation>Частота</translation>
+    </message>
+    <message>
         <source>Frequency Reject</source>
         <translation>Подавление частот</translation>
+    </message>
+    <message>
+        <source>High level</source>
+        <translation>Верхний уровень</translation>
+    </message>
+    <message>
+        <source>Highest value</source>
+        <translation>Наибольшее значение</translation>
+    </message>
+    <message>
+        <source>Hint</source>
+        <translation>Подсказка</translation>
     </message>
     <message>
         <source>Horizontal position in divisions</source>
@@ -268,12 +472,20 @@
         <translation>Как выглядит осциллограмма</translation>
     </message>
     <message>
+        <source>In use by another program: %1</source>
+        <translation>Занят другой программой: %1</translation>
+    </message>
+    <message>
         <source>In use: %1. The line settings of the setup: %2</source>
         <translation>Используется: %1. Параметры линии в настройках: %2</translation>
     </message>
     <message>
         <source>In use: %1. The setup: %2 (OK in the RS-232 dialog applies it)</source>
         <translation>Используется: %1. В настройках: %2 (применит OK в окне RS-232)</translation>
+    </message>
+    <message>
+        <source>Keep what has been set</source>
+        <translation>Оставить то, что установлено</translation>
     </message>
     <message>
         <source>Lay a data file over the traces</source>
@@ -316,12 +528,32 @@
         <translation>Загружено: %1</translation>
     </message>
     <message>
+        <source>Low level</source>
+        <translation>Нижний уровень</translation>
+    </message>
+    <message>
+        <source>Lowest value</source>
+        <translation>Наименьшее значение</translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation>Среднее</translation>
+    </message>
+    <message>
+        <source>Measure nothing</source>
+        <translation>Ничего не измерять</translation>
+    </message>
+    <message>
         <source>Measure time</source>
         <translation>Измерять время</translation>
     </message>
     <message>
         <source>Measure voltage</source>
         <translation>Измерять напряжение</translation>
+    </message>
+    <message>
+        <source>Measure what is ticked</source>
+        <translation>Измерить отмеченное</translation>
     </message>
     <message>
         <source>Measurement 1</source>
@@ -416,6 +648,18 @@
         <translation>Подавление шума</translation>
     </message>
     <message>
+        <source>None of channel 1</source>
+        <translation>Ничего для канала 1</translation>
+    </message>
+    <message>
+        <source>None of channel 2</source>
+        <translation>Ничего для канала 2</translation>
+    </message>
+    <message>
+        <source>Not present: %1</source>
+        <translation>Отсутствует: %1</translation>
+    </message>
+    <message>
         <source>Notice</source>
         <translation>Уведомление</translation>
     </message>
@@ -440,6 +684,14 @@
         <translation>Бит чётности байта</translation>
     </message>
     <message>
+        <source>Peak to peak</source>
+        <translation>Размах</translation>
+    </message>
+    <message>
+        <source>Period</source>
+        <translation>Период</translation>
+    </message>
+    <message>
         <source>Pick the time per division</source>
         <translation>Выбрать время на деление</translation>
     </message>
@@ -454,6 +706,10 @@
     <message>
         <source>Picture of the chosen waveform</source>
         <translation>Рисунок выбранной осциллограммы</translation>
+    </message>
+    <message>
+        <source>Positive width in percent of the period</source>
+        <translation>Длительность положительного импульса в процентах периода</translation>
     </message>
     <message>
         <source>Print the graph</source>
@@ -486,6 +742,10 @@
     <message>
         <source>Replies and records</source>
         <translation>Ответы и записи</translation>
+    </message>
+    <message>
+        <source>Root mean square</source>
+        <translation>Среднеквадратичное значение</translation>
     </message>
     <message>
         <source>Run or stop the acquisition of the instrument itself</source>
@@ -546,6 +806,10 @@
     <message>
         <source>Send the command</source>
         <translation>Отправить команду</translation>
+    </message>
+    <message>
+        <source>Set it and stay open, to try others</source>
+        <translation>Установить и не закрывать, чтобы попробовать другие</translation>
     </message>
     <message>
         <source>Setup loaded from %1</source>
@@ -644,6 +908,18 @@
         <translation>Не удалось сохранить настройки в %1.</translation>
     </message>
     <message>
+        <source>There is no such port</source>
+        <translation>Такого порта нет</translation>
+    </message>
+    <message>
+        <source>Time of the falling edge</source>
+        <translation>Время спада</translation>
+    </message>
+    <message>
+        <source>Time of the rising edge</source>
+        <translation>Время нарастания</translation>
+    </message>
+    <message>
         <source>Time per division</source>
         <translation>Время на деление</translation>
     </message>
@@ -716,6 +992,10 @@
         <translation>Ожидание ответа на %1</translation>
     </message>
     <message>
+        <source>What is set</source>
+        <translation>Что устанавливается</translation>
+    </message>
+    <message>
         <source>What it shows</source>
         <translation>Что на нём показано</translation>
     </message>
@@ -730,6 +1010,14 @@
     <message>
         <source>Who saves it</source>
         <translation>Кто сохраняет</translation>
+    </message>
+    <message>
+        <source>Width of the negative pulse</source>
+        <translation>Длительность отрицательного импульса</translation>
+    </message>
+    <message>
+        <source>Width of the positive pulse</source>
+        <translation>Длительность положительного импульса</translation>
     </message>
     <message>
         <source>Write the shown record to text.csv</source>

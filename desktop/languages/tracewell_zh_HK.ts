@@ -4,6 +4,10 @@
 <context>
     <name>Panel</name>
     <message>
+        <source>%1 are chosen, and there is room for %2: the last cell shows the last.</source>
+        <translation>揀咗 %1 項，得 %2 格：最後一格顯示最後一項。</translation>
+    </message>
+    <message>
         <source>%1 could not be read whole and will be kept as %2</source>
         <translation>%1 讀唔晒，會保留做 %2</translation>
     </message>
@@ -52,6 +56,166 @@
         <translation>%1：第 %2 項設定，共 %3 項</translation>
     </message>
     <message>
+        <source>100mV per division</source>
+        <translation>每格 100 mV</translation>
+    </message>
+    <message>
+        <source>100ms per division</source>
+        <translation>每格 100 ms</translation>
+    </message>
+    <message>
+        <source>100ns per division</source>
+        <translation>每格 100 ns</translation>
+    </message>
+    <message>
+        <source>100us per division</source>
+        <translation>每格 100 µs</translation>
+    </message>
+    <message>
+        <source>10mV per division</source>
+        <translation>每格 10 mV</translation>
+    </message>
+    <message>
+        <source>10ms per division</source>
+        <translation>每格 10 ms</translation>
+    </message>
+    <message>
+        <source>10ns per division</source>
+        <translation>每格 10 ns</translation>
+    </message>
+    <message>
+        <source>10us per division</source>
+        <translation>每格 10 µs</translation>
+    </message>
+    <message>
+        <source>1V per division</source>
+        <translation>每格 1 V</translation>
+    </message>
+    <message>
+        <source>1ms per division</source>
+        <translation>每格 1 ms</translation>
+    </message>
+    <message>
+        <source>1s per division</source>
+        <translation>每格 1 s</translation>
+    </message>
+    <message>
+        <source>1us per division</source>
+        <translation>每格 1 µs</translation>
+    </message>
+    <message>
+        <source>200mV per division</source>
+        <translation>每格 200 mV</translation>
+    </message>
+    <message>
+        <source>200ms per division</source>
+        <translation>每格 200 ms</translation>
+    </message>
+    <message>
+        <source>200ns per division</source>
+        <translation>每格 200 ns</translation>
+    </message>
+    <message>
+        <source>200us per division</source>
+        <translation>每格 200 µs</translation>
+    </message>
+    <message>
+        <source>20mV per division</source>
+        <translation>每格 20 mV</translation>
+    </message>
+    <message>
+        <source>20ms per division</source>
+        <translation>每格 20 ms</translation>
+    </message>
+    <message>
+        <source>20ns per division</source>
+        <translation>每格 20 ns</translation>
+    </message>
+    <message>
+        <source>20us per division</source>
+        <translation>每格 20 µs</translation>
+    </message>
+    <message>
+        <source>2V per division</source>
+        <translation>每格 2 V</translation>
+    </message>
+    <message>
+        <source>2mV per division</source>
+        <translation>每格 2 mV</translation>
+    </message>
+    <message>
+        <source>2ms per division</source>
+        <translation>每格 2 ms</translation>
+    </message>
+    <message>
+        <source>2ns per division</source>
+        <translation>每格 2 ns</translation>
+    </message>
+    <message>
+        <source>2s per division</source>
+        <translation>每格 2 s</translation>
+    </message>
+    <message>
+        <source>2us per division</source>
+        <translation>每格 2 µs</translation>
+    </message>
+    <message>
+        <source>500mV per division</source>
+        <translation>每格 500 mV</translation>
+    </message>
+    <message>
+        <source>500ms per division</source>
+        <translation>每格 500 ms</translation>
+    </message>
+    <message>
+        <source>500ns per division</source>
+        <translation>每格 500 ns</translation>
+    </message>
+    <message>
+        <source>500us per division</source>
+        <translation>每格 500 µs</translation>
+    </message>
+    <message>
+        <source>50mV per division</source>
+        <translation>每格 50 mV</translation>
+    </message>
+    <message>
+        <source>50ms per division</source>
+        <translation>每格 50 ms</translation>
+    </message>
+    <message>
+        <source>50ns per division</source>
+        <translation>每格 50 ns</translation>
+    </message>
+    <message>
+        <source>50us per division</source>
+        <translation>每格 50 µs</translation>
+    </message>
+    <message>
+        <source>5V per division</source>
+        <translation>每格 5 V</translation>
+    </message>
+    <message>
+        <source>5mV per division</source>
+        <translation>每格 5 mV</translation>
+    </message>
+    <message>
+        <source>5ms per division</source>
+        <translation>每格 5 ms</translation>
+    </message>
+    <message>
+        <source>5ns per division</source>
+        <translation>每格 5 ns</translation>
+    </message>
+    <message>
+        <source>5s per division</source>
+        <translation>每格 5 s</translation>
+    </message>
+    <message>
+        <source>5us per division</source>
+        <translation>每格 5 µs</translation>
+    </message>
+    <message>
         <source>About Tracewell</source>
         <translation>關於 Tracewell</translation>
     </message>
@@ -88,12 +252,28 @@
         <translation>波形有幾舊</translation>
     </message>
     <message>
+        <source>All of channel 1</source>
+        <translation>通道 1 全選</translation>
+    </message>
+    <message>
+        <source>All of channel 2</source>
+        <translation>通道 2 全選</translation>
+    </message>
+    <message>
+        <source>Amplitude: high level less low level</source>
+        <translation>幅度：高電平減低電平</translation>
+    </message>
+    <message>
         <source>Attenuation of the probe</source>
         <translation>探頭嘅衰減比</translation>
     </message>
     <message>
         <source>Bandwidth limit against noise</source>
         <translation>限制頻寬以減少噪音</translation>
+    </message>
+    <message>
+        <source>Both channels</source>
+        <translation>兩個通道</translation>
     </message>
     <message>
         <source>Brightness of the grid on the instrument, in percent</source>
@@ -106,6 +286,14 @@
     <message>
         <source>Brightness of the traces on the instrument, in percent</source>
         <translation>儀器畫面上波形嘅亮度（百分比）</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>通道</translation>
+    </message>
+    <message>
+        <source>Channel %1</source>
+        <translation>通道 %1</translation>
     </message>
     <message>
         <source>Channel is displayed</source>
@@ -244,8 +432,24 @@
         <translation>圖片檔案嘅格式</translation>
     </message>
     <message>
+        <source>Frequency</source>
+        <translation>頻率</translation>
+    </message>
+    <message>
         <source>Frequency Reject</source>
         <translation>頻率抑制</translation>
+    </message>
+    <message>
+        <source>High level</source>
+        <translation>高電平</translation>
+    </message>
+    <message>
+        <source>Highest value</source>
+        <translation>最大值</translation>
+    </message>
+    <message>
+        <source>Hint</source>
+        <translation>提示</translation>
     </message>
     <message>
         <source>Horizontal position in divisions</source>
@@ -268,12 +472,20 @@
         <translation>波形嘅樣</translation>
     </message>
     <message>
+        <source>In use by another program: %1</source>
+        <translation>被其他程式佔用：%1</translation>
+    </message>
+    <message>
         <source>In use: %1. The line settings of the setup: %2</source>
         <translation>用緊：%1。設定入面嘅線路參數：%2</translation>
     </message>
     <message>
         <source>In use: %1. The setup: %2 (OK in the RS-232 dialog applies it)</source>
         <translation>用緊：%1。設定入面：%2（喺 RS-232 視窗撳「確定」就生效）</translation>
+    </message>
+    <message>
+        <source>Keep what has been set</source>
+        <translation>保留已設定嘅值</translation>
     </message>
     <message>
         <source>Lay a data file over the traces</source>
@@ -316,12 +528,32 @@
         <translation>載入咗 %1</translation>
     </message>
     <message>
+        <source>Low level</source>
+        <translation>低電平</translation>
+    </message>
+    <message>
+        <source>Lowest value</source>
+        <translation>最小值</translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation>平均值</translation>
+    </message>
+    <message>
+        <source>Measure nothing</source>
+        <translation>唔量度</translation>
+    </message>
+    <message>
         <source>Measure time</source>
         <translation>量度時間</translation>
     </message>
     <message>
         <source>Measure voltage</source>
         <translation>量度電壓</translation>
+    </message>
+    <message>
+        <source>Measure what is ticked</source>
+        <translation>量度已剔選嘅項目</translation>
     </message>
     <message>
         <source>Measurement 1</source>
@@ -416,6 +648,18 @@
         <translation>噪音抑制</translation>
     </message>
     <message>
+        <source>None of channel 1</source>
+        <translation>通道 1 全部唔選</translation>
+    </message>
+    <message>
+        <source>None of channel 2</source>
+        <translation>通道 2 全部唔選</translation>
+    </message>
+    <message>
+        <source>Not present: %1</source>
+        <translation>搵唔到：%1</translation>
+    </message>
+    <message>
         <source>Notice</source>
         <translation>提示</translation>
     </message>
@@ -440,6 +684,14 @@
         <translation>每個位元組嘅奇偶校驗位元</translation>
     </message>
     <message>
+        <source>Peak to peak</source>
+        <translation>峰峰值</translation>
+    </message>
+    <message>
+        <source>Period</source>
+        <translation>週期</translation>
+    </message>
+    <message>
         <source>Pick the time per division</source>
         <translation>揀選每格時間</translation>
     </message>
@@ -454,6 +706,10 @@
     <message>
         <source>Picture of the chosen waveform</source>
         <translation>揀選咗嘅波形嘅圖片</translation>
+    </message>
+    <message>
+        <source>Positive width in percent of the period</source>
+        <translation>正脈寬佔週期嘅百分比</translation>
     </message>
     <message>
         <source>Print the graph</source>
@@ -486,6 +742,10 @@
     <message>
         <source>Replies and records</source>
         <translation>回應同記錄</translation>
+    </message>
+    <message>
+        <source>Root mean square</source>
+        <translation>均方根值</translation>
     </message>
     <message>
         <source>Run or stop the acquisition of the instrument itself</source>
@@ -546,6 +806,10 @@
     <message>
         <source>Send the command</source>
         <translation>傳送指令</translation>
+    </message>
+    <message>
+        <source>Set it and stay open, to try others</source>
+        <translation>設定並保持開啟，方便試其他值</translation>
     </message>
     <message>
         <source>Setup loaded from %1</source>
@@ -644,6 +908,18 @@
         <translation>設定儲存唔到去 %1。</translation>
     </message>
     <message>
+        <source>There is no such port</source>
+        <translation>冇呢個連接埠</translation>
+    </message>
+    <message>
+        <source>Time of the falling edge</source>
+        <translation>下降時間</translation>
+    </message>
+    <message>
+        <source>Time of the rising edge</source>
+        <translation>上升時間</translation>
+    </message>
+    <message>
         <source>Time per division</source>
         <translation>每格時間</translation>
     </message>
@@ -716,6 +992,10 @@
         <translation>等緊 %1 嘅回應</translation>
     </message>
     <message>
+        <source>What is set</source>
+        <translation>設定對象</translation>
+    </message>
+    <message>
         <source>What it shows</source>
         <translation>圖入面係乜嘢</translation>
     </message>
@@ -730,6 +1010,14 @@
     <message>
         <source>Who saves it</source>
         <translation>邊個儲存</translation>
+    </message>
+    <message>
+        <source>Width of the negative pulse</source>
+        <translation>負脈寬</translation>
+    </message>
+    <message>
+        <source>Width of the positive pulse</source>
+        <translation>正脈寬</translation>
     </message>
     <message>
         <source>Write the shown record to text.csv</source>

@@ -169,7 +169,7 @@ class Hands : public Played {
 
   bool areOnKeys_;
   QObject timer_;
-  DesktopWindows desktop_;
+  DesktopWindows desktop_{folder.path()};
 };
 
 class HandsTest : public testing::TestWithParam<std::tuple<const char*, bool>> {};
