@@ -107,6 +107,7 @@ Lines split(const std::string& text, const std::string& separator) {
 
 Played::Played() {
   program.start();
+  // As after the first exchange of any dialog.
   port.readTimeOut = ReplyTimeout(main);
   for (Window* window : program.otherWindows()) newIn(*window);
   newIn(main);
@@ -227,74 +228,81 @@ void Played::step(Window& window, const std::string& text) {
 }
 
 bool Played::setUp(const std::string& name, const std::string& value) {
+  const auto number = [&value] { return std::stoi(value); };
+  const auto record = [&number] {
+    return makeRecord([sample = number()](int i) { return i == 0 ? 0 : sample; });
+  };
+  const auto deliver = [&](const char* tag) {
+    port.tag = tag;
+    port.deliver(makeRecord([first = number()](int i) { return first + i; }));
+  };
+  const auto drag = [&](const char* cursor) {
+    main.graphDSO.dragCursor(main.graphDSO.cursor(cursor), std::stod(value),
+                             std::stod(value.substr(value.find(':') + 1)));
+  };
+  const std::size_t blank = value.find(' ');
+  const std::map<std::string, std::function<void()>> steps = {
+      {"plug", [&] { port.answerLikeAnInstrument(); }},
+      {"connected", [&] { connect(); }},
+      {"faults", [&] { port.faults = number(); }},
+      {"baud", [&] { main.BaudRate = toInt16(value); }},
+      {"file", [&] { dialogs.pickedFile = value.empty() ? "" : folder.path() / value; }},
+      {"colour",
+       [&] {
+         dialogs.colour = {static_cast<std::uint8_t>(number()), 2, 3};
+       }},
+      {"write",
+       [&] {
+         std::string text = value.substr(blank + 1);
+         replaceAll(text, "\\n", "\r\n");
+         writeWholeFile(folder.path() / value.substr(0, blank), text);
+       }},
+      {"remove", [&] { std::filesystem::remove(folder.path() / value); }},
+      {"folder", [&] { std::filesystem::create_directory(folder.path() / value); }},
+      {"answer", [&] { dialogs.answer = value == "no" ? Answer::No : Answer::Yes; }},
+      {"give up", [&] { standBy.giveUp(); }},
+      {"cur1", [&] { drag("cur1"); }},
+      {"cur2", [&] { drag("cur2"); }},
+      {"wait", [&] { clock.run(number()); }},
+      {"at",
+       [&] {
+         clock.callAfter(number(), [this, later = value.substr(blank + 1)] { step(main, later); });
+       }},
+      {"record1", [&] { main.Ch1Raw = record(); }},
+      {"record2", [&] { main.Ch2Raw = record(); }},
+      {"trace1", [&] { deliver("1"); }},
+      {"trace2", [&] { deliver("2"); }},
+      {"opened", [&] { port.timesOpened = number(); }},
+      {"truth",
+       [&] {
+         isTruthTold_ = true;
+         newIn(main);
+       }},
+      {"status",
+       [&] { main.lblStatus.changed = [this] { note("'" + main.lblStatus.caption() + "'"); }; }}};
+  if (const auto found = steps.find(name); found != steps.end()) {
+    found->second();
+    return true;
+  }
+  if (name.starts_with("row")) setRow(std::stoi(name.substr(3)), split(value, " "));
   if (name.ends_with('?')) {
     port.replies[name].clear();
     for (const std::string& line : split(value, "|")) port.replies[name].push_back(line + "\n");
-  } else if (name.starts_with("row")) {
-    setRow(std::stoi(name.substr(3)), split(value, " "));
-  } else if (name == "connected") {
-    port.answerLikeAnInstrument();
-    main.cmdStart.press();
-    newIn(main);
-    events_.clear();
-    start_ = clock.milliseconds();
-  } else if (name == "plug") {
-    port.answerLikeAnInstrument();
-  } else if (name == "faults") {
-    port.faults = std::stoi(value);
-  } else if (name == "baud") {
-    main.BaudRate = toInt16(value);
-  } else if (name == "file") {
-    dialogs.pickedFile = value.empty() ? std::filesystem::path() : folder.path() / value;
-  } else if (name == "colour") {
-    const Lines parts = split(value, " ");
-    const auto part = [&](std::size_t i) { return static_cast<std::uint8_t>(std::stoi(parts[i])); };
-    dialogs.colour = {part(0), part(1), part(2)};
-  } else if (name == "write") {
-    const std::size_t blank = value.find(' ');
-    std::string text = value.substr(blank + 1);
-    replaceAll(text, "\\n", "\r\n");
-    writeWholeFile(folder.path() / value.substr(0, blank), text);
-  } else if (name == "remove") {
-    std::filesystem::remove(folder.path() / value);
-  } else if (name == "folder") {
-    std::filesystem::create_directory(folder.path() / value);
-  } else if (name == "answer") {
-    dialogs.answer = value == "no" ? Answer::No : Answer::Yes;
-  } else if (name == "give up") {
-    standBy.giveUp();
-  } else if (name == "cur1" || name == "cur2") {
-    const Lines at = split(value, ":");
-    main.graphDSO.dragCursor(main.graphDSO.cursor(name), std::stod(at[0]), std::stod(at[1]));
-  } else if (name == "wait") {
-    clock.run(std::stoi(value));
-  } else if (name == "at") {
-    const std::size_t space = value.find(' ');
-    clock.callAfter(std::stoi(value),
-                    [this, later = value.substr(space + 1)] { step(main, later); });
-  } else if (name == "record1" || name == "record2") {
-    (name == "record1" ? main.Ch1Raw : main.Ch2Raw) =
-        makeRecord([sample = std::stoi(value)](int i) { return i == 0 ? 0 : sample; });
-  } else if (name == "trace1" || name == "trace2") {
-    port.tag = name.substr(5);
-    port.deliver(makeRecord([sample = std::stoi(value)](int i) { return sample + i; }));
-  } else if (name == "truth") {
-    isTruthTold_ = true;
-    newIn(main);
-  } else if (name == "opened") {
-    port.timesOpened = std::stoi(value);
-  } else if (name == "status") {
-    main.lblStatus.changed = [this] { note("'" + main.lblStatus.caption() + "'"); };
-  } else {
-    for (Control* control : main.controls())
-      if (auto* label = dynamic_cast<ValueLabel*>(control);
-          label && label->objectName() + ":" == name) {
-        label->caption = value;
-        return true;
-      }
-    return false;
   }
-  return true;
+  for (Control* control : main.controls())
+    if (auto* label = dynamic_cast<ValueLabel*>(control);
+        label && name == label->objectName() + ":")
+      label->caption = value;
+  return name.starts_with("row") || name.ends_with('?') || name.ends_with(':');
+}
+
+void Played::connect() {
+  port.answerLikeAnInstrument();
+  main.cmdStart.press();
+  main.TriggerSource = 0;
+  newIn(main);
+  events_.clear();
+  start_ = clock.milliseconds();
 }
 
 void Played::use(Control& control, const std::string& value) {

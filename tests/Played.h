@@ -30,6 +30,7 @@ class Played : public Bench {
 
  private:
   void step(Window& window, const std::string& text);
+  void connect();
   bool setUp(const std::string& name, const std::string& value);
   std::map<std::string, std::string> shownBy(Window& window);
   std::string newIn(Window& window);

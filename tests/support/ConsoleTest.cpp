@@ -6,12 +6,10 @@
 
 namespace tracewell {
 
-class ConsoleTest : public ProgramTest {
- protected:
-  frmCmd& console = program.console;
-};
+using ConsoleTest = ProgramTest;
 
 TEST_F(ConsoleTest, HundredEntriesAreTheLimit) {
+  frmCmd& console = program.console;
   std::string list = "'";
   for (int i = 0; i < 100; ++i) list += "1,:N" + std::to_string(i) + ",h,d\r\n";
   for (const char* more : {"", "1,:X,h,d\r\n"}) {
@@ -26,6 +24,7 @@ TEST_F(ConsoleTest, HundredEntriesAreTheLimit) {
 }
 
 TEST_F(ConsoleTest, ShippedListIsReadWhole) {
+  frmCmd& console = program.console;
   main.mnbDSOcmd.choose();
   EXPECT_TRUE(logLines().empty());
   // With room for the user's own.

@@ -100,68 +100,60 @@ class LineScript : OnALine<PacedOpener> {
   std::string bytes_;
 };
 
-class ConversationTest : public testing::Test, protected OnALine<PacedOpener> {
- protected:
-  std::int64_t elapsed() {
-    return clock.milliseconds() - std::exchange(start_, clock.milliseconds());
-  }
-
-  FarEnd& farEnd = opener.farEnd;
-  PortUser user{port};
-
- private:
-  std::int64_t start_ = 0;
-};
-
 TEST(LineScriptTest, ComesToWhatStandsBelowIt) {
   playFile("line.txt", [](const std::string& script) { return LineScript().play(script); });
 }
 
 /// The screen has its turn, and nothing of the program runs.
-TEST_F(ConversationTest, WaitKeepsTheDesktopAliveAndTheProgramStill) {
-  farEnd.thought = 1e9;
-  farEnd.answer = [](const std::string&) { return ""; };
+TEST(ConversationTest, WaitKeepsTheDesktopAliveAndTheProgramStill) {
+  OnALine<PacedOpener> line;
+  PortUser user(line.port);
+  line.opener.farEnd.answer = [](const std::string&) { return ""; };
+  const auto timed = [&line](const std::function<void()>& act) {
+    const std::int64_t start = line.clock.milliseconds();
+    act();
+    return line.clock.milliseconds() - start;
+  };
   int handled = 0;
   int turns = 0;
-  clock.meanwhile = [&] {
+  line.clock.meanwhile = [&] {
     ++turns;
-    dispatcher.dispatch([&] { ++handled; });
+    line.dispatcher.dispatch([&] { ++handled; });
   };
   user.ask("A?");
   EXPECT_GE(turns, 2000 / 100);
   EXPECT_EQ(handled, 0);
-  clock.meanwhile = {};
-  dispatcher.dispatch([&] { ++handled; });
+  line.clock.meanwhile = {};
+  line.dispatcher.dispatch([&] { ++handled; });
   EXPECT_EQ(handled, 1);
 
   // Giving up ends the waits of the burst, and no others.
-  elapsed();
-  clock.run(Conversation::longestThought + 1000);
+  line.clock.run(Conversation::longestThought + 1000);
   {
-    const StandBy::Burst burst(standBy);
-    clock.callAfter(500, [&] { standBy.giveUp(); });
-    elapsed();
-    for (int i = 0; i < 10; ++i) EXPECT_EQ(user.ask("A?"), std::to_string(portReadTimeOut));
-    EXPECT_LE(elapsed(), 600);
+    const StandBy::Burst burst(line.standBy);
+    line.clock.callAfter(500, [&] { line.standBy.giveUp(); });
+    const auto askMany = [&] {
+      for (int i = 0; i < 10; ++i) EXPECT_EQ(user.ask("A?"), std::to_string(portReadTimeOut));
+    };
+    EXPECT_LE(timed(askMany), 600);
   }
-  standBy.giveUp();
-  EXPECT_FALSE(standBy.isGivenUp());
+  line.standBy.giveUp();
+  EXPECT_FALSE(line.standBy.isGivenUp());
 
   // The end is thrown out of the wait, and runs when the waiting handler is over.
   bool hasEnded = false;
   bool isOver = false;
-  clock.callAfter(200, [&] { dispatcher.dispatchEnd([&] { hasEnded = isOver; }); });
-  elapsed();
-  dispatcher.dispatch([&] {
+  line.clock.callAfter(200, [&] { line.dispatcher.dispatchEnd([&] { hasEnded = isOver; }); });
+  const auto waitAndEnd = [&] {
     try {
       user.ask("A?");
     } catch (const ProgramEnded&) {
       isOver = true;
       throw;
     }
-  });
+  };
+  EXPECT_LE(timed([&] { line.dispatcher.dispatch(waitAndEnd); }), 300);
   EXPECT_TRUE(hasEnded);
-  EXPECT_LE(elapsed(), 300);
 }
 
 }  // namespace
