@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "WaveformRecord.h"
 
+#include <algorithm>
 #include <charconv>
 #include <limits>
 
@@ -51,17 +52,16 @@ Samples shiftSamples(std::string_view record, std::int16_t shift) {
 }
 
 std::string recordText(std::int16_t channel, const Samples& samples) {
+  constexpr std::string_view lineEnd = "\r\n";
   constexpr std::size_t longestValue = 7;
-  constexpr std::size_t lineEnd = 2;
-  std::array<char, (SharedState::sampleCount + 1) * longestValue + lineEnd> buffer;
-  char* const valuesEnd = buffer.data() + buffer.size() - lineEnd;
-  char* end = std::to_chars(buffer.data(), valuesEnd, channel).ptr;
+  std::array<char, (SharedState::sampleCount + 1) * longestValue + lineEnd.size()> buffer;
+  char* const bufferEnd = buffer.data() + buffer.size();
+  char* end = std::to_chars(buffer.data(), bufferEnd, channel).ptr;
   for (const std::int16_t sample : samples) {
     *end++ = ',';
-    end = std::to_chars(end, valuesEnd, sample).ptr;
+    end = std::to_chars(end, bufferEnd, sample).ptr;
   }
-  *end++ = '\r';
-  *end++ = '\n';
+  end = std::ranges::copy(lineEnd, end).out;
   return {buffer.data(), end};
 }
 
