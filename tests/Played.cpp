@@ -5,6 +5,7 @@
 
 #include "Files.h"
 #include "Numbers.h"
+#include "TriggerMarker.h"
 #include "Waiting.h"
 
 namespace tracewell {
@@ -300,6 +301,7 @@ void Played::connect() {
   port.answerLikeAnInstrument();
   main.cmdStart.press();
   main.TriggerSource = 0;
+  UpdateTriggerMarker(main);
   newIn(main);
   events_.clear();
   start_ = clock.milliseconds();
