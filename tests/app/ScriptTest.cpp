@@ -10,6 +10,7 @@ TEST_P(ScriptTest, ComesToWhatStandsBelowIt) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Files, ScriptTest,
-                         testing::Values("link.txt", "panel.txt", "view.txt", "files.txt", "truth.txt"));
+                         testing::Values("link.txt", "panel.txt", "view.txt", "files.txt",
+                                         "truth.txt"));
 
 }  // namespace tracewell

@@ -47,6 +47,8 @@ class AliveTest(SystemTestCase):
         self.assertLess(time.monotonic() - given_up, 2)
         self.program.focus(trigger)
         self.program.keys("Escape")
+        self.program.closed("Trigger")
+        self.program.focus(self.program.window)
         self.begin_to_wait("ctrl+t")
         self.end()
 

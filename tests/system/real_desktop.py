@@ -176,7 +176,7 @@ class Program:
         self.focus(self.window)
         self.keys("ctrl+q")
         self.focus(self.find("Tracewell"))
-        self.keys("alt+y")
+        self.keys("Return")
         self.process.wait(10)
 
     def remove(self):

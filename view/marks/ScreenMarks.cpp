@@ -31,7 +31,8 @@ ShownChannel channel(const frmDSO& main, int number) {
                      scale,       isFirst ? main.cbCh1 : main.cbCh2, std::nullopt,
                      std::nullopt};
   if (!slide.isUnread()) shown.zero = position * Graph::unitsPerDivision;
-  if (!scale.isUnread() && !scale.isStale()) shown.voltsPerDivision = trueScale(scale.caption(), "V");
+  if (!scale.isUnread() && !scale.isStale())
+    shown.voltsPerDivision = trueScale(scale.caption(), "V");
   return shown;
 }
 
