@@ -27,6 +27,8 @@ struct FarEnd {
   /// After so many bytes the line is gone.
   std::size_t hangUpAfter = std::string::npos;
   bool isAway = false;
+  /// It takes nothing more, but may still send.
+  bool isDeaf = false;
   int opened = 0;
 };
 
@@ -35,7 +37,7 @@ class PacedChannel : public ByteChannel {
   PacedChannel(FarEnd& farEnd, VirtualClock& clock) : farEnd_(farEnd), clock_(clock) {}
 
   void write(std::string_view bytes) override {
-    if (isGone()) throw Error(deviceError, "RS232", "gone");
+    if (isGone() || farEnd_.isDeaf) throw Error(deviceError, "RS232", "gone");
     const std::string line(bytes.substr(0, bytes.size() - 2));
     const std::string answer = farEnd_.answer(line);
     sendFrom(static_cast<double>(clock_.milliseconds()) + farEnd_.thought, answer);

@@ -52,7 +52,11 @@ std::string textOf(const Control& control) {
     return textOf(line->borderColour()) + (line->borderStyle() == Line::solid ? "" : " dotted");
   if (auto* bar = as<Progress>(control)) return std::to_string(bar->percent());
   if (auto* picture = as<PictureBox>(control)) return picture->image().pixels;
-  if (auto* list = as<ListBox>(control)) return list->chosenText();
+  if (auto* list = as<ListBox>(control)) {
+    std::string text = list->chosenText() + " of";
+    for (const std::string& item : list->items()) text += " " + item;
+    return text;
+  }
   if (auto* tree = as<Tree>(control)) {
     std::string text;
     for (const Tree::Node& node : tree->nodes())

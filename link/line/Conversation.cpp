@@ -56,7 +56,6 @@ std::string Conversation::ask(std::string_view query, int timeOut) {
   try {
     std::string reply = awaitReply(askedAt_ + timeOut);
     unanswered_ = 0;
-    unansweredInRow_ = 0;
     state_ = State::idle;
     return reply;
   } catch (...) {
@@ -92,7 +91,6 @@ void Conversation::close() {
 void Conversation::forget() {
   state_ = State::idle;
   unanswered_ = 0;
-  unansweredInRow_ = 0;
   isStray_ = false;
 }
 
@@ -190,7 +188,7 @@ void Conversation::makeReadyToAsk(int timeOut) {
   drainTime_ = std::max(timeOut + drainMargin, longestThought);
   review();
   if (state_ == State::recordAwaited) finishRecord();
-  // A pause as long as a drain: the instrument gets another chance.
+  // It has answered, or there was a pause as long as a drain: it gets another chance.
   if (state_ == State::idle) unansweredInRow_ = 0;
   if (!isSilent()) drain(timeOut);
 }

@@ -31,10 +31,12 @@ TEST_F(ConnectTest, ClosingReleasesThePanelThenSavesThenUnloads) {
   program.exchange.SendDSOCmd(":Run");
   main.gridMeasure.setText(0, 0, "changed");
   program.rs232.load();
+  port.resets = 0;
   Lines events;
   port.told = [&](const std::string& line) { events.push_back(line + " " + savedRow()); };
   windows.unloaded = [&](Window& window) { events.push_back(window.name() + " " + savedRow()); };
   main.cmdClose.press();
+  EXPECT_EQ(port.resets, 1);
   EXPECT_EQ(events, (Lines{":SYST:UNL RS232", "frmRS232 changed", "frmDSO changed"}));
 }
 

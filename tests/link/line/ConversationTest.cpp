@@ -41,11 +41,11 @@ class LineScript : OnALine<PacedOpener> {
  private:
   void act(const std::string& name, const std::string& value) {
     const double number = std::atof(value.c_str());
+    if (name == "send") attempt(value, [&] { user_.send(value); });
     if (name.ends_with('?')) ask(name);
     if (name == "ask")
       for (int i = 1; i <= number; ++i) ask("Q" + std::to_string(i) + "?");
     if (name == "record") user_.request(value);
-    if (name == "send") user_.send(value);
     if (name == "run") clock.run(static_cast<int>(number));
     if (name == "sleep") clock.sleep(static_cast<int>(number));
     if (name == "reset") port.reset();
@@ -58,6 +58,7 @@ class LineScript : OnALine<PacedOpener> {
     if (name == "hang up") farEnd.hangUpAfter = value.empty() ? std::string::npos : 0;
     if (name == "unasked")
       for (int i = 0; i < number; ++i) farEnd.unasked += i % 10 == 9 ? '\n' : '5';
+    if (name == "refuse") farEnd.isDeaf = number != 0;
     if (name == "ignored") ignored_ = static_cast<int>(number);
     if (name == "length") length_ = static_cast<std::size_t>(number);
     if (name == "bytes") bytes_ = value.empty() ? "" : std::string(length_, 'x') + "\n";
@@ -68,14 +69,19 @@ class LineScript : OnALine<PacedOpener> {
   }
 
   void ask(const std::string& query) {
-    try {
+    attempt(query, [&] {
       std::string reply = user_.ask(query);
       if (reply == query + "\n") reply = "right";
       if (reply == std::to_string(portReadTimeOut)) reply = "none";
       if (reply.ends_with('\n')) reply.back() = '^';
       note(query + " " + (reply.size() > 60 ? std::to_string(reply.size()) : reply));
+    });
+  }
+  void attempt(const std::string& line, const std::function<void()>& act) {
+    try {
+      act();
     } catch (const Error& error) {
-      note(query + " " + error.description());
+      note(line + " " + error.description());
     }
   }
 

@@ -60,6 +60,10 @@ TEST_F(FilesTest, NeighboursStayAndLongNamesFit) {
   const std::size_t before = entries();
   for (const char* text : {"first", "second"}) writeWholeFile(file, text);
   EXPECT_EQ(contentOf(file), "second");
+  fs::permissions(file, fs::perms::owner_read | fs::perms::owner_write);
+  const fs::perms mode = fs::status(file).permissions();
+  writeWholeFile(file, "third");
+  EXPECT_EQ(fs::status(file).permissions(), mode);
   EXPECT_EQ(entries(), before + 1);
 }
 
