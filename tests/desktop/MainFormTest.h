@@ -30,7 +30,6 @@ class MainFormTest : public ProgramTest {
     return form->findChild<Widget*>(QLatin1String(name));
   }
   void key(const char* name, Qt::Key code) { QTest::keyClick(find(name), code); }
-  void click(const char* name) { QTest::mouseClick(find(name), Qt::LeftButton); }
 
   std::unique_ptr<QWidget> form;
 };
