@@ -163,7 +163,6 @@ TEST_F(FormsTest, LanguageChangesInAnInstant) {
 TEST_F(FormsTest, WhatTheProgramSetsIsShown) {
   main.lblConnect.caption = "Stopped & idle";
   main.cmdStart.caption = "Run & stop";
-  main.cbMath.text = "1-2";
   main.cbCh2.value.setQuietly(1);
   main.txtMsg.text = "1,2\r\n";
   EXPECT_EQ(find<QLabel>("lblConnect")->text(), QStringLiteral("Stopped & idle"));

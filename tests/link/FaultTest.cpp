@@ -68,26 +68,23 @@ std::function<void(FarEnd&)> changing(const std::function<void(std::string&)>& c
   };
 }
 
-/// Logged lines of a kind, or none.
-constexpr const char* nothing = "";
-
 const struct {
   const char* what;
   std::function<void(FarEnd&)> harm;
   /// What a connect that meets it says in the log; without a line the window says message 9.
   const char* loggedAtConnect;
 } faults[] = {
-    {"silence", alwaysAnswering(""), nothing},
-    {"replies later than their time-out", [](FarEnd& end) { end.thought = 2500; }, nothing},
+    {"silence", alwaysAnswering(""), ""},
+    {"replies later than their time-out", [](FarEnd& end) { end.thought = 2500; }, ""},
     {"half of everything", changing([](std::string& bytes) { bytes.resize(bytes.size() / 2); }),
-     nothing},
+     ""},
     {"garbage, as at a wrong baud rate", changing([](std::string& bytes) {
        for (char& byte : bytes) byte = static_cast<char>(byte * 73 + 0x81);
      }),
-     nothing},
+     ""},
     {"empty lines", alwaysAnswering("\n"), "InitDSO : Overflow"},
     {"lines of text", alwaysAnswering("what do you want?\n"), "InitDSO : Overflow"},
-    {"a megabyte without an end", alwaysAnswering(std::string(1 << 20, 'x')), nothing},
+    {"a megabyte without an end", alwaysAnswering(std::string(1 << 20, 'x')), ""},
     {"no such port, a port in use, no permission", [](FarEnd& end) { end.isAway = true; },
      "SendDSOCmd : no such port"},
 };
