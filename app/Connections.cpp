@@ -113,6 +113,7 @@ void Tracewell::connectFiles() {
 void Tracewell::sayAgain() {
   sayPortAgain(main);
   showDifferingLink(main);
+  sayStaleScales(main);
   showTraceAges(main);
   showFilesToKeep(main);
   errLog.showNewLines(main.NewLogLines);

@@ -352,7 +352,9 @@ void bind(Slide& control, QWidget& form) {
   slide->setRange(control.range().minimum, control.range().maximum, control.range().step);
   showWith(control, slide, [&control, slide, caption] {
     slide->setValue(control.value());
-    if (caption != nullptr) showInLabel(*caption, control.caption(), widestOf(*caption));
+    if (caption == nullptr) return;
+    showInLabel(*caption, control.caption(), widestOf(*caption));
+    showPale(*caption, control.isStale());
   });
   QObject::connect(slide, &SlideWidget::dragged, slide,
                    [&control](double to) { control.drag(to); });

@@ -3,6 +3,7 @@
 
 #include <qcustomplot.h>
 
+#include <QBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
@@ -116,7 +117,10 @@ void GraphView::bind(Graph& graph) {
   overlay_->setGraph(graph_);
   graph.letGo = [this] { unbind(); };
   const auto dirty = [this] { markDirty(); };
-  graph.changed = dirty;
+  graph.changed = [this] {
+    takeRow();
+    markDirty();
+  };
   for (Axis& axis : graph.axes()) axis.changed = dirty;
   for (Cursor& cursor : graph.cursors()) cursor.changed = dirty;
   for (std::size_t i = 0; i < traces_.size(); ++i) {
@@ -129,6 +133,14 @@ void GraphView::bind(Graph& graph) {
     isDataNew_[i] = true;
   }
   markDirty();
+}
+
+/// A layout gives what is hidden in it its share all the same.
+void GraphView::takeRow() {
+  auto* row = window()->findChild<QBoxLayout*>(QStringLiteral("whole"));
+  if (row == nullptr) return;
+  if (besideStretch_ == 0) besideStretch_ = row->stretch(1);
+  row->setStretch(1, graph_->enlarged() ? 0 : besideStretch_);
 }
 
 void GraphView::unbind() {

@@ -57,6 +57,7 @@ class GraphView : public QWidget {
   };
 
   void markDirty();
+  void takeRow();
   void replot();
   void showAxes();
   void showTrace(Plot& plot, QCPGraph& trace);
@@ -81,6 +82,8 @@ class GraphView : public QWidget {
   std::array<QCPItemLine*, 2> centreLines_{};
   QCPItemText* trigger_ = nullptr;
   QCPItemText* note_ = nullptr;
+  /// Of what stands beside the graph in the main window's row; 0 until it is known.
+  int besideStretch_ = 0;
   Graph* graph_ = nullptr;
   Cursor* grabbed_ = nullptr;
   std::size_t activeCursor_ = 0;

@@ -108,8 +108,10 @@ void frmSave::saveSet(const std::filesystem::path& path) {
     txtDatFile.text = csv;
     throw;
   }
-  showStatus(main_, services().words.say("Saved %1 with its .csv and .inf in %2",
-                                         {pathText(path.filename()), folderText(path)}));
+  const auto nameOf = [](const std::string& text) { return pathText(pathOf(text).filename()); };
+  showStatus(main_, services().words.say("Saved %1, %2 and %3 in %4",
+                                         {pathText(path.filename()), nameOf(base + ".csv"),
+                                          nameOf(base + ".inf"), folderText(path)}));
 }
 
 }  // namespace tracewell

@@ -27,11 +27,11 @@ void InstrumentState::InitDSO() {
   try {
     applyBaudRateAndPort();
     readAll();
-    if (main_.LinkOK) noteScalesRead(main_);
-    UpdateTriggerMarker(main_);
   } catch (const Error& error) {
     errorLog_.ErrLog(error, "InitDSO : ");
   }
+  showStaleScales(main_);
+  UpdateTriggerMarker(main_);
 }
 
 void InstrumentState::readAll() {
@@ -40,6 +40,8 @@ void InstrumentState::readAll() {
   inquiry.next();
   main_.lblChan1.caption = trimmed(exchange_.SendDSOCmd(":CHAN1:SCAL?"));
   if (!main_.LinkOK) return;
+  // What it does not answer from here on is marked as that.
+  noteScalesRead(main_);
   if (main_.lblChan1.caption().empty())
     main_.lblChan1.caption = exchange_.SendDSOCmd(":CHAN1:SCAL?");
   showScaleOnly(ScaleKnob::Chan1, main_.lblChan1, main_.knobChan1);
@@ -91,12 +93,15 @@ void InstrumentState::showScaleOnly(ScaleKnob kind, ValueLabel& label, Knob& kno
   }
 }
 
-/// Until each has its answer.
+/// Until each has its answer. Delay and trigger level are not asked for: they are known where they
+/// have been set here, on this line.
 void InstrumentState::markAllUnread() {
   for (Control* control : std::initializer_list<Control*>{
            &main_.lblChan1, &main_.lblChan2, &main_.lblTime, &main_.knobChan1, &main_.knobChan2,
            &main_.knobTime, &main_.slideCH1, &main_.slideCH2})
     control->isUnread = true;
+  if (!main_.TriggerLevelSet) main_.slideTrig.isUnread = true;
+  if (!main_.scaleOrigin || main_.lblTime.isStale()) main_.slideTime.isUnread = true;
   main_.graphDSO.notifyChanged();
 }
 

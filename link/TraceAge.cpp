@@ -38,14 +38,15 @@ void showTraceAges(frmDSO& main) {
   std::string text;
   for (const std::size_t i : {0U, 1U}) {
     const auto& time = main.RecordTime[i];
-    const bool isOld = time && now - *time > 3 * recordPeriod(main);
-    main.graphDSO.plot(static_cast<int>(i) + 1).isOld = isOld;
+    Plot& plot = main.graphDSO.plot(static_cast<int>(i) + 1);
+    const bool isOld = !time || now - *time > 3 * recordPeriod(main);
+    plot.isOld = isOld && !plot.y().empty();
     if (!main.ChanOn[i] || !main.Initialised) continue;
     const std::string& channel = (i == 0 ? main.cbCh1 : main.cbCh2).caption();
     if (!text.empty()) text += "    ";
-    text += !time    ? words.say("%1: no record yet", {channel})
-            : !isOld ? words.say("%1: live", {channel})
-                     : ageText(main, channel, now - *time);
+    text += !time                            ? words.say("%1: no record yet", {channel})
+            : !isOld && main.tmDSO.enabled() ? words.say("%1: live", {channel})
+                                             : ageText(main, channel, now - *time);
   }
   main.lblAge.caption = text;
 }

@@ -16,7 +16,7 @@ void noteRecord(frmDSO& main, std::int16_t channel);
 std::int64_t recordPeriod(const frmDSO& main);
 
 /// Says of each displayed channel how old its trace is, and makes those pale that are older than
-/// three periods.
+/// three periods, or another instrument's. Live is what is being fetched.
 void showTraceAges(frmDSO& main);
 
 }  // namespace tracewell

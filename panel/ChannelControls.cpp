@@ -32,6 +32,7 @@ void ChannelControls::showChannel(const Channel& channel) {
     main_.graphDSO.plot(channel.number).visible = isShown;
     main_.ChanCount = addInt16(main_.ChanCount, isShown ? 1 : -1);
     exchange_.SendDSOCmd(channel.stem() + "DISP " + (isShown ? "1" : "0"));
+    channel.display.isUnread = !exchange_.wasSent();
   } catch (const Error& error) {
     errorLog_.ErrLog(error, channel.display.name() + "_Click : ");
   }
@@ -42,6 +43,7 @@ void ChannelControls::commitPosition(const Channel& channel) {
     const double volts = checked(offsetVolts(channel.scale.caption(), channel.slide.value()));
     keepPosition(channel);
     exchange_.SendDSOCmd(channel.stem() + "OFFS " + formatExponent(volts));
+    channel.slide.isUnread = !exchange_.wasSent();
     redraw(channel, mulInt16(toInt16(channel.slide.value()), Graph::unitsPerDivision));
     UpdateTriggerMarker(main_);
     acquisition_.ResumeAcq();

@@ -29,6 +29,7 @@ void TimeControls::slideTime_PointerValueCommitted() {
     acquisition_.StopAcq();
     const double delay = checked(delaySeconds(main_.lblTime.caption(), main_.slideTime.value()));
     exchange_.SendDSOCmd(":TIM:DEL " + formatExponent(delay));
+    main_.slideTime.isUnread = !exchange_.wasSent();
     acquisition_.ResumeAcq();
   } catch (const Error& error) {
     errorLog_.ErrLog(error, "slideTime_PointerValueCommitted ");

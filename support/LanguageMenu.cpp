@@ -2,12 +2,8 @@
 #include "LanguageMenu.h"
 
 #include "ConnectionIndicator.h"
-#include "LinkSettings.h"
 #include "Messages.h"
-#include "PortNotice.h"
 #include "SlideValues.h"
-#include "StatusLine.h"
-#include "TraceAge.h"
 
 namespace tracewell {
 
@@ -42,10 +38,6 @@ void LanguageMenu::load(const std::string& number) {
 void LanguageMenu::showStateAgain() {
   showMessagesAgain(main_);
   showSlideValuesAgain(main_);
-  showPort(main_, main_.services().port.settings.portNumber);
-  showStatus(main_, "");
-  showDifferingLink(main_);
-  showTraceAges(main_);
 }
 
 }  // namespace tracewell

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "frmCmd.h"
 
-#include <algorithm>
-
 #include "CommandFile.h"
 #include "Files.h"
 #include "Numbers.h"
@@ -85,16 +83,9 @@ void frmCmd::cmdRun_Click() {
   RunConsoleCommand();
 }
 
-/// A heading such as "Channel 1". "*RST" can stand at the top of a list, too, and is a command.
-bool frmCmd::isGroup(const std::string& command) const {
-  const bool isCommand =
-      command.starts_with(':') || command.starts_with('*') || command.ends_with('?');
-  return !isCommand && std::ranges::count(tvCmd.nodes(), Tree::Node{command, 0}) > 0;
-}
-
 void frmCmd::RunConsoleCommand() {
   const std::string command = txtCmd.text();
-  if (isGroup(command) || !isInRange(command)) {
+  if (!isInRange(command)) {
     txtCmd.text = command.substr(0, command.find(' '));
     services().dialogs.showMessage("Out of range");
     return;

@@ -34,7 +34,6 @@ class frmCmd : public Window {
   void tvCmd_NodeClick(int node);
   void txtCmd_KeyDown(int code);
   void cmdRun_Click();
-  bool isGroup(const std::string& command) const;
   void RunConsoleCommand();
 
   frmDSO& main_;

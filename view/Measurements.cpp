@@ -4,9 +4,7 @@
 #include <algorithm>
 
 #include "ConnectionIndicator.h"
-#include "Flag.h"
 #include "Numbers.h"
-#include "StatusLine.h"
 #include "Waiting.h"
 
 namespace tracewell {
@@ -38,8 +36,6 @@ Measurements::Measurements(frmDSO& main, CommandExchange& exchange, ErrorLog& er
       quickSelection_(quickSelection) {}
 
 void Measurements::cmdVMeasure_Click() {
-  if (isMeasuring_) return;
-  const Flag measuring(isMeasuring_);
   try {
     chooseAndMeasure();
   } catch (const Error& error) {
@@ -67,26 +63,12 @@ void Measurements::RunMeasurements() {
   for (const int channel : {1, 2})
     count += flaggedCount(channel + 1, VoltMeasName.size()) +
              flaggedCount(channel + 3, FreqMeasName.size());
-  {
-    Inquiry inquiry(exchange_.inquiries(), main_.fmMeasure.caption(), Inquiry::Of::questions,
-                    count);
-    for (const int channel : {1, 2}) {
-      chooseSource(channel);
-      measureFlagged(inquiry, channel, VoltMeasName, VoltMeasQuery, channel + 1);
-      measureFlagged(inquiry, channel, FreqMeasName, FreqMeasQuery, channel + 3);
-    }
+  Inquiry inquiry(exchange_.inquiries(), main_.fmMeasure.caption(), Inquiry::Of::questions, count);
+  for (const int channel : {1, 2}) {
+    chooseSource(channel);
+    measureFlagged(inquiry, channel, VoltMeasName, VoltMeasQuery, channel + 1);
+    measureFlagged(inquiry, channel, FreqMeasName, FreqMeasQuery, channel + 3);
   }
-  sayWhatDoesNotFit(count);
-}
-
-/// The last place holds the last result.
-void Measurements::sayWhatDoesNotFit(int count) {
-  const int places = main_.lblMeasure.size();
-  if (count <= places) return;
-  showStatus(main_,
-             main_.services().words.say(
-                 "%1 results in %2 places: the first %3 and the last are shown",
-                 {std::to_string(count), std::to_string(places), std::to_string(places - 1)}));
 }
 
 void Measurements::chooseSource(int channel) {
@@ -110,8 +92,8 @@ void Measurements::measureFlagged(Inquiry& inquiry, int channel,
     inquiry.next();
     const std::string reply = askPatiently(channel, std::string(queries[item]));
     showNext(labelText(names[item], channel) + ": ", reply);
-    // The list can be long and the instrument slow: the window stays alive between two items.
-    Delay(main_, 0);
+    // The list can be long. No handler runs in between: it would change what is being measured.
+    main_.services().standBy.turn();
     inquiry.note(!reply.empty());
   }
 }
@@ -159,13 +141,11 @@ std::string Measurements::ask(const std::string& query) {
 }
 
 void Measurements::mnbFrequency_Click() {
-  if (isMeasuring_) return;
   quickSelection_.showModal();
   if (quickSelection_.tag == "1") cmdFMeasure_Click();
 }
 
 void Measurements::cmdFMeasure_Click() {
-  if (isMeasuring_) return;
   try {
     measureQuickly();
   } catch (const Error& error) {

@@ -33,7 +33,6 @@ class Measurements {
   /// instrument does not have is asked for up to three times more. Throws ProgramEnded when the
   /// window is closed in between.
   void RunMeasurements();
-  void sayWhatDoesNotFit(int count);
   void ClearMeasureLabels();
   void measureQuickly();
   void measureFlagged(Inquiry& inquiry, int channel, std::span<const std::string_view> names,
@@ -58,8 +57,6 @@ class Measurements {
   /// Label that the next result goes to; the last one takes all that find no room.
   int nextLabel_ = 0;
   bool isSourceChosen_ = false;
-  /// Events run between two items; none of them may begin a second measurement.
-  bool isMeasuring_ = false;
 };
 
 }  // namespace tracewell

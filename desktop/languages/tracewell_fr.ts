@@ -12,10 +12,6 @@
         <translation>%1 n'a pas pu être lu en entier et sera conservé sous %2</translation>
     </message>
     <message>
-        <source>%1 results in %2 places: the first %3 and the last are shown</source>
-        <translation>%1 résultats pour %2 places : les %3 premiers et le dernier sont affichés</translation>
-    </message>
-    <message>
         <source>%1: %2 of %3 settings not confirmed</source>
         <translation>%1 : %2 réglages sur %3 non confirmés</translation>
     </message>
@@ -796,8 +792,8 @@
         <translation>%1 enregistré</translation>
     </message>
     <message>
-        <source>Saved %1 with its .csv and .inf in %2</source>
-        <translation>%1 enregistré avec ses .csv et .inf dans %2</translation>
+        <source>Saved %1, %2 and %3 in %4</source>
+        <translation>%1, %2 et %3 enregistrés dans %4</translation>
     </message>
     <message>
         <source>Saved waveforms</source>
@@ -862,6 +858,10 @@
     <message>
         <source>Text to write onto the picture</source>
         <translation>Texte à écrire sur l'image</translation>
+    </message>
+    <message>
+        <source>The acquisition has stopped: %1</source>
+        <translation>L'acquisition s'est arrêtée : %1</translation>
     </message>
     <message>
         <source>The data file</source>

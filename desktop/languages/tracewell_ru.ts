@@ -12,10 +12,6 @@
         <translation>%1 прочитан не полностью и будет сохранён как %2</translation>
     </message>
     <message>
-        <source>%1 results in %2 places: the first %3 and the last are shown</source>
-        <translation>Результатов: %1, мест: %2, показаны первые %3 и последний</translation>
-    </message>
-    <message>
         <source>%1: %2 of %3 settings not confirmed</source>
         <translation>%1: не подтверждено настроек: %2 из %3</translation>
     </message>
@@ -796,8 +792,8 @@
         <translation>Сохранено: %1</translation>
     </message>
     <message>
-        <source>Saved %1 with its .csv and .inf in %2</source>
-        <translation>%1 и файлы .csv и .inf к нему сохранены в %2</translation>
+        <source>Saved %1, %2 and %3 in %4</source>
+        <translation>Сохранены %1, %2 и %3 в %4</translation>
     </message>
     <message>
         <source>Saved waveforms</source>
@@ -862,6 +858,10 @@
     <message>
         <source>Text to write onto the picture</source>
         <translation>Текст надписи на рисунке</translation>
+    </message>
+    <message>
+        <source>The acquisition has stopped: %1</source>
+        <translation>Сбор данных остановлен: %1</translation>
     </message>
     <message>
         <source>The data file</source>

@@ -12,10 +12,6 @@
         <translation>%1 未能完整读取，将保留为 %2</translation>
     </message>
     <message>
-        <source>%1 results in %2 places: the first %3 and the last are shown</source>
-        <translation>%1 个结果只有 %2 个位置：显示前 %3 个和最后一个</translation>
-    </message>
-    <message>
         <source>%1: %2 of %3 settings not confirmed</source>
         <translation>%1：%3 项设置中有 %2 项未确认</translation>
     </message>
@@ -796,8 +792,8 @@
         <translation>已保存 %1</translation>
     </message>
     <message>
-        <source>Saved %1 with its .csv and .inf in %2</source>
-        <translation>已将 %1 及其 .csv 和 .inf 保存到 %2</translation>
+        <source>Saved %1, %2 and %3 in %4</source>
+        <translation>已将 %1、%2 和 %3 保存到 %4</translation>
     </message>
     <message>
         <source>Saved waveforms</source>
@@ -862,6 +858,10 @@
     <message>
         <source>Text to write onto the picture</source>
         <translation>要写在图片上的文字</translation>
+    </message>
+    <message>
+        <source>The acquisition has stopped: %1</source>
+        <translation>采集已停止：%1</translation>
     </message>
     <message>
         <source>The data file</source>

@@ -12,10 +12,6 @@
         <translation>%1 讀唔晒，會保留做 %2</translation>
     </message>
     <message>
-        <source>%1 results in %2 places: the first %3 and the last are shown</source>
-        <translation>%1 個結果得 %2 個位：顯示頭 %3 個同最後一個</translation>
-    </message>
-    <message>
         <source>%1: %2 of %3 settings not confirmed</source>
         <translation>%1：%3 項設定有 %2 項未確認</translation>
     </message>
@@ -796,8 +792,8 @@
         <translation>儲存咗 %1</translation>
     </message>
     <message>
-        <source>Saved %1 with its .csv and .inf in %2</source>
-        <translation>%1 同埋佢嘅 .csv、.inf 儲存咗喺 %2</translation>
+        <source>Saved %1, %2 and %3 in %4</source>
+        <translation>已將 %1、%2 同 %3 儲存到 %4</translation>
     </message>
     <message>
         <source>Saved waveforms</source>
@@ -862,6 +858,10 @@
     <message>
         <source>Text to write onto the picture</source>
         <translation>要寫喺圖片上嘅文字</translation>
+    </message>
+    <message>
+        <source>The acquisition has stopped: %1</source>
+        <translation>擷取已停止：%1</translation>
     </message>
     <message>
         <source>The data file</source>

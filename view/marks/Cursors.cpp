@@ -56,6 +56,8 @@ void Cursors::opVoltage_Click() {
 
 void Cursors::cbCurChan_Click() {
   UpdateCursorReadout();
+  // The badge changes with the channel also where the read-out does not.
+  main_.graphDSO.notifyChanged();
 }
 
 void Cursors::graphDSO_CursorMoved() {

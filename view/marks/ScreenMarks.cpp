@@ -30,7 +30,7 @@ ShownChannel channel(const frmDSO& main, int number) {
   ShownChannel shown{number,      main.ChanOn[isFirst ? 0 : 1],      main.graphDSO.plot(number),
                      scale,       isFirst ? main.cbCh1 : main.cbCh2, std::nullopt,
                      std::nullopt};
-  if (!slide.isUnread()) shown.zero = position * Graph::unitsPerDivision;
+  if (!slide.isUnread() && !slide.isStale()) shown.zero = position * Graph::unitsPerDivision;
   if (!scale.isUnread() && !scale.isStale())
     shown.voltsPerDivision = trueScale(scale.caption(), "V");
   return shown;
@@ -68,7 +68,8 @@ void addSides(std::vector<Side>& sides, const ShownChannel& channel, const Axis&
 /// difference the other way round in the second.
 void addMathName(std::vector<GraphMarks::Text>& names, const frmDSO& main) {
   const std::size_t off = main.cbMath.items().size() - 1;
-  if (!main.MathEntry || static_cast<std::size_t>(*main.MathEntry) >= off) return;
+  if (!main.MathEntry || main.lblTime.isStale() || static_cast<std::size_t>(*main.MathEntry) >= off)
+    return;
   const int number = *main.MathEntry == 2 ? 2 : 1;
   if (main.ChanOn[number == 1 ? 0 : 1] && isShown(main.graphDSO.plot(number)))
     names.push_back({number, main.cbMath.items()[static_cast<std::size_t>(*main.MathEntry)]});
