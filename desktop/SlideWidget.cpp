@@ -152,8 +152,8 @@ void SlideWidget::mouseReleaseEvent(QMouseEvent* event) {
   emit released();
 }
 
-void SlideWidget::mouseDoubleClickEvent(QMouseEvent*) {
-  stepTo(0);
+void SlideWidget::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) stepTo(0);
 }
 
 void SlideWidget::wheelEvent(QWheelEvent* event) {

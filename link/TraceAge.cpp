@@ -41,7 +41,7 @@ void showTraceAges(frmDSO& main) {
     Plot& plot = main.graphDSO.plot(static_cast<int>(i) + 1);
     const bool isOld = !time || now - *time > 3 * recordPeriod(main);
     plot.isOld = isOld && !plot.y().empty();
-    if (!main.ChanOn[i] || !main.Initialised) continue;
+    if (!main.ChanOn[i] || (!main.Initialised && !time)) continue;
     const std::string& channel = (i == 0 ? main.cbCh1 : main.cbCh2).caption();
     if (!text.empty()) text += "    ";
     text += !time                            ? words.say("%1: no record yet", {channel})
