@@ -92,7 +92,9 @@ class Hands : public Played {
     return *desktop_.widgetOf(*window.controls().back())->window();
   }
   void close(Window& window) override {
-    if (areOnKeys_)
+    if (&window == &program.message)
+      Played::close(window);
+    else if (areOnKeys_)
       QTest::keyClick(&formOf(window), Qt::Key_Escape);
     else
       formOf(window).close();

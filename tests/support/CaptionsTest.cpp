@@ -141,7 +141,8 @@ TEST_F(CaptionsTest, FileThatCannotBeUsedIsOneErrorThatNamesIt) {
 
 TEST_F(CaptionsTest, MessagesKeepTheirCommasAndNeedThirteenLines) {
   std::string lines;
-  for (int i = 0; i < 13; ++i) lines += "key,text, " + std::to_string(i) + " \r\n";
+  for (int i = 0; i < 13; ++i)
+    lines += (i == 0 ? ",text, " : "key,text, ") + std::to_string(i) + " \r\n";
   // An unknown number stands for the files without a code: it does not keep the program from
   // starting.
   for (const auto& [number, name] : std::map<const char*, const char*>{{"0", "dso_.msg"},
