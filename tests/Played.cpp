@@ -223,7 +223,7 @@ void Played::step(Window& window, const std::string& text) {
   const std::size_t equals = text.find('=');
   const std::string name = text.substr(0, equals);
   const std::string value = equals == std::string::npos ? "" : text.substr(equals + 1);
-  if (name == "close") return close(program.message.isVisible() ? program.message : window);
+  if (name == "close") return program.message.isVisible() ? program.message.close() : close(window);
   if (name == "look")
     return note("look" + newIn(window) +
                 (program.message.isVisible() ? newIn(program.message) : ""));

@@ -92,9 +92,7 @@ class Hands : public Played {
     return *desktop_.widgetOf(*window.controls().back())->window();
   }
   void close(Window& window) override {
-    if (&window == &program.message)
-      Played::close(window);
-    else if (areOnKeys_)
+    if (areOnKeys_)
       QTest::keyClick(&formOf(window), Qt::Key_Escape);
     else
       formOf(window).close();
