@@ -88,6 +88,11 @@ void showParts(Graph& graph, std::map<std::string, std::string>& shown) {
                            numberText(cursor.xPosition()) + ":" + numberText(cursor.yPosition());
 }
 
+/// A record of one value, but for its first.
+std::string level(int sample) {
+  return makeRecord([sample](int i) { return i == 0 ? 0 : sample; });
+}
+
 void replaceAll(std::string& text, const std::string& old, const std::string& with) {
   for (std::size_t at = 0; (at = text.find(old, at)) != std::string::npos; at += with.size())
     text.replace(at, old.size(), with);
@@ -186,7 +191,8 @@ std::string Played::newIn(Window& window) {
   std::string text;
   for (const auto& [name, shown] : now)
     if (const auto old = before.find(name); old == before.end() || old->second != shown)
-      text += "; " + name + " " + shown + (shown.empty() || shown.ends_with(' ') ? "|" : "");
+      text.append("; ").append(name).append(" ").append(shown).append(
+          shown.empty() || shown.ends_with(' ') ? "|" : "");
   return text;
 }
 
@@ -194,11 +200,7 @@ std::string Played::play(const std::string& script) {
   events_.clear();
   start_ = clock.milliseconds();
   for (std::string& text : split(script, ", ")) steps_.push_back(std::move(text));
-  while (!steps_.empty()) {
-    const std::string text = steps_.front();
-    steps_.pop_front();
-    step(main, text);
-  }
+  while (!steps_.empty()) playNext(main);
   if (clock.milliseconds() != start_) note(std::to_string(clock.milliseconds() - start_) + " ms");
   std::string text;
   for (const std::string& event : events_) text += "; " + event;
@@ -212,11 +214,13 @@ std::string Played::play(const std::string& script) {
 }
 
 void Played::playIn(Window& window) {
-  while (!steps_.empty() && window.isVisible()) {
-    const std::string text = steps_.front();
-    steps_.pop_front();
-    step(window, text);
-  }
+  while (!steps_.empty() && window.isVisible()) playNext(window);
+}
+
+void Played::playNext(Window& window) {
+  const std::string text = steps_.front();
+  steps_.pop_front();
+  step(window, text);
 }
 
 void Played::step(Window& window, const std::string& text) {
@@ -232,73 +236,72 @@ void Played::step(Window& window, const std::string& text) {
   if (!setUp(name, value)) ADD_FAILURE() << "no such step in " << window.name() << ": " << text;
 }
 
-bool Played::setUp(const std::string& name, const std::string& value) {
+/// The steps that are no control's, by name.
+std::map<std::string, std::function<void()>> Played::stepsWith(const std::string& value) {
   const auto number = [&value] { return std::stoi(value); };
-  const auto record = [&number] {
-    return makeRecord([sample = number()](int i) { return i == 0 ? 0 : sample; });
-  };
-  const auto deliver = [&](const char* tag) {
-    port.tag = tag;
-    port.deliver(makeRecord([first = number()](int i) { return first + i; }));
-  };
-  const auto drag = [&](const char* cursor) {
-    main.graphDSO.dragCursor(main.graphDSO.cursor(cursor), std::stod(value),
-                             std::stod(value.substr(value.find(':') + 1)));
-  };
-  const std::size_t blank = value.find(' ');
-  const std::map<std::string, std::function<void()>> steps = {
-      {"plug", [&] { port.answerLikeAnInstrument(); }},
-      {"connected", [&] { connect(); }},
-      {"faults", [&] { port.faults = number(); }},
-      {"baud", [&] { main.BaudRate = toInt16(value); }},
-      {"file", [&] { dialogs.pickedFile = value.empty() ? "" : folder.path() / value; }},
+  const auto path = [this, &value] { return folder.path() / value; };
+  const auto later = [&value] { return value.substr(value.find(' ') + 1); };
+  return {
+      {"plug", [this] { port.answerLikeAnInstrument(); }},
+      {"connected", [this] { connect(); }},
+      {"faults", [this, number] { port.faults = number(); }},
+      {"baud", [this, &value] { main.BaudRate = toInt16(value); }},
+      {"file", [this, &value, path] { dialogs.pickedFile = value.empty() ? "" : path(); }},
       {"colour",
-       [&] {
+       [this, number] {
          dialogs.colour = {static_cast<std::uint8_t>(number()), 2, 3};
        }},
-      {"write",
-       [&] {
-         std::string text = value.substr(blank + 1);
-         replaceAll(text, "\\n", "\r\n");
-         writeWholeFile(folder.path() / value.substr(0, blank), text);
-       }},
-      {"remove", [&] { std::filesystem::remove(folder.path() / value); }},
-      {"folder", [&] { std::filesystem::create_directory(folder.path() / value); }},
-      {"answer", [&] { dialogs.answer = value == "no" ? Answer::No : Answer::Yes; }},
-      {"give up", [&] { standBy.giveUp(); }},
-      {"cur1", [&] { drag("cur1"); }},
-      {"cur2", [&] { drag("cur2"); }},
-      {"wait", [&] { clock.run(number()); }},
-      {"at",
-       [&] {
-         clock.callAfter(number(), [this, later = value.substr(blank + 1)] { step(main, later); });
-       }},
-      {"record1", [&] { main.Ch1Raw = record(); }},
-      {"record2", [&] { main.Ch2Raw = record(); }},
-      {"trace1", [&] { deliver("1"); }},
-      {"trace2", [&] { deliver("2"); }},
-      {"opened", [&] { port.timesOpened = number(); }},
+      {"write", [this, &value, later] { write(value.substr(0, value.find(' ')), later()); }},
+      {"remove", [path] { std::filesystem::remove(path()); }},
+      {"folder", [path] { std::filesystem::create_directory(path()); }},
+      {"answer", [this, &value] { dialogs.answer = value == "no" ? Answer::No : Answer::Yes; }},
+      {"give up", [this] { standBy.giveUp(); }},
+      {"wait", [this, number] { clock.run(number()); }},
+      {"at", [this, number,
+              later] { clock.callAfter(number(), [this, text = later()] { step(main, text); }); }},
+      {"record1", [this, number] { main.Ch1Raw = level(number()); }},
+      {"record2", [this, number] { main.Ch2Raw = level(number()); }},
+      {"opened", [this, number] { port.timesOpened = number(); }},
       {"truth",
-       [&] {
+       [this] {
          isTruthTold_ = true;
          newIn(main);
        }},
-      {"status",
-       [&] { main.lblStatus.changed = [this] { note("'" + main.lblStatus.caption() + "'"); }; }}};
+      {"status", [this] {
+         main.lblStatus.changed = [this] { note("'" + main.lblStatus.caption() + "'"); };
+       }}};
+}
+
+void Played::write(const std::string& name, std::string text) {
+  replaceAll(text, "\\n", "\r\n");
+  writeWholeFile(folder.path() / name, text);
+}
+
+bool Played::setUp(const std::string& name, const std::string& value) {
+  const auto steps = stepsWith(value);
   if (const auto found = steps.find(name); found != steps.end()) {
     found->second();
     return true;
   }
-  if (name.starts_with("row")) setRow(std::stoi(name.substr(3)), split(value, " "));
-  if (name.ends_with('?')) {
+  if (name.starts_with("cur")) {
+    const Lines place = split(value, ":");
+    main.graphDSO.dragCursor(main.graphDSO.cursor(name), std::stod(place[0]), std::stod(place[1]));
+  } else if (name.starts_with("trace")) {
+    port.tag = name.substr(5);
+    port.deliver(makeRecord([first = std::stoi(value)](int i) { return first + i; }));
+  } else if (name.starts_with("row")) {
+    setRow(std::stoi(name.substr(3)), split(value, " "));
+  } else if (name.ends_with('?')) {
     port.replies[name].clear();
     for (const std::string& line : split(value, "|")) port.replies[name].push_back(line + "\n");
+  } else {
+    for (Control* control : main.controls())
+      if (auto* label = dynamic_cast<ValueLabel*>(control);
+          label && name == label->objectName() + ":")
+        label->caption = value;
+    return name.ends_with(':');
   }
-  for (Control* control : main.controls())
-    if (auto* label = dynamic_cast<ValueLabel*>(control);
-        label && name == label->objectName() + ":")
-      label->caption = value;
-  return name.starts_with("row") || name.ends_with('?') || name.ends_with(':');
+  return true;
 }
 
 void Played::connect() {

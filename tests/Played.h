@@ -29,8 +29,11 @@ class Played : public Bench {
   void watchNotice();
 
  private:
+  void playNext(Window& window);
   void step(Window& window, const std::string& text);
   void connect();
+  std::map<std::string, std::function<void()>> stepsWith(const std::string& value);
+  void write(const std::string& name, std::string text);
   bool setUp(const std::string& name, const std::string& value);
   std::map<std::string, std::string> shownBy(Window& window);
   std::string newIn(Window& window);
@@ -44,7 +47,6 @@ class Played : public Bench {
   std::map<const Window*, std::map<std::string, std::string>> seen_;
 };
 
-/// The parts of a text.
 Lines split(const std::string& text, const std::string& separator);
 
 /// Plays every script of the file. What comes of it is what stands below.

@@ -53,7 +53,7 @@ TEST_F(FrontPanelTest, KnobTurnsWithTheCapAndStopsAtItsEnds) {
     drag(knob, centre - QPoint(0, reach), centre + QPoint(reach, reach / 4));
   EXPECT_EQ(main.knobChan1.value(), 10);
   takeWire();
-  key("knobChan1", Qt::Key_Up);
+  QTest::keyClick(&knob, Qt::Key_Up);
   wheel(knob, 5);
   EXPECT_TRUE(takeWire().empty());
   // The first caption of a knob stands at the lower left, outside the cap.

@@ -29,7 +29,6 @@ class MainFormTest : public ProgramTest {
   Widget* find(const char* name) {
     return form->findChild<Widget*>(QLatin1String(name));
   }
-  void key(const char* name, Qt::Key code) { QTest::keyClick(find(name), code); }
 
   std::unique_ptr<QWidget> form;
 };
