@@ -2,6 +2,7 @@
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
+#include <QMouseEvent>
 #include <cmath>
 
 #include "DesktopProgram.h"
@@ -19,6 +20,10 @@ class GraphBench {
     view.bind(graph);
     for (int i = 0; i < SharedState::sampleCount; ++i)
       x[static_cast<std::size_t>(i)] = static_cast<std::int16_t>(i - 250);
+    for (std::size_t wave = 0; wave < waves.size(); ++wave)
+      for (std::size_t i = 0; i < x.size(); ++i)
+        waves[wave][i] = static_cast<std::int16_t>(
+            std::lround(150 * std::sin(static_cast<double>(i) / 40 + static_cast<double>(wave))));
     for (int number = 1; number <= ScopeGraph::plotCount; ++number)
       graph.plot(number).visible = true;
     main.ChanOn = {true, true};
@@ -32,22 +37,20 @@ class GraphBench {
     QApplication::processEvents();
   }
 
-  void plotAll(double phase) {
-    for (int number = 1; number <= ScopeGraph::plotCount; ++number) {
-      for (std::size_t i = 0; i < y.size(); ++i) {
-        const double wave = std::sin(static_cast<double>(i) / 40 + number + phase);
-        y[i] = static_cast<std::int16_t>(std::lround(150 * wave));
-      }
-      graph.plot(number).plotXvsY(x, y);
-    }
+  /// The data of every trace are others each time; they are made before, as a record brings them.
+  void plotAll(std::size_t turn) {
+    for (int number = 1; number <= ScopeGraph::plotCount; ++number)
+      graph.plot(number).plotXvsY(x,
+                                  waves[(turn + static_cast<std::size_t>(number)) % waves.size()]);
   }
 
  private:
   DesktopProgram program{"."};
   frmDSO& main = program.program.main;
   ScopeGraph& graph = main.graphDSO;
-  std::array<std::int16_t, SharedState::sampleCount> x{};
-  std::array<std::int16_t, SharedState::sampleCount> y{};
+  using Samples = std::array<std::int16_t, SharedState::sampleCount>;
+  Samples x{};
+  std::array<Samples, 64> waves{};
   /// Declared last: it lets go of the graph when it goes.
   GraphView view{nullptr};
 };
@@ -55,14 +58,62 @@ class GraphBench {
 /// New data in all traces, then the frame that shows them, painted into the window.
 void frame(benchmark::State& state) {
   GraphBench bench;
-  double phase = 0;
+  std::size_t turn = 0;
   for (auto _ : state) {
-    bench.plotAll(phase += 0.1);
+    bench.plotAll(turn++);
     QApplication::processEvents();
     QApplication::processEvents();
   }
 }
 BENCHMARK(frame)->Unit(benchmark::kMillisecond);
+
+void moveMouse(QWidget& widget, QEvent::Type type, const QPointF& place) {
+  QMouseEvent event(type, place, widget.mapToGlobal(place), Qt::LeftButton, Qt::LeftButton,
+                    Qt::NoModifier);
+  QApplication::sendEvent(&widget, &event);
+}
+
+/// From a movement of the mouse that holds a control of the whole window to the pixels that follow
+/// it: a full sweep to and fro, a step at a time.
+void follow(benchmark::State& state, const char* name, const QList<QPointF>& sweep) {
+  DesktopProgram desktop(".");
+  desktop.start();
+  QApplication::processEvents();
+  QWidget* widget = nullptr;
+  for (QWidget* window : QApplication::topLevelWidgets())
+    if (window->isVisible()) widget = window->findChild<QWidget*>(name);
+  if (widget == nullptr) return state.SkipWithError("no such control");
+  const auto at = [&](qsizetype step) {
+    const qsizetype turn = step % (2 * sweep.size());
+    const QPointF& share = sweep[turn < sweep.size() ? turn : 2 * sweep.size() - 1 - turn];
+    return QPointF(share.x() * widget->width(), share.y() * widget->height());
+  };
+  moveMouse(*widget, QEvent::MouseButtonPress, at(0));
+  qsizetype step = 0;
+  for (auto _ : state) {
+    moveMouse(*widget, QEvent::MouseMove, at(++step));
+    QApplication::processEvents();
+    QApplication::processEvents();
+  }
+  moveMouse(*widget, QEvent::MouseButtonRelease, at(step));
+}
+
+/// Points of a circle around the cap of a knob, or of the groove of a slide, as shares of the size.
+QList<QPointF> circle() {
+  QList<QPointF> points;
+  for (int i = 0; i < 60; ++i)
+    points << QPointF(0.5 + 0.15 * std::cos(i * 0.08), 0.5 + 0.15 * std::sin(i * 0.08));
+  return points;
+}
+
+QList<QPointF> groove() {
+  QList<QPointF> points;
+  for (int i = 0; i < 60; ++i) points << QPointF(0.05 + 0.015 * i, 0.05 + 0.015 * i);
+  return points;
+}
+
+BENCHMARK_CAPTURE(follow, knob, "knobTime", circle())->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(follow, slide, "slideTrig", groove())->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace tracewell

@@ -30,6 +30,8 @@ constexpr qreal roomOfRow = 34;
 /// Kept free at the bottom for the note.
 constexpr qreal roomOfNote = 26;
 constexpr qreal nearCursor = 10;
+/// Of the text's colour in the frame around it.
+constexpr float borderShare = 0.27F;
 
 /// Points to the right, or up, or down.
 QPolygonF flagShape(const QRectF& place, Side::Direction direction) {
@@ -261,14 +263,12 @@ void GraphOverlay::paintRow(QPainter& painter, const Texts& row, const QRectF& p
   }
 }
 
+/// Opaque: what shines through takes longer to paint than the text, and makes it harder to read.
 void GraphOverlay::paintGround(QPainter& painter, const QRectF& place) const {
-  QColor ground = toQt(graph_->plotAreaColour());
-  ground.setAlpha(215);
-  QColor border = colourOf(0);
-  border.setAlpha(70);
-  painter.setPen(QPen(border, 1));
-  painter.setBrush(ground);
-  painter.drawRoundedRect(place, 3, 3);
+  const QColor ground = toQt(graph_->plotAreaColour());
+  const QRect outside = place.toRect();
+  painter.fillRect(outside, mixed(colourOf(0), ground, borderShare));
+  painter.fillRect(outside.adjusted(1, 1, -1, -1), ground);
 }
 
 /// The graph's own colour is readable on its ground.

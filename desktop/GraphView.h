@@ -60,7 +60,7 @@ class GraphView : public QWidget {
   void takeRow();
   void replot();
   void showAxes();
-  void showTrace(Plot& plot, QCPGraph& trace);
+  void showTrace(Plot& plot, QCPGraph& trace, qreal lineWidth);
   void showCursors();
   void showTriggerMarker();
   void makeGraticule();

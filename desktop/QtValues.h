@@ -39,4 +39,11 @@ inline Colour fromQt(const QColor& colour) {
           static_cast<std::uint8_t>(colour.blue())};
 }
 
+/// What is seen when a share of the colour, 0 to 1, lies over the ground.
+inline QColor mixed(const QColor& colour, const QColor& ground, float share) {
+  const auto mix = [share](float one, float other) { return share * one + (1 - share) * other; };
+  return QColor::fromRgbF(mix(colour.redF(), ground.redF()), mix(colour.greenF(), ground.greenF()),
+                          mix(colour.blueF(), ground.blueF()));
+}
+
 }  // namespace tracewell
