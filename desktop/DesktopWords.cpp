@@ -49,19 +49,21 @@ QString panelText(const char* english) {
 }
 
 void keepEnglish(QWidget& widget) {
-  for (QWidget* part : allWithin(widget))
+  for (QWidget* part : allWithin(widget)) {
     for (const Text& text : texts) {
       const QString english = (part->*text.get)();
       if (!english.isEmpty()) part->setProperty(text.english, english.toUtf8());
     }
+  }
 }
 
 void sayInLanguage(QWidget& widget) {
-  for (QWidget* part : allWithin(widget))
+  for (QWidget* part : allWithin(widget)) {
     for (const Text& text : texts) {
       const QVariant english = part->property(text.english);
       if (english.isValid()) (part->*text.set)(panelText(english.toByteArray().constData()));
     }
+  }
 }
 
 void DesktopWords::use(int language) {

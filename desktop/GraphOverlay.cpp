@@ -41,18 +41,22 @@ QPolygonF flagShape(const QRectF& place, Side::Direction direction) {
   const qreal bottom = place.bottom();
   const QPointF centre = place.center();
   constexpr qreal tip = 6;
-  if (direction == Side::here)
-    return QPolygonF({{left, top},
-                      {right - tip, top},
-                      {right, centre.y()},
-                      {right - tip, bottom},
-                      {left, bottom}});
-  if (direction == Side::above)
-    return QPolygonF({{centre.x(), top},
-                      {right, top + tip},
-                      {right, bottom},
-                      {left, bottom},
-                      {left, top + tip}});
+  switch (direction) {
+    case Side::here:
+      return QPolygonF({{left, top},
+                        {right - tip, top},
+                        {right, centre.y()},
+                        {right - tip, bottom},
+                        {left, bottom}});
+    case Side::above:
+      return QPolygonF({{centre.x(), top},
+                        {right, top + tip},
+                        {right, bottom},
+                        {left, bottom},
+                        {left, top + tip}});
+    case Side::below:
+      break;
+  }
   return QPolygonF({{left, top},
                     {right, top},
                     {right, bottom - tip},
@@ -174,6 +178,7 @@ void GraphOverlay::paintNames(QPainter& painter, const Texts& names) const {
   }
   std::ranges::stable_sort(placed, {}, &Name::top);
   std::vector<qreal> tops;
+  tops.reserve(placed.size());
   for (const Name& name : placed) tops.push_back(name.top);
   spread(tops, rowHeight + 1, height() - roomOfNote);
   for (std::size_t i = 0; i < placed.size(); ++i) {

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Pictures of every window, as the manual shows them:
 ///
-///     tracewell-screenshots FOLDER [LANGUAGE [dark]]
+///     tracewell-screenshots FOLDER [LANGUAGE [light|dark [WIDTH HEIGHT]]]
 ///
 /// writes frmDSO.png and the others, and a printed page, into FOLDER. LANGUAGE is a number from 1
-/// to 5; "dark" shows them as on a dark desktop. The main window is connected to the simulated
-/// instrument, and every dialog is opened from it as a user does. The program folder is the
-/// executable's own; a waveform is saved there and the error log is written on.
+/// to 5; "dark" shows them as on a dark desktop; WIDTH and HEIGHT are those of the main window. It
+/// is connected to the simulated instrument, and every dialog is opened from it as a user does. The
+/// program folder is the executable's own; a waveform is saved there and the error log is written
+/// on.
 
 #include <QApplication>
 #include <QDialog>
@@ -45,8 +46,8 @@ void whenShown(const std::string& name, const Use& use) {
 
 class Screenshots {
  public:
-  Screenshots(DesktopProgram& desktop, const QDir& folder)
-      : desktop_(desktop), program_(desktop.program), folder_(folder) {}
+  Screenshots(DesktopProgram& desktop, const QDir& folder, const QSize& mainSize)
+      : desktop_(desktop), program_(desktop.program), folder_(folder), mainSize_(mainSize) {}
 
   /// False when a picture could not be written.
   bool takeAll();
@@ -81,6 +82,7 @@ class Screenshots {
   DesktopProgram& desktop_;
   Tracewell& program_;
   QDir folder_;
+  QSize mainSize_;
   bool isSaved_ = true;
 };
 
@@ -102,7 +104,7 @@ void Screenshots::takeMainWindow() {
   program_.measurements.cmdFMeasure_Click();
   QTest::qWait(4000);
   whenShown(main.name(), [this](QWidget& form) {
-    form.resize(1280, 800);
+    form.resize(mainSize_);
     take(form);
   });
   QTest::qWait(500);
@@ -195,5 +197,7 @@ int main(int argumentCount, char** arguments) {
   DesktopProgram desktop(programFolder());
   if (!desktop.start()) return EXIT_FAILURE;
   if (words.size() > 2) desktop.program.languageMenu.mnbLA_Click(words[2].toInt());
-  return Screenshots(desktop, QDir(words[1])).takeAll() ? EXIT_SUCCESS : EXIT_FAILURE;
+  const QSize size =
+      words.size() > 5 ? QSize(words[4].toInt(), words[5].toInt()) : QSize(1280, 800);
+  return Screenshots(desktop, QDir(words[1]), size).takeAll() ? EXIT_SUCCESS : EXIT_FAILURE;
 }

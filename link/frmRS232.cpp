@@ -46,7 +46,7 @@ void frmRS232::showDevice(const std::string& typed) {
 
 std::string frmRS232::deviceAndState(std::int16_t number) const {
   PortList& ports = services().ports;
-  const std::string device = ports.deviceOf(number);
+  std::string device = ports.deviceOf(number);
   if (device.empty()) return services().words.say("There is no such port");
   switch (ports.stateOf(number)) {
     case PortList::State::absent:

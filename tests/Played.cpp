@@ -88,6 +88,21 @@ void showParts(Graph& graph, std::map<std::string, std::string>& shown) {
                            numberText(cursor.xPosition()) + ":" + numberText(cursor.yPosition());
 }
 
+/// The flags and arrows with their heights, then all texts.
+std::string textOf(const GraphMarks& marks) {
+  std::string text;
+  for (const GraphMarks::Side& side : marks.sides)
+    text += side.text +
+            "^ v"[side.direction == GraphMarks::Side::above  ? 0
+                  : side.direction == GraphMarks::Side::here ? 1
+                                                             : 2] +
+            numberText(side.height) + " ";
+  for (const auto* texts : {&marks.names, &marks.scales, &marks.badge})
+    for (const GraphMarks::Text& part : *texts)
+      text += "| " + std::to_string(part.plot) + " " + part.text + " ";
+  return text;
+}
+
 /// A record of one value, but for its first.
 std::string level(int sample) {
   return makeRecord([sample](int i) { return i == 0 ? 0 : sample; });
@@ -172,6 +187,7 @@ std::map<std::string, std::string> Played::shownBy(Window& window) {
   for (const char* name : {"driveCSV", "lblPath"}) shown.erase(name);
   if (&window != &main) return shown;
   showParts(main.graphDSO, shown);
+  if (isTruthTold_) shown["marks"] = textOf(main.graphDSO.marks());
   for (const int number : {1, 2})
     if (isTruthTold_ && main.graphDSO.plot(number).isOld())
       shown["old" + std::to_string(number)] = "";

@@ -54,8 +54,8 @@ void frmGraph::pickColour(Button& button) {
 }
 
 /// Each box writes the other one's style and then changes the other box, whose own handler writes
-/// it anew: checking a box ends in its style. Clearing one ends in the wrong style, which the box
-/// that the user has touched then puts right.
+/// it anew. That ends in the wrong style where a box is cleared; the first one's handler, which
+/// runs in either case, puts it right.
 void frmGraph::opDot_Click(int row) {
   linePlot(row).borderStyle = Line::solid;
   opSolid(row).value = opDot(row).isChecked() ? 0 : 1;
@@ -65,7 +65,6 @@ void frmGraph::opDot_Click(int row) {
 void frmGraph::opSolid_Click(int row) {
   linePlot(row).borderStyle = Line::dotted;
   opDot(row).value = opSolid(row).isChecked() ? 0 : 1;
-  showStyle(row);
 }
 
 void frmGraph::showStyle(int row) {

@@ -74,6 +74,21 @@ TEST_F(FilesTest, ReadErrorIsAnError) {
   EXPECT_NE(errorOf([] { readFileEnd("/proc/self/mem", 10); }), "");
 }
 
+/// The last sizes are those of whole blocks of reading.
+TEST_F(FilesTest, LimitIsExact) {
+  const fs::path file = folder.path() / "file";
+  for (const std::uintmax_t size : {1, 100, 65535, 65536, 65537, 131072}) {
+    std::string text(size, 'a');
+    text.back() = 'z';
+    writeWholeFile(file, text);
+    EXPECT_EQ(readWholeFile(file, size), text);
+    EXPECT_NE(errorOf([&] { readWholeFile(file, size - 1); }), "");
+    EXPECT_TRUE(readFileEnd(file, size).isWhole);
+    EXPECT_EQ(readFileEnd(file, size - 1).bytes, text.substr(1));
+    EXPECT_FALSE(readFileEnd(file, size - 1).isWhole);
+  }
+}
+
 TEST_F(FilesTest, FileIsKeptOnceUnderANameOfItsOwn) {
   const fs::path file = folder.path() / "file";
   keepAside(file);
@@ -95,7 +110,8 @@ TEST_F(FilesTest, FileIsKeptOnceUnderANameOfItsOwn) {
 TEST_F(FilesTest, LongLogIsKeptOnceAndItsNewestHalfWritten) {
   const fs::path file = folder.path() / "dso.err";
   std::string log;
-  while (log.size() <= fileLimit::errorLog) log += std::to_string(log.size()) + " line\r\n";
+  while (log.size() <= fileLimit::errorLog)
+    log += std::to_string(10'000'000 + log.size()) + " line.\r\n";
   writeWholeFile(file, log);
   program.start();
   main.mnbErrLog.choose();
@@ -104,12 +120,12 @@ TEST_F(FilesTest, LongLogIsKeptOnceAndItsNewestHalfWritten) {
   EXPECT_EQ(log[log.size() - shown.size() - 1], '\n');
   EXPECT_GT(shown.size(), fileLimit::errorLog - 100);
   EXPECT_TRUE(main.lblNotice.caption().ends_with("dso.err.bad"));
-  program.errLog.txtErrLog.text = shown + "new\r\n";
+  const std::string added = "A line so long\r\n";
+  program.errLog.txtErrLog.text = shown + added;
   for (int i = 0; i < 2; ++i) program.errLog.cmdClose.press();
   const std::string written = contentOf(file);
-  EXPECT_TRUE((log + "new\r\n").ends_with("\n" + written));
-  EXPECT_LE(written.size(), fileLimit::errorLog / 2);
-  EXPECT_GT(written.size(), fileLimit::errorLog / 2 - 100);
+  EXPECT_TRUE((log + added).ends_with("\n" + written));
+  EXPECT_EQ(written.size(), fileLimit::errorLog / 2);
   EXPECT_EQ(contentOf(folder.path() / "dso.err.bad"), log);
   program.errLog.unload();
   main.mnbErrLog.choose();
