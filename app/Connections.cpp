@@ -127,11 +127,12 @@ void Tracewell::connectSupport() {
   main.mnbDSOcmd.click = [this] { console.cmdDSOcmd_Click(); };
   main.mnbAbout.click = [this] { about.mnbAbout_Click(); };
   int language = 1;
-  for (MenuEntry* entry : {&main.mnbLA1, &main.mnbLA2, &main.mnbLA3, &main.mnbLA4, &main.mnbLA5})
+  for (MenuEntry* entry : {&main.mnbLA1, &main.mnbLA2, &main.mnbLA3, &main.mnbLA4, &main.mnbLA5}) {
     entry->click = [this, number = language++] {
       languageMenu.mnbLA_Click(number);
       sayAgain();
     };
+  }
 }
 
 }  // namespace tracewell

@@ -4,12 +4,10 @@
 namespace tracewell {
 
 DesktopProgram::DesktopProgram(const std::filesystem::path& programFolder)
-    : ports(programFolder, clock), windows(programFolder), services{clock,    dialogs,
-                                                                    gate,     dispatcher,
-                                                                    standBy,  port,
-                                                                    ports,    windows,
-                                                                    pictures, printer,
-                                                                    words,    programFolder} {}
+    : ports(programFolder, clock, standBy),
+      windows(programFolder),
+      services{clock, dialogs, gate,     dispatcher, standBy, port,
+               ports, windows, pictures, printer,    words,   programFolder} {}
 
 /// However the event loop has ended, forms go before the windows that they show.
 DesktopProgram::~DesktopProgram() {

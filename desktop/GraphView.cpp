@@ -169,7 +169,7 @@ QPixmap GraphView::picture() {
   overlay_->hide();
   isForPicture_ = true;
   replot();
-  const QPixmap picture = grab();
+  QPixmap picture = grab();
   isForPicture_ = false;
   replot();
   overlay_->show();

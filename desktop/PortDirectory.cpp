@@ -8,6 +8,7 @@
 #include "DesktopWords.h"
 #include "Error.h"
 #include "QtSerialChannel.h"
+#include "QtTcpChannel.h"
 #include "QtValues.h"
 #include "SimulatedChannel.h"
 
@@ -79,12 +80,14 @@ bool isOpenElsewhere(const fs::path& device) {
 
 }  // namespace
 
-PortDirectory::PortDirectory(fs::path programFolder, Clock& clock)
-    : programFolder_(std::move(programFolder)), clock_(clock) {}
+PortDirectory::PortDirectory(fs::path programFolder, Clock& clock, StandBy& standBy)
+    : programFolder_(std::move(programFolder)), clock_(clock), standBy_(standBy) {}
 
 std::unique_ptr<ByteChannel> PortDirectory::open(const LineSettings& settings) {
   if (settings.portNumber == simulatedPort)
     return std::make_unique<SimulatedChannel>(simulatedInstrument_, clock_, settings);
+  if (const auto server = serverOf(settings.portNumber))
+    return std::make_unique<QtTcpChannel>(*server, standBy_);
   const QString device = systemDevice(settings.portNumber);
   if (device.isEmpty())
     throw Error(deviceError, "RS232", "There is no port " + std::to_string(settings.portNumber));
@@ -101,18 +104,35 @@ std::vector<PortList::Entry> PortDirectory::ports() {
 }
 
 std::string PortDirectory::deviceOf(std::int16_t number) {
-  return fromQt(number == simulatedPort ? panelText("simulated instrument") : systemDevice(number));
+  if (number == simulatedPort) return fromQt(panelText("simulated instrument"));
+  try {
+    if (const auto server = serverOf(number)) return addressText(*server);
+  } catch (const Error&) {
+    // Opening it says what is wrong with it.
+  }
+  return fromQt(systemDevice(number));
 }
 
 PortList::State PortDirectory::stateOf(std::int16_t number) {
   if (number == simulatedPort) return State::ready;
   if (!isPresent(number, presentDevices())) return State::absent;
+  // Whether anybody listens there shows only by connecting.
+  if (servers_.contains(number)) return State::ready;
   const fs::path device =
       isOverridden(number) ? overrideOf(number) : "/dev" / toPath(usualDevice(number));
   return isOpenElsewhere(device) ? State::inUseElsewhere : State::ready;
 }
 
+std::optional<ServerAddress> PortDirectory::serverOf(int number) {
+  if (const auto known = servers_.find(number); known != servers_.end()) return known->second;
+  std::error_code ignored;
+  if (!isOverridden(number) || !fs::is_regular_file(overrideOf(number), ignored))
+    return std::nullopt;
+  return servers_[number] = readServerAddress(overrideOf(number));
+}
+
 bool PortDirectory::isPresent(int number, const QSet<QString>& devices) const {
+  if (servers_.contains(number)) return true;
   std::error_code ignored;
   return isOverridden(number) ? fs::exists(overrideOf(number), ignored)
                               : devices.contains(usualDevice(number));

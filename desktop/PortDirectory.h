@@ -4,23 +4,29 @@
 #include <QSet>
 #include <QString>
 #include <filesystem>
+#include <map>
+#include <optional>
 #include <set>
 
 #include "Clock.h"
 #include "Instrument.h"
 #include "SerialPort.h"
+#include "ServerAddress.h"
+#include "StandBy.h"
 
 namespace tracewell {
 
 /// What the port numbers mean on this machine.
 ///
 /// Number 0 is the built-in simulated instrument. On Windows n is COMn, always. Elsewhere 1
-/// to 32 are ttyS0 to ttyS31, 33 to 64 ttyUSB0 to ttyUSB31, 65 to 96 ttyACM0 to ttyACM31; a file or
-/// link "comN" in the program folder stands for number N whatever its range, and, once it has been
-/// seen there, until the program ends: a number does not become another device when a link goes.
+/// to 32 are ttyS0 to ttyS31, 33 to 64 ttyUSB0 to ttyUSB31, 65 to 96 ttyACM0 to ttyACM31; a link
+/// "comN" in the program folder stands for number N whatever its range, and so does a file "comN"
+/// with the line "tcp://host:port", which means a serial device server. Once it has been seen there
+/// it does until the program ends: a number does not become another device when a link goes, nor
+/// another server.
 class PortDirectory : public ChannelOpener, public PortList {
  public:
-  PortDirectory(std::filesystem::path programFolder, Clock& clock);
+  PortDirectory(std::filesystem::path programFolder, Clock& clock, StandBy& standBy);
 
   std::unique_ptr<ByteChannel> open(const LineSettings& settings) override;
   std::vector<Entry> ports() override;
@@ -30,13 +36,17 @@ class PortDirectory : public ChannelOpener, public PortList {
  private:
   std::filesystem::path overrideOf(int number) const;
   bool isOverridden(int number) const;
+  /// None where the number is no server's. Raises where its file cannot be read as one.
+  std::optional<ServerAddress> serverOf(int number);
   QString systemDevice(int number) const;
   bool isPresent(int number, const QSet<QString>& devices) const;
 
   std::filesystem::path programFolder_;
   /// The numbers that have had a file or link of their own during this run.
   mutable std::set<int> overridden_;
+  std::map<int, ServerAddress> servers_;
   Clock& clock_;
+  StandBy& standBy_;
   Instrument simulatedInstrument_;
 };
 

@@ -4,7 +4,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QTimer>
 #include <utility>
 
 #ifdef Q_OS_UNIX
@@ -53,8 +52,23 @@ void keepControlLinesOnClose(const QString& device) {
 }  // namespace
 
 QtSerialChannel::QtSerialChannel(const QString& device, const LineSettings& settings)
-    : device_(device) {
+    : QtSerialChannel(device, new QSerialPort) {
   keepControlLinesOnClose(device);
+  open(device, settings);
+  port_.clear();
+  QObject::connect(&port_, &QSerialPort::readyRead, &context(), [this] { announce(); });
+  QObject::connect(&port_, &QSerialPort::errorOccurred, &context(),
+                   [this](QSerialPort::SerialPortError error) { watch(error); });
+}
+
+QtSerialChannel::QtSerialChannel(const QString& device, QSerialPort* port)
+    : DeviceChannel(device, std::unique_ptr<QIODevice>(port)), port_(*port) {}
+
+QtSerialChannel::~QtSerialChannel() {
+  if (port_.isOpen()) port_.flush();
+}
+
+void QtSerialChannel::open(const QString& device, const LineSettings& settings) {
   port_.setPortName(device);
   // Set before opening: a line that cannot do one of them, as a pseudo-terminal, then still opens.
   port_.setBaudRate(settings.baudRate);
@@ -62,69 +76,18 @@ QtSerialChannel::QtSerialChannel(const QString& device, const LineSettings& sett
   port_.setStopBits(settings.stopBits == 0 ? QSerialPort::OneStop : QSerialPort::TwoStop);
   port_.setParity(parityOf(settings.parity));
   port_.setFlowControl(QSerialPort::NoFlowControl);
-  if (!port_.open(QIODevice::ReadWrite)) {
-    // A device that may be used and yet cannot be opened is somebody else's at the moment.
-    const bool isInUse =
-        port_.error() == QSerialPort::PermissionError &&
-        QFileInfo(QDir(QStringLiteral("/dev")).absoluteFilePath(device)).isWritable();
-    failure_ = isInUse ? QStringLiteral("in use by another program") : port_.errorString();
-    raiseFailure();
-  }
-  port_.clear();
-  QObject::connect(&port_, &QSerialPort::readyRead, &context_, [this] { announce(); });
-  QObject::connect(&port_, &QSerialPort::errorOccurred, &context_,
-                   [this](QSerialPort::SerialPortError error) { watch(error); });
+  if (port_.open(QIODevice::ReadWrite)) return;
+  // A device that may be used and yet cannot be opened is somebody else's at the moment.
+  const bool isInUse =
+      port_.error() == QSerialPort::PermissionError &&
+      QFileInfo(QDir(QStringLiteral("/dev")).absoluteFilePath(device)).isWritable();
+  fail(isInUse ? QStringLiteral("in use by another program") : port_.errorString());
+  raiseFailure();
 }
 
-QtSerialChannel::~QtSerialChannel() {
-  if (port_.isOpen()) port_.flush();
-}
-
-void QtSerialChannel::write(std::string_view bytes) {
-  if (!failure_.isNull()) raiseFailure();
-  const auto written = port_.write(bytes.data(), static_cast<qint64>(bytes.size()));
-  if (written != static_cast<qint64>(bytes.size()) && failure_.isNull())
-    failure_ = port_.errorString();
-  port_.flush();
-  if (!failure_.isNull()) raiseFailure();
-}
-
-std::string QtSerialChannel::read(int timeOut) {
-  QByteArray bytes = std::exchange(rest_, {});
-  if (port_.isOpen()) bytes += port_.readAll();
-  // Also with a time-out of zero: without events nobody else has fetched what the system holds.
-  if (bytes.isEmpty() && failure_.isNull() && port_.waitForReadyRead(timeOut))
-    bytes = port_.readAll();
-  if (bytes.isEmpty() && !failure_.isNull()) raiseFailure();
-  return bytes.toStdString();
-}
-
-/// The first real error is the last: a device that is gone reports the same one without end until
-/// the port is closed.
 void QtSerialChannel::watch(QSerialPort::SerialPortError error) {
   if (error == QSerialPort::NoError || error == QSerialPort::TimeoutError) return;
-  if (!failure_.isNull()) return;
-  failure_ = port_.errorString();
-  QTimer::singleShot(0, &context_, [this] {
-    rest_ = port_.readAll();
-    port_.close();
-  });
-  announce();
-}
-
-/// Out of the event loop and once for many arrivals. The owner may destroy the channel in it.
-void QtSerialChannel::announce() {
-  if (isAnnounced_) return;
-  isAnnounced_ = true;
-  QTimer::singleShot(0, &context_, [this] {
-    isAnnounced_ = false;
-    const std::function<void()> tell = readable;
-    if (tell) tell();
-  });
-}
-
-void QtSerialChannel::raiseFailure() const {
-  throw Error(deviceError, "RS232", fromQt(device_ + QStringLiteral(": ") + failure_));
+  fail(port_.errorString());
 }
 
 }  // namespace tracewell

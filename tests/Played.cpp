@@ -92,14 +92,11 @@ void showParts(Graph& graph, std::map<std::string, std::string>& shown) {
 std::string textOf(const GraphMarks& marks) {
   std::string text;
   for (const GraphMarks::Side& side : marks.sides)
-    text += side.text +
-            "^ v"[side.direction == GraphMarks::Side::above  ? 0
-                  : side.direction == GraphMarks::Side::here ? 1
-                                                             : 2] +
-            numberText(side.height) + " ";
-  for (const auto* texts : {&marks.names, &marks.scales, &marks.badge})
+    text += side.text + " ^v"[side.direction] + numberText(side.height) + " ";
+  for (const auto* texts : {&marks.names, &marks.scales, &marks.badge}) {
     for (const GraphMarks::Text& part : *texts)
       text += "| " + std::to_string(part.plot) + " " + part.text + " ";
+  }
   return text;
 }
 

@@ -4,7 +4,7 @@
 #include <cstdint>
 
 /// The size that a file of each kind may have in bytes, far above any real one. Of the error log
-/// the last part of that size is read. Nothing is read from a `comN`: it is opened as a line.
+/// the last part of that size is read.
 namespace tracewell::fileLimit {
 
 inline constexpr std::uintmax_t kibibyte = 1024;
@@ -19,6 +19,8 @@ inline constexpr std::uintmax_t errorLog = 1024 * kibibyte;
 inline constexpr std::uintmax_t picture = kibibyte * 1024 * 32;
 inline constexpr std::uintmax_t shippedVersion = kibibyte;
 inline constexpr std::uintmax_t windowState = kibibyte;
+/// A `comN` that is no link to a device.
+inline constexpr std::uintmax_t portAddress = kibibyte;
 /// One of the files that come with the program, whatever its kind.
 inline constexpr std::uintmax_t shipped = picture;
 

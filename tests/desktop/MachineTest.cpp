@@ -22,7 +22,9 @@ namespace fs = std::filesystem;
 TEST(PortDirectory, NumbersMeanDevicesUnlessALinkInTheProgramFolderSaysOtherwise) {
   const ProgramFolderCopy folder;
   VirtualClock clock;
-  PortDirectory directory(folder.path(), clock);
+  Gate gate;
+  StandBy standBy(clock, gate);
+  PortDirectory directory(folder.path(), clock, standBy);
   const fs::path link = folder.path() / "com34";
   fs::create_symlink(folder.path() / "device", link);
   const std::pair<std::int16_t, std::string> cases[] = {{0, "simulated instrument"},
@@ -65,6 +67,26 @@ TEST(PortDirectory, NumbersMeanDevicesUnlessALinkInTheProgramFolderSaysOtherwise
   EXPECT_NE(directory.open({.portNumber = 0}), nullptr);
   EXPECT_THROW(directory.open({.portNumber = 34}), Error);
   EXPECT_THROW(directory.open({.portNumber = 97}), Error);
+}
+
+TEST(PortDirectory, FileWithTheAddressOfAServerStandsForItUntilTheEnd) {
+  const ProgramFolderCopy folder;
+  VirtualClock clock;
+  Gate gate;
+  StandBy standBy(clock, gate);
+  PortDirectory directory(folder.path(), clock, standBy);
+  const fs::path file = folder.path() / "com5";
+  writeWholeFile(file, "tcp://bench 3");
+  EXPECT_EQ(directory.deviceOf(5), file.string());
+  EXPECT_THROW(directory.open({.portNumber = 5}), Error);
+  writeWholeFile(file, "tcp://bench3:4001\r\n");
+  for (const char* then : {"tcp://other:1", ""}) {
+    EXPECT_EQ(directory.deviceOf(5), "bench3:4001");
+    EXPECT_EQ(directory.stateOf(5), PortList::State::ready);
+    EXPECT_EQ(std::ranges::count(directory.ports(), "bench3:4001", &PortList::Entry::device), 1);
+    fs::remove(file);
+    if (*then != '\0') writeWholeFile(file, then);
+  }
 }
 
 TEST(WindowState, WindowComesBackWhereItWasIfThatIsOnAScreen) {

@@ -60,12 +60,14 @@ QByteArray answer(const QString& question) {
   if (auto* action = qobject_cast<QAction*>(object)) place = placeOf(*action);
   if (auto* widget = qobject_cast<QWidget*>(object)) place = placeOf(*widget);
   if (place.isEmpty()) return {};
+  QVariant text = object->property("text");
+  if (!text.isValid()) text = object->property("plainText");
   return QStringLiteral("%1 %2 %3 %4 %5")
       .arg(place.x())
       .arg(place.y())
       .arg(place.width())
       .arg(place.height())
-      .arg(object->property("text").toString().simplified())
+      .arg(text.toString().simplified())
       .toUtf8();
 }
 

@@ -11,6 +11,7 @@ import os
 import pathlib
 import select
 import shutil
+import signal
 import socket
 import subprocess
 import sys
@@ -205,6 +206,58 @@ class Instrument:
         self.process.stdout.close()
 
 
+class DeviceServer:
+    """Passes a serial device on to a TCP port: ser2net, or socat where that does not come to listen."""
+
+    GREETING = "bench 3, line 1"
+
+    def __init__(self, device, port, folder):
+        settings = folder / "ser2net.yaml"
+        settings.write_text(f"""%YAML 1.1
+---
+connection: &line
+  accepter: tcp,127.0.0.1,{port}
+  connector: serialdev,{device},19200n81,local
+  options:
+    banner: "{self.GREETING}\\r\\n"
+""")
+        socat = f"TCP-LISTEN:{port},bind=127.0.0.1,reuseaddr,fork"
+        for command in (["ser2net", "-n", "-u", "-c", settings],
+                        ["socat", socat, f"FILE:{device},raw,echo=0"]):
+            if not shutil.which(command[0]):
+                continue
+            self.process = subprocess.Popen(command, stdout=subprocess.DEVNULL,
+                                            stderr=subprocess.DEVNULL, start_new_session=True)
+            if self.listens(port):
+                print("device server:", command[0])
+                return
+            self.stop()
+        raise AssertionError("no device server listens")
+
+    @staticmethod
+    def listens(port):
+        """Looks without connecting, which would be the server's one client."""
+        row = f"0100007F:{port:04X} 00000000:0000 0A"
+        end = time.monotonic() + 3
+        while time.monotonic() < end:
+            if row in pathlib.Path("/proc/net/tcp").read_text():
+                return True
+            time.sleep(0.1)
+        return False
+
+    def stop(self):
+        """With those that serve a client; ser2net does not heed a SIGTERM where it could not start."""
+        if self.process.poll() is None:
+            os.killpg(self.process.pid, signal.SIGKILL)
+            self.process.wait()
+
+
+def free_port():
+    with socket.socket() as found:
+        found.bind(("127.0.0.1", 0))
+        return found.getsockname()[1]
+
+
 class ClientMessage(ctypes.Structure):
     _fields_ = [("type", ctypes.c_int), ("serial", ctypes.c_ulong), ("send_event", ctypes.c_int),
                 ("display", ctypes.c_void_p), ("window", ctypes.c_ulong),
@@ -303,6 +356,12 @@ class SystemTestCase(unittest.TestCase):
         instrument = Instrument(program.folder / "com7")
         self.addCleanup(instrument.stop)
         return instrument
+
+    def make_server(self, program, port):
+        """In front of the instrument."""
+        server = DeviceServer(program.folder / "com7", port, program.folder)
+        self.addCleanup(server.stop)
+        return server
 
     def trace(self, program):
         """Where the graph shows the colour of channel 1."""

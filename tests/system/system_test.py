@@ -7,7 +7,7 @@ import signal
 import subprocess
 import time
 
-from real_desktop import SystemTestCase, main, run, wait_for
+from real_desktop import SystemTestCase, free_port, main, run, wait_for
 
 
 class SystemTest(SystemTestCase):
@@ -93,6 +93,29 @@ class SystemTest(SystemTestCase):
 
         self.make_instrument(program)
         program.focus(program.window)
+        program.keys("F5")
+        self.expect_live_trace(program)
+        program.close()
+
+    def test_device_server_goes_and_comes_back(self):
+        program = self.make_program(0)
+        self.make_instrument(program)
+        tcp = free_port()
+        (program.folder / "com5").write_text(f"tcp://127.0.0.1:{tcp}\n")
+        server = self.make_server(program, tcp)
+        program.start()
+        self.choose_port(program, 5)
+        program.keys("F5")
+        self.expect_live_trace(program)
+        self.assertIn(f"127.0.0.1:{tcp}", program.place("frmDSO.lblPort").text)
+        program.click("frmDSO.txtTest")
+        program.type("*IDN?")
+        program.keys("Return")
+        wait_for(lambda: "KRM-410" in program.place("frmDSO.txtMsg").text, 10, "the instrument's name")
+        self.assertNotIn(server.GREETING, program.place("frmDSO.txtMsg").text)
+        server.stop()
+        wait_for(lambda: "refused" in program.place("frmDSO.lblStatus").text, 10, "the loss to be said")
+        self.make_server(program, tcp)
         program.keys("F5")
         self.expect_live_trace(program)
         program.close()

@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "QtTcpChannel.h"
+
+#include <QHostInfo>
+#include <QThread>
+
+#include "QtValues.h"
+#include "SerialPort.h"
+
+namespace tracewell {
+namespace {
+
+/// Milliseconds between two turns of the desktop.
+constexpr int interval = 10;
+/// A server that greets does so at once: it is heard after as long as it took to answer, and so
+/// much more. Milliseconds.
+constexpr int greeting = 100;
+
+}  // namespace
+
+QtTcpChannel::QtTcpChannel(const ServerAddress& address, StandBy& standBy)
+    : QtTcpChannel(address, standBy, new QTcpSocket) {
+  sinceBegin_.start();
+  connectToOneOf(addressesOf(toQt(address.host)), address.port);
+  dropGreeting();
+  QObject::connect(&socket_, &QTcpSocket::readyRead, &context(), [this] { announce(); });
+  QObject::connect(&socket_, &QTcpSocket::errorOccurred, &context(),
+                   [this](QAbstractSocket::SocketError error) {
+                     if (error != QAbstractSocket::SocketTimeoutError) fail(socket_.errorString());
+                   });
+}
+
+QtTcpChannel::QtTcpChannel(const ServerAddress& address, StandBy& standBy, QTcpSocket* socket)
+    : DeviceChannel(toQt(addressText(address)), std::unique_ptr<QIODevice>(socket)),
+      standBy_(standBy),
+      socket_(*socket) {}
+
+/// The system's own look-up has no end of its own where the name server is away.
+QList<QHostAddress> QtTcpChannel::addressesOf(const QString& host) {
+  if (const QHostAddress address(host); !address.isNull()) return {address};
+  QHostInfo found;
+  bool isOver = false;
+  // Dropped with the context when the wait is left without it.
+  QHostInfo::lookupHost(host, &context(), [&](const QHostInfo& info) {
+    found = info;
+    isOver = true;
+  });
+  while (!isOver && left() > 0) {
+    QThread::msleep(interval);
+    turn();
+  }
+  if (!isOver) endWith(QStringLiteral("the name was not found in time"));
+  if (found.addresses().isEmpty()) endWith(found.errorString());
+  return found.addresses();
+}
+
+/// A name may have addresses at which nobody answers; each gets its share of the time.
+void QtTcpChannel::connectToOneOf(const QList<QHostAddress>& hosts, std::uint16_t port) {
+  for (qsizetype i = 0; i < hosts.size(); ++i) {
+    const int share = left() / static_cast<int>(hosts.size() - i);
+    if (isConnected(hosts[i], port, share)) return;
+  }
+  const bool isSilent = socket_.state() == QAbstractSocket::ConnectingState;
+  endWith(isSilent ? QStringLiteral("the server did not answer in time") : socket_.errorString());
+}
+
+/// The toolkit's own wait would end the attempt with its time-out, so the events are waited for.
+bool QtTcpChannel::isConnected(const QHostAddress& host, std::uint16_t port, int timeOut) {
+  QElapsedTimer sinceCall;
+  sinceCall.start();
+  socket_.abort();
+  socket_.connectToHost(host, port);
+  while (socket_.state() == QAbstractSocket::ConnectingState && sinceCall.elapsed() < timeOut) {
+    QThread::msleep(interval);
+    turn();
+  }
+  if (socket_.state() != QAbstractSocket::ConnectedState) return false;
+  distance_ = static_cast<int>(sinceCall.elapsed());
+  socket_.setSocketOption(QAbstractSocket::LowDelayOption, 1);
+  socket_.setSocketOption(QAbstractSocket::KeepAliveOption, 1);
+  return true;
+}
+
+/// Of a server that does not stop talking the rest is heard as what nobody has asked for.
+void QtTcpChannel::dropGreeting() {
+  QElapsedTimer sinceHeard;
+  sinceHeard.start();
+  while (left() > 0 && sinceHeard.elapsed() < distance_ + greeting) {
+    socket_.waitForReadyRead(interval);
+    if (!socket_.readAll().isEmpty()) sinceHeard.restart();
+    if (socket_.state() != QAbstractSocket::ConnectedState) endWith(socket_.errorString());
+    turn();
+  }
+}
+
+int QtTcpChannel::left() const {
+  return SerialPort::defaultReadTimeOut - static_cast<int>(sinceBegin_.elapsed());
+}
+
+void QtTcpChannel::turn() {
+  standBy_.turn();
+  if (standBy_.isGivenUp()) endWith(QStringLiteral("given up"));
+}
+
+void QtTcpChannel::endWith(const QString& reason) {
+  fail(reason);
+  raiseFailure();
+}
+
+}  // namespace tracewell

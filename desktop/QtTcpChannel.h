@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QElapsedTimer>
+#include <QHostAddress>
+#include <QTcpSocket>
+
+#include "DeviceChannel.h"
+#include "ServerAddress.h"
+#include "StandBy.h"
+
+namespace tracewell {
+
+/// The line behind a serial device server, which keeps its settings: raw TCP.
+class QtTcpChannel : public DeviceChannel {
+ public:
+  /// Finds the host, connects, and drops what the server says by itself, all within
+  /// SerialPort::defaultReadTimeOut; the waits are those of `standBy`. Raises deviceError with the
+  /// system's words, or when the user has given up; throws ProgramEnded.
+  QtTcpChannel(const ServerAddress& address, StandBy& standBy);
+
+ private:
+  QtTcpChannel(const ServerAddress& address, StandBy& standBy, QTcpSocket* socket);
+
+  void flush() override { socket_.flush(); }
+  QList<QHostAddress> addressesOf(const QString& host);
+  void connectToOneOf(const QList<QHostAddress>& hosts, std::uint16_t port);
+  bool isConnected(const QHostAddress& host, std::uint16_t port, int timeOut);
+  void dropGreeting();
+  /// Milliseconds that opening may still take.
+  int left() const;
+  /// Lets the desktop have its turn; raises what giving up does.
+  void turn();
+  [[noreturn]] void endWith(const QString& reason);
+
+  StandBy& standBy_;
+  QTcpSocket& socket_;
+  QElapsedTimer sinceBegin_;
+  /// How long the server took to answer the connection.
+  int distance_ = 0;
+};
+
+}  // namespace tracewell

@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <QTcpServer>
+#include <QTest>
+#include <QTimer>
+
+#include "DesktopClock.h"
+#include "Doubles.h"
+#include "PortUser.h"
+#include "QtTcpChannel.h"
+
+namespace tracewell {
+
+/// A server of one line, and the port that is connected to it.
+class TcpLineTest : public testing::Test, public ChannelOpener {
+ protected:
+  TcpLineTest() {
+    EXPECT_TRUE(server.listen(QHostAddress::LocalHost));
+    address = {"127.0.0.1", server.serverPort()};
+    QObject::connect(&server, &QTcpServer::newConnection, [this] {
+      QTcpSocket* line = server.nextPendingConnection();
+      line->write(greeting);
+      QObject::connect(line, &QTcpSocket::readyRead, [this, line] {
+        heard += line->readAll();
+        if (heard.endsWith('\n')) line->write(answer);
+      });
+    });
+  }
+
+  std::unique_ptr<ByteChannel> open(const LineSettings&) override {
+    return std::make_unique<QtTcpChannel>(address, standBy);
+  }
+
+  void dropLine() {
+    for (QTcpSocket* line : server.findChildren<QTcpSocket*>()) line->abort();
+    QTest::qWait(50);
+  }
+
+  std::string failure() {
+    try {
+      port.reset();
+      port.prepare();
+    } catch (const Error& error) {
+      EXPECT_EQ(error.number(), deviceError);
+      return error.description();
+    }
+    return "none";
+  }
+
+  QTcpServer server;
+  ServerAddress address;
+  QByteArray greeting = "KRM bench 3, line 1\r\nbe gentle\r\n";
+  QByteArray answer = "KRM-410\r\n";
+  QByteArray heard;
+  DesktopClock clock;
+  Gate gate;
+  StandBy standBy{clock, gate};
+  RecordingDialogs dialogs{gate};
+  EventDispatcher dispatcher{gate, dialogs};
+  LinePort port{*this, clock, gate, dispatcher, standBy};
+};
+
+TEST_F(TcpLineTest, AnswersAreTheInstrumentsAndComeBackWithTheLine) {
+  PortUser user(port);
+  EXPECT_EQ(user.ask("*IDN?"), "KRM-410\n");
+  EXPECT_EQ(heard, "*IDN?\r\n");
+  dropLine();
+  EXPECT_EQ(user.ask("A?"), "KRM-410\n");
+  EXPECT_EQ(port.openings(), 2);
+  answer = "";
+  EXPECT_EQ(user.ask("B?"), std::to_string(portReadTimeOut));
+  server.close();
+  dropLine();
+  EXPECT_EQ(failure(), addressText(address) + ": Connection refused");
+}
+
+/// A queue for connections that nobody accepts: what comes when it is full has no answer.
+TEST_F(TcpLineTest, OpeningEndsInTimeAndSaysWhyItFailed) {
+  QTcpServer full;
+  full.setListenBacklogSize(1);
+  ASSERT_TRUE(full.listen(QHostAddress::LocalHost));
+  full.pauseAccepting();
+  std::array<QTcpSocket, 4> waiting;
+  for (QTcpSocket& socket : waiting) socket.connectToHost(full.serverAddress(), full.serverPort());
+  QTest::qWait(50);
+  const std::pair<ServerAddress, const char*> cases[] = {
+      {{"127.0.0.1", full.serverPort()}, ": the server did not answer in time"},
+      {{"no.such.invalid", 80}, ": Host not found"}};
+  for (const auto& [unreachable, reason] : cases) {
+    address = unreachable;
+    const std::int64_t begin = clock.milliseconds();
+    EXPECT_EQ(failure(), addressText(address) + reason);
+    EXPECT_LT(clock.milliseconds() - begin, SerialPort::defaultReadTimeOut + 500);
+  }
+}
+
+/// The window lives on meanwhile, and Escape ends it.
+TEST_F(TcpLineTest, UserMayGiveUpAServerThatTalksWithoutEnd) {
+  QTimer babble;
+  QObject::connect(&babble, &QTimer::timeout, [this] {
+    for (QTcpSocket* line : server.findChildren<QTcpSocket*>()) line->write("more\r\n");
+  });
+  babble.start(20);
+  const StandBy::Burst burst(standBy);
+  QTimer::singleShot(300, [this] { standBy.giveUp(); });
+  EXPECT_EQ(failure(), addressText(address) + ": given up");
+}
+
+}  // namespace tracewell
