@@ -72,11 +72,12 @@ void showWith(Control& control, Object* object, Show show) {
     const QSignalBlocker blocker(object);
     object->setVisible(control.visible());
     object->setEnabled(control.enabled());
+    show();
     if constexpr (std::is_base_of_v<QWidget, Object>) {
-      UnreadMark::show(*object, control.isUnread());
+      if constexpr (!std::is_same_v<SlideWidget, Object>)
+        UnreadMark::show(*object, control.isUnread());
       showPale(*object, control.isStale());
     }
-    show();
   };
   control.changed();
 }
@@ -353,8 +354,11 @@ void bind(Slide& control, QWidget& form) {
   showWith(control, slide, [&control, slide, caption] {
     slide->setValue(control.value());
     if (caption == nullptr) return;
-    showInLabel(*caption, control.caption(), widestOf(*caption));
+    const int room = widestOf(*caption) - (control.isUnread() ? UnreadMark::room : 0);
+    showInLabel(*caption, control.caption(), room);
     showPale(*caption, control.isStale());
+    // On the groove it would cover a place of the handle.
+    UnreadMark::show(*caption, control.isUnread());
   });
   QObject::connect(slide, &SlideWidget::dragged, slide,
                    [&control](double to) { control.drag(to); });

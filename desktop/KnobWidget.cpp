@@ -116,8 +116,11 @@ void KnobWidget::paintDetents(QPainter& painter) {
     const bool isCrowded =
         captions_.size() > mostCaptions && !isChosen && qAbs(detent - value_) < 2;
     if (!hasCaption(detent) || isCrowded) continue;
-    const QPointF at = pointAt(angleOf(detent), radius() + 19 * scale());
-    const QSizeF room = QSizeF(48, 18) * scale();
+    // As far from its detent on every side, however long it is.
+    const QSizeF room = painter.fontMetrics().size(Qt::TextSingleLine, captions_[detent]);
+    const QPointF edge = pointAt(angleOf(detent), radius() + 11 * scale());
+    const QPointF outward = pointAt(angleOf(detent), 1) - centre();
+    const QPointF at = edge + QPointF(outward.x() * room.width(), outward.y() * room.height()) / 2;
     painter.drawText(QRectF(at - QPointF(room.width(), room.height()) / 2, room), Qt::AlignCenter,
                      captions_[detent]);
   }

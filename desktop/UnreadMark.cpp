@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QEvent>
+#include <QLabel>
 #include <QPainter>
 #include <algorithm>
 
@@ -15,6 +16,13 @@ namespace tracewell {
 namespace {
 
 constexpr int side = 13;
+
+int endOfText(const QLabel& label) {
+  const int length = label.fontMetrics().horizontalAdvance(label.text());
+  const QRect room = label.contentsRect();
+  const bool isCentred = label.alignment() & Qt::AlignHCenter;
+  return isCentred ? room.center().x() + length / 2 : room.left() + length;
+}
 
 QString meaning() {
   return QCoreApplication::translate("Panel", "The instrument has not told this value");
@@ -28,6 +36,7 @@ void UnreadMark::show(QWidget& marked, bool isUnread) {
   marked.setAccessibleDescription(isUnread ? meaning() : QString());
   if (mark == nullptr) mark = new UnreadMark(marked);
   mark->setVisible(isUnread);
+  mark->toPlace();
 }
 
 UnreadMark::UnreadMark(QWidget& marked) : QWidget(&marked) {
@@ -70,6 +79,8 @@ void UnreadMark::toPlace() {
     move(right - arrow, middle);
   else if (qobject_cast<const QAbstractButton*>(&marked) != nullptr)
     move(std::min(right, marked.sizeHint().width() + 2), middle);
+  else if (const auto* label = qobject_cast<const QLabel*>(&marked))
+    move(std::min(right, endOfText(*label) + UnreadMark::room - side), middle);
   else
     move(right, 0);
 }

@@ -6,14 +6,16 @@
 namespace tracewell {
 
 /// A question mark on a widget whose value the instrument has not told: behind the words of a
-/// button, in front of the arrow of a box with a list, in the gap of a knob's scale, otherwise in
-/// the upper right corner. Screen readers hear it as the widget's description.
+/// button or label, in front of the arrow of a box with a list, in the gap of a knob's scale,
+/// otherwise in the upper right corner. Screen readers hear it as the widget's description.
 class UnreadMark : public QWidget {
   Q_OBJECT
 
  public:
   /// Shows or hides the mark of `marked`, which owns it. A mark is made when it is first shown.
   static void show(QWidget& marked, bool isUnread);
+  /// Pixels that it takes behind words.
+  static constexpr int room = 17;
 
  protected:
   void paintEvent(QPaintEvent* event) override;

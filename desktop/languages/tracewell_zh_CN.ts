@@ -665,7 +665,7 @@
     </message>
     <message>
         <source>Number of the port; 0 is the simulated instrument</source>
-        <translation>端口号；0 为模拟仪器</translation>
+        <translation>端口号；0 为仿真仪器</translation>
     </message>
     <message>
         <source>Open the error log</source>
@@ -757,7 +757,7 @@
     </message>
     <message>
         <source>SIMULATED</source>
-        <translation>模拟</translation>
+        <translation>仿真信号</translation>
     </message>
     <message>
         <source>Samples as dots</source>
@@ -1045,7 +1045,7 @@
     </message>
     <message>
         <source>simulated instrument</source>
-        <translation>模拟仪器</translation>
+        <translation>仿真仪器</translation>
     </message>
 </context>
 </TS>

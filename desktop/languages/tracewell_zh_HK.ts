@@ -665,7 +665,7 @@
     </message>
     <message>
         <source>Number of the port; 0 is the simulated instrument</source>
-        <translation>連接埠編號；0 係模擬儀器</translation>
+        <translation>連接埠編號；0 係仿真儀器</translation>
     </message>
     <message>
         <source>Open the error log</source>
@@ -757,7 +757,7 @@
     </message>
     <message>
         <source>SIMULATED</source>
-        <translation>模擬</translation>
+        <translation>仿真訊號</translation>
     </message>
     <message>
         <source>Samples as dots</source>
@@ -1045,7 +1045,7 @@
     </message>
     <message>
         <source>simulated instrument</source>
-        <translation>模擬儀器</translation>
+        <translation>仿真儀器</translation>
     </message>
 </context>
 </TS>

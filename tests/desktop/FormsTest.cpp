@@ -143,7 +143,7 @@ TEST(DesktopWords, FollowTheLanguageInEveryWindowAndLeaveWhatIsShown) {
   const auto shown = [&](const Control& control) {
     return desktop.windows.widgetOf(control)->property("text").toString();
   };
-  EXPECT_EQ(shown(main.opOff), QStringLiteral("Sans"));
+  EXPECT_EQ(shown(main.opOff), QStringLiteral("Aucun"));
   EXPECT_EQ(shown(main.lblTime), QStringLiteral("Not Initialized"));
   EXPECT_EQ(shown(main.txtTest), QStringLiteral("typed"));
   main.mnbLA1.choose();

@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 #endif
 
+#include "Disk.h"
 #include "Doubles.h"
 
 namespace tracewell {
@@ -72,6 +73,37 @@ TEST_F(FilesTest, ReadErrorIsAnError) {
   if (!fs::exists("/proc/self/mem")) GTEST_SKIP();
   EXPECT_NE(errorOf([] { contentOf("/proc/self/mem"); }), "");
   EXPECT_NE(errorOf([] { readFileEnd("/proc/self/mem", 10); }), "");
+}
+
+/// Says at which of its two duties it fails.
+class FullDisk : public Disk {
+ public:
+  std::error_code flush(std::FILE&) override { return at(isFileFailing); }
+  std::error_code flushFolder(const fs::path&) override { return at(true); }
+  bool isFileFailing = true;
+
+ private:
+  static std::error_code at(bool isFailing) {
+    return isFailing ? std::make_error_code(std::errc::io_error) : std::error_code();
+  }
+};
+
+TEST_F(FilesTest, WhatADiskMayNotHoldIsSaidAndLeavesNothingBehind) {
+  const fs::path file = folder.path() / "file";
+  writeWholeFile(file, "old");
+  const std::size_t before = entries();
+  FullDisk disk;
+  useDisk(&disk);
+  const std::string place = ": " + pathText(file) + " (Input/output error)";
+  EXPECT_EQ(errorOf([&] { writeWholeFile(file, "new"); }), "Cannot write" + place);
+  EXPECT_EQ(contentOf(file), "old");
+  EXPECT_EQ(entries(), before);
+  disk.isFileFailing = false;
+  EXPECT_EQ(errorOf([&] { writeWholeFile(file, "new"); }),
+            "Written, but perhaps not for good" + place);
+  useDisk(nullptr);
+  EXPECT_EQ(contentOf(file), "new");
+  EXPECT_EQ(entries(), before);
 }
 
 /// The last sizes are those of whole blocks of reading.

@@ -56,7 +56,7 @@ TEST(Numbers, IsNumericTakesOneNumberAndNothingElse) {
 
 TEST(Numbers, LeadingNumberStopsAtTheFirstLetterOrBlank) {
   const std::map<std::string, double> cases = {
-      {"2.000", 2}, {"  1.5 V", 1.5}, {"-2.00", -2}, {"2E-3", 2}, {".5V", 0.5},
+      {"2.000", 2}, {"  1.5 V", 1.5}, {"-2.00", -2}, {"+12", 12}, {"2E-3", 2}, {".5V", 0.5},
       {"Null", 0},  {"", 0},          {"-", 0},      {".", 0},    {"1 2", 1}};
   for (const auto& [text, expected] : cases) EXPECT_EQ(leadingNumber(text), expected) << text;
 }
