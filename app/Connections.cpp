@@ -79,6 +79,7 @@ void Tracewell::connectView() {
   main.mnbGraph.click = [this] { graphStyle.cmdGraph_Click(); };
   main.cmdVMeasure.click = [this] { measurements.cmdVMeasure_Click(); };
   main.mnbVoltage.click = [this] { measurements.mnbVoltage_Click(); };
+  main.fmMeasure.copied = [this] { measurements.fmMeasure_Copied(); };
   main.cmdFMeasure.click = [this] { measurements.cmdFMeasure_Click(); };
   main.cmdPrint.click = [this] { printing.cmdPrint_Click(); };
   main.mnbPrint.click = [this] { printing.cmdPrint_Click(); };
@@ -102,6 +103,10 @@ void Tracewell::connectFiles() {
   main.mnbSaveWaveform.click = [this] { waveformButtons.cmdSave_Click(); };
   main.cmdLoad.click = [this] { waveformButtons.cmdLoad_Click(); };
   main.mnbLoad.click = [this] { waveformButtons.cmdLoad_Click(); };
+  main.graphDSO.fileDropped = [this](const std::filesystem::path& file) {
+    waveformButtons.graphDSO_FileDropped(file);
+  };
+  main.graphDSO.copied = [this](Graph::Copied what) { waveformButtons.graphDSO_Copied(what); };
   main.cmdLoadCSV.click = [this] { waveformButtons.cmdLoadCSV_Click(); };
   main.mnbLoadCSV.click = [this] { waveformButtons.cmdLoadCSV_Click(); };
   main.cmdRemove.click = [this] { waveformButtons.cmdRemove_Click(); };

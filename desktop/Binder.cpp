@@ -24,6 +24,7 @@
 #include <utility>
 
 #include "Controls.h"
+#include "CopyGestures.h"
 #include "Dials.h"
 #include "ElidedLabel.h"
 #include "Graph.h"
@@ -181,6 +182,7 @@ void bind(ValueLabel& control, QWidget& form) {
 void bind(Frame& control, QWidget& form) {
   auto* box = findObject<QGroupBox>(control, form);
   showWith(control, box, [&control, box] { box->setTitle(shownCaption(control.caption())); });
+  if (control.copied) new CopyGestures(*box, [&control] { control.copy(); });
 }
 
 QIcon swatch(const QColor& colour) {
@@ -306,6 +308,7 @@ void bind(TextBox& control, QWidget& form) {
       const QString text = (isLog ? shownEnd : shownText)(control.text(), roomOfPage);
       if (area->toPlainText() != text) area->setPlainText(text);
     });
+    new WholeTextCopy(*area);
     return;
   }
   auto* line = findObject<QLineEdit>(control, form);

@@ -6,8 +6,8 @@ namespace tracewell {
 DesktopProgram::DesktopProgram(const std::filesystem::path& programFolder)
     : ports(programFolder, clock, standBy),
       windows(programFolder),
-      services{clock, dialogs, gate,     dispatcher, standBy, port,
-               ports, windows, pictures, printer,    words,   programFolder} {}
+      services{clock,   dialogs,  gate,    dispatcher, standBy, port,         ports,
+               windows, pictures, printer, clipboard,  words,   programFolder} {}
 
 /// However the event loop has ended, forms go before the windows that they show.
 DesktopProgram::~DesktopProgram() {

@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "BusyPointer.h"
+#include "DesktopClipboard.h"
 #include "DesktopClock.h"
 #include "DesktopDialogs.h"
 #include "DesktopPictures.h"
@@ -36,6 +37,7 @@ struct DesktopProgram {
   DesktopWindows windows;
   DesktopPictures pictures{windows};
   DesktopPrinter printer;
+  DesktopClipboard clipboard;
   DesktopWords words;
   Services services;
   Tracewell program{services};

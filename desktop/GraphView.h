@@ -23,8 +23,8 @@ class Plot;
 /// Draws a Graph: a graticule of 10 by 8 divisions that stays the same in every theme, traces,
 /// cursors and the trigger marker, the x axis's caption below. The user drags the cursors, or moves
 /// the active one with the arrow keys (Shift: ten times as far); C makes the other one active. A
-/// double click or E enlarges the view and restores it. An overlay shows what is for the screen
-/// alone.
+/// double click or E enlarges the view and restores it. The key for copying and the context menu
+/// copy it, a data file may be dropped on it. An overlay shows what is for the screen alone.
 ///
 /// Changes are painted once an event-loop turn, however many they are.
 class GraphView : public QWidget {
@@ -49,6 +49,9 @@ class GraphView : public QWidget {
   void keyPressEvent(QKeyEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
 
  private:
   struct CursorItems {

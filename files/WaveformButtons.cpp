@@ -4,6 +4,7 @@
 #include "Files.h"
 #include "Paused.h"
 #include "StatusLine.h"
+#include "TraceTable.h"
 #include "WaveformSetReader.h"
 
 namespace tracewell {
@@ -21,7 +22,7 @@ std::string footnote(const frmDSO& main) {
 
 void WaveformButtons::cmdSave_Click() {
   const Paused paused(main_, acquisition_);
-  saveWindow_.takePicture(main_.services().pictures.graphImage(main_.graphDSO, footnote(main_)));
+  saveWindow_.takePicture(picture());
   main_.refresh();
   saveWindow_.showModal();
 }
@@ -37,13 +38,35 @@ void WaveformButtons::cmdLoadCSV_Click() {
   const Services& services = main_.services();
   const std::filesystem::path path =
       services.dialogs.openFile({services.programFolder, "Load CSV file", "", "*.csv|*.csv"});
-  if (path.empty()) return;
+  if (!path.empty()) loadCSV(path);
+}
+
+void WaveformButtons::graphDSO_FileDropped(const std::filesystem::path& path) {
+  const Paused paused(main_, acquisition_);
+  loadCSV(path);
+}
+
+void WaveformButtons::loadCSV(const std::filesystem::path& path) {
   main_.txtMsg.text = readWaveformFile(path);
   const std::vector<double> points = readFirstColumn(main_.txtMsg.text());
   Plot& load1 = main_.graphDSO.plot(ScopeGraph::firstReference);
   load1.plotXvsY(main_.XIndex, points);
   load1.visible = true;
-  showStatus(main_, services.words.say("Loaded %1", {pathText(path)}));
+  showStatus(main_, main_.services().words.say("Loaded %1", {pathText(path)}));
+}
+
+void WaveformButtons::graphDSO_Copied(Graph::Copied what) {
+  const bool isWithValues = what != Graph::Copied::picture;
+  const bool isWithPicture = what != Graph::Copied::values;
+  const Services& services = main_.services();
+  const std::string table = isWithValues ? traceTable(main_) : "";
+  if (table.empty() && !isWithPicture) return;
+  services.clipboard.put(table, isWithPicture ? picture() : Image());
+  showStatus(main_, services.words.say("Copied"));
+}
+
+Image WaveformButtons::picture() const {
+  return main_.services().pictures.graphImage(main_.graphDSO, footnote(main_));
 }
 
 void WaveformButtons::cmdRemove_Click() {

@@ -19,6 +19,12 @@ class WaveformButtons {
   /// Draws the first column of a data file into Load1, at the height of its numbers. Raises an
   /// error for a file that is none.
   void cmdLoadCSV_Click();
+  /// The same for a file that was dropped on the graph.
+  void graphDSO_FileDropped(const std::filesystem::path& path);
+
+  /// Hands the picture as it would be saved, the values of the traces that are shown, or both to
+  /// other programs.
+  void graphDSO_Copied(Graph::Copied what);
 
   /// Hides the reference traces, which are free again.
   void cmdRemove_Click();
@@ -27,6 +33,9 @@ class WaveformButtons {
   void cmdExportCSV_Click();
 
  private:
+  void loadCSV(const std::filesystem::path& path);
+  Image picture() const;
+
   frmDSO& main_;
   Acquisition& acquisition_;
   frmSave& saveWindow_;

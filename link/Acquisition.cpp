@@ -4,6 +4,7 @@
 #include "ConnectionIndicator.h"
 #include "Numbers.h"
 #include "PortNotice.h"
+#include "RecordScales.h"
 #include "TraceAge.h"
 #include "WaveformRecord.h"
 
@@ -42,6 +43,7 @@ void Acquisition::AcqDSO(std::int16_t channel) {
     port.tag = std::to_string(channel);
     port.beginRead(WaveformRecord::byteCount);
     main_.PortBusy = true;
+    noteRequestScales(main_, channel);
   } catch (const Error& error) {
     errorLog_.ErrLog(error, "AcqDSO : ");
   }
@@ -58,6 +60,7 @@ void Acquisition::DataReady(const std::string& data) {
   main_.txtMsg.text = recordText(channel, samples);
   markTrace(main_);
   noteRecord(main_, channel);
+  noteRecordScales(main_, channel);
   ignoringErrors([&] { port.reset(); });
   ignoringErrors([&] { main_.WaveCount = addInt16(main_.WaveCount, 1); });
 }

@@ -73,6 +73,13 @@ class RecordingPictures : public Pictures {
   Image load(const std::filesystem::path& path) override { return {1, 1, contentOf(path)}; }
 };
 
+class RecordingClipboard : public Clipboard {
+ public:
+  Event<const std::string&, const Image&> told;
+
+  void put(const std::string& text, const Image& picture) override { told.raise(text, picture); }
+};
+
 class RecordingPrinter : public Printer {
  public:
   Lines printed;
@@ -206,10 +213,11 @@ struct BenchOf : Port {
   ScriptedWindows windows;
   RecordingPictures pictures;
   RecordingPrinter printer;
+  RecordingClipboard clipboard;
   Words words;
-  Services services{this->clock,   this->dialogs, this->gate, this->dispatcher,
-                    this->standBy, this->port,    list,       windows,
-                    pictures,      printer,       words,      folder.path()};
+  Services services{this->clock, this->dialogs, this->gate,   this->dispatcher, this->standBy,
+                    this->port,  list,          windows,      pictures,         printer,
+                    clipboard,   words,         folder.path()};
   Tracewell program{services};
   frmDSO& main = program.main;
 

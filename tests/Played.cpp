@@ -134,6 +134,13 @@ Played::Played() {
   for (Window* window : program.otherWindows()) newIn(*window);
   newIn(main);
   port.told = dialogs.told = printer.told = [this](const std::string& event) { note(event); };
+  clipboard.told = [this](const std::string& text, const Image& picture) {
+    // The head of a table, and how long it is.
+    const auto rows = std::ranges::count(text, '\n');
+    std::string head = text;
+    if (rows > 8) head = text.substr(0, text.find('\n', text.find('\n') + 1)) + "...";
+    note("clip " + picture.pixels + "|" + head + std::to_string(rows));
+  };
   windows.painted = [this] {
     if (!events_.empty()) events_.back() += '~';
   };
@@ -327,6 +334,13 @@ void Played::connect() {
   start_ = clock.milliseconds();
 }
 
+void Played::useGraph(Graph& graph, const std::string& value) {
+  using enum Graph::Copied;
+  if (value.empty()) return graph.toggleEnlarged();
+  if (value.ends_with(".csv")) return graph.drop(folder.path() / value);
+  graph.copy(value == "values" ? values : value == "picture" ? picture : pictureAndValues);
+}
+
 void Played::use(Control& control, const std::string& value) {
   if (auto* button = dynamic_cast<Button*>(&control)) return button->press();
   if (auto* button = dynamic_cast<Switch*>(&control)) return button->press();
@@ -335,7 +349,8 @@ void Played::use(Control& control, const std::string& value) {
   if (auto* box = dynamic_cast<CheckBox*>(&control)) return box->toggle();
   if (auto* option = dynamic_cast<OptionButton*>(&control)) return option->select();
   if (auto* label = dynamic_cast<Label*>(&control)) return label->doubleClick();
-  if (auto* graph = dynamic_cast<Graph*>(&control)) return graph->toggleEnlarged();
+  if (auto* frame = dynamic_cast<Frame*>(&control)) return frame->copy();
+  if (auto* graph = dynamic_cast<Graph*>(&control)) return useGraph(*graph, value);
   if (auto* knob = dynamic_cast<Knob*>(&control)) return knob->turn(std::stoi(value));
   if (auto* tree = dynamic_cast<Tree*>(&control)) return tree->choose(std::stoi(value));
   if (auto* list = dynamic_cast<ListBox*>(&control)) return list->choose(std::stoi(value));

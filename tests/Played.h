@@ -17,6 +17,7 @@ class Played : public Bench {
 
  protected:
   /// What the user does with a control of an open window, and the window's own way to close it.
+  void useGraph(Graph& graph, const std::string& value);
   virtual void use(Control& control, const std::string& value);
   virtual void close(Window& window) { window.close(); }
   /// A modal window that opens, and windows that go.

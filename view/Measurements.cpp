@@ -5,6 +5,7 @@
 
 #include "ConnectionIndicator.h"
 #include "Numbers.h"
+#include "StatusLine.h"
 #include "Waiting.h"
 
 namespace tracewell {
@@ -21,6 +22,18 @@ std::string labelText(std::string_view name, int channel) {
 /// "N/A" and its like, or nothing at all.
 bool isNoValue(const std::string& reply) {
   return reply.empty() || reply.starts_with('N');
+}
+
+/// "Vpp(1)\t1.000 V". A quick result has nothing between its name and its value.
+std::string rowOf(const std::string& result) {
+  const std::string_view separator = ": ";
+  if (const std::size_t end = result.find(separator); end != std::string::npos) {
+    const std::size_t nameEnd = result.find_last_not_of(' ', end - 1) + 1;
+    return result.substr(0, nameEnd) + "\t" + result.substr(end + separator.size());
+  }
+  for (const std::string_view name : FreqMeasName)
+    if (result.starts_with(name)) return std::string(name) + "\t" + result.substr(name.size());
+  return result;
 }
 
 }  // namespace
@@ -169,6 +182,16 @@ void Measurements::measureQuickly() {
     showResult(main_.lblMeasure(label++), std::string(FreqMeasName[item]), reply);
     main_.refresh();
   }
+}
+
+void Measurements::fmMeasure_Copied() {
+  std::string table;
+  for (const ValueLabel& label : main_.lblMeasure)
+    if (!label.caption().empty() && !label.isUnread() && !label.isStale())
+      table += rowOf(label.caption()) + "\n";
+  if (table.empty()) return;
+  main_.services().clipboard.put(table, Image());
+  showStatus(main_, main_.services().words.say("Copied"));
 }
 
 }  // namespace tracewell

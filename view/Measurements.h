@@ -27,6 +27,10 @@ class Measurements {
   /// The same after the user has chosen.
   void mnbFrequency_Click();
 
+  /// Hands the results to other programs: a line for each, a tab between name and value. Those
+  /// that are of an earlier measurement or have no value are left out.
+  void fmMeasure_Copied();
+
  private:
   void chooseAndMeasure();
   /// Measures what is flagged of both channels, unless the choice was cancelled. A value that the

@@ -81,6 +81,17 @@ struct SharedState {
 
   /// When the last record of each channel came; Clock milliseconds.
   std::array<std::optional<std::int64_t>, 2> RecordTime;
+  /// Scales of a record of a channel; none where they are not known, and no volts for the math
+  /// that the instrument shows in the channel's place.
+  struct RecordScale {
+    std::optional<double> voltsPerDivision;
+    std::optional<double> secondsPerDivision;
+    bool operator==(const RecordScale&) const = default;
+  };
+  /// As they were when the record of each channel that is awaited was requested.
+  std::array<std::optional<RecordScale>, 2> RequestScales;
+  /// Those of the last record that has come. Kept through link/RecordScales.h, both.
+  std::array<RecordScale, 2> RecordScales;
   /// Where the scales were read: number of the port, and its count of openings then.
   struct ScaleOrigin {
     std::int16_t portNumber = 0;

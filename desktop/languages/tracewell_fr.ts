@@ -348,6 +348,22 @@
         <translation>Commandes de l'instrument</translation>
     </message>
     <message>
+        <source>Copied</source>
+        <translation>Copié</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
+    <message>
+        <source>Copy the picture</source>
+        <translation>Copier l'image</translation>
+    </message>
+    <message>
+        <source>Copy the values</source>
+        <translation>Copier les valeurs</translation>
+    </message>
+    <message>
         <source>Coupling</source>
         <translation>Couplage</translation>
     </message>

@@ -348,6 +348,22 @@
         <translation>Команды прибора</translation>
     </message>
     <message>
+        <source>Copied</source>
+        <translation>Скопировано</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Копировать</translation>
+    </message>
+    <message>
+        <source>Copy the picture</source>
+        <translation>Копировать изображение</translation>
+    </message>
+    <message>
+        <source>Copy the values</source>
+        <translation>Копировать значения</translation>
+    </message>
+    <message>
         <source>Coupling</source>
         <translation>Связь</translation>
     </message>

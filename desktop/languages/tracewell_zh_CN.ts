@@ -348,6 +348,22 @@
         <translation>仪器的命令</translation>
     </message>
     <message>
+        <source>Copied</source>
+        <translation>已复制</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Copy the picture</source>
+        <translation>复制图像</translation>
+    </message>
+    <message>
+        <source>Copy the values</source>
+        <translation>复制数值</translation>
+    </message>
+    <message>
         <source>Coupling</source>
         <translation>耦合</translation>
     </message>

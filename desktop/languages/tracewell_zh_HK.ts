@@ -348,6 +348,22 @@
         <translation>儀器嘅指令</translation>
     </message>
     <message>
+        <source>Copied</source>
+        <translation>已複製</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>複製</translation>
+    </message>
+    <message>
+        <source>Copy the picture</source>
+        <translation>複製圖像</translation>
+    </message>
+    <message>
+        <source>Copy the values</source>
+        <translation>複製數值</translation>
+    </message>
+    <message>
         <source>Coupling</source>
         <translation>耦合</translation>
     </message>

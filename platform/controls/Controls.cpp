@@ -21,6 +21,10 @@ void Label::doubleClick() {
   userDoes([this] { doubleClicked.raise(); });
 }
 
+void Frame::copy() {
+  userDoes([this] { copied.raise(); });
+}
+
 void Button::press() {
   userDoes([this] { click.raise(); });
 }

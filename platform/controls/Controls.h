@@ -35,6 +35,9 @@ class ValueLabel : public Control {
 class Frame : public CaptionedControl {
  public:
   using CaptionedControl::CaptionedControl;
+  /// The user wants what stands in it in another program.
+  Event<> copied;
+  void copy();
 };
 
 class Button : public CaptionedControl {

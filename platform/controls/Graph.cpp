@@ -80,6 +80,14 @@ void Graph::toggleEnlarged() {
   userDoes([this] { enlargeToggled.raise(); });
 }
 
+void Graph::copy(Copied what) {
+  userDoes([this, what] { copied.raise(what); });
+}
+
+void Graph::drop(const std::filesystem::path& file) {
+  userDoes([this, &file] { fileDropped.raise(file); });
+}
+
 void Graph::dragCursor(Cursor& cursor, double x, double y) {
   if (!cursor.visible()) return;
   userDoes([this, &cursor, x, y] {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <deque>
+#include <filesystem>
 #include <span>
 #include <string>
 #include <string_view>
@@ -136,6 +137,13 @@ class Graph : public Control {
   /// Raised by the view's own gesture for a larger or the normal view: a double click, or a key.
   Event<> enlargeToggled;
   void toggleEnlarged();
+  /// What the user may want of the graph in another program.
+  enum class Copied { pictureAndValues, picture, values };
+  Event<Copied> copied;
+  void copy(Copied what);
+  /// The user has dropped a file on the graph.
+  Event<const std::filesystem::path&> fileDropped;
+  void drop(const std::filesystem::path& file);
   /// The user drags a cursor to a point in graph units.
   void dragCursor(Cursor& cursor, double x, double y);
 

@@ -3,6 +3,7 @@
 
 #include <filesystem>
 
+#include "Clipboard.h"
 #include "Clock.h"
 #include "Dialogs.h"
 #include "EventDispatcher.h"
@@ -29,6 +30,7 @@ struct Services {
   WindowHost& windows;
   Pictures& pictures;
   Printer& printer;
+  Clipboard& clipboard;
   Words& words;
   /// Where the setup, the language files and the error log are. Writable.
   std::filesystem::path programFolder;

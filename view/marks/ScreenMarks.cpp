@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "KnownScales.h"
 #include "TrueUnits.h"
 
 namespace tracewell {
@@ -31,14 +32,8 @@ ShownChannel channel(const frmDSO& main, int number) {
                      scale,       isFirst ? main.cbCh1 : main.cbCh2, std::nullopt,
                      std::nullopt};
   if (!slide.isUnread() && !slide.isStale()) shown.zero = position * Graph::unitsPerDivision;
-  if (!scale.isUnread() && !scale.isStale())
-    shown.voltsPerDivision = trueScale(scale.caption(), "V");
+  shown.voltsPerDivision = voltsPerDivision(main, number);
   return shown;
-}
-
-std::optional<double> secondsPerDivision(const frmDSO& main) {
-  if (main.lblTime.isUnread() || main.lblTime.isStale()) return std::nullopt;
-  return trueScale(main.lblTime.caption(), "s");
 }
 
 bool isShown(const Plot& plot) {
@@ -64,14 +59,9 @@ void addSides(std::vector<Side>& sides, const ShownChannel& channel, const Axis&
   if (trace != Side::here && trace != zero) sides.push_back({channel.number, trace, lowest, text});
 }
 
-/// The instrument shows its math in the place of a channel: a sum or a difference in the first, the
-/// difference the other way round in the second.
 void addMathName(std::vector<GraphMarks::Text>& names, const frmDSO& main) {
-  const std::size_t off = main.cbMath.items().size() - 1;
-  if (!main.MathEntry || main.lblTime.isStale() || static_cast<std::size_t>(*main.MathEntry) >= off)
-    return;
-  const int number = *main.MathEntry == 2 ? 2 : 1;
-  if (main.ChanOn[number == 1 ? 0 : 1] && isShown(main.graphDSO.plot(number)))
+  const int number = mathChannel(main);
+  if (number != 0 && main.ChanOn[number == 1 ? 0 : 1] && isShown(main.graphDSO.plot(number)))
     names.push_back({number, main.cbMath.items()[static_cast<std::size_t>(*main.MathEntry)]});
 }
 

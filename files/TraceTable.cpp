@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "TraceTable.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <optional>
+#include <vector>
+
+#include "WaveformRecord.h"
+
+namespace tracewell {
+namespace {
+
+struct Column {
+  std::string name;
+  std::string unit;
+  std::vector<double> values;
+};
+
+/// As many digits as a sample of 16 bits can have.
+std::string shortNumber(double value) {
+  std::array<char, 32> digits;
+  constexpr int precision = 7;
+  const auto [end, error] = std::to_chars(digits.data(), digits.data() + digits.size(), value,
+                                          std::chars_format::general, precision);
+  return {digits.data(), end};
+}
+
+/// In divisions, unless it is known what one of them is.
+template <class Samples>
+Column columnOf(std::string name, const Samples& samples, std::optional<double> perDivision,
+                std::string unit) {
+  Column column{std::move(name), perDivision ? std::move(unit) : "div", {}};
+  for (const auto sample : samples)
+    column.values.push_back(sample * perDivision.value_or(1) / Graph::unitsPerDivision);
+  return column;
+}
+
+bool isShown(const Plot& plot) {
+  return plot.visible() && !plot.y().empty();
+}
+
+/// All traces share it, and so must have come under one.
+std::optional<double> timeScale(const frmDSO& main) {
+  std::vector<std::optional<double>> scales;
+  for (const int number : {1, 2})
+    if (isShown(main.graphDSO.plot(number)))
+      scales.push_back(main.RecordScales[number == 1 ? 0 : 1].secondsPerDivision);
+  const bool isOne = !scales.empty() && std::ranges::count(scales, scales[0]) == std::ssize(scales);
+  return isOne ? scales[0] : std::nullopt;
+}
+
+Column channelColumn(const frmDSO& main, int number) {
+  const bool isFirst = number == 1;
+  const std::string& name = (isFirst ? main.cbCh1 : main.cbCh2).caption();
+  const Samples samples = decodeSamples(isFirst ? main.Ch1Raw : main.Ch2Raw, 0);
+  const auto& scales = main.RecordScales[isFirst ? 0 : 1];
+  return columnOf(name, samples, scales.voltsPerDivision, "V");
+}
+
+std::string tableOf(const std::vector<Column>& columns) {
+  std::string table;
+  for (const Column& column : columns)
+    table += (table.empty() ? "" : "\t") + column.name + " (" + column.unit + ")";
+  table += "\n";
+  for (std::size_t row = 0; row < columns[0].values.size(); ++row) {
+    for (const Column& column : columns) {
+      if (&column != &columns[0]) table += "\t";
+      if (row < column.values.size()) table += shortNumber(column.values[row]);
+    }
+    table += "\n";
+  }
+  return table;
+}
+
+}  // namespace
+
+std::string traceTable(const frmDSO& main) {
+  std::vector<Column> columns = {columnOf("Time", main.XIndex, timeScale(main), "s")};
+  for (const int number : {1, 2})
+    if (isShown(main.graphDSO.plot(number))) columns.push_back(channelColumn(main, number));
+  for (int number = ScopeGraph::firstReference; number <= ScopeGraph::plotCount; ++number) {
+    const Plot& plot = main.graphDSO.plot(number);
+    if (isShown(plot)) columns.push_back(columnOf(plot.name(), plot.y(), std::nullopt, ""));
+  }
+  return columns.size() == 1 ? "" : tableOf(columns);
+}
+
+}  // namespace tracewell

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+
+#include "Image.h"
+
+namespace tracewell {
+
+/// What other programs can paste. Implemented by desktop/DesktopClipboard and
+/// tests/RecordingClipboard.
+class Clipboard {
+ public:
+  virtual ~Clipboard() = default;
+
+  /// Replaces what was there. The other program takes what it can use: the text, UTF-8 with LF
+  /// between lines, or the picture. An empty one of the two is left out.
+  virtual void put(const std::string& text, const Image& picture) = 0;
+};
+
+}  // namespace tracewell

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <optional>
+
+#include "frmDSO.h"
+
+/// What the panel knows of the instrument's scales; none while it has not been told, or may have
+/// been told by another instrument.
+namespace tracewell {
+
+std::optional<double> voltsPerDivision(const frmDSO& main, int channel);
+std::optional<double> secondsPerDivision(const frmDSO& main);
+
+/// The number of the channel in whose place the instrument shows its math; 0 where it shows none.
+/// A sum or a difference is in the first, the difference the other way round in the second.
+int mathChannel(const frmDSO& main);
+
+}  // namespace tracewell
