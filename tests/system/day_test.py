@@ -3,6 +3,12 @@
 """A day at the bench in a minute: one technician, one instrument on a serial line, every window
 of the program, by mouse and keyboard."""
 
+import pathlib
+import re
+import subprocess
+import sys
+from xml.etree import ElementTree
+
 from real_desktop import SystemTestCase, main, run, wait_for
 
 # In the order of their buttons in the save window.
@@ -26,6 +32,18 @@ class DayAtTheBench(SystemTestCase):
         window = self.program.find(title)
         self.program.focus(window)
         return window
+
+    def expect_the_manuals_example_to_draw(self, description):
+        """The Python of docs/file-formats.md, word by word: both channels stand where they were measured."""
+        manual = pathlib.Path(__file__).parents[2] / "docs" / "file-formats.md"
+        example = description.with_name("plot_set.py")
+        example.write_text(manual.read_text().split("```python\n")[1].split("```\n")[0])
+        drawn = subprocess.run([sys.executable, example, description, "500e-6", "1"], check=True,
+                               capture_output=True, text=True)
+        lines = ElementTree.fromstring(drawn.stdout).iter("{http://www.w3.org/2000/svg}polyline")
+        self.assertEqual([len(line.get("points").split()) for line in lines], [500, 500])
+        low, high = re.findall(r"Channel 1: (\S+) V to (\S+) V", drawn.stderr)[0]
+        self.assertAlmostEqual(float(high) - float(low), self.peak_to_peak, delta=0.2)
 
     def test_day(self):
         program = self.program
@@ -61,6 +79,9 @@ class DayAtTheBench(SystemTestCase):
         program.keys("Return")
         program.closed("Voltage Measure")
         self.expect_lamp(program, "red")
+        name, value = program.place("frmDSO.lblMeasure_0").text.split(":")
+        self.assertEqual(name.strip(), "Vpp(1)")
+        self.peak_to_peak = float(value.split()[0])
         program.focus(program.window)
         program.keys("F5")
         self.expect_lamp(program, "green")
@@ -91,6 +112,8 @@ class DayAtTheBench(SystemTestCase):
             data = (program.folder / f"set_{extension}.csv").read_bytes()
             self.assertEqual(data.count(b"\r\n"), 501)
             self.assertTrue(data.startswith(b"Channel 1,Channel 2\r\n"))
+
+        self.expect_the_manuals_example_to_draw(program.folder / "set_jpg.inf")
 
         # One of them again, under the live traces: from the list by keys, behind the icon's set,
         # whose picture cannot be shown.
