@@ -10,7 +10,14 @@
 namespace tracewell {
 
 DeviceChannel::DeviceChannel(const QString& name, std::unique_ptr<QIODevice> device)
-    : name_(name), device_(std::move(device)) {}
+    : name_(name), device_(std::move(device)) {
+  resting_.setSingleShot(true);
+  resting_.setTimerType(Qt::PreciseTimer);
+  QObject::connect(&resting_, &QTimer::timeout, &context_, [this] {
+    limitFetching(0);
+    announce();
+  });
+}
 
 void DeviceChannel::write(std::string_view bytes) {
   if (hasFailed()) raiseFailure();
@@ -21,7 +28,19 @@ void DeviceChannel::write(std::string_view bytes) {
   if (hasFailed()) raiseFailure();
 }
 
+/// A device that may fetch no more than it has does not wake anybody. A failure cannot be noticed
+/// meanwhile.
+void DeviceChannel::rest(int milliseconds) {
+  if (hasFailed()) return;
+  limitFetching(1);
+  resting_.start(milliseconds);
+}
+
 std::string DeviceChannel::read(int timeOut) {
+  if (resting_.isActive()) {
+    resting_.stop();
+    limitFetching(0);
+  }
   QByteArray bytes = std::exchange(rest_, {});
   if (device_->isOpen()) bytes += device_->readAll();
   // Also with a time-out of zero: without events nobody else has fetched what the system holds.
@@ -43,7 +62,7 @@ void DeviceChannel::fail(const QString& reason) {
 
 /// Out of the event loop and once for many arrivals. The owner may destroy the channel in it.
 void DeviceChannel::announce() {
-  if (isAnnounced_) return;
+  if (isAnnounced_ || resting_.isActive()) return;
   isAnnounced_ = true;
   QTimer::singleShot(0, &context_, [this] {
     isAnnounced_ = false;

@@ -4,6 +4,7 @@
 #include <QIODevice>
 #include <QObject>
 #include <QString>
+#include <QTimer>
 #include <memory>
 
 #include "ByteChannel.h"
@@ -16,6 +17,7 @@ class DeviceChannel : public ByteChannel {
  public:
   void write(std::string_view bytes) override;
   std::string read(int timeOut) override;
+  void rest(int milliseconds) override;
 
  protected:
   /// `name` stands in front of every complaint.
@@ -23,6 +25,8 @@ class DeviceChannel : public ByteChannel {
 
   /// Sends what waits in the device.
   virtual void flush() = 0;
+  /// How many bytes the device may fetch by itself before it is read; 0 for any number.
+  virtual void limitFetching(qint64 bytes) = 0;
 
   /// To be called when bytes have arrived.
   void announce();
@@ -42,6 +46,7 @@ class DeviceChannel : public ByteChannel {
   /// What had arrived when the device was found gone.
   QByteArray rest_;
   bool isAnnounced_ = false;
+  QTimer resting_;
   /// Declared last: announcements that are still due are dropped before anything else goes.
   QObject context_;
 };

@@ -6,16 +6,13 @@
 #include <QBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QMenu>
-#include <QMimeData>
 #include <QMouseEvent>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <cmath>
-#include <filesystem>
 
-#include "DesktopWords.h"
 #include "Graph.h"
+#include "GraphExchange.h"
 #include "GraphOverlay.h"
 #include "QtValues.h"
 #include "ShownText.h"
@@ -45,14 +42,6 @@ QSharedPointer<QCPAxisTicker> divisionTicker() {
   return ticker;
 }
 
-/// The data file that is dragged, where it is one and nothing else.
-std::optional<std::filesystem::path> droppedFile(const QMimeData& data) {
-  if (data.urls().size() != 1 || !data.urls().first().isLocalFile()) return std::nullopt;
-  const QString path = data.urls().first().toLocalFile();
-  if (!path.endsWith(QStringLiteral(".csv"), Qt::CaseInsensitive)) return std::nullopt;
-  return toPath(path);
-}
-
 QCPItemText* makeText(QCustomPlot* plot, const QColor& colour, Qt::Alignment alignment) {
   auto* text = new QCPItemText(plot);
   text->setColor(colour);
@@ -76,7 +65,6 @@ GraphView::GraphView(QWidget* parent)
   caption_->setAlignment(Qt::AlignCenter);
   caption_->setObjectName(QStringLiteral("graphCaption"));
   setFocusPolicy(Qt::StrongFocus);
-  setAcceptDrops(true);
   plot_->setFocusPolicy(Qt::NoFocus);
   plot_->installEventFilter(this);
   plot_->setNoAntialiasingOnDrag(true);
@@ -124,6 +112,7 @@ void GraphView::bind(Graph& graph) {
   if (graph.letGo) graph.letGo();
   graph_ = &graph;
   overlay_->setGraph(graph_);
+  exchange_ = std::make_unique<GraphExchange>(*this, graph);
   graph.letGo = [this] { unbind(); };
   const auto dirty = [this] { markDirty(); };
   graph.changed = [this] {
@@ -155,6 +144,7 @@ void GraphView::takeRow() {
 void GraphView::unbind() {
   Graph* const graph = std::exchange(graph_, nullptr);
   grabbed_ = nullptr;
+  exchange_.reset();
   overlay_->setGraph(nullptr);
   if (graph == nullptr) return;
   graph->changed = {};
@@ -379,40 +369,8 @@ void GraphView::focusOutEvent(QFocusEvent* event) {
   QWidget::focusOutEvent(event);
 }
 
-void GraphView::contextMenuEvent(QContextMenuEvent* event) {
-  if (graph_ == nullptr) return;
-  auto* menu = new QMenu(this);
-  menu->setAttribute(Qt::WA_DeleteOnClose);
-  const auto copy = [this](Graph::Copied what) {
-    return [this, what] {
-      if (graph_ != nullptr) graph_->copy(what);
-    };
-  };
-  menu->addAction(panelText("Copy"), QKeySequence::Copy, this,
-                  copy(Graph::Copied::pictureAndValues));
-  menu->addAction(panelText("Copy the picture"), this, copy(Graph::Copied::picture));
-  menu->addAction(panelText("Copy the values"), this, copy(Graph::Copied::values));
-  menu->popup(event->globalPos());
-}
-
-/// Anything but one data file would be refused later on.
-void GraphView::dragEnterEvent(QDragEnterEvent* event) {
-  if (droppedFile(*event->mimeData())) event->acceptProposedAction();
-}
-
-void GraphView::dropEvent(QDropEvent* event) {
-  const auto file = droppedFile(*event->mimeData());
-  if (!file || graph_ == nullptr) return;
-  event->acceptProposedAction();
-  // The program that it comes from waits until this has returned.
-  QTimer::singleShot(0, this, [this, path = *file] {
-    if (graph_ != nullptr) graph_->drop(path);
-  });
-}
-
 void GraphView::keyPressEvent(QKeyEvent* event) {
   if (graph_ == nullptr) return;
-  if (event->matches(QKeySequence::Copy)) return graph_->copy(Graph::Copied::pictureAndValues);
   const double distance = event->modifiers() & Qt::ShiftModifier ? 10 : 1;
   QPointF step;
   switch (event->key()) {

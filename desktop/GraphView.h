@@ -5,6 +5,7 @@
 #include <QPointF>
 #include <QWidget>
 #include <array>
+#include <memory>
 #include <optional>
 
 class QCustomPlot;
@@ -17,14 +18,15 @@ namespace tracewell {
 
 class Cursor;
 class Graph;
+class GraphExchange;
 class GraphOverlay;
 class Plot;
 
 /// Draws a Graph: a graticule of 10 by 8 divisions that stays the same in every theme, traces,
 /// cursors and the trigger marker, the x axis's caption below. The user drags the cursors, or moves
 /// the active one with the arrow keys (Shift: ten times as far); C makes the other one active. A
-/// double click or E enlarges the view and restores it. The key for copying and the context menu
-/// copy it, a data file may be dropped on it. An overlay shows what is for the screen alone.
+/// double click or E enlarges the view and restores it. An overlay shows what is for the screen
+/// alone, and GraphExchange has to do with other programs.
 ///
 /// Changes are painted once an event-loop turn, however many they are.
 class GraphView : public QWidget {
@@ -49,9 +51,6 @@ class GraphView : public QWidget {
   void keyPressEvent(QKeyEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
-  void contextMenuEvent(QContextMenuEvent* event) override;
-  void dragEnterEvent(QDragEnterEvent* event) override;
-  void dropEvent(QDropEvent* event) override;
 
  private:
   struct CursorItems {
@@ -88,6 +87,7 @@ class GraphView : public QWidget {
   /// Of what stands beside the graph in the main window's row; 0 until it is known.
   int besideStretch_ = 0;
   Graph* graph_ = nullptr;
+  std::unique_ptr<GraphExchange> exchange_;
   Cursor* grabbed_ = nullptr;
   std::size_t activeCursor_ = 0;
   bool isDirty_ = false;

@@ -86,12 +86,28 @@ PortDirectory::PortDirectory(fs::path programFolder, Clock& clock, StandBy& stan
 std::unique_ptr<ByteChannel> PortDirectory::open(const LineSettings& settings) {
   if (settings.portNumber == simulatedPort)
     return std::make_unique<SimulatedChannel>(simulatedInstrument_, clock_, settings);
-  if (const auto server = serverOf(settings.portNumber))
-    return std::make_unique<QtTcpChannel>(*server, standBy_);
+  if (const auto server = serverOf(settings.portNumber)) return openServer(*server);
   const QString device = systemDevice(settings.portNumber);
   if (device.isEmpty())
     throw Error(deviceError, "RS232", "There is no port " + std::to_string(settings.portNumber));
   return std::make_unique<QtSerialChannel>(device, settings);
+}
+
+/// A question is put again and again when its line cannot be opened. Each would wait as long for a
+/// server that is silent.
+std::unique_ptr<ByteChannel> PortDirectory::openServer(const ServerAddress& server) {
+  constexpr int pause = SerialPort::defaultReadTimeOut;
+  constexpr int slow = 500;
+  const std::int64_t begin = clock_.milliseconds();
+  if (silence_ && silence_->server == server && begin < silence_->until) throw silence_->error;
+  try {
+    return std::make_unique<QtTcpChannel>(server, standBy_);
+  } catch (const Error& error) {
+    const std::int64_t now = clock_.milliseconds();
+    if (error.number() == deviceError && now - begin > slow)
+      silence_ = Silence{server, error, now + pause};
+    throw;
+  }
 }
 
 std::vector<PortList::Entry> PortDirectory::ports() {
@@ -126,8 +142,8 @@ PortList::State PortDirectory::stateOf(std::int16_t number) {
 std::optional<ServerAddress> PortDirectory::serverOf(int number) {
   if (const auto known = servers_.find(number); known != servers_.end()) return known->second;
   std::error_code ignored;
-  if (!isOverridden(number) || !fs::is_regular_file(overrideOf(number), ignored))
-    return std::nullopt;
+  const bool isFile = fs::is_regular_file(fs::symlink_status(overrideOf(number), ignored));
+  if (!isOverridden(number) || !isFile) return std::nullopt;
   return servers_[number] = readServerAddress(overrideOf(number));
 }
 

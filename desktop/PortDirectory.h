@@ -9,6 +9,7 @@
 #include <set>
 
 #include "Clock.h"
+#include "Error.h"
 #include "Instrument.h"
 #include "SerialPort.h"
 #include "ServerAddress.h"
@@ -22,7 +23,7 @@ namespace tracewell {
 /// to 32 are ttyS0 to ttyS31, 33 to 64 ttyUSB0 to ttyUSB31, 65 to 96 ttyACM0 to ttyACM31; a link
 /// "comN" in the program folder stands for number N whatever its range, and so does a file "comN"
 /// with the line "tcp://host:port", which means a serial device server. Once it has been seen there
-/// it does until the program ends: a number does not become another device when a link goes, nor
+/// it does until the program ends: a number does not become the usual device when a link goes, nor
 /// another server.
 class PortDirectory : public ChannelOpener, public PortList {
  public:
@@ -38,6 +39,7 @@ class PortDirectory : public ChannelOpener, public PortList {
   bool isOverridden(int number) const;
   /// None where the number is no server's. Raises where its file cannot be read as one.
   std::optional<ServerAddress> serverOf(int number);
+  std::unique_ptr<ByteChannel> openServer(const ServerAddress& server);
   QString systemDevice(int number) const;
   bool isPresent(int number, const QSet<QString>& devices) const;
 
@@ -45,6 +47,13 @@ class PortDirectory : public ChannelOpener, public PortList {
   /// The numbers that have had a file or link of their own during this run.
   mutable std::set<int> overridden_;
   std::map<int, ServerAddress> servers_;
+  /// A server that did not answer, and until when it is not asked again.
+  struct Silence {
+    ServerAddress server;
+    Error error;
+    std::int64_t until;
+  };
+  std::optional<Silence> silence_;
   Clock& clock_;
   StandBy& standBy_;
   Instrument simulatedInstrument_;

@@ -21,6 +21,7 @@ class QtSerialChannel : public DeviceChannel {
 
   void open(const QString& device, const LineSettings& settings);
   void flush() override { port_.flush(); }
+  void limitFetching(qint64 bytes) override { port_.setReadBufferSize(bytes); }
   void watch(QSerialPort::SerialPortError error);
 
   QSerialPort& port_;

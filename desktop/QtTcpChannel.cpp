@@ -4,13 +4,14 @@
 #include <QHostInfo>
 #include <QThread>
 
+#include "Error.h"
 #include "QtValues.h"
 #include "SerialPort.h"
 
 namespace tracewell {
 namespace {
 
-/// Milliseconds between two turns of the desktop.
+/// Milliseconds between two looks whether something has come of a wait.
 constexpr int interval = 10;
 /// A server that greets does so at once: it is heard after as long as it took to answer, and so
 /// much more. Milliseconds.
@@ -26,7 +27,10 @@ QtTcpChannel::QtTcpChannel(const ServerAddress& address, StandBy& standBy)
   QObject::connect(&socket_, &QTcpSocket::readyRead, &context(), [this] { announce(); });
   QObject::connect(&socket_, &QTcpSocket::errorOccurred, &context(),
                    [this](QAbstractSocket::SocketError error) {
-                     if (error != QAbstractSocket::SocketTimeoutError) fail(socket_.errorString());
+                     // A read that nothing came of is one, too, and leaves the line as it is.
+                     const bool isConnected = socket_.state() == QAbstractSocket::ConnectedState;
+                     if (error != QAbstractSocket::SocketTimeoutError || !isConnected)
+                       fail(socket_.errorString());
                    });
 }
 
@@ -99,7 +103,8 @@ int QtTcpChannel::left() const {
 
 void QtTcpChannel::turn() {
   standBy_.turn();
-  if (standBy_.isGivenUp()) endWith(QStringLiteral("given up"));
+  if (standBy_.isGivenUp())
+    throw Error(portReadTimeOut, "RS232", "The instrument did not reply in time");
 }
 
 void QtTcpChannel::endWith(const QString& reason) {

@@ -16,13 +16,14 @@ class QtTcpChannel : public DeviceChannel {
  public:
   /// Finds the host, connects, and drops what the server says by itself, all within
   /// SerialPort::defaultReadTimeOut; the waits are those of `standBy`. Raises deviceError with the
-  /// system's words, or when the user has given up; throws ProgramEnded.
+  /// system's words, portReadTimeOut when the user has given up; throws ProgramEnded.
   QtTcpChannel(const ServerAddress& address, StandBy& standBy);
 
  private:
   QtTcpChannel(const ServerAddress& address, StandBy& standBy, QTcpSocket* socket);
 
   void flush() override { socket_.flush(); }
+  void limitFetching(qint64 bytes) override { socket_.setReadBufferSize(bytes); }
   QList<QHostAddress> addressesOf(const QString& host);
   void connectToOneOf(const QList<QHostAddress>& hosts, std::uint16_t port);
   bool isConnected(const QHostAddress& host, std::uint16_t port, int timeOut);

@@ -4,7 +4,9 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <iterator>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "WaveformRecord.h"
@@ -18,7 +20,7 @@ struct Column {
   std::vector<double> values;
 };
 
-/// As many digits as a sample of 16 bits can have.
+/// More digits than a sample of 16 bits and a scale of three can have between them.
 std::string shortNumber(double value) {
   std::array<char, 32> digits;
   constexpr int precision = 7;
@@ -41,7 +43,7 @@ bool isShown(const Plot& plot) {
   return plot.visible() && !plot.y().empty();
 }
 
-/// All traces share it, and so must have come under one.
+/// The channels share it, and so must have come under one.
 std::optional<double> timeScale(const frmDSO& main) {
   std::vector<std::optional<double>> scales;
   for (const int number : {1, 2})
@@ -77,14 +79,18 @@ std::string tableOf(const std::vector<Column>& columns) {
 }  // namespace
 
 std::string traceTable(const frmDSO& main) {
-  std::vector<Column> columns = {columnOf("Time", main.XIndex, timeScale(main), "s")};
+  std::vector<Column> channels = {columnOf("Time", main.XIndex, timeScale(main), "s")};
   for (const int number : {1, 2})
-    if (isShown(main.graphDSO.plot(number))) columns.push_back(channelColumn(main, number));
+    if (isShown(main.graphDSO.plot(number))) channels.push_back(channelColumn(main, number));
+  std::vector<Column> loaded = {columnOf("x", main.XIndex, std::nullopt, "")};
   for (int number = ScopeGraph::firstReference; number <= ScopeGraph::plotCount; ++number) {
     const Plot& plot = main.graphDSO.plot(number);
-    if (isShown(plot)) columns.push_back(columnOf(plot.name(), plot.y(), std::nullopt, ""));
+    if (isShown(plot)) loaded.push_back(columnOf(plot.name(), plot.y(), std::nullopt, ""));
   }
-  return columns.size() == 1 ? "" : tableOf(columns);
+  std::vector<Column> columns;
+  for (std::vector<Column>* part : {&channels, &loaded})
+    if (part->size() > 1) std::ranges::move(*part, std::back_inserter(columns));
+  return columns.empty() ? "" : tableOf(columns);
 }
 
 }  // namespace tracewell

@@ -54,13 +54,14 @@ void Acquisition::DataReady(const std::string& data) {
   std::int16_t channel = 0;
   std::int16_t offset = 0;
   ignoringErrors([&] { channel = toInt16(port.tag); });
+  const bool isSameSweep = data == (channel == 1 ? main_.Ch1Raw : main_.Ch2Raw);
   ignoringErrors([&] { offset = keepRecord(channel, data); });
   const Samples samples = decodeSamples(data, offset);
   ignoringErrors([&] { main_.graphDSO.plot(channel).plotXvsY(main_.XIndex, samples); });
   main_.txtMsg.text = recordText(channel, samples);
   markTrace(main_);
   noteRecord(main_, channel);
-  noteRecordScales(main_, channel);
+  noteRecordScales(main_, channel, isSameSweep);
   ignoringErrors([&] { port.reset(); });
   ignoringErrors([&] { main_.WaveCount = addInt16(main_.WaveCount, 1); });
 }

@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "RecordScales.h"
 
+#include <utility>
+
 #include "KnownScales.h"
+#include "StaleScales.h"
 
 namespace tracewell {
 namespace {
 
 SharedState::RecordScale presentScale(const frmDSO& main, std::int16_t channel) {
+  if (areScalesStale(main)) return {};
   const bool isMath = channel == mathChannel(main);
   return {isMath ? std::nullopt : voltsPerDivision(main, channel), secondsPerDivision(main)};
 }
@@ -17,16 +21,21 @@ std::size_t indexOf(std::int16_t channel) {
 
 }  // namespace
 
-/// Which of two requests a record answers does not show.
+/// Of the requests that wait the port keeps the first.
 void noteRequestScales(frmDSO& main, std::int16_t channel) {
-  auto& requested = main.RequestScales[indexOf(channel)];
+  auto& [onItsWay, waiting] = main.RequestScales[indexOf(channel)];
   const SharedState::RecordScale present = presentScale(main, channel);
-  requested = !requested || *requested == present ? present : SharedState::RecordScale();
+  if (!onItsWay)
+    onItsWay = present;
+  else if (!waiting)
+    waiting = present;
 }
 
-void noteRecordScales(frmDSO& main, std::int16_t channel) {
+void noteRecordScales(frmDSO& main, std::int16_t channel, bool isSameSweep) {
   const std::size_t index = indexOf(channel);
-  const auto requested = std::exchange(main.RequestScales[index], std::nullopt);
+  auto& [onItsWay, waiting] = main.RequestScales[index];
+  const auto requested = std::exchange(onItsWay, std::exchange(waiting, std::nullopt));
+  if (isSameSweep) return;
   const bool hasStayed = requested && *requested == presentScale(main, channel);
   main.RecordScales[index] = hasStayed ? *requested : SharedState::RecordScale();
 }

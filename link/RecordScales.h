@@ -7,10 +7,11 @@
 /// known where nothing has changed between its request and its arrival.
 namespace tracewell {
 
-/// A record of channel 1 or 2 is being requested, perhaps once more.
+/// A record of channel 1 or 2 is being requested, perhaps behind one that is still on its way.
 void noteRequestScales(frmDSO& main, std::int16_t channel);
 
-/// The record has come.
-void noteRecordScales(frmDSO& main, std::int16_t channel);
+/// The record has come. One that is the same as the one before, to the last byte, is the same
+/// sweep, as of an instrument that is stopped, and so are its scales.
+void noteRecordScales(frmDSO& main, std::int16_t channel, bool isSameSweep);
 
 }  // namespace tracewell

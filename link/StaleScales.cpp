@@ -29,15 +29,19 @@ void withdraw(frmDSO& main, const std::string& said) {
 
 }  // namespace
 
+bool areScalesStale(const frmDSO& main) {
+  return main.scaleOrigin && *main.scaleOrigin != presentOrigin(main);
+}
+
 /// Traces of the instrument before do not stand on the scales of this one.
 void noteScalesRead(frmDSO& main) {
-  if (main.scaleOrigin && *main.scaleOrigin != presentOrigin(main)) main.RecordTime = {};
+  if (areScalesStale(main)) main.RecordTime = {};
   main.scaleOrigin = presentOrigin(main);
   showStaleScales(main);
 }
 
 void showStaleScales(frmDSO& main) {
-  const bool isStale = main.scaleOrigin && *main.scaleOrigin != presentOrigin(main);
+  const bool isStale = areScalesStale(main);
   const bool wasStale = main.lblChan1.isStale();
   for (Control* control : std::initializer_list<Control*>{
            &main.lblChan1, &main.lblChan2, &main.lblTime, &main.knobChan1, &main.knobChan2,

@@ -10,6 +10,9 @@ namespace tracewell {
 /// They have just been read.
 void noteScalesRead(frmDSO& main);
 
+/// They may be another instrument's.
+bool areScalesStale(const frmDSO& main);
+
 /// Shows them pale, and says how they are read, as long as they may be another instrument's.
 void showStaleScales(frmDSO& main);
 

@@ -337,7 +337,7 @@ void Played::connect() {
 void Played::useGraph(Graph& graph, const std::string& value) {
   using enum Graph::Copied;
   if (value.empty()) return graph.toggleEnlarged();
-  if (value.ends_with(".csv")) return graph.drop(folder.path() / value);
+  if (value.ends_with(".csv")) return static_cast<void>(graph.drop(folder.path() / value));
   graph.copy(value == "values" ? values : value == "picture" ? picture : pictureAndValues);
 }
 

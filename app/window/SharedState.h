@@ -88,8 +88,12 @@ struct SharedState {
     std::optional<double> secondsPerDivision;
     bool operator==(const RecordScale&) const = default;
   };
-  /// As they were when the record of each channel that is awaited was requested.
-  std::array<std::optional<RecordScale>, 2> RequestScales;
+  /// As they were when the records of each channel that are awaited were requested.
+  struct RequestScale {
+    std::optional<RecordScale> onItsWay;
+    std::optional<RecordScale> waiting;
+  };
+  std::array<RequestScale, 2> RequestScales;
   /// Those of the last record that has come. Kept through link/RecordScales.h, both.
   std::array<RecordScale, 2> RecordScales;
   /// Where the scales were read: number of the port, and its count of openings then.

@@ -136,12 +136,20 @@ void Conversation::hear(const std::string& bytes) {
 void Conversation::hearRecord(const std::string& bytes) {
   heardAt_ = clock_.milliseconds();
   record_.bytes += bytes;
-  if (record_.bytes.size() < record_.count) return;
+  if (record_.bytes.size() < record_.count) return restUntilMoreHasCome();
   const std::string behind = record_.bytes.substr(record_.count);
   record_.bytes.resize(record_.count);
   state_ = State::idle;
   if (isWanted_) whole_ = std::move(record_);
   if (!behind.empty()) hearOwed(behind);
+}
+
+/// Nine tenths of what is missing, over and over: the last bytes are heard as they come.
+void Conversation::restUntilMoreHasCome() {
+  constexpr int notWorthIt = 4;
+  const auto missing = static_cast<double>(record_.count - record_.bytes.size());
+  const int time = static_cast<int>(std::min<double>(0.9 * missing * byteTime(), longestRest));
+  if (time > notWorthIt) channel_->rest(time);
 }
 
 /// Lines that nobody waits for. Each is one that is owed; what goes beyond that is stray, and so is

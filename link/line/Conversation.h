@@ -44,6 +44,8 @@ class Conversation {
   static constexpr int restMargin = 250;
   /// Bytes of one answer follow each other, through whatever adapter, within so long.
   static constexpr int settling = 20;
+  /// While the most of a record is still to come its bytes are not looked at, for at most so long.
+  static constexpr int longestRest = 200;
   /// A reply of more bytes is none.
   static constexpr std::size_t longestReply = 4096;
 
@@ -104,6 +106,7 @@ class Conversation {
 
   void hear(const std::string& bytes);
   void hearRecord(const std::string& bytes);
+  void restUntilMoreHasCome();
   void hearOwed(std::string_view bytes);
   void review();
   std::int64_t trustedAt() const;

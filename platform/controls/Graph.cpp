@@ -84,8 +84,13 @@ void Graph::copy(Copied what) {
   userDoes([this, what] { copied.raise(what); });
 }
 
-void Graph::drop(const std::filesystem::path& file) {
-  userDoes([this, &file] { fileDropped.raise(file); });
+bool Graph::drop(const std::filesystem::path& file) {
+  bool isTaken = false;
+  userDoes([&] {
+    isTaken = true;
+    fileDropped.raise(file);
+  });
+  return isTaken;
 }
 
 void Graph::dragCursor(Cursor& cursor, double x, double y) {

@@ -141,9 +141,9 @@ class Graph : public Control {
   enum class Copied { pictureAndValues, picture, values };
   Event<Copied> copied;
   void copy(Copied what);
-  /// The user has dropped a file on the graph.
+  /// The user has dropped a file on the graph. False while no handler may run: not taken yet.
   Event<const std::filesystem::path&> fileDropped;
-  void drop(const std::filesystem::path& file);
+  bool drop(const std::filesystem::path& file);
   /// The user drags a cursor to a point in graph units.
   void dragCursor(Cursor& cursor, double x, double y);
 

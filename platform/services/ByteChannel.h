@@ -40,6 +40,11 @@ class ByteChannel {
   /// once the line is gone and everything that had arrived has been read.
   virtual std::string read(int timeOut) = 0;
 
+  /// What arrives within so many milliseconds is announced at their end only: waking up for each
+  /// few bytes is what a long transfer costs most. The next read or rest ends it. A channel may
+  /// announce earlier all the same.
+  virtual void rest(int milliseconds) { static_cast<void>(milliseconds); }
+
   /// Called out of the event loop, never from inside write or read, when bytes have arrived or the
   /// line has failed. The owner then calls read(0), and may destroy the channel before it returns.
   /// May be called although nothing is there.
@@ -53,7 +58,8 @@ class ChannelOpener {
   virtual ~ChannelOpener() = default;
 
   /// The open channel, owned by the caller. Raises deviceError with the system's reason when there
-  /// is no such port, it is taken, or it may not be used.
+  /// is no such port, it is taken, or it may not be used, and the error of reading where a file
+  /// says what the number means and cannot be read.
   virtual std::unique_ptr<ByteChannel> open(const LineSettings& settings) = 0;
 };
 

@@ -19,7 +19,7 @@ namespace tracewell {
 class SerialLineTest : public testing::Test, public ChannelOpener {
  protected:
   std::unique_ptr<ByteChannel> open(const LineSettings& settings) override {
-    return std::make_unique<QtSerialChannel>(device, settings);
+    return make ? make() : std::make_unique<QtSerialChannel>(device, settings);
   }
 
   void startInstrument(const QStringList& options) {
@@ -35,6 +35,7 @@ class SerialLineTest : public testing::Test, public ChannelOpener {
 
   QProcess instrument;
   QString device;
+  std::function<std::unique_ptr<ByteChannel>()> make;
   DesktopClock clock;
   Gate gate;
   StandBy standBy{clock, gate};
@@ -53,6 +54,31 @@ TEST_F(SerialLineTest, CarriesRecordsAndReplies) {
   }
   ASSERT_FALSE(user.records.empty());
   EXPECT_EQ(user.records.at(0).second.substr(0, 12), "KRM410 REC 2");
+}
+
+/// The bytes of a record trickle for half a second, and wake the program a few times.
+TEST_F(SerialLineTest, MostOfARecordIsSleptThroughAndItsEndIsNot) {
+  class Counting : public QtSerialChannel {
+   public:
+    Counting(const QString& device, int& count) : QtSerialChannel(device, LineSettings()), count_(count) {}
+    std::string read(int timeOut) override {
+      ++count_;
+      return QtSerialChannel::read(timeOut);
+    }
+
+   private:
+    int& count_;
+  };
+  startInstrument({});
+  int count = 0;
+  make = [&] { return std::make_unique<Counting>(device, count); };
+  PortUser user(port);
+  const std::int64_t begin = clock.milliseconds();
+  user.request("1");
+  while (user.records.empty() && clock.milliseconds() < begin + 3000) QTest::qWait(1);
+  ASSERT_FALSE(user.records.empty());
+  EXPECT_GE(clock.milliseconds() - begin, 528);
+  EXPECT_LT(count, 40);
 }
 
 /// The instrument's control lines stay up when the port is closed.
