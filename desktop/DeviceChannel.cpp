@@ -13,10 +13,7 @@ DeviceChannel::DeviceChannel(const QString& name, std::unique_ptr<QIODevice> dev
     : name_(name), device_(std::move(device)) {
   resting_.setSingleShot(true);
   resting_.setTimerType(Qt::PreciseTimer);
-  QObject::connect(&resting_, &QTimer::timeout, &context_, [this] {
-    limitFetching(0);
-    announce();
-  });
+  QObject::connect(&resting_, &QTimer::timeout, &context_, [this] { tell(); });
 }
 
 void DeviceChannel::write(std::string_view bytes) {
@@ -32,15 +29,22 @@ void DeviceChannel::write(std::string_view bytes) {
 /// meanwhile.
 void DeviceChannel::rest(int milliseconds) {
   if (hasFailed()) return;
+  isResting_ = true;
   limitFetching(1);
   resting_.start(milliseconds);
 }
 
+/// The system holds what the device was not to fetch.
+void DeviceChannel::endRest() {
+  if (!isResting_) return;
+  resting_.stop();
+  limitFetching(0);
+  if (device_->isOpen()) device_->waitForReadyRead(0);
+  isResting_ = false;
+}
+
 std::string DeviceChannel::read(int timeOut) {
-  if (resting_.isActive()) {
-    resting_.stop();
-    limitFetching(0);
-  }
+  endRest();
   QByteArray bytes = std::exchange(rest_, {});
   if (device_->isOpen()) bytes += device_->readAll();
   // Also with a time-out of zero: without events nobody else has fetched what the system holds.
@@ -60,15 +64,20 @@ void DeviceChannel::fail(const QString& reason) {
   announce();
 }
 
-/// Out of the event loop and once for many arrivals. The owner may destroy the channel in it.
+/// Out of the event loop and once for many arrivals.
 void DeviceChannel::announce() {
-  if (isAnnounced_ || resting_.isActive()) return;
+  if (isAnnounced_ || isResting_) return;
   isAnnounced_ = true;
   QTimer::singleShot(0, &context_, [this] {
     isAnnounced_ = false;
-    const std::function<void()> tell = readable;
-    if (tell) tell();
+    tell();
   });
+}
+
+/// The owner may destroy the channel in it.
+void DeviceChannel::tell() const {
+  const std::function<void()> owner = readable;
+  if (owner) owner();
 }
 
 void DeviceChannel::raiseFailure() const {

@@ -40,6 +40,9 @@ class DeviceChannel : public ByteChannel {
   QObject& context() { return context_; }
 
  private:
+  void endRest();
+  void tell() const;
+
   QString name_;
   std::unique_ptr<QIODevice> device_;
   QString failure_;
@@ -47,6 +50,7 @@ class DeviceChannel : public ByteChannel {
   QByteArray rest_;
   bool isAnnounced_ = false;
   QTimer resting_;
+  bool isResting_ = false;
   /// Declared last: announcements that are still due are dropped before anything else goes.
   QObject context_;
 };
