@@ -4,6 +4,10 @@
 include(GNUInstallDirs)
 set(CMAKE_INSTALL_DOCDIR ${CMAKE_INSTALL_DATAROOTDIR}/doc/tracewell)
 
+# Whatever the umask of who packs it.
+set(CMAKE_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
+    OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+
 set(READ_FIRST ${PROJECT_SOURCE_DIR}/README.md ${PROJECT_SOURCE_DIR}/CONTRIBUTING.md
                ${PROJECT_SOURCE_DIR}/SECURITY.md)
 set(DESKTOP_FILES ${PROJECT_SOURCE_DIR}/packaging/desktop)
@@ -50,14 +54,20 @@ set(CPACK_DEBIAN_PACKAGE_SECTION electronics)
 # Without it the package would come out without its dependencies, and nobody would be told.
 find_program(SHLIBDEPS dpkg-shlibdeps REQUIRED)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+# The time of the release is the time of every file in its packages.
+find_program(PARSECHANGELOG dpkg-parsechangelog REQUIRED)
+execute_process(COMMAND ${PARSECHANGELOG} -l ${DESKTOP_FILES}/changelog -S Timestamp
+                OUTPUT_VARIABLE CPACK_RELEASE_TIME OUTPUT_STRIP_TRAILING_WHITESPACE
+                COMMAND_ERROR_IS_FATAL ANY)
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${DESKTOP_FILES}/changelog)
 # Screens that are no X server, the words of the Chinese entries, Qt's dialogs in other languages.
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland, fonts-wqy-microhei, qt6-translations-l10n")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
 "front panel of a two-channel storage oscilloscope
  Tracewell operates the KRM-410, a two-channel digital storage oscilloscope on
- an RS-232 line: live traces, settings, cursors, measurements, saved waveforms,
- status reports and raw commands, in five languages. A simulated instrument is
- built in.")
+ an RS-232 line, also behind a serial device server: live traces, settings,
+ cursors, measurements, saved waveforms, status reports and raw commands, in
+ five languages. A simulated instrument is built in.")
 set(CPACK_PROJECT_CONFIG_FILE ${CMAKE_CURRENT_LIST_DIR}/PackagePerGenerator.cmake)
 set(CPACK_BUILD_DIR ${PROJECT_BINARY_DIR})
 include(CPack)
