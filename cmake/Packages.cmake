@@ -1,12 +1,9 @@
 # What is installed, and the packages that cpack makes of it: a .deb for the system (component
 # system: FHS paths, the program folder is the user's own) and a .tar.gz to unpack anywhere (component
 # portable: the program folder is the executable's).
+# The umask of cpack shows in the modes of folders: it is to be 022.
 include(GNUInstallDirs)
 set(CMAKE_INSTALL_DOCDIR ${CMAKE_INSTALL_DATAROOTDIR}/doc/tracewell)
-
-# Whatever the umask of who packs it.
-set(CMAKE_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
-    OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 
 set(READ_FIRST ${PROJECT_SOURCE_DIR}/README.md ${PROJECT_SOURCE_DIR}/CONTRIBUTING.md
                ${PROJECT_SOURCE_DIR}/SECURITY.md)
@@ -62,12 +59,12 @@ execute_process(COMMAND ${PARSECHANGELOG} -l ${DESKTOP_FILES}/changelog -S Times
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${DESKTOP_FILES}/changelog)
 # Screens that are no X server, the words of the Chinese entries, Qt's dialogs in other languages.
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland, fonts-wqy-microhei, qt6-translations-l10n")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "front panel of a two-channel storage oscilloscope")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
-"front panel of a two-channel storage oscilloscope
- Tracewell operates the KRM-410, a two-channel digital storage oscilloscope on
- an RS-232 line, also behind a serial device server: live traces, settings,
- cursors, measurements, saved waveforms, status reports and raw commands, in
- five languages. A simulated instrument is built in.")
+"Tracewell operates the KRM-410, a two-channel digital storage oscilloscope on
+an RS-232 line, also behind a serial device server: live traces, settings,
+cursors, measurements, saved waveforms, status reports and raw commands, in
+five languages. A simulated instrument is built in.")
 set(CPACK_PROJECT_CONFIG_FILE ${CMAKE_CURRENT_LIST_DIR}/PackagePerGenerator.cmake)
 set(CPACK_BUILD_DIR ${PROJECT_BINARY_DIR})
 include(CPack)
