@@ -40,10 +40,13 @@ class CopyTest : public MainFormTest {
     QWidget& graph = *find("graphDSO");
     QMimeData data;
     data.setUrls(files);
-    QDragEnterEvent enter({9, 9}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QDragEnterEvent enter({9, 9}, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton,
+                          Qt::NoModifier);
+    enter.setDropAction(Qt::MoveAction);
     enter.ignore();
     QApplication::sendEvent(&graph, &enter);
     if (!enter.isAccepted()) return;
+    EXPECT_EQ(enter.dropAction(), Qt::CopyAction);
     QDropEvent event({9, 9}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(&graph, &event);
     QApplication::processEvents();
@@ -84,7 +87,13 @@ TEST_F(CopyTest, OneDataFileCanBeDroppedOnTheGraph) {
   drop({file("dso.cmd")});
   drop({QUrl("http://host/a.csv")});
   EXPECT_TRUE(main.graphDSO.plot(3).y().empty());
-  drop({file("a.CSV")});
+  {
+    const Gate::Hold waiting(gate);
+    drop({file("a.CSV")});
+    QTest::qWait(60);
+    EXPECT_TRUE(main.graphDSO.plot(3).y().empty());
+  }
+  QTest::qWait(100);
   EXPECT_EQ(main.graphDSO.plot(3).y(), (std::vector<double>{7, 8}));
   EXPECT_TRUE(dialogs.runTimeErrors.empty());
 }

@@ -5,6 +5,7 @@
 
 #include "DesktopClock.h"
 #include "Doubles.h"
+#include "PortDirectory.h"
 #include "PortUser.h"
 #include "QtTcpChannel.h"
 
@@ -92,6 +93,14 @@ TEST_F(TcpLineTest, OpeningEndsInTimeAndSaysWhyItFailed) {
     EXPECT_EQ(failure(), addressText(address) + reason);
     EXPECT_LT(clock.milliseconds() - begin, SerialPort::defaultReadTimeOut + 500);
   }
+
+  // As a question does that is put again where its line cannot be opened.
+  const ProgramFolderCopy folder;
+  writeWholeFile(folder.path() / "com5", "tcp://127.0.0.1:" + std::to_string(full.serverPort()));
+  PortDirectory directory(folder.path(), clock, standBy);
+  const std::int64_t begin = clock.milliseconds();
+  for (int i = 0; i < 9; ++i) EXPECT_THROW(directory.open({.portNumber = 5}), Error);
+  EXPECT_LT(clock.milliseconds() - begin, SerialPort::defaultReadTimeOut + 500);
 }
 
 /// The window lives on meanwhile, and Escape ends it.
