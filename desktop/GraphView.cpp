@@ -346,6 +346,9 @@ bool GraphView::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::MouseButtonDblClick:
       if (graph_ != nullptr) graph_->toggleEnlarged();
       break;
+    case QEvent::ContextMenu:
+      // The plot keeps what the mouse does to itself.
+      return QCoreApplication::sendEvent(this, event);
     case QEvent::Leave:
       overlay_->setPointer(std::nullopt);
       break;

@@ -22,6 +22,7 @@ constexpr int greeting = 100;
 QtTcpChannel::QtTcpChannel(const ServerAddress& address, StandBy& standBy)
     : QtTcpChannel(address, standBy, new QTcpSocket) {
   sinceBegin_.start();
+  limitFetching(0);
   connectToOneOf(addressesOf(toQt(address.host)), address.port);
   dropGreeting();
   QObject::connect(&socket_, &QTcpSocket::readyRead, &context(), [this] { announce(); });

@@ -23,7 +23,11 @@ class QtTcpChannel : public DeviceChannel {
   QtTcpChannel(const ServerAddress& address, StandBy& standBy, QTcpSocket* socket);
 
   void flush() override { socket_.flush(); }
-  void limitFetching(qint64 bytes) override { socket_.setReadBufferSize(bytes); }
+  /// Never any number: a server that floods the line must not fill the memory, nor a turn.
+  void limitFetching(qint64 bytes) override {
+    socket_.setReadBufferSize(bytes == 0 ? mostFetched : bytes);
+  }
+  static constexpr qint64 mostFetched = 1 << 16;
   QList<QHostAddress> addressesOf(const QString& host);
   void connectToOneOf(const QList<QHostAddress>& hosts, std::uint16_t port);
   bool isConnected(const QHostAddress& host, std::uint16_t port, int timeOut);

@@ -262,6 +262,8 @@ void Conversation::arrived() {
   if (!channel_) return;
   try {
     hear(take(0));
+    // Nobody waits for these: what comes without end must not keep the processor busy.
+    if (state_ == State::draining) channel_->rest(StandBy::longestGap);
     if (whole_) {
       const Record record = *std::exchange(whole_, std::nullopt);
       delivered(record);

@@ -27,9 +27,14 @@ class CopyTest : public MainFormTest {
 
   static const QMimeData& content() { return *QGuiApplication::clipboard()->mimeData(); }
 
+  /// Where the mouse is there is a widget within the widget.
   static void chooseInMenuOf(QWidget& widget, int entry) {
-    QContextMenuEvent event(QContextMenuEvent::Mouse, {5, 5}, widget.mapToGlobal(QPoint(5, 5)));
-    QApplication::sendEvent(&widget, &event);
+    const QPoint middle = widget.rect().center();
+    QWidget* hit = widget.childAt(middle);
+    if (hit == nullptr) hit = &widget;
+    const QPoint place = hit->mapFrom(&widget, middle);
+    QContextMenuEvent event(QContextMenuEvent::Mouse, place, widget.mapToGlobal(middle));
+    QApplication::sendEvent(hit, &event);
     auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
     ASSERT_NE(menu, nullptr);
     menu->actions().at(entry)->trigger();
