@@ -39,15 +39,11 @@ Column columnOf(std::string name, const Samples& samples, std::optional<double> 
   return column;
 }
 
-bool isShown(const Plot& plot) {
-  return plot.visible() && !plot.y().empty();
-}
-
 /// The channels share it, and so must have come under one.
 std::optional<double> timeScale(const frmDSO& main) {
   std::vector<std::optional<double>> scales;
   for (const int number : {1, 2})
-    if (isShown(main.graphDSO.plot(number)))
+    if (main.graphDSO.plot(number).isShown())
       scales.push_back(main.RecordScales[number == 1 ? 0 : 1].secondsPerDivision);
   const bool isOne = !scales.empty() && std::ranges::count(scales, scales[0]) == std::ssize(scales);
   return isOne ? scales[0] : std::nullopt;
@@ -81,11 +77,11 @@ std::string tableOf(const std::vector<Column>& columns) {
 std::string traceTable(const frmDSO& main) {
   std::vector<Column> channels = {columnOf("Time", main.XIndex, timeScale(main), "s")};
   for (const int number : {1, 2})
-    if (isShown(main.graphDSO.plot(number))) channels.push_back(channelColumn(main, number));
+    if (main.graphDSO.plot(number).isShown()) channels.push_back(channelColumn(main, number));
   std::vector<Column> loaded = {columnOf("x", main.XIndex, std::nullopt, "")};
   for (int number = ScopeGraph::firstReference; number <= ScopeGraph::plotCount; ++number) {
     const Plot& plot = main.graphDSO.plot(number);
-    if (isShown(plot)) loaded.push_back(columnOf(plot.name(), plot.y(), std::nullopt, ""));
+    if (plot.isShown()) loaded.push_back(columnOf(plot.name(), plot.y(), std::nullopt, ""));
   }
   std::vector<Column> columns;
   for (std::vector<Column>* part : {&channels, &loaded})

@@ -191,7 +191,11 @@ std::map<std::string, std::string> Played::shownBy(Window& window) {
   for (const char* name : {"driveCSV", "lblPath"}) shown.erase(name);
   if (&window != &main) return shown;
   showParts(main.graphDSO, shown);
-  if (isTruthTold_) shown["marks"] = textOf(main.graphDSO.marks());
+  if (isTruthTold_) {
+    shown["marks"] = textOf(main.graphDSO.marks());
+    for (const GraphMarks::Text& value : main.graphDSO.valuesAt(50, 50))
+      shown["pointer"] += value.text + " ";
+  }
   for (const int number : {1, 2})
     if (isTruthTold_ && main.graphDSO.plot(number).isOld())
       shown["old" + std::to_string(number)] = "";

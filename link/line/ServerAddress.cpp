@@ -59,7 +59,7 @@ std::string addressText(const ServerAddress& address) {
 ServerAddress readServerAddress(const std::filesystem::path& file) {
   const std::string text = readWholeFile(file, fileLimit::portAddress);
   if (const auto address = serverAddress(trimmed(text))) return *address;
-  throw fileError(pathAccess, "No line tcp://host:port", file);
+  throw fileError(pathAccess, "Holds no address tcp://host:port", file);
 }
 
 }  // namespace tracewell

@@ -31,6 +31,8 @@ class Plot : public Observable {
   Property<Colour> lineColour;
   Property<int> lineStyle{*this, solidLine};
   Property<int> pointStyle{*this, noPoints};
+  /// There is something to see.
+  bool isShown() const { return visible() && !y_.empty(); }
   /// The instrument should have sent another trace since. The view shows it pale; pictures and
   /// pages do not.
   Property<bool> isOld{*this, false};

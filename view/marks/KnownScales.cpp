@@ -11,6 +11,10 @@ std::optional<double> knownScale(const ValueLabel& label, std::string_view unit)
   return trueScale(label.caption(), unit);
 }
 
+bool isOther(const std::optional<double>& ofRecord, const std::optional<double>& present) {
+  return ofRecord && present && *ofRecord != *present;
+}
+
 }  // namespace
 
 std::optional<double> voltsPerDivision(const frmDSO& main, int channel) {
@@ -19,6 +23,24 @@ std::optional<double> voltsPerDivision(const frmDSO& main, int channel) {
 
 std::optional<double> secondsPerDivision(const frmDSO& main) {
   return knownScale(main.lblTime, "s");
+}
+
+std::optional<double> voltsOfTrace(const frmDSO& main, int channel) {
+  const std::optional<double> present = voltsPerDivision(main, channel);
+  const auto& record = main.RecordScales[channel == 1 ? 0 : 1];
+  const bool isOfAnother =
+      main.graphDSO.plot(channel).isShown() && isOther(record.voltsPerDivision, present);
+  return isOfAnother ? std::nullopt : present;
+}
+
+std::optional<double> secondsOfTraces(const frmDSO& main) {
+  const std::optional<double> present = secondsPerDivision(main);
+  for (const int channel : {1, 2}) {
+    const auto& record = main.RecordScales[channel == 1 ? 0 : 1];
+    if (main.graphDSO.plot(channel).isShown() && isOther(record.secondsPerDivision, present))
+      return std::nullopt;
+  }
+  return present;
 }
 
 int mathChannel(const frmDSO& main) {

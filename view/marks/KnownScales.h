@@ -12,6 +12,11 @@ namespace tracewell {
 std::optional<double> voltsPerDivision(const frmDSO& main, int channel);
 std::optional<double> secondsPerDivision(const frmDSO& main);
 
+/// The same for what is measured on the screen: none, either, where a trace that is shown is known
+/// to have come under another scale, as one that stays when the knob is turned.
+std::optional<double> voltsOfTrace(const frmDSO& main, int channel);
+std::optional<double> secondsOfTraces(const frmDSO& main);
+
 /// The number of the channel in whose place the instrument shows its math; 0 where it shows none.
 /// A sum or a difference is in the first, the difference the other way round in the second.
 int mathChannel(const frmDSO& main);

@@ -36,10 +36,6 @@ ShownChannel channel(const frmDSO& main, int number) {
   return shown;
 }
 
-bool isShown(const Plot& plot) {
-  return plot.visible() && !plot.y().empty();
-}
-
 Side::Direction directionOf(double lowest, double highest, const Axis& axis) {
   if (lowest > axis.maximum()) return Side::above;
   return highest < axis.minimum() ? Side::below : Side::here;
@@ -47,7 +43,7 @@ Side::Direction directionOf(double lowest, double highest, const Axis& axis) {
 
 /// The flag at the zero, and an arrow to a trace that has left the screen.
 void addSides(std::vector<Side>& sides, const ShownChannel& channel, const Axis& axis) {
-  if (!channel.isDisplayed || !isShown(channel.plot)) return;
+  if (!channel.isDisplayed || !channel.plot.isShown()) return;
   const std::string text = std::to_string(channel.number);
   Side::Direction zero = Side::here;
   if (channel.zero) {
@@ -61,20 +57,21 @@ void addSides(std::vector<Side>& sides, const ShownChannel& channel, const Axis&
 
 void addMathName(std::vector<GraphMarks::Text>& names, const frmDSO& main) {
   const int number = mathChannel(main);
-  if (number != 0 && main.ChanOn[number == 1 ? 0 : 1] && isShown(main.graphDSO.plot(number)))
+  if (number != 0 && main.ChanOn[number == 1 ? 0 : 1] && main.graphDSO.plot(number).isShown())
     names.push_back({number, main.cbMath.items()[static_cast<std::size_t>(*main.MathEntry)]});
 }
 
 std::vector<std::string> timeLines(const frmDSO& main, const Cursor& cur1, const Cursor& cur2) {
-  const std::optional<double> scale = secondsPerDivision(main);
+  const std::optional<double> scale = secondsOfTraces(main);
   if (!scale) return {};
   return timeBadge(*scale, cur1.xPosition(), cur2.xPosition());
 }
 
-std::vector<std::string> voltageLines(const ShownChannel& channel, const Cursor& cur1,
-                                      const Cursor& cur2) {
-  if (!channel.voltsPerDivision) return {};
-  return voltageBadge(*channel.voltsPerDivision, channel.zero, cur1.yPosition(), cur2.yPosition());
+std::vector<std::string> voltageLines(const frmDSO& main, const ShownChannel& channel,
+                                      const Cursor& cur1, const Cursor& cur2) {
+  const std::optional<double> scale = voltsOfTrace(main, channel.number);
+  if (!scale) return {};
+  return voltageBadge(*scale, channel.zero, cur1.yPosition(), cur2.yPosition());
 }
 
 /// Volts in the colour of the channel whose scale counts.
@@ -85,7 +82,7 @@ std::vector<GraphMarks::Text> badge(const frmDSO& main) {
   const ShownChannel measured = channel(main, main.cbCurChan.text() == "1" ? 1 : 2);
   std::vector<GraphMarks::Text> badge;
   for (const std::string& line :
-       main.CursorTimeMode ? timeLines(main, cur1, cur2) : voltageLines(measured, cur1, cur2))
+       main.CursorTimeMode ? timeLines(main, cur1, cur2) : voltageLines(main, measured, cur1, cur2))
     badge.push_back({main.CursorTimeMode ? 0 : measured.number, line});
   return badge;
 }
@@ -104,7 +101,7 @@ GraphMarks screenMarks(const frmDSO& main) {
   addMathName(marks.names, main);
   for (int number = ScopeGraph::firstReference; number <= ScopeGraph::plotCount; ++number) {
     const Plot& plot = main.graphDSO.plot(number);
-    if (isShown(plot)) marks.names.push_back({number, plot.name()});
+    if (plot.isShown()) marks.names.push_back({number, plot.name()});
   }
   marks.badge = badge(main);
   return marks;
@@ -114,10 +111,11 @@ std::vector<GraphMarks::Text> valuesAt(const frmDSO& main, double x, double y) {
   std::vector<GraphMarks::Text> values;
   for (const int number : {1, 2}) {
     const ShownChannel shown = channel(main, number);
-    if (shown.isDisplayed && shown.zero && shown.voltsPerDivision)
-      values.push_back({number, valueOf(y - *shown.zero, *shown.voltsPerDivision, "V")});
+    const std::optional<double> scale = voltsOfTrace(main, number);
+    if (shown.isDisplayed && shown.zero && scale)
+      values.push_back({number, valueOf(y - *shown.zero, *scale, "V")});
   }
-  if (const auto scale = secondsPerDivision(main)) values.push_back({0, valueOf(x, *scale, "s")});
+  if (const auto scale = secondsOfTraces(main)) values.push_back({0, valueOf(x, *scale, "s")});
   return values;
 }
 

@@ -46,7 +46,7 @@ TEST(ServerAddress, FileNamesOneServerOrIsAnErrorThatNamesIt) {
                            "\xEF\xBB\xBFtcp://a:1",
                            "tcp://b\xC3\xA4nk:1",
                            "tcp://a\x01:1"})
-    EXPECT_EQ(addressIn(text), "No line tcp") << text;
+    EXPECT_EQ(addressIn(text), "Holds no address tcp") << text;
   EXPECT_EQ(addressIn("tcp://a:1" + std::string(1015, ' ')), "a:1");
   EXPECT_EQ(addressIn("tcp://a:1" + std::string(1016, ' ')), "Larger than the 1024 bytes allowed");
 }
