@@ -19,12 +19,13 @@ namespace {
 
 namespace fs = std::filesystem;
 
-TEST(PortDirectory, NumbersMeanDevicesUnlessALinkInTheProgramFolderSaysOtherwise) {
+class PortDirectoryTest : public testing::Test, protected Surroundings {
+ protected:
   const ProgramFolderCopy folder;
-  VirtualClock clock;
-  Gate gate;
-  StandBy standBy(clock, gate);
-  PortDirectory directory(folder.path(), clock, standBy);
+  PortDirectory directory{folder.path(), clock, standBy};
+};
+
+TEST_F(PortDirectoryTest, NumbersMeanDevicesUnlessALinkInTheProgramFolderSaysOtherwise) {
   const fs::path link = folder.path() / "com34";
   fs::create_symlink(folder.path() / "device", link);
   const std::pair<std::int16_t, std::string> cases[] = {{0, "simulated instrument"},
@@ -69,12 +70,7 @@ TEST(PortDirectory, NumbersMeanDevicesUnlessALinkInTheProgramFolderSaysOtherwise
   EXPECT_THROW(directory.open({.portNumber = 97}), Error);
 }
 
-TEST(PortDirectory, FileWithTheAddressOfAServerStandsForItUntilTheEnd) {
-  const ProgramFolderCopy folder;
-  VirtualClock clock;
-  Gate gate;
-  StandBy standBy(clock, gate);
-  PortDirectory directory(folder.path(), clock, standBy);
+TEST_F(PortDirectoryTest, FileWithTheAddressOfAServerStandsForItUntilTheEnd) {
   const fs::path file = folder.path() / "com5";
   writeWholeFile(file, "tcp://bench 3");
   EXPECT_EQ(directory.deviceOf(5), file.string());

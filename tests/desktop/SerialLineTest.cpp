@@ -7,16 +7,14 @@
 #include <QProcess>
 #include <QTest>
 
-#include "DesktopClock.h"
-#include "Doubles.h"
-#include "PortUser.h"
+#include "DeviceLineTest.h"
 #include "QtSerialChannel.h"
 #include "QtValues.h"
 
 namespace tracewell {
 
 /// krm410-sim, and the serial library on its pseudo-terminal.
-class SerialLineTest : public testing::Test, public ChannelOpener {
+class SerialLineTest : public DeviceLineTest {
  protected:
   std::unique_ptr<ByteChannel> open(const LineSettings& settings) override {
     return make ? make() : std::make_unique<QtSerialChannel>(device, settings);
@@ -36,12 +34,6 @@ class SerialLineTest : public testing::Test, public ChannelOpener {
   QProcess instrument;
   QString device;
   std::function<std::unique_ptr<ByteChannel>()> make;
-  DesktopClock clock;
-  Gate gate;
-  StandBy standBy{clock, gate};
-  RecordingDialogs dialogs{gate};
-  EventDispatcher dispatcher{gate, dialogs};
-  LinePort port{*this, clock, gate, dispatcher, standBy};
 };
 
 TEST_F(SerialLineTest, CarriesRecordsAndReplies) {

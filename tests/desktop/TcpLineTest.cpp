@@ -3,16 +3,14 @@
 #include <QTest>
 #include <QTimer>
 
-#include "DesktopClock.h"
-#include "Doubles.h"
+#include "DeviceLineTest.h"
 #include "PortDirectory.h"
-#include "PortUser.h"
 #include "QtTcpChannel.h"
 
 namespace tracewell {
 
 /// A server of one line, and the port that is connected to it.
-class TcpLineTest : public testing::Test, public ChannelOpener {
+class TcpLineTest : public DeviceLineTest {
  protected:
   TcpLineTest() {
     EXPECT_TRUE(server.listen(QHostAddress::LocalHost));
@@ -53,12 +51,6 @@ class TcpLineTest : public testing::Test, public ChannelOpener {
   QByteArray greeting = "KRM bench 3, line 1\r\nbe gentle\r\n";
   QByteArray answer = "KRM-410\r\n";
   QByteArray heard;
-  DesktopClock clock;
-  Gate gate;
-  StandBy standBy{clock, gate};
-  RecordingDialogs dialogs{gate};
-  EventDispatcher dispatcher{gate, dialogs};
-  LinePort port{*this, clock, gate, dispatcher, standBy};
 };
 
 TEST_F(TcpLineTest, AnswersAreTheInstrumentsAndComeBackWithTheLine) {

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "DesktopClock.h"
+#include "Doubles.h"
+#include "PortUser.h"
+
+namespace tracewell {
+
+/// The port's rules in real time, on a real channel that the derived test opens.
+class DeviceLineTest : public testing::Test, public ChannelOpener {
+ protected:
+  DesktopClock clock;
+  Gate gate;
+  StandBy standBy{clock, gate};
+  RecordingDialogs dialogs{gate};
+  EventDispatcher dispatcher{gate, dialogs};
+  LinePort port{*this, clock, gate, dispatcher, standBy};
+};
+
+}  // namespace tracewell
