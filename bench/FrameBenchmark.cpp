@@ -76,8 +76,8 @@ void moveMouse(QWidget& widget, QEvent::Type type, const QPointF& place) {
 /// From a movement of the mouse that holds a control of the whole window to the pixels that follow
 /// it: a full sweep to and fro, a step at a time.
 void follow(benchmark::State& state, const char* name, const QList<QPointF>& sweep) {
-  DesktopProgram desktop(".");
-  desktop.start();
+  DesktopProgram desktop(QApplication::applicationDirPath().toStdString());
+  if (!desktop.start()) return state.SkipWithError("the program did not start");
   QApplication::processEvents();
   QWidget* widget = nullptr;
   for (QWidget* window : QApplication::topLevelWidgets())
