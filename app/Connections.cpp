@@ -117,8 +117,7 @@ void Tracewell::connectFiles() {
 /// What stands in the window in words of the panel's own.
 void Tracewell::sayAgain() {
   sayPortAgain(main);
-  showDifferingLink(main);
-  sayStaleScales(main);
+  main.status.tellAgain();
   showTraceAges(main);
   showFilesToKeep(main);
   errLog.showNewLines(main.NewLogLines);

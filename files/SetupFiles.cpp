@@ -7,7 +7,6 @@
 #include "Files.h"
 #include "KeptFiles.h"
 #include "Numbers.h"
-#include "StatusLine.h"
 
 namespace tracewell {
 namespace {
@@ -119,14 +118,20 @@ void SetupFiles::mnbLoadSetup_Click() {
   Services& services = main_.services();
   const std::filesystem::path path = services.dialogs.openFile(dialogDSO(services.programFolder));
   loadFile(path);
-  showStatus(main_, services.words.say("Setup loaded from %1", {pathText(path)}));
+  main_.status.tell(StatusLine::happened, [path, isWhole = isTakenWhole(path)](const Words& words) {
+    return isWhole ? words.say("Setup loaded from %1", {pathText(path)})
+                   : words.say("Not all of %1 could be read", {pathText(path)});
+  });
 }
 
 void SetupFiles::mnbSaveSetup_Click() {
   Services& services = main_.services();
   const std::filesystem::path path = services.dialogs.saveFile(dialogDSO(services.programFolder));
   WriteSetupFile(path);
-  if (!path.empty()) showStatus(main_, services.words.say("Setup saved to %1", {pathText(path)}));
+  if (path.empty()) return;
+  main_.status.tell(StatusLine::happened, [path](const Words& words) {
+    return words.say("Setup saved to %1", {pathText(path)});
+  });
 }
 
 }  // namespace tracewell

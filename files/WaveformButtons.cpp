@@ -3,7 +3,6 @@
 
 #include "Files.h"
 #include "Paused.h"
-#include "StatusLine.h"
 #include "TraceTable.h"
 #include "WaveformSetReader.h"
 
@@ -52,7 +51,10 @@ void WaveformButtons::loadCSV(const std::filesystem::path& path) {
   Plot& load1 = main_.graphDSO.plot(ScopeGraph::firstReference);
   load1.plotXvsY(main_.XIndex, points);
   load1.visible = true;
-  showStatus(main_, main_.services().words.say("Loaded %1", {pathText(path)}));
+  main_.status.tell(StatusLine::happened, [path, isEmpty = points.empty()](const Words& words) {
+    return isEmpty ? words.say("%1 has no data", {pathText(path)})
+                   : words.say("Loaded %1", {pathText(path)});
+  });
 }
 
 void WaveformButtons::graphDSO_Copied(Graph::Copied what) {
@@ -62,7 +64,7 @@ void WaveformButtons::graphDSO_Copied(Graph::Copied what) {
   const std::string table = isWithValues ? traceTable(main_) : "";
   if (table.empty() && !isWithPicture) return;
   services.clipboard.put(table, isWithPicture ? picture() : Image());
-  showStatus(main_, services.words.say("Copied"));
+  main_.status.tell(StatusLine::happened, [](const Words& words) { return words.say("Copied"); });
 }
 
 Image WaveformButtons::picture() const {
@@ -77,8 +79,10 @@ void WaveformButtons::cmdRemove_Click() {
 void WaveformButtons::cmdExportCSV_Click() {
   const std::filesystem::path path = "text.csv";
   writeWholeFile(path, main_.txtMsg.text());
-  showStatus(main_,
-             main_.services().words.say("Saved %1", {pathText(std::filesystem::absolute(path))}));
+  main_.status.tell(StatusLine::happened,
+                    [whole = std::filesystem::absolute(path)](const Words& words) {
+                      return words.say("Saved %1", {pathText(whole)});
+                    });
 }
 
 }  // namespace tracewell

@@ -5,7 +5,6 @@
 #include <array>
 
 #include "Files.h"
-#include "StatusLine.h"
 #include "WaveformSetReader.h"
 
 namespace tracewell {
@@ -142,7 +141,6 @@ void frmLoad::cmdOK_Click() {
     drawSet(
         readWaveforms(readWaveformFile(pathOf(basePath_ + "csv")), channel1Value_, channel2Value_));
     hide();
-    showStatus(main_, services().words.say("Loaded %1", {basePath_ + "csv"}));
   } catch (const Error&) {
     // Says nothing, and the window stays for another choice.
   }
@@ -152,16 +150,31 @@ void frmLoad::cmdOK_Click() {
 void frmLoad::drawSet(const LoadedWaveforms& set) {
   int number = ScopeGraph::firstReference;
   while (number <= ScopeGraph::plotCount && main_.graphDSO.plot(number).visible()) ++number;
-  if (number > ScopeGraph::plotCount) return;
+  std::size_t drawn = 0;
+  bool hasRoom = true;
   const auto draw = [&](const std::vector<double>& points) {
-    if (points.empty() || number > ScopeGraph::plotCount) return;
+    if (points.empty()) return;
+    hasRoom = number <= ScopeGraph::plotCount;
+    if (!hasRoom) return;
     Plot& plot = main_.graphDSO.plot(number);
     plot.plotXvsY(main_.XIndex, points);
     plot.visible = true;
     ++number;
+    ++drawn;
   };
   if (cb1.isChecked() && channel1Value_ != notSaved) draw(set.channel1);
   if (cb2.isChecked() && channel2Value_ != notSaved) draw(set.channel2);
+  sayWhatIsShown(drawn, hasRoom);
+}
+
+void frmLoad::sayWhatIsShown(std::size_t drawn, bool hasRoom) {
+  main_.status.tell(StatusLine::happened, [=, this, path = basePath_ + "csv"](const Words& words) {
+    if (!hasRoom)
+      return words.say("No room for all of %1: press %2 first",
+                       {path, main_.cmdRemove.caption()});
+    return drawn == 0 ? words.say("%1 has no record of what was chosen", {path})
+                      : words.say("Loaded %1", {path});
+  });
 }
 
 }  // namespace tracewell

@@ -39,6 +39,7 @@ class frmLoad : public Window {
   void fileCSV_Click();
   void cmdOK_Click();
   void drawSet(const LoadedWaveforms& set);
+  void sayWhatIsShown(std::size_t drawn, bool hasRoom);
 
   frmDSO& main_;
   std::filesystem::path folder_;

@@ -2,7 +2,6 @@
 #include "frmSave.h"
 
 #include "Files.h"
-#include "StatusLine.h"
 #include "WaveformSetWriter.h"
 
 namespace tracewell {
@@ -109,9 +108,10 @@ void frmSave::saveSet(const std::filesystem::path& path) {
     throw;
   }
   const auto nameOf = [](const std::string& text) { return pathText(pathOf(text).filename()); };
-  showStatus(main_, services().words.say("Saved %1, %2 and %3 in %4",
-                                         {pathText(path.filename()), nameOf(base + ".csv"),
-                                          nameOf(base + ".inf"), folderText(path)}));
+  main_.status.tell(StatusLine::happened, [=](const Words& words) {
+    return words.say("Saved %1, %2 and %3 in %4", {pathText(path.filename()), nameOf(base + ".csv"),
+                                                   nameOf(base + ".inf"), folderText(path)});
+  });
 }
 
 }  // namespace tracewell

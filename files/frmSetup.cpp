@@ -2,7 +2,6 @@
 #include "frmSetup.h"
 
 #include "Files.h"
-#include "StatusLine.h"
 
 namespace tracewell {
 namespace {
@@ -60,7 +59,8 @@ void frmSetup::cmdSave_Click() {
       {services().programFolder, "Save Setup Report file", "default.sir", "*.sir|*.sir"});
   if (path.empty()) return;
   writeWholeFile(path, txtSetup.text());
-  showStatus(main_, services().words.say("Saved %1", {pathText(path)}));
+  main_.status.tell(StatusLine::happened,
+                    [path](const Words& words) { return words.say("Saved %1", {pathText(path)}); });
 }
 
 }  // namespace tracewell

@@ -2,7 +2,6 @@
 #include "Connect.h"
 
 #include "ConnectionIndicator.h"
-#include "StatusLine.h"
 #include "Waiting.h"
 #include "WaitingNotice.h"
 
@@ -19,9 +18,9 @@ void Connect::cmdStart_Click() {
 void Connect::startOrStop() {
   if (!main_.Initialised && !connectFirst()) return;
   if (!main_.LinkOK) {
-    main_.LinkHint = main_.services().words.say("The last question had no answer: press %1",
-                                                {main_.cmdRS232.caption()});
-    showStatus(main_, main_.LinkHint);
+    main_.status.tell(StatusLine::linkLost, [this](const Words& words) {
+      return words.say("The last question had no answer: press %1", {main_.cmdRS232.caption()});
+    });
     return;
   }
   main_.tmDSO.enabled = !main_.tmDSO.enabled();

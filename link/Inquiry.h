@@ -26,14 +26,12 @@ class Inquiries {
   frmDSO& main_;
   Inquiry* current_ = nullptr;
   std::string failure_;
-  /// What the last one that missed something left in the status line.
-  std::string complaint_;
-  bool isComplaintOfOne_ = false;
 };
 
 /// A series of questions to the instrument, as long as it lives. The status line counts them while
 /// they are put, and says at the end how many had no answer; Escape ends the waits that are left.
 /// What it says goes with the next series of questions; what a single question left, with the next.
+/// What the user has had done before it is no longer said.
 class Inquiry {
  public:
   enum class Of { oneQuestion, questions, settings };
@@ -53,13 +51,13 @@ class Inquiry {
   bool isGivenUp() const { return waits_.isGivenUp(); }
 
  private:
-  void forgetComplaint();
-  void show(const std::string& text);
+  void withdrawEarlier();
   void finishItem();
-  std::string progress() const;
-  /// What had no answer, and why, where that is known.
-  std::string complaint() const;
-  std::string missed() const;
+  void showProgress();
+  void showMissed();
+  std::string progress(const Words& words) const;
+  /// What had no answer.
+  StatusLine::Sentence missed() const;
 
   Inquiries& all_;
   frmDSO& main_;
@@ -71,9 +69,6 @@ class Inquiry {
   int missing_ = 0;
   bool isMissing_ = false;
   Inquiry* outer_;
-  std::string statusBefore_;
-  /// What this one has written into the status line last.
-  std::string shown_;
 };
 
 }  // namespace tracewell

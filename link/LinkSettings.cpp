@@ -1,11 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "LinkSettings.h"
 
-#include <utility>
-
 #include "Numbers.h"
 #include "PortNotice.h"
-#include "StatusLine.h"
 
 namespace tracewell {
 namespace {
@@ -20,9 +17,8 @@ std::string lineText(const Words& words, const LineSettings& settings) {
 }
 
 /// Empty where the table and the port agree.
-std::string differingLink(const frmDSO& main) {
+std::string differingLink(const Words& words, const frmDSO& main) {
   const LineSettings& settings = main.services().port.settings;
-  const Words& words = main.services().words;
   const std::string inUse = lineText(words, settings);
   try {
     const LineSettings wanted = linkSettings(main.gridMeasure);
@@ -71,11 +67,8 @@ void applyLinkSettings(frmDSO& main) {
 }
 
 void showDifferingLink(frmDSO& main) {
-  const std::string before = std::exchange(main.LinkNotice, differingLink(main));
-  if (!main.LinkNotice.empty())
-    showStatus(main, main.LinkNotice);
-  else if (main.lblStatus.caption() == before)
-    showStatus(main, "");
+  main.status.tell(StatusLine::otherLineSettings,
+                   [&main](const Words& words) { return differingLink(words, main); });
 }
 
 }  // namespace tracewell

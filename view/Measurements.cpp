@@ -5,7 +5,6 @@
 
 #include "ConnectionIndicator.h"
 #include "Numbers.h"
-#include "StatusLine.h"
 #include "Waiting.h"
 
 namespace tracewell {
@@ -191,7 +190,7 @@ void Measurements::fmMeasure_Copied() {
       table += rowOf(label.caption()) + "\n";
   if (table.empty()) return;
   main_.services().clipboard.put(table, Image());
-  showStatus(main_, main_.services().words.say("Copied"));
+  main_.status.tell(StatusLine::happened, [](const Words& words) { return words.say("Copied"); });
 }
 
 }  // namespace tracewell

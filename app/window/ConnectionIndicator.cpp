@@ -24,6 +24,7 @@ void showRunning(frmDSO& main) {
   main.spConnect.fillColour = green;
   showConnection(main, 7);
   showOnStart(main, 2);
+  main.status.withdraw(StatusLine::stoppedByError);
 }
 
 void showStopped(frmDSO& main) {

@@ -107,12 +107,6 @@ struct SharedState {
   /// Lines that the error log has got since it was last open.
   int NewLogLines = 0;
 
-  /// Why the start button does nothing, as the status line says it until a question is answered.
-  std::string LinkHint;
-
-  /// What the status line says of line settings that are not in use.
-  std::string LinkNotice;
-
   /// Whole paths, in the order in which they were noted. Kept through app/window/KeptFiles.h.
   std::vector<std::filesystem::path> FilesToKeep;
 

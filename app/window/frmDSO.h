@@ -7,6 +7,7 @@
 #include "Dials.h"
 #include "ScopeGraph.h"
 #include "SharedState.h"
+#include "StatusLine.h"
 #include "Timer.h"
 
 namespace tracewell {
@@ -125,8 +126,8 @@ class frmDSO : public Window, public SharedState {
   Button cmdExportCSV{*this, "cmdExportCSV", "Export CSV"};
   Button cmdClose{*this, "cmdClose", "Close"};
 
-  /// Written through app/window/StatusLine.h.
   ValueLabel lblStatus{*this, "lblStatus", ""};
+  StatusLine status{lblStatus, services().words};
   /// How old the traces are.
   ValueLabel lblAge{*this, "lblAge", ""};
   /// Opens the error log.

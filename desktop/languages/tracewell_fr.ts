@@ -12,6 +12,14 @@
         <translation>%1 n'a pas pu être lu en entier et sera conservé sous %2</translation>
     </message>
     <message>
+        <source>%1 has no data</source>
+        <translation>%1 ne contient aucune donnée</translation>
+    </message>
+    <message>
+        <source>%1 has no record of what was chosen</source>
+        <translation>%1 ne contient aucune courbe des voies choisies</translation>
+    </message>
+    <message>
         <source>%1: %2 of %3 settings not confirmed</source>
         <translation>%1 : %2 réglages sur %3 non confirmés</translation>
     </message>
@@ -656,6 +664,10 @@
         <translation>Pas de réponse à %1</translation>
     </message>
     <message>
+        <source>No room for all of %1: press %2 first</source>
+        <translation>Pas assez de place pour %1 : appuyez d’abord sur %2</translation>
+    </message>
+    <message>
         <source>Noise Reject</source>
         <translation>Réjection du bruit</translation>
     </message>
@@ -666,6 +678,10 @@
     <message>
         <source>None of channel 2</source>
         <translation>Aucune de la voie 2</translation>
+    </message>
+    <message>
+        <source>Not all of %1 could be read</source>
+        <translation>%1 n’a pas pu être lu en entier</translation>
     </message>
     <message>
         <source>Not present: %1</source>

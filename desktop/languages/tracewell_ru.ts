@@ -12,6 +12,14 @@
         <translation>%1 прочитан не полностью и будет сохранён как %2</translation>
     </message>
     <message>
+        <source>%1 has no data</source>
+        <translation>В %1 нет данных</translation>
+    </message>
+    <message>
+        <source>%1 has no record of what was chosen</source>
+        <translation>В %1 нет записи выбранных каналов</translation>
+    </message>
+    <message>
         <source>%1: %2 of %3 settings not confirmed</source>
         <translation>%1: не подтверждено настроек: %2 из %3</translation>
     </message>
@@ -656,6 +664,10 @@
         <translation>Нет ответа на %1</translation>
     </message>
     <message>
+        <source>No room for all of %1: press %2 first</source>
+        <translation>Для %1 не хватает места: сначала нажмите «%2»</translation>
+    </message>
+    <message>
         <source>Noise Reject</source>
         <translation>Подавление шума</translation>
     </message>
@@ -666,6 +678,10 @@
     <message>
         <source>None of channel 2</source>
         <translation>Ничего для канала 2</translation>
+    </message>
+    <message>
+        <source>Not all of %1 could be read</source>
+        <translation>%1 удалось прочитать не полностью</translation>
     </message>
     <message>
         <source>Not present: %1</source>

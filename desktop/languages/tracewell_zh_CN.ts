@@ -12,6 +12,14 @@
         <translation>%1 未能完整读取，将保留为 %2</translation>
     </message>
     <message>
+        <source>%1 has no data</source>
+        <translation>%1 中没有数据</translation>
+    </message>
+    <message>
+        <source>%1 has no record of what was chosen</source>
+        <translation>%1 中没有所选通道的波形</translation>
+    </message>
+    <message>
         <source>%1: %2 of %3 settings not confirmed</source>
         <translation>%1：%3 项设置中有 %2 项未确认</translation>
     </message>
@@ -656,6 +664,10 @@
         <translation>%1 无应答</translation>
     </message>
     <message>
+        <source>No room for all of %1: press %2 first</source>
+        <translation>%1 无法全部显示：请先按“%2”</translation>
+    </message>
+    <message>
         <source>Noise Reject</source>
         <translation>噪声抑制</translation>
     </message>
@@ -666,6 +678,10 @@
     <message>
         <source>None of channel 2</source>
         <translation>通道 2 全不选</translation>
+    </message>
+    <message>
+        <source>Not all of %1 could be read</source>
+        <translation>未能读取 %1 的全部内容</translation>
     </message>
     <message>
         <source>Not present: %1</source>

@@ -12,6 +12,14 @@
         <translation>%1 讀唔晒，會保留做 %2</translation>
     </message>
     <message>
+        <source>%1 has no data</source>
+        <translation>%1 中沒有數據</translation>
+    </message>
+    <message>
+        <source>%1 has no record of what was chosen</source>
+        <translation>%1 中沒有所選通道的波形</translation>
+    </message>
+    <message>
         <source>%1: %2 of %3 settings not confirmed</source>
         <translation>%1：%3 項設定有 %2 項未確認</translation>
     </message>
@@ -656,6 +664,10 @@
         <translation>%1 冇回應</translation>
     </message>
     <message>
+        <source>No room for all of %1: press %2 first</source>
+        <translation>%1 無法全部顯示：請先按「%2」</translation>
+    </message>
+    <message>
         <source>Noise Reject</source>
         <translation>噪音抑制</translation>
     </message>
@@ -666,6 +678,10 @@
     <message>
         <source>None of channel 2</source>
         <translation>通道 2 全部唔選</translation>
+    </message>
+    <message>
+        <source>Not all of %1 could be read</source>
+        <translation>未能讀取 %1 的全部內容</translation>
     </message>
     <message>
         <source>Not present: %1</source>

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ErrorLog.h"
 
-#include "StatusLine.h"
-
 namespace tracewell {
 
 void ErrorLog::ErrLog(const Error& error, const std::string& tag) {
   if (main_.tmDSO.enabled())
-    showStatus(main_, main_.services().words.say("The acquisition has stopped: %1",
-                                                 {error.description()}));
+    main_.status.tell(StatusLine::stoppedByError,
+                      [reason = error.description()](const Words& words) {
+                        return words.say("The acquisition has stopped: %1", {reason});
+                      });
   main_.tmDSO.enabled = false;
   window_.load();
   const std::string line = main_.services().clock.dateAndTime() + "  " + error.source() + " - " +

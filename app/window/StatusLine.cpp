@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "StatusLine.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tracewell {
+
+void StatusLine::tell(Topic topic, Sentence sentence) {
+  remove(topic);
+  told_.insert(told_.begin(), {topic, std::move(sentence)});
+  tellAgain();
+}
+
+void StatusLine::tellToo(Topic topic, Sentence sentence) {
+  const auto last = std::find_if(told_.rbegin(), told_.rend(),
+                                 [topic](const Told& told) { return told.topic == topic; });
+  told_.insert(last == told_.rend() ? told_.begin() : last.base(), {topic, std::move(sentence)});
+  tellAgain();
+}
+
+void StatusLine::withdraw(Topic topic) {
+  remove(topic);
+  tellAgain();
+}
+
+void StatusLine::remove(Topic topic) {
+  std::erase_if(told_, [topic](const Told& told) { return told.topic == topic; });
+}
+
+void StatusLine::tellAgain() {
+  const auto isProgress = [](const Told& told) { return told.topic == progress; };
+  const bool isAsking = std::any_of(told_.begin(), told_.end(), isProgress);
+  std::string line;
+  for (const Told& told : told_) {
+    if (isAsking && !isProgress(told)) continue;
+    const std::string said = told.sentence(words_);
+    line += (line.empty() || said.empty() ? "" : "; ") + said;
+  }
+  label_.caption = line;
+}
+
+}  // namespace tracewell
