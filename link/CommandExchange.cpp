@@ -67,6 +67,7 @@ std::string CommandExchange::exchange(const std::string& command) {
   std::string reply = isQuery(command) ? replyValue(port.read()) : "";
   port.reset();
   main_.InRemote = true;
+  main_.cmdLock.value = true;
   main_.LinkOK = true;
   return reply;
 }

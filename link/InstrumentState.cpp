@@ -93,15 +93,16 @@ void InstrumentState::showScaleOnly(ScaleKnob kind, ValueLabel& label, Knob& kno
   }
 }
 
-/// Until each has its answer. Delay and trigger level are not asked for: they are known where they
-/// have been set here, on this line.
+/// Until each has its answer. Delay, trigger level and math are not asked for: they are known where
+/// they have been set here, on this line.
 void InstrumentState::markAllUnread() {
   for (Control* control : std::initializer_list<Control*>{
            &main_.lblChan1, &main_.lblChan2, &main_.lblTime, &main_.knobChan1, &main_.knobChan2,
            &main_.knobTime, &main_.slideCH1, &main_.slideCH2})
     control->isUnread = true;
   if (!main_.TriggerLevelSet) main_.slideTrig.isUnread = true;
-  if (!main_.scaleOrigin || main_.lblTime.isStale()) main_.slideTime.isUnread = true;
+  if (!main_.MathEntry) main_.cbMath.isUnread = true;
+  if (!main_.scaleOrigin) main_.slideTime.isUnread = true;
   main_.graphDSO.notifyChanged();
 }
 
@@ -122,7 +123,7 @@ double InstrumentState::readPosition(const std::string& query, const ValueLabel&
   const double voltsPerDivision = ParseScaleCaption(scale.caption());
   const std::string reply = positionReply(query);
   const double divisions = divide(ParseScaleCaption(reply), voltsPerDivision);
-  slide.isUnread = captionNumber(reply).find_first_of("0123456789") == std::string::npos;
+  slide.isUnread = !beginsWithNumber(captionNumber(reply));
   return divisions;
 }
 
@@ -135,16 +136,16 @@ void InstrumentState::showPosition(Slide& slide, double divisions) {
 void InstrumentState::readChannel1Position() {
   if (isNull(main_.lblChan1)) return;
   main_.Ch1Pos = readPosition("CHAN1:OFFS?", main_.lblChan1, main_.slideCH1);
-  main_.Ch1PosCounts = toInt16(main_.Ch1Pos * Graph::unitsPerDivision);
   showPosition(main_.slideCH1, main_.Ch1Pos);
+  main_.Ch1PosCounts = toInt16(main_.Ch1Pos * Graph::unitsPerDivision);
 }
 
 /// Channel 2 keeps whole divisions, unlike channel 1.
 void InstrumentState::readChannel2Position() {
   if (isNull(main_.lblChan2)) return;
   main_.Ch2Pos = toInt16(readPosition("CHAN2:OFFS?", main_.lblChan2, main_.slideCH2));
-  main_.Ch2PosCounts = mulInt16(main_.Ch2Pos, Graph::unitsPerDivision);
   showPosition(main_.slideCH2, main_.Ch2Pos);
+  main_.Ch2PosCounts = mulInt16(main_.Ch2Pos, Graph::unitsPerDivision);
 }
 
 }  // namespace tracewell

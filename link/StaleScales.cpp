@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "StaleScales.h"
 
-#include "StatusLine.h"
 #include "TriggerMarker.h"
 
 namespace tracewell {
@@ -12,19 +11,11 @@ SharedState::ScaleOrigin presentOrigin(const frmDSO& main) {
   return {port.settings.portNumber, port.openings()};
 }
 
-std::string hint(const frmDSO& main) {
-  return main.services().words.say(
-      "The scales may be those of another instrument: press %1 to read them",
-      {main.cmdRS232.caption()});
-}
-
-/// Also where a complaint has been put behind it.
-void withdraw(frmDSO& main, const std::string& said) {
-  std::string status = main.lblStatus.caption();
-  if (!status.starts_with(said)) return;
-  status.erase(0, said.size());
-  if (status.starts_with("; ")) status.erase(0, 2);
-  showStatus(main, status);
+void tellHint(frmDSO& main) {
+  main.status.tell(StatusLine::staleScales, [&main](const Words& words) {
+    return words.say("The scales may be those of another instrument: press %1 to read them",
+                     {main.cmdRS232.caption()});
+  });
 }
 
 }  // namespace
@@ -33,9 +24,13 @@ bool areScalesStale(const frmDSO& main) {
   return main.scaleOrigin && *main.scaleOrigin != presentOrigin(main);
 }
 
-/// Traces of the instrument before do not stand on the scales of this one.
+/// Traces of the instrument before do not stand on the scales of this one, and what this one is not
+/// asked for was set on the other.
 void noteScalesRead(frmDSO& main) {
-  if (areScalesStale(main)) main.RecordTime = {};
+  if (areScalesStale(main)) {
+    main.RecordTime = {};
+    ForgetUnaskedSettings(main);
+  }
   main.scaleOrigin = presentOrigin(main);
   showStaleScales(main);
 }
@@ -48,16 +43,12 @@ void showStaleScales(frmDSO& main) {
            &main.knobTime, &main.slideCH1, &main.slideCH2})
     control->isStale = isStale;
   if (!isStale) {
-    withdraw(main, hint(main));
+    main.status.withdraw(StatusLine::staleScales);
   } else if (!wasStale) {
     // These stay so until they are measured anew.
     for (ValueLabel& result : main.lblMeasure) result.isStale = !result.caption().empty();
-    sayStaleScales(main);
+    tellHint(main);
   }
-}
-
-void sayStaleScales(frmDSO& main) {
-  if (main.lblChan1.isStale()) showStatus(main, hint(main));
 }
 
 }  // namespace tracewell

@@ -16,7 +16,4 @@ bool areScalesStale(const frmDSO& main);
 /// Shows them pale, and says how they are read, as long as they may be another instrument's.
 void showStaleScales(frmDSO& main);
 
-/// Says it again, in the language in force, as long as they are pale.
-void sayStaleScales(frmDSO& main);
-
 }  // namespace tracewell

@@ -21,7 +21,7 @@ void Autoset::cmdAutoset_Click() {
     message_.show();
     acquisition_.StopAcq();
     exchange_.SendDSOCmd(":AUT");
-    if (exchange_.wasSent()) ForgetTriggerAndMath(main_);
+    if (exchange_.wasSent()) ForgetUnaskedSettings(main_);
     message_.showProgress(duration);
     Delay(main_, duration);
     instrument_.InitDSO();

@@ -17,6 +17,7 @@ void ChannelMath::cbMath_Click() {
   if (entry == ComboBox::noEntry) return;
   exchange_.SendDSOCmd(commands.at(static_cast<unsigned>(entry)));
   if (exchange_.wasSent()) main_.MathEntry = entry;
+  main_.cbMath.isUnread = main_.MathEntry != entry;
   main_.graphDSO.notifyChanged();
 }
 

@@ -13,7 +13,9 @@ void ScaleKnobs::knobChan2_ValueChanged() {
   sendScale(ScaleKnob::Chan2, main_.knobChan2, main_.lblChan2);
 }
 
+/// A delay keeps its seconds, not its divisions.
 void ScaleKnobs::knobTime_ValueChanged() {
+  if (main_.slideTime.value() != 0) main_.slideTime.isUnread = true;
   sendScale(ScaleKnob::Time, main_.knobTime, main_.lblTime);
 }
 

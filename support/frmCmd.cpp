@@ -10,7 +10,7 @@ namespace tracewell {
 namespace {
 
 /// A query passes as it is; of a command's parameter only a whole number that is not negative. A
-/// line end in it, which only a file can have brought, would hide a second command.
+/// line end in it would hide a second command.
 bool isInRange(const std::string& command) {
   if (command.find_first_of("\r\n") != std::string::npos) return false;
   const std::size_t blank = command.find(' ');
@@ -18,6 +18,11 @@ bool isInRange(const std::string& command) {
   const std::string parameter = command.substr(blank + 1);
   return isNumeric(parameter) && !parameter.starts_with('-') &&
          parameter.find('.') == std::string::npos;
+}
+
+/// A command that was copied whole from elsewhere brings its line end.
+std::string withoutLineEnd(const std::string& text) {
+  return text.substr(0, text.find_last_not_of("\r\n") + 1);
 }
 
 }  // namespace
@@ -84,7 +89,7 @@ void frmCmd::cmdRun_Click() {
 }
 
 void frmCmd::RunConsoleCommand() {
-  const std::string command = txtCmd.text();
+  const std::string command = withoutLineEnd(txtCmd.text());
   if (!isInRange(command)) {
     txtCmd.text = command.substr(0, command.find(' '));
     services().dialogs.showMessage("Out of range");

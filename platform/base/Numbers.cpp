@@ -104,6 +104,11 @@ double atFifteenDigits(double value) {
   return rounded;
 }
 
+std::string_view numberAtStart(std::string_view text) {
+  text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
+  return text.substr(0, decimalLength(text));
+}
+
 }  // namespace
 
 std::int16_t toInt16(double value) {
@@ -158,9 +163,12 @@ double toDouble(std::string_view text) {
 }
 
 double leadingNumber(std::string_view text) {
-  text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
-  const std::size_t length = decimalLength(text);
-  return length == 0 ? 0 : readNumber(text.substr(0, length));
+  const std::string_view number = numberAtStart(text);
+  return number.empty() ? 0 : readNumber(number);
+}
+
+bool beginsWithNumber(std::string_view text) {
+  return !numberAtStart(text).empty();
 }
 
 std::string formatExponent(double value) {

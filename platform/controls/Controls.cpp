@@ -34,7 +34,7 @@ void ValueButton::press() {
 }
 
 void Switch::press() {
-  userDoes([this] { value = !value(); });
+  notifyChanged();
 }
 
 void MenuEntry::choose() {

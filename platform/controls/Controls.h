@@ -58,11 +58,12 @@ class ValueButton : public Control {
   void press();
 };
 
-/// A button that stays in: shows a state and has no event of its own.
+/// A button that shows a state, in or out. A press leaves it as it is.
 class Switch : public CaptionedControl {
  public:
   using CaptionedControl::CaptionedControl;
   Property<bool> value{*this};
+  /// Shows the state again: the widget has gone in or out by itself.
   void press();
 };
 

@@ -33,10 +33,13 @@ void UpdateTriggerMarker(frmDSO& main) {
   main.graphDSO.notifyChanged();
 }
 
-void ForgetTriggerAndMath(frmDSO& main) {
+void ForgetUnaskedSettings(frmDSO& main) {
   main.TriggerLevelSet = false;
   main.TriggerSource.reset();
   main.MathEntry.reset();
+  main.slideTrig.isUnread = true;
+  main.slideTime.isUnread = true;
+  main.cbMath.isUnread = true;
   UpdateTriggerMarker(main);
 }
 

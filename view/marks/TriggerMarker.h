@@ -12,6 +12,6 @@ namespace tracewell {
 void UpdateTriggerMarker(frmDSO& main);
 
 /// After autoset, and with another instrument: reading an instrument does not ask for them.
-void ForgetTriggerAndMath(frmDSO& main);
+void ForgetUnaskedSettings(frmDSO& main);
 
 }  // namespace tracewell
