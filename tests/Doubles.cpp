@@ -76,6 +76,7 @@ void ScriptedPort::write(std::string_view bytes, Expects expects) {
 }
 
 std::string ScriptedPort::read() {
+  EXPECT_TRUE(textMode);
   std::deque<std::string>& lines = replies[lastCommand_];
   if (lines.empty()) throw Error(portReadTimeOut, "RS232", "silence");
   std::string line = lines.front();

@@ -80,6 +80,20 @@ class RecordingClipboard : public Clipboard {
   void put(const std::string& text, const Image& picture) override { told.raise(text, picture); }
 };
 
+/// Says in which language it speaks, unless that is English.
+class NumberedWords : public Words {
+ public:
+  void use(int language) override { language_ = language; }
+
+ protected:
+  std::string translated(const char* english) const override {
+    return language_ == 1 ? english : "(" + std::to_string(language_) + ") " + english;
+  }
+
+ private:
+  int language_ = 1;
+};
+
 class RecordingPrinter : public Printer {
  public:
   Lines printed;
@@ -214,7 +228,7 @@ struct BenchOf : Port {
   RecordingPictures pictures;
   RecordingPrinter printer;
   RecordingClipboard clipboard;
-  Words words;
+  NumberedWords words;
   Services services{this->clock, this->dialogs, this->gate,   this->dispatcher, this->standBy,
                     this->port,  list,          windows,      pictures,         printer,
                     clipboard,   words,         folder.path()};

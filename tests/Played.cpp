@@ -179,6 +179,8 @@ std::map<std::string, std::string> Played::shownBy(Window& window) {
   for (Control* control : window.controls()) {
     std::string text = textOf(*control);
     replaceAll(text, pathText(folder.path()), "FOLDER");
+    if (control->objectName() == "driveCSV" && text.ends_with(pathText(folder.path().root_path())))
+      text = "ROOT";
     if (as<TextBox>(*control) || as<PictureBox>(*control)) text = shortened(text);
     shown[control->objectName()] = text + (control->visible() ? "" : " hidden") +
                                    (control->enabled() ? "" : " disabled") +
@@ -187,9 +189,8 @@ std::map<std::string, std::string> Played::shownBy(Window& window) {
   }
   if (!isTruthTold_)
     for (const char* name : {"lblAge", "cmdNewErrors"}) shown.erase(name);
-  // Where it is depends on the machine.
-  for (const char* name : {"driveCSV", "lblPath"}) shown.erase(name);
   if (&window != &main) return shown;
+  shown["ChanCount"] = std::to_string(main.ChanCount);
   showParts(main.graphDSO, shown);
   if (isTruthTold_) {
     shown["marks"] = textOf(main.graphDSO.marks());
@@ -257,6 +258,12 @@ void Played::step(Window& window, const std::string& text) {
                 (program.message.isVisible() ? newIn(program.message) : ""));
   for (Control* control : window.controls())
     if (control->objectName() == name) return use(*control, value);
+  if (name == "hidden") {
+    std::string names;
+    for (const Control* control : window.controls())
+      if (!control->visible()) names += " " + control->objectName();
+    return note(name + names);
+  }
   if (!setUp(name, value)) ADD_FAILURE() << "no such step in " << window.name() << ": " << text;
 }
 
@@ -285,6 +292,7 @@ std::map<std::string, std::function<void()>> Played::stepsWith(const std::string
               later] { clock.callAfter(number(), [this, text = later()] { step(main, text); }); }},
       {"record1", [this, number] { main.Ch1Raw = level(number()); }},
       {"record2", [this, number] { main.Ch2Raw = level(number()); }},
+      {"in use", [this] { list.stateOf33 = PortList::State::inUseElsewhere; }},
       {"opened", [this, number] { port.timesOpened = number(); }},
       {"truth",
        [this] {
@@ -341,7 +349,7 @@ void Played::connect() {
 void Played::useGraph(Graph& graph, const std::string& value) {
   using enum Graph::Copied;
   if (value.empty()) return graph.toggleEnlarged();
-  if (value.ends_with(".csv")) return static_cast<void>(graph.drop(folder.path() / value));
+  if (value.ends_with(".csv")) return note(graph.drop(folder.path() / value) ? "taken" : "left");
   graph.copy(value == "values" ? values : value == "picture" ? picture : pictureAndValues);
 }
 

@@ -13,7 +13,7 @@ TEST_F(ConnectTest, SetupOfTheProgramHoldsFromItsStartOn) {
   Tracewell restarted(services);
   restarted.start();
   EXPECT_EQ(port.settings, (LineSettings{33, 4800, 7, 2, 3}));
-  EXPECT_EQ(restarted.main.lblPort.caption(), "port 33 - ttyUSB0");
+  EXPECT_EQ(restarted.main.lblPort.caption(), "(3) port 33 - ttyUSB0");
   EXPECT_EQ(restarted.main.mnbFile.caption(), "Fichier");
   EXPECT_NE(restarted.main.Msg[1], main.Msg[1]);
   EXPECT_EQ(restarted.main.lblConnect.caption(), restarted.main.Msg[1]);
