@@ -5,11 +5,9 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QEvent>
 #include <QGraphicsOpacityEffect>
 #include <QGroupBox>
 #include <QIcon>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -27,6 +25,7 @@
 #include "CopyGestures.h"
 #include "Dials.h"
 #include "ElidedLabel.h"
+#include "Gestures.h"
 #include "Graph.h"
 #include "GraphView.h"
 #include "KnobWidget.h"
@@ -56,10 +55,7 @@ Object* findObject(const Control& control, QWidget& form) {
 /// Without an effect where nothing is pale: an effect costs a picture of its own at each painting.
 void showPale(QWidget& widget, bool isPale) {
   if (isPale == (widget.graphicsEffect() != nullptr)) return;
-  if (!isPale) {
-    widget.setGraphicsEffect(nullptr);
-    return;
-  }
+  if (!isPale) return widget.setGraphicsEffect(nullptr);
   auto* effect = new QGraphicsOpacityEffect(&widget);
   effect->setOpacity(0.45);
   widget.setGraphicsEffect(effect);
@@ -81,76 +77,6 @@ void showWith(Control& control, Object* object, Show show) {
     }
   };
   control.changed();
-}
-
-/// Shows every event of the watched object to `action` first, which says whether it has used it up.
-class EventWatch : public QObject {
- public:
-  using Action = std::function<bool(QEvent&)>;
-  EventWatch(QObject* watched, Action action) : QObject(watched), action_(std::move(action)) {
-    watched->installEventFilter(this);
-  }
-  bool eventFilter(QObject*, QEvent* event) override { return action_(*event); }
-
- private:
-  Action action_;
-};
-
-void onDoubleClick(QObject* watched, const std::function<void()>& action) {
-  new EventWatch(watched, [action](const QEvent& event) {
-    const bool isDoubleClick = event.type() == QEvent::MouseButtonDblClick;
-    if (isDoubleClick) action();
-    return isDoubleClick;
-  });
-}
-
-/// For Enter, which a dialog would otherwise take for its default button.
-void onEnter(QObject* watched, const std::function<void()>& action) {
-  new EventWatch(watched, [action](const QEvent& event) {
-    if (event.type() != QEvent::KeyPress) return false;
-    const int key = static_cast<const QKeyEvent&>(event).key();
-    const bool isEnter = key == Qt::Key_Return || key == Qt::Key_Enter;
-    if (isEnter) action();
-    return isEnter;
-  });
-}
-
-/// Enter on a text that is not taken yet takes it and does no more: what it opens is to be seen
-/// before the dialog is closed.
-void takeOnEnter(QComboBox& box, const ComboBox& control) {
-  new EventWatch(box.lineEdit(), [&box, &control](const QEvent& event) {
-    if (event.type() != QEvent::KeyPress) return false;
-    const int key = static_cast<const QKeyEvent&>(event).key();
-    const bool isEnter = key == Qt::Key_Return || key == Qt::Key_Enter;
-    if (!isEnter || box.currentText() == shownText(control.text(), roomOfEditor)) return false;
-    emit box.lineEdit()->editingFinished();
-    return true;
-  });
-}
-
-/// In an empty line there is nothing to select, and the key is the menu's.
-void giveUpSelectAll(QLineEdit& line) {
-  new EventWatch(&line, [&line](QEvent& event) {
-    const bool isOurs = event.type() == QEvent::ShortcutOverride && line.text().isEmpty() &&
-                        static_cast<QKeyEvent&>(event).matches(QKeySequence::SelectAll);
-    if (isOurs) event.ignore();
-    return isOurs;
-  });
-}
-
-/// When the user has pressed a key in a list, which moves through it. Focus alone, which also gives
-/// a list its current entry, is no choice, and neither is the release of a key that was pressed
-/// elsewhere.
-void onMoveByKey(QObject* list, const std::function<void()>& action) {
-  new EventWatch(list, [action, isPressed = false](const QEvent& event) mutable {
-    if (event.type() == QEvent::KeyPress && !static_cast<const QKeyEvent&>(event).isAutoRepeat())
-      isPressed = true;
-    else if (event.type() == QEvent::FocusOut)
-      isPressed = false;
-    else if (event.type() == QEvent::KeyRelease && std::exchange(isPressed, false))
-      action();
-    return false;
-  });
 }
 
 /// What a label on one line may take up before it would push its window off a small screen. Pixels.
