@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "CommandLine.h"
 
+#include "TypedCommand.h"
 #include "Waiting.h"
 
 namespace tracewell {
@@ -14,11 +15,13 @@ void CommandLine::cmdTest_Click() {
 }
 
 void CommandLine::send() {
-  if (main_.txtTest.text().empty()) return;
+  const std::string command = main_.txtTest.text();
+  if (command.empty()) return;
   try {
     main_.txtMsg.text = "";
     const ShortTimeOut shortTimeOut(main_);
-    main_.txtMsg.text = exchange_.SendDSOCmd(main_.txtTest.text());
+    main_.txtMsg.text = exchange_.SendDSOCmd(command);
+    if (exchange_.wasSent()) noteTypedCommand(main_, command);
   } catch (const Error& error) {
     errorLog_.ErrLog(error, error.source());
   }
