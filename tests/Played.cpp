@@ -292,7 +292,11 @@ std::map<std::string, std::function<void()>> Played::stepsWith(const std::string
               later] { clock.callAfter(number(), [this, text = later()] { step(main, text); }); }},
       {"record1", [this, number] { main.Ch1Raw = level(number()); }},
       {"record2", [this, number] { main.Ch2Raw = level(number()); }},
-      {"in use", [this] { list.stateOf33 = PortList::State::inUseElsewhere; }},
+      {"port33",
+       [this, &value] {
+         list.stateOf33 =
+             value == "used" ? PortList::State::inUseElsewhere : PortList::State::absent;
+       }},
       {"opened", [this, number] { port.timesOpened = number(); }},
       {"truth",
        [this] {

@@ -5,7 +5,6 @@ namespace tracewell {
 
 frmDSO::frmDSO(Services& services) : Window("frmDSO", "Tracewell", services) {
   lblTest.visible = false;
-  lblNotice.visible = false;
   cmdNewErrors.visible = false;
   opOff.value.setQuietly(true);
   cbCurChan.listIndex.setQuietly(0);
