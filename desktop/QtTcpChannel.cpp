@@ -3,6 +3,9 @@
 
 #include <QHostInfo>
 #include <QThread>
+#include <atomic>
+#include <memory>
+#include <thread>
 
 #include "Error.h"
 #include "QtValues.h"
@@ -16,6 +19,22 @@ constexpr int interval = 10;
 /// A server that greets does so at once: it is heard after as long as it took to answer, and so
 /// much more. Milliseconds.
 constexpr int greeting = 100;
+
+struct LookUp {
+  QHostInfo found;
+  std::atomic<bool> isOver = false;
+};
+
+/// The system's own look-up has no end of its own where the name server is away. Nobody waits for
+/// its thread, not even the end of the program, as it would for one of the toolkit's.
+std::shared_ptr<const LookUp> beginLookUp(const QString& host) {
+  const auto lookUp = std::make_shared<LookUp>();
+  std::thread([lookUp, host] {
+    lookUp->found = QHostInfo::fromName(host);
+    lookUp->isOver = true;
+  }).detach();
+  return lookUp;
+}
 
 }  // namespace
 
@@ -40,23 +59,16 @@ QtTcpChannel::QtTcpChannel(const ServerAddress& address, StandBy& standBy, QTcpS
       standBy_(standBy),
       socket_(*socket) {}
 
-/// The system's own look-up has no end of its own where the name server is away.
 QList<QHostAddress> QtTcpChannel::addressesOf(const QString& host) {
   if (const QHostAddress address(host); !address.isNull()) return {address};
-  QHostInfo found;
-  bool isOver = false;
-  // Dropped with the context when the wait is left without it.
-  QHostInfo::lookupHost(host, &context(), [&](const QHostInfo& info) {
-    found = info;
-    isOver = true;
-  });
-  while (!isOver && left() > 0) {
+  const std::shared_ptr<const LookUp> lookUp = beginLookUp(host);
+  while (!lookUp->isOver && left() > 0) {
     QThread::msleep(interval);
     turn();
   }
-  if (!isOver) endWith(QStringLiteral("the name was not found in time"));
-  if (found.addresses().isEmpty()) endWith(found.errorString());
-  return found.addresses();
+  if (!lookUp->isOver) endWith(QStringLiteral("the name was not found in time"));
+  if (lookUp->found.addresses().isEmpty()) endWith(lookUp->found.errorString());
+  return lookUp->found.addresses();
 }
 
 /// A name may have addresses at which nobody answers; each gets its share of the time.

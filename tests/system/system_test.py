@@ -7,7 +7,7 @@ import signal
 import subprocess
 import time
 
-from real_desktop import SystemTestCase, free_port, main, run, wait_for
+from real_desktop import PLUGINS, SystemTestCase, free_port, main, run, wait_for
 
 
 class SystemTest(SystemTestCase):
@@ -119,6 +119,17 @@ class SystemTest(SystemTestCase):
         program.keys("F5")
         self.expect_live_trace(program)
         program.close()
+
+    def test_name_server_that_is_away_holds_nobody(self):
+        program = self.make_program(5)
+        (program.folder / "com5").write_text("tcp://bench:5000\n")
+        program.environment["LD_PRELOAD"] = str(PLUGINS / "libslow_names.so")
+        program.start()
+        program.keys("F5")
+        wait_for(lambda: "not found in time" in program.place("frmDSO.lblStatus").text, 10,
+                 "the reason")
+        program.process.terminate()
+        self.assertEqual(program.process.wait(5), 0)
 
     def test_start_without_language_files_says_so(self):
         program = self.make_program(0)
