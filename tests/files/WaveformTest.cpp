@@ -98,7 +98,7 @@ TEST_F(WaveformTest, OneChannelNoChannelAndNoRecord) {
   EXPECT_EQ(file("none.csv"), "");
   EXPECT_NE(file("none.inf").find("\r\nN\r\nN\r\nN\r\nN\r\n0\r\n"), std::string::npos);
   main.cbCh2.toggle();
-  main.Ch2Raw.resize(600);
+  main.Ch2Raw.resize(1013);
   EXPECT_THROW(BuildCsvText(main), Error);
   save("cut.jpg");  // No data are saved where the record is cut.
   EXPECT_EQ(file("cut.csv"), "");

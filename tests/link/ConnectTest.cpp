@@ -18,6 +18,10 @@ TEST_F(ConnectTest, SetupOfTheProgramHoldsFromItsStartOn) {
   EXPECT_NE(restarted.main.Msg[1], main.Msg[1]);
   EXPECT_EQ(restarted.main.lblConnect.caption(), restarted.main.Msg[1]);
   EXPECT_EQ(restarted.main.BaudRate, 19200);
+  const Graph& graph = restarted.main.graphDSO;
+  EXPECT_EQ(graph.axis("YAxis-2").minimum(), graph.axis("YAxis-1").minimum());
+  EXPECT_EQ(graph.axis("YAxis-2").maximum(), graph.axis("YAxis-1").maximum());
+  EXPECT_FALSE(graph.axis("YAxis-2").visible());
   EXPECT_TRUE(port.wire.empty());
   EXPECT_TRUE(port.prepared.empty());
 }
