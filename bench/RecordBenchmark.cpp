@@ -3,7 +3,7 @@
 
 #include <cmath>
 
-#include "Doubles.h"
+#include "Bench.h"
 #include "WaveformRecord.h"
 
 namespace tracewell {

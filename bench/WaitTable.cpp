@@ -2,7 +2,7 @@
 #include <iomanip>
 #include <iostream>
 
-#include "Doubles.h"
+#include "Bench.h"
 #include "SimulatedChannel.h"
 
 namespace tracewell {

@@ -51,14 +51,18 @@ QSet<QString> presentDevices() {
   return names;
 }
 
-bool hasOpen(const fs::path& process, const fs::path& device) {
+/// The far end of a pseudo-terminal, which is open as the other name, may well hold this one open.
+bool uses(const fs::path& process, const fs::path& device) {
+  bool isOpen = false;
   std::error_code unread;
   for (fs::directory_iterator file(process / "fd", unread), end; !unread && file != end;
        file.increment(unread)) {
     std::error_code ignored;
-    if (fs::read_symlink(file->path(), ignored) == device) return true;
+    const fs::path open = fs::read_symlink(file->path(), ignored);
+    if (open.filename() == "ptmx") return false;
+    isOpen = isOpen || open == device;
   }
-  return false;
+  return isOpen;
 }
 
 /// Looks without opening it, which would move its control lines. The processes of other users do
@@ -72,8 +76,7 @@ bool isOpenElsewhere(const fs::path& device) {
   for (fs::directory_iterator process(processes, unread), end; !unread && process != end;
        process.increment(unread)) {
     const bool isNumber = process->path().filename().native().front() <= '9';
-    if (isNumber && process->path().filename() != own && hasOpen(process->path(), real))
-      return true;
+    if (isNumber && process->path().filename() != own && uses(process->path(), real)) return true;
   }
   return false;
 }

@@ -74,6 +74,7 @@ Image WaveformButtons::picture() const {
 void WaveformButtons::cmdRemove_Click() {
   for (int number = ScopeGraph::firstReference; number <= ScopeGraph::plotCount; ++number)
     main_.graphDSO.plot(number).visible = false;
+  main_.status.withdraw(StatusLine::happened);
 }
 
 void WaveformButtons::cmdExportCSV_Click() {

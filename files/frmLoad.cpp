@@ -109,7 +109,21 @@ void frmLoad::showFolder(const fs::path& folder) {
   lblPath.caption = pathText(folder);
   dirCSV.items = std::move(content.folders);
   fileCSV.items = std::move(content.dataFiles);
-  shownFile_ = ListBox::noEntry;
+  chooseShown();
+}
+
+/// The details are those of the set that OK would load: without it in the list, of none.
+void frmLoad::chooseShown() {
+  const auto& files = fileCSV.items();
+  const auto found = std::ranges::find_if(files, [this](const std::string& name) {
+    return pathText(folder_ / pathOf(name)) == basePath_ + "csv";
+  });
+  shownFile_ = found == files.end() ? ListBox::noEntry : static_cast<int>(found - files.begin());
+  fileCSV.chosen = shownFile_;
+  if (found != files.end()) return;
+  basePath_.clear();
+  txtFile.text = "";
+  pictureCSV.image = Image();
 }
 
 /// All or nothing: a set that cannot be shown leaves the one before it chosen.

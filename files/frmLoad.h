@@ -36,6 +36,7 @@ class frmLoad : public Window {
   void driveCSV_Change();
   void dirCSV_Change();
   void showFolder(const std::filesystem::path& folder);
+  void chooseShown();
   void fileCSV_Click();
   void cmdOK_Click();
   void drawSet(const LoadedWaveforms& set);

@@ -60,8 +60,8 @@ void Acquisition::DataReady(const std::string& data) {
   ignoringErrors([&] { main_.graphDSO.plot(channel).plotXvsY(main_.XIndex, samples); });
   main_.txtMsg.text = recordText(channel, samples);
   markTrace(main_);
-  noteRecord(main_, channel);
   noteRecordScales(main_, channel, isSameSweep);
+  noteRecord(main_, channel);
   ignoringErrors([&] { port.reset(); });
   ignoringErrors([&] { main_.WaveCount = addInt16(main_.WaveCount, 1); });
 }

@@ -55,6 +55,7 @@ void Connect::showAcquisition() {
 /// Nothing that went well before counts: a port that cannot be opened leaves the link as it was.
 void Connect::readInstrument() {
   main_.LinkOK = false;
+  main_.status.withdraw(StatusLine::stoppedByError);
   instrument_.InitDSO();
 }
 

@@ -6,9 +6,11 @@
 namespace tracewell {
 
 /// Pauses the acquisition as long as it lives, and resumes it also when something has gone wrong.
+/// What the user has had done before is no longer said.
 class Paused {
  public:
-  Paused(const frmDSO& main, Acquisition& acquisition) : main_(main), acquisition_(acquisition) {
+  Paused(frmDSO& main, Acquisition& acquisition) : main_(main), acquisition_(acquisition) {
+    main.status.withdraw(StatusLine::happened);
     acquisition_.StopAcq();
   }
   ~Paused() {

@@ -21,6 +21,11 @@ std::size_t indexOf(std::int16_t channel) {
 
 }  // namespace
 
+bool hasOtherScales(const frmDSO& main, std::int16_t channel) {
+  const SharedState::RecordScale& scale = main.RecordScales[indexOf(channel)];
+  return scale != SharedState::RecordScale() && scale != presentScale(main, channel);
+}
+
 /// Of the requests that wait the port keeps the first.
 void noteRequestScales(frmDSO& main, std::int16_t channel) {
   auto& [onItsWay, waiting] = main.RequestScales[indexOf(channel)];

@@ -14,4 +14,8 @@ void noteRequestScales(frmDSO& main, std::int16_t channel);
 /// sweep, as of an instrument that is stopped, and so are its scales.
 void noteRecordScales(frmDSO& main, std::int16_t channel, bool isSameSweep);
 
+/// Whether the scales of now are not those under which the channel's last record came. Not, where
+/// those are not known.
+bool hasOtherScales(const frmDSO& main, std::int16_t channel);
+
 }  // namespace tracewell

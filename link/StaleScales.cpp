@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "StaleScales.h"
 
+#include "TraceAge.h"
 #include "TriggerMarker.h"
 
 namespace tracewell {
@@ -47,6 +48,8 @@ void showStaleScales(frmDSO& main) {
   } else if (!wasStale) {
     // These stay so until they are measured anew.
     for (ValueLabel& result : main.lblMeasure) result.isStale = !result.caption().empty();
+    main.RecordTime = {};
+    showTraceAges(main);
     tellHint(main);
   }
 }

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "RecordScales.h"
 #include "WaveformRecord.h"
 
 namespace tracewell {
@@ -40,7 +41,8 @@ void showTraceAges(frmDSO& main) {
     const auto& time = main.RecordTime[i];
     Plot& plot = main.graphDSO.plot(static_cast<int>(i) + 1);
     const bool isOld = !time || now - *time > 3 * recordPeriod(main);
-    plot.isOld = isOld && !plot.y().empty();
+    const bool isDimmed = isOld || hasOtherScales(main, static_cast<std::int16_t>(i + 1));
+    plot.isOld = isDimmed && !plot.y().empty();
     if (!main.ChanOn[i] || (!main.Initialised && !time)) continue;
     const std::string& channel = (i == 0 ? main.cbCh1 : main.cbCh2).caption();
     if (!text.empty()) text += "    ";

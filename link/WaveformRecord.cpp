@@ -55,11 +55,11 @@ std::string recordText(std::int16_t channel, const Samples& samples) {
   constexpr std::string_view lineEnd = "\r\n";
   constexpr std::size_t longestValue = 7;
   std::array<char, (SharedState::sampleCount + 1) * longestValue + lineEnd.size()> buffer;
-  char* const bufferEnd = buffer.data() + buffer.size();
-  char* end = std::to_chars(buffer.data(), bufferEnd, channel).ptr;
+  char* const valuesEnd = buffer.data() + buffer.size() - lineEnd.size();
+  char* end = std::to_chars(buffer.data(), valuesEnd, channel).ptr;
   for (const std::int16_t sample : samples) {
     *end++ = ',';
-    end = std::to_chars(end, bufferEnd, sample).ptr;
+    end = std::to_chars(end, valuesEnd, sample).ptr;
   }
   end = std::ranges::copy(lineEnd, end).out;
   return {buffer.data(), end};

@@ -69,6 +69,9 @@ void frmRS232::cmdOK_Click() {
   for (int i = 0; i < linkValues; ++i)
     main_.gridMeasure.setText(SetupTable::link, linkColumn(i), cbRS232(i).text());
   showPort(main_, settings.portNumber);
+  for (const auto topic :
+       {StatusLine::stoppedByError, StatusLine::missedBySeries, StatusLine::missedByOne})
+    main_.status.withdraw(topic);
   showDifferingLink(main_);
   showStaleScales(main_);
   hide();

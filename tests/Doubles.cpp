@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Doubles.h"
+#include "Bench.h"
 
 #include <atomic>
 #include <ctime>

@@ -35,12 +35,19 @@ std::string notice(const Words& words, const fs::path& path) {
   }
 }
 
+/// The others are kept when the user saves over them.
+bool isWrittenUnasked(const frmDSO& main, const fs::path& path) {
+  const bool isOurs = path.filename() == "default.dso" || path.filename() == "dso.err";
+  return isOurs && path.parent_path() == wholePath(main.services().programFolder);
+}
+
 }  // namespace
 
 void showFilesToKeep(frmDSO& main) {
   std::string text;
   for (const fs::path& path : main.FilesToKeep)
-    text += (text.empty() ? "" : "; ") + notice(main.services().words, path);
+    if (isWrittenUnasked(main, path))
+      text += (text.empty() ? "" : "; ") + notice(main.services().words, path);
   main.lblNotice.visible = !text.empty();
   main.lblNotice.caption = text;
 }

@@ -3,7 +3,7 @@
 
 #include <limits>
 
-#include "Doubles.h"
+#include "Bench.h"
 #include "PacedChannel.h"
 
 namespace tracewell {

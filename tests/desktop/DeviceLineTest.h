@@ -2,7 +2,7 @@
 #pragma once
 
 #include "DesktopClock.h"
-#include "Doubles.h"
+#include "Bench.h"
 #include "PortUser.h"
 
 namespace tracewell {

@@ -4,8 +4,8 @@
 #include <QTest>
 #include <csignal>
 
+#include "Bench.h"
 #include "DesktopProgram.h"
-#include "Doubles.h"
 #include "MainFormTest.h"
 #include "Termination.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <sys/stat.h>
 
-#include "Doubles.h"
+#include "Bench.h"
 #include "Messages.h"
 #include "PictureFormats.h"
 #include "ProgramFolder.h"

@@ -7,9 +7,9 @@
 #include <QScreen>
 #include <QTimer>
 
+#include "Bench.h"
 #include "DesktopDialogs.h"
 #include "DesktopProgram.h"
-#include "Doubles.h"
 #include "PortDirectory.h"
 #include "QtValues.h"
 #include "WindowState.h"

@@ -7,8 +7,8 @@
 #include <QTest>
 #include <QWidget>
 
+#include "Bench.h"
 #include "Binder.h"
-#include "Doubles.h"
 #include "Forms.h"
 
 namespace tracewell {

@@ -4,8 +4,8 @@
 #include <QTemporaryDir>
 #include <numbers>
 
+#include "Bench.h"
 #include "DesktopProgram.h"
-#include "Doubles.h"
 #include "QtImages.h"
 #include "QtValues.h"
 

@@ -3,7 +3,7 @@
 #include <ctime>
 #include <fstream>
 
-#include "Doubles.h"
+#include "Bench.h"
 #include "WaveformSetReader.h"
 #include "WaveformSetWriter.h"
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "Bench.h"
 #include "CommandFile.h"
-#include "Doubles.h"
 #include "Messages.h"
 #include "PacedChannel.h"
 #include "WaveformRecord.h"

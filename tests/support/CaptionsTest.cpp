@@ -3,7 +3,7 @@
 
 #include <sstream>
 
-#include "Doubles.h"
+#include "Bench.h"
 #include "Files.h"
 #include "Messages.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <algorithm>
 
-#include "Doubles.h"
+#include "Bench.h"
 #include "Files.h"
 
 namespace tracewell {

@@ -46,6 +46,11 @@ class SystemTest(SystemTestCase):
         self.choose_port(program, 7)
         program.keys("F5")
         self.expect_live_trace(program)
+        program.keys("ctrl+r")
+        program.find("RS-232")
+        # The far end of the pseudo-terminal is no other program that uses it.
+        self.assertTrue(program.place("frmRS232.lblDevice").text.startswith("/"))
+        program.keys("Escape")
         program.close()
         self.assertIn(b",None,7\r\n", program.setup.read_bytes())
 

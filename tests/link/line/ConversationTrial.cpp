@@ -4,7 +4,7 @@
 #include <map>
 #include <random>
 
-#include "Doubles.h"
+#include "Bench.h"
 #include "Numbers.h"
 #include "PacedChannel.h"
 #include "Waiting.h"

@@ -5,8 +5,8 @@
 #include <sys/stat.h>
 #endif
 
+#include "Bench.h"
 #include "Disk.h"
-#include "Doubles.h"
 
 namespace tracewell {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Doubles.h"
+#include "Bench.h"
 #include "TrueUnits.h"
 
 namespace tracewell {
@@ -15,8 +15,9 @@ TEST(TrueUnits, ScaleIsReadOnlyInTheFormOfACaption) {
   EXPECT_DOUBLE_EQ(trueScale("2.000 mV", "V").value(), 0.002);
   EXPECT_DOUBLE_EQ(trueScale("500.0 us", "s").value(), 5e-4);
   EXPECT_DOUBLE_EQ(trueScale("5.000 s", "s").value(), 5);
-  for (const std::string& caption : {std::string(400, '9') + " V", "Null"s, ""s, "V"s, "1.000 s"s,
-                                     "0.000 V"s, "-1.00 V"s, "1e999 V"s, "1.0.0 V"s, "1~ V"s, "2.00 xV"s})
+  for (const std::string& caption :
+       {std::string(400, '9') + " V", "Null"s, ""s, "V"s, "1.000 s"s, "0.000 V"s, "-1.00 V"s,
+        "1e999 V"s, "1.0.0 V"s, "1~ V"s, "2.00 xV"s})
     EXPECT_EQ(trueScale(caption, "V"), std::nullopt) << caption;
 }
 
