@@ -67,14 +67,16 @@ void SetupFiles::ReadSetupFile(const std::filesystem::path& path) {
   }
 }
 
-void SetupFiles::loadFile(const std::filesystem::path& path) {
+bool SetupFiles::loadFile(const std::filesystem::path& path) {
+  bool hasLines = false;
   try {
-    fillTable(path);
+    hasLines = fillTable(path);
   } catch (const Error&) {
     noteWhatWasTaken(path);
     throw;
   }
   noteWhatWasTaken(path);
+  return hasLines;
 }
 
 void SetupFiles::noteWhatWasTaken(const std::filesystem::path& path) {
@@ -94,7 +96,7 @@ bool SetupFiles::isTakenWhole(const std::filesystem::path& path) const {
   }
 }
 
-void SetupFiles::fillTable(const std::filesystem::path& path) {
+bool SetupFiles::fillTable(const std::filesystem::path& path) {
   const std::string text = readWholeFile(path, fileLimit::setup);
   // The lead-in, whatever it is, belongs to no line. What follows the last line end is ignored.
   std::size_t start = leadIn.size();
@@ -105,6 +107,7 @@ void SetupFiles::fillTable(const std::filesystem::path& path) {
     start = end + lineEnd.size();
     end = text.find(lineEnd, start);
   }
+  return start > leadIn.size();
 }
 
 void SetupFiles::WriteSetupFile(const std::filesystem::path& path) {
@@ -117,10 +120,10 @@ void SetupFiles::WriteSetupFile(const std::filesystem::path& path) {
 void SetupFiles::mnbLoadSetup_Click() {
   Services& services = main_.services();
   const std::filesystem::path path = services.dialogs.openFile(dialogDSO(services.programFolder));
-  loadFile(path);
-  main_.status.tell(StatusLine::happened, [path, isWhole = isTakenWhole(path)](const Words& words) {
-    return isWhole ? words.say("Setup loaded from %1", {pathText(path)})
-                   : words.say("Not all of %1 could be read", {pathText(path)});
+  const bool hasLines = loadFile(path);
+  main_.status.tell(StatusLine::happened, [path, hasLines](const Words& words) {
+    return hasLines ? words.say("Setup loaded from %1", {pathText(path)})
+                    : words.say("%1 holds no setup", {pathText(path)});
   });
 }
 

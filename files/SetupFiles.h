@@ -30,8 +30,9 @@ class SetupFiles {
 
  private:
   /// Raises the reason why a part could not be read; what was taken is noted also then.
-  void loadFile(const std::filesystem::path& path);
-  void fillTable(const std::filesystem::path& path);
+  /// Whether there was a line to take.
+  bool loadFile(const std::filesystem::path& path);
+  bool fillTable(const std::filesystem::path& path);
   void noteWhatWasTaken(const std::filesystem::path& path);
   bool isTakenWhole(const std::filesystem::path& path) const;
 

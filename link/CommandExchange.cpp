@@ -69,6 +69,7 @@ std::string CommandExchange::exchange(const std::string& command) {
   main_.InRemote = true;
   main_.cmdLock.value = true;
   main_.LinkOK = true;
+  main_.status.withdraw(StatusLine::linkLost);
   return reply;
 }
 

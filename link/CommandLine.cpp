@@ -6,6 +6,10 @@
 
 namespace tracewell {
 
+std::string withoutLineEnd(const std::string& text) {
+  return text.substr(0, text.find_last_not_of("\r\n") + 1);
+}
+
 void CommandLine::txtTest_KeyDown(int code) {
   if (code == TextBox::enterKey) send();
 }
@@ -15,7 +19,7 @@ void CommandLine::cmdTest_Click() {
 }
 
 void CommandLine::send() {
-  const std::string command = main_.txtTest.text();
+  const std::string command = withoutLineEnd(main_.txtTest.text());
   if (command.empty()) return;
   try {
     main_.txtMsg.text = "";

@@ -5,6 +5,9 @@
 
 namespace tracewell {
 
+/// A command that was copied whole from elsewhere brings its line end.
+std::string withoutLineEnd(const std::string& text);
+
 /// The command line of the main window, with its reply box.
 class CommandLine {
  public:

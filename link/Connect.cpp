@@ -55,16 +55,14 @@ void Connect::showAcquisition() {
 /// Nothing that went well before counts: a port that cannot be opened leaves the link as it was.
 void Connect::readInstrument() {
   main_.LinkOK = false;
-  main_.status.withdraw(StatusLine::stoppedByError);
   instrument_.InitDSO();
 }
 
 void Connect::cmdRS232_Click() {
   readInstrument();
-  if (main_.LinkOK)
-    cmdStart_Click();
-  else
-    showConnectFailed(main_);
+  if (!main_.LinkOK) return showConnectFailed(main_);
+  main_.status.withdraw(StatusLine::stoppedByError);
+  cmdStart_Click();
 }
 
 }  // namespace tracewell

@@ -5,7 +5,10 @@
 
 namespace tracewell {
 
-Inquiry::Inquiry(Inquiries& all, std::string name, Of items, int count)
+Inquiry::Inquiry(Inquiries& all, const Property<std::string>& caption, Of items, int count)
+    : Inquiry(all, std::function<std::string()>([&caption] { return caption(); }), items, count) {}
+
+Inquiry::Inquiry(Inquiries& all, std::function<std::string()> name, Of items, int count)
     : all_(all),
       main_(all.main_),
       waits_(main_.services().standBy),
@@ -17,17 +20,15 @@ Inquiry::Inquiry(Inquiries& all, std::string name, Of items, int count)
 }
 
 Inquiry::Inquiry(Inquiries& all, const std::string& question)
-    : Inquiry(all, question, Of::oneQuestion, 1) {
+    : Inquiry(all, std::function<std::string()>([question] { return question; }), Of::oneQuestion,
+              1) {
   next();
 }
 
 Inquiry::~Inquiry() {
   finishItem();
   all_.current_ = outer_;
-  if (missing_ == 0)
-    main_.status.withdraw(StatusLine::linkLost);
-  else
-    showMissed();
+  if (missing_ > 0) showMissed();
   if (outer_ != nullptr)
     outer_->showProgress();
   else
@@ -66,22 +67,24 @@ void Inquiry::finishItem() {
 }
 
 std::string Inquiry::progress(const Words& words) const {
-  if (items_ == Of::oneQuestion) return words.say("Waiting for the answer to %1", {name_});
+  if (items_ == Of::oneQuestion) return words.say("Waiting for the answer to %1", {name_()});
   const std::string item = std::to_string(item_);
   const std::string count = std::to_string(count_);
-  return items_ == Of::questions ? words.say("%1: question %2 of %3", {name_, item, count})
-                                 : words.say("%1: setting %2 of %3", {name_, item, count});
+  return items_ == Of::questions ? words.say("%1: question %2 of %3", {name_(), item, count})
+                                 : words.say("%1: setting %2 of %3", {name_(), item, count});
 }
 
 StatusLine::Sentence Inquiry::missed() const {
   return [name = name_, items = items_, isGivenUp = isGivenUp(), missing = std::to_string(missing_),
           count = std::to_string(count_)](const Words& words) {
     if (items == Of::oneQuestion)
-      return isGivenUp ? words.say("%1: given up", {name}) : words.say("No answer to %1", {name});
-    if (isGivenUp) return words.say("%1: given up, %2 of %3 not answered", {name, missing, count});
+      return isGivenUp ? words.say("%1: given up", {name()})
+                       : words.say("No answer to %1", {name()});
+    if (isGivenUp)
+      return words.say("%1: given up, %2 of %3 not answered", {name(), missing, count});
     return items == Of::questions
-               ? words.say("%1: no answer to %2 of %3 questions", {name, missing, count})
-               : words.say("%1: %2 of %3 settings not confirmed", {name, missing, count});
+               ? words.say("%1: no answer to %2 of %3 questions", {name(), missing, count})
+               : words.say("%1: %2 of %3 settings not confirmed", {name(), missing, count});
   };
 }
 

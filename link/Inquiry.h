@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "StandBy.h"
@@ -36,8 +37,9 @@ class Inquiry {
  public:
   enum class Of { oneQuestion, questions, settings };
 
-  /// `name` is what the status line calls it, `count` how many items follow.
-  Inquiry(Inquiries& all, std::string name, Of items, int count);
+  /// The status line calls it by `caption`, which stays the caller's and outlives the sentences;
+  /// `count` items follow.
+  Inquiry(Inquiries& all, const Property<std::string>& caption, Of items, int count);
   /// A single question.
   Inquiry(Inquiries& all, const std::string& question);
   ~Inquiry();
@@ -51,6 +53,7 @@ class Inquiry {
   bool isGivenUp() const { return waits_.isGivenUp(); }
 
  private:
+  Inquiry(Inquiries& all, std::function<std::string()> name, Of items, int count);
   void withdrawEarlier();
   void finishItem();
   void showProgress();
@@ -62,7 +65,7 @@ class Inquiry {
   Inquiries& all_;
   frmDSO& main_;
   StandBy::Burst waits_;
-  std::string name_;
+  std::function<std::string()> name_;
   Of items_;
   int count_;
   int item_ = 0;

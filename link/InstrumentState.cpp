@@ -35,7 +35,7 @@ void InstrumentState::InitDSO() {
 }
 
 void InstrumentState::readAll() {
-  Inquiry inquiry(exchange_.inquiries(), main_.fmInstrument.caption(), Inquiry::Of::questions, 5);
+  Inquiry inquiry(exchange_.inquiries(), main_.fmInstrument.caption, Inquiry::Of::questions, 5);
   markAllUnread();
   inquiry.next();
   main_.lblChan1.caption = trimmed(exchange_.SendDSOCmd(":CHAN1:SCAL?"));

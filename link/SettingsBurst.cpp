@@ -6,7 +6,7 @@
 
 namespace tracewell {
 
-std::vector<bool> SettingsBurst::writeAndVerify(const std::string& name,
+std::vector<bool> SettingsBurst::writeAndVerify(const Property<std::string>& caption,
                                                 std::span<const std::string_view> stems, int row,
                                                 int first) {
   main_.refresh();
@@ -14,7 +14,7 @@ std::vector<bool> SettingsBurst::writeAndVerify(const std::string& name,
   main_.txtMsg.text = "";
   const int count = static_cast<int>(stems.size());
   std::vector<bool> areTaken;
-  Inquiry inquiry(exchange_.inquiries(), name, Inquiry::Of::settings, count - first);
+  Inquiry inquiry(exchange_.inquiries(), caption, Inquiry::Of::settings, count - first);
   for (int i = first; i < count; ++i) {
     inquiry.next();
     bool isRight = false;

@@ -22,10 +22,10 @@ class SettingsBurst {
   /// to three times, until the instrument's reply is the cell's text to the letter; then the next
   /// follows without a word. The reply box shows every line as it goes out. Replies are given
   /// the short time-out meanwhile. Throws ProgramEnded when the window is closed in between.
-  /// `name` is what the status line calls them. After Escape each is written once, unverified.
+  /// The status line calls them by `caption`. After Escape each is written once, unverified.
   /// Returns for each whether the instrument has it.
-  std::vector<bool> writeAndVerify(const std::string& name, std::span<const std::string_view> stems,
-                                   int row, int first);
+  std::vector<bool> writeAndVerify(const Property<std::string>& caption,
+                                   std::span<const std::string_view> stems, int row, int first);
 
  private:
   static constexpr int attempts = 3;

@@ -41,7 +41,8 @@ void showStaleScales(frmDSO& main) {
   const bool wasStale = main.lblChan1.isStale();
   for (Control* control : std::initializer_list<Control*>{
            &main.lblChan1, &main.lblChan2, &main.lblTime, &main.knobChan1, &main.knobChan2,
-           &main.knobTime, &main.slideCH1, &main.slideCH2})
+           &main.knobTime, &main.slideCH1, &main.slideCH2, &main.slideTime, &main.slideTrig,
+           &main.cbMath})
     control->isStale = isStale;
   if (!isStale) {
     main.status.withdraw(StatusLine::staleScales);

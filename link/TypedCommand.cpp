@@ -5,6 +5,7 @@
 #include <array>
 #include <initializer_list>
 
+#include "KnownScales.h"
 #include "TriggerMarker.h"
 
 namespace tracewell {
@@ -34,15 +35,24 @@ void forgetTimeBase(frmDSO& main) {
   forget({&main.lblTime, &main.knobTime, &main.slideTime});
 }
 
-void forgetTrigger(frmDSO& main) {
+void forgetLevel(frmDSO& main) {
   main.TriggerLevelSet = false;
-  main.TriggerSource.reset();
   forget({&main.slideTrig});
 }
 
-void forgetMath(frmDSO& main) {
-  main.MathEntry.reset();
-  forget({&main.cbMath});
+/// A whole command says what holds from now on.
+void noteMath(frmDSO& main, const std::string& command) {
+  const auto known = std::ranges::find(mathCommands, command);
+  if (known == mathCommands.end()) {
+    main.MathEntry.reset();
+    forget({&main.cbMath});
+    return;
+  }
+  const auto entry = static_cast<std::int16_t>(known - mathCommands.begin());
+  main.MathEntry = entry;
+  main.cbMath.listIndex.setQuietly(entry);
+  main.cbMath.text = main.cbMath.items().at(static_cast<std::size_t>(entry));
+  main.cbMath.isUnread = false;
 }
 
 void forgetAll(frmDSO& main) {
@@ -54,24 +64,28 @@ void forgetAll(frmDSO& main) {
 
 struct Effect {
   const char* begin;
-  void (*forget)(frmDSO& main);
+  void (*note)(frmDSO& main, const std::string& command);
 };
 
-/// A probe changes the scale of its channel.
-constexpr std::array effects = {Effect{"CHAN1:SCAL", forgetChannel1},
-                                Effect{"CHAN1:OFFS", forgetChannel1},
-                                Effect{"CHAN1:PROB", forgetChannel1},
-                                Effect{"CHAN2:SCAL", forgetChannel2},
-                                Effect{"CHAN2:OFFS", forgetChannel2},
-                                Effect{"CHAN2:PROB", forgetChannel2},
-                                Effect{"CHAN1:MATH", forgetMath},
-                                Effect{"CHAN2:MATH", forgetMath},
-                                Effect{"CHAN1:DISP", [](frmDSO& main) { forget({&main.cbCh1}); }},
-                                Effect{"CHAN2:DISP", [](frmDSO& main) { forget({&main.cbCh2}); }},
-                                Effect{"TIM:", forgetTimeBase},
-                                Effect{"TRIG:", forgetTrigger},
-                                Effect{"AUT", forgetAll},
-                                Effect{"*RST", forgetAll}};
+/// A probe changes the scale of its channel, and with the scale its position in divisions.
+constexpr std::array effects = {
+    Effect{"CHAN1:SCAL", [](frmDSO& main, const std::string&) { forgetChannel1(main); }},
+    Effect{"CHAN1:PROB", [](frmDSO& main, const std::string&) { forgetChannel1(main); }},
+    Effect{"CHAN1:OFFS", [](frmDSO& main, const std::string&) { forget({&main.slideCH1}); }},
+    Effect{"CHAN1:DISP", [](frmDSO& main, const std::string&) { forget({&main.cbCh1}); }},
+    Effect{"CHAN1:MATH", noteMath},
+    Effect{"CHAN2:SCAL", [](frmDSO& main, const std::string&) { forgetChannel2(main); }},
+    Effect{"CHAN2:PROB", [](frmDSO& main, const std::string&) { forgetChannel2(main); }},
+    Effect{"CHAN2:OFFS", [](frmDSO& main, const std::string&) { forget({&main.slideCH2}); }},
+    Effect{"CHAN2:DISP", [](frmDSO& main, const std::string&) { forget({&main.cbCh2}); }},
+    Effect{"CHAN2:MATH", noteMath},
+    Effect{"TIM:SCAL", [](frmDSO& main, const std::string&) { forgetTimeBase(main); }},
+    Effect{"TIM:DEL", [](frmDSO& main, const std::string&) { forget({&main.slideTime}); }},
+    Effect{"TRIG:LEV", [](frmDSO& main, const std::string&) { forgetLevel(main); }},
+    Effect{"TRIG:SOUR", [](frmDSO& main, const std::string&) { main.TriggerSource.reset(); }},
+    Effect{"SYST:UNL", [](frmDSO& main, const std::string&) { main.cmdLock.value = false; }},
+    Effect{"AUT", [](frmDSO& main, const std::string&) { forgetAll(main); }},
+    Effect{"*RST", [](frmDSO& main, const std::string&) { forgetAll(main); }}};
 
 }  // namespace
 
@@ -80,7 +94,7 @@ void noteTypedCommand(frmDSO& main, const std::string& command) {
   if (text.ends_with('?')) return;
   for (const Effect& effect : effects) {
     if (!text.starts_with(effect.begin)) continue;
-    effect.forget(main);
+    effect.note(main, text);
     UpdateTriggerMarker(main);
   }
 }

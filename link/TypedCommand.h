@@ -8,7 +8,8 @@
 namespace tracewell {
 
 /// After a command that the user has typed and that was sent: what it may have changed on the
-/// instrument is marked as not known until it is read or set here. Queries change nothing.
+/// instrument, and the panel shows, is marked as not known until it is read or set here. Queries
+/// change nothing.
 void noteTypedCommand(frmDSO& main, const std::string& command);
 
 }  // namespace tracewell

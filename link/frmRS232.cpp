@@ -5,6 +5,7 @@
 #include "Numbers.h"
 #include "PortNotice.h"
 #include "StaleScales.h"
+#include "TriggerMarker.h"
 
 namespace tracewell {
 
@@ -60,6 +61,7 @@ std::string frmRS232::deviceAndState(std::int16_t number) const {
 
 void frmRS232::cmdOK_Click() {
   LineSettings& settings = services().port.settings;
+  const std::int16_t portBefore = settings.portNumber;
   main_.BaudRate = toInt16(cbRS232(baudRateValue).text());
   settings.baudRate = main_.BaudRate;
   settings.portNumber = toInt16(cbRS232(portValue).text());
@@ -73,6 +75,7 @@ void frmRS232::cmdOK_Click() {
        {StatusLine::stoppedByError, StatusLine::missedBySeries, StatusLine::missedByOne})
     main_.status.withdraw(topic);
   showDifferingLink(main_);
+  if (settings.portNumber != portBefore) ForgetUnaskedSettings(main_);
   showStaleScales(main_);
   hide();
   main_.refresh();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ChannelControls.h"
 
+#include "KnownScales.h"
 #include "Numbers.h"
 #include "SlideValues.h"
 #include "TriggerMarker.h"
@@ -43,7 +44,7 @@ void ChannelControls::commitPosition(const Channel& channel) {
     const double volts = checked(offsetVolts(channel.scale.caption(), channel.slide.value()));
     keepPosition(channel);
     exchange_.SendDSOCmd(channel.stem() + "OFFS " + formatExponent(volts));
-    channel.slide.isUnread = !exchange_.wasSent();
+    channel.slide.isUnread = !exchange_.wasSent() || !voltsPerDivision(main_, channel.number);
     redraw(channel, mulInt16(toInt16(channel.slide.value()), Graph::unitsPerDivision));
     UpdateTriggerMarker(main_);
     acquisition_.ResumeAcq();

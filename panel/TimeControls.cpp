@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "TimeControls.h"
 
+#include "KnownScales.h"
 #include "Numbers.h"
 #include "ScaleTables.h"
 #include "SlideValues.h"
@@ -29,7 +30,7 @@ void TimeControls::slideTime_PointerValueCommitted() {
     acquisition_.StopAcq();
     const double delay = checked(delaySeconds(main_.lblTime.caption(), main_.slideTime.value()));
     exchange_.SendDSOCmd(":TIM:DEL " + formatExponent(delay));
-    main_.slideTime.isUnread = !exchange_.wasSent();
+    main_.slideTime.isUnread = !exchange_.wasSent() || !secondsPerDivision(main_);
     acquisition_.ResumeAcq();
   } catch (const Error& error) {
     errorLog_.ErrLog(error, "slideTime_PointerValueCommitted ");
@@ -44,6 +45,7 @@ void TimeControls::slideTrig_PointerValueChanged() {
 
 void TimeControls::slideTrig_MouseUp() {
   exchange_.SendDSOCmd(":TRIG:LEV " + formatExponent(main_.slideTrig.value()));
+  main_.slideTrig.isUnread = !exchange_.wasSent();
   main_.TriggerLevelSet = exchange_.wasSent();
   UpdateTriggerMarker(main_);
 }

@@ -38,7 +38,8 @@ void frmChannel::editSettings(const Channel& channel) {
   try {
     readSettings(channel);
     showModal();
-    if (tag == "1") burst_.writeAndVerify(caption(), channel.queries, channel.setupRow, 1);
+    if (tag == "1")
+      burst_.writeAndVerify(channel.menuEntry.caption, channel.queries, channel.setupRow, 1);
     acquisition_.RunAcq();
     instrument_.readScale(channel.stem() + "SCAL?", channel.kind, channel.scale, channel.knob);
   } catch (const Error& error) {
@@ -48,7 +49,7 @@ void frmChannel::editSettings(const Channel& channel) {
 
 void frmChannel::readSettings(const Channel& channel) {
   const WaitingNotice notice(main_);
-  Inquiry inquiry(exchange_.inquiries(), channel.menuEntry.caption(), Inquiry::Of::questions, 5);
+  Inquiry inquiry(exchange_.inquiries(), channel.menuEntry.caption, Inquiry::Of::questions, 5);
   setupRow_ = channel.setupRow;
   int place = 0;
   for (const std::string_view query : channel.queries) {

@@ -55,7 +55,7 @@ void frmDisplay::cmdDisplay_Click() {
 /// The style is the panel's own, so the instrument is not asked for it.
 void frmDisplay::readSettings() {
   const WaitingNotice notice(main_);
-  Inquiry inquiry(exchange_.inquiries(), caption(), Inquiry::Of::questions, brightnessCount);
+  Inquiry inquiry(exchange_.inquiries(), caption, Inquiry::Of::questions, brightnessCount);
   inquiry.next();
   readBrightness(slideDataBrightness, ofData);
   inquiry.next();
@@ -78,7 +78,7 @@ void frmDisplay::sendBrightness() {
   main_.refresh();
   const ShortTimeOut shortTimeOut(main_);
   main_.txtMsg.text = "";
-  Inquiry inquiry(exchange_.inquiries(), caption(), Inquiry::Of::settings, brightnessCount);
+  Inquiry inquiry(exchange_.inquiries(), caption, Inquiry::Of::settings, brightnessCount);
   for (std::size_t setting = 0; setting < brightnessCount; ++setting) {
     inquiry.next();
     const std::string stem(BrightQuery[setting]);

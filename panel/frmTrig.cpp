@@ -46,14 +46,14 @@ void frmTrig::cmdTrig_Click() {
   showModal();
   if (tag != "0") sendSettings();
   if (tag == "2")
-    burst_.writeAndVerify(fmAdv.caption(), TrigAdvQuery, SetupTable::advancedTrigger, 0);
+    burst_.writeAndVerify(fmAdv.caption, TrigAdvQuery, SetupTable::advancedTrigger, 0);
   UpdateTriggerMarker(main_);
   acquisition_.RunAcq();
 }
 
 void frmTrig::sendSettings() {
   const std::vector<bool> areTaken =
-      burst_.writeAndVerify(caption(), TrigQuery, SetupTable::trigger, 0);
+      burst_.writeAndVerify(caption, TrigQuery, SetupTable::trigger, 0);
   main_.TriggerSource.reset();
   if (areTaken.front())
     main_.TriggerSource = main_.gridMeasure.number(SetupTable::trigger, SetupTable::firstValue);
@@ -61,7 +61,7 @@ void frmTrig::sendSettings() {
 
 /// Setting a box runs its click, so the instrument's values go into the table, too.
 void frmTrig::readSettings() {
-  Inquiry inquiry(exchange_.inquiries(), caption(), Inquiry::Of::questions, cbTrig.size());
+  Inquiry inquiry(exchange_.inquiries(), caption, Inquiry::Of::questions, cbTrig.size());
   for (int i = 0; i < cbTrig.size(); ++i) {
     inquiry.next();
     const std::string query(TrigQuery[static_cast<std::size_t>(i)]);
@@ -77,7 +77,7 @@ void frmTrig::readSettings() {
 void frmTrig::readAdvancedSettings() {
   std::optional<Inquiry> inquiry;
   if (isAdvanced())
-    inquiry.emplace(exchange_.inquiries(), fmAdv.caption(), Inquiry::Of::questions, 5);
+    inquiry.emplace(exchange_.inquiries(), fmAdv.caption, Inquiry::Of::questions, 5);
   for (int i = 0; i < 5; ++i) {
     if (inquiry) inquiry->next();
     const std::string query(TrigAdvQuery[static_cast<std::size_t>(i)]);

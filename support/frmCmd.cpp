@@ -20,11 +20,6 @@ bool isInRange(const std::string& command) {
          parameter.find('.') == std::string::npos;
 }
 
-/// A command that was copied whole from elsewhere brings its line end.
-std::string withoutLineEnd(const std::string& text) {
-  return text.substr(0, text.find_last_not_of("\r\n") + 1);
-}
-
 }  // namespace
 
 frmCmd::frmCmd(frmDSO& main, ErrorLog& errorLog, Acquisition& acquisition, CommandLine& commandLine)

@@ -75,7 +75,7 @@ void Measurements::RunMeasurements() {
   for (const int channel : {1, 2})
     count += flaggedCount(channel + 1, VoltMeasName.size()) +
              flaggedCount(channel + 3, FreqMeasName.size());
-  Inquiry inquiry(exchange_.inquiries(), main_.fmMeasure.caption(), Inquiry::Of::questions, count);
+  Inquiry inquiry(exchange_.inquiries(), main_.fmMeasure.caption, Inquiry::Of::questions, count);
   for (const int channel : {1, 2}) {
     chooseSource(channel);
     measureFlagged(inquiry, channel, VoltMeasName, VoltMeasQuery, channel + 1);
@@ -168,7 +168,7 @@ void Measurements::cmdFMeasure_Click() {
 void Measurements::measureQuickly() {
   const ShortTimeOut shortTimeOut(main_, 1);
   chooseSource(main_.FMeasChan);
-  Inquiry inquiry(exchange_.inquiries(), main_.fmMeasure.caption(), Inquiry::Of::questions,
+  Inquiry inquiry(exchange_.inquiries(), main_.fmMeasure.caption, Inquiry::Of::questions,
                   flaggedCount(SetupTable::voltageChannel1, FreqMeasQuery.size()));
   // Those that it does not write over are of another time, and perhaps of the other channel.
   for (ValueLabel& old : main_.lblMeasure) old.isStale = !old.caption().empty();

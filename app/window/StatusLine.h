@@ -21,7 +21,7 @@ class StatusLine {
     /// What a series of questions, and what a single one, has missed.
     missedBySeries,
     missedByOne,
-    /// The start button does nothing until a question is answered.
+    /// The start button does nothing until something reaches the instrument.
     linkLost,
     /// The setup has other line settings than the port.
     otherLineSettings,

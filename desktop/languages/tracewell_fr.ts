@@ -20,6 +20,10 @@
         <translation>%1 ne contient aucune courbe des voies choisies</translation>
     </message>
     <message>
+        <source>%1 holds no setup</source>
+        <translation>%1 ne contient pas de réglages</translation>
+    </message>
+    <message>
         <source>%1: %2 of %3 settings not confirmed</source>
         <translation>%1 : %2 réglages sur %3 non confirmés</translation>
     </message>
@@ -665,7 +669,7 @@
     </message>
     <message>
         <source>No room for all of %1: press %2 first</source>
-        <translation>Pas assez de place pour %1 : appuyez d’abord sur %2</translation>
+        <translation>Pas assez de place pour tout %1 : appuyer d'abord sur %2</translation>
     </message>
     <message>
         <source>Noise Reject</source>
@@ -678,10 +682,6 @@
     <message>
         <source>None of channel 2</source>
         <translation>Aucune de la voie 2</translation>
-    </message>
-    <message>
-        <source>Not all of %1 could be read</source>
-        <translation>%1 n’a pas pu être lu en entier</translation>
     </message>
     <message>
         <source>Not present: %1</source>

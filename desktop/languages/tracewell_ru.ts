@@ -20,6 +20,10 @@
         <translation>В %1 нет записи выбранных каналов</translation>
     </message>
     <message>
+        <source>%1 holds no setup</source>
+        <translation>В %1 нет настроек</translation>
+    </message>
+    <message>
         <source>%1: %2 of %3 settings not confirmed</source>
         <translation>%1: не подтверждено настроек: %2 из %3</translation>
     </message>
@@ -665,7 +669,7 @@
     </message>
     <message>
         <source>No room for all of %1: press %2 first</source>
-        <translation>Для %1 не хватает места: сначала нажмите «%2»</translation>
+        <translation>Для всего %1 не хватает места: сначала нажмите «%2»</translation>
     </message>
     <message>
         <source>Noise Reject</source>
@@ -678,10 +682,6 @@
     <message>
         <source>None of channel 2</source>
         <translation>Ничего для канала 2</translation>
-    </message>
-    <message>
-        <source>Not all of %1 could be read</source>
-        <translation>%1 удалось прочитать не полностью</translation>
     </message>
     <message>
         <source>Not present: %1</source>

@@ -20,6 +20,10 @@
         <translation>%1 中没有所选通道的波形</translation>
     </message>
     <message>
+        <source>%1 holds no setup</source>
+        <translation>%1 中没有设置</translation>
+    </message>
+    <message>
         <source>%1: %2 of %3 settings not confirmed</source>
         <translation>%1：%3 项设置中有 %2 项未确认</translation>
     </message>
@@ -678,10 +682,6 @@
     <message>
         <source>None of channel 2</source>
         <translation>通道 2 全不选</translation>
-    </message>
-    <message>
-        <source>Not all of %1 could be read</source>
-        <translation>未能读取 %1 的全部内容</translation>
     </message>
     <message>
         <source>Not present: %1</source>

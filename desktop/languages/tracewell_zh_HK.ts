@@ -13,11 +13,15 @@
     </message>
     <message>
         <source>%1 has no data</source>
-        <translation>%1 中沒有數據</translation>
+        <translation>%1 入面冇數據</translation>
     </message>
     <message>
         <source>%1 has no record of what was chosen</source>
-        <translation>%1 中沒有所選通道的波形</translation>
+        <translation>%1 入面冇所揀通道嘅波形</translation>
+    </message>
+    <message>
+        <source>%1 holds no setup</source>
+        <translation>%1 入面冇設定</translation>
     </message>
     <message>
         <source>%1: %2 of %3 settings not confirmed</source>
@@ -665,7 +669,7 @@
     </message>
     <message>
         <source>No room for all of %1: press %2 first</source>
-        <translation>%1 無法全部顯示：請先按「%2」</translation>
+        <translation>擺唔晒 %1：請先撳「%2」</translation>
     </message>
     <message>
         <source>Noise Reject</source>
@@ -678,10 +682,6 @@
     <message>
         <source>None of channel 2</source>
         <translation>通道 2 全部唔選</translation>
-    </message>
-    <message>
-        <source>Not all of %1 could be read</source>
-        <translation>未能讀取 %1 的全部內容</translation>
     </message>
     <message>
         <source>Not present: %1</source>

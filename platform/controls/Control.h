@@ -34,8 +34,9 @@ class Control : public Observable {
 
   Property<bool> visible{*this, true};
   Property<bool> enabled{*this, true};
-  /// The instrument was asked for this value and did not answer: what is shown is another one, such
-  /// as the stored one. The view marks it; a user who chooses a value takes the mark away.
+  /// The instrument did not tell this value, or something may have changed it: what is shown is
+  /// another one, such as the stored one. The view marks it; a user who chooses a value takes the
+  /// mark away.
   Property<bool> isUnread{*this, false};
 
   /// What is shown was right once and may be no longer. The view shows it pale.

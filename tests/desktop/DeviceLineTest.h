@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "DesktopClock.h"
 #include "Bench.h"
+#include "DesktopClock.h"
 #include "PortUser.h"
 
 namespace tracewell {
