@@ -178,6 +178,7 @@ std::map<std::string, std::string> Played::shownBy(Window& window) {
   std::map<std::string, std::string> shown = {{"title", window.caption()}};
   for (Control* control : window.controls()) {
     std::string text = textOf(*control);
+    replaceAll(text, inFolder_, "FOLDER/");
     replaceAll(text, pathText(folder.path()), "FOLDER");
     if (control->objectName() == "driveCSV" && text.ends_with(pathText(folder.path().root_path())))
       text = "ROOT";
@@ -233,8 +234,7 @@ std::string Played::play(const std::string& script) {
   replaceAll(text, "\r\n", "\\n");
   replaceAll(text, "\r", "\\r");
   replaceAll(text, "\n", "\\n");
-  replaceAll(text, pathText(folder.path()) + pathText(std::filesystem::path("/").make_preferred()),
-             "FOLDER/");
+  replaceAll(text, inFolder_, "FOLDER/");
   return text.substr(std::min<std::size_t>(2, text.size()));
 }
 

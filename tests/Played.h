@@ -40,6 +40,9 @@ class Played : public Bench {
   std::string newIn(Window& window);
   void note(const std::string& event) { events_.push_back(event); }
 
+  /// How the path of a file of the program folder begins.
+  const std::string inFolder_ =
+      pathText(folder.path()) + pathText(std::filesystem::path("/").make_preferred());
   std::deque<std::string> steps_;
   std::int64_t start_ = 0;
   bool isTruthTold_ = false;

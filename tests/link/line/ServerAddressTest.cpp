@@ -8,7 +8,7 @@ namespace tracewell {
 
 TEST(ServerAddress, FileNamesOneServerOrIsAnErrorThatNamesIt) {
   const ProgramFolderCopy folder;
-  const std::filesystem::path file = folder.path() / "com5";
+  const std::filesystem::path file = folder.path() / "server";
   const auto addressIn = [&](const std::string& text) -> std::string {
     writeWholeFile(file, text);
     try {
