@@ -13,7 +13,6 @@ namespace {
 
 constexpr std::string_view leadIn = "R";
 constexpr std::string_view lineEnd = "\r\n";
-constexpr const char* defaultName = "default.dso";
 
 /// Splits `line` at its commas into the cells of `row`; cells behind the last one stay.
 void fillRow(SetupTable& table, int row, std::string_view line) {
@@ -50,13 +49,13 @@ std::string withoutOuterBlanks(std::string_view text) {
 
 /// Loading and saving ask in the same words.
 FileDialog dialogDSO(const std::filesystem::path& folder) {
-  return {folder, "Load DSO Setup file", defaultName, "*.dso|*.dso"};
+  return {folder, "Load DSO Setup file", setupFile, "*.dso|*.dso"};
 }
 
 }  // namespace
 
 std::filesystem::path SetupFiles::defaultPath() const {
-  return main_.services().programFolder / defaultName;
+  return main_.services().programFolder / setupFile;
 }
 
 void SetupFiles::ReadSetupFile(const std::filesystem::path& path) {

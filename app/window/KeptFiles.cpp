@@ -37,7 +37,7 @@ std::string notice(const Words& words, const fs::path& path) {
 
 /// The others are kept when the user saves over them.
 bool isWrittenUnasked(const frmDSO& main, const fs::path& path) {
-  const bool isOurs = path.filename() == "default.dso" || path.filename() == "dso.err";
+  const bool isOurs = path.filename() == setupFile || path.filename() == errorLogFile;
   return isOurs && path.parent_path() == wholePath(main.services().programFolder);
 }
 

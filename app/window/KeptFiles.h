@@ -9,6 +9,10 @@
 /// anew; until then a notice beside the status line names it.
 namespace tracewell {
 
+/// What the program writes in its folder without being asked.
+constexpr const char* setupFile = "default.dso";
+constexpr const char* errorLogFile = "dso.err";
+
 void noteFileToKeep(frmDSO& main, const std::filesystem::path& path);
 
 /// It was taken whole, or is of no account any more.

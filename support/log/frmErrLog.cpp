@@ -7,8 +7,6 @@
 namespace tracewell {
 namespace {
 
-constexpr const char* logFile = "dso.err";
-
 /// As much as leaves a log that was cut room to grow, so that the next run takes it whole.
 std::string newestLines(const std::string& log) {
   constexpr std::size_t most = fileLimit::errorLog / 2;
@@ -27,7 +25,7 @@ frmErrLog::frmErrLog(frmDSO& main)
 }
 
 void frmErrLog::Form_Load() {
-  const std::filesystem::path path = services().programFolder / logFile;
+  const std::filesystem::path path = services().programFolder / errorLogFile;
   try {
     FileEnd log = readFileEnd(path, fileLimit::errorLog);
     isCut_ = !log.isWhole;
@@ -63,7 +61,7 @@ void frmErrLog::cmdClear_Click() {
 }
 
 void frmErrLog::cmdClose_Click() {
-  const std::filesystem::path path = services().programFolder / logFile;
+  const std::filesystem::path path = services().programFolder / errorLogFile;
   keepNotedFile(main_, path);
   writeWholeFile(path, isCut_ ? newestLines(txtErrLog.text()) : txtErrLog.text());
   hide();
