@@ -2,9 +2,6 @@
 #include "KeptFiles.h"
 #include "LinkSettings.h"
 #include "PortNotice.h"
-#include "ScreenMarks.h"
-#include "StaleScales.h"
-#include "TraceAge.h"
 #include "Tracewell.h"
 
 /// Which routine answers which control of the main window. A dialog joins its own controls to its
@@ -17,10 +14,10 @@ void Tracewell::connectLifecycle() {
   main.cmdClose.click = [this] { lifecycle.cmdClose_Click(); };
   main.mnbClose.click = [this] { lifecycle.cmdClose_Click(); };
   main.tmDSO.timer = [this] { acquisition.tmDSO_Timer(); };
-  main.tmStatus.timer = [this] {
-    showTraceAges(main);
-    showStaleScales(main);
-  };
+  main.tmStatus.timer = [this] { panelMarks.show(); };
+  main.marksDue = [this] { panelMarks.show(); };
+  main.known.changed = [this] { panelMarks.show(); };
+  main.services().standBy.meanwhile = [this] { panelMarks.show(); };
   main.tmTest.timer = [this] { lifecycle.tmTest_Timer(); };
 }
 
@@ -73,8 +70,6 @@ void Tracewell::connectView() {
   main.cmdCursor.click = [this] { cursors.cmdCursor_Click(); };
   main.graphDSO.cursorMoved = [this] { cursors.graphDSO_CursorMoved(); };
   main.graphDSO.enlargeToggled = [this] { graphSize.ToggleGraphSize(); };
-  main.graphDSO.marks = [this] { return screenMarks(main); };
-  main.graphDSO.valuesAt = [this](double x, double y) { return valuesAt(main, x, y); };
   main.cmdGraph.click = [this] { graphStyle.cmdGraph_Click(); };
   main.mnbGraph.click = [this] { graphStyle.cmdGraph_Click(); };
   main.cmdVMeasure.click = [this] { measurements.cmdVMeasure_Click(); };
@@ -118,7 +113,7 @@ void Tracewell::connectFiles() {
 void Tracewell::sayAgain() {
   sayPortAgain(main);
   main.status.tellAgain();
-  showTraceAges(main);
+  panelMarks.show();
   showFilesToKeep(main);
   errLog.showNewLines(main.NewLogLines);
 }

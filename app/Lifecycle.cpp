@@ -14,20 +14,20 @@
 namespace tracewell {
 
 Lifecycle::Lifecycle(frmDSO& main, SetupFiles& setupFiles, Captions& captions,
-                     CommandExchange& exchange, std::vector<Window*> windows)
+                     CommandExchange& exchange, ErrorLog& errorLog, std::vector<Window*> windows)
     : main_(main),
       setupFiles_(setupFiles),
       captions_(captions),
       exchange_(exchange),
+      errorLog_(errorLog),
       windows_(std::move(windows)) {}
 
 void Lifecycle::Form_Load() {
   setUpCursors(main_.graphDSO);
-  for (int i = 0; i < SharedState::sampleCount; ++i)
+  for (int i = 0; i < WaveformRecord::sampleCount; ++i)
     main_.XIndex[static_cast<std::size_t>(i)] = static_cast<std::int16_t>(i - 250);
-  main_.ChanOn[0] = true;
+  main_.channels[0].isDisplayed = true;
   main_.ChanCount = 1;
-  main_.AcqChan = 1;
   setUpSecondAxis(main_.graphDSO);
   setupFiles_.ReadSetupFile(setupFiles_.defaultPath());
   captions_.LoadCaptions();
@@ -67,9 +67,13 @@ void Lifecycle::cmdClose_Click() {
 }
 
 void Lifecycle::tmTest_Timer() {
-  const std::int16_t code = main_.TestChar;
-  main_.lblTest.caption = std::to_string(code) + ":" + static_cast<char>(code);
-  main_.TestChar = addInt16(code, 1);
+  try {
+    const std::int16_t code = TestChar;
+    main_.lblTest.caption = std::to_string(code) + ":" + static_cast<char>(code);
+    TestChar = addInt16(code, 1);
+  } catch (const Error& error) {
+    errorLog_.ErrLog(error, error.source());
+  }
 }
 
 }  // namespace tracewell

@@ -12,7 +12,7 @@ class Lifecycle {
  public:
   /// `windows` are all others, in the order in which they are unloaded.
   Lifecycle(frmDSO& main, SetupFiles& setupFiles, Captions& captions, CommandExchange& exchange,
-            std::vector<Window*> windows);
+            ErrorLog& errorLog, std::vector<Window*> windows);
 
   /// Raises an error that names the file when the language files cannot be used.
   void Form_Load();
@@ -20,7 +20,10 @@ class Lifecycle {
   void Form_Unload();
   /// Asks before it closes.
   void cmdClose_Click();
+  /// Logs its failure.
   void tmTest_Timer();
+  /// Shown and counted up by each tick.
+  std::int16_t TestChar = 0;
 
  private:
   void saveSetup();
@@ -29,6 +32,7 @@ class Lifecycle {
   SetupFiles& setupFiles_;
   Captions& captions_;
   CommandExchange& exchange_;
+  ErrorLog& errorLog_;
   std::vector<Window*> windows_;
 };
 

@@ -5,6 +5,7 @@ namespace tracewell {
 
 Tracewell::Tracewell(Services& services)
     : main(services),
+      panelMarks(main),
       errLog(main),
       errorLog(main, errLog),
       captions(main),
@@ -24,7 +25,7 @@ Tracewell::Tracewell(Services& services)
       timeScale(main),
       trigger(main, exchange, acquisition, burst),
       acquire(main, exchange, errorLog, acquisition, captions),
-      display(main, exchange, errorLog, acquisition),
+      display(main, exchange, errorLog, acquisition, burst),
       channelMath(main, exchange),
       message(main),
       autoset(main, exchange, errorLog, acquisition, instrument, message),
@@ -43,7 +44,7 @@ Tracewell::Tracewell(Services& services)
       console(main, errorLog, acquisition, commandLine),
       about(main),
       languageMenu(main, captions),
-      lifecycle(main, setupFiles, captions, exchange, otherWindows()) {
+      lifecycle(main, setupFiles, captions, exchange, errorLog, otherWindows()) {
   captions.setWindows(captionedWindows());
   connectLifecycle();
   connectLink();

@@ -12,6 +12,7 @@
 #include "Lifecycle.h"
 #include "Measurements.h"
 #include "PagePrinting.h"
+#include "PanelMarks.h"
 #include "ScaleKnobs.h"
 #include "TimeControls.h"
 #include "WaveformButtons.h"
@@ -39,6 +40,7 @@ class Tracewell {
   void start() { main.load(); }
 
   frmDSO main;
+  PanelMarks panelMarks;
 
   frmErrLog errLog;
   ErrorLog errorLog;

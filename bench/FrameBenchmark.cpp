@@ -18,7 +18,7 @@ class GraphBench {
   GraphBench() {
     view.resize(900, 600);
     view.bind(graph);
-    for (int i = 0; i < SharedState::sampleCount; ++i)
+    for (int i = 0; i < WaveformRecord::sampleCount; ++i)
       x[static_cast<std::size_t>(i)] = static_cast<std::int16_t>(i - 250);
     for (std::size_t wave = 0; wave < waves.size(); ++wave)
       for (std::size_t i = 0; i < x.size(); ++i)
@@ -26,12 +26,12 @@ class GraphBench {
             std::lround(150 * std::sin(static_cast<double>(i) / 40 + static_cast<double>(wave))));
     for (int number = 1; number <= ScopeGraph::plotCount; ++number)
       graph.plot(number).visible = true;
-    main.ChanOn = {true, true};
+    for (Channel& channel : main.channels) channel.isDisplayed = true;
     main.lblChan1.caption = "500.0 mV";
     main.lblChan2.caption = "1.000 V";
     main.lblTime.caption = "500.0 us";
     main.opTime.value = true;
-    graph.plot(2).isOld = true;
+    graph.plot(2).pale = [] { return true; };
     graph.enlarged = true;
     view.show();
     QApplication::processEvents();
@@ -48,7 +48,7 @@ class GraphBench {
   DesktopProgram program{"."};
   frmDSO& main = program.program.main;
   ScopeGraph& graph = main.graphDSO;
-  using Samples = std::array<std::int16_t, SharedState::sampleCount>;
+  using Samples = std::array<std::int16_t, WaveformRecord::sampleCount>;
   Samples x{};
   std::array<Samples, 64> waves{};
   /// Declared last: it lets go of the graph when it goes.

@@ -21,7 +21,7 @@ void recordToTrace(benchmark::State& state) {
   bench.port.tag = "1";
   bench.main.Ch1Pos = 1.5;
   for (auto _ : state) {
-    bench.main.WaveCount = 0;
+    bench.program.acquisition.WaveCount = 0;
     bench.port.deliver(record);
     benchmark::DoNotOptimize(bench.main.graphDSO.plot(1).y().data());
     benchmark::DoNotOptimize(bench.main.txtMsg.text().data());

@@ -72,10 +72,10 @@ void printRecords(int baudRate, bool isSlowFrame) {
   bench.port.settings.parity = isSlowFrame ? 1 : 0;
   bench.main.cbCh2.toggle();
   bench.clock.run(20000);
-  const int before = bench.main.WaveCount;
+  const int before = bench.program.acquisition.WaveCount;
   bench.clock.run(600000);
   std::cout << "| " << baudRate << (isSlowFrame ? " 8E2" : " 8N1") << " | "
-            << (bench.main.WaveCount - before) / 10.0 << " |\n";
+            << (bench.program.acquisition.WaveCount - before) / 10.0 << " |\n";
 }
 
 }  // namespace

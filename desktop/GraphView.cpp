@@ -224,7 +224,7 @@ void GraphView::showAxes() {
 void GraphView::showTrace(Plot& plot, QCPGraph& trace, qreal lineWidth) {
   trace.setVisible(plot.visible());
   QColor colour = toQt(plot.lineColour());
-  if (plot.isOld() && !isForPicture_)
+  if (plot.isPale() && !isForPicture_)
     colour = mixed(colour, toQt(graph_->plotAreaColour()), oldShare);
   trace.setPen(QPen(colour, lineWidth));
   trace.setScatterStyle(plot.pointStyle() == Plot::noPoints

@@ -42,19 +42,15 @@ Column columnOf(std::string name, const Samples& samples, std::optional<double> 
 /// The channels share it, and so must have come under one.
 std::optional<double> timeScale(const frmDSO& main) {
   std::vector<std::optional<double>> scales;
-  for (const int number : {1, 2})
-    if (main.graphDSO.plot(number).isShown())
-      scales.push_back(main.RecordScales[number == 1 ? 0 : 1].secondsPerDivision);
+  for (const Channel& channel : main.channels)
+    if (channel.plot.isShown()) scales.push_back(channel.record.madeUnder.secondsPerDivision);
   const bool isOne = !scales.empty() && std::ranges::count(scales, scales[0]) == std::ssize(scales);
   return isOne ? scales[0] : std::nullopt;
 }
 
-Column channelColumn(const frmDSO& main, int number) {
-  const bool isFirst = number == 1;
-  const std::string& name = (isFirst ? main.cbCh1 : main.cbCh2).caption();
-  const Samples samples = decodeSamples(isFirst ? main.Ch1Raw : main.Ch2Raw, 0);
-  const auto& scales = main.RecordScales[isFirst ? 0 : 1];
-  return columnOf(name, samples, scales.voltsPerDivision, "V");
+Column channelColumn(const Channel& channel) {
+  return columnOf(channel.display.caption(), decodeSamples(channel.record.bytes, 0),
+                  channel.record.madeUnder.voltsPerDivision, "V");
 }
 
 std::string tableOf(const std::vector<Column>& columns) {
@@ -76,8 +72,8 @@ std::string tableOf(const std::vector<Column>& columns) {
 
 std::string traceTable(const frmDSO& main) {
   std::vector<Column> channels = {columnOf("Time", main.XIndex, timeScale(main), "s")};
-  for (const int number : {1, 2})
-    if (main.graphDSO.plot(number).isShown()) channels.push_back(channelColumn(main, number));
+  for (const Channel& channel : main.channels)
+    if (channel.plot.isShown()) channels.push_back(channelColumn(channel));
   std::vector<Column> loaded = {columnOf("x", main.XIndex, std::nullopt, "")};
   for (int number = ScopeGraph::firstReference; number <= ScopeGraph::plotCount; ++number) {
     const Plot& plot = main.graphDSO.plot(number);

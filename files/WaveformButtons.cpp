@@ -12,8 +12,9 @@ namespace {
 /// The scales, so that a picture can be read without the program.
 std::string footnote(const frmDSO& main) {
   std::string text;
-  if (main.cbCh1.isChecked()) text += main.cbCh1.caption() + " " + main.lblChan1.caption() + "    ";
-  if (main.cbCh2.isChecked()) text += main.cbCh2.caption() + " " + main.lblChan2.caption() + "    ";
+  for (const Channel& channel : main.channels)
+    if (channel.display.isChecked())
+      text += channel.display.caption() + " " + channel.scale.caption() + "    ";
   return text + main.lblTime.caption();
 }
 

@@ -41,7 +41,7 @@ void forEachDataLine(std::string_view text, Take take) {
   std::string_view line;
   takeLine(text, line);
   for (int count = 0; takeLine(text, line); ++count) {
-    if (count >= SharedState::sampleCount) throw subscriptError();
+    if (count >= WaveformRecord::sampleCount) throw subscriptError();
     try {
       take(line);
     } catch (const Error& error) {

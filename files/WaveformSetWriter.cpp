@@ -36,7 +36,7 @@ std::string BuildCsvText(const frmDSO& main) {
   const std::string comma = hasChannel1 && hasChannel2 ? "," : "";
   std::string text =
       (hasChannel1 ? "Channel 1" : "") + comma + (hasChannel2 ? "Channel 2" : "") + lineEnd;
-  for (int i = 0; i < SharedState::sampleCount; ++i) {
+  for (int i = 0; i < WaveformRecord::sampleCount; ++i) {
     if (hasChannel1) text += sampleText(main.Ch1Raw, i);
     text += comma;
     if (hasChannel2) text += sampleText(main.Ch2Raw, i);

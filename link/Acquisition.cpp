@@ -3,9 +3,6 @@
 
 #include "ConnectionIndicator.h"
 #include "Numbers.h"
-#include "PortNotice.h"
-#include "RecordScales.h"
-#include "TraceAge.h"
 #include "WaveformRecord.h"
 
 namespace tracewell {
@@ -24,14 +21,15 @@ void ignoringErrors(Step step) {
 }  // namespace
 
 void Acquisition::tmDSO_Timer() {
-  const auto [isChannel1On, isChannel2On] = main_.ChanOn;
+  const bool isChannel1On = main_.channels[0].isDisplayed;
+  const bool isChannel2On = main_.channels[1].isDisplayed;
   if (isChannel1On && isChannel2On)
-    main_.AcqChan = main_.AcqChan == 1 ? 2 : 1;
+    AcqChan = AcqChan == 1 ? 2 : 1;
   else if (isChannel1On)
-    main_.AcqChan = 1;
+    AcqChan = 1;
   else if (isChannel2On)
-    main_.AcqChan = 2;
-  AcqDSO(main_.AcqChan);
+    AcqChan = 2;
+  AcqDSO(AcqChan);
 }
 
 void Acquisition::AcqDSO(std::int16_t channel) {
@@ -41,9 +39,9 @@ void Acquisition::AcqDSO(std::int16_t channel) {
     port.prepare();
     port.write(":ACQ" + std::to_string(channel) + ":POIN\r\n", SerialPort::Expects::record);
     port.tag = std::to_string(channel);
+    port.stamp = main_.known.now();
     port.beginRead(WaveformRecord::byteCount);
-    main_.PortBusy = true;
-    noteRequestScales(main_, channel);
+    PortBusy = true;
   } catch (const Error& error) {
     errorLog_.ErrLog(error, "AcqDSO : ");
   }
@@ -51,37 +49,46 @@ void Acquisition::AcqDSO(std::int16_t channel) {
 
 void Acquisition::DataReady(const std::string& data) {
   SerialPort& port = main_.services().port;
-  std::int16_t channel = 0;
-  std::int16_t offset = 0;
-  ignoringErrors([&] { channel = toInt16(port.tag); });
-  const bool isSameSweep = data == (channel == 1 ? main_.Ch1Raw : main_.Ch2Raw);
-  ignoringErrors([&] { offset = keepRecord(channel, data); });
-  const Samples samples = decodeSamples(data, offset);
-  ignoringErrors([&] { main_.graphDSO.plot(channel).plotXvsY(main_.XIndex, samples); });
-  main_.txtMsg.text = recordText(channel, samples);
-  markTrace(main_);
-  noteRecordScales(main_, channel, isSameSweep);
-  noteRecord(main_, channel);
+  std::int16_t number = 0;
+  std::int16_t shift = 0;
+  ignoringErrors([&] { number = toInt16(port.tag); });
+  Channel& channel = main_.channel(number == 1 ? 1 : 2);
+  keepRecord(channel, data);
+  ignoringErrors([&] { shift = channel.recordShift(); });
+  const Samples samples = decodeSamples(data, shift);
+  ignoringErrors([&] {
+    main_.graphDSO.plot(number).plotXvsY(main_.XIndex, samples);
+    channel.drawnShift = shift;
+  });
+  main_.txtMsg.text = recordText(number, samples);
+  main_.marksDue.raise();
   ignoringErrors([&] { port.reset(); });
-  ignoringErrors([&] { main_.WaveCount = addInt16(main_.WaveCount, 1); });
+  ignoringErrors([&] { WaveCount = addInt16(WaveCount, 1); });
 }
 
-/// Keeps the raw record; the result is the channel's vertical position in sample units.
-std::int16_t Acquisition::keepRecord(std::int16_t channel, const std::string& data) {
-  if (channel == 1) {
-    main_.Ch1Raw = data;
-    return toInt16(Graph::unitsPerDivision * main_.Ch1Pos);
+/// Of a sweep that was fetched before, only that it is there still is new.
+void Acquisition::keepRecord(Channel& channel, const std::string& data) {
+  const SerialPort& port = main_.services().port;
+  const std::int64_t now = main_.services().clock.milliseconds();
+  const InstrumentLine line{port.openPort(), port.openings()};
+  MadeUnder made;
+  if (line == main_.known.presentLine()) made = main_.known.madeUnder(channel.number, port.stamp);
+  ChannelRecord& record = channel.record;
+  record.fetchedAt = now;
+  if (record.isSameSweep(data, line)) {
+    record.madeUnder.stop = made.stop;
+    return;
   }
-  main_.Ch2Raw = data;
-  return mulInt16(main_.Ch2Pos, Graph::unitsPerDivision);
+  record = {data, line, made, now, now};
+  main_.known.swept(port.stamp);
 }
 
 void Acquisition::StopAcq() {
   try {
     main_.tmDSO.enabled = false;
-    if (main_.PortBusy) {
+    if (PortBusy) {
       main_.services().port.reset();
-      main_.PortBusy = false;
+      PortBusy = false;
     }
     showOnStart(main_, 2);
   } catch (const Error& error) {
@@ -91,7 +98,7 @@ void Acquisition::StopAcq() {
 
 void Acquisition::ResumeAcq() {
   showRunning(main_);
-  main_.PortBusy = true;
+  PortBusy = true;
   main_.tmDSO.enabled = true;
   showOnStart(main_, 3);
 }

@@ -34,12 +34,20 @@ class Acquisition {
   /// Runs or stops the instrument's own acquisition; the periodic fetch goes on.
   void cmdRunStop_Click();
 
+  /// Records that have come; no more are counted beyond 32767.
+  std::int16_t WaveCount = 0;
+
  private:
-  std::int16_t keepRecord(std::int16_t channel, const std::string& data);
+  void keepRecord(Channel& channel, const std::string& data);
 
   frmDSO& main_;
   CommandExchange& exchange_;
   ErrorLog& errorLog_;
+  /// 1 or 2: whose record is requested next.
+  std::int16_t AcqChan = 1;
+  /// A record has been requested, or the acquisition resumed, and the port not been reset by
+  /// StopAcq since.
+  bool PortBusy = false;
 };
 
 }  // namespace tracewell

@@ -23,7 +23,36 @@ std::string replyValue(const std::string& line) {
 }  // namespace
 
 std::string CommandExchange::SendDSOCmd(const std::string& command) {
+  std::string reply = transfer(command);
+  if (isQuery(command))
+    noteAnswered(command, reply);
+  else if (wasSent_)
+    main_.known.sent(command);
+  else
+    main_.known.notSent(command);
+  return reply;
+}
+
+/// A line that ends as a query may hold commands, too.
+std::string CommandExchange::sendTyped(const std::string& line) {
+  std::string reply = transfer(line);
+  if (wasSent_ || isQuery(line))
+    main_.known.typed(line);
+  else
+    main_.known.notSent(line);
+  if (isQuery(line)) noteAnswered(line, reply);
+  return reply;
+}
+
+std::string CommandExchange::transfer(const std::string& command) {
   return isQuery(command) ? ask(command) : send(command, repeatLimit);
+}
+
+void CommandExchange::noteAnswered(const std::string& query, const std::string& reply) {
+  if (reply.empty())
+    main_.known.notAnswered(query);
+  else
+    main_.known.answered(query, reply);
 }
 
 std::string CommandExchange::ask(const std::string& query) {
@@ -83,7 +112,9 @@ void CommandExchange::LoadSetup() {
     port.reset();
     main_.cmdLock.value = false;
     main_.InRemote = false;
+    main_.known.sent(":SYST:UNL");
   } catch (const Error& error) {
+    main_.known.notSent(":SYST:UNL");
     errorLog_.ErrLog(error, "LoadSetup : ");
   }
 }

@@ -24,10 +24,13 @@ class CommandExchange {
   /// failed command, and a query that has failed to the last, are logged.
   std::string SendDSOCmd(const std::string& command);
 
+  /// The same for a line that the user has typed: what it sets is not the panel's choice.
+  std::string sendTyped(const std::string& line);
+
   /// What an Inquiry begins with.
   Inquiries& inquiries() { return inquiries_; }
 
-  /// Whether the last command went out.
+  /// Whether the last command went out, and was answered if it was a query.
   bool wasSent() const { return wasSent_; }
 
   /// Releases the instrument's own panel if a command has locked it. Logs its failure.
@@ -35,6 +38,8 @@ class CommandExchange {
 
  private:
   static constexpr int repeatLimit = 8;
+  std::string transfer(const std::string& command);
+  void noteAnswered(const std::string& query, const std::string& reply);
   std::string ask(const std::string& query);
   std::string send(const std::string& command, int repeatsLeft);
   void noteAnswer(const std::string& command, bool isAnswered);

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "CommandLine.h"
 
-#include "TypedCommand.h"
 #include "Waiting.h"
 
 namespace tracewell {
@@ -18,14 +17,21 @@ void CommandLine::cmdTest_Click() {
   send();
 }
 
+bool CommandLine::isOneCommand(const std::string& text) const {
+  if (text.find_first_of("\r\n") == std::string::npos) return true;
+  main_.status.tell(StatusLine::happened, [](const Words& words) {
+    return words.say("Not sent: the text has more than one line");
+  });
+  return false;
+}
+
 void CommandLine::send() {
   const std::string command = withoutLineEnd(main_.txtTest.text());
-  if (command.empty()) return;
+  if (command.empty() || !isOneCommand(command)) return;
   try {
     main_.txtMsg.text = "";
     const ShortTimeOut shortTimeOut(main_);
-    main_.txtMsg.text = exchange_.SendDSOCmd(command);
-    if (exchange_.wasSent()) noteTypedCommand(main_, command);
+    main_.txtMsg.text = exchange_.sendTyped(command);
   } catch (const Error& error) {
     errorLog_.ErrLog(error, error.source());
   }

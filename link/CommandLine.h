@@ -18,6 +18,10 @@ class CommandLine {
   void txtTest_KeyDown(int code);
   void cmdTest_Click();
 
+  /// A text with a line end inside it is several commands, of which the reply box could show one
+  /// answer. It is not sent; the status line says so.
+  bool isOneCommand(const std::string& text) const;
+
  private:
   void send();
 

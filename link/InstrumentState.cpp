@@ -7,8 +7,6 @@
 #include "PortNotice.h"
 #include "SlideCaption.h"
 #include "SlideValues.h"
-#include "StaleScales.h"
-#include "TriggerMarker.h"
 
 namespace tracewell {
 namespace {
@@ -30,31 +28,27 @@ void InstrumentState::InitDSO() {
   } catch (const Error& error) {
     errorLog_.ErrLog(error, "InitDSO : ");
   }
-  showStaleScales(main_);
-  UpdateTriggerMarker(main_);
 }
 
 void InstrumentState::readAll() {
   Inquiry inquiry(exchange_.inquiries(), main_.fmInstrument.caption, Inquiry::Of::questions, 5);
-  markAllUnread();
+  main_.known.reading();
+  auto& [first, second] = main_.channels;
   inquiry.next();
-  main_.lblChan1.caption = trimmed(exchange_.SendDSOCmd(":CHAN1:SCAL?"));
+  first.scale.caption = trimmed(exchange_.SendDSOCmd(":CHAN1:SCAL?"));
   if (!main_.LinkOK) return;
-  // What it does not answer from here on is marked as that.
-  noteScalesRead(main_);
-  if (main_.lblChan1.caption().empty())
-    main_.lblChan1.caption = exchange_.SendDSOCmd(":CHAN1:SCAL?");
-  showScaleOnly(ScaleKnob::Chan1, main_.lblChan1, main_.knobChan1);
+  if (first.scale.caption().empty()) first.scale.caption = exchange_.SendDSOCmd(":CHAN1:SCAL?");
+  showScaleOnly(first.kind, first.scale, first.knob);
   inquiry.next();
-  main_.lblChan2.caption = scaleReply(":CHAN2:SCAL?");
-  showScaleOnly(ScaleKnob::Chan2, main_.lblChan2, main_.knobChan2);
+  second.scale.caption = scaleReply(":CHAN2:SCAL?");
+  showScaleOnly(second.kind, second.scale, second.knob);
   inquiry.next();
   main_.lblTime.caption = scaleReply(":TIM:SCAL?");
   showScaleOnly(ScaleKnob::Time, main_.lblTime, main_.knobTime);
-  inquiry.next();
-  readChannel1Position();
-  inquiry.next();
-  readChannel2Position();
+  for (Channel& channel : main_.channels) {
+    inquiry.next();
+    readPosition(channel);
+  }
 }
 
 /// Data bits, stop bits and parity stay those of the start and of the RS-232 dialog.
@@ -77,10 +71,7 @@ void InstrumentState::readScale(const std::string& query, ScaleKnob kind, ValueL
 
 void InstrumentState::showScale(ScaleKnob kind, ValueLabel& label, Knob& knob) {
   const auto step = ScaleStepForReply(kind, label.caption());
-  label.isUnread = label.caption().empty();
-  knob.isUnread = !step;
   label.refresh();
-  UpdateTriggerMarker(main_);
   if (step) knob.value = *step;
 }
 
@@ -91,19 +82,6 @@ void InstrumentState::showScaleOnly(ScaleKnob kind, ValueLabel& label, Knob& kno
     showScale(kind, label, knob);
   } catch (const Error&) {
   }
-}
-
-/// Until each has its answer. Delay, trigger level and math are not asked for: they are known where
-/// they have been set here, on this line.
-void InstrumentState::markAllUnread() {
-  for (Control* control : std::initializer_list<Control*>{
-           &main_.lblChan1, &main_.lblChan2, &main_.lblTime, &main_.knobChan1, &main_.knobChan2,
-           &main_.knobTime, &main_.slideCH1, &main_.slideCH2})
-    control->isUnread = true;
-  if (!main_.TriggerLevelSet) main_.slideTrig.isUnread = true;
-  if (!main_.MathEntry) main_.cbMath.isUnread = true;
-  if (!main_.scaleOrigin) main_.slideTime.isUnread = true;
-  main_.graphDSO.notifyChanged();
 }
 
 /// A second reply counts as it stands.
@@ -118,34 +96,17 @@ std::string InstrumentState::positionReply(const std::string& query) {
   return reply.empty() ? trimmed(exchange_.SendDSOCmd(query)) : reply;
 }
 
-double InstrumentState::readPosition(const std::string& query, const ValueLabel& scale,
-                                     Slide& slide) {
-  const double voltsPerDivision = ParseScaleCaption(scale.caption());
-  const std::string reply = positionReply(query);
-  const double divisions = divide(ParseScaleCaption(reply), voltsPerDivision);
-  slide.isUnread = !beginsWithNumber(captionNumber(reply));
-  return divisions;
-}
-
-void InstrumentState::showPosition(Slide& slide, double divisions) {
-  slide.value = divisions;
-  noteSlideValue(main_, slide);
-  slide.caption = slideTitle(slide.caption()) + formatTwoDecimals(divisions) + " Div";
-}
-
-void InstrumentState::readChannel1Position() {
-  if (isNull(main_.lblChan1)) return;
-  main_.Ch1Pos = readPosition("CHAN1:OFFS?", main_.lblChan1, main_.slideCH1);
-  showPosition(main_.slideCH1, main_.Ch1Pos);
-  main_.Ch1PosCounts = toInt16(main_.Ch1Pos * Graph::unitsPerDivision);
-}
-
-/// Channel 2 keeps whole divisions, unlike channel 1.
-void InstrumentState::readChannel2Position() {
-  if (isNull(main_.lblChan2)) return;
-  main_.Ch2Pos = toInt16(readPosition("CHAN2:OFFS?", main_.lblChan2, main_.slideCH2));
-  showPosition(main_.slideCH2, main_.Ch2Pos);
-  main_.Ch2PosCounts = mulInt16(main_.Ch2Pos, Graph::unitsPerDivision);
+void InstrumentState::readPosition(Channel& channel) {
+  if (isNull(channel.scale)) return;
+  const double voltsPerDivision = ParseScaleCaption(channel.scale.caption());
+  // These queries have no colon in front.
+  const std::string reply = positionReply(channel.stem().substr(1) + "OFFS?");
+  channel.position = channel.keptPosition(divide(ParseScaleCaption(reply), voltsPerDivision));
+  channel.slide.value = channel.position;
+  channel.positionCounts = channel.recordShift();
+  noteSlideValue(main_, channel.slide);
+  channel.slide.caption =
+      slideTitle(channel.slide.caption()) + formatTwoDecimals(channel.position) + " Div";
 }
 
 }  // namespace tracewell

@@ -15,8 +15,8 @@ class InstrumentState {
       : main_(main), exchange_(exchange), errorLog_(errorLog) {}
 
   /// Applies baud rate and port number of the setup table, then reads what the instrument is set
-  /// to. Success shows in LinkOK; a silent instrument ends it at the first query. What has no
-  /// answer is marked as unread. Logs its failure.
+  /// to. Success shows in LinkOK; a silent instrument ends it at the first query. Logs its
+  /// failure.
   void InitDSO();
 
   /// Shows the reply to a scale query and moves the knob to it, if the reply is in the table.
@@ -27,14 +27,9 @@ class InstrumentState {
   void applyBaudRateAndPort();
   std::string scaleReply(const std::string& query);
   std::string positionReply(const std::string& query);
-  void markAllUnread();
   void showScaleOnly(ScaleKnob kind, ValueLabel& label, Knob& knob);
   void showScale(ScaleKnob kind, ValueLabel& label, Knob& knob);
-  void readChannel1Position();
-  void readChannel2Position();
-  /// In divisions; 0 where there is no answer, and the slide is marked then.
-  double readPosition(const std::string& query, const ValueLabel& scale, Slide& slide);
-  void showPosition(Slide& slide, double divisions);
+  void readPosition(Channel& channel);
 
   frmDSO& main_;
   CommandExchange& exchange_;

@@ -6,28 +6,32 @@
 
 namespace tracewell {
 
-std::vector<bool> SettingsBurst::writeAndVerify(const Property<std::string>& caption,
-                                                std::span<const std::string_view> stems, int row,
-                                                int first) {
+void SettingsBurst::writeAndVerify(const Property<std::string>& caption,
+                                   std::span<const std::string_view> stems, int row, int first) {
   main_.refresh();
+  const Sending sending(*this, row);
   const ShortTimeOut shortTimeOut(main_);
   main_.txtMsg.text = "";
   const int count = static_cast<int>(stems.size());
-  std::vector<bool> areTaken;
   Inquiry inquiry(exchange_.inquiries(), caption, Inquiry::Of::settings, count - first);
   for (int i = first; i < count; ++i) {
     inquiry.next();
-    bool isRight = false;
     bool isDone = false;
     for (int attempt = 0; attempt < attempts && !isDone; ++attempt) {
-      isRight = isAccepted(std::string(stems[static_cast<std::size_t>(i)]), row,
-                           SetupTable::firstValue + i);
+      const bool isRight = isAccepted(std::string(stems[static_cast<std::size_t>(i)]), row,
+                                      SetupTable::firstValue + i);
       inquiry.note(isRight);
       isDone = isRight || inquiry.isGivenUp();
     }
-    areTaken.push_back(isRight);
   }
-  return areTaken;
+}
+
+bool SettingsBurst::isSending(int row, const Property<std::string>& caption) const {
+  if (!rows_.contains(row)) return false;
+  main_.status.tell(StatusLine::happened, [&caption](const Words& words) {
+    return words.say("%1: wait until the settings have been sent", {caption()});
+  });
+  return true;
 }
 
 bool SettingsBurst::isAccepted(const std::string& stem, int row, int column) {

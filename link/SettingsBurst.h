@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <set>
 #include <span>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "CommandExchange.h"
 
@@ -23,9 +23,24 @@ class SettingsBurst {
   /// follows without a word. The reply box shows every line as it goes out. Replies are given
   /// the short time-out meanwhile. Throws ProgramEnded when the window is closed in between.
   /// The status line calls them by `caption`. After Escape each is written once, unverified.
-  /// Returns for each whether the instrument has it.
-  std::vector<bool> writeAndVerify(const Property<std::string>& caption,
-                                   std::span<const std::string_view> stems, int row, int first);
+  void writeAndVerify(const Property<std::string>& caption, std::span<const std::string_view> stems,
+                      int row, int first);
+
+  /// A row of the setup table is being sent as long as it lives.
+  class Sending {
+   public:
+    Sending(SettingsBurst& burst, int row) : burst_(burst), row_(row) { burst_.rows_.insert(row); }
+    ~Sending() { burst_.rows_.erase(row_); }
+    Sending(const Sending&) = delete;
+
+   private:
+    SettingsBurst& burst_;
+    int row_;
+  };
+
+  /// Whether that is so. Then the dialog that edits the row, whose name is `caption`, may not open:
+  /// it would put other settings into the row. The status line says so.
+  bool isSending(int row, const Property<std::string>& caption) const;
 
  private:
   static constexpr int attempts = 3;
@@ -33,6 +48,7 @@ class SettingsBurst {
 
   frmDSO& main_;
   CommandExchange& exchange_;
+  std::set<int> rows_;
 };
 
 /// Adds a line to the reply box and shows it at once.

@@ -4,8 +4,6 @@
 #include "LinkSettings.h"
 #include "Numbers.h"
 #include "PortNotice.h"
-#include "StaleScales.h"
-#include "TriggerMarker.h"
 
 namespace tracewell {
 
@@ -61,7 +59,6 @@ std::string frmRS232::deviceAndState(std::int16_t number) const {
 
 void frmRS232::cmdOK_Click() {
   LineSettings& settings = services().port.settings;
-  const std::int16_t portBefore = settings.portNumber;
   main_.BaudRate = toInt16(cbRS232(baudRateValue).text());
   settings.baudRate = main_.BaudRate;
   settings.portNumber = toInt16(cbRS232(portValue).text());
@@ -75,8 +72,7 @@ void frmRS232::cmdOK_Click() {
        {StatusLine::stoppedByError, StatusLine::missedBySeries, StatusLine::missedByOne})
     main_.status.withdraw(topic);
   showDifferingLink(main_);
-  if (settings.portNumber != portBefore) ForgetUnaskedSettings(main_);
-  showStaleScales(main_);
+  main_.marksDue.raise();
   hide();
   main_.refresh();
 }

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Autoset.h"
 
-#include "TriggerMarker.h"
 #include "Waiting.h"
 
 namespace tracewell {
@@ -21,7 +20,6 @@ void Autoset::cmdAutoset_Click() {
     message_.show();
     acquisition_.StopAcq();
     exchange_.SendDSOCmd(":AUT");
-    if (exchange_.wasSent()) ForgetUnaskedSettings(main_);
     message_.showProgress(duration);
     Delay(main_, duration);
     instrument_.InitDSO();

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ChannelControls.h"
 
-#include "KnownScales.h"
 #include "Numbers.h"
 #include "SlideValues.h"
-#include "TriggerMarker.h"
 #include "WaveformRecord.h"
 
 namespace tracewell {
@@ -26,46 +24,36 @@ void ChannelControls::slideCH2_PointerValueChanged() {
   showSlideValue(main_, main_.slideCH2);
 }
 
-void ChannelControls::showChannel(const Channel& channel) {
+void ChannelControls::showChannel(Channel& channel) {
   try {
     const bool isShown = channel.display.value() != 0;
-    main_.ChanOn[static_cast<std::size_t>(channel.number - 1)] = isShown;
-    main_.graphDSO.plot(channel.number).visible = isShown;
+    channel.isDisplayed = isShown;
+    channel.plot.visible = isShown;
     main_.ChanCount = addInt16(main_.ChanCount, isShown ? 1 : -1);
     exchange_.SendDSOCmd(channel.stem() + "DISP " + (isShown ? "1" : "0"));
-    channel.display.isUnread = !exchange_.wasSent();
   } catch (const Error& error) {
     errorLog_.ErrLog(error, channel.display.name() + "_Click : ");
   }
 }
 
-void ChannelControls::commitPosition(const Channel& channel) {
+void ChannelControls::commitPosition(Channel& channel) {
   try {
     const double volts = checked(offsetVolts(channel.scale.caption(), channel.slide.value()));
-    keepPosition(channel);
+    channel.position = channel.keptPosition(channel.slide.value());
     exchange_.SendDSOCmd(channel.stem() + "OFFS " + formatExponent(volts));
-    channel.slide.isUnread = !exchange_.wasSent() || !voltsPerDivision(main_, channel.number);
     redraw(channel, mulInt16(toInt16(channel.slide.value()), Graph::unitsPerDivision));
-    UpdateTriggerMarker(main_);
+    main_.marksDue.raise();
     acquisition_.ResumeAcq();
   } catch (const Error& error) {
     errorLog_.ErrLog(error, channel.slide.name() + "_PointerValueCommitted : ");
   }
 }
 
-/// Channel 1 keeps the slide's value as it is, channel 2 rounded.
-void ChannelControls::keepPosition(const Channel& channel) {
-  const double divisions = channel.slide.value();
-  if (channel.number == 1)
-    main_.Ch1Pos = divisions;
-  else
-    main_.Ch2Pos = toInt16(divisions);
-}
-
 /// Before the first record of a channel there is nothing to redraw.
-void ChannelControls::redraw(const Channel& channel, std::int16_t shift) {
-  if (channel.record.empty()) return;
-  main_.graphDSO.plot(channel.number).plotXvsY(main_.XIndex, shiftSamples(channel.record, shift));
+void ChannelControls::redraw(Channel& channel, std::int16_t shift) {
+  if (channel.record.bytes.empty()) return;
+  channel.plot.plotXvsY(main_.XIndex, shiftSamples(channel.record.bytes, shift));
+  channel.drawnShift = shift;
 }
 
 }  // namespace tracewell

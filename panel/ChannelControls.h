@@ -4,7 +4,6 @@
 #include <string>
 
 #include "Acquisition.h"
-#include "Channel.h"
 
 namespace tracewell {
 
@@ -16,29 +15,26 @@ class ChannelControls {
                   Acquisition& acquisition)
       : main_(main), exchange_(exchange), errorLog_(errorLog), acquisition_(acquisition) {}
 
-  void cbCh1_Click() { showChannel(channel1_); }
-  void cbCh2_Click() { showChannel(channel2_); }
+  void cbCh1_Click() { showChannel(main_.channels[0]); }
+  void cbCh2_Click() { showChannel(main_.channels[1]); }
 
   /// While dragging only the caption follows; nothing is sent.
   void slideCH1_PointerValueChanged();
   void slideCH2_PointerValueChanged();
   /// Sends the offset, redraws the record that is held, and resumes the acquisition, whether it ran
   /// or not.
-  void slideCH1_PointerValueCommitted() { commitPosition(channel1_); }
-  void slideCH2_PointerValueCommitted() { commitPosition(channel2_); }
+  void slideCH1_PointerValueCommitted() { commitPosition(main_.channels[0]); }
+  void slideCH2_PointerValueCommitted() { commitPosition(main_.channels[1]); }
 
  private:
-  void showChannel(const Channel& channel);
-  void commitPosition(const Channel& channel);
-  void keepPosition(const Channel& channel);
-  void redraw(const Channel& channel, std::int16_t shift);
+  void showChannel(Channel& channel);
+  void commitPosition(Channel& channel);
+  void redraw(Channel& channel, std::int16_t shift);
 
   frmDSO& main_;
   CommandExchange& exchange_;
   ErrorLog& errorLog_;
   Acquisition& acquisition_;
-  const Channel channel1_ = Channel::of(main_, 1);
-  const Channel channel2_ = Channel::of(main_, 2);
 };
 
 }  // namespace tracewell

@@ -7,6 +7,9 @@ const std::array<std::string_view, 5> ChanQuery1 = {":CHAN1:DISP", ":CHAN1:INV",
                                                     ":CHAN1:COUP", ":CHAN1:PROB"};
 const std::array<std::string_view, 5> ChanQuery2 = {":CHAN2:DISP", ":CHAN2:INV", ":CHAN2:BWL",
                                                     ":CHAN2:COUP", ":CHAN2:PROB"};
+const std::array<std::string_view, 5>& channelQueries(int channel) {
+  return channel == 1 ? ChanQuery1 : ChanQuery2;
+}
 const std::array<std::string_view, 3> AcqQuery = {":ACQ:MOD", ":ACQ:AVER", ":ACQ:LEN"};
 const std::array<std::string_view, 6> TrigQuery = {":TRIG:SOUR", ":TRIG:MOD", ":TRIG:SLOP",
                                                    ":TRIG:COUP", ":TRIG:REJ", ":TRIG:NREJ"};

@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "TimeControls.h"
 
-#include "KnownScales.h"
 #include "Numbers.h"
 #include "ScaleTables.h"
 #include "SlideValues.h"
-#include "TriggerMarker.h"
 
 namespace tracewell {
 namespace {
@@ -30,7 +28,6 @@ void TimeControls::slideTime_PointerValueCommitted() {
     acquisition_.StopAcq();
     const double delay = checked(delaySeconds(main_.lblTime.caption(), main_.slideTime.value()));
     exchange_.SendDSOCmd(":TIM:DEL " + formatExponent(delay));
-    main_.slideTime.isUnread = !exchange_.wasSent() || !secondsPerDivision(main_);
     acquisition_.ResumeAcq();
   } catch (const Error& error) {
     errorLog_.ErrLog(error, "slideTime_PointerValueCommitted ");
@@ -39,15 +36,12 @@ void TimeControls::slideTime_PointerValueCommitted() {
 
 void TimeControls::slideTrig_PointerValueChanged() {
   showSlideValue(main_, main_.slideTrig);
-  main_.TriggerLevelSet = true;
-  UpdateTriggerMarker(main_);
+  // Its marker follows the hand.
+  main_.marksDue.raise();
 }
 
 void TimeControls::slideTrig_MouseUp() {
   exchange_.SendDSOCmd(":TRIG:LEV " + formatExponent(main_.slideTrig.value()));
-  main_.slideTrig.isUnread = !exchange_.wasSent();
-  main_.TriggerLevelSet = exchange_.wasSent();
-  UpdateTriggerMarker(main_);
 }
 
 }  // namespace tracewell

@@ -3,6 +3,7 @@
 
 #include "Inquiry.h"
 #include "Numbers.h"
+#include "SettingsQueries.h"
 #include "WaitingNotice.h"
 
 namespace tracewell {
@@ -10,10 +11,8 @@ namespace {
 
 constexpr int boxCount = 3;
 
-/// Selects the option that the reply names, or marks the group, of which none may be selected yet.
-void showOption(Frame& group, ControlArray<OptionButton>& options, const std::string& reply) {
-  if (isNumeric(reply)) options(toInt16(reply)).value = true;
-  group.isUnread = !isNumeric(reply);
+std::int16_t rowOf(const Channel& channel) {
+  return channel.number == 1 ? SetupTable::channel1 : SetupTable::channel2;
 }
 
 }  // namespace
@@ -28,18 +27,24 @@ frmChannel::frmChannel(frmDSO& main, CommandExchange& exchange, ErrorLog& errorL
       burst_(burst),
       instrument_(instrument) {
   formActivate = [this] { tag = "0"; };
-  for (OptionButton& option : obCoupling) option.click = [this] { fmCoupling.isUnread = false; };
-  for (OptionButton& option : obProbe) option.click = [this] { fmProbe.isUnread = false; };
+  for (CheckBox& box : cbCh) unanswered_.watch(box);
+  for (auto& [group, options] : {std::pair(&fmCoupling, &obCoupling), {&fmProbe, &obProbe}}) {
+    unanswered_.watch(*group);
+    for (OptionButton& option : *options)
+      option.chosen = [this, group] { unanswered_.note(*group, true); };
+  }
   cmdOK.click = [this] { cmdOK_Click(); };
   cmdCancel.click = [this] { cmdCancel_Click(); };
 }
 
-void frmChannel::editSettings(const Channel& channel) {
+void frmChannel::editSettings(Channel& channel) {
   try {
+    if (burst_.isSending(rowOf(channel), channel.menuEntry.caption)) return;
     readSettings(channel);
     showModal();
     if (tag == "1")
-      burst_.writeAndVerify(channel.menuEntry.caption, channel.queries, channel.setupRow, 1);
+      burst_.writeAndVerify(channel.menuEntry.caption, channelQueries(channel.number),
+                            rowOf(channel), 1);
     acquisition_.RunAcq();
     instrument_.readScale(channel.stem() + "SCAL?", channel.kind, channel.scale, channel.knob);
   } catch (const Error& error) {
@@ -50,9 +55,9 @@ void frmChannel::editSettings(const Channel& channel) {
 void frmChannel::readSettings(const Channel& channel) {
   const WaitingNotice notice(main_);
   Inquiry inquiry(exchange_.inquiries(), channel.menuEntry.caption, Inquiry::Of::questions, 5);
-  setupRow_ = channel.setupRow;
+  setupRow_ = rowOf(channel);
   int place = 0;
-  for (const std::string_view query : channel.queries) {
+  for (const std::string_view query : channelQueries(channel.number)) {
     inquiry.next();
     show(place++, exchange_.SendDSOCmd(std::string(query) + "?"));
   }
@@ -66,8 +71,15 @@ void frmChannel::show(int place, const std::string& reply) {
     showOption(fmProbe, obProbe, reply);
   } else {
     if (isNumeric(reply)) cbCh(place).value = toInt16(reply);
-    cbCh(place).isUnread = !isNumeric(reply);
+    unanswered_.note(cbCh(place), isNumeric(reply));
   }
+}
+
+/// Selects the option that the reply names, or marks the group, of which none may be selected yet.
+void frmChannel::showOption(Frame& group, ControlArray<OptionButton>& options,
+                            const std::string& reply) {
+  if (isNumeric(reply)) options(toInt16(reply)).value = true;
+  unanswered_.note(group, isNumeric(reply));
 }
 
 void frmChannel::cmdOK_Click() {

@@ -2,10 +2,10 @@
 #pragma once
 
 #include "Acquisition.h"
-#include "Channel.h"
 #include "Controls.h"
 #include "InstrumentState.h"
 #include "SettingsBurst.h"
+#include "Unanswered.h"
 
 namespace tracewell {
 
@@ -25,16 +25,17 @@ class frmChannel : public Window {
   Button cmdCancel{*this, "cmdCancel", "Cancel"};
 
   /// Leaves the acquisition running meanwhile, and running afterwards in every case.
-  void cmdCh1_Click() { editSettings(Channel::of(main_, 1)); }
-  void cmdCh2_Click() { editSettings(Channel::of(main_, 2)); }
+  void cmdCh1_Click() { editSettings(main_.channel(1)); }
+  void cmdCh2_Click() { editSettings(main_.channel(2)); }
 
  private:
-  void editSettings(const Channel& channel);
+  void editSettings(Channel& channel);
   void readSettings(const Channel& channel);
   /// Shows the reply to the query of a place in the row. What is no number leaves the control as
   /// the dialog last had it, and marks it as unread. Raises an error for a number without a
   /// control.
   void show(int place, const std::string& reply);
+  void showOption(Frame& group, ControlArray<OptionButton>& options, const std::string& reply);
   void cmdOK_Click();
   void cmdCancel_Click();
   void keepSelected(ControlArray<OptionButton>& options, int column);
@@ -45,6 +46,7 @@ class frmChannel : public Window {
   Acquisition& acquisition_;
   SettingsBurst& burst_;
   InstrumentState& instrument_;
+  Unanswered unanswered_;
   /// The row that OK writes.
   std::int16_t setupRow_ = SetupTable::channel1;
 };

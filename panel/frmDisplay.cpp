@@ -3,7 +3,6 @@
 
 #include "Inquiry.h"
 #include "Numbers.h"
-#include "SettingsBurst.h"
 #include "SettingsQueries.h"
 #include "Waiting.h"
 #include "WaitingNotice.h"
@@ -23,12 +22,15 @@ constexpr int styleColumn = 4;
 }  // namespace
 
 frmDisplay::frmDisplay(frmDSO& main, CommandExchange& exchange, ErrorLog& errorLog,
-                       Acquisition& acquisition)
+                       Acquisition& acquisition, SettingsBurst& burst)
     : Window("frmDisplay", "Display Setup", main.services()),
       main_(main),
       exchange_(exchange),
       errorLog_(errorLog),
-      acquisition_(acquisition) {
+      acquisition_(acquisition),
+      burst_(burst) {
+  unanswered_.watch(slideDataBrightness);
+  unanswered_.watch(slideGraticuleBrightness);
   formActivate = [this] { tag = "0"; };
   slideDataBrightness.pointerValueChanged = [this] {
     lblDataBright.caption = numberText(slideDataBrightness.value());
@@ -42,6 +44,7 @@ frmDisplay::frmDisplay(frmDSO& main, CommandExchange& exchange, ErrorLog& errorL
 
 void frmDisplay::cmdDisplay_Click() {
   try {
+    if (burst_.isSending(SetupTable::display, caption)) return;
     acquisition_.StopAcq();
     readSettings();
     showModal();
@@ -69,13 +72,14 @@ void frmDisplay::readBrightness(Slide& slide, std::size_t setting) {
   const std::string reply = exchange_.SendDSOCmd(std::string(BrightQuery[setting]) + "?");
   slide.value = toDouble(
       isNumeric(reply) ? reply : main_.gridMeasure.text(SetupTable::display, column(setting)));
-  slide.isUnread = !isNumeric(reply);
+  unanswered_.note(slide, isNumeric(reply));
 }
 
 /// One attempt each, unlike the channel and trigger settings: what the instrument has made of it
 /// is read and left as it is.
 void frmDisplay::sendBrightness() {
   main_.refresh();
+  const SettingsBurst::Sending sending(burst_, SetupTable::display);
   const ShortTimeOut shortTimeOut(main_);
   main_.txtMsg.text = "";
   Inquiry inquiry(exchange_.inquiries(), caption, Inquiry::Of::settings, brightnessCount);

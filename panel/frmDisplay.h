@@ -4,6 +4,8 @@
 #include "Acquisition.h"
 #include "Controls.h"
 #include "Dials.h"
+#include "SettingsBurst.h"
+#include "Unanswered.h"
 
 namespace tracewell {
 
@@ -11,7 +13,8 @@ namespace tracewell {
 /// once and read back; the waveform style stays a stored choice of the panel.
 class frmDisplay : public Window {
  public:
-  frmDisplay(frmDSO& main, CommandExchange& exchange, ErrorLog& errorLog, Acquisition& acquisition);
+  frmDisplay(frmDSO& main, CommandExchange& exchange, ErrorLog& errorLog, Acquisition& acquisition,
+             SettingsBurst& burst);
 
   Slide slideDataBrightness{*this, "slideDataBrightness", "Data Brightness : ", {0, 100, 1}};
   ValueLabel lblDataBright{*this, "lblDataBright", "0"};
@@ -37,6 +40,8 @@ class frmDisplay : public Window {
   CommandExchange& exchange_;
   ErrorLog& errorLog_;
   Acquisition& acquisition_;
+  SettingsBurst& burst_;
+  Unanswered unanswered_;
 };
 
 }  // namespace tracewell

@@ -6,7 +6,6 @@
 #include "Inquiry.h"
 #include "Numbers.h"
 #include "SettingsQueries.h"
-#include "TriggerMarker.h"
 #include "WaitingNotice.h"
 
 namespace tracewell {
@@ -28,6 +27,9 @@ frmTrig::frmTrig(frmDSO& main, CommandExchange& exchange, Acquisition& acquisiti
   cbTrigAdv(1).items = {"Time", "Event "};
   fmAdv.enabled = false;
   formActivate = [this] { Form_Activate(); };
+  for (ComboBox& box : cbTrig) unanswered_.watch(box);
+  for (ComboBox& box : cbTrigAdv) unanswered_.watch(box);
+  for (TextBox& box : txtTrigAdv) unanswered_.watch(box);
   for (ComboBox& box : cbTrig) box.click = [this, &box] { cbTrig_Click(box.index()); };
   cmdOK.click = [this] { cmdOK_Click(); };
   cmdCancel.click = [this] {
@@ -37,6 +39,9 @@ frmTrig::frmTrig(frmDSO& main, CommandExchange& exchange, Acquisition& acquisiti
 }
 
 void frmTrig::cmdTrig_Click() {
+  if (burst_.isSending(SetupTable::trigger, caption) ||
+      burst_.isSending(SetupTable::advancedTrigger, caption))
+    return;
   acquisition_.StopAcq();
   {
     const WaitingNotice notice(main_);
@@ -44,19 +49,10 @@ void frmTrig::cmdTrig_Click() {
     readAdvancedSettings();
   }
   showModal();
-  if (tag != "0") sendSettings();
+  if (tag != "0") burst_.writeAndVerify(caption, TrigQuery, SetupTable::trigger, 0);
   if (tag == "2")
     burst_.writeAndVerify(fmAdv.caption, TrigAdvQuery, SetupTable::advancedTrigger, 0);
-  UpdateTriggerMarker(main_);
   acquisition_.RunAcq();
-}
-
-void frmTrig::sendSettings() {
-  const std::vector<bool> areTaken =
-      burst_.writeAndVerify(caption, TrigQuery, SetupTable::trigger, 0);
-  main_.TriggerSource.reset();
-  if (areTaken.front())
-    main_.TriggerSource = main_.gridMeasure.number(SetupTable::trigger, SetupTable::firstValue);
 }
 
 /// Setting a box runs its click, so the instrument's values go into the table, too.
@@ -68,10 +64,8 @@ void frmTrig::readSettings() {
     const std::string reply = exchange_.SendDSOCmd(query + "?");
     echoLine(main_, reply);
     cbTrig(i).listIndex = indexOf(reply, SetupTable::trigger, 2 + i);
-    cbTrig(i).isUnread = !isNumeric(reply);
+    unanswered_.note(cbTrig(i), isNumeric(reply));
   }
-  main_.TriggerSource.reset();
-  if (!cbTrig(0).isUnread()) main_.TriggerSource = cbTrig(0).listIndex();
 }
 
 void frmTrig::readAdvancedSettings() {
@@ -84,11 +78,11 @@ void frmTrig::readAdvancedSettings() {
     const std::string reply = inquiry ? exchange_.SendDSOCmd(query + "?") : "";
     if (i < 2) {
       cbTrigAdv(i).listIndex = indexOf(reply, SetupTable::advancedTrigger, 2 + i);
-      cbTrigAdv(i).isUnread = inquiry && !isNumeric(reply);
+      unanswered_.note(cbTrigAdv(i), !inquiry || isNumeric(reply));
     } else {
       TextBox& box = txtTrigAdv(i - 2);
       box.text = inquiry ? reply : main_.gridMeasure.text(SetupTable::advancedTrigger, 2 + i);
-      box.isUnread = inquiry && reply.empty();
+      unanswered_.note(box, !inquiry || !reply.empty());
     }
   }
 }

@@ -4,6 +4,7 @@
 #include "Acquisition.h"
 #include "Controls.h"
 #include "SettingsBurst.h"
+#include "Unanswered.h"
 
 namespace tracewell {
 
@@ -31,7 +32,6 @@ class frmTrig : public Window {
 
  private:
   void readSettings();
-  void sendSettings();
   void readAdvancedSettings();
   bool isAdvanced() { return cbTrig(1).text() == "Advance"; }
   std::int16_t indexOf(const std::string& reply, int row, int column) const;
@@ -43,6 +43,7 @@ class frmTrig : public Window {
   CommandExchange& exchange_;
   Acquisition& acquisition_;
   SettingsBurst& burst_;
+  Unanswered unanswered_;
   /// 1 for the plain settings, 2 when the advanced ones are sent too.
   std::int16_t outcome_ = 1;
 };

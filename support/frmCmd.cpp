@@ -9,10 +9,8 @@
 namespace tracewell {
 namespace {
 
-/// A query passes as it is; of a command's parameter only a whole number that is not negative. A
-/// line end in it would hide a second command.
+/// A query passes as it is; of a command's parameter only a whole number that is not negative.
 bool isInRange(const std::string& command) {
-  if (command.find_first_of("\r\n") != std::string::npos) return false;
   const std::size_t blank = command.find(' ');
   if (command.ends_with('?') || blank == std::string::npos) return true;
   const std::string parameter = command.substr(blank + 1);
@@ -85,6 +83,7 @@ void frmCmd::cmdRun_Click() {
 
 void frmCmd::RunConsoleCommand() {
   const std::string command = withoutLineEnd(txtCmd.text());
+  if (!commandLine_.isOneCommand(command)) return;
   if (!isInRange(command)) {
     txtCmd.text = command.substr(0, command.find(' '));
     services().dialogs.showMessage("Out of range");

@@ -58,7 +58,14 @@ void ScriptedPort::answerLikeAnInstrument() {
   answer("CHAN2:OFFS?", {"-2.00 V\n"});
 }
 
+/// A record that nobody has requested counts as requested last.
+void ScriptedPort::deliver(const std::string& record) {
+  if (const auto request = stamps.extract(tag)) stamp = request.mapped();
+  dataReady.raise(record);
+}
+
 void ScriptedPort::prepareLine() {
+  if (textMode) stamps.clear();
   prepared.push_back(settings);
   if (faults > 0) {
     --faults;
@@ -135,7 +142,7 @@ void expectCheap(const std::function<void()>& action, double seconds, long megab
 
 std::string makeRecord(const std::function<int(int)>& sample) {
   std::string record(14, '\x7F');
-  for (int i = 0; i < SharedState::sampleCount; ++i) {
+  for (int i = 0; i < WaveformRecord::sampleCount; ++i) {
     record += static_cast<char>((sample(i) >> 8) & 0xFF);
     record += static_cast<char>(sample(i) & 0xFF);
   }

@@ -166,7 +166,9 @@ class ScriptedPort : public SerialPort, public PortList {
   /// A connected instrument with both scales, the time base and both positions.
   void answerLikeAnInstrument();
   /// Delivers a record for the last request.
-  void deliver(const std::string& record) { dataReady.raise(record); }
+  void deliver(const std::string& record);
+  /// Of the requests on their way, by tag.
+  std::map<std::string, std::int64_t> stamps;
 
   std::int16_t openPort() const override {
     return prepared.empty() ? 0 : prepared.back().portNumber;
@@ -174,7 +176,10 @@ class ScriptedPort : public SerialPort, public PortList {
   int openings() const override { return timesOpened; }
   void write(std::string_view bytes, Expects expects) override;
   std::string read() override;
-  void beginRead(int count) override { recordLength = count; }
+  void beginRead(int count) override {
+    recordLength = count;
+    stamps.try_emplace(tag, stamp);
+  }
   void reset() override;
   std::vector<Entry> ports() override { return {{0, "simulated instrument"}, {33, "ttyUSB0"}}; }
   State stateOf(std::int16_t number) override { return number == 33 ? stateOf33 : State::ready; }

@@ -5,7 +5,6 @@
 
 #include "Files.h"
 #include "Numbers.h"
-#include "TriggerMarker.h"
 #include "Waiting.h"
 
 namespace tracewell {
@@ -199,7 +198,7 @@ std::map<std::string, std::string> Played::shownBy(Window& window) {
       shown["pointer"] += value.text + " ";
   }
   for (const int number : {1, 2})
-    if (isTruthTold_ && main.graphDSO.plot(number).isOld())
+    if (isTruthTold_ && main.graphDSO.plot(number).isPale())
       shown["old" + std::to_string(number)] = "";
   for (int number = 0; number < SetupTable::fileRows; ++number)
     for (const std::string& value : row(number))
@@ -324,6 +323,7 @@ bool Played::setUp(const std::string& name, const std::string& value) {
     main.graphDSO.dragCursor(main.graphDSO.cursor(name), std::stod(place[0]), std::stod(place[1]));
   } else if (name.starts_with("trace")) {
     port.tag = name.substr(5);
+    port.stamp = main.known.now();
     port.deliver(makeRecord([first = std::stoi(value)](int i) { return first + i; }));
   } else if (name.starts_with("row")) {
     setRow(std::stoi(name.substr(3)), split(value, " "));
@@ -343,8 +343,7 @@ bool Played::setUp(const std::string& name, const std::string& value) {
 void Played::connect() {
   port.answerLikeAnInstrument();
   main.cmdStart.press();
-  main.TriggerSource = 0;
-  UpdateTriggerMarker(main);
+  main.known.answered(":TRIG:SOUR?", "0");
   newIn(main);
   events_.clear();
   start_ = clock.milliseconds();

@@ -45,7 +45,21 @@ Measurements::Measurements(frmDSO& main, CommandExchange& exchange, ErrorLog& er
       errorLog_(errorLog),
       acquisition_(acquisition),
       selection_(selection),
-      quickSelection_(quickSelection) {}
+      quickSelection_(quickSelection) {
+  for (ValueLabel& label : main.lblMeasure)
+    label.trust = [this, &result = results_.at(static_cast<std::size_t>(label.index()))] {
+      return result ? trustOf(*result) : Trust::holds;
+    };
+}
+
+/// It is of the signal and the settings of its time.
+Trust Measurements::trustOf(const Result& result) const {
+  if (!result.isAnswered) return Trust::unread;
+  const KnownInstrument& known = main_.known;
+  const bool isOfNow = !result.isLeftOver && result.line == known.presentLine() &&
+                       known.signalChangedAt(result.channel) <= result.measuredAt;
+  return isOfNow ? Trust::holds : Trust::stale;
+}
 
 void Measurements::cmdVMeasure_Click() {
   try {
@@ -89,10 +103,10 @@ void Measurements::chooseSource(int channel) {
 }
 
 void Measurements::ClearMeasureLabels() {
+  results_ = {};
   for (ValueLabel& label : main_.lblMeasure) {
     label.caption = "";
-    label.isUnread = false;
-    label.isStale = false;
+    label.notifyChanged();
   }
 }
 
@@ -103,7 +117,7 @@ void Measurements::measureFlagged(Inquiry& inquiry, int channel,
     if (!isFlagged(flagRow, item)) continue;
     inquiry.next();
     const std::string reply = askPatiently(channel, std::string(queries[item]));
-    showNext(labelText(names[item], channel) + ": ", reply);
+    showNext(channel, labelText(names[item], channel) + ": ", reply);
     // The list can be long. No handler runs in between: it would change what is being measured.
     main_.services().standBy.turn();
     inquiry.note(!reply.empty());
@@ -116,21 +130,22 @@ int Measurements::flaggedCount(int row, std::size_t items) const {
   return count;
 }
 
-void Measurements::showResult(ValueLabel& label, const std::string& title,
+void Measurements::showResult(int label, int channel, const std::string& title,
                               const std::string& reply) {
-  label.caption = title + reply;
-  label.isUnread = reply.empty();
-  label.isStale = false;
+  const KnownInstrument& known = main_.known;
+  results_.at(static_cast<std::size_t>(label)) =
+      Result{channel, !reply.empty(), known.presentLine(), known.now(), false};
+  main_.lblMeasure(label).caption = title + reply;
+  main_.lblMeasure(label).notifyChanged();
 }
 
 bool Measurements::isFlagged(int row, std::size_t item) const {
   return main_.gridMeasure.text(row, SetupTable::firstValue + static_cast<int>(item)) == "1";
 }
 
-void Measurements::showNext(const std::string& title, const std::string& reply) {
-  ValueLabel& label = main_.lblMeasure(nextLabel_);
-  showResult(label, title, reply);
-  label.refresh();
+void Measurements::showNext(int channel, const std::string& title, const std::string& reply) {
+  showResult(nextLabel_, channel, title, reply);
+  main_.lblMeasure(nextLabel_).refresh();
   nextLabel_ = std::min(nextLabel_ + 1, main_.lblMeasure.size() - 1);
 }
 
@@ -167,18 +182,21 @@ void Measurements::cmdFMeasure_Click() {
 
 void Measurements::measureQuickly() {
   const ShortTimeOut shortTimeOut(main_, 1);
-  chooseSource(main_.FMeasChan);
+  const int channel = quickSelection_.FMeasChan;
+  chooseSource(channel);
   Inquiry inquiry(exchange_.inquiries(), main_.fmMeasure.caption, Inquiry::Of::questions,
                   flaggedCount(SetupTable::voltageChannel1, FreqMeasQuery.size()));
   // Those that it does not write over are of another time, and perhaps of the other channel.
-  for (ValueLabel& old : main_.lblMeasure) old.isStale = !old.caption().empty();
+  for (auto& result : results_)
+    if (result) result->isLeftOver = true;
+  for (const ValueLabel& old : main_.lblMeasure) old.notifyChanged();
   int label = 0;
   for (std::size_t item = 0; item < FreqMeasQuery.size(); ++item) {
     if (!isFlagged(SetupTable::voltageChannel1, item)) continue;
     inquiry.next();
     const std::string reply = ask(std::string(FreqMeasQuery[item]));
     inquiry.note(!reply.empty());
-    showResult(main_.lblMeasure(label++), std::string(FreqMeasName[item]), reply);
+    showResult(label++, channel, std::string(FreqMeasName[item]), reply);
     main_.refresh();
   }
 }
@@ -186,7 +204,7 @@ void Measurements::measureQuickly() {
 void Measurements::fmMeasure_Copied() {
   std::string table;
   for (const ValueLabel& label : main_.lblMeasure)
-    if (!label.caption().empty() && !label.isUnread() && !label.isStale())
+    if (!label.caption().empty() && (!label.trust || label.trust() == Trust::holds))
       table += rowOf(label.caption()) + "\n";
   if (table.empty()) return;
   main_.services().clipboard.put(table, Image());

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <array>
+#include <optional>
+
 #include "Acquisition.h"
 #include "Inquiry.h"
 #include "MeasurementItems.h"
@@ -42,15 +45,25 @@ class Measurements {
   void measureFlagged(Inquiry& inquiry, int channel, std::span<const std::string_view> names,
                       std::span<const std::string_view> queries, int flagRow);
   void chooseSource(int channel);
-  void showNext(const std::string& title, const std::string& reply);
-  /// Shows a result; one without an answer is marked.
-  static void showResult(ValueLabel& label, const std::string& title, const std::string& reply);
+  void showNext(int channel, const std::string& title, const std::string& reply);
+  void showResult(int label, int channel, const std::string& title, const std::string& reply);
   int flaggedCount(int row, std::size_t items) const;
   std::string askPatiently(int channel, const std::string& query);
   /// The reply; "" without asking when the source could not be chosen, since the answer would be
   /// that of the source before.
   std::string ask(const std::string& query);
   bool isFlagged(int row, std::size_t item) const;
+
+  /// What stands on a label of results.
+  struct Result {
+    int channel = 0;
+    bool isAnswered = false;
+    InstrumentLine line;
+    KnownInstrument::Moment measuredAt = 0;
+    /// Of the measurement before the last.
+    bool isLeftOver = false;
+  };
+  Trust trustOf(const Result& result) const;
 
   frmDSO& main_;
   CommandExchange& exchange_;
@@ -61,6 +74,8 @@ class Measurements {
   /// Label that the next result goes to; the last one takes all that find no room.
   int nextLabel_ = 0;
   bool isSourceChosen_ = false;
+  /// By label; none where it is empty.
+  std::array<std::optional<Result>, 16> results_;
 };
 
 }  // namespace tracewell

@@ -6,6 +6,8 @@ namespace {
 
 /// Chan1, Chan2, Load1 to Load3; Load4 is not printed.
 constexpr int printedPlots = 5;
+/// Of two messages, one a channel.
+constexpr unsigned firstChannelName = 10;
 
 }  // namespace
 
@@ -27,8 +29,10 @@ GraphPage PagePrinting::page() {
   page.title = main_.caption() + "  " + main_.services().clock.dateAndTime();
   if (!main_.graphDSO.note().empty()) page.title += "  " + main_.graphDSO.note();
   std::string scales = "Volts/Div";
-  if (main_.ChanOn[0]) scales += " " + main_.Msg[10] + " " + main_.lblChan1.caption();
-  if (main_.ChanOn[1]) scales += " " + main_.Msg[11] + " " + main_.lblChan2.caption();
+  for (const Channel& channel : main_.channels)
+    if (channel.isDisplayed)
+      scales +=
+          " " + main_.Msg[firstChannelName + channel.number - 1U] + " " + channel.scale.caption();
   page.captions = {scales, "SEC/Div " + main_.Msg[12] + " " + main_.lblTime.caption()};
   if (!main_.opOff.value()) page.captions.push_back(main_.graphDSO.axis("XAxis").caption());
   for (int number = 1; number <= printedPlots; ++number) {

@@ -15,7 +15,7 @@ frmFMeasure::frmFMeasure(frmDSO& main)
 
 void frmFMeasure::Form_Activate() {
   tag = "0";
-  cbChan.text = std::to_string(main_.FMeasChan);
+  cbChan.text = std::to_string(FMeasChan);
   for (CheckBox& box : cbF) {
     const int column = SetupTable::firstValue + box.index();
     box.value = main_.gridMeasure.text(SetupTable::voltageChannel1, column) == "1" ? 1 : 0;
@@ -29,7 +29,7 @@ void frmFMeasure::cmdOK_Click() {
     main_.gridMeasure.setText(SetupTable::quickMeasurement, column, flag);
     main_.gridMeasure.setText(SetupTable::voltageChannel1, column, flag);
   }
-  main_.FMeasChan = cbChan.text() == "2" ? 2 : 1;
+  FMeasChan = cbChan.text() == "2" ? 2 : 1;
   tag = "1";
   hide();
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstdint>
+
 #include "Controls.h"
 #include "frmDSO.h"
 
@@ -21,6 +23,9 @@ class frmFMeasure : public Window {
   Button cmdSelectAll{*this, "cmdSelectAll", "Select All"};
   Button cmdOK{*this, "cmdOK", "OK"};
   Button cmdCancel{*this, "cmdCancel", "Cancel"};
+
+  /// Channel of the quick measurement, 1 or 2.
+  std::int16_t FMeasChan = 1;
 
  private:
   void Form_Activate();

@@ -3,7 +3,11 @@
 
 namespace tracewell {
 
-frmDSO::frmDSO(Services& services) : Window("frmDSO", "Tracewell", services) {
+frmDSO::frmDSO(Services& services)
+    : Window("frmDSO", "Tracewell", services), known([&services] {
+        const SerialPort& port = services.port;
+        return InstrumentLine{port.settings.portNumber, port.openings()};
+      }) {
   lblTest.visible = false;
   cmdNewErrors.visible = false;
   opOff.value.setQuietly(true);

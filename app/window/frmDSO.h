@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <array>
 #include <set>
 
+#include "Channel.h"
 #include "Controls.h"
 #include "Dials.h"
+#include "KnownInstrument.h"
 #include "ScopeGraph.h"
 #include "SharedState.h"
 #include "StatusLine.h"
@@ -125,6 +128,26 @@ class frmDSO : public Window, public SharedState {
   Button cmdDisplay{*this, "cmdDisplay", "Display"};
   Button cmdExportCSV{*this, "cmdExportCSV", "Export CSV"};
   Button cmdClose{*this, "cmdClose", "Close"};
+
+  /// What stands beside the values, marks and ages, is to be looked at anew.
+  Event<> marksDue;
+  /// Kept apart from what the controls show: marks come of comparing the two.
+  KnownInstrument known;
+  std::array<Channel, 2> channels{{
+      {1, cbCh1, knobChan1, lblChan1, slideCH1, mnbCh1, graphDSO.plot(1), ScaleKnob::Chan1},
+      {2, cbCh2, knobChan2, lblChan2, slideCH2, mnbCh2, graphDSO.plot(2), ScaleKnob::Chan2},
+  }};
+  std::string& Ch1Raw = channels[0].record.bytes;
+  std::string& Ch2Raw = channels[1].record.bytes;
+  double& Ch1Pos = channels[0].position;
+  double& Ch2Pos = channels[1].position;
+  std::int16_t& Ch1PosCounts = channels[0].positionCounts;
+  std::int16_t& Ch2PosCounts = channels[1].positionCounts;
+  /// Number 1 or 2.
+  Channel& channel(int number) { return channels.at(static_cast<std::size_t>(number - 1)); }
+  const Channel& channel(int number) const {
+    return channels.at(static_cast<std::size_t>(number - 1));
+  }
 
   ValueLabel lblStatus{*this, "lblStatus", ""};
   StatusLine status{lblStatus, services().words};

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <initializer_list>
 #include <string>
 #include <string_view>
@@ -11,6 +12,15 @@
 #include "Window.h"
 
 namespace tracewell {
+
+/// How far what a control shows is what the instrument has.
+enum class Trust {
+  holds,
+  /// The instrument did not tell this value, or something may have changed it since.
+  unread,
+  /// It was right once, and belongs to what is no longer there.
+  stale
+};
 
 /// A named thing on a window: properties that the program reads and writes, and an event for each
 /// thing that a user can do with it. It registers with its window at construction.
@@ -34,13 +44,14 @@ class Control : public Observable {
 
   Property<bool> visible{*this, true};
   Property<bool> enabled{*this, true};
-  /// The instrument did not tell this value, or something may have changed it: what is shown is
-  /// another one, such as the stored one. The view marks it; a user who chooses a value takes the
-  /// mark away.
-  Property<bool> isUnread{*this, false};
-
-  /// What is shown was right once and may be no longer. The view shows it pale.
-  Property<bool> isStale{*this, false};
+  /// Asked whenever the control is painted; without it what is shown holds. It must not raise.
+  std::function<Trust()> trust;
+  /// The view marks it.
+  bool isUnread() const { return trust && trust() == Trust::unread; }
+  /// The view shows it pale.
+  bool isStale() const { return trust && trust() == Trust::stale; }
+  /// Told when the user has chosen a value, before the control's own event.
+  std::function<void()> chosen;
 
   /// Shows the control at once, although a handler is running.
   void refresh() { owner_.refresh(); }
@@ -48,6 +59,9 @@ class Control : public Observable {
  protected:
   /// Runs the handler of a user's action, unless the user cannot reach the control now.
   void userDoes(const std::function<void()>& action);
+  void tellChosen() const {
+    if (chosen) chosen();
+  }
 
  private:
   Window& owner_;

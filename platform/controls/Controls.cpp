@@ -52,7 +52,7 @@ CheckBox::CheckBox(Window& owner, std::string_view name, std::string_view captio
 
 void CheckBox::toggle() {
   userDoes([this] {
-    isUnread = false;
+    tellChosen();
     value = isChecked() ? 0 : 1;
   });
 }
@@ -77,7 +77,10 @@ void OptionButton::clearSiblings() {
 }
 
 void OptionButton::select() {
-  userDoes([this] { value = true; });
+  userDoes([this] {
+    tellChosen();
+    value = true;
+  });
 }
 
 ComboBox::ComboBox(Window& owner, std::string_view name, std::vector<std::string> entries,
@@ -104,7 +107,7 @@ std::int16_t ComboBox::entryOf(const std::string& wanted) const {
 
 void ComboBox::choose(int entry) {
   userDoes([this, entry] {
-    isUnread = false;
+    tellChosen();
     listIndex = static_cast<std::int16_t>(entry);
   });
 }
@@ -115,7 +118,7 @@ void ComboBox::edit(const std::string& typed) {
 
 void ComboBox::type(const std::string& typed) {
   userDoes([this, &typed] {
-    isUnread = false;
+    tellChosen();
     text = typed;
     click.raise();
   });
@@ -123,7 +126,7 @@ void ComboBox::type(const std::string& typed) {
 
 void TextBox::type(const std::string& typed) {
   userDoes([this, &typed] {
-    isUnread = false;
+    tellChosen();
     text = typed;
   });
 }

@@ -30,13 +30,15 @@ Slide::Slide(Window& owner, std::string_view name, std::string_view captionText,
 void Slide::drag(double to) {
   userDoes([this, to] {
     const double before = value();
+    isHeld_ = true;
     value = std::clamp(to, range_.minimum, range_.maximum);
-    if (value() != before) isUnread = false;
+    if (value() != before) tellChosen();
   });
 }
 
 void Slide::release() {
   userDoes([this] {
+    isHeld_ = false;
     pointerValueCommitted.raise();
     mouseUp.raise();
   });

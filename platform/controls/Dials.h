@@ -46,9 +46,12 @@ class Slide : public CaptionedControl {
   Event<> mouseUp;
   void drag(double to);
   void release();
+  /// The user has dragged it and not let go.
+  bool isHeld() const { return isHeld_; }
 
  private:
   Range range_;
+  bool isHeld_ = false;
 };
 
 }  // namespace tracewell

@@ -33,9 +33,10 @@ class Plot : public Observable {
   Property<int> pointStyle{*this, noPoints};
   /// There is something to see.
   bool isShown() const { return visible() && !y_.empty(); }
-  /// The instrument should have sent another trace since. The view shows it pale; pictures and
-  /// pages do not.
-  Property<bool> isOld{*this, false};
+  /// Asked whenever the trace is painted: it is not what the instrument has under the settings that
+  /// the panel shows. The view shows it pale; pictures and pages do not.
+  std::function<bool()> pale;
+  bool isPale() const { return pale && pale(); }
 
   /// Replaces the data; the shorter of the two arrays says how many points there are.
   void plotXvsY(std::span<const std::int16_t> x, std::span<const std::int16_t> y);

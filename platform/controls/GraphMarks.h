@@ -32,6 +32,8 @@ struct GraphMarks {
   std::vector<Text> scales;
   /// Lines of the badge beside the cursors; none while there is nothing to tell.
   std::vector<Text> badge;
+
+  bool operator==(const GraphMarks&) const = default;
 };
 
 }  // namespace tracewell

@@ -32,6 +32,9 @@ class SerialPort {
   bool textMode = true;
   /// Free for the program. beginRead keeps it, and it is put back before that record's dataReady.
   std::string tag;
+  /// Free for the program, like tag: beginRead keeps it, and it is put back before that record's
+  /// dataReady.
+  std::int64_t stamp = 0;
 
   /// Makes the line ready for a transfer and opens it if need be. In text mode it ends a record
   /// still under way; in binary mode that goes on, and the next request waits for its end. Raises

@@ -9,6 +9,7 @@ void StandBy::turn() {
   const std::int64_t now = clock_.milliseconds();
   if (now - lastTurn_ < longestGap) return;
   lastTurn_ = now;
+  if (meanwhile) meanwhile();
   {
     const Gate::Hold held(gate_);
     clock_.breathe();

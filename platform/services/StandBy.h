@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 
 #include "Clock.h"
 #include "Gate.h"
@@ -37,6 +38,9 @@ class StandBy {
    private:
     StandBy& standBy_;
   };
+
+  /// Told at each turn: what grows old does so while a handler waits. It may raise no event.
+  std::function<void()> meanwhile;
 
   bool isInBurst() const { return bursts_ > 0; }
   /// The user does not want to wait any longer. Without a burst it does nothing.

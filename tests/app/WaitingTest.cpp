@@ -28,7 +28,7 @@ TEST(Waiting, TimeOutsFollowBaudRateAndChannels) {
 
 TEST(Waiting, DelayLetsEventsRunAndLastsAtLeastOneMillisecondLonger) {
   Bench bench;
-  bench.main.TestChar = 65;
+  bench.program.lifecycle.TestChar = 65;
   bench.main.tmTest.enabled = true;
   Delay(bench.main, 3000);
   EXPECT_EQ(bench.clock.milliseconds(), 3001);

@@ -32,14 +32,14 @@ TEST_F(AcquisitionTest, DecodingOfEveryKindOfSample) {
 /// Nothing that fails inside a record is reported, and the port is free after each.
 TEST_F(AcquisitionTest, RecordOfNoUseIsLeftOut) {
   main.Ch2Pos = 1000;
-  main.WaveCount = 32767;
+  program.acquisition.WaveCount = 32767;
   for (const char* tag : {"2", "7", "x", ""}) {
     port.tag = tag;
     port.deliver(makeRecord([](int) { return 1; }));
   }
   EXPECT_EQ(main.graphDSO.plot(2).y().front(), 1);
   EXPECT_EQ(port.resets, 4);
-  EXPECT_EQ(main.WaveCount, 32767);
+  EXPECT_EQ(program.acquisition.WaveCount, 32767);
   EXPECT_TRUE(dialogs.runTimeErrors.empty());
   EXPECT_TRUE(logLines().empty());
 }

@@ -39,9 +39,9 @@ struct FaultyBench : BenchOf<OnALine<PacedOpener>> {
   void expectWell(const std::string& what) {
     EXPECT_EQ(ask("*IDN?"), "KRM-410") << what;
     for (int press = 0; press < 2 && !main.tmDSO.enabled(); ++press) main.cmdStart.press();
-    const auto before = main.WaveCount;
+    const auto before = program.acquisition.WaveCount;
     clock.run(4000);
-    ASSERT_GE(main.WaveCount, before + 2) << what;
+    ASSERT_GE(program.acquisition.WaveCount, before + 2) << what;
     EXPECT_EQ(main.graphDSO.plot(1).y()[10], 60) << what;
     EXPECT_EQ(main.graphDSO.plot(1).y()[499], 549) << what;
   }

@@ -77,7 +77,7 @@ TEST_F(BuiltInInstrument, BothTracesRunAndThePlugMayBePulled) {
   EXPECT_EQ(main.lblChan1.caption(), "500.0 mV");
   EXPECT_EQ(main.Ch2Pos, -2);
   clock.run(60000);
-  EXPECT_GE(main.WaveCount, 49);
+  EXPECT_GE(program.acquisition.WaveCount, 49);
   for (const int number : {1, 2}) EXPECT_EQ(main.graphDSO.plot(number).y().size(), 500u);
   // A port chosen while a record comes has nothing to do with that record.
   port.settings.portNumber = 33;
@@ -91,9 +91,9 @@ TEST_F(BuiltInInstrument, BothTracesRunAndThePlugMayBePulled) {
   // The cable of the built-in instrument is in again as soon as the port is opened again.
   EXPECT_TRUE(main.tmDSO.enabled());
   EXPECT_TRUE(logLines().empty());
-  const auto count = main.WaveCount;
+  const auto count = program.acquisition.WaveCount;
   clock.run(5000);
-  EXPECT_GT(main.WaveCount, count);
+  EXPECT_GT(program.acquisition.WaveCount, count);
 }
 
 }  // namespace tracewell

@@ -26,7 +26,7 @@ std::string timeUnit(char prefix) {
 
 void Cursors::opOff_Click() {
   showCursors(false);
-  main_.CursorTimeMode = false;
+  CursorTimeMode = false;
   UpdateCursorReadout();
 }
 
@@ -38,7 +38,7 @@ void Cursors::opTime_Click() {
   cur1.xPosition = 0;
   cur2.style = CursorStyle::verticalLine;
   cur2.xPosition = 50;
-  main_.CursorTimeMode = true;
+  CursorTimeMode = true;
   UpdateCursorReadout();
 }
 
@@ -50,7 +50,7 @@ void Cursors::opVoltage_Click() {
   cur1.yPosition = -100;
   cur2.style = CursorStyle::horizontalLine;
   cur2.yPosition = -150;
-  main_.CursorTimeMode = false;
+  CursorTimeMode = false;
   UpdateCursorReadout();
 }
 
@@ -83,16 +83,16 @@ void Cursors::UpdateCursorReadout() {
   if (main_.opOff.value())
     axis.caption = "Time";
   else
-    axis.caption = main_.CursorTimeMode ? timeReadout() : voltageReadout();
+    axis.caption = CursorTimeMode ? timeReadout() : voltageReadout();
 }
 
 std::string Cursors::voltageReadout() {
-  const ValueLabel& scale = main_.cbCurChan.text() == "1" ? main_.lblChan1 : main_.lblChan2;
-  main_.Cur1Pos = main_.graphDSO.cursor("cur1").yPosition();
-  main_.Cur2Pos = main_.graphDSO.cursor("cur2").yPosition();
+  const ValueLabel& scale = main_.channel(main_.cbCurChan.text() == "1" ? 1 : 2).scale;
+  Cur1Pos = main_.graphDSO.cursor("cur1").yPosition();
+  Cur2Pos = main_.graphDSO.cursor("cur2").yPosition();
   const double voltsPerDivision = ParseScaleCaption(scale.caption());
-  const double p1 = checked(main_.Cur1Pos * voltsPerDivision / unitsPerDivision);
-  const double p2 = checked(main_.Cur2Pos * voltsPerDivision / unitsPerDivision);
+  const double p1 = checked(Cur1Pos * voltsPerDivision / unitsPerDivision);
+  const double p2 = checked(Cur2Pos * voltsPerDivision / unitsPerDivision);
   return "P1 = " + formatTwoDecimals(p1) + "(V)  ,  " + "P2 = " + formatTwoDecimals(p2) +
          "(V)        " + "Diff V = " + formatTwoDecimals(checked(p1 - p2)) + "(V)";
 }
@@ -100,11 +100,11 @@ std::string Cursors::voltageReadout() {
 std::string Cursors::timeReadout() {
   const std::string& scale = main_.lblTime.caption();
   const std::string unit = timeUnit(captionPrefix(scale));
-  main_.Cur1Pos = main_.graphDSO.cursor("cur1").xPosition();
-  main_.Cur2Pos = main_.graphDSO.cursor("cur2").xPosition();
+  Cur1Pos = main_.graphDSO.cursor("cur1").xPosition();
+  Cur2Pos = main_.graphDSO.cursor("cur2").xPosition();
   const double timePerDivision = toDouble(captionNumber(scale));
-  const double p1 = checked(timePerDivision * main_.Cur1Pos / unitsPerDivision);
-  const double p2 = checked(timePerDivision * main_.Cur2Pos / unitsPerDivision);
+  const double p1 = checked(timePerDivision * Cur1Pos / unitsPerDivision);
+  const double p2 = checked(timePerDivision * Cur2Pos / unitsPerDivision);
   return "P1 = " + formatTwoDecimals(p1) + "(" + unit + ")," + "P2 = " + formatTwoDecimals(p2) +
          "(" + unit + ")   " + "Diff T = " + formatTwoDecimals(checked(p1 - p2)) + "(" + unit + ")";
 }

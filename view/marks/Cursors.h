@@ -27,6 +27,11 @@ class Cursors {
   std::string timeReadout();
 
   frmDSO& main_;
+  /// True while the cursors measure time.
+  bool CursorTimeMode = false;
+  /// Last position read from each cursor, in graph units.
+  double Cur1Pos = 0;
+  double Cur2Pos = 0;
 };
 
 }  // namespace tracewell

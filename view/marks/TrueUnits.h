@@ -10,10 +10,6 @@
 /// read-out below the graph has a form of its own.
 namespace tracewell {
 
-/// Volts or seconds (`unit` "V" or "s") to a division, of a caption such as "500.0 us"; nothing for
-/// any other text.
-std::optional<double> trueScale(std::string_view caption, std::string_view unit);
-
 /// `units` graph units of a scale, as "-1.25 mV": with as many decimals as tell two units apart,
 /// and the prefix that suits the value, but none below the scale's. "us" is written as the
 /// instrument does.

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Bench.h"
+#include "TrueNumbers.h"
 #include "TrueUnits.h"
 
 namespace tracewell {
@@ -60,20 +61,17 @@ TEST_F(MarksTest, MarksTellWhatIsKnownOfDisplayedTraces) {
 
   main.opVoltage.select();
   EXPECT_EQ(graph.marks().badge.size(), 3u);
-  main.slideCH1.isUnread = true;
+  main.known.typed(":CHAN1:OFFS 1");
   EXPECT_EQ(graph.marks().badge, (Texts{{1, "ΔV = 500 mV"}}));
   EXPECT_EQ(graph.marks().sides.size(), 1u);
-  main.lblChan1.isUnread = true;
+  main.known.typed(":CHAN1:SCAL 1");
   EXPECT_TRUE(graph.marks().badge.empty());
   main.opTime.select();
-  main.lblTime.isUnread = true;
+  main.known.typed(":TIM:SCAL 1");
   EXPECT_TRUE(graph.marks().badge.empty() && graph.marks().scales.empty());
 
   graph.plot(4).plotXvsY(main.XIndex, atTop);
   graph.plot(4).visible = true;
-  main.cbMath.choose(1);
-  EXPECT_EQ(graph.marks().names, (Texts{{1, "1-2"}, {4, "Load2"}}));
-  main.cbMath.choose(3);
   EXPECT_EQ(graph.marks().names, (Texts{{4, "Load2"}}));
 }
 

@@ -7,20 +7,19 @@
 #include <string>
 #include <string_view>
 
-#include "SharedState.h"
-
 namespace tracewell {
 
 /// What the instrument sends for a waveform: a 14-byte header of its own, then 500 samples of two
 /// bytes, the high byte first, in two's complement.
 struct WaveformRecord {
   static constexpr int headerBytes = 14;
-  static constexpr int byteCount = headerBytes + 2 * SharedState::sampleCount;
+  static constexpr int sampleCount = 500;
+  static constexpr int byteCount = headerBytes + 2 * sampleCount;
   /// Where the high byte of a sample is.
   static constexpr std::size_t positionOf(std::size_t sample) { return headerBytes + 2 * sample; }
 };
 
-using Samples = std::array<std::int16_t, SharedState::sampleCount>;
+using Samples = std::array<std::int16_t, WaveformRecord::sampleCount>;
 
 /// The samples of `record`, each shifted by `offset`. A sample that is missing, 0x8000, or outside
 /// 16 bits after the shift takes the value of the sample before it (the first one then 0).

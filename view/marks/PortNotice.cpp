@@ -2,14 +2,6 @@
 #include "PortNotice.h"
 
 namespace tracewell {
-namespace {
-
-std::string simulatedMark(const frmDSO& main) {
-  return main.services().words.say("SIMULATED");
-}
-
-}  // namespace
-
 void showPort(frmDSO& main, std::int16_t portNumber) {
   const std::string device = main.services().ports.deviceOf(portNumber);
   const Words& words = main.services().words;
@@ -18,14 +10,8 @@ void showPort(frmDSO& main, std::int16_t portNumber) {
       device.empty() ? words.say("port %1", {number}) : words.say("port %1 - %2", {number, device});
 }
 
-void markTrace(frmDSO& main) {
-  const bool isSimulated = main.services().port.openPort() == PortList::simulatedPort;
-  main.graphDSO.note = isSimulated ? simulatedMark(main) : "";
-}
-
 void sayPortAgain(frmDSO& main) {
   showPort(main, main.services().port.settings.portNumber);
-  if (!main.graphDSO.note().empty()) main.graphDSO.note = simulatedMark(main);
 }
 
 }  // namespace tracewell

@@ -54,7 +54,7 @@ Samples shiftSamples(std::string_view record, std::int16_t shift) {
 std::string recordText(std::int16_t channel, const Samples& samples) {
   constexpr std::string_view lineEnd = "\r\n";
   constexpr std::size_t longestValue = 7;
-  std::array<char, (SharedState::sampleCount + 1) * longestValue + lineEnd.size()> buffer;
+  std::array<char, (WaveformRecord::sampleCount + 1) * longestValue + lineEnd.size()> buffer;
   char* const valuesEnd = buffer.data() + buffer.size() - lineEnd.size();
   char* end = std::to_chars(buffer.data(), valuesEnd, channel).ptr;
   for (const std::int16_t sample : samples) {

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "ChannelRecord.h"
+#include "Controls.h"
+#include "Dials.h"
+#include "Graph.h"
+#include "Numbers.h"
+#include "ScaleTables.h"
+
+namespace tracewell {
+
+/// One of the two channels: its controls in the main window, and what the panel holds of it. The
+/// two are alike but for their positions, of which the second's is kept in whole divisions.
+struct Channel {
+  /// 1 or 2.
+  const int number;
+  CheckBox& display;
+  Knob& knob;
+  ValueLabel& scale;
+  Slide& slide;
+  MenuEntry& menuEntry;
+  Plot& plot;
+  const ScaleKnob kind;
+
+  bool isDisplayed = false;
+  ChannelRecord record{};
+  /// Vertical position in divisions.
+  double position = 0;
+  /// The same in sample units, as it was when the instrument was last read.
+  std::int16_t positionCounts = 0;
+  /// By how many units the trace was shifted when it was drawn: where its zero is.
+  std::int16_t drawnShift = 0;
+
+  /// ":CHAN1:"
+  std::string stem() const { return ":CHAN" + std::to_string(number) + ":"; }
+
+  /// Raises "Overflow" where it does not fit.
+  double keptPosition(double divisions) const {
+    return number == 1 ? divisions : toInt16(divisions);
+  }
+  /// The position in sample units, for a record that has come. Raises "Overflow".
+  std::int16_t recordShift() const {
+    return number == 1 ? toInt16(Graph::unitsPerDivision * position)
+                       : mulInt16(toInt16(position), Graph::unitsPerDivision);
+  }
+};
+
+}  // namespace tracewell

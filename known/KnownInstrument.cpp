@@ -1,0 +1,304 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "KnownInstrument.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "Numbers.h"
+#include "ScaleTables.h"
+#include "TrueNumbers.h"
+
+namespace tracewell {
+namespace {
+
+using enum Setting;
+
+constexpr double stoppedState = 0;
+constexpr double runningState = 1;
+constexpr double autoLevel = 0;
+
+bool isScale(Setting setting) {
+  return setting == scale1 || setting == scale2 || setting == timeBase;
+}
+
+/// Of a scale command the caption that the instrument has for it.
+std::optional<std::string> captionOf(Setting scale, std::string_view argument) {
+  const auto find = [&](const auto& values, const auto& texts) -> std::optional<std::string> {
+    const auto found = std::ranges::find(values, argument);
+    if (found == values.end()) return std::nullopt;
+    return std::string(texts[static_cast<std::size_t>(found - values.begin())]);
+  };
+  return scale == timeBase ? find(TimeDivValue, TimeDivText) : find(VoltDivValue, VoltDivText);
+}
+
+std::optional<double> plainNumber(std::string_view text) {
+  if (!isNumeric(text)) return std::nullopt;
+  return toDouble(text);
+}
+
+std::optional<double> perDivision(std::optional<double> value, std::optional<double> scale) {
+  if (!value || !scale) return std::nullopt;
+  return *value / *scale;
+}
+
+/// What is sure whichever of the two holds.
+MadeUnder both(const MadeUnder& a, const MadeUnder& b) {
+  const auto same = [](const auto& one, const auto& other) {
+    return one == other ? one : std::remove_cvref_t<decltype(one)>();
+  };
+  return {same(a.voltsPerDivision, b.voltsPerDivision),
+          same(a.secondsPerDivision, b.secondsPerDivision), same(a.mathEntry, b.mathEntry),
+          std::nullopt};
+}
+
+}  // namespace
+
+void KnownInstrument::sent(std::string_view command) {
+  for (const WirePart& part : wireParts(command)) obey(part, true);
+  tell();
+}
+
+void KnownInstrument::typed(std::string_view line) {
+  for (const WirePart& part : wireParts(line)) obey(part, false);
+  tell();
+}
+
+void KnownInstrument::notSent(std::string_view line) {
+  for (const WirePart& part : wireParts(line)) {
+    if (part.isQuery) continue;
+    const WireEffect effect = effectOf(part);
+    if (effect.sets) doubtful(*effect.sets, Doubt::notSent);
+    for (const Setting setting : effect.touches) doubtful(setting, Doubt::notSent);
+  }
+  tell();
+}
+
+/// Whatever is sent locks the instrument's own panel.
+void KnownInstrument::obey(const WirePart& command, bool isTrusted) {
+  takeSent(lock, {1.0, ""});
+  if (command.isQuery) return;
+  const WireEffect effect = effectOf(command);
+  for (const Setting setting : effect.touches) doubtful(setting, Doubt::mayHaveChanged);
+  if (!effect.sets) return;
+  const Setting setting = *effect.sets;
+  const bool isPlain = setting == math || setting == running || setting == lock;
+  const auto value = isTrusted || isPlain ? sentValue(setting, command) : std::nullopt;
+  if (!value) return doubtful(setting, Doubt::mayHaveChanged);
+  if (setting == running && value->number == stoppedState && !isStopped()) stop();
+  takeSent(setting, *value);
+}
+
+std::optional<KnownInstrument::Value> KnownInstrument::sentValue(Setting setting,
+                                                                 const WirePart& command) const {
+  if (isScale(setting)) {
+    const auto text = captionOf(setting, command.argument);
+    return text ? std::optional(Value{trueScale(*text, setting == timeBase ? "s" : "V"), *text})
+                : std::nullopt;
+  }
+  std::optional<double> value = plainNumber(command.argument);
+  switch (setting) {
+    case position1:
+    case position2:
+      value = perDivision(value, voltsPerDivision(setting == position1 ? 1 : 2));
+      break;
+    case delay:
+      value = perDivision(value, secondsPerDivision());
+      break;
+    case math: {
+      const auto known = std::ranges::find(mathCommands, command.header + " " + command.argument);
+      value = known == mathCommands.end()
+                  ? std::nullopt
+                  : std::optional(static_cast<double>(known - mathCommands.begin()));
+      break;
+    }
+    case running:
+      value = command.header == "RUN" ? runningState : stoppedState;
+      break;
+    case lock:
+      value = 0;
+      break;
+    default:
+      break;
+  }
+  return value ? std::optional(Value{value, ""}) : std::nullopt;
+}
+
+/// Offsets in whatever form the panel makes a position of.
+std::optional<KnownInstrument::Value> KnownInstrument::toldValue(Setting setting,
+                                                                 std::string_view reply) const {
+  reply = trimBlanks(reply);
+  if (reply.empty()) return std::nullopt;
+  if (isScale(setting))
+    return Value{trueScale(reply, setting == timeBase ? "s" : "V"), std::string(reply)};
+  std::optional<double> value;
+  switch (setting) {
+    case position1:
+    case position2:
+      value = trueNumber(reply, "V");
+      if (!value && beginsWithNumber(captionNumber(reply))) value = ParseScaleCaption(reply);
+      value = perDivision(value, voltsPerDivision(setting == position1 ? 1 : 2));
+      break;
+    case delay:
+      value = perDivision(trueNumber(reply, "s"), secondsPerDivision());
+      break;
+    case triggerLevel:
+      value = trueNumber(reply, "V");
+      break;
+    case math:
+      break;
+    default:
+      value = plainNumber(reply);
+  }
+  return value ? std::optional(Value{value, ""}) : std::nullopt;
+}
+
+/// The same value again changes nothing.
+void KnownInstrument::takeSent(Setting setting, const Value& value) {
+  const Entry& before = entry(setting);
+  const bool isSame =
+      isKnown(setting) && before.number == value.number && before.caption == value.caption;
+  take(setting, value);
+  if (isSame) return;
+  entry(setting).changedAt = ++now_;
+  followed(setting);
+}
+
+void KnownInstrument::take(Setting setting, Value value) {
+  Entry& taken = entry(setting);
+  taken.number = value.number;
+  taken.caption = std::move(value.caption);
+  taken.doubt = Doubt::none;
+  taken.line = presentLine();
+}
+
+void KnownInstrument::doubtful(Setting setting, Doubt reason) {
+  Entry& doubted = entry(setting);
+  doubted.doubt = reason;
+  doubted.line = presentLine();
+  doubted.changedAt = ++now_;
+  followed(setting);
+}
+
+/// Nothing is nothing in any scale.
+void KnownInstrument::followed(Setting setting) {
+  const auto dependent = dependentOn(setting);
+  if (dependent && number(*dependent) != 0.0 && isKnown(*dependent))
+    doubtful(*dependent, Doubt::mayHaveChanged);
+}
+
+void KnownInstrument::answered(std::string_view query, std::string_view reply) {
+  takeSent(lock, {1.0, ""});
+  for (const WirePart& part : wireParts(query)) {
+    const std::optional<Setting> setting = askedBy(part);
+    if (!setting || *setting == math || *setting == running || *setting == lock) continue;
+    const std::optional<Value> value = toldValue(*setting, reply);
+    Entry& asked = entry(*setting);
+    if (!value) {
+      asked.doubt = Doubt::noAnswer;
+      asked.line = presentLine();
+      continue;
+    }
+    // When it has become another one is not known: what was asked for before may be of either.
+    const bool wasTold = asked.line == presentLine() && (asked.number || !asked.caption.empty());
+    const bool isOther =
+        wasTold && (asked.number != value->number || asked.caption != value->caption);
+    take(*setting, *value);
+    if (isScale(*setting)) readOn_ = presentLine();
+    if (!isOther) continue;
+    asked.changedAt = ++now_;
+    followed(*setting);
+  }
+  tell();
+}
+
+void KnownInstrument::notAnswered(std::string_view query) {
+  for (const WirePart& part : wireParts(query)) {
+    const std::optional<Setting> setting = askedBy(part);
+    if (!setting) continue;
+    entry(*setting).doubt = Doubt::noAnswer;
+    entry(*setting).line = presentLine();
+  }
+  tell();
+}
+
+void KnownInstrument::reading() {
+  for (const Setting setting : {scale1, scale2, timeBase, position1, position2}) {
+    // The values of another instrument are no longer of account.
+    if (entry(setting).line != presentLine()) entry(setting) = Entry();
+    entry(setting).doubt = Doubt::noAnswer;
+    entry(setting).line = presentLine();
+  }
+  tell();
+}
+
+void KnownInstrument::swept(Moment requested) {
+  sweptAt_ = std::max(sweptAt_, requested);
+}
+
+Doubt KnownInstrument::doubt(Setting setting) const {
+  const Entry& asked = entry(setting);
+  if (asked.doubt == Doubt::neverRead) return Doubt::neverRead;
+  if (asked.line != presentLine()) return Doubt::anotherInstrument;
+  // The instrument then finds its level by itself.
+  const bool isAutomatic = setting == triggerLevel && number(triggerMode) == autoLevel;
+  return isAutomatic && asked.doubt == Doubt::none ? Doubt::mayHaveChanged : asked.doubt;
+}
+
+std::optional<double> KnownInstrument::number(Setting setting) const {
+  return isKnown(setting) ? entry(setting).number : std::nullopt;
+}
+
+std::optional<std::string> KnownInstrument::caption(Setting scale) const {
+  return isKnown(scale) ? std::optional(entry(scale).caption) : std::nullopt;
+}
+
+std::optional<double> KnownInstrument::voltsPerDivision(int channel) const {
+  return number(ofChannel(scale1, channel));
+}
+
+std::optional<double> KnownInstrument::secondsPerDivision() const {
+  return number(timeBase);
+}
+
+int KnownInstrument::mathChannel() const {
+  const Entry& known = entry(math);
+  if (known.line != presentLine() || !known.number) return 0;
+  return mathChannelOf(static_cast<std::size_t>(*known.number));
+}
+
+KnownInstrument::Moment KnownInstrument::signalChangedAt(int channel) const {
+  return std::max({changedAt(ofChannel(scale1, channel)), changedAt(ofChannel(input1, channel)),
+                   changedAt(timeBase), changedAt(math)});
+}
+
+bool KnownInstrument::isStopped() const {
+  return number(running) == stoppedState;
+}
+
+/// What has been changed since the last sweep that is known of may not be in it yet.
+void KnownInstrument::stop() {
+  for (const int channel : {1, 2})
+    atStop_[static_cast<std::size_t>(channel - 1)] = settingsAt(channel, sweptAt_);
+}
+
+MadeUnder KnownInstrument::settingsAt(int channel, Moment moment) const {
+  const auto since = [&](Setting setting) {
+    return changedAt(setting) <= moment ? number(setting) : std::nullopt;
+  };
+  MadeUnder made{since(ofChannel(scale1, channel)), since(timeBase), std::nullopt, std::nullopt};
+  const bool isMath = mathChannel() == channel;
+  if (isMath || changedAt(math) > moment) made.voltsPerDivision.reset();
+  if (isMath && isKnown(math) && changedAt(math) <= moment)
+    made.mathEntry = static_cast<int>(*number(math));
+  return made;
+}
+
+MadeUnder KnownInstrument::madeUnder(int channel, Moment requested) const {
+  MadeUnder frozen = atStop_[static_cast<std::size_t>(channel - 1)];
+  if (isStopped() && changedAt(running) <= requested) frozen.stop = changedAt(running);
+  if (isStopped()) return frozen;
+  const MadeUnder present = settingsAt(channel, requested);
+  return changedAt(running) > requested ? both(frozen, present) : present;
+}
+
+}  // namespace tracewell

@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "MadeUnder.h"
+#include "Setting.h"
+#include "WireRules.h"
+
+namespace tracewell {
+
+/// What the panel knows of the instrument. It hears every line that goes out and every answer, and
+/// tells of each setting the value that the instrument has, or why that is not known. All that the
+/// panel shows without a mark is what this tells.
+///
+/// A setting is known on the line on which it was told: behind another port, or on a line that has
+/// been opened anew, there may be another instrument.
+class KnownInstrument {
+ public:
+  using Line = InstrumentLine;
+  /// Counts what has happened; the order is all that it says.
+  using Moment = std::int64_t;
+
+  /// `presentLine` tells on which line the next command goes out.
+  explicit KnownInstrument(std::function<Line()> presentLine)
+      : presentLine_(std::move(presentLine)) {}
+  KnownInstrument(const KnownInstrument&) = delete;
+
+  // What happens, told in its order.
+
+  /// The panel has sent a command: the instrument has now what it sets.
+  void sent(std::string_view command);
+  /// The user has typed a line, and it was sent. Whether the instrument takes it nobody says, so
+  /// what it sets is not known until it is read; math, Run, Stop and the lock are.
+  void typed(std::string_view line);
+  /// It was begun and failed, so the instrument may have it or not.
+  void notSent(std::string_view line);
+  void answered(std::string_view query, std::string_view reply);
+  void notAnswered(std::string_view query);
+  /// Scales and positions are about to be read; each is not known until its answer has come.
+  void reading();
+  /// A record has come, requested at a moment, of a sweep that was not fetched before.
+  void swept(Moment requested);
+
+  /// Told after each of these.
+  std::function<void()> changed;
+
+  // What is known.
+
+  Line presentLine() const { return presentLine_(); }
+  Moment now() const { return now_; }
+  Doubt doubt(Setting setting) const;
+  bool isKnown(Setting setting) const { return doubt(setting) == Doubt::none; }
+  /// Its scales have been read on this line.
+  bool isRead() const { return readOn_ == presentLine(); }
+  /// Since when the setting has had its value, or its doubt.
+  Moment changedAt(Setting setting) const { return entry(setting).changedAt; }
+
+  /// Since when what a measurement of a channel depends on is what it is.
+  Moment signalChangedAt(int channel) const;
+
+  /// The value, in the units that Setting.h says.
+  std::optional<double> number(Setting setting) const;
+  /// A scale as the instrument writes it, "500.0 mV".
+  std::optional<std::string> caption(Setting scale) const;
+  std::optional<double> voltsPerDivision(int channel) const;
+  std::optional<double> secondsPerDivision() const;
+  /// The channel in whose place the instrument shows its math, as far as that is known or was known
+  /// last; 0 for none. Math that was set elsewhere is not known here.
+  int mathChannel() const;
+  /// It was stopped from here.
+  bool isStopped() const;
+
+  /// What a record that was requested at a moment, and has come now, was made under. A stopped
+  /// instrument sends what it had at its stop.
+  MadeUnder madeUnder(int channel, Moment requested) const;
+
+ private:
+  struct Entry {
+    std::optional<double> number;
+    std::string caption;
+    Doubt doubt = Doubt::neverRead;
+    Line line;
+    Moment changedAt = 0;
+  };
+  struct Value {
+    std::optional<double> number;
+    std::string caption;
+  };
+
+  const Entry& entry(Setting setting) const { return entries_[static_cast<std::size_t>(setting)]; }
+  Entry& entry(Setting setting) { return entries_[static_cast<std::size_t>(setting)]; }
+
+  void obey(const WirePart& command, bool isTrusted);
+  void take(Setting setting, Value value);
+  void takeSent(Setting setting, const Value& value);
+  void doubtful(Setting setting, Doubt reason);
+  void followed(Setting setting);
+  void stop();
+  std::optional<Value> sentValue(Setting setting, const WirePart& command) const;
+  std::optional<Value> toldValue(Setting setting, std::string_view reply) const;
+  MadeUnder settingsAt(int channel, Moment moment) const;
+  void tell() const {
+    if (changed) changed();
+  }
+
+  std::function<Line()> presentLine_;
+  std::array<Entry, settingCount> entries_;
+  Moment now_ = 1;
+  std::optional<Line> readOn_;
+  /// The newest request behind which a new sweep has come.
+  Moment sweptAt_ = 0;
+  /// Under what both channels were made that a stopped instrument sends.
+  std::array<MadeUnder, 2> atStop_;
+};
+
+}  // namespace tracewell

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "Setting.h"
+
+/// What the lines to the instrument have to do with its settings. This is the one place that knows.
+namespace tracewell {
+
+/// One command or query out of a line.
+struct WirePart {
+  /// In capitals, without the colon that may lead it and without the "?": "CHAN1:SCAL".
+  std::string header;
+  /// What stands behind the blank, without the blanks around it.
+  std::string argument;
+  bool isQuery = false;
+};
+
+/// The parts of a line, which ";" and line ends separate.
+std::vector<WirePart> wireParts(std::string_view line);
+
+/// What a command does: it sets one setting, or leaves the value of some not known.
+struct WireEffect {
+  std::optional<Setting> sets;
+  std::vector<Setting> touches;
+};
+
+/// A command that is not in the tables may change anything.
+WireEffect effectOf(const WirePart& command);
+
+/// The setting that a query asks for.
+std::optional<Setting> askedBy(const WirePart& query);
+
+/// What a change of a setting changes, too: a probe the scale, and a scale the divisions of what
+/// the instrument keeps in volts and seconds, position and delay.
+std::optional<Setting> dependentOn(Setting setting);
+
+/// What sets the instrument's math, by entry of the math box; the last is off. Unlike all other
+/// commands they begin without a colon.
+constexpr std::array<std::string_view, 4> mathCommands = {"CHAN1:MATH 1", "CHAN1:MATH 2",
+                                                          "CHAN2:MATH 2", "CHAN1:MATH 0"};
+
+/// The channel in whose place the instrument shows its math with an entry of the box; 0 for off. A
+/// sum or a difference is in the first, the difference the other way round in the second.
+int mathChannelOf(std::size_t entry);
+
+}  // namespace tracewell

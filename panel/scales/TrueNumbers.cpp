@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "TrueNumbers.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "Numbers.h"
+
+namespace tracewell {
+
+/// Powers of ten are exact only upwards.
+double scaled(double value, int exponent) {
+  return exponent < 0 ? value / std::pow(10, -exponent) : value * std::pow(10, exponent);
+}
+
+std::optional<double> trueNumber(std::string_view text, std::string_view unit) {
+  const std::size_t blank = text.find(' ');
+  if (blank == std::string_view::npos || !text.ends_with(unit)) return std::nullopt;
+  const std::string_view number = text.substr(0, blank);
+  std::string_view prefix = text.substr(blank + 1);
+  if (prefix.size() < unit.size()) return std::nullopt;
+  prefix.remove_suffix(unit.size());
+  const auto known = std::ranges::find(unitPrefixes, prefix, &UnitPrefix::text);
+  // A long reply must not overflow.
+  constexpr std::size_t longest = 12;
+  const std::string_view digits = number.starts_with('-') ? number.substr(1) : number;
+  const bool isPlain =
+      number.size() <= longest && digits.find_first_not_of("0123456789.") == std::string_view::npos;
+  if (known == unitPrefixes.end() || !isPlain || !isNumeric(number)) return std::nullopt;
+  return scaled(leadingNumber(number), known->exponent);
+}
+
+std::optional<double> trueScale(std::string_view caption, std::string_view unit) {
+  const std::optional<double> perDivision = trueNumber(caption, unit);
+  return perDivision && *perDivision > 0 ? perDivision : std::nullopt;
+}
+
+}  // namespace tracewell

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <array>
+#include <vector>
+
+#include "frmDSO.h"
+
+namespace tracewell {
+
+/// Marks beside what the main window shows of the instrument. Nothing of them is kept: each control
+/// is asked when it is painted, and compares what it shows with what is known. This holds the one
+/// list of which control shows which setting, and has painted anew what has become different.
+class PanelMarks {
+ public:
+  /// From now on the controls of `main`, which outlives this, can be asked.
+  explicit PanelMarks(frmDSO& main);
+  PanelMarks(const PanelMarks&) = delete;
+
+  /// Paints what has changed. Raises no event, so it may be called at any time; also as time goes
+  /// by, since traces grow old.
+  void show();
+
+ private:
+  void trust(Control& control, Setting setting, std::function<bool()> isShown);
+  void trustScale(Setting setting, ValueLabel& label, Knob& knob, ScaleKnob kind);
+  void trustSlide(Slide& slide, Setting setting);
+  void showKnown();
+  void showTraces();
+  void showHint();
+
+  frmDSO& main_;
+  struct Shown {
+    Control* control;
+    Trust trust;
+  };
+  std::vector<Shown> shown_;
+  /// What the graph has been painted with.
+  GraphMarks marks_;
+  std::array<bool, 2> arePale_{};
+  bool isHintTold_ = false;
+};
+
+}  // namespace tracewell

@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "TraceMarks.h"
+
+#include <algorithm>
+
+namespace tracewell {
+namespace {
+
+/// A trace is old after so many periods without a record.
+constexpr int oldAfter = 3;
+
+std::int64_t now(const frmDSO& main) {
+  return main.services().clock.milliseconds();
+}
+
+bool isOfThisLine(const frmDSO& main, const Channel& channel) {
+  return !channel.record.bytes.empty() && channel.record.line == main.known.presentLine();
+}
+
+bool isOld(const frmDSO& main, const Channel& channel) {
+  return now(main) - channel.record.fetchedAt > oldAfter * recordPeriod(main);
+}
+
+bool isKnownAndSame(std::optional<double> made, std::optional<double> present) {
+  return made && made == present;
+}
+
+std::string unchangedText(const Words& words, const std::string& name, std::int64_t seconds) {
+  return seconds < 120
+             ? words.say("%1: unchanged for %2 s", {name, std::to_string(seconds)})
+             : words.say("%1: unchanged for %2 min", {name, std::to_string(seconds / 60)});
+}
+
+std::string ageText(const Words& words, const std::string& name, std::int64_t seconds) {
+  return seconds < 120
+             ? words.say("%1: last record %2 s ago", {name, std::to_string(seconds)})
+             : words.say("%1: last record %2 min ago", {name, std::to_string(seconds / 60)});
+}
+
+std::string traceAge(const frmDSO& main, const Channel& channel) {
+  const Words& words = main.services().words;
+  const std::string& name = channel.display.caption();
+  if (!isOfThisLine(main, channel)) return words.say("%1: no record yet", {name});
+  const std::int64_t seconds = (now(main) - channel.record.sweepAt) / 1000;
+  if (isOld(main, channel) || !main.tmDSO.enabled()) return ageText(words, name, seconds);
+  const bool isUnchanged = channel.record.sweepAt != channel.record.fetchedAt;
+  return isUnchanged ? unchangedText(words, name, seconds) : words.say("%1: live", {name});
+}
+
+}  // namespace
+
+bool hasTrace(const Channel& channel) {
+  return channel.plot.isShown() && !channel.record.bytes.empty();
+}
+
+std::optional<double> voltsOfTrace(const frmDSO& main, const Channel& channel) {
+  const std::optional<double> present = main.known.voltsPerDivision(channel.number);
+  if (!hasTrace(channel)) return present;
+  const bool isOfNow = isOfThisLine(main, channel) &&
+                       isKnownAndSame(channel.record.madeUnder.voltsPerDivision, present);
+  return isOfNow ? present : std::nullopt;
+}
+
+std::optional<double> secondsOfTraces(const frmDSO& main) {
+  const std::optional<double> present = main.known.secondsPerDivision();
+  for (const Channel& channel : main.channels) {
+    if (!hasTrace(channel)) continue;
+    const bool isOfNow = isOfThisLine(main, channel) &&
+                         isKnownAndSame(channel.record.madeUnder.secondsPerDivision, present);
+    if (!isOfNow) return std::nullopt;
+  }
+  return present;
+}
+
+std::optional<double> zeroOf(const frmDSO& main, const Channel& channel) {
+  if (hasTrace(channel)) return channel.drawnShift;
+  if (!main.known.isKnown(ofChannel(Setting::position1, channel.number))) return std::nullopt;
+  return channel.position * Graph::unitsPerDivision;
+}
+
+std::int64_t recordPeriod(const frmDSO& main) {
+  const LineSettings& line = main.services().port.settings;
+  const int bits = 1 + line.dataBits + (line.parity == 0 ? 0 : 1) + (line.stopBits == 0 ? 1 : 2);
+  const int record = 1000 * WaveformRecord::byteCount * bits / std::max<int>(line.baudRate, 1);
+  const auto channels = std::ranges::count(main.channels, true, &Channel::isDisplayed);
+  return std::max<std::int64_t>(channels, 1) * std::max(record, frmDSO::tickInterval);
+}
+
+bool isPale(const frmDSO& main, const Channel& channel) {
+  if (!hasTrace(channel)) return false;
+  const MadeUnder& made = channel.record.madeUnder;
+  if (!isOfThisLine(main, channel) || isOld(main, channel)) return true;
+  if (!isKnownAndSame(made.secondsPerDivision, main.known.secondsPerDivision())) return true;
+  // Math has no volts in any case.
+  const auto present = main.known.voltsPerDivision(channel.number);
+  return !made.mathEntry && !isKnownAndSame(made.voltsPerDivision, present);
+}
+
+bool areOfOneSweep(const frmDSO& main) {
+  const auto [first, second] = std::tie(main.channels[0].record, main.channels[1].record);
+  return first.madeUnder.stop && first.madeUnder.stop == second.madeUnder.stop &&
+         first.line == second.line;
+}
+
+std::string traceAges(const frmDSO& main) {
+  std::string text;
+  for (const Channel& channel : main.channels) {
+    const bool isExpected = main.Initialised || isOfThisLine(main, channel);
+    if (channel.isDisplayed && isExpected)
+      text += (text.empty() ? "" : "    ") + traceAge(main, channel);
+  }
+  return text;
+}
+
+std::string simulatedNote(const frmDSO& main) {
+  const std::string mark = main.services().words.say("SIMULATED");
+  std::string names;
+  bool isAll = true;
+  for (const Channel& channel : main.channels) {
+    if (!hasTrace(channel)) continue;
+    const bool isSimulated = channel.record.line.portNumber == PortList::simulatedPort;
+    isAll = isAll && isSimulated;
+    if (isSimulated) names += channel.display.caption() + " ";
+  }
+  if (names.empty()) return "";
+  return isAll ? mark : names + mark;
+}
+
+}  // namespace tracewell
