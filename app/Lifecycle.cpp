@@ -36,6 +36,7 @@ void Lifecycle::Form_Load() {
   showFilesToKeep(main_);
   showWaitingForConnect(main_);
   main_.tmStatus.enabled = true;
+  main_.marksDue.raise();
 }
 
 void Lifecycle::Form_Unload() {

@@ -9,7 +9,7 @@ namespace tracewell {
 /// A line to an instrument: the port's number, and how often a line had been opened then. Another
 /// instrument may be on it each time.
 struct InstrumentLine {
-  std::int16_t portNumber = 0;
+  std::int16_t portNumber = -1;
   int openings = -1;
   bool operator==(const InstrumentLine&) const = default;
 };

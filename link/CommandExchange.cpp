@@ -29,23 +29,31 @@ std::string CommandExchange::SendDSOCmd(const std::string& command) {
   else if (wasSent_)
     main_.known.sent(command);
   else
-    main_.known.notSent(command);
+    noteFailed(command);
   return reply;
 }
 
 /// A line that ends as a query may hold commands, too.
 std::string CommandExchange::sendTyped(const std::string& line) {
   std::string reply = transfer(line);
-  if (wasSent_ || isQuery(line))
+  if (wasSent_)
     main_.known.typed(line);
   else
-    main_.known.notSent(line);
+    noteFailed(line);
   if (isQuery(line)) noteAnswered(line, reply);
   return reply;
 }
 
 std::string CommandExchange::transfer(const std::string& command) {
   return isQuery(command) ? ask(command) : send(command, repeatLimit);
+}
+
+/// What has not left the program changes nothing, but what is shown is no longer what is known.
+void CommandExchange::noteFailed(const std::string& line) {
+  if (hasBegun_)
+    main_.known.notSent(line);
+  else
+    main_.marksDue.raise();
 }
 
 void CommandExchange::noteAnswered(const std::string& query, const std::string& reply) {
@@ -90,7 +98,9 @@ void CommandExchange::noteAnswer(const std::string& command, bool isAnswered) {
 std::string CommandExchange::exchange(const std::string& command) {
   SerialPort& port = main_.services().port;
   port.textMode = true;
+  hasBegun_ = false;
   port.prepare();
+  hasBegun_ = true;
   port.write(command + "\r\n",
              isQuery(command) ? SerialPort::Expects::reply : SerialPort::Expects::nothing);
   std::string reply = isQuery(command) ? replyValue(port.read()) : "";
@@ -107,14 +117,16 @@ void CommandExchange::LoadSetup() {
   try {
     SerialPort& port = main_.services().port;
     port.textMode = true;
+    hasBegun_ = false;
     port.prepare();
+    hasBegun_ = true;
     port.write(":SYST:UNL\r\n", SerialPort::Expects::nothing);
     port.reset();
     main_.cmdLock.value = false;
     main_.InRemote = false;
     main_.known.sent(":SYST:UNL");
   } catch (const Error& error) {
-    main_.known.notSent(":SYST:UNL");
+    noteFailed(":SYST:UNL");
     errorLog_.ErrLog(error, "LoadSetup : ");
   }
 }

@@ -39,6 +39,7 @@ class CommandExchange {
  private:
   static constexpr int repeatLimit = 8;
   std::string transfer(const std::string& command);
+  void noteFailed(const std::string& line);
   void noteAnswered(const std::string& query, const std::string& reply);
   std::string ask(const std::string& query);
   std::string send(const std::string& command, int repeatsLeft);
@@ -48,6 +49,8 @@ class CommandExchange {
   frmDSO& main_;
   ErrorLog& errorLog_;
   bool wasSent_ = false;
+  /// Some of the last line may have gone out.
+  bool hasBegun_ = false;
   Inquiries inquiries_;
 };
 

@@ -28,6 +28,7 @@ void InstrumentState::InitDSO() {
   } catch (const Error& error) {
     errorLog_.ErrLog(error, "InitDSO : ");
   }
+  main_.marksDue.raise();
 }
 
 void InstrumentState::readAll() {

@@ -65,7 +65,6 @@ void ScriptedPort::deliver(const std::string& record) {
 }
 
 void ScriptedPort::prepareLine() {
-  if (textMode) stamps.clear();
   prepared.push_back(settings);
   if (faults > 0) {
     --faults;

@@ -178,7 +178,7 @@ class ScriptedPort : public SerialPort, public PortList {
   std::string read() override;
   void beginRead(int count) override {
     recordLength = count;
-    stamps.try_emplace(tag, stamp);
+    stamps[tag] = stamp;
   }
   void reset() override;
   std::vector<Entry> ports() override { return {{0, "simulated instrument"}, {33, "ttyUSB0"}}; }

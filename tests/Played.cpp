@@ -333,8 +333,11 @@ bool Played::setUp(const std::string& name, const std::string& value) {
   } else {
     for (Control* control : main.controls())
       if (auto* label = dynamic_cast<ValueLabel*>(control);
-          label && name == label->objectName() + ":")
+          label && name == label->objectName() + ":") {
         label->caption = value;
+        const std::string number = name.substr(name.size() - 2, 1);
+        main.known.answered(number == "e" ? ":TIM:SCAL?" : ":CHAN" + number + ":SCAL?", value);
+      }
     return name.ends_with(':');
   }
   return true;

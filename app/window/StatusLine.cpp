@@ -8,14 +8,15 @@ namespace tracewell {
 
 void StatusLine::tell(Topic topic, Sentence sentence) {
   remove(topic);
-  told_.insert(told_.begin(), {topic, std::move(sentence)});
+  told_.insert(told_.begin(), {topic, std::move(sentence), clock_.milliseconds()});
   tellAgain();
 }
 
 void StatusLine::tellToo(Topic topic, Sentence sentence) {
   const auto last = std::find_if(told_.rbegin(), told_.rend(),
                                  [topic](const Told& told) { return told.topic == topic; });
-  told_.insert(last == told_.rend() ? told_.begin() : last.base(), {topic, std::move(sentence)});
+  told_.insert(last == told_.rend() ? told_.begin() : last.base(),
+               {topic, std::move(sentence), clock_.milliseconds()});
   tellAgain();
 }
 
@@ -28,7 +29,13 @@ void StatusLine::remove(Topic topic) {
   std::erase_if(told_, [topic](const Told& told) { return told.topic == topic; });
 }
 
+bool StatusLine::isOver(const Told& told) const {
+  const bool isOfAMoment = told.topic == missedBySeries || told.topic == missedByOne;
+  return isOfAMoment && clock_.milliseconds() - told.since > missedIsSaid;
+}
+
 void StatusLine::tellAgain() {
+  std::erase_if(told_, [this](const Told& told) { return isOver(told); });
   const auto isProgress = [](const Told& told) { return told.topic == progress; };
   const bool isAsking = std::any_of(told_.begin(), told_.end(), isProgress);
   std::string line;

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <vector>
 
+#include "Clock.h"
 #include "Controls.h"
 #include "Words.h"
 
@@ -35,26 +37,33 @@ class StatusLine {
   /// Said in the language in force, again in each that follows; empty: there is nothing to say.
   using Sentence = std::function<std::string(const Words&)>;
 
-  /// Writes into `label`; both stay the caller's and outlive this.
-  StatusLine(ValueLabel& label, const Words& words) : label_(label), words_(words) {}
+  /// Writes into `label`; all stay the caller's and outlive this.
+  StatusLine(ValueLabel& label, const Words& words, const Clock& clock)
+      : label_(label), words_(words), clock_(clock) {}
+
+  /// What a series of questions has missed is said for so long; the marks stay. Milliseconds.
+  static constexpr int missedIsSaid = 60000;
 
   /// Instead of what the topic said before, and in front of the others.
   void tell(Topic topic, Sentence sentence);
   /// Behind what the topic says already.
   void tellToo(Topic topic, Sentence sentence);
   void withdraw(Topic topic);
-  /// In the language in force.
+  /// In the language in force, and as things are now.
   void tellAgain();
 
  private:
   struct Told {
     Topic topic;
     Sentence sentence;
+    std::int64_t since;
   };
+  bool isOver(const Told& told) const;
   void remove(Topic topic);
 
   ValueLabel& label_;
   const Words& words_;
+  const Clock& clock_;
   /// The newest in front.
   std::vector<Told> told_;
 };

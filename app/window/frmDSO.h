@@ -150,7 +150,7 @@ class frmDSO : public Window, public SharedState {
   }
 
   ValueLabel lblStatus{*this, "lblStatus", ""};
-  StatusLine status{lblStatus, services().words};
+  StatusLine status{lblStatus, services().words, services().clock};
   /// How old the traces are.
   ValueLabel lblAge{*this, "lblAge", ""};
   /// Opens the error log.

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <utility>
 
+#include "Numbers.h"
 #include "ScreenMarks.h"
 #include "TraceMarks.h"
 #include "TriggerMarker.h"
@@ -69,7 +70,7 @@ void PanelMarks::trust(Control& control, Setting setting, std::function<bool()> 
 
 void PanelMarks::trustScale(Setting setting, ValueLabel& label, Knob& knob, ScaleKnob kind) {
   trust(label, setting, [&known = main_.known, &label, setting] {
-    return known.caption(setting) == label.caption();
+    return known.caption(setting) == trimBlanks(label.caption());
   });
   trust(knob, setting, [&known = main_.known, &knob, setting, kind] {
     return known.caption(setting) == scaleCaptionForKnob(kind, knob.value());
@@ -93,6 +94,7 @@ void PanelMarks::show() {
   }
   showTraces();
   showHint();
+  main_.status.tellAgain();
 }
 
 /// What was typed is shown where a control has it.
