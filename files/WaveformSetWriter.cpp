@@ -8,7 +8,7 @@
 namespace tracewell {
 namespace {
 
-constexpr const char* lineEnd = "\r\n";
+constexpr const char* endOfLine = "\r\n";
 
 std::string sampleText(const std::string& record, int index) {
   const std::size_t position = WaveformRecord::positionOf(static_cast<std::size_t>(index));
@@ -21,7 +21,7 @@ std::string sampleText(const std::string& record, int index) {
 std::string onOneLine(const std::string& text) {
   std::string line;
   for (std::size_t i = 0; i < text.size(); ++i) {
-    if (text.compare(i, 2, lineEnd) == 0) ++i;
+    if (text.compare(i, 2, endOfLine) == 0) ++i;
     line += text[i] == '\n' || text[i] == '\r' ? ' ' : text[i];
   }
   return line;
@@ -35,12 +35,12 @@ std::string BuildCsvText(const frmDSO& main) {
   if (!hasChannel1 && !hasChannel2) return "";
   const std::string comma = hasChannel1 && hasChannel2 ? "," : "";
   std::string text =
-      (hasChannel1 ? "Channel 1" : "") + comma + (hasChannel2 ? "Channel 2" : "") + lineEnd;
+      (hasChannel1 ? "Channel 1" : "") + comma + (hasChannel2 ? "Channel 2" : "") + endOfLine;
   for (int i = 0; i < WaveformRecord::sampleCount; ++i) {
     if (hasChannel1) text += sampleText(main.Ch1Raw, i);
     text += comma;
     if (hasChannel2) text += sampleText(main.Ch2Raw, i);
-    text += lineEnd;
+    text += endOfLine;
   }
   return text;
 }
@@ -56,7 +56,7 @@ std::string buildInfText(const frmDSO& main, const std::string& picturePath,
         onOneLine(description), hasChannel1 ? numberText(main.slideCH1.value()) : notSaved,
         hasChannel2 ? numberText(main.slideCH2.value()) : notSaved, scale, scale,
         numberText(main.slideTime.value())})
-    text += line + lineEnd;
+    text += line + endOfLine;
   return text;
 }
 

@@ -6,6 +6,8 @@
 #include <fstream>
 #include <random>
 
+#include "Places.h"
+
 namespace tracewell {
 
 namespace fs = std::filesystem;
@@ -99,7 +101,7 @@ ProgramFolderCopy::ProgramFolderCopy() {
   static std::atomic<int> count = 0;
   path_ = fs::temp_directory_path() / ("tracewell-test-" + std::to_string(std::random_device()()) +
                                        "-" + std::to_string(count++));
-  fs::copy(TRACEWELL_DATA_FOLDER, path_, fs::copy_options::recursive);
+  fs::copy(dataFolder, path_, fs::copy_options::recursive);
 }
 
 ProgramFolderCopy::~ProgramFolderCopy() {

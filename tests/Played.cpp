@@ -5,6 +5,7 @@
 
 #include "Files.h"
 #include "Numbers.h"
+#include "Places.h"
 #include "Waiting.h"
 
 namespace tracewell {
@@ -388,7 +389,7 @@ void Played::use(Control& control, const std::string& value) {
 }
 
 void playFile(const char* name, const std::function<std::string(const std::string& script)>& play) {
-  std::istringstream file(contentOf(std::filesystem::path(TRACEWELL_SCRIPT_FOLDER) / name));
+  std::istringstream file(contentOf(std::filesystem::path(scriptFolder) / name));
   std::string script;
   std::string expected;
   for (std::string line; std::getline(file, line) || !script.empty();) {

@@ -8,6 +8,7 @@
 #include <QTest>
 
 #include "DeviceLineTest.h"
+#include "Places.h"
 #include "QtSerialChannel.h"
 #include "QtValues.h"
 
@@ -21,7 +22,7 @@ class SerialLineTest : public DeviceLineTest {
   }
 
   void startInstrument(const QStringList& options) {
-    instrument.start(QStringLiteral(TRACEWELL_SIMULATOR), options);
+    instrument.start(QString::fromUtf8(simulatorProgram), options);
     ASSERT_TRUE(instrument.waitForReadyRead(5000));
     device = QString::fromUtf8(instrument.readLine()).trimmed();
   }

@@ -9,7 +9,7 @@ import subprocess
 import sys
 from xml.etree import ElementTree
 
-from real_desktop import SystemTestCase, main, run, wait_for
+from real_desktop import PATIENCE, SystemTestCase, main, run, wait_for
 
 # In the order of their buttons in the save window.
 FORMATS = ["wmf", "bmp", "gif", "Ico", "cur", "pcx", "tif", "png", "jpg"]
@@ -106,7 +106,7 @@ class DayAtTheBench(SystemTestCase):
             program.type("set_" + extension)
             program.keys("Return")
             file = program.folder / f"set_{extension}.{extension}"
-            wait_for(file.exists, 10, str(file))
+            wait_for(file.exists, PATIENCE, str(file))
             program.closed("Save")
             self.assertIn(KINDS[extension], run("file", str(file)))
             data = (program.folder / f"set_{extension}.csv").read_bytes()
@@ -137,7 +137,7 @@ class DayAtTheBench(SystemTestCase):
         program.focus(program.window)
         program.click("frmDSO.mnbLanguage")
         program.click("frmDSO.mnbLA3")
-        wait_for(lambda: program.place("frmDSO.mnbFile").text == "Fichier", 10, "French")
+        wait_for(lambda: program.place("frmDSO.mnbFile").text == "Fichier", PATIENCE, "French")
         program.close()
         self.assertEqual(program.process.returncode, 0)
 

@@ -7,7 +7,7 @@ import signal
 import subprocess
 import time
 
-from real_desktop import PLUGINS, SystemTestCase, free_port, main, run, wait_for
+from real_desktop import PATIENCE, PLUGINS, SystemTestCase, free_port, main, run, wait_for
 
 
 class SystemTest(SystemTestCase):
@@ -67,7 +67,7 @@ class SystemTest(SystemTestCase):
 
         before = height()
         program.click("frmDSO.knobChan1", button=4)
-        wait_for(lambda: abs(height() - before / 2) < before / 10, 10, "a trace of half the height")
+        wait_for(lambda: abs(height() - before / 2) < before / 10, PATIENCE, "a trace of half the height")
         program.close()
 
     def test_pulled_plug(self):
@@ -77,7 +77,7 @@ class SystemTest(SystemTestCase):
         program.keys("F5")
         self.expect_live_trace(program)
         instrument.fault("HANGUP 700")
-        wait_for(lambda: instrument.process.poll() is not None, 10, "the hang-up")
+        wait_for(lambda: instrument.process.poll() is not None, PATIENCE, "the hang-up")
         loads = []
 
         def traces_stand_still():
@@ -85,7 +85,7 @@ class SystemTest(SystemTestCase):
             loads.append(program.load(3))
             return self.trace(program) == before
 
-        wait_for(traces_stand_still, 30, "the end of the traces")
+        wait_for(traces_stand_still, PATIENCE, "the end of the traces")
         self.assertLess(loads[-1], 2)
 
         program.keys("ctrl+e")
@@ -116,10 +116,10 @@ class SystemTest(SystemTestCase):
         program.click("frmDSO.txtTest")
         program.type("*IDN?")
         program.keys("Return")
-        wait_for(lambda: "KRM-410" in program.place("frmDSO.txtMsg").text, 10, "the instrument's name")
+        wait_for(lambda: "KRM-410" in program.place("frmDSO.txtMsg").text, PATIENCE, "the instrument's name")
         self.assertNotIn(server.GREETING, program.place("frmDSO.txtMsg").text)
         server.stop()
-        wait_for(lambda: "refused" in program.place("frmDSO.lblStatus").text, 10, "the loss to be said")
+        wait_for(lambda: "refused" in program.place("frmDSO.lblStatus").text, PATIENCE, "the loss to be said")
         self.make_server(program, tcp)
         program.keys("F5")
         self.expect_live_trace(program)
@@ -134,7 +134,7 @@ class SystemTest(SystemTestCase):
         wait_for(lambda: "not found in time" in program.place("frmDSO.lblStatus").text, 10,
                  "the reason")
         program.process.terminate()
-        self.assertEqual(program.process.wait(5), 0)
+        self.assertEqual(program.process.wait(PATIENCE), 0)
 
     def test_start_without_language_files_says_so(self):
         program = self.make_program(0)
@@ -144,7 +144,7 @@ class SystemTest(SystemTestCase):
         program.process = subprocess.Popen([program.folder / "tracewell"], env=environment)
         program.focus(program.find("Tracewell"))
         program.keys("Return")
-        self.assertEqual(program.process.wait(10), 1)
+        self.assertEqual(program.process.wait(PATIENCE), 1)
 
     def test_end_of_the_session_saves_the_setup(self):
         program = self.make_program(0)
@@ -155,7 +155,7 @@ class SystemTest(SystemTestCase):
         program.keys("ctrl+r")
         program.find("RS-232")
         program.process.terminate()
-        self.assertEqual(program.process.wait(10), 0)
+        self.assertEqual(program.process.wait(PATIENCE), 0)
         self.assertIn(b",None,7\r\n", program.setup.read_bytes())
 
     def test_end_of_the_session_asks_nothing(self):
@@ -164,7 +164,7 @@ class SystemTest(SystemTestCase):
         program.setup.write_bytes(damaged)
         program.start()
         program.process.terminate()
-        self.assertEqual(program.process.wait(10), 0)
+        self.assertEqual(program.process.wait(PATIENCE), 0)
         self.assertEqual(program.setup.read_bytes(), damaged)
 
     def test_kill_leaves_the_setup_whole(self):
