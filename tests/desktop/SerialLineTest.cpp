@@ -97,6 +97,7 @@ TEST_F(SerialLineTest, EverySettingReachesTheLine) {
           const LineSettings settings{0, rate, length, stop, code};
           SCOPED_TRACE(testing::Message() << rate << " " << length << " " << stop << " " << code);
           QSerialPort port;
+          port.setFlowControl(QSerialPort::HardwareControl);
           setLine(port, settings);
           EXPECT_EQ(std::tuple(port.baudRate(), port.dataBits(), port.stopBits(), port.parity(),
                                port.flowControl()),
