@@ -51,6 +51,14 @@ void keepControlLinesOnClose(const QString& device) {
 
 }  // namespace
 
+void setLine(QSerialPort& port, const LineSettings& settings) {
+  port.setBaudRate(settings.baudRate);
+  port.setDataBits(settings.dataBits == 7 ? QSerialPort::Data7 : QSerialPort::Data8);
+  port.setStopBits(settings.stopBits == 0 ? QSerialPort::OneStop : QSerialPort::TwoStop);
+  port.setParity(parityOf(settings.parity));
+  port.setFlowControl(QSerialPort::NoFlowControl);
+}
+
 QtSerialChannel::QtSerialChannel(const QString& device, const LineSettings& settings)
     : QtSerialChannel(device, new QSerialPort) {
   keepControlLinesOnClose(device);
@@ -71,11 +79,7 @@ QtSerialChannel::~QtSerialChannel() {
 void QtSerialChannel::open(const QString& device, const LineSettings& settings) {
   port_.setPortName(device);
   // Set before opening: a line that cannot do one of them, as a pseudo-terminal, then still opens.
-  port_.setBaudRate(settings.baudRate);
-  port_.setDataBits(settings.dataBits == 7 ? QSerialPort::Data7 : QSerialPort::Data8);
-  port_.setStopBits(settings.stopBits == 0 ? QSerialPort::OneStop : QSerialPort::TwoStop);
-  port_.setParity(parityOf(settings.parity));
-  port_.setFlowControl(QSerialPort::NoFlowControl);
+  setLine(port_, settings);
   if (port_.open(QIODevice::ReadWrite)) return;
   // A device that may be used and yet cannot be opened is somebody else's at the moment.
   const bool isInUse =

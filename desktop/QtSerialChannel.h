@@ -7,6 +7,9 @@
 
 namespace tracewell {
 
+/// Sets the port, which need not be open, as the settings say.
+void setLine(QSerialPort& port, const LineSettings& settings);
+
 /// A serial device of this machine.
 class QtSerialChannel : public DeviceChannel {
  public:

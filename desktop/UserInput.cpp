@@ -3,6 +3,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QDialog>
 #include <QKeyEvent>
 #include <QTimer>
 #include <QWidget>
@@ -16,8 +17,8 @@ namespace {
 /// Milliseconds between two looks whether the wait is over.
 constexpr int interval = 5;
 
-/// A dialog's window; the main window has none above it.
-bool isDialog(const QObject* receiver) {
+/// A dialog's window, or a popup's; the main window has none above it.
+bool isAboveMain(const QObject* receiver) {
   const auto* window = qobject_cast<const QWindow*>(receiver);
   return window != nullptr && window->transientParent() != nullptr;
 }
@@ -40,6 +41,12 @@ bool isBehindModalWindow(const QObject* receiver, const QEvent& event) {
   return !isInside(receiver) && !isInside(receiver->parent());
 }
 
+/// Only the user's own closing: what else closes a window, as Qt does with popups before a dialog
+/// is shown, repeats it until it is obeyed.
+bool isTitleBarOfDialog(const QObject* receiver, const QEvent& event) {
+  return event.spontaneous() && qobject_cast<const QDialog*>(receiver) != nullptr;
+}
+
 bool isUserInput(const QObject* receiver, const QEvent& event) {
   switch (event.type()) {
     case QEvent::MouseButtonPress:
@@ -58,10 +65,17 @@ bool isUserInput(const QObject* receiver, const QEvent& event) {
     case QEvent::TouchCancel:
       return true;
     case QEvent::Close:
-      return isDialog(receiver);
+      return isTitleBarOfDialog(receiver, event);
     default:
       return false;
   }
+}
+
+/// Of what was kept, that for a menu or a dialog that has closed since: hidden, they still obey.
+bool isForClosedWindow(const QObject* receiver, const QEvent& event) {
+  const auto* window = qobject_cast<const QWindow*>(receiver);
+  if (window == nullptr || window->isVisible() || event.spontaneous()) return false;
+  return event.type() == QEvent::Close || isUserInput(receiver, event);
 }
 
 }  // namespace
@@ -82,23 +96,28 @@ void UserInput::release() {
 
 bool UserInput::eventFilter(QObject* receiver, QEvent* event) {
   if (endWaits(receiver, *event)) return true;
+  if (isForClosedWindow(receiver, *event)) return true;
   if (!gate_.isHeld() && isBehindModalWindow(receiver, *event)) return true;
   if ((!gate_.isHeld() && kept_.empty()) || !isUserInput(receiver, *event)) return false;
   keep(receiver, *event);
+  // Whoever closes a window hears that it is still open.
+  if (event->type() == QEvent::Close) event->ignore();
   return true;
 }
 
 /// Between two waits of a burst, too, unless the key belongs to a dialog.
 bool UserInput::endWaits(const QObject* receiver, QEvent& event) {
   if (!isEscape(event) || !standBy_.isInBurst()) return false;
-  if (!gate_.isHeld() && (isDialog(receiver) || !receiver->isWindowType())) return false;
+  if (!gate_.isHeld() && (isAboveMain(receiver) || !receiver->isWindowType())) return false;
   event.accept();
   standBy_.giveUp();
   return true;
 }
 
-/// Of a movement its last place is enough.
+/// Of a movement its last place is enough. A dialog's closing comes again as it came, through its
+/// window.
 void UserInput::keep(QObject* receiver, const QEvent& event) {
+  if (event.type() == QEvent::Close) receiver = static_cast<QWidget*>(receiver)->windowHandle();
   const bool isMove = event.type() == QEvent::MouseMove;
   const bool isNext = !kept_.empty() && kept_.back().receiver == receiver;
   if (isMove && isNext && kept_.back().event->type() == QEvent::MouseMove) kept_.pop_back();

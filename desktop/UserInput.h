@@ -13,8 +13,8 @@ namespace tracewell {
 
 /// Stands between the user and the widgets while a handler waits for the instrument. What the user
 /// does meanwhile is kept in its order and comes when the handler is done, unless that has opened a
-/// window in front of it; Escape ends the waits; the main window's closing is let through, since it
-/// is obeyed at once.
+/// window in front of it or closed what it was meant for; Escape ends the waits; the main window's
+/// closing is let through, since it is obeyed at once.
 class UserInput : public QObject {
  public:
   UserInput(const Gate& gate, StandBy& standBy);

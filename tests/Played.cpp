@@ -185,8 +185,8 @@ std::map<std::string, std::string> Played::shownBy(Window& window) {
     if (as<TextBox>(*control) || as<PictureBox>(*control)) text = shortened(text);
     shown[control->objectName()] = text + (control->visible() ? "" : " hidden") +
                                    (control->enabled() ? "" : " disabled") +
-                                   (control->isUnread() ? " unread" : "") +
-                                   (isTruthTold_ && control->isStale() ? " stale" : "");
+                                   (looksUnread(*control) ? " unread" : "") +
+                                   (isTruthTold_ && looksStale(*control) ? " stale" : "");
   }
   if (!isTruthTold_)
     for (const char* name : {"lblAge", "cmdNewErrors"}) shown.erase(name);

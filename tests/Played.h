@@ -19,6 +19,9 @@ class Played : public Bench {
   /// What the user does with a control of an open window, and the window's own way to close it.
   void useGraph(Graph& graph, const std::string& value);
   virtual void use(Control& control, const std::string& value);
+  /// How its user sees that it is marked.
+  virtual bool looksUnread(const Control& control) const { return control.isUnread(); }
+  virtual bool looksStale(const Control& control) const { return control.isStale(); }
   virtual void close(Window& window) { window.close(); }
   /// A modal window that opens, and windows that go.
   virtual void opened(Window& window) { playIn(window); }

@@ -2,6 +2,7 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QComboBox>
+#include <QGraphicsEffect>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -13,6 +14,7 @@
 #include "Numbers.h"
 #include "Played.h"
 #include "QtValues.h"
+#include "UnreadMark.h"
 
 namespace tracewell {
 
@@ -119,6 +121,27 @@ class Hands : public Played {
       Played::use(control, value);
   }
 
+  /// The caption of a slide, otherwise the widget itself; none while there is no form.
+  QWidget* placeOfMark(const Control& control) const {
+    QWidget* widget = desktop_.widgetOf(control);
+    const QString caption = toQt(control.objectName()) + "_caption";
+    QWidget* label = widget == nullptr ? nullptr : widget->window()->findChild<QLabel*>(caption);
+    return label == nullptr ? widget : label;
+  }
+  bool looksUnread(const Control& control) const override {
+    const QWidget* widget = placeOfMark(control);
+    if (widget == nullptr) return Played::looksUnread(control);
+    const auto* mark = widget->findChild<UnreadMark*>({}, Qt::FindDirectChildrenOnly);
+    return mark != nullptr && mark->isVisibleTo(widget);
+  }
+  bool looksStale(const Control& control) const override {
+    const QWidget* widget = placeOfMark(control);
+    if (widget == nullptr) return Played::looksStale(control);
+    const bool isPale = widget->graphicsEffect() != nullptr;
+    EXPECT_EQ(desktop_.widgetOf(control)->graphicsEffect() != nullptr, isPale);
+    return isPale;
+  }
+
   void press(QAbstractButton& button) {
     const bool isPush = qobject_cast<QPushButton*>(&button) != nullptr;
     const QPoint place = isPush ? button.rect().center() : QPoint(8, button.height() / 2);
@@ -183,7 +206,7 @@ TEST_P(HandsTest, RealWidgetsComeToTheSame) {
 
 INSTANTIATE_TEST_SUITE_P(Files, HandsTest,
                          testing::Combine(testing::Values("link.txt", "panel.txt", "view.txt",
-                                                          "files.txt"),
+                                                          "files.txt", "truth.txt"),
                                           testing::Bool()));
 
 TEST_F(FrontPanelTest, LanguageInUseKeepsItsTickWhenItIsChosenAgain) {

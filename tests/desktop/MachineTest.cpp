@@ -107,6 +107,14 @@ TEST(WindowState, WindowComesBackWhereItWasIfThatIsOnAScreen) {
     EXPECT_TRUE(!place.isValid() || window.geometry() == place);
     EXPECT_LE(window.width(), most.width());
     EXPECT_EQ(window.isMaximized(), std::string(content).ends_with(",1\r\n"));
+    if (!place.isValid()) continue;
+    // Kept as it was before it was made as large as the screen.
+    window.show();
+    QApplication::processEvents();
+    EXPECT_EQ(window.geometry() == place, !window.isMaximized());
+    fs::remove(file);
+    WindowState(folder.path()).keep(window);
+    EXPECT_EQ(contentOf(file), content);
   }
   // Kept by the program itself at its end.
   {

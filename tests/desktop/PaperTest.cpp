@@ -2,7 +2,6 @@
 #include <QApplication>
 #include <QProcess>
 #include <QTemporaryDir>
-#include <numbers>
 
 #include "Bench.h"
 #include "DesktopProgram.h"
@@ -26,22 +25,54 @@ class PaperTest : public testing::Test {
   DesktopPrinter printer;
 };
 
-TEST_F(PaperTest, PageCarriesTitleTracesAndScales) {
+TEST_F(PaperTest, TracesLieUprightOnTheGridOfAPageThatLiesAcross) {
   GraphPage page;
   page.title = "Tracewell  2026-03-15";
   page.captions = {"Volts/Div voie 1 500.0 mV", "SEC/Div 500.0 us"};
-  GraphPage::Trace trace{1, "Chan1", {}, {}};
-  for (int i = -250; i < 250; ++i) {
-    trace.x.push_back(i);
-    trace.y.push_back(100 * std::sin(i * std::numbers::pi / 50));
-  }
-  page.traces = {trace};
+  const std::tuple<int, double, double, double> levels[] = {
+      {1, -250, 250, 150}, {2, -250, 250, -50}, {3, 100, 200, 75}};
+  for (const auto& [number, from, to, level] : levels)
+    page.traces.push_back({number, "Chan" + std::to_string(number), {from, to}, {level, level}});
   printer.printToFile(path);
   printer.printPage(page);
   const std::string text = pdfText();
   for (const char* part :
        {"Tracewell 2026-03-15", "Volts/Div voie 1 500.0 mV", "500.0 us", "Chan1"})
     EXPECT_NE(text.find(part), std::string::npos) << part << " in " << text;
+  const QString file = folder.filePath(QStringLiteral("page"));
+  QProcess::execute(QStringLiteral("pdftoppm"), {"-singlefile", "-png", "-r", "100", path, file});
+  const QImage picture(file + ".png");
+  ASSERT_GT(picture.width(), picture.height());
+
+  // The last and the first place where the ink is, along a row or a column.
+  const auto reach = [&](bool isRow, int at, const std::function<bool(QColor)>& isInk) {
+    QList<int> found;
+    for (int i = 0; i < (isRow ? picture.width() : picture.height()); ++i)
+      if (isInk(isRow ? picture.pixelColor(i, at) : picture.pixelColor(at, i))) found << i;
+    return found.isEmpty() ? std::pair(-1, -1) : std::pair(found.first(), found.last());
+  };
+  const auto isBlack = [](QColor ink) { return ink.lightness() < 100 && ink.saturation() < 20; };
+  const auto [top, bottom] = reach(false, picture.width() * 3 / 5, isBlack);
+  const auto [left, right] = reach(true, (top + bottom) / 3, isBlack);
+  const QColor inks[] = {{0x9a, 0x5b, 0x00}, {0x00, 0x4f, 0x87}, {0x1d, 0x6b, 0x2a}};
+  for (const auto& [number, from, to, level] : levels) {
+    SCOPED_TRACE(number);
+    const auto isInk = [&, ink = inks[number - 1]](QColor pixel) {
+      return std::abs(pixel.hue() - ink.hue()) < 12 && pixel.saturation() > 100;
+    };
+    const int row = qRound(top + (bottom - top) * (200 - level) / 400);
+    int first = picture.width();
+    int last = 0;
+    for (int y = row - 1; y <= row + 1; ++y) {
+      const auto [begin, end] = reach(true, y, isInk);
+      if (begin < 0) continue;
+      first = std::min(first, begin);
+      last = std::max(last, end);
+    }
+    EXPECT_NEAR(first, left + (right - left) * (from + 250) / 500, 4);
+    // The last dash may end before the trace.
+    EXPECT_NEAR(last, left + (right - left) * (to + 250) / 500, number == 3 ? 20 : 4);
+  }
 }
 
 TEST_F(PaperTest, TextAndPictureMakeDocumentsOfTheirOwn) {

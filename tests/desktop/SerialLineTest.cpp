@@ -80,6 +80,41 @@ TEST_F(SerialLineTest, MostOfARecordIsSleptThroughAndItsEndIsNot) {
   EXPECT_LT(count, 40);
 }
 
+/// A pseudo-terminal always has eight bits and no parity, and keeps the rest.
+TEST_F(SerialLineTest, EverySettingReachesTheLine) {
+  startInstrument({});
+  const int line = ::open(device.toLocal8Bit().constData(), O_RDWR | O_NOCTTY);
+  const std::pair<int, speed_t> rates[] = {{1200, B1200}, {4800, B4800}, {19200, B19200}};
+  const std::pair<std::int16_t, QSerialPort::DataBits> lengths[] = {{7, QSerialPort::Data7},
+                                                                    {8, QSerialPort::Data8}};
+  const std::pair<std::int16_t, QSerialPort::StopBits> stops[] = {{0, QSerialPort::OneStop},
+                                                                  {2, QSerialPort::TwoStop}};
+  const std::pair<std::int16_t, QSerialPort::Parity> parities[] = {
+      {0, QSerialPort::NoParity}, {1, QSerialPort::EvenParity}, {3, QSerialPort::OddParity}};
+  for (const auto& [rate, speed] : rates)
+    for (const auto& [length, dataBits] : lengths)
+      for (const auto& [stop, stopBits] : stops)
+        for (const auto& [code, parity] : parities) {
+          const LineSettings settings{0, rate, length, stop, code};
+          SCOPED_TRACE(testing::Message() << rate << " " << length << " " << stop << " " << code);
+          QSerialPort port;
+          port.setFlowControl(QSerialPort::HardwareControl);
+          setLine(port, settings);
+          EXPECT_EQ(std::tuple(port.baudRate(), port.dataBits(), port.stopBits(), port.parity(),
+                               port.flowControl()),
+                    std::tuple(rate, dataBits, stopBits, parity, QSerialPort::NoFlowControl));
+          const auto channel = open(settings);
+          termios kept;
+          ASSERT_EQ(tcgetattr(line, &kept), 0);
+          EXPECT_EQ(cfgetospeed(&kept), speed);
+          EXPECT_EQ((kept.c_cflag & CSTOPB) != 0, stop == 2);
+          EXPECT_EQ((kept.c_cflag & PARODD) != 0, code == 3);
+          EXPECT_EQ(kept.c_cflag & CRTSCTS, 0u);
+          EXPECT_EQ(kept.c_iflag & (IXON | IXOFF), 0u);
+        }
+  ::close(line);
+}
+
 /// The instrument's control lines stay up when the port is closed.
 TEST_F(SerialLineTest, ClosingDoesNotHangUp) {
   startInstrument({});

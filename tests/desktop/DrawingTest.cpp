@@ -1,0 +1,235 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <QDebug>
+#include <QPainter>
+
+#include "GraphView.h"
+#include "MainFormTest.h"
+#include "QtValues.h"
+
+namespace tracewell {
+namespace {
+
+/// How much of a colour a pixel has that lies between it and the ground; none if it does not.
+double shareOf(QColor colour, QColor ground, QColor pixel) {
+  const auto parts = [](QColor of) { return std::array{of.red(), of.green(), of.blue()}; };
+  double along = 0;
+  double whole = 0;
+  for (std::size_t i = 0; i < 3; ++i) {
+    const int most = parts(colour)[i] - parts(ground)[i];
+    along += most * (parts(pixel)[i] - parts(ground)[i]);
+    whole += most * most;
+  }
+  const double share = along / whole;
+  for (std::size_t i = 0; i < 3; ++i) {
+    const int most = parts(colour)[i] - parts(ground)[i];
+    if (std::abs(parts(pixel)[i] - parts(ground)[i] - share * most) > 20) return 0;
+  }
+  return share;
+}
+
+/// The graph as it is on the screen, held against graph units.
+class DrawingTest : public MainFormTest {
+ protected:
+  DrawingTest() {
+    graph.marks = [this] { return marks; };
+    for (Plot& plot : graph.plots()) plot.visible = false;
+    for (Axis& axis : graph.axes()) axis.gridColour = graph.plotAreaColour();
+    paint();
+  }
+
+  void draw(int number, std::initializer_list<std::pair<std::int16_t, double>> points) {
+    std::vector<std::int16_t> x;
+    std::vector<double> y;
+    for (const auto& [across, up] : points) {
+      x.push_back(across);
+      y.push_back(up);
+    }
+    graph.plot(number).visible = true;
+    graph.plot(number).plotXvsY(x, y);
+  }
+
+  void paint() {
+    QTest::qWait(1);
+    picture = view.grab().toImage();
+  }
+
+  /// Ten divisions across and eight up, a margin of one pixel around them.
+  QPoint at(double x, double y) const {
+    return {qRound(1 + (x + 250) / 500 * (area.width() - 2)),
+            qRound(1 + (200 - y) / 400 * (area.height() - 2))};
+  }
+  QRect around(double x, double y, int width, int height) const {
+    QRect place(0, 0, width, height);
+    place.moveCenter(at(x, y));
+    return place.intersected(area.rect());
+  }
+
+  /// What encloses the pixels that have as much of that colour.
+  QRect find(QColor colour, QRect where = {}, double share = 0.4) const {
+    QRect found;
+    if (!where.isValid()) where = area.rect();
+    for (int y = where.top(); y <= where.bottom(); ++y)
+      for (int x = where.left(); x <= where.right(); ++x)
+        if (picture.pixel(x, y) != ground.rgb() &&
+            shareOf(colour, ground, picture.pixelColor(x, y)) > share)
+          found |= QRect(x, y, 1, 1);
+    return found;
+  }
+  QColor colourOf(int plot) const { return toQt(graph.plot(plot).lineColour()); }
+
+  /// It reaches so many pixels around a place in graph units, give or take four at each side.
+  void expectAt(QColor colour, double x, double y, int width, int height) const {
+    const QRect wanted = around(x, y, width, height);
+    const QRect found = find(colour);
+    EXPECT_TRUE(wanted.adjusted(-4, -4, 4, 4).contains(found) &&
+                found.adjusted(-4, -4, 4, 4).contains(wanted))
+        << fromQt(QDebug::toString(found) + " instead of " + QDebug::toString(wanted));
+  }
+
+  /// Whether the last sign of the text there is a 1, the one that has a stem from top to bottom.
+  bool endsWithOne(QColor colour, QRect where) const {
+    const QRect text = find(colour, where);
+    EXPECT_GT(text.height(), 6);
+    for (int x = text.center().x() + 1; x <= text.right(); ++x) {
+      int rows = 0;
+      for (int y = text.top(); y <= text.bottom(); ++y)
+        if (find(colour, {x, y, 1, 1}).isValid()) ++rows;
+      if (rows == text.height()) return true;
+    }
+    return false;
+  }
+
+  Graph& graph = main.graphDSO;
+  GraphView& view = *MainFormTest::find<GraphView>("graphDSO");
+  const QColor ground = toQt(graph.plotAreaColour());
+  const QWidget& area = *view.findChild<QWidget*>({}, Qt::FindDirectChildrenOnly);
+  GraphMarks marks;
+  QImage picture;
+};
+
+TEST_F(DrawingTest, TracesLieWhereTheirPointsAre) {
+  for (int number = 1; number <= 6; ++number) {
+    const double height = 200 - 60 * number;
+    draw(number, {{-200, height}, {100, height}});
+    for (const int style : {Plot::noPoints, Plot::dotPoints}) {
+      SCOPED_TRACE(testing::Message() << number << " in style " << style);
+      graph.plot(number).pointStyle = style;
+      paint();
+      expectAt(colourOf(number), -50, height, at(100, 0).x() - at(-200, 0).x(), 1);
+      EXPECT_EQ(find(colourOf(number)).height() > 3, style == Plot::dotPoints);
+    }
+  }
+}
+
+TEST_F(DrawingTest, OldTraceIsPaleOnTheScreenAlone) {
+  draw(1, {{-200, 50}, {100, 50}});
+  graph.plot(1).isOld = true;
+  marks.names = {{1, "name"}};
+  paint();
+  EXPECT_FALSE(find(colourOf(1), around(-50, 50, 100, 9), 0.6).isValid());
+  picture = view.picture().toImage();
+  EXPECT_GT(find(colourOf(1), around(-50, 50, 100, 9), 0.6).width(), 98);
+  // No name at its end.
+  EXPECT_LT(find(colourOf(1)).height(), 4);
+}
+
+TEST_F(DrawingTest, TriggerMarkPointsAtItsLevelAndStaysInside) {
+  const QColor colour(129, 212, 132);
+  EXPECT_EQ(find(colour), QRect());
+  Cursor& marker = graph.cursor("Triger");
+  marker.visible = true;
+  for (const auto& [level, height] : {std::pair(60, 60), {-120, -120}, {900, 192}, {-900, -192}}) {
+    SCOPED_TRACE(level);
+    marker.yPosition = level;
+    paint();
+    const QRect found = find(colour);
+    EXPECT_NEAR(found.center().y(), at(0, height).y(), 2);
+    EXPECT_GT(found.left(), at(230, 0).x());
+  }
+}
+
+TEST_F(DrawingTest, CursorsStandWithTheirNames) {
+  const QColor active(255, 205, 198);
+  const QColor other(255, 138, 128);
+  for (const CursorStyle style : {CursorStyle::verticalLine, CursorStyle::horizontalLine}) {
+    const bool isUpright = style == CursorStyle::verticalLine;
+    const std::tuple<const char*, QColor, double, bool> cursors[] = {{"cur1", active, 150, true},
+                                                                     {"cur2", other, -60, false}};
+    for (const auto& [name, colour, place, isFirst] : cursors) {
+      graph.cursor(name).visible = true;
+      graph.cursor(name).style = style;
+      (isUpright ? graph.cursor(name).xPosition : graph.cursor(name).yPosition) = place;
+    }
+    paint();
+    for (const auto& [name, colour, place, isFirst] : cursors) {
+      SCOPED_TRACE(name);
+      const QRect line =
+          isUpright ? around(place, 0, 3, area.height()) : around(0, place, area.width(), 3);
+      const QRect found = find(colour, line);
+      EXPECT_GT(isUpright ? found.height() : found.width(),
+                (isUpright ? area.height() : area.width()) - 12);
+      // Below the line, or behind it.
+      const QPoint corner = isUpright ? at(place, 200) : at(-250, place);
+      EXPECT_EQ(endsWithOne(colour, {corner + QPoint(3, 3), QSize(40, 16)}), isFirst);
+    }
+  }
+}
+
+TEST_F(DrawingTest, NamesAndFlagsStandAtTheHeightsOfTheirTraces) {
+  draw(1, {{-200, 0}, {200, 120}});
+  draw(2, {{-200, 0}, {200, -90}});
+  for (const int number : {1, 2}) graph.plot(number).visible = false;
+  marks.names = {{2, "two"}, {1, "one"}};
+  paint();
+  for (const auto& [number, height] : {std::pair(1, 120), {2, -90}}) {
+    const QRect found = find(colourOf(number));
+    EXPECT_NEAR(found.center().y(), at(0, height).y(), 4);
+    EXPECT_NEAR(found.right(), at(200, 0).x(), 12);
+  }
+  marks = {};
+  using Side = GraphMarks::Side;
+  const std::tuple<Side, double> sides[] = {{{1, Side::here, 70, "1"}, 70},
+                                            {{1, Side::here, -130, "1"}, -130},
+                                            {{1, Side::above, 0, "1"}, 192},
+                                            {{1, Side::below, 0, "1"}, -192}};
+  for (const auto& [side, height] : sides) {
+    SCOPED_TRACE(testing::Message() << side.direction << " " << height);
+    marks.sides = {side};
+    view.update();
+    paint();
+    const QRect found = find(colourOf(1));
+    EXPECT_NEAR(found.center().y(), at(0, height).y(), 3);
+    EXPECT_LT(found.right(), 20);
+    // Its tip is the narrow end.
+    const auto widthOf = [&](int row) { return find(colourOf(1), {0, row, 40, 1}).width(); };
+    const int difference = widthOf(found.top() + 1) - widthOf(found.bottom() - 1);
+    EXPECT_EQ(difference < -4, side.direction == Side::above);
+    EXPECT_EQ(difference > 4, side.direction == Side::below);
+  }
+}
+
+TEST_F(DrawingTest, BadgeStandsBesideTheCursors) {
+  marks.badge = {{1, "WWWW"}, {2, "WWWW"}};
+  const std::tuple<CursorStyle, double, double> cases[] = {{CursorStyle::verticalLine, -150, 20},
+                                                           {CursorStyle::horizontalLine, 40, -30}};
+  for (const auto& [style, first, second] : cases) {
+    for (const char* name : {"cur1", "cur2"}) {
+      Cursor& cursor = graph.cursor(name);
+      cursor.style = style;
+      const double place = std::string(name) == "cur1" ? first : second;
+      cursor.xPosition = place;
+      cursor.yPosition = place;
+    }
+    paint();
+    const QRect one = find(colourOf(1));
+    const QRect two = find(colourOf(2));
+    EXPECT_GT(two.top(), one.bottom());
+    if (style == CursorStyle::verticalLine)
+      EXPECT_NEAR(one.left(), at(second, 0).x() + 16, 4);
+    else
+      EXPECT_NEAR(one.top(), at(0, second).y() + 16, 6);
+  }
+}
+
+}  // namespace
+}  // namespace tracewell
