@@ -31,7 +31,7 @@ FileEnd readFileEnd(const std::filesystem::path& path, std::uintmax_t limit);
 void writeWholeFile(const std::filesystem::path& path, std::string_view bytes);
 
 /// The same for files that belong together: all are on the disk before the first one takes its
-/// name, and they take them in this order.
+/// name, they take them in this order, and where one cannot those before it are as they were again.
 struct WholeFile {
   const std::filesystem::path& path;
   std::string_view bytes;

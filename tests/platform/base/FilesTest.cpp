@@ -106,6 +106,33 @@ TEST_F(FilesTest, WhatADiskMayNotHoldIsSaidAndLeavesNothingBehind) {
   EXPECT_EQ(entries(), before);
 }
 
+/// A folder takes the place of the last file of a set while that is on its way.
+TEST_F(FilesTest, SetThatCannotBeWholeIsAsItWas) {
+  const fs::path files[] = {folder.path() / "a", folder.path() / "b", folder.path() / "c"};
+  class Intruder : public FullDisk {
+   public:
+    explicit Intruder(const fs::path& place) : place_(place) {}
+    std::error_code flush(std::FILE&) override {
+      fs::create_directory(place_);
+      return {};
+    }
+
+   private:
+    const fs::path& place_;
+  } disk(files[2]);
+  writeWholeFile(files[0], "old");
+  const std::size_t before = entries();
+  useDisk(&disk);
+  const std::string reason = errorOf([&] {
+    writeWholeFiles({{files[0], "1"}, {files[1], "2"}, {files[2], "3"}});
+  });
+  useDisk(nullptr);
+  EXPECT_NE(reason.find(pathText(files[2])), std::string::npos) << reason;
+  EXPECT_EQ(contentOf(files[0]), "old");
+  EXPECT_FALSE(fs::exists(files[1]));
+  EXPECT_EQ(entries(), before + 1);
+}
+
 /// The last sizes are those of whole blocks of reading.
 TEST_F(FilesTest, LimitIsExact) {
   const fs::path file = folder.path() / "file";
