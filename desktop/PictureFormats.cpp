@@ -122,9 +122,12 @@ void checkImage(const Image& image) {
                        std::to_string(image.height) + " pixels");
 }
 
+bool isLoaded(int format) {
+  return format != Pictures::wmf && format != Pictures::ico && format != Pictures::cur;
+}
+
 /// What could not be loaded again is not made.
 void checkLoadable(const Image& image, int format) {
-  if (format == Pictures::wmf || format == Pictures::ico || format == Pictures::cur) return;
   const auto width = static_cast<std::size_t>(image.width);
   const auto height = static_cast<std::size_t>(image.height);
   // A PCX has an even number of bytes in a line.
@@ -204,9 +207,12 @@ Image loaded(const std::filesystem::path& path) {
 std::string encodePicture(const Image& image, int format) {
   return orError("Cannot make a picture file", [&] {
     checkImage(image);
-    checkLoadable(image, format);
+    if (isLoaded(format)) checkLoadable(image, format);
     prepareMagick();
-    return encoded(image, format);
+    std::string bytes = encoded(image, format);
+    if (isLoaded(format) && bytes.size() > fileLimit::picture)
+      throw std::runtime_error(std::to_string(bytes.size()) + " bytes could not be loaded again");
+    return bytes;
   });
 }
 
