@@ -52,10 +52,11 @@ void Lifecycle::Form_Unload() {
 
 void Lifecycle::saveSetup() {
   const std::filesystem::path path = setupFiles_.defaultPath();
+  const Services& services = main_.services();
   try {
-    setupFiles_.WriteSetupFile(path);
+    const StatusLine::Sentence said = setupFiles_.WriteSetupFile(path);
+    if (said) services.dialogs.showMessage(said(services.words));
   } catch (const Error& error) {
-    const Services& services = main_.services();
     services.dialogs.showMessage(
         services.words.say("The setup could not be saved to %1.", {pathText(path)}) + "\n" +
         error.description());

@@ -4,26 +4,20 @@
 #include <Magick++.h>
 
 #include <algorithm>
-#include <array>
 #include <cstdint>
 #include <limits>
-#include <string_view>
-#include <vector>
+#include <stdexcept>
 
 #include "Error.h"
 #include "Files.h"
+#include "Metafile.h"
+#include "PictureGuard.h"
 #include "Pictures.h"
 
 namespace tracewell {
 namespace {
 
-using namespace std::string_view_literals;
-
-constexpr std::size_t largestSideLoaded = 8192;
-/// Pixels; each takes some fifteen bytes on its way.
-constexpr std::size_t largestAreaLoaded = 10'000'000;
-/// Of a progressive JPEG; each goes over all pixels, and drawing programs write some ten.
-constexpr int mostScansLoaded = 64;
+constexpr int largestSideLoaded = 8192;
 /// Metafiles count in signed 16-bit numbers; no other format here is narrower.
 constexpr int largestSideEncoded = std::numeric_limits<std::int16_t>::max();
 
@@ -59,69 +53,6 @@ void prepareMagick() {
     Magick::ResourceLimits::thread(1);
     return true;
   }();
-}
-
-std::string words(const std::vector<int>& values) {
-  std::string bytes;
-  for (const int value : values) {
-    bytes += static_cast<char>(value & 0xFF);
-    bytes += static_cast<char>(value >> 8 & 0xFF);
-  }
-  return bytes;
-}
-
-std::string doubleWord(std::size_t value) {
-  return words({static_cast<int>(value & 0xFFFF), static_cast<int>(value >> 16 & 0xFFFF)});
-}
-
-std::string placeableHeader(const Image& image) {
-  constexpr int pixelsPerInch = 96;
-  const std::vector<int> fields{0xCDD7,       0x9AC6,        0, 0, 0, image.width,
-                                image.height, pixelsPerInch, 0, 0};
-  int checksum = 0;
-  for (const int field : fields) checksum ^= field;
-  return words(fields) + words({checksum});
-}
-
-std::string metafileRecord(int function, const std::string& parameters) {
-  return doubleWord(3 + parameters.size() / 2) + words({function}) + parameters;
-}
-
-/// Rows from the bottom, blue first, each filled up to four bytes.
-std::string bitmapRows(const Image& image) {
-  const std::size_t width = static_cast<std::size_t>(image.width);
-  std::string rows;
-  for (std::size_t row = static_cast<std::size_t>(image.height); row-- > 0;) {
-    for (std::size_t pixel = row * width; pixel < (row + 1) * width; ++pixel)
-      for (const std::size_t colour : {2u, 1u, 0u}) rows += image.pixels[pixel * 3 + colour];
-    rows.append(width % 4, '\0');
-  }
-  return rows;
-}
-
-std::string stretchBitmapRecord(const Image& image) {
-  constexpr std::size_t copySource = 0x00CC0020;
-  const std::string rows = bitmapRows(image);
-  const std::string bitmapHeader =
-      doubleWord(40) + doubleWord(static_cast<std::size_t>(image.width)) +
-      doubleWord(static_cast<std::size_t>(image.height)) + words({1, 24}) + doubleWord(0) +
-      doubleWord(rows.size()) + std::string(16, '\0');
-  const std::string rectangle = words({image.height, image.width, 0, 0});
-  return metafileRecord(
-      0x0F43, doubleWord(copySource) + words({0}) + rectangle + rectangle + bitmapHeader + rows);
-}
-
-std::string metafile(const Image& image) {
-  constexpr std::size_t headerSize = 18;
-  constexpr int anisotropic = 8;
-  const std::string bitmap = stretchBitmapRecord(image);
-  const std::string records =
-      metafileRecord(0x0103, words({anisotropic})) + metafileRecord(0x020B, words({0, 0})) +
-      metafileRecord(0x020C, words({image.height, image.width})) + bitmap + metafileRecord(0, "");
-  const std::string header = words({1, headerSize / 2, 0x0300}) +
-                             doubleWord((headerSize + records.size()) / 2) + words({0}) +
-                             doubleWord(bitmap.size() / 2) + words({0});
-  return placeableHeader(image) + header + records;
 }
 
 std::string written(Magick::Image picture, const std::string& magickName) {
@@ -191,53 +122,22 @@ void checkImage(const Image& image) {
                        std::to_string(image.height) + " pixels");
 }
 
-bool isPcx(std::string_view bytes) {
-  constexpr std::string_view versions = "\0\2\3\4\5"sv;
-  return bytes.size() > 3 && bytes[0] == '\x0A' &&
-         versions.find(bytes[1]) != std::string_view::npos && bytes[2] == 1;
+bool isLoaded(int format) {
+  return format != Pictures::wmf && format != Pictures::ico && format != Pictures::cur;
 }
 
-/// The library's name for what the bytes are, empty for all that is not to be loaded. Left to
-/// guess, the library would also run files that are programs to it.
-std::string signatureName(std::string_view bytes) {
-  struct Signature {
-    std::string_view start;
-    const char* name;
-  };
-  static constexpr std::array signatures{
-      Signature{"BM"sv, "BMP"},
-      Signature{"GIF87a"sv, "GIF"},
-      Signature{"GIF89a"sv, "GIF"},
-      Signature{"II*\0"sv, "TIFF"},
-      Signature{"MM\0*"sv, "TIFF"},
-      Signature{"\x89PNG\r\n\x1A\n"sv, "PNG"},
-      Signature{"\xFF\xD8\xFF"sv, "JPEG"},
-  };
-  for (const Signature& signature : signatures)
-    if (bytes.starts_with(signature.start)) return signature.name;
-  return isPcx(bytes) ? "PCX" : "";
-}
-
-/// How often a JPEG goes over its pixels: its markers of the kind "start of scan". Segments are
-/// passed by the length that they state; within a scan's data no such marker can stand.
-int scansOf(std::string_view jpeg) {
-  constexpr auto isAlone = [](unsigned char code) {
-    return code <= 0x01 || (code >= 0xD0 && code <= 0xD8) || code == 0xFF;
-  };
-  constexpr unsigned char endOfImage = 0xD9;
-  constexpr unsigned char startOfScan = 0xDA;
-  const auto byteAt = [jpeg](std::size_t at) {
-    return at < jpeg.size() ? static_cast<unsigned char>(jpeg[at]) : endOfImage;
-  };
-  int scans = 0;
-  for (std::size_t at = jpeg.find('\xFF'); at != jpeg.npos; at = jpeg.find('\xFF', at)) {
-    const unsigned char code = byteAt(++at);
-    if (code == endOfImage) break;
-    if (isAlone(code)) continue;
-    if (code == startOfScan) ++scans;
-    at += 1 + std::size_t{byteAt(at + 1)} * 256 + byteAt(at + 2);
-  }
-  return scans;
+/// What could not be loaded again is not made.
+void checkLoadable(const Image& image, int format) {
+  const auto width = static_cast<std::size_t>(image.width);
+  const auto height = static_cast<std::size_t>(image.height);
+  // A PCX has an even number of bytes in a line.
+  const std::size_t pcxLines = (width + width % 2) * height * 3;
+  if (std::max(image.width, image.height) > largestSideLoaded ||
+      width * height > largestPictureArea ||
+      (format == Pictures::pcx && pcxLines > largestPcxLines))
+    throw pictureError("A picture of " + std::to_string(width) + " x " + std::to_string(height) +
+                       " pixels could not be loaded again: choose another format, or make the "
+                       "window smaller");
 }
 
 Magick::Image firstOnly(const std::string& name) {
@@ -249,17 +149,17 @@ Magick::Image firstOnly(const std::string& name) {
   return picture;
 }
 
-void checkSize(const std::string& name, const Magick::Blob& blob, const std::string& path) {
+void checkSize(const std::string& name, const Magick::Blob& blob) {
   Magick::Image picture = firstOnly(name);
   try {
     picture.ping(blob);
   } catch (const Magick::WarningCoder&) {
     // The size is there nevertheless.
   }
-  if (std::max(picture.columns(), picture.rows()) > largestSideLoaded ||
-      picture.columns() * picture.rows() > largestAreaLoaded)
-    throw pictureError("Picture too large: " + path + " (" + std::to_string(picture.columns()) +
-                       " x " + std::to_string(picture.rows()) + " pixels)");
+  if (std::max(picture.columns(), picture.rows()) > std::size_t{largestSideLoaded} ||
+      picture.columns() * picture.rows() > largestPictureArea)
+    throw std::runtime_error(std::to_string(picture.columns()) + " x " +
+                             std::to_string(picture.rows()) + " pixels are too many");
 }
 
 Magick::Image decoded(const std::string& name, const Magick::Blob& blob) {
@@ -284,15 +184,22 @@ Image imageOf(Magick::Image picture) {
   return image;
 }
 
+struct Readable {
+  std::string format;
+  Magick::Blob blob;
+};
+
+/// Of the file's own bytes nothing is left then.
+Readable readable(const std::filesystem::path& path) {
+  const GuardedPicture picture = guardedPicture(readWholeFile(path, fileLimit::picture));
+  if (picture.format.empty()) throw std::runtime_error("Not a bmp, gif, pcx, tif, png or jpg");
+  return {picture.format, {picture.bytes.data(), picture.bytes.size()}};
+}
+
 Image loaded(const std::filesystem::path& path) {
-  const std::string bytes = readWholeFile(path, fileLimit::picture);
-  const std::string name = signatureName(bytes);
-  if (name.empty()) throw pictureError("Not a bmp, gif, pcx, tif, png or jpg: " + pathText(path));
-  if (name == "JPEG" && scansOf(bytes) > mostScansLoaded)
-    throw pictureError("Too many scans: " + pathText(path));
-  const Magick::Blob blob(bytes.data(), bytes.size());
-  checkSize(name, blob, pathText(path));
-  return imageOf(decoded(name, blob));
+  const auto [format, blob] = readable(path);
+  checkSize(format, blob);
+  return imageOf(decoded(format, blob));
 }
 
 }  // namespace
@@ -300,8 +207,12 @@ Image loaded(const std::filesystem::path& path) {
 std::string encodePicture(const Image& image, int format) {
   return orError("Cannot make a picture file", [&] {
     checkImage(image);
+    if (isLoaded(format)) checkLoadable(image, format);
     prepareMagick();
-    return encoded(image, format);
+    std::string bytes = encoded(image, format);
+    if (isLoaded(format) && bytes.size() > fileLimit::picture)
+      throw std::runtime_error(std::to_string(bytes.size()) + " bytes could not be loaded again");
+    return bytes;
   });
 }
 

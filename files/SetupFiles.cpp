@@ -95,8 +95,26 @@ bool SetupFiles::isTakenWhole(const std::filesystem::path& path) const {
   }
 }
 
+bool SetupFiles::isDefault(const std::filesystem::path& path) const {
+  std::error_code ignored;
+  return path == defaultPath() || std::filesystem::equivalent(path, defaultPath(), ignored);
+}
+
+/// Neither what is known nor what is to be written.
+bool SetupFiles::isOfAnother(const std::filesystem::path& path, const std::string& text) const {
+  if (!isDefault(path)) return false;
+  try {
+    const std::string bytes = readWholeFile(path, fileLimit::setup);
+    return bytes != known_ && bytes != text;
+  } catch (const Error&) {
+    // What cannot be read has been noted, or is an error when it is written.
+    return false;
+  }
+}
+
 bool SetupFiles::fillTable(const std::filesystem::path& path) {
   const std::string text = readWholeFile(path, fileLimit::setup);
+  if (isDefault(path)) known_ = text;
   // The lead-in, whatever it is, belongs to no line. What follows the last line end is ignored.
   std::size_t start = leadIn.size();
   std::size_t end = text.find(lineEnd);
@@ -109,11 +127,19 @@ bool SetupFiles::fillTable(const std::filesystem::path& path) {
   return start > leadIn.size();
 }
 
-void SetupFiles::WriteSetupFile(const std::filesystem::path& path) {
-  if (path.empty()) return;
+StatusLine::Sentence SetupFiles::WriteSetupFile(const std::filesystem::path& path) {
+  if (path.empty()) return {};
   const std::string text = fileText(main_.gridMeasure);
+  checkReadable(path, text, fileLimit::setup);
+  StatusLine::Sentence said;
+  if (isOfAnother(path, text)) {
+    noteFileToKeep(main_, path);
+    said = changedMeanwhile(path, nameAside(path));
+  }
   keepNotedFile(main_, path);
   writeWholeFile(path, text);
+  if (isDefault(path)) known_ = text;
+  return said;
 }
 
 void SetupFiles::mnbLoadSetup_Click() {
@@ -129,11 +155,12 @@ void SetupFiles::mnbLoadSetup_Click() {
 void SetupFiles::mnbSaveSetup_Click() {
   Services& services = main_.services();
   const std::filesystem::path path = services.dialogs.saveFile(dialogDSO(services.programFolder));
-  WriteSetupFile(path);
+  const StatusLine::Sentence said = WriteSetupFile(path);
   if (path.empty()) return;
   main_.status.tell(StatusLine::happened, [path](const Words& words) {
     return words.say("Setup saved to %1", {pathText(path)});
   });
+  if (said) main_.status.tellToo(StatusLine::happened, said);
 }
 
 }  // namespace tracewell

@@ -21,9 +21,11 @@ class SetupFiles {
   void ReadSetupFile(const std::filesystem::path& path);
 
   /// Writes rows 0 to 12; does nothing for an empty path. A file that was read but not taken
-  /// whole is kept aside first. Raises "Type mismatch" when a row's count is no number, and the
-  /// file system's reason; the old file is whole then.
-  void WriteSetupFile(const std::filesystem::path& path);
+  /// whole is kept aside first, and so is a default setup that another program has changed since
+  /// it was read: that is to be said then. Raises "Type mismatch" when a row's count is no number,
+  /// pathAccess for a text that could not be read again, and the file system's reason; the old
+  /// file is whole then.
+  StatusLine::Sentence WriteSetupFile(const std::filesystem::path& path);
 
   void mnbLoadSetup_Click();
   void mnbSaveSetup_Click();
@@ -35,8 +37,12 @@ class SetupFiles {
   bool fillTable(const std::filesystem::path& path);
   void noteWhatWasTaken(const std::filesystem::path& path);
   bool isTakenWhole(const std::filesystem::path& path) const;
+  bool isDefault(const std::filesystem::path& path) const;
+  bool isOfAnother(const std::filesystem::path& path, const std::string& text) const;
 
   frmDSO& main_;
+  /// The default setup as it was last read or written here.
+  std::string known_;
 };
 
 }  // namespace tracewell

@@ -99,6 +99,7 @@ void frmSave::saveSet(const std::filesystem::path& path) {
     throw Error(pathAccess, "Tracewell", "A picture cannot have the name of its data: " + name);
   txtDatFile.text = buildInfText(main_, name, txtAuthor.text(), txtDes.text());
   try {
+    checkReadable(pathOf(base + ".inf"), txtDatFile.text(), fileLimit::description);
     writeWholeFiles({{pathOf(base + ".csv"), csv},
                      {pathOf(base + ".inf"), txtDatFile.text()},
                      {path, picture}});

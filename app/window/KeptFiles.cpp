@@ -70,4 +70,11 @@ void keepNotedFile(frmDSO& main, const fs::path& path) {
   forgetFileToKeep(main, path);
 }
 
+StatusLine::Sentence changedMeanwhile(const fs::path& path, const fs::path& aside) {
+  return [=](const Words& words) {
+    return words.say("%1 was changed by another program, and that is kept as %2",
+                     {pathText(path.filename()), pathText(aside.filename())});
+  };
+}
+
 }  // namespace tracewell

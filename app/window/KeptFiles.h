@@ -21,6 +21,10 @@ void forgetFileToKeep(frmDSO& main, const std::filesystem::path& path);
 /// Keeps the file aside if it is one of them, by whatever path it is named. Raises pathAccess.
 void keepNotedFile(frmDSO& main, const std::filesystem::path& path);
 
+/// What to say of a file that another program has changed since it was read, and of its new name.
+StatusLine::Sentence changedMeanwhile(const std::filesystem::path& path,
+                                      const std::filesystem::path& aside);
+
 /// The notice, in the language in force.
 void showFilesToKeep(frmDSO& main);
 

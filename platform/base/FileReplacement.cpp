@@ -51,91 +51,6 @@ OpenFile createExclusively(const fs::path& path) {
 #endif
 }
 
-/// A file on its way to take the name of another. Whatever ends it before, it leaves nothing.
-class Replacement {
- public:
-  /// `target` is the file to be replaced, `path` the name that the user knows for it.
-  Replacement(fs::path target, const fs::path& path) : target_(std::move(target)), path_(path) {
-    create();
-  }
-  ~Replacement() {
-    file_.reset();
-    std::error_code ignored;
-    if (!isDone_) fs::remove(beside_, ignored);
-  }
-  Replacement(const Replacement&) = delete;
-
-  void write(std::string_view bytes) {
-    takeModeOfTarget();
-    errno = 0;
-    if (std::fwrite(bytes.data(), 1, bytes.size(), file_.get()) != bytes.size() ||
-        std::fflush(file_.get()) != 0)
-      throw fileError(diskFull, "Cannot write", path_, lastFailure());
-    if (usedDisk != nullptr) check(usedDisk->flush(*file_), diskFull, "Cannot write");
-    errno = 0;
-    if (std::fclose(file_.release()) != 0)
-      throw fileError(diskFull, "Cannot write", path_, lastFailure());
-  }
-
-  void takeName() {
-    std::error_code failed;
-    fs::rename(beside_, target_, failed);
-    check(failed, pathAccess, "Cannot replace");
-    isDone_ = true;
-  }
-
-  void keepName() const {
-    if (usedDisk != nullptr)
-      check(usedDisk->flushFolder(folder()), diskFull, "Written, but perhaps not for good");
-  }
-
- private:
-  void check(const std::error_code& failed, int number, const char* what) const {
-    if (failed) throw fileError(number, what, path_, failed);
-  }
-
-  fs::path folder() const { return target_.has_parent_path() ? target_.parent_path() : "."; }
-
-  /// Under a short name, since that of the target may already be as long as the system allows.
-  void create() {
-    constexpr int mostTries = 20;
-    std::random_device random;
-    for (int i = 0; i < mostTries && file_ == nullptr; ++i) {
-      beside_ = folder() / (".tracewell-" + std::to_string(random()) + ".new");
-      errno = 0;
-      file_ = createExclusively(beside_);
-      if (file_ == nullptr && errno != EEXIST) break;
-    }
-    if (file_ == nullptr) throw fileError(pathAccess, "Cannot write", path_, lastFailure());
-  }
-
-  /// Before there is any content, so that nobody reads it who could not read the old one.
-  void takeModeOfTarget() const {
-    std::error_code failed;
-    const fs::file_status old = fs::status(target_, failed);
-    if (old.type() == fs::file_type::not_found) return;
-    check(failed, pathAccess, "Cannot write");
-    const fs::file_status own = fs::status(beside_, failed);
-    if (!failed && old.permissions() != own.permissions())
-      fs::permissions(beside_, old.permissions(), failed);
-    check(failed, pathAccess, "Cannot write");
-  }
-
-  fs::path target_;
-  const fs::path& path_;
-  fs::path beside_;
-  OpenFile file_;
-  bool isDone_ = false;
-};
-
-bool canBeRead(const fs::path& path) {
-  return std::ifstream(path, std::ios::binary).is_open();
-}
-
-fs::path asideOf(fs::path target, int number) {
-  return target += number == 1 ? ".bad" : ".bad" + std::to_string(number);
-}
-
 /// A second name, not a link by a name, which would lead to whatever is written there next.
 bool isSecondName(const fs::path& aside, const fs::path& target) {
   std::error_code ignored;
@@ -166,6 +81,137 @@ std::error_code keepAs(const fs::path& aside, const fs::path& target) {
   return isAnswer ? failed : renameToNew(target, aside);
 }
 
+/// A file on its way to take the name of another, and until the whole set has its names with a way
+/// back. Whatever ends it before, it leaves nothing.
+class Replacement {
+ public:
+  /// `target` is the file to be replaced, `path` the name that the user knows for it.
+  Replacement(fs::path target, const fs::path& path) : target_(std::move(target)), path_(path) {
+    create();
+  }
+  ~Replacement() {
+    file_.reset();
+    std::error_code ignored;
+    if (!isDone_) fs::remove(beside_, ignored);
+    if (!old_.empty()) fs::remove(old_, ignored);
+  }
+  Replacement(const Replacement&) = delete;
+
+  void write(std::string_view bytes) {
+    takeModeOfTarget();
+    errno = 0;
+    if (std::fwrite(bytes.data(), 1, bytes.size(), file_.get()) != bytes.size() ||
+        std::fflush(file_.get()) != 0)
+      throw fileError(diskFull, "Cannot write", path_, lastFailure());
+    if (usedDisk != nullptr) check(usedDisk->flush(*file_), diskFull, "Cannot write");
+    errno = 0;
+    if (std::fclose(file_.release()) != 0)
+      throw fileError(diskFull, "Cannot write", path_, lastFailure());
+  }
+
+  void takeName() {
+    std::error_code failed;
+    fs::rename(beside_, target_, failed);
+    check(failed, pathAccess, "Cannot replace");
+    isDone_ = true;
+  }
+
+  /// Gives the old file a name of its own, by which it can come back.
+  void keepOld() {
+    std::error_code failed = std::make_error_code(std::errc::file_exists);
+    for (int i = 0; i < mostTries && failed == std::errc::file_exists; ++i) {
+      old_ = nameBeside(".old");
+      failed = keepAs(old_, target_);
+    }
+    if (failed) old_.clear();
+    // Where no file was there is nothing to keep.
+    if (failed != std::errc::no_such_file_or_directory) check(failed, pathAccess, "Cannot replace");
+  }
+
+  /// As it was before, or the name under which the old file is.
+  std::string goBack() {
+    std::error_code failed;
+    if (!old_.empty())
+      fs::rename(old_, target_, failed);
+    else if (isDone_)
+      fs::remove(target_, failed);
+    if (!failed) return "";
+    return "; " + pathText(path_.filename()) + " was " + pathText(std::exchange(old_, {}));
+  }
+
+  void keepName() const {
+    if (usedDisk != nullptr)
+      check(usedDisk->flushFolder(folder()), diskFull, "Written, but perhaps not for good");
+  }
+
+ private:
+  void check(const std::error_code& failed, int number, const char* what) const {
+    if (failed) throw fileError(number, what, path_, failed);
+  }
+
+  fs::path folder() const { return target_.has_parent_path() ? target_.parent_path() : "."; }
+
+  /// A short name, since that of the target may already be as long as the system allows.
+  fs::path nameBeside(const char* extension) const {
+    std::random_device random;
+    return folder() / (".tracewell-" + std::to_string(random()) + extension);
+  }
+
+  void create() {
+    for (int i = 0; i < mostTries && file_ == nullptr; ++i) {
+      beside_ = nameBeside(".new");
+      errno = 0;
+      file_ = createExclusively(beside_);
+      if (file_ == nullptr && errno != EEXIST) break;
+    }
+    if (file_ == nullptr) throw fileError(pathAccess, "Cannot write", path_, lastFailure());
+  }
+
+  /// Before there is any content, so that nobody reads it who could not read the old one.
+  void takeModeOfTarget() const {
+    std::error_code failed;
+    const fs::file_status old = fs::status(target_, failed);
+    if (old.type() == fs::file_type::not_found) return;
+    check(failed, pathAccess, "Cannot write");
+    const fs::file_status own = fs::status(beside_, failed);
+    if (!failed && old.permissions() != own.permissions())
+      fs::permissions(beside_, old.permissions(), failed);
+    check(failed, pathAccess, "Cannot write");
+  }
+
+  static constexpr int mostTries = 20;
+
+  fs::path target_;
+  const fs::path& path_;
+  fs::path beside_;
+  /// Where the old file is, as long as it may have to come back.
+  fs::path old_;
+  OpenFile file_;
+  bool isDone_ = false;
+};
+
+bool canBeRead(const fs::path& path) {
+  return std::ifstream(path, std::ios::binary).is_open();
+}
+
+/// All or none. The last one needs no way back.
+void takeNames(std::list<Replacement>& replacements) {
+  try {
+    for (Replacement& replacement : replacements) {
+      if (&replacement != &replacements.back()) replacement.keepOld();
+      replacement.takeName();
+    }
+  } catch (const Error& error) {
+    std::string lost;
+    for (Replacement& replacement : replacements) lost += replacement.goBack();
+    throw Error(error.number(), error.source(), error.description() + lost);
+  }
+}
+
+fs::path asideOf(fs::path target, int number) {
+  return target += number == 1 ? ".bad" : ".bad" + std::to_string(number);
+}
+
 }  // namespace
 
 void useDisk(Disk* disk) {
@@ -181,7 +227,7 @@ void writeWholeFiles(std::initializer_list<WholeFile> files) {
   std::list<Replacement> replacements;
   for (const WholeFile& file : files)
     replacements.emplace_back(replaceableTarget(file.path), file.path).write(file.bytes);
-  for (Replacement& replacement : replacements) replacement.takeName();
+  takeNames(replacements);
   for (const Replacement& replacement : replacements) replacement.keepName();
 }
 

@@ -74,6 +74,15 @@ std::string readWholeFile(const fs::path& path, std::uintmax_t limit) {
   return bytes;
 }
 
+void checkReadable(const fs::path& path, std::string_view bytes, std::uintmax_t limit) {
+  if (bytes.size() > limit)
+    throw fileError(pathAccess,
+                    "Not written, since " + std::to_string(bytes.size()) +
+                        " bytes are more than the " + std::to_string(limit) +
+                        " that could be read again",
+                    path);
+}
+
 FileEnd readFileEnd(const fs::path& path, std::uintmax_t limit) {
   std::ifstream file = openForReading(path);
   file.seekg(0, std::ios::end);
@@ -82,7 +91,9 @@ FileEnd readFileEnd(const fs::path& path, std::uintmax_t limit) {
   const std::streamoff skipped =
       std::max<std::streamoff>(0, size - static_cast<std::streamoff>(limit));
   file.seekg(skipped);
-  return {readUpTo(file, path, limit), skipped == 0};
+  std::string bytes = readUpTo(file, path, limit);
+  const std::uintmax_t whole = static_cast<std::uintmax_t>(skipped) + bytes.size();
+  return {std::move(bytes), whole};
 }
 
 }  // namespace tracewell

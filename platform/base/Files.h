@@ -19,10 +19,15 @@ std::string readWholeFile(const std::filesystem::path& path, std::uintmax_t limi
 /// The last `limit` bytes at most; otherwise the same.
 struct FileEnd {
   std::string bytes;
-  /// Nothing stands before them.
-  bool isWhole = true;
+  /// Of the whole file.
+  std::uintmax_t size = 0;
+
+  bool isWhole() const { return bytes.size() == size; }
 };
 FileEnd readFileEnd(const std::filesystem::path& path, std::uintmax_t limit);
+
+/// Raises pathAccess where readWholeFile would refuse what is about to be written.
+void checkReadable(const std::filesystem::path& path, std::string_view bytes, std::uintmax_t limit);
 
 /// Replaces the file or leaves it as it was: the bytes go to a new file of a name of its own in the
 /// same folder, with the mode of the old one; once the disk holds it, it takes the name. Follows a
@@ -31,7 +36,7 @@ FileEnd readFileEnd(const std::filesystem::path& path, std::uintmax_t limit);
 void writeWholeFile(const std::filesystem::path& path, std::string_view bytes);
 
 /// The same for files that belong together: all are on the disk before the first one takes its
-/// name, and they take them in this order.
+/// name, they take them in this order, and where one cannot those before it are as they were again.
 struct WholeFile {
   const std::filesystem::path& path;
   std::string_view bytes;

@@ -10,7 +10,6 @@ namespace {
 /// As much as leaves a log that was cut room to grow, so that the next run takes it whole.
 std::string newestLines(const std::string& log) {
   constexpr std::size_t most = fileLimit::errorLog / 2;
-  if (log.size() <= most) return log;
   const std::size_t end = log.find('\n', log.size() - most - 1);
   return end == std::string::npos ? "" : log.substr(end + 1);
 }
@@ -24,19 +23,26 @@ frmErrLog::frmErrLog(frmDSO& main)
   cmdClose.click = [this] { cmdClose_Click(); };
 }
 
+std::filesystem::path frmErrLog::path() const {
+  return services().programFolder / errorLogFile;
+}
+
 void frmErrLog::Form_Load() {
-  const std::filesystem::path path = services().programFolder / errorLogFile;
+  readLog();
+  txtErrLog.text = known_;
+}
+
+void frmErrLog::readLog() {
+  known_.clear();
+  knownSize_ = 0;
   try {
-    FileEnd log = readFileEnd(path, fileLimit::errorLog);
-    isCut_ = !log.isWhole;
-    // From the beginning of a line on.
-    if (isCut_) log.bytes.erase(0, log.bytes.find('\n') + 1);
-    txtErrLog.text = std::move(log.bytes);
-    if (isCut_) noteFileToKeep(main_, path);
+    FileEnd log = readFileEnd(path(), fileLimit::errorLog);
+    known_ = log.isWhole() ? std::move(log.bytes) : newestLines(log.bytes);
+    knownSize_ = log.size;
+    if (known_.size() < knownSize_) noteFileToKeep(main_, path());
   } catch (const Error& error) {
     // No log yet, or none that can be read: a new one begins.
-    txtErrLog.text = "";
-    if (error.number() != fileNotFound) noteFileToKeep(main_, path);
+    if (error.number() != fileNotFound) noteFileToKeep(main_, path());
   }
 }
 
@@ -61,11 +67,45 @@ void frmErrLog::cmdClear_Click() {
 }
 
 void frmErrLog::cmdClose_Click() {
-  const std::filesystem::path path = services().programFolder / errorLogFile;
-  keepNotedFile(main_, path);
-  writeWholeFile(path, isCut_ ? newestLines(txtErrLog.text()) : txtErrLog.text());
+  if (!isAsKnown()) joinWhatOthersWrote();
+  write();
   hide();
   main_.refresh();
+}
+
+/// So it is, too, where there is no file any more.
+bool frmErrLog::isAsKnown() const {
+  try {
+    const FileEnd log = readFileEnd(path(), known_.size());
+    return log.size == knownSize_ && log.bytes == known_;
+  } catch (const Error& error) {
+    return error.number() == fileNotFound;
+  }
+}
+
+/// Behind what is there now comes what this run has added. Where the user has cleared the log,
+/// which was meant for what it showed, what is there is kept aside.
+void frmErrLog::joinWhatOthersWrote() {
+  const std::string text = txtErrLog.text();
+  if (!text.starts_with(known_)) {
+    noteFileToKeep(main_, path());
+    main_.status.tell(StatusLine::happened, changedMeanwhile(path(), nameAside(path())));
+    return;
+  }
+  const std::string added = text.substr(known_.size());
+  readLog();
+  txtErrLog.text = known_ + added;
+  main_.status.tell(StatusLine::happened, [](const Words& words) {
+    return words.say("%1 has lines of another program too; they are in the log now",
+                     {errorLogFile});
+  });
+}
+
+void frmErrLog::write() {
+  keepNotedFile(main_, path());
+  writeWholeFile(path(), txtErrLog.text());
+  known_ = txtErrLog.text();
+  knownSize_ = known_.size();
 }
 
 }  // namespace tracewell

@@ -7,8 +7,8 @@
 namespace tracewell {
 
 /// The error log's window. The log lives in its text box; the file "dso.err" is read when the
-/// window loads, its last part if it is long, and written only by Close: of a long one the newest
-/// half of that. What could not be read is kept aside then.
+/// window loads, and the whole text written only by Close. Of a long file the newest part is read,
+/// and the file kept aside. Lines that another program has written meanwhile are taken over.
 class frmErrLog : public Window {
  public:
   explicit frmErrLog(frmDSO& main);
@@ -26,10 +26,16 @@ class frmErrLog : public Window {
   void Form_Load();
   void cmdClear_Click();
   void cmdClose_Click();
+  std::filesystem::path path() const;
+  void readLog();
+  bool isAsKnown() const;
+  void joinWhatOthersWrote();
+  void write();
 
   frmDSO& main_;
-  /// The file held more than the text box.
-  bool isCut_ = false;
+  /// What the box had of the file when that was last read or written, and the file's size then.
+  std::string known_;
+  std::uintmax_t knownSize_ = 0;
 };
 
 }  // namespace tracewell

@@ -136,6 +136,108 @@ TEST(PictureFormatsTest, JpegIsNotGoneOverWithoutEnd) {
   EXPECT_EQ(loadPicture(toPath(path)).width, 4000);
 }
 
+QByteArray bigEndian(quint32 number) {
+  QByteArray bytes;
+  for (const int shift : {24, 16, 8, 0}) bytes += static_cast<char>(number >> shift & 0xFF);
+  return bytes;
+}
+
+std::string pngChunk(const QByteArray& kindAndData) {
+  quint32 sum = ~0u;
+  for (const char c : kindAndData) {
+    sum ^= static_cast<uchar>(c);
+    for (int bit = 0; bit < 8; ++bit) sum = (sum & 1) != 0 ? sum >> 1 ^ 0xEDB88320u : sum >> 1;
+  }
+  const auto size = static_cast<quint32>(kindAndData.size() - 4);
+  return (bigEndian(size) + kindAndData + bigEndian(~sum)).toStdString();
+}
+
+std::string repeated(const std::string& part, std::size_t times) {
+  std::string parts;
+  for (std::size_t i = 0; i < times; ++i) parts += part;
+  return parts;
+}
+
+/// The picture that the program writes, with something at a place where the format allows it.
+TEST(PictureFormatsTest, WhatMakesNoPictureCostsNothing) {
+  const std::string text =
+      pngChunk("zTXtk" + QByteArray(2, '\0') + qCompress(QByteArray(50'000'000, 'a'), 9).mid(4));
+  constexpr std::size_t much = 32'000'000;
+  const auto filled = [](const std::string& part) { return repeated(part, much / part.size()); };
+  const std::tuple<int, std::size_t, std::string, const char*> cases[] = {
+      {Pictures::png, 33, repeated(text, 15), ""},
+      {Pictures::png, 33, filled(pngChunk("IDAT")), ""},
+      {Pictures::png, 33, filled(pngChunk("IDATx")), "Too many parts"},
+      {Pictures::gif, 13 + 3 * 256, filled({'!', '\xFE', '\0'}), ""},
+      {Pictures::gif, 13 + 3 * 256, filled("!\xFE\1x" + std::string(1, '\0')), ""},
+      {Pictures::jpg, 2, filled({'\xFF', '\xFE', '\0', '\2'}), ""},
+      {Pictures::jpg, 2, filled({'\xFF', '\xE1', '\0', '\2'}), ""},
+      {Pictures::jpg, 2, filled({'\xFF', '\xDD', '\0', '\4', '\0', '\0'}), "Too many parts"},
+      {Pictures::jpg, 2, {'\xFF', '\xC9', '\0', '\2'}, "Arithmetic coding"}};
+  const QTemporaryDir folder;
+  const QString path = folder.filePath(QStringLiteral("a"));
+  for (const auto& [format, place, more, refusal] : cases) {
+    SCOPED_TRACE(testing::Message() << format << " with " << more.size());
+    const std::string file = encodePicture(slopes(), format).insert(place, more);
+    expectCheap([&] {
+      if (*refusal != '\0') return expectRefused(path, file, refusal);
+      writeWholeFile(toPath(path), file);
+      EXPECT_LE(fault(loadPicture(toPath(path)).pixels), 8);
+    });
+  }
+}
+
+/// A folder of a TIFF with an entry more: 8BIM resources that are read one by one, or a tile.
+TEST(PictureFormatsTest, TagsOfATiffAndLinesOfAPcxHaveMeasure) {
+  const QTemporaryDir folder;
+  const QString path = folder.filePath(QStringLiteral("a"));
+  const auto little = [](std::size_t number, int size) {
+    std::string bytes;
+    for (; size > 0; --size, number >>= 8) bytes += static_cast<char>(number & 0xFF);
+    return bytes;
+  };
+  const auto withEntries = [&](const std::string& entries, const std::string& data) {
+    std::string file = encodePicture(slopes(), Pictures::tif);
+    const auto byteAt = [&](std::size_t at) { return std::size_t{uchar(file[at])}; };
+    const std::size_t old = byteAt(4) + byteAt(5) * 256;
+    const std::size_t count = byteAt(old);
+    file.replace(4, 4, little(file.size() + data.size(), 4));
+    return file + data + little(count + entries.size() / 12, 2) + file.substr(old + 2, count * 12) +
+           entries + little(0, 4);
+  };
+  const std::string data = repeated("8BIM\4\4" + std::string(6, '\0'), 2'600'000);
+  const std::string resources = little(34377, 2) + little(1, 2) + little(data.size(), 4) +
+                                little(encodePicture(slopes(), Pictures::tif).size(), 4);
+  writeWholeFile(toPath(path), withEntries(resources, data));
+  expectCheap([&] { EXPECT_EQ(fault(loadPicture(toPath(path)).pixels), 0); });
+  std::string tile;
+  for (const std::size_t tag : {322, 323})
+    tile += little(tag, 2) + little(4, 2) + little(1, 4) + little(16000, 4);
+  expectRefused(path, withEntries(tile, ""), "Tiles too large");
+
+  std::string pcx = encodePicture(slopes(), Pictures::pcx).substr(0, 128);
+  const auto sized = [&](std::size_t width, std::size_t lines, std::size_t planes) {
+    pcx.replace(4, 8, little(0, 4) + little(width - 1, 2) + little(lines - 1, 2));
+    pcx.replace(65, 3, little(planes, 1) + little(width, 2));
+    return pcx + std::string(std::min<std::size_t>(width * lines * planes, 24'000'000), '\x40');
+  };
+  writeWholeFile(toPath(path), sized(4000, 2000, 3));
+  expectCheap([&] { EXPECT_EQ(loadPicture(toPath(path)).height, 2000); });
+  expectRefused(path, sized(4000, 2001, 3), "Lines too long");
+  expectRefused(path, sized(65534, 2000, 4), "Lines too long");
+}
+
+/// What could not be read again.
+TEST(PictureFormatsTest, TooLargeIsRefusedAlreadyWhenWritten) {
+  const auto image = [](int width, int height) {
+    return Image{width, height, std::string(std::size_t(width) * std::size_t(height) * 3, 'x')};
+  };
+  EXPECT_THROW(encodePicture(image(8193, 1), Pictures::png), Error);
+  EXPECT_THROW(encodePicture(image(4000, 2501), Pictures::bmp), Error);
+  EXPECT_THROW(encodePicture(image(4000, 2001), Pictures::pcx), Error);
+  EXPECT_NO_THROW(encodePicture(image(8193, 1), Pictures::wmf));
+}
+
 TEST(PictureFormatsTest, IconsAreScaledDownInProportion) {
   const Image large{640, 320, std::string(std::size_t{640} * 320 * 3, '\x55')};
   for (const int format : {Pictures::ico, Pictures::cur})

@@ -148,6 +148,48 @@ TEST_F(SetupFilesTest, WhatCouldNotBeTakenWholeIsKept) {
   EXPECT_TRUE(dialogs.messages.empty());
 }
 
+TEST_F(SetupFilesTest, SetupThatAnotherProgramHasChangedIsKept) {
+  const fs::path setup = folder.path() / "default.dso";
+  const fs::path aside = folder.path() / "default.dso.bad";
+  const std::string theirs = "Rtheirs,1,1\r\n";
+  program.start();
+  table.setText(0, 0, "ours");
+  dialogs.pickedFile = setup;
+  main.mnbSaveSetup.choose();
+  EXPECT_FALSE(fs::exists(aside));
+  // The same as ours is no loss.
+  const std::string ours = contentOf(setup);
+  table.setText(0, 0, "later");
+  program.setupFiles.WriteSetupFile(setup);
+  table.setText(0, 0, "ours");
+  writeWholeFile(setup, ours);
+  program.setupFiles.WriteSetupFile(setup);
+  EXPECT_FALSE(fs::exists(aside));
+  const char* said =
+      "default.dso was changed by another program, and that is kept as default.dso.bad";
+  writeWholeFile(setup, theirs);
+  main.mnbSaveSetup.choose();
+  EXPECT_NE(main.lblStatus.caption().find(said), std::string::npos);
+  fs::remove(aside);
+  writeWholeFile(setup, theirs);
+  main.close();
+  EXPECT_EQ(dialogs.messages, Lines{said});
+  EXPECT_EQ(contentOf(setup), ours);
+  EXPECT_EQ(contentOf(aside), theirs);
+}
+
+/// As long as 32767 characters fit into a box.
+TEST_F(SetupFilesTest, SetupThatCouldNotBeReadAgainIsNotWritten) {
+  const std::string before = contentOf(folder.path() / "default.dso");
+  for (const int column : {2, 3}) table.setText(SetupTable::link, column, std::string(32767, 'x'));
+  dialogs.pickedFile = folder.path() / "default.dso";
+  main.mnbSaveSetup.choose();
+  ASSERT_EQ(dialogs.runTimeErrors.size(), 1u);
+  EXPECT_TRUE(dialogs.runTimeErrors[0].starts_with("75 Not written, since 65"))
+      << dialogs.runTimeErrors[0];
+  EXPECT_EQ(contentOf(dialogs.pickedFile), before);
+}
+
 /// A folder in the place of the setup stands for all that keeps it from being written.
 TEST_F(SetupFilesTest, SetupThatCannotBeWrittenIsReportedAndTheProgramEnds) {
   const fs::path setup = folder.path() / "default.dso";

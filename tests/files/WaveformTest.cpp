@@ -163,6 +163,13 @@ TEST_F(WaveformTest, FailedSaveSaysSoAndTheNextOneIsWhole) {
   EXPECT_EQ(dialogs.runTimeErrors.size(), 1u);
   EXPECT_TRUE(file("one.csv").starts_with("Channel 1\r\n"));
   dialogs.runTimeErrors.clear();
+  // A description that could not be read again: its line 5 would be behind the limit.
+  saveWindow.txtDes.text = std::string(fileLimit::description, 'x');
+  save("long.png");
+  EXPECT_EQ(dialogs.runTimeErrors.size(), 1u);
+  EXPECT_FALSE(fs::exists(place / "long.csv"));
+  saveWindow.txtDes.text = "";
+  dialogs.runTimeErrors.clear();
   // A name that is shorter than an extension loses a part of its folder.
   save("x");
   EXPECT_TRUE(fs::exists(folder.path() / pathOf("Messung ü.csv")));

@@ -23,24 +23,29 @@ NO_LINKS = ("-e", "inject=link,linkat:error=EPERM")
 class Trial:
     """The program, under strace with these options, in a folder where a link leads to the file."""
 
-    def __init__(self, *options, arguments=()):
+    def __init__(self, *options, arguments=(), others=()):
         with tempfile.TemporaryDirectory() as name:
             folder = pathlib.Path(name)
             file = folder / "file"
             file.write_bytes(OLD)
             file.chmod(0o600)
             (folder / "link").symlink_to("file")
+            others = [folder / other for other in others]
+            for other in others[:1]:
+                other.write_bytes(OLD)
             log = folder / "log"
             done = subprocess.run(
                 ["strace", "-o", log, "-e", f"trace={CALLS}", *options, sys.argv[1], folder / "link",
-                 NEW, *arguments], capture_output=True, text=True)
+                 NEW, *arguments, *others], capture_output=True, text=True)
             self.status = done.returncode
             self.message = done.stderr
             self.calls = re.findall(r"^(\w+)\((.*)$", log.read_text(), re.MULTILINE)
             self.content = file.read_bytes() if file.exists() else None
             self.mode = file.stat().st_mode & 0o777 if file.exists() else None
             self.is_link = os.path.islink(folder / "link")
-            self.left_over = {entry.name for entry in folder.iterdir()} - {"file", "link", "log"}
+            self.others = [other.read_bytes() if other.exists() else None for other in others]
+            self.left_over = {entry.name for entry in folder.iterdir()} - {
+                "file", "link", "log", *(other.name for other in others)}
             self.kept = [path.read_bytes() for path in folder.glob("file.bad*")]
 
 
@@ -110,3 +115,19 @@ for links in ((), NO_LINKS):
                 rest = [name for name in trial.left_over if not name.startswith("file.bad")]
                 expect(not rest and b"" not in trial.kept, f"{what}: leaves {trial.left_over}")
     print(f"{len(calls)} system calls: {' '.join(name for name, _, _ in calls)}")
+
+# Three files of a set, of which the last was not there: all new, or all as they were.
+SET = ("second", "third")
+for links in ((), NO_LINKS):
+    whole = Trial(*links, others=SET)
+    expect(whole.status == 0 and [whole.content, *whole.others] == [NEW] * 3, whole.message)
+    expect(not whole.left_over, whole.left_over)
+    calls = [call for call in calls_on_the_file(whole.calls) if call[0].startswith(("rename", "link"))]
+    expect(len(calls) >= 5, calls)
+    for name, number, _ in calls:
+        trial = Trial(*links, "-e", f"inject={name}:error=EPERM:when={number}", others=SET)
+        what = f"a set, {name} {number}, {links}: {trial.message}"
+        expect([trial.content, *trial.others] in ([NEW] * 3, [OLD, OLD, None]), what)
+        expect(trial.status != 0 or trial.content == NEW, what)
+        expect(not trial.left_over, f"{what} leaves {trial.left_over}")
+    print(f"a set: {' '.join(name for name, _, _ in calls)}")

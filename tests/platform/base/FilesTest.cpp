@@ -106,6 +106,33 @@ TEST_F(FilesTest, WhatADiskMayNotHoldIsSaidAndLeavesNothingBehind) {
   EXPECT_EQ(entries(), before);
 }
 
+/// A folder takes the place of the last file of a set while that is on its way.
+TEST_F(FilesTest, SetThatCannotBeWholeIsAsItWas) {
+  const fs::path files[] = {folder.path() / "a", folder.path() / "b", folder.path() / "c"};
+  class Intruder : public FullDisk {
+   public:
+    explicit Intruder(const fs::path& place) : place_(place) {}
+    std::error_code flush(std::FILE&) override {
+      fs::create_directory(place_);
+      return {};
+    }
+
+   private:
+    const fs::path& place_;
+  } disk(files[2]);
+  writeWholeFile(files[0], "old");
+  const std::size_t before = entries();
+  useDisk(&disk);
+  const std::string reason = errorOf([&] {
+    writeWholeFiles({{files[0], "1"}, {files[1], "2"}, {files[2], "3"}});
+  });
+  useDisk(nullptr);
+  EXPECT_NE(reason.find(pathText(files[2])), std::string::npos) << reason;
+  EXPECT_EQ(contentOf(files[0]), "old");
+  EXPECT_FALSE(fs::exists(files[1]));
+  EXPECT_EQ(entries(), before + 1);
+}
+
 /// The last sizes are those of whole blocks of reading.
 TEST_F(FilesTest, LimitIsExact) {
   const fs::path file = folder.path() / "file";
@@ -115,9 +142,9 @@ TEST_F(FilesTest, LimitIsExact) {
     writeWholeFile(file, text);
     EXPECT_EQ(readWholeFile(file, size), text);
     EXPECT_NE(errorOf([&] { readWholeFile(file, size - 1); }), "");
-    EXPECT_TRUE(readFileEnd(file, size).isWhole);
+    EXPECT_TRUE(readFileEnd(file, size).isWhole());
     EXPECT_EQ(readFileEnd(file, size - 1).bytes, text.substr(1));
-    EXPECT_FALSE(readFileEnd(file, size - 1).isWhole);
+    EXPECT_FALSE(readFileEnd(file, size - 1).isWhole());
   }
 }
 
@@ -139,32 +166,59 @@ TEST_F(FilesTest, FileIsKeptOnceUnderANameOfItsOwn) {
   EXPECT_EQ(nameAside(file), folder.path() / "file.bad4");
 }
 
-TEST_F(FilesTest, LongLogIsKeptOnceAndItsNewestHalfWritten) {
+/// Box and file agree, and no line of this run is lost, however long the run makes the log.
+TEST_F(FilesTest, LongLogIsKeptOnceAndItsNewestHalfReadAndWritten) {
   const fs::path file = folder.path() / "dso.err";
-  std::string log;
-  while (log.size() <= fileLimit::errorLog)
-    log += std::to_string(10'000'000 + log.size()) + " line.\r\n";
+  const auto lines = [](std::uintmax_t size) {
+    std::string log;
+    while (log.size() <= size) log += std::to_string(10'000'000 + log.size()) + " line.\r\n";
+    return log;
+  };
+  const std::string log = lines(fileLimit::errorLog);
   writeWholeFile(file, log);
   program.start();
+  TextBox& box = program.errLog.txtErrLog;
   main.mnbErrLog.choose();
-  const std::string shown = program.errLog.txtErrLog.text();
-  EXPECT_TRUE(log.ends_with(shown));
-  EXPECT_EQ(log[log.size() - shown.size() - 1], '\n');
-  EXPECT_GT(shown.size(), fileLimit::errorLog - 100);
+  EXPECT_TRUE(log.ends_with("\n" + box.text()));
+  EXPECT_GT(box.text().size(), fileLimit::errorLog / 2 - 20);
+  EXPECT_LE(box.text().size(), fileLimit::errorLog / 2);
   EXPECT_TRUE(main.lblNotice.caption().ends_with("dso.err.bad"));
-  const std::string added = "A line so long\r\n";
-  program.errLog.txtErrLog.text = shown + added;
-  for (int i = 0; i < 2; ++i) program.errLog.cmdClose.press();
-  const std::string written = contentOf(file);
-  EXPECT_TRUE((log + added).ends_with("\n" + written));
-  EXPECT_EQ(written.size(), fileLimit::errorLog / 2);
+  for (const std::string& added : {std::string("A line so long\r\n"), lines(fileLimit::errorLog)}) {
+    box.text = box.text() + added;
+    program.errLog.cmdClose.press();
+    EXPECT_EQ(contentOf(file), box.text());
+    EXPECT_EQ(main.lblNotice.caption(), "");
+    EXPECT_EQ(main.lblStatus.caption(), "");
+  }
   EXPECT_EQ(contentOf(folder.path() / "dso.err.bad"), log);
-  program.errLog.unload();
-  main.mnbErrLog.choose();
-  EXPECT_EQ(program.errLog.txtErrLog.text(), written);
-  program.errLog.cmdClose.press();
-  EXPECT_EQ(contentOf(file), written);
   EXPECT_FALSE(fs::exists(folder.path() / "dso.err.bad2"));
+}
+
+/// Another program has the same folder.
+TEST_F(FilesTest, LogOfTwoProgramsHasTheLinesOfBoth) {
+  const fs::path file = folder.path() / "dso.err";
+  TextBox& box = program.errLog.txtErrLog;
+  writeWholeFile(file, "old\r\n");
+  program.start();
+  main.mnbErrLog.choose();
+  box.text = box.text() + "first\r\n";
+  writeWholeFile(file, "old\r\nanother's\r\n");
+  for (const char* more : {"", "second\r\n"}) {
+    box.text = box.text() + more;
+    program.errLog.cmdClose.press();
+    EXPECT_EQ(contentOf(file), std::string("old\r\nanother's\r\nfirst\r\n") + more);
+    EXPECT_EQ(contentOf(file), box.text());
+    EXPECT_EQ(main.lblStatus.caption(),
+              "dso.err has lines of another program too; they are in the log now");
+  }
+  // Cleared is what the user saw.
+  writeWholeFile(file, "unseen\r\n");
+  program.errLog.cmdClear.press();
+  program.errLog.cmdClose.press();
+  EXPECT_EQ(contentOf(file), "");
+  EXPECT_EQ(contentOf(folder.path() / "dso.err.bad"), "unseen\r\n");
+  EXPECT_EQ(main.lblStatus.caption(),
+            "dso.err was changed by another program, and that is kept as dso.err.bad");
 }
 
 }  // namespace tracewell
