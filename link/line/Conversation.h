@@ -52,6 +52,8 @@ class Conversation {
   struct Record {
     std::string request;
     std::string tag;
+    /// Whoever asks marks the request with it.
+    std::int64_t stamp = 0;
     /// How many bytes it has when it is whole.
     std::size_t count = 0;
     std::string bytes;

@@ -32,8 +32,11 @@ std::string LinePort::read() {
 }
 
 void LinePort::beginRead(int count) {
-  conversation_.request(
-      {.request = request_, .tag = tag, .count = static_cast<std::size_t>(count), .bytes = {}});
+  conversation_.request({.request = request_,
+                         .tag = tag,
+                         .stamp = stamp,
+                         .count = static_cast<std::size_t>(count),
+                         .bytes = {}});
 }
 
 void LinePort::reset() {
@@ -44,6 +47,7 @@ void LinePort::reset() {
 void LinePort::deliver(const Conversation::Record& record) {
   dispatcher_.dispatch([&] {
     tag = record.tag;
+    stamp = record.stamp;
     // Over before the box of a failing handler runs events.
     const Flag justDelivered(isJustDelivered_);
     dataReady.raise(record.bytes);

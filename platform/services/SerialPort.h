@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -33,7 +34,7 @@ class SerialPort {
   /// Free for the program. beginRead keeps it, and it is put back before that record's dataReady.
   std::string tag;
   /// Free for the program, like tag: beginRead keeps it, and it is put back before that record's
-  /// dataReady.
+  /// dataReady. A request that is left out, since one of its tag waits already, leaves no stamp.
   std::int64_t stamp = 0;
 
   /// Makes the line ready for a transfer and opens it if need be. In text mode it ends a record
@@ -44,11 +45,13 @@ class SerialPort {
     prepareLine();
   }
 
-  /// The number of the port that was opened last: records come from there, whatever `settings` say
-  /// about the next one.
+  /// The number of the port that was opened last, whatever `settings` say about the next one. At
+  /// dataReady it is the one that the record was asked for and has come on: what is on its way when
+  /// a line is closed is never delivered.
   virtual std::int16_t openPort() const = 0;
 
-  /// How often a line has been opened; another instrument may be on it each time.
+  /// How often a line has been opened; another instrument may be on it each time. At dataReady it
+  /// tells, as openPort does, the line of the record.
   virtual int openings() const = 0;
 
   /// What the instrument answers to a line.
