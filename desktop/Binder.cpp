@@ -70,6 +70,7 @@ void showWith(Control& control, Object* object, Show show) {
     object->setVisible(control.visible());
     object->setEnabled(control.enabled());
     show();
+    control.painted = control.trust ? control.trust() : Trust::holds;
     if constexpr (std::is_base_of_v<QWidget, Object>) {
       if constexpr (!std::is_same_v<SlideWidget, Object>)
         UnreadMark::show(*object, control.isUnread());

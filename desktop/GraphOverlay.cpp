@@ -116,7 +116,8 @@ void GraphOverlay::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   if (graph_ != nullptr && graph_->marks) {
-    const GraphMarks marks = graph_->marks();
+    graph_->paintedMarks = graph_->marks();
+    const GraphMarks& marks = graph_->paintedMarks;
     paintNames(painter, marks.names);
     paintSides(painter, marks.sides);
     if (graph_->enlarged()) paintScales(painter, marks.scales);

@@ -224,8 +224,8 @@ void GraphView::showAxes() {
 void GraphView::showTrace(Plot& plot, QCPGraph& trace, qreal lineWidth) {
   trace.setVisible(plot.visible());
   QColor colour = toQt(plot.lineColour());
-  if (plot.isPale() && !isForPicture_)
-    colour = mixed(colour, toQt(graph_->plotAreaColour()), oldShare);
+  plot.isPaintedPale = plot.isPale() && !isForPicture_;
+  if (plot.isPaintedPale) colour = mixed(colour, toQt(graph_->plotAreaColour()), oldShare);
   trace.setPen(QPen(colour, lineWidth));
   trace.setScatterStyle(plot.pointStyle() == Plot::noPoints
                             ? QCPScatterStyle(QCPScatterStyle::ssNone)

@@ -46,6 +46,8 @@ class Control : public Observable {
   Property<bool> enabled{*this, true};
   /// Asked whenever the control is painted; without it what is shown holds. It must not raise.
   std::function<Trust()> trust;
+  /// What the view has painted last; the view's.
+  Trust painted = Trust::holds;
   /// The view marks it.
   bool isUnread() const { return trust && trust() == Trust::unread; }
   /// The view shows it pale.

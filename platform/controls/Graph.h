@@ -37,6 +37,8 @@ class Plot : public Observable {
   /// the panel shows. The view shows it pale; pictures and pages do not.
   std::function<bool()> pale;
   bool isPale() const { return pale && pale(); }
+  /// How the view has painted it last; the view's.
+  bool isPaintedPale = false;
 
   /// Replaces the data; the shorter of the two arrays says how many points there are.
   void plotXvsY(std::span<const std::int16_t> x, std::span<const std::int16_t> y);
@@ -126,6 +128,8 @@ class Graph : public Control {
   /// What stands beside the traces now. The view asks whenever it paints, so it must not raise;
   /// where it changes without a change of the graph, notifyChanged says so.
   std::function<GraphMarks()> marks;
+  /// Those that the view has painted last; the view's.
+  mutable GraphMarks paintedMarks;
   /// The same for what lies at a point in graph units, under the pointer.
   std::function<std::vector<GraphMarks::Text>(double x, double y)> valuesAt;
 

@@ -123,7 +123,8 @@ TEST_F(DrawingTest, TracesLieWhereTheirPointsAre) {
 
 TEST_F(DrawingTest, OldTraceIsPaleOnTheScreenAlone) {
   draw(1, {{-200, 50}, {100, 50}});
-  graph.plot(1).isOld = true;
+  graph.plot(1).pale = [] { return true; };
+  graph.plot(1).notifyChanged();
   marks.names = {{1, "name"}};
   paint();
   EXPECT_FALSE(find(colourOf(1), around(-50, 50, 100, 9), 0.6).isValid());

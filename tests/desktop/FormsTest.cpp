@@ -130,7 +130,7 @@ TEST(DesktopWords, FollowTheLanguageInEveryWindowAndLeaveWhatIsShown) {
   };
   const std::string english = tip(main.opOff);
   main.txtTest.text = "typed";
-  main.lblTime.isUnread = true;
+  main.known.typed(":TIM:SCAL 1");
   main.mnbLA3.choose();
   desktop.windows.show(desktop.program.rs232);
   QApplication::processEvents();
@@ -211,7 +211,8 @@ TEST_F(FormsTest, PicturesOfTheGraphShowNothingThatIsForTheScreen) {
     before = after;
   };
   EXPECT_TRUE(before != picture);
-  main.graphDSO.plot(1).isOld = true;
+  main.graphDSO.plot(1).pale = [] { return true; };
+  main.graphDSO.plot(1).notifyChanged();
   expectOnlyOnScreen("an old trace");
   QTest::keyClick(view, Qt::Key_C);
   expectOnlyOnScreen("the active cursor");
@@ -273,7 +274,7 @@ TEST_F(FormsTest, DialogBeginsWithItsFirstBoxAtEachOpening) {
 }
 
 TEST_F(FormsTest, UnreadValueIsMarkedForEyesAndScreenReaders) {
-  main.knobTime.isUnread = true;
+  main.known.typed(":TIM:SCAL 1");
   QWidget* knob = find("knobTime");
   const auto description = [knob] {
     return QAccessible::queryAccessibleInterface(knob)->text(QAccessible::Description);
@@ -282,7 +283,7 @@ TEST_F(FormsTest, UnreadValueIsMarkedForEyesAndScreenReaders) {
   const QRect mark = knob->findChild<QWidget*>()->geometry();
   EXPECT_TRUE(knob->rect().contains(mark));
   EXPECT_LT(qAbs(mark.center().x() - knob->rect().center().x()), 3);
-  main.knobTime.isUnread = false;
+  main.known.answered(":TIM:SCAL?", "2.000 ns");
   EXPECT_NE(marked, description());
 }
 

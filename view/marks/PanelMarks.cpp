@@ -65,7 +65,6 @@ void PanelMarks::trust(Control& control, Setting setting, std::function<bool()> 
   control.trust = [&known = main_.known, setting, isShown = std::move(isShown)] {
     return trustOf(known, setting, isShown());
   };
-  shown_.push_back({&control, Trust::holds});
 }
 
 void PanelMarks::trustScale(Setting setting, ValueLabel& label, Knob& knob, ScaleKnob kind) {
@@ -88,10 +87,8 @@ void PanelMarks::trustSlide(Slide& slide, Setting setting) {
 
 void PanelMarks::show() {
   showKnown();
-  for (auto& [control, shown] : shown_) {
-    const Trust trust = control->trust();
-    if (std::exchange(shown, trust) != trust) control->notifyChanged();
-  }
+  for (const Control* control : main_.controls())
+    if (control->trust && control->trust() != control->painted) control->notifyChanged();
   showTraces();
   showHint();
   main_.status.tellAgain();
@@ -111,14 +108,9 @@ void PanelMarks::showTraces() {
   showTriggerMarker(main_);
   main_.lblAge.caption = traceAges(main_);
   main_.graphDSO.note = simulatedNote(main_);
-  for (std::size_t i = 0; i < arePale_.size(); ++i) {
-    const bool pale = main_.channels[i].plot.isPale();
-    if (std::exchange(arePale_[i], pale) != pale) main_.channels[i].plot.notifyChanged();
-  }
-  GraphMarks marks = screenMarks(main_);
-  if (marks == marks_) return;
-  marks_ = std::move(marks);
-  main_.graphDSO.notifyChanged();
+  for (const Channel& channel : main_.channels)
+    if (channel.plot.isPale() != channel.plot.isPaintedPale) channel.plot.notifyChanged();
+  if (screenMarks(main_) != main_.graphDSO.paintedMarks) main_.graphDSO.notifyChanged();
 }
 
 void PanelMarks::showHint() {

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <array>
-#include <vector>
+#include <functional>
 
 #include "frmDSO.h"
 
@@ -30,14 +29,6 @@ class PanelMarks {
   void showHint();
 
   frmDSO& main_;
-  struct Shown {
-    Control* control;
-    Trust trust;
-  };
-  std::vector<Shown> shown_;
-  /// What the graph has been painted with.
-  GraphMarks marks_;
-  std::array<bool, 2> arePale_{};
   bool isHintTold_ = false;
 };
 
