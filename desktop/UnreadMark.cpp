@@ -2,6 +2,7 @@
 #include "UnreadMark.h"
 
 #include <QAbstractButton>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QEvent>
@@ -35,6 +36,9 @@ void UnreadMark::show(QWidget& marked, bool isUnread) {
   if (mark == nullptr && !isUnread) return;
   marked.setAccessibleDescription(isUnread ? meaning() : QString());
   if (mark == nullptr) mark = new UnreadMark(marked);
+  // Beside the text, and in the same place when it is there again.
+  if (qobject_cast<QCheckBox*>(&marked) != nullptr)
+    marked.setMinimumWidth(marked.sizeHint().width() + room);
   mark->setVisible(isUnread);
   mark->toPlace();
 }

@@ -5,6 +5,7 @@
 #include "Paused.h"
 #include "TraceTable.h"
 #include "WaveformSetReader.h"
+#include "WrittenScales.h"
 
 namespace tracewell {
 namespace {
@@ -66,6 +67,8 @@ void WaveformButtons::graphDSO_Copied(Graph::Copied what) {
   if (table.empty() && !isWithPicture) return;
   services.clipboard.put(table, isWithPicture ? picture() : Image());
   main_.status.tell(StatusLine::happened, [](const Words& words) { return words.say("Copied"); });
+  const StatusLine::Sentence others = scalesNotOfTraces(main_);
+  if (isWithPicture && others) main_.status.tellToo(StatusLine::happened, others);
 }
 
 Image WaveformButtons::picture() const {

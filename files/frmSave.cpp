@@ -3,6 +3,7 @@
 
 #include "Files.h"
 #include "WaveformSetWriter.h"
+#include "WrittenScales.h"
 
 namespace tracewell {
 namespace {
@@ -32,6 +33,7 @@ bool isDataExtension(std::string extension) {
 
 frmSave::frmSave(frmDSO& main) : Window("frmSave", "Save", main.services()), main_(main) {
   opFiletype(Pictures::jpg - Pictures::wmf).value = true;
+  lblScales.visible = false;
   formActivate = [this] { Form_Activate(); };
   for (OptionButton& format : opFiletype)
     format.click = [this, &format] { opFiletype_Click(format.index()); };
@@ -50,6 +52,9 @@ void frmSave::takePicture(const Image& image) {
 
 /// Says nothing where no record has come yet: there is nothing to save then.
 void frmSave::Form_Activate() {
+  scalesNotOfTraces_ = scalesNotOfTraces(main_);
+  lblScales.caption = scalesNotOfTraces_ ? scalesNotOfTraces_(services().words) : "";
+  lblScales.visible = static_cast<bool>(scalesNotOfTraces_);
   try {
     txtDatFile.text = BuildCsvText(main_);
   } catch (const Error&) {
@@ -113,6 +118,7 @@ void frmSave::saveSet(const std::filesystem::path& path) {
     return words.say("Saved %1, %2 and %3 in %4", {pathText(path.filename()), nameOf(base + ".csv"),
                                                    nameOf(base + ".inf"), folderText(path)});
   });
+  if (scalesNotOfTraces_) main_.status.tellToo(StatusLine::happened, scalesNotOfTraces_);
 }
 
 }  // namespace tracewell

@@ -31,6 +31,8 @@ class frmSave : public Window {
   TextBox txtDes{*this, "txtDes"};
   /// The text of the data file, then that of the description file.
   TextBox txtDatFile{*this, "txtDatFile"};
+  /// What of the scales that will be written is not the traces'.
+  ValueLabel lblScales{*this, "lblScales", ""};
   Button cmdOK{*this, "cmdOK", "OK"};
   Button cmdCancel{*this, "cmdCancel", "Cancel"};
 
@@ -47,6 +49,7 @@ class frmSave : public Window {
   void saveSet(const std::filesystem::path& path);
 
   frmDSO& main_;
+  StatusLine::Sentence scalesNotOfTraces_;
   std::int16_t pictureType_ = Pictures::jpg;
   std::string pictureExtension_ = "jpg";
   /// The pictures before each drawing; the first one is as it came from the graph.

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "PagePrinting.h"
 
+#include "WrittenScales.h"
+
 namespace tracewell {
 namespace {
 
@@ -15,6 +17,8 @@ void PagePrinting::cmdPrint_Click() {
   try {
     acquisition_.StopAcq();
     main_.services().printer.printPage(page());
+    if (const StatusLine::Sentence others = scalesNotOfTraces(main_))
+      main_.status.tell(StatusLine::happened, others);
   } catch (const Error& error) {
     errorLog_.ErrLog(error, "cmdPrint_Click : ");
   }

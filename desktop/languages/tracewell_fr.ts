@@ -12,6 +12,10 @@
         <translation>%1 n'a pas pu être lu en entier et sera conservé sous %2</translation>
     </message>
     <message>
+        <source>%1 has lines of another program too; they are in the log now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>%1 has no data</source>
         <translation>%1 ne contient aucune donnée</translation>
     </message>
@@ -22,6 +26,14 @@
     <message>
         <source>%1 holds no setup</source>
         <translation>%1 ne contient pas de réglages</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program, and that is kept as %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, %2: different sweeps</source>
+        <translation>%1, %2 : balayages différents</translation>
     </message>
     <message>
         <source>%1: %2 of %3 settings not confirmed</source>
@@ -56,12 +68,32 @@
         <translation>%1 : pas encore d'enregistrement</translation>
     </message>
     <message>
+        <source>%1: not known whether recorded at %2</source>
+        <translation>%1 : on ignore si l'enregistrement est à %2</translation>
+    </message>
+    <message>
         <source>%1: question %2 of %3</source>
         <translation>%1 : question %2 sur %3</translation>
     </message>
     <message>
+        <source>%1: recorded at %2, not at %3</source>
+        <translation>%1 : enregistrée à %2, et non à %3</translation>
+    </message>
+    <message>
         <source>%1: setting %2 of %3</source>
         <translation>%1 : réglage %2 sur %3</translation>
+    </message>
+    <message>
+        <source>%1: unchanged for %2 min</source>
+        <translation>%1 : inchangée depuis %2 min</translation>
+    </message>
+    <message>
+        <source>%1: unchanged for %2 s</source>
+        <translation>%1 : inchangée depuis %2 s</translation>
+    </message>
+    <message>
+        <source>%1: wait until the settings have been sent</source>
+        <translation>%1 : attendez que les réglages soient envoyés</translation>
     </message>
     <message>
         <source>100mV per division</source>
@@ -688,6 +720,10 @@
         <translation>Absent : %1</translation>
     </message>
     <message>
+        <source>Not sent: the text has more than one line</source>
+        <translation>Non envoyé : le texte a plus d'une ligne</translation>
+    </message>
+    <message>
         <source>Notice</source>
         <translation>Avis</translation>
     </message>
@@ -830,6 +866,10 @@
     <message>
         <source>Saved waveforms</source>
         <translation>Courbes enregistrées</translation>
+    </message>
+    <message>
+        <source>Scales that are not the traces'</source>
+        <translation>Échelles qui ne sont pas celles des courbes</translation>
     </message>
     <message>
         <source>Send the command</source>

@@ -12,6 +12,10 @@
         <translation>%1 прочитан не полностью и будет сохранён как %2</translation>
     </message>
     <message>
+        <source>%1 has lines of another program too; they are in the log now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>%1 has no data</source>
         <translation>В %1 нет данных</translation>
     </message>
@@ -22,6 +26,14 @@
     <message>
         <source>%1 holds no setup</source>
         <translation>В %1 нет настроек</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program, and that is kept as %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, %2: different sweeps</source>
+        <translation>%1, %2: разные развёртки</translation>
     </message>
     <message>
         <source>%1: %2 of %3 settings not confirmed</source>
@@ -56,12 +68,32 @@
         <translation>%1: записи ещё не было</translation>
     </message>
     <message>
+        <source>%1: not known whether recorded at %2</source>
+        <translation>%1: неизвестно, записано ли при %2</translation>
+    </message>
+    <message>
         <source>%1: question %2 of %3</source>
         <translation>%1: запрос %2 из %3</translation>
     </message>
     <message>
+        <source>%1: recorded at %2, not at %3</source>
+        <translation>%1: записано при %2, а не при %3</translation>
+    </message>
+    <message>
         <source>%1: setting %2 of %3</source>
         <translation>%1: настройка %2 из %3</translation>
+    </message>
+    <message>
+        <source>%1: unchanged for %2 min</source>
+        <translation>%1: без изменений %2 мин</translation>
+    </message>
+    <message>
+        <source>%1: unchanged for %2 s</source>
+        <translation>%1: без изменений %2 с</translation>
+    </message>
+    <message>
+        <source>%1: wait until the settings have been sent</source>
+        <translation>%1: подождите, пока параметры будут отправлены</translation>
     </message>
     <message>
         <source>100mV per division</source>
@@ -688,6 +720,10 @@
         <translation>Отсутствует: %1</translation>
     </message>
     <message>
+        <source>Not sent: the text has more than one line</source>
+        <translation>Не отправлено: в тексте больше одной строки</translation>
+    </message>
+    <message>
         <source>Notice</source>
         <translation>Уведомление</translation>
     </message>
@@ -830,6 +866,10 @@
     <message>
         <source>Saved waveforms</source>
         <translation>Сохранённые осциллограммы</translation>
+    </message>
+    <message>
+        <source>Scales that are not the traces'</source>
+        <translation>Масштабы, не относящиеся к осциллограммам</translation>
     </message>
     <message>
         <source>Send the command</source>

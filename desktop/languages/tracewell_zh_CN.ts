@@ -12,6 +12,10 @@
         <translation>%1 未能完整读取，将保留为 %2</translation>
     </message>
     <message>
+        <source>%1 has lines of another program too; they are in the log now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>%1 has no data</source>
         <translation>%1 中没有数据</translation>
     </message>
@@ -22,6 +26,14 @@
     <message>
         <source>%1 holds no setup</source>
         <translation>%1 中没有设置</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program, and that is kept as %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, %2: different sweeps</source>
+        <translation>%1、%2：不同次扫描</translation>
     </message>
     <message>
         <source>%1: %2 of %3 settings not confirmed</source>
@@ -56,12 +68,32 @@
         <translation>%1：尚无记录</translation>
     </message>
     <message>
+        <source>%1: not known whether recorded at %2</source>
+        <translation>%1：不知是否在 %2 下记录</translation>
+    </message>
+    <message>
         <source>%1: question %2 of %3</source>
         <translation>%1：第 %2 个查询，共 %3 个</translation>
     </message>
     <message>
+        <source>%1: recorded at %2, not at %3</source>
+        <translation>%1：在 %2 下记录，而非 %3</translation>
+    </message>
+    <message>
         <source>%1: setting %2 of %3</source>
         <translation>%1：第 %2 项设置，共 %3 项</translation>
+    </message>
+    <message>
+        <source>%1: unchanged for %2 min</source>
+        <translation>%1：%2 分钟未变</translation>
+    </message>
+    <message>
+        <source>%1: unchanged for %2 s</source>
+        <translation>%1：%2 秒未变</translation>
+    </message>
+    <message>
+        <source>%1: wait until the settings have been sent</source>
+        <translation>%1：请等待设置发送完毕</translation>
     </message>
     <message>
         <source>100mV per division</source>
@@ -688,6 +720,10 @@
         <translation>不存在：%1</translation>
     </message>
     <message>
+        <source>Not sent: the text has more than one line</source>
+        <translation>未发送：文本不止一行</translation>
+    </message>
+    <message>
         <source>Notice</source>
         <translation>提示</translation>
     </message>
@@ -830,6 +866,10 @@
     <message>
         <source>Saved waveforms</source>
         <translation>已保存的波形</translation>
+    </message>
+    <message>
+        <source>Scales that are not the traces'</source>
+        <translation>并非波形所用的刻度</translation>
     </message>
     <message>
         <source>Send the command</source>

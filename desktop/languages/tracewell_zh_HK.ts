@@ -12,6 +12,10 @@
         <translation>%1 讀唔晒，會保留做 %2</translation>
     </message>
     <message>
+        <source>%1 has lines of another program too; they are in the log now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>%1 has no data</source>
         <translation>%1 入面冇數據</translation>
     </message>
@@ -22,6 +26,14 @@
     <message>
         <source>%1 holds no setup</source>
         <translation>%1 入面冇設定</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program, and that is kept as %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, %2: different sweeps</source>
+        <translation>%1、%2：唔同次掃描</translation>
     </message>
     <message>
         <source>%1: %2 of %3 settings not confirmed</source>
@@ -56,12 +68,32 @@
         <translation>%1：未有記錄</translation>
     </message>
     <message>
+        <source>%1: not known whether recorded at %2</source>
+        <translation>%1：唔知係咪用 %2 記錄</translation>
+    </message>
+    <message>
         <source>%1: question %2 of %3</source>
         <translation>%1：第 %2 個查詢，共 %3 個</translation>
     </message>
     <message>
+        <source>%1: recorded at %2, not at %3</source>
+        <translation>%1：用 %2 記錄，唔係 %3</translation>
+    </message>
+    <message>
         <source>%1: setting %2 of %3</source>
         <translation>%1：第 %2 項設定，共 %3 項</translation>
+    </message>
+    <message>
+        <source>%1: unchanged for %2 min</source>
+        <translation>%1：%2 分鐘無變化</translation>
+    </message>
+    <message>
+        <source>%1: unchanged for %2 s</source>
+        <translation>%1：%2 秒無變化</translation>
+    </message>
+    <message>
+        <source>%1: wait until the settings have been sent</source>
+        <translation>%1：請等設定傳送完</translation>
     </message>
     <message>
         <source>100mV per division</source>
@@ -688,6 +720,10 @@
         <translation>搵唔到：%1</translation>
     </message>
     <message>
+        <source>Not sent: the text has more than one line</source>
+        <translation>未傳送：文字多過一行</translation>
+    </message>
+    <message>
         <source>Notice</source>
         <translation>提示</translation>
     </message>
@@ -830,6 +866,10 @@
     <message>
         <source>Saved waveforms</source>
         <translation>儲存咗嘅波形</translation>
+    </message>
+    <message>
+        <source>Scales that are not the traces'</source>
+        <translation>唔係波形所用嘅刻度</translation>
     </message>
     <message>
         <source>Send the command</source>

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "WrittenScales.h"
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+#include <vector>
+
+#include "TraceMarks.h"
+#include "TrueNumbers.h"
+
+namespace tracewell {
+namespace {
+
+/// A scale that is written beside a trace, and the one under which that was made.
+struct Written {
+  std::string name;
+  std::string caption;
+  std::optional<double> made;
+};
+
+/// As the instrument writes it.
+std::string captionOf(double perDivision, bool isTime) {
+  const auto find = [&](const auto& captions, std::string_view unit) {
+    const auto found = std::ranges::find_if(
+        captions, [&](std::string_view text) { return trueScale(text, unit) == perDivision; });
+    return found == captions.end() ? std::string() : std::string(*found);
+  };
+  return isTime ? find(TimeDivText, "s") : find(VoltDivText, "V");
+}
+
+std::string sentence(const Words& words, const Written& written) {
+  const std::string made =
+      written.made ? captionOf(*written.made, written.caption.ends_with('s')) : "";
+  if (made.empty())
+    return words.say("%1: not known whether recorded at %2", {written.name, written.caption});
+  return words.say("%1: recorded at %2, not at %3", {written.name, made, written.caption});
+}
+
+}  // namespace
+
+StatusLine::Sentence scalesNotOfTraces(const frmDSO& main) {
+  std::vector<Written> others;
+  const auto add = [&](const std::string& name, const ValueLabel& label, std::string_view unit,
+                       std::optional<double> made) {
+    const bool isOfTrace = made && trueScale(label.caption(), unit) == made;
+    if (!isOfTrace) others.push_back({name, label.caption(), made});
+  };
+  for (const Channel& channel : main.channels) {
+    if (!hasTrace(channel)) continue;
+    const MadeUnder& made = channel.record.madeUnder;
+    add(channel.display.caption(), channel.scale, "V", made.voltsPerDivision);
+    add(channel.display.caption(), main.lblTime, "s", made.secondsPerDivision);
+  }
+  if (others.empty()) return {};
+  return [others](const Words& words) {
+    std::string text;
+    for (const Written& written : others)
+      text += (text.empty() ? "" : "; ") + sentence(words, written);
+    return text;
+  };
+}
+
+}  // namespace tracewell
