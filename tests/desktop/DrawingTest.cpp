@@ -187,6 +187,17 @@ TEST_F(DrawingTest, NamesAndFlagsStandAtTheHeightsOfTheirTraces) {
     EXPECT_NEAR(found.center().y(), at(0, height).y(), 4);
     EXPECT_NEAR(found.right(), at(200, 0).x(), 12);
   }
+  // Names stay on the screen, clear of its first and last row, and clear of each other.
+  for (const double height : {0, 300, -300}) {
+    for (const int number : {1, 2}) {
+      draw(number, {{-200, 0}, {200, height}});
+      graph.plot(number).visible = false;
+    }
+    paint();
+    EXPECT_LT(find(colourOf(2)).bottom() + 3, find(colourOf(1)).top());
+    EXPECT_GT(find(colourOf(2)).top(), 34);
+    EXPECT_LT(find(colourOf(1)).bottom(), area.height() - 26);
+  }
   marks = {};
   using Side = GraphMarks::Side;
   const std::tuple<Side, double> sides[] = {{{1, Side::here, 70, "1"}, 70},
@@ -206,6 +217,26 @@ TEST_F(DrawingTest, NamesAndFlagsStandAtTheHeightsOfTheirTraces) {
     const int difference = widthOf(found.top() + 1) - widthOf(found.bottom() - 1);
     EXPECT_EQ(difference < -4, side.direction == Side::above);
     EXPECT_EQ(difference > 4, side.direction == Side::below);
+  }
+}
+
+TEST_F(DrawingTest, ScalesOfTheLargerViewAndTheNoteStandInTheirCorners) {
+  const QColor noteColour(255, 171, 64);
+  marks.scales = {{1, "WW"}, {2, "WW"}};
+  for (const bool isShown : {true, false}) {
+    graph.enlarged = isShown;
+    graph.note = isShown ? "NOTE" : "";
+    paint();
+    const QRect top(0, 0, area.width(), 60);
+    const QRect one = find(colourOf(1), top);
+    const QRect two = find(colourOf(2), top);
+    const QRect note = find(noteColour);
+    EXPECT_EQ(one.isValid() && two.isValid() && note.isValid(), isShown);
+    if (!isShown) continue;
+    EXPECT_LT(one.right() + 9, two.left());
+    EXPECT_TRUE(QRect(36, 0, 60, 34).contains(one));
+    EXPECT_NEAR(note.right(), area.width() - 5, 6);
+    EXPECT_NEAR(note.bottom(), area.height() - 8, 8);
   }
 }
 
