@@ -28,7 +28,7 @@ void SettingsBurst::writeAndVerify(const Property<std::string>& caption,
 
 bool SettingsBurst::isSending(int row, const Property<std::string>& caption) const {
   if (!rows_.contains(row)) return false;
-  main_.status.tell(StatusLine::happened, [&caption](const Words& words) {
+  main_.status.tell(StatusLine::refused, [&caption](const Words& words) {
     return words.say("%1: wait until the settings have been sent", {caption()});
   });
   return true;

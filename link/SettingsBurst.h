@@ -30,7 +30,10 @@ class SettingsBurst {
   class Sending {
    public:
     Sending(SettingsBurst& burst, int row) : burst_(burst), row_(row) { burst_.rows_.insert(row); }
-    ~Sending() { burst_.rows_.erase(row_); }
+    ~Sending() {
+      burst_.rows_.erase(row_);
+      burst_.main_.status.withdraw(StatusLine::refused);
+    }
     Sending(const Sending&) = delete;
 
    private:

@@ -40,7 +40,7 @@ void StatusLine::tellAgain() {
   const bool isAsking = std::any_of(told_.begin(), told_.end(), isProgress);
   std::string line;
   for (const Told& told : told_) {
-    if (isAsking && !isProgress(told)) continue;
+    if (isAsking && !isProgress(told) && told.topic != refused) continue;
     const std::string said = told.sentence(words_);
     line += (line.empty() || said.empty() ? "" : "; ") + said;
   }

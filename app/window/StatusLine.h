@@ -20,6 +20,8 @@ class StatusLine {
   enum Topic {
     /// Which question of how many waits for its answer.
     progress,
+    /// Why what the user wants waits until that is done; said beside it.
+    refused,
     /// What a series of questions, and what a single one, has missed.
     missedBySeries,
     missedByOne,
