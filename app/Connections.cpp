@@ -115,7 +115,7 @@ void Tracewell::sayAgain() {
   main.status.tellAgain();
   panelMarks.show();
   showFilesToKeep(main);
-  errLog.showNewLines(main.NewLogLines);
+  errLog.showNewLines(errLog.NewLogLines);
 }
 
 void Tracewell::connectSupport() {

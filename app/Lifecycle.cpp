@@ -27,7 +27,7 @@ void Lifecycle::Form_Load() {
   for (int i = 0; i < WaveformRecord::sampleCount; ++i)
     main_.XIndex[static_cast<std::size_t>(i)] = static_cast<std::int16_t>(i - 250);
   main_.channels[0].isDisplayed = true;
-  main_.ChanCount = 1;
+  main_.state.ChanCount = 1;
   setUpSecondAxis(main_.graphDSO);
   setupFiles_.ReadSetupFile(setupFiles_.defaultPath());
   captions_.LoadCaptions();
@@ -64,7 +64,7 @@ void Lifecycle::saveSetup() {
 }
 
 void Lifecycle::cmdClose_Click() {
-  const Answer answer = main_.services().dialogs.askYesNo(main_.Msg[0], main_.caption());
+  const Answer answer = main_.services().dialogs.askYesNo(main_.state.Msg[0], main_.caption());
   if (answer == Answer::Yes) Form_Unload();
 }
 

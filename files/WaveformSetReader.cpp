@@ -8,7 +8,7 @@
 #include "Files.h"
 #include "Graph.h"
 #include "Numbers.h"
-#include "SharedState.h"
+#include "WaveformRecord.h"
 
 namespace tracewell {
 namespace {

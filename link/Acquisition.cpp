@@ -109,7 +109,7 @@ void Acquisition::RunAcq() {
 }
 
 void Acquisition::cmdRunStop_Click() {
-  if (main_.cmdRunStop.caption() != main_.Msg[5]) {
+  if (main_.cmdRunStop.caption() != main_.state.Msg[5]) {
     exchange_.SendDSOCmd(":Stop");
     showOnRunStop(main_, 5);
   } else {

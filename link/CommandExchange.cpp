@@ -105,7 +105,7 @@ std::string CommandExchange::exchange(const std::string& command) {
              isQuery(command) ? SerialPort::Expects::reply : SerialPort::Expects::nothing);
   std::string reply = isQuery(command) ? replyValue(port.read()) : "";
   port.reset();
-  main_.InRemote = true;
+  InRemote = true;
   main_.cmdLock.value = true;
   main_.LinkOK = true;
   main_.status.withdraw(StatusLine::linkLost);
@@ -113,7 +113,7 @@ std::string CommandExchange::exchange(const std::string& command) {
 }
 
 void CommandExchange::LoadSetup() {
-  if (!main_.InRemote) return;
+  if (!InRemote) return;
   try {
     SerialPort& port = main_.services().port;
     port.textMode = true;
@@ -123,7 +123,7 @@ void CommandExchange::LoadSetup() {
     port.write(":SYST:UNL\r\n", SerialPort::Expects::nothing);
     port.reset();
     main_.cmdLock.value = false;
-    main_.InRemote = false;
+    InRemote = false;
     main_.known.sent(":SYST:UNL");
   } catch (const Error& error) {
     noteFailed(":SYST:UNL");

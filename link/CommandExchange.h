@@ -48,6 +48,8 @@ class CommandExchange {
 
   frmDSO& main_;
   ErrorLog& errorLog_;
+  /// The instrument's own panel is locked because it has been sent a command.
+  bool InRemote = false;
   bool wasSent_ = false;
   /// Some of the last line may have gone out.
   bool hasBegun_ = false;

@@ -59,7 +59,7 @@ void InstrumentState::applyBaudRateAndPort() {
   const std::int16_t baudRate = table.number(SetupTable::link, linkColumn(baudRateValue));
   settings.baudRate = baudRate;
   settings.portNumber = table.number(SetupTable::link, linkColumn(portValue));
-  main_.BaudRate = baudRate;
+  main_.state.BaudRate = baudRate;
   showPort(main_, settings.portNumber);
   showDifferingLink(main_);
 }

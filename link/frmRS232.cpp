@@ -59,8 +59,8 @@ std::string frmRS232::deviceAndState(std::int16_t number) const {
 
 void frmRS232::cmdOK_Click() {
   LineSettings& settings = services().port.settings;
-  main_.BaudRate = toInt16(cbRS232(baudRateValue).text());
-  settings.baudRate = main_.BaudRate;
+  main_.state.BaudRate = toInt16(cbRS232(baudRateValue).text());
+  settings.baudRate = main_.state.BaudRate;
   settings.portNumber = toInt16(cbRS232(portValue).text());
   settings.dataBits = dataBitsCode(cbRS232(dataBitsValue).text());
   settings.stopBits = stopBitsCode(cbRS232(stopBitsValue).text());

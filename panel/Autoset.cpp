@@ -16,7 +16,7 @@ Autoset::Autoset(frmDSO& main, CommandExchange& exchange, ErrorLog& errorLog,
 
 void Autoset::cmdAutoset_Click() {
   try {
-    message_.lblMsg.caption = main_.Msg[1];
+    message_.lblMsg.caption = main_.state.Msg[1];
     message_.show();
     acquisition_.StopAcq();
     exchange_.SendDSOCmd(":AUT");

@@ -29,7 +29,7 @@ void ChannelControls::showChannel(Channel& channel) {
     const bool isShown = channel.display.value() != 0;
     channel.isDisplayed = isShown;
     channel.plot.visible = isShown;
-    main_.ChanCount = addInt16(main_.ChanCount, isShown ? 1 : -1);
+    main_.state.ChanCount = addInt16(main_.state.ChanCount, isShown ? 1 : -1);
     exchange_.SendDSOCmd(channel.stem() + "DISP " + (isShown ? "1" : "0"));
   } catch (const Error& error) {
     errorLog_.ErrLog(error, channel.display.name() + "_Click : ");

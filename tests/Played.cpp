@@ -130,7 +130,7 @@ Lines split(const std::string& text, const std::string& separator) {
 Played::Played() {
   program.start();
   // As after the first exchange of any dialog.
-  port.readTimeOut = ReplyTimeout(main);
+  port.readTimeOut = ReplyTimeout(main.state);
   for (Window* window : program.otherWindows()) newIn(*window);
   newIn(main);
   port.told = dialogs.told = printer.told = [this](const std::string& event) { note(event); };
@@ -191,7 +191,7 @@ std::map<std::string, std::string> Played::shownBy(Window& window) {
   if (!isTruthTold_)
     for (const char* name : {"lblAge", "cmdNewErrors"}) shown.erase(name);
   if (&window != &main) return shown;
-  shown["ChanCount"] = std::to_string(main.ChanCount);
+  shown["ChanCount"] = std::to_string(main.state.ChanCount);
   showParts(main.graphDSO, shown);
   if (isTruthTold_) {
     shown["marks"] = textOf(main.graphDSO.marks());
@@ -276,7 +276,7 @@ std::map<std::string, std::function<void()>> Played::stepsWith(const std::string
       {"plug", [this] { port.answerLikeAnInstrument(); }},
       {"connected", [this] { connect(); }},
       {"faults", [this, number] { port.faults = number(); }},
-      {"baud", [this, &value] { main.BaudRate = toInt16(value); }},
+      {"baud", [this, &value] { main.state.BaudRate = toInt16(value); }},
       {"file", [this, &value, path] { dialogs.pickedFile = value.empty() ? "" : path(); }},
       {"colour",
        [this, number] {

@@ -35,9 +35,9 @@ GraphPage PagePrinting::page() {
   std::string scales = "Volts/Div";
   for (const Channel& channel : main_.channels)
     if (channel.isDisplayed)
-      scales +=
-          " " + main_.Msg[firstChannelName + channel.number - 1U] + " " + channel.scale.caption();
-  page.captions = {scales, "SEC/Div " + main_.Msg[12] + " " + main_.lblTime.caption()};
+      scales += " " + main_.state.Msg[firstChannelName + channel.number - 1U] + " " +
+                channel.scale.caption();
+  page.captions = {scales, "SEC/Div " + main_.state.Msg[12] + " " + main_.lblTime.caption()};
   if (!main_.opOff.value()) page.captions.push_back(main_.graphDSO.axis("XAxis").caption());
   for (int number = 1; number <= printedPlots; ++number) {
     const Plot& plot = main_.graphDSO.plot(number);

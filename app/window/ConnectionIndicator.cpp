@@ -10,7 +10,7 @@ constexpr Colour red{255, 0, 0};
 
 void showConnection(frmDSO& main, std::size_t message) {
   main.shownMessages.lblConnect = message;
-  main.lblConnect.caption = main.Msg[message];
+  main.lblConnect.caption = main.state.Msg[message];
 }
 
 }  // namespace
@@ -39,16 +39,16 @@ void showConnectFailed(frmDSO& main) {
 
 void showOnStart(frmDSO& main, std::size_t message) {
   main.shownMessages.cmdStart = message;
-  main.cmdStart.caption = main.Msg[message];
+  main.cmdStart.caption = main.state.Msg[message];
 }
 
 void showOnRunStop(frmDSO& main, std::size_t message) {
   main.shownMessages.cmdRunStop = message;
-  main.cmdRunStop.caption = main.Msg[message];
+  main.cmdRunStop.caption = main.state.Msg[message];
 }
 
 void showMessagesAgain(frmDSO& main) {
-  const SharedState::ShownMessages& shown = main.shownMessages;
+  const frmDSO::ShownMessages& shown = main.shownMessages;
   if (shown.lblConnect != 0) showConnection(main, shown.lblConnect);
   if (shown.cmdStart != 0) showOnStart(main, shown.cmdStart);
   if (shown.cmdRunStop != 0) showOnRunStop(main, shown.cmdRunStop);

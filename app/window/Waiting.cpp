@@ -18,27 +18,27 @@ std::int32_t elapsedSince(std::int32_t start, std::int32_t now) {
 
 }  // namespace
 
-std::int16_t ReplyTimeout(const SharedState& state) {
+std::int16_t ReplyTimeout(const ModuleState& state) {
   constexpr double referenceRate = 19200;
   constexpr std::int16_t referenceTimeOut = 600;
   const std::int16_t factor = toInt16(divide(referenceRate, state.BaudRate));
   return mulInt16(mulInt16(factor, referenceTimeOut), state.ChanCount);
 }
 
-std::int16_t ShortReplyTimeout(const SharedState& state) {
+std::int16_t ShortReplyTimeout(const ModuleState& state) {
   return toInt16(ReplyTimeout(state) / 4.0);
 }
 
 ShortTimeOut::ShortTimeOut(frmDSO& main, std::int16_t factor)
-    : main_(main), normal_(ReplyTimeout(main)) {
-  main_.services().port.readTimeOut = mulInt16(ShortReplyTimeout(main_), factor);
+    : main_(main), normal_(ReplyTimeout(main.state)) {
+  main_.services().port.readTimeOut = mulInt16(ShortReplyTimeout(main_.state), factor);
 }
 
 ShortTimeOut::~ShortTimeOut() {
   int& readTimeOut = main_.services().port.readTimeOut;
   try {
     // Anew: a channel may have been switched on or off meanwhile.
-    readTimeOut = ReplyTimeout(main_);
+    readTimeOut = ReplyTimeout(main_.state);
   } catch (const Error&) {
     readTimeOut = normal_;
   }

@@ -9,10 +9,10 @@ namespace tracewell {
 
 /// Milliseconds that a reply may take at the baud rate in use: 600 at 19200 baud and one channel.
 /// Raises "Division by zero" or "Overflow" when the state makes no sense.
-std::int16_t ReplyTimeout(const SharedState& state);
+std::int16_t ReplyTimeout(const ModuleState& state);
 
 /// A quarter of ReplyTimeout; dialogs that send many lines wait twice this for each reply.
-std::int16_t ShortReplyTimeout(const SharedState& state);
+std::int16_t ShortReplyTimeout(const ModuleState& state);
 
 /// While it lives, replies are given `factor` times the short time-out; then the normal one again.
 /// Making one raises what ReplyTimeout does.

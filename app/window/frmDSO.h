@@ -2,23 +2,27 @@
 #pragma once
 
 #include <array>
+#include <filesystem>
 #include <set>
+#include <vector>
 
 #include "Channel.h"
 #include "Controls.h"
 #include "Dials.h"
 #include "KnownInstrument.h"
+#include "ModuleState.h"
 #include "ScopeGraph.h"
-#include "SharedState.h"
+#include "SetupTable.h"
 #include "StatusLine.h"
 #include "Timer.h"
+#include "WaveformRecord.h"
 
 namespace tracewell {
 
-/// The main window: its controls, in the order in which caption files name them, and the state
-/// that the subsystems share. What the controls do lives in the subsystems; app/Connections.cpp
-/// joins the two.
-class frmDSO : public Window, public SharedState {
+/// The main window: its controls, in the order in which caption files name them, what is known of
+/// the instrument, and the little that several subsystems need. What the controls do lives in the
+/// subsystems; app/Connections.cpp joins the two.
+class frmDSO : public Window {
  public:
   explicit frmDSO(Services& services);
 
@@ -128,6 +132,25 @@ class frmDSO : public Window, public SharedState {
   Button cmdDisplay{*this, "cmdDisplay", "Display"};
   Button cmdExportCSV{*this, "cmdExportCSV", "Export CSV"};
   Button cmdClose{*this, "cmdClose", "Close"};
+
+  ModuleState state;
+  /// The last exchange succeeded; false after a read time-out.
+  bool LinkOK = false;
+  /// A first connect has read the instrument.
+  bool Initialised = false;
+  /// x of each sample in graph units: -250 to 249.
+  Samples XIndex{};
+  /// The setup table.
+  SetupTable gridMeasure;
+  /// Whole paths, in the order in which they were noted. Kept through app/window/KeptFiles.h.
+  std::vector<std::filesystem::path> FilesToKeep;
+  /// Number of the message that stands on each of these captions; 0 while it is the caption file's.
+  /// Kept through app/window/ConnectionIndicator.h.
+  struct ShownMessages {
+    std::size_t lblConnect = 0;
+    std::size_t cmdStart = 0;
+    std::size_t cmdRunStop = 0;
+  } shownMessages;
 
   /// What stands beside the values, marks and ages, is to be looked at anew.
   Event<> marksDue;

@@ -21,6 +21,8 @@ class frmErrLog : public Window {
   void lblDSOCmd_DblClick();
   /// Says in the main window how many lines nobody has seen yet.
   void showNewLines(int count);
+  /// Lines that the log has got since it was last open.
+  int NewLogLines = 0;
 
  private:
   void Form_Load();

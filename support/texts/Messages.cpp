@@ -42,7 +42,7 @@ void LoadMessages(frmDSO& main) {
     message = text.substr(comma + 1, end - comma - 1);
     position = end + 1;
   }
-  std::ranges::move(messages, main.Msg.begin());
+  std::ranges::move(messages, main.state.Msg.begin());
   const std::string code = languageCode(main.gridMeasure);
   main.services().words.use(code.empty() ? 1 : code.back() - '0');
 }

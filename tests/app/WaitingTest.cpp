@@ -12,7 +12,7 @@ TEST(Waiting, TimeOutsFollowBaudRateAndChannels) {
   const std::tuple<std::int16_t, std::int16_t, std::int16_t, std::int16_t> cases[] = {
       {19200, 1, 600, 150},  {9600, 2, 2400, 600}, {4800, 2, 4800, 1200},
       {11000, 1, 1200, 300}, {14400, 1, 600, 150}, {19200, 0, 0, 0}};
-  SharedState state;
+  ModuleState state;
   for (const auto& [baudRate, channels, expected, expectedShort] : cases) {
     state.BaudRate = baudRate;
     state.ChanCount = channels;

@@ -72,8 +72,8 @@ TEST_F(FormsTest, EveryWindowFitsASmallScreenInEveryLanguageWithNothingCut) {
        {&main.mnbLA1, &main.mnbLA2, &main.mnbLA3, &main.mnbLA4, &main.mnbLA5}) {
     language->choose();
     SCOPED_TRACE(language->caption());
-    main.lblConnect.caption = main.Msg[9];
-    main.cmdStart.caption = main.Msg[3];
+    main.lblConnect.caption = main.state.Msg[9];
+    main.cmdStart.caption = main.state.Msg[3];
     main.lblTest.visible = true;
     QApplication::processEvents();
     form->resize(1024, 700);

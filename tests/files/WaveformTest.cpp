@@ -86,7 +86,7 @@ TEST_F(WaveformTest, SetOfThreeFilesOfOneName) {
   EXPECT_FALSE(saveWindow.isVisible());
   // It resumes although the dialog could have been cancelled.
   EXPECT_TRUE(main.tmDSO.enabled());
-  EXPECT_EQ(main.cmdStart.caption(), main.Msg[3]);
+  EXPECT_EQ(main.cmdStart.caption(), main.state.Msg[3]);
 }
 
 TEST_F(WaveformTest, OneChannelNoChannelAndNoRecord) {

@@ -15,9 +15,9 @@ TEST_F(ConnectTest, SetupOfTheProgramHoldsFromItsStartOn) {
   EXPECT_EQ(port.settings, (LineSettings{33, 4800, 7, 2, 3}));
   EXPECT_EQ(restarted.main.lblPort.caption(), "(3) port 33 - ttyUSB0");
   EXPECT_EQ(restarted.main.mnbFile.caption(), "Fichier");
-  EXPECT_NE(restarted.main.Msg[1], main.Msg[1]);
-  EXPECT_EQ(restarted.main.lblConnect.caption(), restarted.main.Msg[1]);
-  EXPECT_EQ(restarted.main.BaudRate, 19200);
+  EXPECT_NE(restarted.main.state.Msg[1], main.state.Msg[1]);
+  EXPECT_EQ(restarted.main.lblConnect.caption(), restarted.main.state.Msg[1]);
+  EXPECT_EQ(restarted.main.state.BaudRate, 19200);
   const Graph& graph = restarted.main.graphDSO;
   EXPECT_EQ(graph.axis("YAxis-2").minimum(), graph.axis("YAxis-1").minimum());
   EXPECT_EQ(graph.axis("YAxis-2").maximum(), graph.axis("YAxis-1").maximum());

@@ -99,7 +99,7 @@ TEST(Faults, NeitherConnectNorAcquisitionHangsAndBothLaterSucceed) {
     const std::string& log = bench.program.errLog.txtErrLog.text();
     EXPECT_NE(log.find(fault.loggedAtConnect), std::string::npos) << fault.what << ": " << log;
     EXPECT_EQ(log.empty(), *fault.loggedAtConnect == 0) << fault.what << ": " << log;
-    EXPECT_TRUE(bench.main.LinkOK || bench.main.lblConnect.caption() == bench.main.Msg[9]);
+    EXPECT_TRUE(bench.main.LinkOK || bench.main.lblConnect.caption() == bench.main.state.Msg[9]);
     bench.mend();
     bench.main.cmdRS232.press();
     bench.expectWell(fault.what);

@@ -25,7 +25,7 @@ TEST(Scales, ParsedCaptions) {
 
 /// The tick count wraps during the waits of autoset and start.
 TEST_F(SettingsTest, WhatDoesNotFitIsLogged) {
-  main.ChanCount = 32767;
+  main.state.ChanCount = 32767;
   main.cbCh2.toggle();
   main.lblTime.caption = "99999";
   main.slideTime.value = 1e305;
@@ -33,7 +33,7 @@ TEST_F(SettingsTest, WhatDoesNotFitIsLogged) {
   main.Ch2Raw = "cut";
   main.slideCH2.release();
   takeWire();
-  main.ChanCount = 1;
+  main.state.ChanCount = 1;
   for (Button* button : {&main.cmdAutoset, &main.cmdStart}) {
     clock.jumpTo(std::numeric_limits<std::int32_t>::max() - 500);
     main.Initialised = main.LinkOK = true;

@@ -58,7 +58,7 @@ TEST_F(CaptionsTest, ShippedFilesNameEveryWindowAndControlInOrder) {
 TEST_F(CaptionsTest, LanguageChangesEveryWindowAndKeepsWhatIsShown) {
   start();
   main.mnbLA2.choose();
-  EXPECT_EQ(main.lblConnect.caption(), main.Msg[1]);
+  EXPECT_EQ(main.lblConnect.caption(), main.state.Msg[1]);
   port.answerLikeAnInstrument();
   main.cmdStart.press();
   main.cmdRunStop.press();
@@ -69,7 +69,7 @@ TEST_F(CaptionsTest, LanguageChangesEveryWindowAndKeepsWhatIsShown) {
   EXPECT_FALSE(main.mnbLA1.isChecked());
   EXPECT_EQ(program.trigger.cmdCancel.caption(), "Annuler");
   EXPECT_EQ(main.mnbFile.caption(), "Fichier");
-  EXPECT_EQ(main.lblConnect.caption(), main.Msg[7]);
+  EXPECT_EQ(main.lblConnect.caption(), main.state.Msg[7]);
   EXPECT_EQ(main.cmdStart.caption(), "Arrêter");
   EXPECT_EQ(main.slideCH1.caption(), "Position voie 1 : -1.50 Div");
   // Through languages whose words for two states are alike.
@@ -156,13 +156,13 @@ TEST_F(CaptionsTest, MessagesKeepTheirCommasAndNeedThirteenLines) {
     EXPECT_NO_THROW(program.captions.LoadCaptions()) << number;
     const auto file = languageFile(main, ".msg");
     EXPECT_EQ(file.filename(), name);
-    main.Msg = {};
+    main.state.Msg = {};
     writeWholeFile(file, lines.substr(0, lines.size() - 2));
     EXPECT_THROW(LoadMessages(main), Error);
-    EXPECT_EQ(main.Msg[1], "");
+    EXPECT_EQ(main.state.Msg[1], "");
     writeWholeFile(file, lines + "more,ignored\r\n");
     LoadMessages(main);
-    EXPECT_EQ((Lines{main.Msg[0], main.Msg[12], main.Msg[13]}),
+    EXPECT_EQ((Lines{main.state.Msg[0], main.state.Msg[12], main.state.Msg[13]}),
               (Lines{"text, 0 ", "text, 12 ", ""}));
   }
   std::filesystem::remove(folder.path() / "dso_la1.msg");

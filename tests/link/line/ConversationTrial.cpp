@@ -116,7 +116,7 @@ class Trial : BenchOf<OnALine<PacedOpener>> {
     instrument_.byteTime = byteTime;
     setRow(0, settings);
     port.settings = {0, toInt16(settings[0]), 8, 0, 0};
-    main.BaudRate = toInt16(settings[0]);
+    main.state.BaudRate = toInt16(settings[0]);
   }
 
   /// Each as often as its weight says, out of 24.
