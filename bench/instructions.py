@@ -54,15 +54,15 @@ class CountedProgram(Program):
 
 
 def wake_ups(program):
-    """A second, of all its threads."""
+    """A second, of all its threads that are still there at the end."""
     def switches():
-        return sum(int(line.split()[1])
-                   for file in pathlib.Path(f"/proc/{program.process.pid}/task").glob("*/status")
-                   for line in file.read_text().splitlines()
-                   if line.startswith("voluntary_ctxt_switches"))
+        return {file.parent.name: int(line.split()[1])
+                for file in pathlib.Path(f"/proc/{program.process.pid}/task").glob("*/status")
+                for line in file.read_text().splitlines()
+                if line.startswith("voluntary_ctxt_switches")}
     before = switches()
     time.sleep(IDLE_SECONDS)
-    return (switches() - before) / IDLE_SECONDS
+    return sum(count - before.get(thread, 0) for thread, count in switches().items()) / IDLE_SECONDS
 
 
 def with_program(kind, use, is_asked=False):
