@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "KeptFiles.h"
+#include "LineNotice.h"
 #include "LinkSettings.h"
 #include "PortNotice.h"
 #include "ScreenMarks.h"
@@ -20,6 +21,7 @@ void Tracewell::connectLifecycle() {
   main.tmStatus.timer = [this] {
     showTraceAges(main);
     showStaleScales(main);
+    showLineNotice(main);
   };
   main.tmTest.timer = [this] { lifecycle.tmTest_Timer(); };
 }
