@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "KeptFiles.h"
+#include "LineNotice.h"
 #include "LinkSettings.h"
 #include "PortNotice.h"
 #include "Tracewell.h"
@@ -14,7 +15,10 @@ void Tracewell::connectLifecycle() {
   main.cmdClose.click = [this] { lifecycle.cmdClose_Click(); };
   main.mnbClose.click = [this] { lifecycle.cmdClose_Click(); };
   main.tmDSO.timer = [this] { acquisition.tmDSO_Timer(); };
-  main.tmStatus.timer = [this] { panelMarks.show(); };
+  main.tmStatus.timer = [this] {
+    showLineNotice(main);
+    panelMarks.show();
+  };
   main.marksDue = [this] { panelMarks.show(); };
   main.known.changed = [this] { panelMarks.show(); };
   main.services().standBy.meanwhile = [this] { panelMarks.show(); };

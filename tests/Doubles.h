@@ -156,6 +156,7 @@ class ScriptedPort : public SerialPort, public PortList {
   std::vector<LineSettings> prepared;
   int resets = 0;
   int timesOpened = 1;
+  LineReport lineReport;
   int recordLength = 0;
   /// Resetting fails.
   bool isStuck = false;
@@ -174,6 +175,7 @@ class ScriptedPort : public SerialPort, public PortList {
     return prepared.empty() ? 0 : prepared.back().portNumber;
   }
   int openings() const override { return timesOpened; }
+  LineReport report() const override { return lineReport; }
   void write(std::string_view bytes, Expects expects) override;
   std::string read() override;
   void beginRead(int count) override {

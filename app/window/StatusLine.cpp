@@ -25,6 +25,10 @@ void StatusLine::withdraw(Topic topic) {
   tellAgain();
 }
 
+bool StatusLine::says(Topic topic) const {
+  return std::ranges::any_of(told_, [topic](const Told& told) { return told.topic == topic; });
+}
+
 void StatusLine::remove(Topic topic) {
   std::erase_if(told_, [topic](const Told& told) { return told.topic == topic; });
 }

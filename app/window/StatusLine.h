@@ -31,6 +31,8 @@ class StatusLine {
     otherLineSettings,
     /// The scales may be another instrument's.
     staleScales,
+    /// What comes from the instrument, or does not, is not what was asked for.
+    lineTrouble,
     /// An error has ended the acquisition.
     stoppedByError,
     /// What the user has had done last.
@@ -51,6 +53,7 @@ class StatusLine {
   /// Behind what the topic says already.
   void tellToo(Topic topic, Sentence sentence);
   void withdraw(Topic topic);
+  bool says(Topic topic) const;
   /// In the language in force, and as things are now.
   void tellAgain();
 

@@ -304,6 +304,10 @@
         <translation>Amplitude : niveau haut moins niveau bas</translation>
     </message>
     <message>
+        <source>Answers without a line end: %1 in a minute</source>
+        <translation>Réponses sans fin de ligne : %1 en une minute</translation>
+    </message>
+    <message>
         <source>Attenuation of the probe</source>
         <translation>Atténuation de la sonde</translation>
     </message>
@@ -326,6 +330,10 @@
     <message>
         <source>Brightness of the traces on the instrument, in percent</source>
         <translation>Luminosité des traces sur l'instrument, en pour cent</translation>
+    </message>
+    <message>
+        <source>Bytes that nobody asked for: %1 in a minute</source>
+        <translation>Octets que personne n'a demandés : %1 en une minute</translation>
     </message>
     <message>
         <source>Channel</source>
@@ -700,6 +708,10 @@
         <translation>Pas de réponse à %1</translation>
     </message>
     <message>
+        <source>No record for %1 s</source>
+        <translation>Aucun enregistrement depuis %1 s</translation>
+    </message>
+    <message>
         <source>No room for all of %1: press %2 first</source>
         <translation>Pas assez de place pour tout %1 : appuyer d'abord sur %2</translation>
     </message>
@@ -798,6 +810,18 @@
     <message>
         <source>Records in an average</source>
         <translation>Enregistrements par moyenne</translation>
+    </message>
+    <message>
+        <source>Records stay short: %1 of %2 bytes came</source>
+        <translation>Les enregistrements restent incomplets : %1 octets reçus sur %2</translation>
+    </message>
+    <message>
+        <source>Records that came too late: %1 in a minute</source>
+        <translation>Enregistrements venus trop tard : %1 en une minute</translation>
+    </message>
+    <message>
+        <source>Records that did not come: %1 in a minute</source>
+        <translation>Enregistrements qui ne sont pas venus : %1 en une minute</translation>
     </message>
     <message>
         <source>Remove the loaded waveforms</source>

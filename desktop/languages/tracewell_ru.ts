@@ -304,6 +304,10 @@
         <translation>Амплитуда: верхний уровень минус нижний</translation>
     </message>
     <message>
+        <source>Answers without a line end: %1 in a minute</source>
+        <translation>Ответы без конца строки: %1 за минуту</translation>
+    </message>
+    <message>
         <source>Attenuation of the probe</source>
         <translation>Коэффициент деления щупа</translation>
     </message>
@@ -326,6 +330,10 @@
     <message>
         <source>Brightness of the traces on the instrument, in percent</source>
         <translation>Яркость луча на экране прибора, в процентах</translation>
+    </message>
+    <message>
+        <source>Bytes that nobody asked for: %1 in a minute</source>
+        <translation>Байты, которых никто не запрашивал: %1 за минуту</translation>
     </message>
     <message>
         <source>Channel</source>
@@ -700,6 +708,10 @@
         <translation>Нет ответа на %1</translation>
     </message>
     <message>
+        <source>No record for %1 s</source>
+        <translation>Нет записи уже %1 с</translation>
+    </message>
+    <message>
         <source>No room for all of %1: press %2 first</source>
         <translation>Для всего %1 не хватает места: сначала нажмите «%2»</translation>
     </message>
@@ -798,6 +810,18 @@
     <message>
         <source>Records in an average</source>
         <translation>Число усредняемых записей</translation>
+    </message>
+    <message>
+        <source>Records stay short: %1 of %2 bytes came</source>
+        <translation>Записи приходят неполными: %1 из %2 байт</translation>
+    </message>
+    <message>
+        <source>Records that came too late: %1 in a minute</source>
+        <translation>Записи, пришедшие слишком поздно: %1 за минуту</translation>
+    </message>
+    <message>
+        <source>Records that did not come: %1 in a minute</source>
+        <translation>Записи, которые не пришли: %1 за минуту</translation>
     </message>
     <message>
         <source>Remove the loaded waveforms</source>

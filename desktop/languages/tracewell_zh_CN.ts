@@ -304,6 +304,10 @@
         <translation>幅度：高电平减低电平</translation>
     </message>
     <message>
+        <source>Answers without a line end: %1 in a minute</source>
+        <translation>没有行结束符的应答：一分钟内 %1 次</translation>
+    </message>
+    <message>
         <source>Attenuation of the probe</source>
         <translation>探头衰减比</translation>
     </message>
@@ -326,6 +330,10 @@
     <message>
         <source>Brightness of the traces on the instrument, in percent</source>
         <translation>仪器屏幕上波形的亮度（百分比）</translation>
+    </message>
+    <message>
+        <source>Bytes that nobody asked for: %1 in a minute</source>
+        <translation>未经请求的字节：一分钟内 %1 个</translation>
     </message>
     <message>
         <source>Channel</source>
@@ -700,6 +708,10 @@
         <translation>%1 无应答</translation>
     </message>
     <message>
+        <source>No record for %1 s</source>
+        <translation>已有 %1 秒没有记录</translation>
+    </message>
+    <message>
         <source>No room for all of %1: press %2 first</source>
         <translation>%1 无法全部显示：请先按“%2”</translation>
     </message>
@@ -798,6 +810,18 @@
     <message>
         <source>Records in an average</source>
         <translation>每次平均的记录数</translation>
+    </message>
+    <message>
+        <source>Records stay short: %1 of %2 bytes came</source>
+        <translation>记录不完整：%2 个字节中只收到 %1 个</translation>
+    </message>
+    <message>
+        <source>Records that came too late: %1 in a minute</source>
+        <translation>来得太晚的记录：一分钟内 %1 个</translation>
+    </message>
+    <message>
+        <source>Records that did not come: %1 in a minute</source>
+        <translation>没有到达的记录：一分钟内 %1 个</translation>
     </message>
     <message>
         <source>Remove the loaded waveforms</source>

@@ -304,6 +304,10 @@
         <translation>幅度：高電平減低電平</translation>
     </message>
     <message>
+        <source>Answers without a line end: %1 in a minute</source>
+        <translation>冇行尾嘅回應：一分鐘內 %1 次</translation>
+    </message>
+    <message>
         <source>Attenuation of the probe</source>
         <translation>探頭嘅衰減比</translation>
     </message>
@@ -326,6 +330,10 @@
     <message>
         <source>Brightness of the traces on the instrument, in percent</source>
         <translation>儀器畫面上波形嘅亮度（百分比）</translation>
+    </message>
+    <message>
+        <source>Bytes that nobody asked for: %1 in a minute</source>
+        <translation>冇人要求過嘅位元組：一分鐘內 %1 個</translation>
     </message>
     <message>
         <source>Channel</source>
@@ -700,6 +708,10 @@
         <translation>%1 冇回應</translation>
     </message>
     <message>
+        <source>No record for %1 s</source>
+        <translation>已經 %1 秒冇記錄</translation>
+    </message>
+    <message>
         <source>No room for all of %1: press %2 first</source>
         <translation>擺唔晒 %1：請先撳「%2」</translation>
     </message>
@@ -798,6 +810,18 @@
     <message>
         <source>Records in an average</source>
         <translation>每次平均嘅記錄數目</translation>
+    </message>
+    <message>
+        <source>Records stay short: %1 of %2 bytes came</source>
+        <translation>記錄唔完整：%2 個位元組只收到 %1 個</translation>
+    </message>
+    <message>
+        <source>Records that came too late: %1 in a minute</source>
+        <translation>嚟得太遲嘅記錄：一分鐘內 %1 個</translation>
+    </message>
+    <message>
+        <source>Records that did not come: %1 in a minute</source>
+        <translation>冇嚟到嘅記錄：一分鐘內 %1 個</translation>
     </message>
     <message>
         <source>Remove the loaded waveforms</source>

@@ -27,8 +27,8 @@ bool isBlank(std::string_view bytes) {
 
 }  // namespace
 
-Conversation::Conversation(ChannelOpener& opener, const Clock& clock,
-                           const EventDispatcher& dispatcher, StandBy& standBy)
+Conversation::Conversation(ChannelOpener& opener, Clock& clock, const EventDispatcher& dispatcher,
+                           StandBy& standBy)
     : opener_(opener), clock_(clock), dispatcher_(dispatcher), standBy_(standBy) {}
 
 void Conversation::use(const LineSettings& settings) {
@@ -56,7 +56,10 @@ std::string Conversation::ask(std::string_view query, int timeOut) {
   try {
     std::string reply = awaitReply(askedAt_ + timeOut);
     unanswered_ = 0;
+    // What was asked before it has been answered, or never will be.
+    if (!isQuestionOwed_) owedBytes_ = 0;
     state_ = State::idle;
+    account_.gaveAnswer(askedAt_, clock_.milliseconds());
     return reply;
   } catch (...) {
     leaveUnanswered();
@@ -65,6 +68,7 @@ std::string Conversation::ask(std::string_view query, int timeOut) {
 }
 
 void Conversation::request(Record record) {
+  account_.wantedRecord(clock_.milliseconds());
   hear(take(0));
   const bool waitsAlready =
       std::ranges::any_of(held_, [&](const Record& held) { return held.tag == record.tag; });
@@ -83,7 +87,10 @@ void Conversation::close() {
   channel_.reset();
   whole_.reset();
   held_.clear();
-  isStray_ = isStray_ || state_ == State::recordAwaited;
+  if (state_ == State::recordAwaited) {
+    isStray_ = true;
+    if (record_.bytes.empty()) owe();
+  }
   if (state_ != State::idle) state_ = State::draining;
 }
 
@@ -91,7 +98,10 @@ void Conversation::close() {
 void Conversation::forget() {
   state_ = State::idle;
   unanswered_ = 0;
+  owedBytes_ = 0;
+  isQuestionOwed_ = false;
   isStray_ = false;
+  account_.beginAnew();
 }
 
 void Conversation::send(std::string_view bytes) {
@@ -129,6 +139,8 @@ void Conversation::hear(const std::string& bytes) {
   if (bytes.empty()) return;
   if (state_ == State::recordAwaited)
     hearRecord(bytes);
+  else if (state_ == State::recordHeard)
+    hearBehindRecord(bytes);
   else
     hearOwed(bytes);
 }
@@ -139,8 +151,32 @@ void Conversation::hearRecord(const std::string& bytes) {
   if (record_.bytes.size() < record_.count) return restUntilMoreHasCome();
   const std::string behind = record_.bytes.substr(record_.count);
   record_.bytes.resize(record_.count);
-  state_ = State::idle;
-  if (isWanted_) whole_ = std::move(record_);
+  if (owedBytes_ > 0) return refuseRecord(behind);
+  state_ = State::recordHeard;
+  clock_.callAfter(settlingTime(), [this, alive = std::weak_ptr(alive_)] {
+    if (!alive.expired()) dispatcher_.dispatch([this] { arrived(); });
+  });
+  hearBehindRecord(behind);
+}
+
+/// Where more follows, a late answer may have stood in front, and all be shifted.
+void Conversation::hearBehindRecord(std::string_view bytes) {
+  if (!std::ranges::all_of(bytes, [](char byte) { return isBlank(byte) || byte == '\n'; }))
+    hearLines(bytes, askedAt_);
+}
+
+/// It may be the one that was given up before. As many as were owed still are: this one, or those.
+void Conversation::refuseRecord(std::string_view behind) {
+  account_.heardLateRecord(clock_.milliseconds());
+  state_ = State::draining;
+  isOwedComing_ = true;
+  drainTime_ = recordDrain;
+  if (isWanted_) {
+    // Otherwise a channel that always answers would stand back for one that never does.
+    std::erase_if(held_, [this](const Record& held) { return held.tag == record_.tag; });
+    record_.bytes.clear();
+    held_.push_front(record_);
+  }
   if (!behind.empty()) hearOwed(behind);
 }
 
@@ -154,35 +190,76 @@ void Conversation::restUntilMoreHasCome() {
 
 /// Lines that nobody waits for. Each is one that is owed; what goes beyond that is stray, and so is
 /// a line right behind another: both may be halves of one.
-void Conversation::hearOwed(std::string_view bytes) {
-  if (state_ == State::idle && isBlank(bytes)) return;
+void Conversation::hearLines(std::string_view bytes, std::int64_t since) {
   const std::int64_t now = clock_.milliseconds();
   state_ = State::draining;
   heardAt_ = now;
+  int unasked = 0;
   for (const char byte : bytes) {
     const bool isBehindALine = now < lineEndAt_ + settling;
-    if (!isBlank(byte) && (unanswered_ == 0 || isBehindALine)) isStray_ = true;
+    if (!isBlank(byte) && (unanswered_ == 0 || isBehindALine)) ++unasked;
     if (byte != '\n') continue;
     unanswered_ = std::max(unanswered_ - 1, 0);
     lineEndAt_ = now;
   }
+  if (unasked == 0) return;
+  isStray_ = true;
+  account_.heardUnasked(unasked, since, now);
+}
+
+/// Bytes that nobody waits for are those of the records that are owed, then lines.
+void Conversation::hearOwed(std::string_view bytes) {
+  if (state_ == State::idle && owedBytes_ == 0 && isBlank(bytes)) return;
+  hearLines(bytes.substr(payWith(bytes)), clock_.milliseconds());
+}
+
+/// How many of the bytes are those of records.
+std::size_t Conversation::payWith(std::string_view bytes) {
+  const std::size_t paid = std::min(owedBytes_, bytes.size());
+  if (paid == 0) return 0;
+  const auto records = [this] { return (owedBytes_ + record_.count - 1) / record_.count; };
+  const std::size_t before = records();
+  owedBytes_ -= paid;
+  isOwedComing_ = true;
+  drainTime_ = std::max(drainTime_, recordDrain);
+  for (std::size_t i = records(); i < before; ++i) account_.heardLateRecord(clock_.milliseconds());
+  return paid;
+}
+
+void Conversation::owe() {
+  owedBytes_ += record_.count;
+  isOwedComing_ = false;
 }
 
 /// When the line may be trusted again if nothing more is heard.
 std::int64_t Conversation::trustedAt() const {
   const std::int64_t quietSince = std::max(askedAt_, heardAt_);
   if (state_ == State::recordAwaited) return quietSince + longestThought;
-  const bool isAllThere = unanswered_ == 0 && !isStray_;
+  if (state_ == State::recordHeard) return heardAt_ + settlingTime();
+  const bool isAllThere = unanswered_ == 0 && owedBytes_ == 0 && !isStray_;
   return quietSince + (isAllThere ? settling : drainTime_);
 }
 
 /// What has been quiet for long enough is over.
 void Conversation::review() {
-  const bool isOver = state_ == State::recordAwaited || state_ == State::draining;
-  if (!isOver || clock_.milliseconds() < trustedAt()) return;
+  const std::int64_t now = clock_.milliseconds();
+  const bool isUnderWay = state_ != State::idle && state_ != State::replyAwaited;
+  if (!isUnderWay || now < trustedAt()) return;
+  if (state_ == State::recordAwaited) {
+    account_.gaveUpRecord(record_.bytes.size(), record_.count, now);
+    // A few bytes may have been the late answer to something else.
+    if (2 * record_.bytes.size() < record_.count) owe();
+  }
+  if (state_ == State::recordHeard && isWanted_) whole_ = std::move(record_);
+  const bool isOwedOver = isOwedComing_ && now >= heardAt_ + recordDrain;
+  if (state_ == State::draining && isOwedOver) {
+    owedBytes_ = 0;
+    isQuestionOwed_ = false;
+  }
   state_ = State::idle;
   unanswered_ = 0;
   isStray_ = false;
+  drainTime_ = longestThought;
 }
 
 bool Conversation::isSilent() const {
@@ -195,7 +272,7 @@ void Conversation::makeReadyToAsk(int timeOut) {
   hear(take(0));
   drainTime_ = std::max(timeOut + drainMargin, longestThought);
   review();
-  if (state_ == State::recordAwaited) finishRecord();
+  if (state_ == State::recordAwaited || state_ == State::recordHeard) finishRecord();
   // It has answered, or there was a pause as long as a drain: it gets another chance.
   if (state_ == State::idle) unansweredInRow_ = 0;
   if (!isSilent()) drain(timeOut);
@@ -206,7 +283,10 @@ void Conversation::finishRecord() {
   const auto left = static_cast<double>(record_.count - record_.bytes.size());
   const auto longest = static_cast<std::int64_t>(std::ceil(2 * left * byteTime())) + restMargin;
   const std::int64_t deadline = clock_.milliseconds() + longest;
-  while (state_ == State::recordAwaited && clock_.milliseconds() < deadline)
+  const auto isOnItsWay = [this] {
+    return state_ == State::recordAwaited || state_ == State::recordHeard;
+  };
+  while (isOnItsWay() && clock_.milliseconds() < deadline)
     hear(listen(std::min(deadline, trustedAt())));
 }
 
@@ -232,17 +312,22 @@ std::string Conversation::awaitReply(std::int64_t deadline) {
     if (received.size() > searched) heardAt_ = clock_.milliseconds();
     const std::size_t end = received.find('\n', searched);
     if (end < longestReply) return onlyLine(received, end + 1);
-    if (received.size() > longestReply || clock_.milliseconds() >= deadline) throw timeOutError();
+    if (received.size() <= longestReply && clock_.milliseconds() < deadline) continue;
+    if (!received.empty()) {
+      account_.missedLineEnd(received.size(), clock_.milliseconds());
+      payWith(received);
+    }
+    throw timeOutError();
   }
 }
 
 /// A line is the answer if no other answer is owed and nothing follows it: half of a damaged reply
-/// is none.
+/// is none. While a record is owed, what is as long as one has it in front.
 std::string Conversation::onlyLine(std::string received, std::size_t length) {
-  const std::int64_t until =
-      clock_.milliseconds() + settling + static_cast<std::int64_t>(std::ceil(2 * byteTime()));
+  const std::int64_t until = clock_.milliseconds() + settlingTime();
+  const bool hasRecord = owedBytes_ > 0 && length >= record_.count;
   const auto isAlone = [&] {
-    return unanswered_ == 1 && isBlank(std::string_view(received).substr(length));
+    return unanswered_ == 1 && !hasRecord && isBlank(std::string_view(received).substr(length));
   };
   while (isAlone() && clock_.milliseconds() < until) received += listen(until);
   if (!isAlone()) {
@@ -255,6 +340,7 @@ std::string Conversation::onlyLine(std::string received, std::size_t length) {
 
 void Conversation::leaveUnanswered() {
   state_ = State::draining;
+  isQuestionOwed_ = true;
   ++unansweredInRow_;
 }
 
@@ -266,6 +352,7 @@ void Conversation::arrived() {
     if (state_ == State::draining) channel_->rest(StandBy::longestGap);
     if (whole_) {
       const Record record = *std::exchange(whole_, std::nullopt);
+      account_.gaveRecord(clock_.milliseconds());
       delivered(record);
     }
     if (dispatcher_.isOpen()) sendHeld();
@@ -284,6 +371,11 @@ void Conversation::sendHeld() {
   askedAt_ = clock_.milliseconds();
   isWanted_ = true;
   state_ = State::recordAwaited;
+}
+
+/// Within so long after the last byte of an answer, what belongs to it has come.
+int Conversation::settlingTime() const {
+  return settling + static_cast<int>(std::ceil(2 * byteTime()));
 }
 
 /// Of one byte on the line, with its start, parity and stop bits.

@@ -13,6 +13,7 @@
 #include "ByteChannel.h"
 #include "Clock.h"
 #include "EventDispatcher.h"
+#include "LineAccount.h"
 #include "StandBy.h"
 
 namespace tracewell {
@@ -24,7 +25,12 @@ namespace tracewell {
 /// after it was put, or never. On that all rules here rest:
 ///
 /// - A record is on its way from its request on, byte or no byte, until it is whole or
-///   longestThought has passed without a byte. Further requests wait, one for each tag.
+///   longestThought has passed without a byte. Further requests wait, one for each tag. It counts
+///   when nothing but blanks and line ends follows it for the settling time.
+/// - A record of which less than half has come when it is given up stays owed. Others are asked for
+///   all the same, and the next one that comes answers nobody, since it may be the one that is
+///   owed. Then the line is drained for recordDrain; whoever asked last asks again. An answered
+///   question proves that nothing is owed any longer, unless one before it had no answer.
 /// - A question without an answer stays owed. A line that comes while more is owed than the present
 ///   question answers nobody. Before the next question or record the line is *drained*: until all
 ///   that is owed has come, or it has been quiet for long enough (drainTime). A line that does not
@@ -40,6 +46,10 @@ class Conversation {
   static constexpr int longestThought = 3000;
   /// A line whose time-out is longer than longestThought is drained for that and so much more.
   static constexpr int drainMargin = 1000;
+  /// How long the line must be quiet before a record that is owed comes no more, once the first one
+  /// has come: an instrument that is steadily late keeps the distance of the requests, which is
+  /// longestThought and the interval of whoever asks.
+  static constexpr int recordDrain = 2 * longestThought;
   /// The rest of a record is awaited for twice the time of its bytes, and so much more.
   static constexpr int restMargin = 250;
   /// Bytes of one answer follow each other, through whatever adapter, within so long.
@@ -59,7 +69,7 @@ class Conversation {
     std::string bytes;
   };
 
-  Conversation(ChannelOpener& opener, const Clock& clock, const EventDispatcher& dispatcher,
+  Conversation(ChannelOpener& opener, Clock& clock, const EventDispatcher& dispatcher,
                StandBy& standBy);
   Conversation(const Conversation&) = delete;
 
@@ -70,6 +80,7 @@ class Conversation {
   const LineSettings& openSettings() const { return openSettings_; }
   /// How often a line has been opened.
   int openings() const { return openings_; }
+  LineReport report() const { return account_.report(clock_.milliseconds()); }
 
   /// Sends a line to which nothing comes back. Raises deviceError.
   void command(std::string_view line);
@@ -96,6 +107,8 @@ class Conversation {
     idle,
     replyAwaited,
     recordAwaited,
+    /// It is whole; what comes right behind it tells whether it is one.
+    recordHeard,
     /// Answers are owed that nobody waits for, or bytes have come that nobody has asked for.
     draining
   };
@@ -108,9 +121,14 @@ class Conversation {
 
   void hear(const std::string& bytes);
   void hearRecord(const std::string& bytes);
+  void hearBehindRecord(std::string_view bytes);
   void restUntilMoreHasCome();
+  void refuseRecord(std::string_view behind);
   void hearOwed(std::string_view bytes);
+  std::size_t payWith(std::string_view bytes);
+  void hearLines(std::string_view bytes, std::int64_t since);
   void review();
+  void owe();
   std::int64_t trustedAt() const;
 
   void makeReadyToAsk(int timeOut);
@@ -124,9 +142,10 @@ class Conversation {
   void arrived();
   void sendHeld();
   double byteTime() const;
+  int settlingTime() const;
 
   ChannelOpener& opener_;
-  const Clock& clock_;
+  Clock& clock_;
   const EventDispatcher& dispatcher_;
   StandBy& standBy_;
   std::unique_ptr<ByteChannel> channel_;
@@ -139,6 +158,12 @@ class Conversation {
   bool isWanted_ = false;
   /// One that is whole and not delivered yet.
   std::optional<Record> whole_;
+  /// Bytes of records that were given up and may still come, and whether any has since the last of
+  /// them was given up.
+  std::size_t owedBytes_ = 0;
+  bool isOwedComing_ = false;
+  /// A question had no answer: the next one that comes may be its own, and proves nothing.
+  bool isQuestionOwed_ = false;
   /// Requests that wait for the line, the oldest first.
   std::deque<Record> held_;
 
@@ -155,6 +180,9 @@ class Conversation {
   std::int64_t askedAt_ = 0;
   std::int64_t heardAt_ = 0;
   std::int64_t lineEndAt_ = std::numeric_limits<int>::min();
+  LineAccount account_{longestThought};
+  /// As long as this object lives, for actions that are due later.
+  std::shared_ptr<int> alive_ = std::make_shared<int>();
 };
 
 }  // namespace tracewell

@@ -6,7 +6,7 @@
 #include "Flag.h"
 
 namespace tracewell {
-LinePort::LinePort(ChannelOpener& opener, const Clock& clock, Gate& gate,
+LinePort::LinePort(ChannelOpener& opener, Clock& clock, Gate& gate,
                    const EventDispatcher& dispatcher, StandBy& standBy)
     : SerialPort(gate), dispatcher_(dispatcher), conversation_(opener, clock, dispatcher, standBy) {
   conversation_.delivered = [this](const Conversation::Record& record) { deliver(record); };

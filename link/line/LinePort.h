@@ -11,12 +11,13 @@ namespace tracewell {
 /// The port over any ByteChannel. What a transfer means on the line is the Conversation's.
 class LinePort : public SerialPort {
  public:
-  LinePort(ChannelOpener& opener, const Clock& clock, Gate& gate, const EventDispatcher& dispatcher,
+  LinePort(ChannelOpener& opener, Clock& clock, Gate& gate, const EventDispatcher& dispatcher,
            StandBy& standBy);
   LinePort(const LinePort&) = delete;
 
   std::int16_t openPort() const override { return conversation_.openSettings().portNumber; }
   int openings() const override { return conversation_.openings(); }
+  LineReport report() const override { return conversation_.report(); }
   void write(std::string_view bytes, Expects expects) override;
   std::string read() override;
   void beginRead(int count) override;

@@ -8,6 +8,7 @@
 
 #include "ByteChannel.h"
 #include "Gate.h"
+#include "LineReport.h"
 #include "Property.h"
 
 namespace tracewell {
@@ -53,6 +54,9 @@ class SerialPort {
   /// How often a line has been opened; another instrument may be on it each time. At dataReady it
   /// tells, as openPort does, the line of the record.
   virtual int openings() const = 0;
+
+  /// What has gone wrong on the line lately.
+  virtual LineReport report() const = 0;
 
   /// What the instrument answers to a line.
   enum class Expects { nothing, reply, record };

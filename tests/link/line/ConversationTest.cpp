@@ -56,16 +56,45 @@ class LineScript : OnALine<PacedOpener> {
     if (name == "byte") farEnd.byteTime = number;
     if (name == "free") farEnd.lineFreeAt = 0;
     if (name == "hang up") farEnd.hangUpAfter = value.empty() ? std::string::npos : 0;
+    if (name == "behind") behind_ = toLine(value);
+    if (name == "again") again_ = static_cast<int>(number);
+    if (name == "report") report();
     if (name == "unasked")
       for (int i = 0; i < number; ++i) farEnd.unasked += i % 10 == 9 ? '\n' : '5';
     if (name == "refuse") farEnd.isDeaf = number != 0;
     if (name == "ignored") ignored_ = static_cast<int>(number);
     if (name == "length") length_ = static_cast<std::size_t>(number);
     if (name == "bytes") bytes_ = value.empty() ? "" : std::string(length_, 'x') + "\n";
-    if (name == "answer") {
-      bytes_ = value;
-      for (char& byte : bytes_) byte = byte == '^' ? '\n' : byte == '<' ? '\r' : byte;
-    }
+    if (name == "answer") bytes_ = toLine(value);
+  }
+
+  static std::string toLine(std::string text) {
+    for (char& byte : text) byte = byte == '^' ? '\n' : byte == '<' ? '\r' : byte;
+    return text;
+  }
+
+  /// What the account of the line says.
+  void report() {
+    const LineReport report = port.report();
+    std::string text = "report";
+    const auto tell = [&text](const char* what, const LineReport::Tally& tally, std::string more) {
+      if (!tally.lastAt) return;
+      text += std::string(" ") + what + " " + std::to_string(tally.inLastMinute) + more + " at " +
+              std::to_string(*tally.lastAt);
+    };
+    tell("unasked", report.unaskedBytes, "");
+    tell("short", report.shortRecords,
+         " " + std::to_string(report.cameOfRecord) + "/" + std::to_string(report.lengthOfRecord));
+    tell("missing", report.missingRecords, "");
+    tell("late", report.lateRecords, "");
+    tell("endless", report.endlessReplies, " " + std::to_string(report.bytesOfEndlessReply));
+    if (report.noRecordSince) text += " none since " + std::to_string(*report.noRecordSince);
+    if (report.lastRecordAt) text += " last " + std::to_string(*report.lastRecordAt);
+    if (report.doubt.times > 0)
+      text += " doubt " + std::to_string(report.doubt.times) + " of " +
+              std::to_string(report.doubt.firstAnswerAt) + "-" +
+              std::to_string(report.doubt.lastAnswerAt);
+    note(text);
   }
 
   void ask(const std::string& query) {
@@ -86,6 +115,13 @@ class LineScript : OnALine<PacedOpener> {
   }
 
   std::string answer(const std::string& line) {
+    const std::string bytes = firstAnswer(line);
+    if (again_ > 0 && !bytes.empty())
+      clock.callAfter(again_, [this, bytes] { farEnd.unasked += bytes; });
+    return bytes.empty() ? bytes : bytes + behind_;
+  }
+
+  std::string firstAnswer(const std::string& line) {
     const bool isRecord = line.ends_with("POIN");
     if (!isRecord && !line.ends_with('?')) return "";
     if (ignored_ > 0 && ++asked_ % ignored_ == 0) return "";
@@ -104,6 +140,9 @@ class LineScript : OnALine<PacedOpener> {
   int asked_ = 0;
   std::size_t length_ = 1014;
   std::string bytes_;
+  std::string behind_;
+  /// After so many milliseconds each answer comes once more.
+  int again_ = 0;
 };
 
 TEST(LineScriptTest, ComesToWhatStandsBelowIt) {

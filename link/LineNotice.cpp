@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "LineNotice.h"
+
+#include "TraceAge.h"
+
+namespace tracewell {
+namespace {
+
+/// Whether it has happened again and again, or nothing else has since.
+bool isLasting(const LineReport::Tally& tally, const LineReport& report) {
+  return tally.inLastMinute > 1 || (tally.inLastMinute == 1 && tally.lastAt > report.lastRecordAt);
+}
+
+/// Milliseconds without a record while records are asked for; 0 as long as that is nothing special.
+std::int64_t silence(const frmDSO& main, const LineReport& report) {
+  if (!main.tmDSO.enabled() || !report.noRecordSince) return 0;
+  const std::int64_t passed = main.services().clock.milliseconds() - *report.noRecordSince;
+  return passed > 3 * recordPeriod(main) ? passed : 0;
+}
+
+std::string lineTrouble(const frmDSO& main, const Words& words) {
+  const LineReport report = main.services().port.report();
+  std::string text;
+  const auto say = [&text](const std::string& sentence) {
+    text += (text.empty() ? "" : "; ") + sentence;
+  };
+  const auto times = [](const LineReport::Tally& tally) {
+    return std::to_string(tally.inLastMinute);
+  };
+  if (report.unaskedBytes.inLastMinute > 0)
+    say(words.say("Bytes that nobody asked for: %1 in a minute", {times(report.unaskedBytes)}));
+  if (isLasting(report.shortRecords, report))
+    say(words.say("Records stay short: %1 of %2 bytes came",
+                  {std::to_string(report.cameOfRecord), std::to_string(report.lengthOfRecord)}));
+  if (report.lateRecords.inLastMinute > 0)
+    say(words.say("Records that came too late: %1 in a minute", {times(report.lateRecords)}));
+  if (report.endlessReplies.inLastMinute > 0)
+    say(words.say("Answers without a line end: %1 in a minute", {times(report.endlessReplies)}));
+  if (const std::int64_t time = silence(main, report); time > 0)
+    say(words.say("No record for %1 s", {std::to_string(time / 1000)}));
+  else if (report.missingRecords.inLastMinute > 1)
+    say(words.say("Records that did not come: %1 in a minute", {times(report.missingRecords)}));
+  return text;
+}
+
+}  // namespace
+
+void showLineNotice(frmDSO& main) {
+  if (lineTrouble(main, main.services().words).empty())
+    main.status.withdraw(StatusLine::lineTrouble);
+  else if (main.status.says(StatusLine::lineTrouble))
+    main.status.tellAgain();
+  else
+    main.status.tell(StatusLine::lineTrouble,
+                     [&main](const Words& words) { return lineTrouble(main, words); });
+}
+
+}  // namespace tracewell
