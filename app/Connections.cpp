@@ -16,8 +16,12 @@ void Tracewell::connectLifecycle() {
   main.mnbClose.click = [this] { lifecycle.cmdClose_Click(); };
   main.tmDSO.timer = [this] { acquisition.tmDSO_Timer(); };
   main.tmStatus.timer = [this] {
+    exchange.lookForDoubts();
     showLineNotice(main);
     panelMarks.show();
+  };
+  main.answersDoubted = [this](std::int64_t first, std::int64_t last) {
+    measurements.doubtAnswers(first, last);
   };
   main.marksDue = [this] { panelMarks.show(); };
   main.known.changed = [this] { panelMarks.show(); };

@@ -2,6 +2,7 @@
 #include "CommandExchange.h"
 
 #include <optional>
+#include <utility>
 
 #include "Numbers.h"
 
@@ -57,10 +58,19 @@ void CommandExchange::noteFailed(const std::string& line) {
 }
 
 void CommandExchange::noteAnswered(const std::string& query, const std::string& reply) {
-  if (reply.empty())
-    main_.known.notAnswered(query);
-  else
-    main_.known.answered(query, reply);
+  if (reply.empty()) return main_.known.notAnswered(query);
+  main_.known.answered(query, reply);
+  answers_.push_back({main_.services().clock.milliseconds(), query});
+  if (answers_.size() > mostAnswers) answers_.pop_front();
+}
+
+void CommandExchange::lookForDoubts() {
+  const LineReport::Doubt doubt = main_.services().port.report().doubt;
+  if (std::exchange(doubtsSeen_, doubt.times) == doubt.times) return;
+  for (const Answer& answer : answers_)
+    if (answer.at >= doubt.firstAnswerAt && answer.at <= doubt.lastAnswerAt)
+      main_.known.notAnswered(answer.query);
+  main_.answersDoubted.raise(doubt.firstAnswerAt, doubt.lastAnswerAt);
 }
 
 std::string CommandExchange::ask(const std::string& query) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstdint>
+#include <deque>
 #include <string>
 
 #include "ErrorLog.h"
@@ -33,6 +35,9 @@ class CommandExchange {
   /// Whether the last command went out, and was answered if it was a query.
   bool wasSent() const { return wasSent_; }
 
+  /// Takes back the answers that the line has come to doubt since the last call.
+  void lookForDoubts();
+
   /// Releases the instrument's own panel if a command has locked it. Logs its failure.
   void LoadSetup();
 
@@ -50,6 +55,14 @@ class CommandExchange {
   ErrorLog& errorLog_;
   /// The instrument's own panel is locked because it has been sent a command.
   bool InRemote = false;
+  /// The newest answers, with the moment on Clock's scale; as many as a long dialog asks for.
+  struct Answer {
+    std::int64_t at;
+    std::string query;
+  };
+  static constexpr std::size_t mostAnswers = 64;
+  std::deque<Answer> answers_;
+  int doubtsSeen_ = 0;
   bool wasSent_ = false;
   /// Some of the last line may have gone out.
   bool hasBegun_ = false;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "LineNotice.h"
 
-#include "TraceAge.h"
+#include "TraceMarks.h"
 
 namespace tracewell {
 namespace {

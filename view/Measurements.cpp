@@ -133,8 +133,12 @@ int Measurements::flaggedCount(int row, std::size_t items) const {
 void Measurements::showResult(int label, int channel, const std::string& title,
                               const std::string& reply) {
   const KnownInstrument& known = main_.known;
-  results_.at(static_cast<std::size_t>(label)) =
-      Result{channel, !reply.empty(), known.presentLine(), known.now(), false};
+  results_.at(static_cast<std::size_t>(label)) = Result{channel,
+                                                        !reply.empty(),
+                                                        known.presentLine(),
+                                                        known.now(),
+                                                        main_.services().clock.milliseconds(),
+                                                        false};
   main_.lblMeasure(label).caption = title + reply;
   main_.lblMeasure(label).notifyChanged();
 }
@@ -199,6 +203,12 @@ void Measurements::measureQuickly() {
     showResult(label++, channel, std::string(FreqMeasName[item]), reply);
     main_.refresh();
   }
+}
+
+void Measurements::doubtAnswers(std::int64_t first, std::int64_t last) {
+  for (auto& result : results_)
+    if (result && result->answeredAt >= first && result->answeredAt <= last)
+      result->isAnswered = false;
 }
 
 void Measurements::fmMeasure_Copied() {

@@ -154,6 +154,8 @@ class frmDSO : public Window {
 
   /// What stands beside the values, marks and ages, is to be looked at anew.
   Event<> marksDue;
+  /// Answers that came between two moments of Clock may be those of other questions.
+  Event<std::int64_t, std::int64_t> answersDoubted;
   /// Kept apart from what the controls show: marks come of comparing the two.
   KnownInstrument known;
   std::array<Channel, 2> channels{{
