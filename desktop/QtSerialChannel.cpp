@@ -91,7 +91,8 @@ void QtSerialChannel::open(const QString& device, const LineSettings& settings) 
 
 void QtSerialChannel::watch(QSerialPort::SerialPortError error) {
   if (error == QSerialPort::NoError || error == QSerialPort::TimeoutError) return;
-  fail(port_.errorString());
+  // The system's own words are often about something else.
+  fail(QStringLiteral("the device is gone (%1)").arg(port_.errorString()));
 }
 
 }  // namespace tracewell
