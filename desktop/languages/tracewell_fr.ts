@@ -12,6 +12,10 @@
         <translation>%1 n'a pas pu être lu en entier et sera conservé sous %2</translation>
     </message>
     <message>
+        <source>%1 has lines of another program too; they are in the log now</source>
+        <translation>%1 contient aussi des lignes d'un autre programme ; elles sont maintenant dans le journal</translation>
+    </message>
+    <message>
         <source>%1 has no data</source>
         <translation>%1 ne contient aucune donnée</translation>
     </message>
@@ -22,6 +26,10 @@
     <message>
         <source>%1 holds no setup</source>
         <translation>%1 ne contient pas de réglages</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program, and that is kept as %2</source>
+        <translation>%1 a été modifié par un autre programme ; cette version est conservée sous %2</translation>
     </message>
     <message>
         <source>%1: %2 of %3 settings not confirmed</source>
@@ -688,6 +696,10 @@
         <translation>Absent : %1</translation>
     </message>
     <message>
+        <source>Nothing will be kept. %1</source>
+        <translation>Rien ne sera conservé. %1</translation>
+    </message>
+    <message>
         <source>Notice</source>
         <translation>Avis</translation>
     </message>
@@ -942,6 +954,10 @@
     <message>
         <source>There is no such port</source>
         <translation>Ce port n'existe pas</translation>
+    </message>
+    <message>
+        <source>This version has new files beside those that you have changed: %1</source>
+        <translation>Cette version a placé de nouveaux fichiers à côté de ceux que vous avez modifiés : %1</translation>
     </message>
     <message>
         <source>Time of the falling edge</source>

@@ -12,6 +12,10 @@
         <translation>%1 прочитан не полностью и будет сохранён как %2</translation>
     </message>
     <message>
+        <source>%1 has lines of another program too; they are in the log now</source>
+        <translation>В %1 есть и строки другой программы; теперь они в журнале</translation>
+    </message>
+    <message>
         <source>%1 has no data</source>
         <translation>В %1 нет данных</translation>
     </message>
@@ -22,6 +26,10 @@
     <message>
         <source>%1 holds no setup</source>
         <translation>В %1 нет настроек</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program, and that is kept as %2</source>
+        <translation>Файл %1 изменён другой программой; тот вариант сохранён как %2</translation>
     </message>
     <message>
         <source>%1: %2 of %3 settings not confirmed</source>
@@ -688,6 +696,10 @@
         <translation>Отсутствует: %1</translation>
     </message>
     <message>
+        <source>Nothing will be kept. %1</source>
+        <translation>Ничего не будет сохранено. %1</translation>
+    </message>
+    <message>
         <source>Notice</source>
         <translation>Уведомление</translation>
     </message>
@@ -942,6 +954,10 @@
     <message>
         <source>There is no such port</source>
         <translation>Такого порта нет</translation>
+    </message>
+    <message>
+        <source>This version has new files beside those that you have changed: %1</source>
+        <translation>Новые файлы этой версии лежат рядом с изменёнными вами: %1</translation>
     </message>
     <message>
         <source>Time of the falling edge</source>

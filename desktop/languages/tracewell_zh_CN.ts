@@ -12,6 +12,10 @@
         <translation>%1 未能完整读取，将保留为 %2</translation>
     </message>
     <message>
+        <source>%1 has lines of another program too; they are in the log now</source>
+        <translation>%1 中还有另一个程序写入的行，现已并入日志</translation>
+    </message>
+    <message>
         <source>%1 has no data</source>
         <translation>%1 中没有数据</translation>
     </message>
@@ -22,6 +26,10 @@
     <message>
         <source>%1 holds no setup</source>
         <translation>%1 中没有设置</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program, and that is kept as %2</source>
+        <translation>%1 已被另一个程序修改，该版本保留为 %2</translation>
     </message>
     <message>
         <source>%1: %2 of %3 settings not confirmed</source>
@@ -688,6 +696,10 @@
         <translation>不存在：%1</translation>
     </message>
     <message>
+        <source>Nothing will be kept. %1</source>
+        <translation>不会保存任何内容。%1</translation>
+    </message>
+    <message>
         <source>Notice</source>
         <translation>提示</translation>
     </message>
@@ -942,6 +954,10 @@
     <message>
         <source>There is no such port</source>
         <translation>没有这个端口</translation>
+    </message>
+    <message>
+        <source>This version has new files beside those that you have changed: %1</source>
+        <translation>此版本的新文件已放在您修改过的文件旁边：%1</translation>
     </message>
     <message>
         <source>Time of the falling edge</source>

@@ -12,6 +12,10 @@
         <translation>%1 讀唔晒，會保留做 %2</translation>
     </message>
     <message>
+        <source>%1 has lines of another program too; they are in the log now</source>
+        <translation>%1 入面仲有另一個程式寫嘅行，而家已經併入記錄</translation>
+    </message>
+    <message>
         <source>%1 has no data</source>
         <translation>%1 入面冇數據</translation>
     </message>
@@ -22,6 +26,10 @@
     <message>
         <source>%1 holds no setup</source>
         <translation>%1 入面冇設定</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program, and that is kept as %2</source>
+        <translation>%1 俾另一個程式改過，嗰個版本會保留做 %2</translation>
     </message>
     <message>
         <source>%1: %2 of %3 settings not confirmed</source>
@@ -688,6 +696,10 @@
         <translation>搵唔到：%1</translation>
     </message>
     <message>
+        <source>Nothing will be kept. %1</source>
+        <translation>乜都唔會保存。%1</translation>
+    </message>
+    <message>
         <source>Notice</source>
         <translation>提示</translation>
     </message>
@@ -942,6 +954,10 @@
     <message>
         <source>There is no such port</source>
         <translation>冇呢個連接埠</translation>
+    </message>
+    <message>
+        <source>This version has new files beside those that you have changed: %1</source>
+        <translation>呢個版本嘅新檔案已經擺喺你改過嘅檔案旁邊：%1</translation>
     </message>
     <message>
         <source>Time of the falling edge</source>
