@@ -57,6 +57,6 @@ int main(int argumentCount, char** arguments) {
   QApplication::setApplicationName(QStringLiteral("tracewell"));
   tracewell::applyTheme(application);
   application.installEventFilter(&firstFrame);
-  tracewell::DesktopProgram program(tracewell::programFolder());
+  tracewell::DesktopProgram program(tracewell::programFolder().path);
   return program.start() ? QApplication::exec() : EXIT_FAILURE;
 }

@@ -9,6 +9,7 @@ namespace tracewell {
 class DesktopDisk : public Disk {
  public:
   std::error_code flush(std::FILE& file) override;
+  void takeOwner(std::FILE& file, const std::filesystem::path& like) override;
   std::error_code flushFolder(const std::filesystem::path& folder) override;
 };
 

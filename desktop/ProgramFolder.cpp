@@ -6,10 +6,12 @@
 #include <QStandardPaths>
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 
 #include "Error.h"
 #include "Files.h"
 #include "QtValues.h"
+#include "ShippedFiles.h"
 
 namespace tracewell {
 namespace {
@@ -23,16 +25,6 @@ fs::path shippedFolder(const fs::path& executableFolder) {
   return fs::exists(installed, ignored) ? installed : executableFolder;
 }
 
-constexpr const char* versionFile = "shipped-version";
-
-bool isOfThisVersion(const fs::path& folder) {
-  try {
-    return readWholeFile(folder / versionFile, fileLimit::shippedVersion) == TRACEWELL_VERSION;
-  } catch (const Error&) {
-    return false;
-  }
-}
-
 /// What lies beside the executable of a portable program is not all a part of it.
 bool isProgramFile(const fs::path& path) {
   constexpr std::array<std::string_view, 5> kinds = {".cap", ".msg", ".dso", ".sit", ".cmd"};
@@ -40,61 +32,86 @@ bool isProgramFile(const fs::path& path) {
          std::ranges::find(kinds, path.extension().string()) != kinds.end();
 }
 
-/// The language files belong to a version of the program, everything else to the user.
-bool isLanguageFile(const fs::path& path) {
-  return path.extension() == ".cap" || path.extension() == ".msg";
-}
-
-/// Where that fails, the next start copies again.
-void noteVersion(const fs::path& folder) {
-  try {
-    writeWholeFile(folder / versionFile, TRACEWELL_VERSION);
-  } catch (const Error&) {
-  }
-}
-
-/// False when it could not be done.
-bool copyWhole(const fs::path& from, const fs::path& to) {
-  try {
-    writeWholeFile(to, readWholeFile(from, fileLimit::shipped));
-    return true;
-  } catch (const Error&) {
-    return false;
-  }
-}
-
 bool holdsProgramFiles(const fs::path& folder) {
   std::error_code ignored;
   return fs::exists(folder / "dso_la1.msg", ignored);
 }
 
+#ifdef __linux__
+
+/// As the system has it, whatever the bytes of its name.
+fs::path executableFolder() {
+  std::error_code failed;
+  const fs::path executable = fs::read_symlink("/proc/self/exe", failed);
+  return failed ? toPath(QCoreApplication::applicationDirPath()) : executable.parent_path();
+}
+
+/// Relative paths do not count there; they would mean another folder at each start.
+fs::path usersFolder() {
+  const auto folderIn = [](const char* name) {
+    const char* const value = std::getenv(name);
+    const fs::path path = value == nullptr ? "" : value;
+    return path.is_absolute() ? path : fs::path();
+  };
+  fs::path data = folderIn("XDG_DATA_HOME");
+  if (data.empty() && !folderIn("HOME").empty()) data = folderIn("HOME") / ".local" / "share";
+  if (data.empty())
+    data = toPath(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
+  return data / QCoreApplication::applicationName().toStdString();
+}
+
+#else
+
+fs::path executableFolder() {
+  return toPath(QCoreApplication::applicationDirPath());
+}
+
+fs::path usersFolder() {
+  return toPath(QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation));
+}
+
+#endif
+
 }  // namespace
 
 /// What cannot be copied is missed, and named, when it is first read.
-void fillProgramFolder(const fs::path& from, const fs::path& to) {
+std::vector<std::string> fillProgramFolder(const fs::path& from, const fs::path& to) {
   std::error_code ignored;
   fs::create_directories(to, ignored);
-  const bool isUpToDate = isOfThisVersion(to);
-  bool isComplete = true;
+  std::vector<std::string> offered;
+  ShippedFiles files(to);
   std::error_code unread;
   for (fs::directory_iterator entry(from, unread), end; !unread && entry != end;
        entry.increment(unread)) {
     std::error_code failed;
-    if (!isProgramFile(entry->path()) || !entry->is_regular_file(failed)) continue;
-    const fs::path copy = to / entry->path().filename();
-    const bool isReplaced = !isUpToDate && isLanguageFile(entry->path());
-    if (isReplaced || !fs::exists(fs::symlink_status(copy, failed)))
-      isComplete = copyWhole(entry->path(), copy) && isComplete;
+    const fs::path& path = entry->path();
+    if (!isProgramFile(path) || !entry->is_regular_file(failed)) continue;
+    const std::string name = pathText(path.filename());
+    const bool isSetup = path.extension() == ".dso";
+    if (isSetup && fs::exists(fs::symlink_status(to / name, failed))) continue;
+    try {
+      if (files.bring(name, readWholeFile(path, fileLimit::shipped)))
+        offered.push_back(name + ".new");
+    } catch (const Error&) {
+      // The user's own copy, if there is one, serves.
+    }
   }
-  if (!isUpToDate && isComplete && !unread) noteVersion(to);
+  files.keep();
+  std::ranges::sort(offered);
+  return offered;
 }
 
-fs::path programFolder() {
-  const QString own = QCoreApplication::applicationDirPath();
-  if (QFileInfo(own).isWritable() && holdsProgramFiles(toPath(own))) return toPath(own);
-  fs::path users = toPath(QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation));
-  fillProgramFolder(shippedFolder(toPath(own)), users);
-  return users;
+ProgramFolder programFolder() {
+  const fs::path own = executableFolder();
+  if (QFileInfo(toQt(own)).isWritable() && holdsProgramFiles(own)) return {own};
+  const fs::path shipped = shippedFolder(own);
+  ProgramFolder users{usersFolder()};
+  std::error_code failed;
+  fs::create_directories(users.path, failed);
+  users.offered = fillProgramFolder(shipped, users.path);
+  if (holdsProgramFiles(users.path) || !holdsProgramFiles(shipped)) return users;
+  const std::string reason = failed ? " (" + failed.message() + ")" : "";
+  return {shipped, {}, "Cannot use " + pathText(users.path) + reason};
 }
 
 }  // namespace tracewell

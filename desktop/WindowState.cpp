@@ -5,6 +5,7 @@
 #include <QRegularExpression>
 #include <QScreen>
 #include <QTimer>
+#include <fstream>
 #include <optional>
 
 #include "Error.h"
@@ -43,6 +44,13 @@ std::optional<Place> readPlace(const std::filesystem::path& file) {
   const QSize size(number(3), number(4));
   if (!found.hasMatch() || size.boundedTo(leastSize) != leastSize) return std::nullopt;
   return Place{QRect(QPoint(number(1), number(2)), size), number(5) == 1};
+}
+
+/// Its mode, which the new file would take over, would keep that from being read, too.
+void forgetUnreadable(const std::filesystem::path& file) {
+  std::error_code ignored;
+  if (std::filesystem::is_regular_file(file, ignored) && !std::ifstream(file).is_open())
+    std::filesystem::remove(file, ignored);
 }
 
 const QScreen* screenUnder(const QRect& place) {
@@ -106,6 +114,7 @@ void WindowState::keep(const QWidget& window) const {
                            .arg(inside.height())
                            .arg(isMaximised ? 1 : 0);
   try {
+    forgetUnreadable(file_);
     writeWholeFile(file_, fromQt(text));
   } catch (const Error&) {
     // The next run begins where a first one does.

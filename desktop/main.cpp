@@ -3,6 +3,7 @@
 
 #include "DesktopDisk.h"
 #include "DesktopProgram.h"
+#include "KeptFiles.h"
 #include "ProgramFolder.h"
 #include "ShownText.h"
 #include "Termination.h"
@@ -18,10 +19,13 @@ int main(int argumentCount, char** arguments) {
   tracewell::DesktopDisk disk;
   tracewell::useDisk(&disk);
 
-  tracewell::DesktopProgram program(tracewell::programFolder());
+  const tracewell::ProgramFolder folder = tracewell::programFolder();
+  tracewell::DesktopProgram program(folder.path);
   const tracewell::Termination termination([&] {
     program.dialogs.goOnAlone();
     program.program.main.closeForGood();
   });
-  return program.start() ? QApplication::exec() : EXIT_FAILURE;
+  if (!program.start()) return EXIT_FAILURE;
+  tellOfFolder(program.program.main, folder.offered, folder.failure);
+  return QApplication::exec();
 }

@@ -194,7 +194,7 @@ int main(int argumentCount, char** arguments) {
   applyTheme(application);
   keepLabelsPlain(application);
   if (words.size() < 2 || !QDir().mkpath(words[1])) return EXIT_FAILURE;
-  DesktopProgram desktop(programFolder());
+  DesktopProgram desktop(programFolder().path);
   if (!desktop.start()) return EXIT_FAILURE;
   if (words.size() > 2) desktop.program.languageMenu.mnbLA_Click(words[2].toInt());
   const QSize size =

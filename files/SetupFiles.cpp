@@ -3,6 +3,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "Files.h"
 #include "KeptFiles.h"
@@ -24,15 +25,23 @@ void fillRow(SetupTable& table, int row, std::string_view line) {
   }
 }
 
-std::string fileText(const SetupTable& table) {
+/// Up to the rows and values that a file of an earlier version has. `counts` are the file's own.
+std::string fileText(const SetupTable& table, const std::vector<std::string>& counts) {
   std::string text(leadIn);
-  for (int row = 0; row < SetupTable::fileRows; ++row) {
-    text += table.text(row, 0) + "," + table.text(row, 1);
-    const int count = table.valueCount(row);
+  for (int row = 0; row < std::ssize(counts); ++row) {
+    const std::string& number = counts[static_cast<std::size_t>(row)];
+    text += table.text(row, 0) + "," + number;
+    const int count = toInt16(number);
     for (int i = 0; i < count; ++i) text += "," + table.text(row, SetupTable::firstValue + i);
     text += lineEnd;
   }
   return text;
+}
+
+std::string fileText(const SetupTable& table) {
+  std::vector<std::string> counts;
+  for (int row = 0; row < table.fileRows(); ++row) counts.push_back(table.text(row, 1));
+  return fileText(table, counts);
 }
 
 /// Those of a line are no part of its last value.
@@ -67,29 +76,34 @@ void SetupFiles::ReadSetupFile(const std::filesystem::path& path) {
 }
 
 bool SetupFiles::loadFile(const std::filesystem::path& path) {
-  bool hasLines = false;
+  Counts counts;
   try {
-    hasLines = fillTable(path);
+    fillTable(path, counts);
   } catch (const Error&) {
-    noteWhatWasTaken(path);
+    noteWhatWasTaken(path, counts);
     throw;
   }
-  noteWhatWasTaken(path);
-  return hasLines;
+  noteWhatWasTaken(path, counts);
+  return !counts.empty();
 }
 
-void SetupFiles::noteWhatWasTaken(const std::filesystem::path& path) {
-  if (isTakenWhole(path))
+void SetupFiles::noteWhatWasTaken(const std::filesystem::path& path, const Counts& counts) {
+  if (isTakenWhole(path, counts))
     forgetFileToKeep(main_, path);
   else
     noteFileToKeep(main_, path);
 }
 
-/// Whether writing the table would give the same bytes. So it is, too, where there is no file.
-bool SetupFiles::isTakenWhole(const std::filesystem::path& path) const {
+/// Whether writing the table, as far as the version of the file knew it, would give the same bytes.
+/// So it is, too, where there is no file, or an empty one.
+bool SetupFiles::isTakenWhole(const std::filesystem::path& path, const Counts& counts) const {
   try {
     const std::string bytes = readWholeFile(path, fileLimit::setup);
-    return withoutOuterBlanks(bytes) == withoutOuterBlanks(fileText(main_.gridMeasure));
+    const bool isComplete = std::ssize(counts) >= SetupTable::firstRows &&
+                            std::ssize(counts) <= main_.gridMeasure.fileRows();
+    return bytes.empty() ||
+           (isComplete &&
+            withoutOuterBlanks(bytes) == withoutOuterBlanks(fileText(main_.gridMeasure, counts)));
   } catch (const Error& error) {
     return error.number() == fileNotFound;
   }
@@ -105,14 +119,14 @@ bool SetupFiles::isOfAnother(const std::filesystem::path& path, const std::strin
   if (!isDefault(path)) return false;
   try {
     const std::string bytes = readWholeFile(path, fileLimit::setup);
-    return bytes != known_ && bytes != text;
+    return !bytes.empty() && bytes != known_ && bytes != text;
   } catch (const Error&) {
     // What cannot be read has been noted, or is an error when it is written.
     return false;
   }
 }
 
-bool SetupFiles::fillTable(const std::filesystem::path& path) {
+void SetupFiles::fillTable(const std::filesystem::path& path, Counts& counts) {
   const std::string text = readWholeFile(path, fileLimit::setup);
   if (isDefault(path)) known_ = text;
   // The lead-in, whatever it is, belongs to no line. What follows the last line end is ignored.
@@ -120,11 +134,13 @@ bool SetupFiles::fillTable(const std::filesystem::path& path) {
   std::size_t end = text.find(lineEnd);
   if (end == 0) throw Error(invalidProcedureCall, "Tracewell", "No lead-in: " + pathText(path));
   for (int row = 0; end != std::string::npos; ++row) {
-    fillRow(main_.gridMeasure, row, trimBlanks(std::string_view(text).substr(start, end - start)));
+    SetupTable& table = main_.gridMeasure;
+    fillRow(table, row, trimBlanks(std::string_view(text).substr(start, end - start)));
+    counts.push_back(table.text(row, 1));
+    table.addNewValues(row);
     start = end + lineEnd.size();
     end = text.find(lineEnd, start);
   }
-  return start > leadIn.size();
 }
 
 StatusLine::Sentence SetupFiles::WriteSetupFile(const std::filesystem::path& path) {

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <filesystem>
+#include <string>
+#include <vector>
 
 #include "frmDSO.h"
 
@@ -34,9 +36,11 @@ class SetupFiles {
   /// Raises the reason why a part could not be read; what was taken is noted also then.
   /// Whether there was a line to take.
   bool loadFile(const std::filesystem::path& path);
-  bool fillTable(const std::filesystem::path& path);
-  void noteWhatWasTaken(const std::filesystem::path& path);
-  bool isTakenWhole(const std::filesystem::path& path) const;
+  /// The number of values that each line of a file states.
+  using Counts = std::vector<std::string>;
+  void fillTable(const std::filesystem::path& path, Counts& counts);
+  void noteWhatWasTaken(const std::filesystem::path& path, const Counts& counts);
+  bool isTakenWhole(const std::filesystem::path& path, const Counts& counts) const;
   bool isDefault(const std::filesystem::path& path) const;
   bool isOfAnother(const std::filesystem::path& path, const std::string& text) const;
 

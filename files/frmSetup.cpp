@@ -18,7 +18,7 @@ std::size_t find(const std::string& text, const char* what, std::size_t start) {
 /// bracket left goes to the front.
 std::string filledReport(std::string text, const SetupTable& table) {
   std::size_t position = find(text, "(RS)", 1);
-  for (int row = 0; row < SetupTable::fileRows; ++row) {
+  for (int row = 0; row < table.fileRows(); ++row) {
     const int count = table.valueCount(row);
     for (int i = 0; i < count; ++i) {
       const std::string& value = table.text(row, SetupTable::firstValue + i);

@@ -77,4 +77,19 @@ StatusLine::Sentence changedMeanwhile(const fs::path& path, const fs::path& asid
   };
 }
 
+void tellOfFolder(frmDSO& main, const std::vector<std::string>& newFiles,
+                  const std::string& failure) {
+  std::string names;
+  for (const std::string& name : newFiles) names += (names.empty() ? "" : ", ") + name;
+  if (!names.empty())
+    main.status.tell(StatusLine::happened, [names](const Words& words) {
+      return words.say("This version has new files beside those that you have changed: %1",
+                       {names});
+    });
+  if (!failure.empty())
+    main.status.tell(StatusLine::happened, [failure](const Words& words) {
+      return words.say("Nothing will be kept. %1", {failure});
+    });
+}
+
 }  // namespace tracewell

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <filesystem>
+#include <string>
+#include <vector>
 
 #include "frmDSO.h"
 
@@ -24,6 +26,10 @@ void keepNotedFile(frmDSO& main, const std::filesystem::path& path);
 /// What to say of a file that another program has changed since it was read, and of its new name.
 StatusLine::Sentence changedMeanwhile(const std::filesystem::path& path,
                                       const std::filesystem::path& aside);
+
+/// Of a start that has put files beside the user's own, or cannot keep anything and why.
+void tellOfFolder(frmDSO& main, const std::vector<std::string>& newFiles,
+                  const std::string& failure);
 
 /// The notice, in the language in force.
 void showFilesToKeep(frmDSO& main);

@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>%1 has lines of another program too; they are in the log now</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 contient aussi des lignes d'un autre programme ; elles sont maintenant dans le journal</translation>
     </message>
     <message>
         <source>%1 has no data</source>
@@ -29,7 +29,7 @@
     </message>
     <message>
         <source>%1 was changed by another program, and that is kept as %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 a été modifié par un autre programme ; cette version est conservée sous %2</translation>
     </message>
     <message>
         <source>%1, %2: different sweeps</source>
@@ -736,6 +736,10 @@
         <translation>Non envoyé : le texte a plus d'une ligne</translation>
     </message>
     <message>
+        <source>Nothing will be kept. %1</source>
+        <translation>Rien ne sera conservé. %1</translation>
+    </message>
+    <message>
         <source>Notice</source>
         <translation>Avis</translation>
     </message>
@@ -1006,6 +1010,10 @@
     <message>
         <source>There is no such port</source>
         <translation>Ce port n'existe pas</translation>
+    </message>
+    <message>
+        <source>This version has new files beside those that you have changed: %1</source>
+        <translation>Cette version a placé de nouveaux fichiers à côté de ceux que vous avez modifiés : %1</translation>
     </message>
     <message>
         <source>Time of the falling edge</source>

@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>%1 has lines of another program too; they are in the log now</source>
-        <translation type="unfinished"></translation>
+        <translation>В %1 есть и строки другой программы; теперь они в журнале</translation>
     </message>
     <message>
         <source>%1 has no data</source>
@@ -29,7 +29,7 @@
     </message>
     <message>
         <source>%1 was changed by another program, and that is kept as %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Файл %1 изменён другой программой; тот вариант сохранён как %2</translation>
     </message>
     <message>
         <source>%1, %2: different sweeps</source>
@@ -736,6 +736,10 @@
         <translation>Не отправлено: в тексте больше одной строки</translation>
     </message>
     <message>
+        <source>Nothing will be kept. %1</source>
+        <translation>Ничего не будет сохранено. %1</translation>
+    </message>
+    <message>
         <source>Notice</source>
         <translation>Уведомление</translation>
     </message>
@@ -1006,6 +1010,10 @@
     <message>
         <source>There is no such port</source>
         <translation>Такого порта нет</translation>
+    </message>
+    <message>
+        <source>This version has new files beside those that you have changed: %1</source>
+        <translation>Новые файлы этой версии лежат рядом с изменёнными вами: %1</translation>
     </message>
     <message>
         <source>Time of the falling edge</source>

@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>%1 has lines of another program too; they are in the log now</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 中还有另一个程序写入的行，现已并入日志</translation>
     </message>
     <message>
         <source>%1 has no data</source>
@@ -29,7 +29,7 @@
     </message>
     <message>
         <source>%1 was changed by another program, and that is kept as %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 已被另一个程序修改，该版本保留为 %2</translation>
     </message>
     <message>
         <source>%1, %2: different sweeps</source>
@@ -736,6 +736,10 @@
         <translation>未发送：文本不止一行</translation>
     </message>
     <message>
+        <source>Nothing will be kept. %1</source>
+        <translation>不会保存任何内容。%1</translation>
+    </message>
+    <message>
         <source>Notice</source>
         <translation>提示</translation>
     </message>
@@ -1006,6 +1010,10 @@
     <message>
         <source>There is no such port</source>
         <translation>没有这个端口</translation>
+    </message>
+    <message>
+        <source>This version has new files beside those that you have changed: %1</source>
+        <translation>此版本的新文件已放在您修改过的文件旁边：%1</translation>
     </message>
     <message>
         <source>Time of the falling edge</source>

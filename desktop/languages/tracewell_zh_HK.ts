@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>%1 has lines of another program too; they are in the log now</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 入面仲有另一個程式寫嘅行，而家已經併入記錄</translation>
     </message>
     <message>
         <source>%1 has no data</source>
@@ -29,7 +29,7 @@
     </message>
     <message>
         <source>%1 was changed by another program, and that is kept as %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 俾另一個程式改過，嗰個版本會保留做 %2</translation>
     </message>
     <message>
         <source>%1, %2: different sweeps</source>
@@ -736,6 +736,10 @@
         <translation>未傳送：文字多過一行</translation>
     </message>
     <message>
+        <source>Nothing will be kept. %1</source>
+        <translation>乜都唔會保存。%1</translation>
+    </message>
+    <message>
         <source>Notice</source>
         <translation>提示</translation>
     </message>
@@ -1006,6 +1010,10 @@
     <message>
         <source>There is no such port</source>
         <translation>冇呢個連接埠</translation>
+    </message>
+    <message>
+        <source>This version has new files beside those that you have changed: %1</source>
+        <translation>呢個版本嘅新檔案已經擺喺你改過嘅檔案旁邊：%1</translation>
     </message>
     <message>
         <source>Time of the falling edge</source>

@@ -1,37 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "SetupTable.h"
 
-#include <string_view>
 #include <utility>
-#include <vector>
 
 #include "Error.h"
 #include "Numbers.h"
 
 namespace tracewell {
 namespace {
-
-struct DesignRow {
-  std::string_view label;
-  std::vector<std::string_view> values;
-};
-
-/// The same rows as the setup file that comes with the program.
-const std::array<DesignRow, SetupTable::fileRows> designRows = {{
-    {"RS232", {"19200", "8", "1", "None", "0"}},
-    {"Quick measurement", {"1", "0", "0", "0", "0", "0", "0"}},
-    {"Channel 1 voltage", {"1", "0", "0", "0", "0", "0", "0", "0"}},
-    {"Channel 2 voltage", {"1", "0", "0", "0", "0", "0", "0", "0"}},
-    {"Channel 1 time", {"1", "0", "0", "0", "0", "0", "0"}},
-    {"Channel 2 time", {"1", "0", "0", "0", "0", "0", "0"}},
-    {"Acquire", {"0", "0", "0"}},
-    {"Display", {"50", "50", "0"}},
-    {"Trigger", {"0", "1", "0", "1", "0", "0"}},
-    {"Channel 1", {"1", "0", "0", "1", "0"}},
-    {"Channel 2", {"0", "0", "0", "1", "0"}},
-    {"Advanced trigger", {"0", "0", "1", "0", "0"}},
-    {"Language", {"1"}},
-}};
 
 void checkCell(int row, int column) {
   if (row < 0 || row >= SetupTable::rowCount || column < 0 || column >= SetupTable::columnCount)
@@ -40,14 +16,42 @@ void checkCell(int row, int column) {
 
 }  // namespace
 
-SetupTable::SetupTable() {
-  for (int row = 0; row < fileRows; ++row) {
-    const DesignRow& design = designRows[static_cast<std::size_t>(row)];
-    setText(row, 0, std::string(design.label));
-    setText(row, 1, std::to_string(design.values.size()));
+const std::vector<DesignRow>& SetupTable::shippedDesign() {
+  static const std::vector<DesignRow> design{
+      {"RS232", {"19200", "8", "1", "None", "0"}},
+      {"Quick measurement", {"1", "0", "0", "0", "0", "0", "0"}},
+      {"Channel 1 voltage", {"1", "0", "0", "0", "0", "0", "0", "0"}},
+      {"Channel 2 voltage", {"1", "0", "0", "0", "0", "0", "0", "0"}},
+      {"Channel 1 time", {"1", "0", "0", "0", "0", "0", "0"}},
+      {"Channel 2 time", {"1", "0", "0", "0", "0", "0", "0"}},
+      {"Acquire", {"0", "0", "0"}},
+      {"Display", {"50", "50", "0"}},
+      {"Trigger", {"0", "1", "0", "1", "0", "0"}},
+      {"Channel 1", {"1", "0", "0", "1", "0"}},
+      {"Channel 2", {"0", "0", "0", "1", "0"}},
+      {"Advanced trigger", {"0", "0", "1", "0", "0"}},
+      {"Language", {"1"}},
+  };
+  return design;
+}
+
+SetupTable::SetupTable(const std::vector<DesignRow>& design) : design_(&design) {
+  for (int row = 0; row < fileRows(); ++row) {
+    const DesignRow& designed = design[static_cast<std::size_t>(row)];
+    setText(row, 0, std::string(designed.label));
+    setText(row, 1, std::to_string(designed.values.size() + designed.added.size()));
     int column = firstValue;
-    for (const std::string_view value : design.values) setText(row, column++, std::string(value));
+    for (const auto& values : {designed.values, designed.added})
+      for (const std::string_view value : values) setText(row, column++, std::string(value));
   }
+}
+
+void SetupTable::addNewValues(int row) {
+  if (row >= fileRows()) return;
+  const DesignRow& designed = (*design_)[static_cast<std::size_t>(row)];
+  for (std::size_t i = 0; i < designed.added.size(); ++i)
+    if (text(row, 1) == std::to_string(designed.values.size() + i))
+      setText(row, 1, std::to_string(designed.values.size() + designed.added.size()));
 }
 
 const std::string& SetupTable::text(int row, int column) const {

@@ -4,19 +4,30 @@
 #include <array>
 #include <cstdint>
 #include <string>
+#include <string_view>
+#include <vector>
 
 namespace tracewell {
 
+/// A row as long as no setup file has been read. Values and whole rows may be added, at the end;
+/// those of the first version stay as they are, so that its files are known.
+struct DesignRow {
+  std::string_view label;
+  /// Of the first version; none in a row that was added.
+  std::vector<std::string_view> values;
+  std::vector<std::string_view> added = {};
+};
+
 /// Every remembered choice, as a table of text cells. A row is a group of settings: column 0 its
 /// label, column 1 the number n of its values, columns 2 to n + 1 the values. The owner of a row
-/// reads and writes the values; setup files carry rows 0 to 12.
+/// reads and writes the values; setup files carry the rows of the design.
 class SetupTable {
  public:
   static constexpr int rowCount = 32;
   static constexpr int columnCount = 32;
-  /// How many rows a setup file holds.
-  static constexpr int fileRows = 13;
   static constexpr int firstValue = 2;
+  /// How many rows a setup file of the first version holds.
+  static constexpr int firstRows = 13;
 
   enum Row : int {
     link = 0,
@@ -34,8 +45,13 @@ class SetupTable {
     language = 12,
   };
 
-  /// Filled with the values that hold as long as no setup file has been read.
-  SetupTable();
+  /// Filled with the design, which outlives the table.
+  explicit SetupTable(const std::vector<DesignRow>& design = shippedDesign());
+  /// The same rows as the setup file that comes with the program.
+  static const std::vector<DesignRow>& shippedDesign();
+
+  /// How many rows a setup file holds.
+  int fileRows() const { return static_cast<int>(design_->size()); }
 
   /// Raises "Subscript out of range" outside the table.
   const std::string& text(int row, int column) const;
@@ -45,7 +61,12 @@ class SetupTable {
   std::int16_t number(int row, int column) const;
   std::int16_t valueCount(int row) const { return number(row, 1); }
 
+  /// Gives a row that an earlier version has written the values that were added since, which keep
+  /// what they have. Any other count is the file's own.
+  void addNewValues(int row);
+
  private:
+  const std::vector<DesignRow>* design_;
   std::array<std::array<std::string, columnCount>, rowCount> cells_;
 };
 

@@ -7,7 +7,8 @@
 
 namespace tracewell {
 
-/// Waits until the disk itself holds what was written, which the standard library cannot.
+/// What the standard library cannot: waits until the disk itself holds what was written, and gives
+/// files away.
 /// Implemented by desktop/DesktopDisk.
 class Disk {
  public:
@@ -15,6 +16,10 @@ class Disk {
 
   /// The content of a file that is open for writing and has been flushed by the library.
   virtual std::error_code flush(std::FILE& file) = 0;
+  /// Of the one who runs the program for another, as an administrator: gives the file, which is
+  /// new and open for writing, to the owner of `like`, a file or a folder. Else, and where that
+  /// fails, it stays.
+  virtual void takeOwner(std::FILE& file, const std::filesystem::path& like) = 0;
   /// The names in a folder. No error where the file system has no such thing.
   virtual std::error_code flushFolder(const std::filesystem::path& folder) = 0;
 };

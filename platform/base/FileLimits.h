@@ -17,7 +17,8 @@ inline constexpr std::uintmax_t waveformData = 1024 * kibibyte;
 inline constexpr std::uintmax_t description = 256 * kibibyte;
 inline constexpr std::uintmax_t errorLog = 1024 * kibibyte;
 inline constexpr std::uintmax_t picture = kibibyte * 1024 * 32;
-inline constexpr std::uintmax_t shippedVersion = kibibyte;
+/// Far above what the names and sums of the shipped files take.
+inline constexpr std::uintmax_t shippedFiles = 64 * kibibyte;
 inline constexpr std::uintmax_t windowState = kibibyte;
 /// A `comN` that is no link to a device.
 inline constexpr std::uintmax_t portAddress = kibibyte;

@@ -98,7 +98,7 @@ class Replacement {
   Replacement(const Replacement&) = delete;
 
   void write(std::string_view bytes) {
-    takeModeOfTarget();
+    takeOwnerAndMode();
     errno = 0;
     if (std::fwrite(bytes.data(), 1, bytes.size(), file_.get()) != bytes.size() ||
         std::fflush(file_.get()) != 0)
@@ -168,10 +168,12 @@ class Replacement {
   }
 
   /// Before there is any content, so that nobody reads it who could not read the old one.
-  void takeModeOfTarget() const {
+  void takeOwnerAndMode() const {
     std::error_code failed;
     const fs::file_status old = fs::status(target_, failed);
-    if (old.type() == fs::file_type::not_found) return;
+    const bool isNew = old.type() == fs::file_type::not_found;
+    if (usedDisk != nullptr) usedDisk->takeOwner(*file_, isNew ? folder() : target_);
+    if (isNew) return;
     check(failed, pathAccess, "Cannot write");
     const fs::file_status own = fs::status(beside_, failed);
     if (!failed && old.permissions() != own.permissions())

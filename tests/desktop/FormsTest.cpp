@@ -18,7 +18,6 @@
 #include "DesktopWindows.h"
 #include "GraphView.h"
 #include "MainFormTest.h"
-#include "ProgramFolder.h"
 #include "QtValues.h"
 #include "Theme.h"
 
@@ -331,26 +330,6 @@ TEST_F(FormsTest, ListKeepsTheEntryThatTheProgramGoesBackTo) {
     EXPECT_EQ(opened, 1);
     EXPECT_EQ(window.dirCSV.chosenText(), "a");
   });
-}
-
-TEST(ProgramFolder, NewVersionBringsItsWordsAndLeavesTheRest) {
-  const ProgramFolderCopy shipped;
-  const ProgramFolderCopy parent;
-  const auto users = parent.path() / "user" / "tracewell";
-  fillProgramFolder(shipped.path(), users);
-  const std::string words = contentOf(users / "dso_la3.cap");
-  EXPECT_EQ(contentOf(users / "about.jpg"), contentOf(shipped.path() / "about.jpg"));
-  for (const char* file : {"dso_la3.cap", "default.dso", "dso.cmd"})
-    writeWholeFile(users / file, "mine");
-  std::filesystem::remove(users / "default.sit");
-  fillProgramFolder(shipped.path(), users);
-  EXPECT_EQ(contentOf(users / "dso_la3.cap"), "mine");
-  EXPECT_TRUE(std::filesystem::exists(users / "default.sit"));
-  writeWholeFile(users / "shipped-version", "0.0.1");
-  fillProgramFolder(shipped.path(), users);
-  EXPECT_EQ(contentOf(users / "dso_la3.cap"), words);
-  EXPECT_EQ(contentOf(users / "default.dso"), "mine");
-  EXPECT_EQ(contentOf(users / "dso.cmd"), "mine");
 }
 
 }  // namespace

@@ -61,6 +61,39 @@ TEST_F(SetupFilesTest, ReadingOfOddFiles) {
   EXPECT_EQ(cell(SetupTable::rowCount - 1, 0), "row");
 }
 
+/// What a later version keeps besides: a value in a row, and a row.
+TEST_F(SetupFilesTest, FilesOfEarlierVersionsAreTakenWholeAndGetWhatWasAdded) {
+  auto design = SetupTable::shippedDesign();
+  design[SetupTable::display].added = {"new", "newer"};
+  design.push_back({"Added", {}, {"7"}});
+  const fs::path setup = folder.path() / "default.dso";
+  const std::string old = contentOf(setup);
+  const auto replaced = [](std::string text, const std::string& from, const std::string& to) {
+    return text.replace(text.find(from), from.size(), to);
+  };
+  const std::string now = replaced(old, "3,50,50,0", "5,50,50,0,new,newer") + "Added,1,7\r\n";
+  const std::tuple<std::string, std::string, bool> cases[] = {
+      {old, now, true},
+      {replaced(old, "3,50,50,0", "4,50,50,0,mine"), replaced(now, "new,", "mine,"), true},
+      {now, now, true},
+      {replaced(now, "1,7", "1,8"), replaced(now, "1,7", "1,8"), true},
+      // A count of the user's own.
+      {replaced(old, "3,50,50,0", "2,50,50"), replaced(now, "5,50,50,0,new,newer", "2,50,50"),
+       true},
+      {old + "Added,1,7\r\nMore,0\r\n", now, false},
+      {old.substr(0, old.size() - 13), now, false}};
+  for (const auto& [before, after, isWhole] : cases) {
+    SCOPED_TRACE(before);
+    table = SetupTable(design);
+    writeWholeFile(setup, before);
+    program.setupFiles.ReadSetupFile(setup);
+    EXPECT_EQ(main.lblNotice.caption().empty(), isWhole);
+    program.setupFiles.WriteSetupFile(setup);
+    EXPECT_EQ(contentOf(setup), after);
+    EXPECT_EQ(fs::remove(folder.path() / "default.dso.bad"), !isWhole);
+  }
+}
+
 TEST_F(SetupFilesTest, EveryPrefixOfAFileIsReadWithoutHarm) {
   const std::string whole = contentOf(folder.path() / "default.dso");
   for (std::size_t length = 0; length <= whole.size(); ++length) {
@@ -110,7 +143,6 @@ TEST_F(SetupFilesTest, WhatCouldNotBeTakenWholeIsKept) {
   for (const char c : whole) wide += {c, '\0'};
   const Lines damaged = {lf,
                          wide,
-                         "",
                          "\r\n" + whole,
                          whole + "more,0\r\n",
                          whole.substr(0, whole.size() - 1),
@@ -135,6 +167,10 @@ TEST_F(SetupFilesTest, WhatCouldNotBeTakenWholeIsKept) {
     name = "default.dso.bad" + std::to_string(i + 2);
   }
   fs::current_path(before);
+  // There is nothing to keep of an empty one.
+  writeWholeFile(setup, "");
+  program.setupFiles.ReadSetupFile(setup);
+  EXPECT_EQ(main.lblNotice.caption(), "");
   // Blanks at the end of a line are what the user has typed behind a value; they are not taken.
   table = SetupTable();
   table.setText(SetupTable::link, 2, "7 ");

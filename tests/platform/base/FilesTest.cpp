@@ -80,6 +80,8 @@ class FullDisk : public Disk {
  public:
   std::error_code flush(std::FILE&) override { return at(isFileFailing); }
   std::error_code flushFolder(const fs::path&) override { return at(true); }
+  void takeOwner(std::FILE&, const fs::path& like) override { owners.push_back(like); }
+  std::vector<fs::path> owners;
   bool isFileFailing = true;
 
  private:
@@ -104,6 +106,7 @@ TEST_F(FilesTest, WhatADiskMayNotHoldIsSaidAndLeavesNothingBehind) {
   useDisk(nullptr);
   EXPECT_EQ(contentOf(file), "new");
   EXPECT_EQ(entries(), before);
+  EXPECT_EQ(disk.owners, (std::vector{file, file}));
 }
 
 /// A folder takes the place of the last file of a set while that is on its way.
