@@ -251,9 +251,10 @@ void Conversation::review() {
     if (2 * record_.bytes.size() < record_.count) owe();
   }
   if (state_ == State::recordHeard && isWanted_) whole_ = std::move(record_);
-  const bool isOwedOver = isOwedComing_ && now >= heardAt_ + recordDrain;
+  const bool isOwedOver = isOwedComing_ && now >= std::max(askedAt_, heardAt_) + recordDrain;
   if (state_ == State::draining && isOwedOver) {
     owedBytes_ = 0;
+    isOwedComing_ = false;
     isQuestionOwed_ = false;
   }
   state_ = State::idle;
