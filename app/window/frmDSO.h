@@ -188,7 +188,7 @@ class frmDSO : public Window {
   Timer tmDSO{*this, tickInterval};
   Timer tmTest{*this, tickInterval};
   /// What the panel says of itself is looked at anew.
-  Timer tmStatus{*this, 500};
+  Timer tmStatus{*this, 1000};
 
   /// Those that have been moved or read; the captions of the others are the caption file's.
   std::set<Slide*> slidesWithValue;

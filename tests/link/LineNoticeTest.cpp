@@ -47,7 +47,7 @@ TEST_F(LineNoticeTest, SaysWhatIsWrongOnTheLineAsLongAsItIs) {
   for (const auto& [change, expected] : cases) {
     port.lineReport = {};
     change(port.lineReport);
-    clock.run(600);
+    clock.run(1100);
     EXPECT_EQ(main.lblStatus.caption(), expected);
   }
 
