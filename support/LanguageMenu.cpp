@@ -34,7 +34,7 @@ void LanguageMenu::load(const std::string& number) {
   LoadMessages(main_);
 }
 
-/// Where the caption file has put the words of the design.
+/// Where the caption file has put the words of the form.
 void LanguageMenu::showStateAgain() {
   showMessagesAgain(main_);
   showSlideValuesAgain(main_);

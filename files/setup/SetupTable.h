@@ -20,7 +20,7 @@ struct DesignRow {
 
 /// Every remembered choice, as a table of text cells. A row is a group of settings: column 0 its
 /// label, column 1 the number n of its values, columns 2 to n + 1 the values. The owner of a row
-/// reads and writes the values; setup files carry the rows of the design.
+/// reads and writes the values; setup files carry the rows that the program begins with.
 class SetupTable {
  public:
   static constexpr int rowCount = 32;
