@@ -15,7 +15,7 @@ namespace tracewell {
 namespace {
 
 /// Milliseconds between two looks whether the wait is over.
-constexpr int interval = 5;
+constexpr int lookInterval = 5;
 
 /// A dialog's window, or a popup's; the main window has none above it.
 bool isAboveMain(const QObject* receiver) {
@@ -87,7 +87,7 @@ UserInput::UserInput(const Gate& gate, StandBy& standBy) : gate_(gate), standBy_
 /// All at once and not before the wait is over: what came later may not overtake what is kept.
 void UserInput::release() {
   if (gate_.isHeld()) {
-    QTimer::singleShot(interval, this, [this] { release(); });
+    QTimer::singleShot(lookInterval, this, [this] { release(); });
     return;
   }
   for (Kept& kept : std::exchange(kept_, {}))
@@ -121,7 +121,7 @@ void UserInput::keep(QObject* receiver, const QEvent& event) {
   const bool isMove = event.type() == QEvent::MouseMove;
   const bool isNext = !kept_.empty() && kept_.back().receiver == receiver;
   if (isMove && isNext && kept_.back().event->type() == QEvent::MouseMove) kept_.pop_back();
-  if (kept_.empty()) QTimer::singleShot(interval, this, [this] { release(); });
+  if (kept_.empty()) QTimer::singleShot(lookInterval, this, [this] { release(); });
   kept_.push_back({receiver, std::unique_ptr<QEvent>(event.clone())});
 }
 
