@@ -37,6 +37,7 @@
 #include "QtValues.h"
 #include "ShownText.h"
 #include "SlideWidget.h"
+#include "TextGrowth.h"
 #include "UnreadMark.h"
 
 namespace tracewell {
@@ -80,13 +81,14 @@ void showWith(Control& control, Object* object, Show show) {
   control.changed();
 }
 
-/// What a label on one line may take up before it would push its window off a small screen. Pixels.
+/// What a label on one line may take up before it would push its window off a small screen. Pixels,
+/// as many times as much as its font is higher.
 int widestOf(const QLabel& label) {
+  const int em = pixelsOf(label);
   const auto is = [&label](const char* kind) { return label.property(kind).toBool(); };
   if (qobject_cast<const ElidedLabel*>(&label) != nullptr) return QWIDGETSIZE_MAX;
-  if (is("state")) return 550;
-  if (is("age")) return 330;
-  return is("readout") ? 130 : 300;
+  if (is("state")) return 35 * em;
+  return (is("age") ? 30 : 25) * em;
 }
 
 template <class AnyLabel>

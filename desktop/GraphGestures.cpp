@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <qcustomplot.h>
 
+#include <QHelpEvent>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMouseEvent>
 #include <cmath>
 
 #include "Graph.h"
 #include "GraphOverlay.h"
 #include "GraphView.h"
+#include "ScaleStrip.h"
 
 /// What the mouse and the keyboard do on the graph.
 namespace tracewell {
@@ -54,13 +57,28 @@ void GraphView::dragTo(const QPointF& position) {
 }
 
 void GraphView::follow(const QMouseEvent& event) {
-  overlay_->setPointer(event.position());
+  pointer_ = event.position();
+  showValues();
   // A box that came up during the drag has had the release.
   if (!(event.buttons() & Qt::LeftButton)) grabbed_ = nullptr;
   if (grabbed_ != nullptr)
     dragTo(event.position());
   else
     showPointerShape(event.position());
+}
+
+void GraphView::showValues() {
+  if (!pointer_ || graph_ == nullptr || !graph_->valuesAt) return strip_->setValues({});
+  const QPointF units = toUnits(*pointer_);
+  strip_->setValues(graph_->valuesAt(units.x(), units.y()));
+}
+
+/// The tip would cover what is looked at: it belongs to the line below.
+bool GraphView::event(QEvent* event) {
+  if (event->type() == QEvent::FontChange) takeFont();
+  const bool isTip = event->type() == QEvent::ToolTip;
+  if (isTip && !caption_->geometry().contains(static_cast<QHelpEvent*>(event)->pos())) return true;
+  return QWidget::event(event);
 }
 
 /// Which way a line can be moved shows where it can be taken.
@@ -93,7 +111,8 @@ bool GraphView::eventFilter(QObject* watched, QEvent* event) {
       // The plot keeps what the mouse does to itself.
       return QCoreApplication::sendEvent(this, event);
     case QEvent::Leave:
-      overlay_->setPointer(std::nullopt);
+      pointer_.reset();
+      showValues();
       break;
     case QEvent::Resize:
       overlay_->setGeometry(plot_->rect());

@@ -8,16 +8,21 @@
 
 #include "Graph.h"
 #include "QtValues.h"
+#include "ScaleStrip.h"
 #include "ShownText.h"
+#include "TextGrowth.h"
 
 namespace tracewell {
 namespace {
 
 using Side = GraphMarks::Side;
 
-/// Pixels.
+/// Pixels, with a font of so many.
+constexpr qreal usualFont = 12;
 constexpr qreal flagLength = 17;
 constexpr qreal flagWidth = 14;
+/// Of its width.
+constexpr qreal tipShare = 0.43;
 constexpr qreal padding = 6;
 constexpr qreal gap = 14;
 constexpr qreal edge = 6;
@@ -25,8 +30,8 @@ constexpr qreal edge = 6;
 constexpr qreal roomOfTrigger = 26;
 /// The badge leaves it to the names of the traces.
 constexpr qreal roomOfNames = 60;
-/// Kept free at the top for the names of the cursors and the row of the scales.
-constexpr qreal roomOfRow = 34;
+/// Kept free at the top for the names of the cursors.
+constexpr qreal roomOfCursors = 20;
 /// Kept free at the bottom for the note.
 constexpr qreal roomOfNote = 26;
 constexpr qreal nearCursor = 10;
@@ -35,12 +40,12 @@ constexpr float borderShare = 0.27F;
 
 /// Points to the right, or up, or down.
 QPolygonF flagShape(const QRectF& place, Side::Direction direction) {
+  const qreal tip = qMin(place.width(), place.height()) * tipShare;
   const qreal left = place.left();
   const qreal right = place.right();
   const qreal top = place.top();
   const qreal bottom = place.bottom();
   const QPointF centre = place.center();
-  constexpr qreal tip = 6;
   switch (direction) {
     case Side::here:
       return QPolygonF({{left, top},
@@ -91,7 +96,9 @@ QString shown(const std::string& text) {
 
 }  // namespace
 
-GraphOverlay::GraphOverlay(QCustomPlot& plot) : QWidget(&plot), plot_(plot) {
+GraphOverlay::GraphOverlay(QCustomPlot& plot, ScaleStrip& strip)
+    : QWidget(&plot), plot_(plot), strip_(strip) {
+  setObjectName(QStringLiteral("marks"));
   setAttribute(Qt::WA_TransparentForMouseEvents);
   setFocusPolicy(Qt::NoFocus);
 }
@@ -106,24 +113,17 @@ void GraphOverlay::setFocusShown(bool isShown) {
   update();
 }
 
-void GraphOverlay::setPointer(const std::optional<QPointF>& position) {
-  if (position == pointer_) return;
-  pointer_ = position;
-  update();
-}
-
 void GraphOverlay::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   if (graph_ != nullptr && graph_->marks) {
     graph_->paintedMarks = graph_->marks();
     const GraphMarks& marks = graph_->paintedMarks;
+    strip_.setScales(marks.scales);
     paintNames(painter, marks.names);
     paintSides(painter, marks.sides);
-    if (graph_->enlarged()) paintScales(painter, marks.scales);
     paintBadge(painter, marks.badge);
   }
-  paintPointerValues(painter);
   if (!isFocusShown_) return;
   painter.setBrush(Qt::NoBrush);
   painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
@@ -133,13 +133,14 @@ void GraphOverlay::paintEvent(QPaintEvent*) {
 /// A flag that would cover another one stands beside it.
 QRectF GraphOverlay::flagPlace(const Side& side, const QList<QRectF>& taken) const {
   const bool isHere = side.direction == Side::here;
-  QRectF place(0, 0, isHere ? flagLength : flagWidth, isHere ? flagWidth : flagLength);
+  QRectF place(0, 0, isHere ? grown(flagLength) : grown(flagWidth),
+               isHere ? grown(flagWidth) : grown(flagLength));
   place.moveLeft(1);
   if (isHere)
-    place.moveTop(
-        qBound(1.0, toPixels(0, side.height).y() - flagWidth / 2, height() - 1.0 - flagWidth));
+    place.moveTop(qBound(1.0, toPixels(0, side.height).y() - grown(flagWidth) / 2,
+                         height() - 1.0 - grown(flagWidth)));
   else
-    place.moveTop(side.direction == Side::above ? 1 : height() - 1 - flagLength);
+    place.moveTop(side.direction == Side::above ? 1 : height() - 1 - grown(flagLength));
   for (const QRectF& other : taken)
     if (place.intersects(other)) place.moveLeft(other.right() + 2);
   return place;
@@ -148,7 +149,7 @@ QRectF GraphOverlay::flagPlace(const Side& side, const QList<QRectF>& taken) con
 void GraphOverlay::paintSides(QPainter& painter, const std::vector<Side>& sides) const {
   QFont font = this->font();
   font.setBold(true);
-  font.setPixelSize(11);
+  font.setPixelSize(qRound(grown(11)));
   painter.save();
   painter.setFont(font);
   QList<QRectF> taken;
@@ -175,38 +176,20 @@ void GraphOverlay::paintNames(QPainter& painter, const Texts& names) const {
   for (const GraphMarks::Text& name : names) {
     const Plot& plot = graph_->plot(name.plot);
     const qreal top = toPixels(0, plot.y().back()).y() - rowHeight / 2;
-    placed.push_back({{name}, qBound(roomOfRow, top, height() - rowHeight)});
+    placed.push_back({{name}, qBound(grown(roomOfCursors), top, height() - rowHeight)});
   }
   std::ranges::stable_sort(placed, {}, &Name::top);
   std::vector<qreal> tops;
   tops.reserve(placed.size());
   for (const Name& name : placed) tops.push_back(name.top);
-  spread(tops, rowHeight + 1, height() - roomOfNote);
+  spread(tops, rowHeight + 1, height() - grown(roomOfNote));
   for (std::size_t i = 0; i < placed.size(); ++i) {
     const Texts& row = placed[i].row;
     const QSizeF size = sizeOf(row);
     const qreal end = toPixels(graph_->plot(row[0].plot).x().back(), 0).x();
-    const qreal right = qMin(end, width() - roomOfTrigger);
+    const qreal right = qMin(end, width() - grown(roomOfTrigger));
     paintRow(painter, row, {QPointF(right - size.width(), tops[i]), size});
   }
-}
-
-void GraphOverlay::paintScales(QPainter& painter, const Texts& scales) const {
-  if (!scales.empty())
-    paintRow(painter, scales, {QPointF(2 * flagLength + edge, edge), sizeOf(scales)});
-}
-
-void GraphOverlay::paintPointerValues(QPainter& painter) const {
-  if (!pointer_ || graph_ == nullptr || !graph_->valuesAt) return;
-  const Texts values = graph_->valuesAt(plot_.xAxis->pixelToCoord(pointer_->x()),
-                                        plot_.yAxis->pixelToCoord(pointer_->y()));
-  if (values.empty()) return;
-  const QSizeF size = sizeOf(values);
-  QRectF place(QPointF(width() - edge - size.width(), edge), size);
-  // Not under the pointer itself.
-  if (place.adjusted(-gap, 0, 0, gap).contains(*pointer_))
-    place.moveTopLeft({2 * flagLength + edge, height() - edge - size.height()});
-  paintRow(painter, values, place);
 }
 
 void GraphOverlay::paintBadge(QPainter& painter, const Texts& lines) const {
@@ -215,14 +198,14 @@ void GraphOverlay::paintBadge(QPainter& painter, const Texts& lines) const {
   qreal widest = 0;
   for (const GraphMarks::Text& line : lines)
     widest = qMax(widest, metrics.horizontalAdvance(shown(line.text)));
-  const QSizeF size(widest + 2 * padding,
-                    metrics.height() * static_cast<qreal>(lines.size()) + padding);
+  const QSizeF size(widest + 2 * grown(padding),
+                    metrics.height() * static_cast<qreal>(lines.size()) + grown(padding));
   const QRectF place(badgePlace(size), size);
   paintGround(painter, place);
-  qreal top = place.top() + padding / 2;
+  qreal top = place.top() + grown(padding) / 2;
   for (const GraphMarks::Text& line : lines) {
     painter.setPen(colourOf(line.plot));
-    painter.drawText(QRectF(place.left() + padding, top, widest, metrics.height()),
+    painter.drawText(QRectF(place.left() + grown(padding), top, widest, metrics.height()),
                      Qt::AlignLeft | Qt::AlignVCenter, shown(line.text));
     top += metrics.height();
   }
@@ -235,37 +218,37 @@ QPointF GraphOverlay::badgePlace(const QSizeF& size) const {
   const Cursor& cur2 = graph_->cursor("cur2");
   const QPointF first = toPixels(cur1.xPosition(), cur1.yPosition());
   const QPointF second = toPixels(cur2.xPosition(), cur2.yPosition());
-  const qreal mostLeft = width() - roomOfTrigger - roomOfNames - size.width();
-  const qreal mostTop = height() - roomOfNote - size.height();
+  const qreal mostLeft = width() - grown(roomOfTrigger) - grown(roomOfNames) - size.width();
+  const qreal mostTop = height() - grown(roomOfNote) - size.height();
   if (cur1.style() == CursorStyle::verticalLine) {
-    qreal left = qMax(first.x(), second.x()) + nearCursor;
-    if (left > mostLeft) left = qMin(first.x(), second.x()) - nearCursor - size.width();
-    return {qBound(edge, left, mostLeft), roomOfRow};
+    qreal left = qMax(first.x(), second.x()) + grown(nearCursor);
+    if (left > mostLeft) left = qMin(first.x(), second.x()) - grown(nearCursor) - size.width();
+    return {qBound(edge, left, mostLeft), grown(roomOfCursors)};
   }
-  qreal top = qMax(first.y(), second.y()) + nearCursor;
-  if (top > mostTop) top = qMin(first.y(), second.y()) - nearCursor - size.height();
-  return {mostLeft, qBound(roomOfRow, top, mostTop)};
+  qreal top = qMax(first.y(), second.y()) + grown(nearCursor);
+  if (top > mostTop) top = qMin(first.y(), second.y()) - grown(nearCursor) - size.height();
+  return {mostLeft, qBound(grown(roomOfCursors), top, mostTop)};
 }
 
 QSizeF GraphOverlay::sizeOf(const Texts& row) const {
   const QFontMetricsF metrics(font());
-  qreal width = 2 * padding - gap;
+  qreal width = 2 * grown(padding) - grown(gap);
   for (const GraphMarks::Text& part : row)
-    width += metrics.horizontalAdvance(shown(part.text)) + gap;
+    width += metrics.horizontalAdvance(shown(part.text)) + grown(gap);
   return {width, metrics.height() + 4};
 }
 
 void GraphOverlay::paintRow(QPainter& painter, const Texts& row, const QRectF& place) const {
   paintGround(painter, place);
   const QFontMetricsF metrics(font());
-  qreal left = place.left() + padding;
+  qreal left = place.left() + grown(padding);
   for (const GraphMarks::Text& part : row) {
     const QString text = shown(part.text);
     const qreal width = metrics.horizontalAdvance(text);
     painter.setPen(colourOf(part.plot));
     painter.drawText(QRectF(left, place.top(), width + 1, place.height()),
                      Qt::AlignLeft | Qt::AlignVCenter, text);
-    left += width + gap;
+    left += width + grown(gap);
   }
 }
 
@@ -277,11 +260,12 @@ void GraphOverlay::paintGround(QPainter& painter, const QRectF& place) const {
   painter.fillRect(outside.adjusted(1, 1, -1, -1), ground);
 }
 
-/// The graph's own colour is readable on its ground.
 QColor GraphOverlay::colourOf(int plot) const {
-  if (plot > 0) return toQt(graph_->plot(plot).lineColour());
-  const bool isDark = toQt(graph_->plotAreaColour()).lightness() < 128;
-  return isDark ? QColor(0xe6, 0xeb, 0xef) : QColor(0x1c, 0x22, 0x28);
+  return markColour(*graph_, plot);
+}
+
+qreal GraphOverlay::grown(qreal pixels) const {
+  return pixels * pixelsOf(*this) / usualFont;
 }
 
 QPointF GraphOverlay::toPixels(double x, double y) const {

@@ -2,8 +2,6 @@
 #pragma once
 
 #include <QWidget>
-#include <functional>
-#include <optional>
 
 #include "GraphMarks.h"
 
@@ -12,21 +10,20 @@ class QCustomPlot;
 namespace tracewell {
 
 class Graph;
+class ScaleStrip;
 
-/// What the screen shows over the plot beside what belongs to the graph itself: the marks, the
-/// values under the pointer, the frame of the keyboard focus. A picture of the graph is taken while
-/// it is hidden.
+/// What the screen shows over the plot beside what belongs to the graph itself: the marks, as large
+/// as its font, and the frame of the keyboard focus. Hands the scales to the strip above the plot.
+/// A picture of the graph is taken while it is hidden.
 class GraphOverlay : public QWidget {
   Q_OBJECT
 
  public:
-  explicit GraphOverlay(QCustomPlot& plot);
+  GraphOverlay(QCustomPlot& plot, ScaleStrip& strip);
 
   /// Null for none. The graph outlives its being shown.
   void setGraph(const Graph* graph);
   void setFocusShown(bool isShown);
-  /// Where the mouse is over the plot.
-  void setPointer(const std::optional<QPointF>& position);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -36,9 +33,7 @@ class GraphOverlay : public QWidget {
 
   void paintSides(QPainter& painter, const std::vector<GraphMarks::Side>& sides) const;
   void paintNames(QPainter& painter, const Texts& names) const;
-  void paintScales(QPainter& painter, const Texts& scales) const;
   void paintBadge(QPainter& painter, const Texts& lines) const;
-  void paintPointerValues(QPainter& painter) const;
 
   QRectF flagPlace(const GraphMarks::Side& side, const QList<QRectF>& taken) const;
   QPointF badgePlace(const QSizeF& size) const;
@@ -47,12 +42,14 @@ class GraphOverlay : public QWidget {
   void paintRow(QPainter& painter, const Texts& row, const QRectF& place) const;
   void paintGround(QPainter& painter, const QRectF& place) const;
   QColor colourOf(int plot) const;
+  /// So many pixels with the usual font.
+  qreal grown(qreal pixels) const;
   QPointF toPixels(double x, double y) const;
 
   QCustomPlot& plot_;
+  ScaleStrip& strip_;
   const Graph* graph_ = nullptr;
   bool isFocusShown_ = false;
-  std::optional<QPointF> pointer_;
 };
 
 }  // namespace tracewell

@@ -3,7 +3,6 @@
 
 #include <qcustomplot.h>
 
-#include <QBoxLayout>
 #include <QLabel>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -12,7 +11,9 @@
 #include "GraphExchange.h"
 #include "GraphOverlay.h"
 #include "QtValues.h"
+#include "ScaleStrip.h"
 #include "ShownText.h"
+#include "TextGrowth.h"
 
 namespace tracewell {
 namespace {
@@ -51,14 +52,20 @@ QCPItemText* makeText(QCustomPlot* plot, const QColor& colour, Qt::Alignment ali
 }  // namespace
 
 GraphView::GraphView(QWidget* parent)
-    : QWidget(parent), plot_(new QCustomPlot(this)), caption_(new QLabel(this)) {
+    : QWidget(parent),
+      strip_(new ScaleStrip(this)),
+      plot_(new QCustomPlot(this)),
+      caption_(new QLabel(this)) {
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
-  layout->setSpacing(2);
+  layout->setSpacing(0);
+  layout->addWidget(strip_);
   layout->addWidget(plot_, 1);
   layout->addWidget(caption_);
   caption_->setAlignment(Qt::AlignCenter);
-  caption_->setObjectName(QStringLiteral("graphCaption"));
+  caption_->setContentsMargins(0, 2, 0, 0);
+  plot_->setObjectName(QStringLiteral("plot"));
+  strip_->setObjectName(QStringLiteral("scales"));
   setFocusPolicy(Qt::StrongFocus);
   plot_->setFocusPolicy(Qt::NoFocus);
   plot_->installEventFilter(this);
@@ -81,7 +88,8 @@ GraphView::GraphView(QWidget* parent)
   note_->setBrush(QColor(0, 0, 0, 170));
   note_->position->setType(QCPItemPosition::ptAxisRectRatio);
   note_->position->setCoords(0.995, 0.99);
-  overlay_ = new GraphOverlay(*plot_);
+  overlay_ = new GraphOverlay(*plot_, *strip_);
+  takeFont();
 }
 
 GraphView::~GraphView() {
@@ -107,12 +115,16 @@ void GraphView::bind(Graph& graph) {
   if (graph.letGo) graph.letGo();
   graph_ = &graph;
   overlay_->setGraph(graph_);
+  strip_->setGraph(graph_);
   exchange_ = std::make_unique<GraphExchange>(*this, graph);
   graph.letGo = [this] { unbind(); };
-  const auto dirty = [this] { markDirty(); };
-  graph.changed = [this] {
-    takeRow();
+  const auto dirty = [this] {
+    strip_->update();
     markDirty();
+  };
+  graph.changed = [this, dirty] {
+    takeWindow();
+    dirty();
   };
   for (Axis& axis : graph.axes()) axis.changed = dirty;
   for (Cursor& cursor : graph.cursors()) cursor.changed = dirty;
@@ -128,12 +140,27 @@ void GraphView::bind(Graph& graph) {
   markDirty();
 }
 
-/// A layout gives what is hidden in it its share all the same.
-void GraphView::takeRow() {
-  auto* row = window()->findChild<QBoxLayout*>(QStringLiteral("whole"));
-  if (row == nullptr) return;
-  if (besideStretch_ == 0) besideStretch_ = row->stretch(1);
-  row->setStretch(1, graph_->enlarged() ? 0 : besideStretch_);
+/// What only holds controls that are hidden would keep its share all the same.
+void GraphView::takeWindow() {
+  for (const char* holder : {"column", "command"})
+    if (auto* widget = window()->findChild<QWidget*>(QLatin1String(holder)))
+      widget->setVisible(!graph_->enlarged());
+}
+
+void GraphView::takeFont() {
+  QFont font = this->font();
+  const int pixels = pixelsOf(*this);
+  font.setPixelSize(pixels);
+  for (QCPItemText* text : {cursorItems_[0].name, cursorItems_[1].name, trigger_, note_})
+    text->setFont(font);
+  overlay_->setFont(font);
+  font.setPixelSize(pixels * 5 / 4);
+  caption_->setFont(font);
+  font.setPixelSize(pixels * 4 / 3);
+  font.setBold(true);
+  strip_->setFont(font);
+  strip_->updateGeometry();
+  if (graph_ != nullptr) markDirty();
 }
 
 void GraphView::unbind() {
@@ -141,6 +168,7 @@ void GraphView::unbind() {
   grabbed_ = nullptr;
   exchange_.reset();
   overlay_->setGraph(nullptr);
+  strip_->setGraph(nullptr);
   if (graph == nullptr) return;
   graph->changed = {};
   for (Axis& axis : graph->axes()) axis.changed = {};
@@ -167,7 +195,7 @@ QPixmap GraphView::picture() {
   overlay_->hide();
   isForPicture_ = true;
   replot();
-  QPixmap picture = grab();
+  QPixmap picture = grab(rect().adjusted(0, plot_->y(), 0, 0));
   isForPicture_ = false;
   replot();
   overlay_->show();
@@ -188,6 +216,7 @@ void GraphView::replot() {
   }
   showCursors();
   showTriggerMarker();
+  showValues();
   note_->setText(shownText(graph_->note(), roomOfLine));
   note_->setVisible(!graph_->note().empty());
   plot_->replot(QCustomPlot::rpQueuedRefresh);

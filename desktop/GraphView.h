@@ -21,12 +21,13 @@ class Graph;
 class GraphExchange;
 class GraphOverlay;
 class Plot;
+class ScaleStrip;
 
 /// Draws a Graph: a graticule of 10 by 8 divisions that stays the same in every theme, traces,
 /// cursors and the trigger marker, the x axis's caption below. The user drags the cursors, or moves
 /// the active one with the arrow keys (Shift: ten times as far); C makes the other one active. A
-/// double click or E enlarges the view and restores it. An overlay shows what is for the screen
-/// alone, and GraphExchange has to do with other programs.
+/// double click or E enlarges the view and restores it. An overlay and the strip above the plot
+/// show what is for the screen alone, and GraphExchange has to do with other programs.
 ///
 /// Changes are painted once an event-loop turn, however many they are.
 class GraphView : public QWidget {
@@ -47,6 +48,7 @@ class GraphView : public QWidget {
   QSize minimumSizeHint() const override { return {320, 240}; }
 
  protected:
+  bool event(QEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
@@ -59,7 +61,10 @@ class GraphView : public QWidget {
   };
 
   void markDirty();
-  void takeRow();
+  void takeWindow();
+  void takeFont();
+  /// Of what is under the pointer.
+  void showValues();
   void replot();
   void showAxes();
   void showTrace(Plot& plot, QCPGraph& trace, qreal lineWidth);
@@ -75,6 +80,7 @@ class GraphView : public QWidget {
   QPointF toUnits(const QPointF& position) const;
   void dragTo(const QPointF& position);
 
+  ScaleStrip* strip_;
   QCustomPlot* plot_;
   QLabel* caption_;
   GraphOverlay* overlay_ = nullptr;
@@ -84,12 +90,12 @@ class GraphView : public QWidget {
   std::array<QCPItemLine*, 2> centreLines_{};
   QCPItemText* trigger_ = nullptr;
   QCPItemText* note_ = nullptr;
-  /// Of what stands beside the graph in the main window's row; 0 until it is known.
-  int besideStretch_ = 0;
   Graph* graph_ = nullptr;
   std::unique_ptr<GraphExchange> exchange_;
   Cursor* grabbed_ = nullptr;
   std::size_t activeCursor_ = 0;
+  /// Where the mouse is over the plot.
+  std::optional<QPointF> pointer_;
   bool isDirty_ = false;
   bool isForPicture_ = false;
 };

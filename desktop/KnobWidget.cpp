@@ -50,7 +50,7 @@ qreal KnobWidget::scale() const {
 }
 
 qreal KnobWidget::radius() const {
-  return qMin(width() / 2.0 - 30 * scale(), height() / 2.0 - 14 * scale()) * 0.86;
+  return qMin(width() / 2.0 - 33 * scale(), (height() / 2.0 - 14 * scale()) * 0.86);
 }
 
 QPointF KnobWidget::gap() const {

@@ -28,7 +28,7 @@ struct GraphMarks {
   std::vector<Side> sides;
   /// Stand at the right ends of their traces.
   std::vector<Text> names;
-  /// For the larger view, where the labels that show the scales are hidden.
+  /// Of the strip above the plot, which is read from afar.
   std::vector<Text> scales;
   /// Lines of the badge beside the cursors; none while there is nothing to tell.
   std::vector<Text> badge;

@@ -50,7 +50,7 @@ class DrawingTest : public MainFormTest {
 
   void paint() {
     QTest::qWait(1);
-    picture = view.grab().toImage();
+    picture = view.grab(area.geometry()).toImage();
   }
 
   /// Ten divisions across and eight up, a margin of one pixel around them.
@@ -102,7 +102,7 @@ class DrawingTest : public MainFormTest {
   Graph& graph = main.graphDSO;
   GraphView& view = *MainFormTest::find<GraphView>("graphDSO");
   const QColor ground = toQt(graph.plotAreaColour());
-  const QWidget& area = *view.findChild<QWidget*>({}, Qt::FindDirectChildrenOnly);
+  const QWidget& area = *view.findChild<QWidget*>(QStringLiteral("plot"));
   GraphMarks marks;
   QImage picture;
 };
@@ -195,7 +195,7 @@ TEST_F(DrawingTest, NamesAndFlagsStandAtTheHeightsOfTheirTraces) {
     }
     paint();
     EXPECT_LT(find(colourOf(2)).bottom() + 3, find(colourOf(1)).top());
-    EXPECT_GT(find(colourOf(2)).top(), 34);
+    EXPECT_GT(find(colourOf(2)).top(), 20);
     EXPECT_LT(find(colourOf(1)).bottom(), area.height() - 26);
   }
   marks = {};
@@ -220,24 +220,40 @@ TEST_F(DrawingTest, NamesAndFlagsStandAtTheHeightsOfTheirTraces) {
   }
 }
 
-TEST_F(DrawingTest, ScalesOfTheLargerViewAndTheNoteStandInTheirCorners) {
+TEST_F(DrawingTest, ScalesStandAboveThePlotAndTheNoteInItsCorner) {
   const QColor noteColour(255, 171, 64);
   marks.scales = {{1, "WW"}, {2, "WW"}};
-  for (const bool isShown : {true, false}) {
-    graph.enlarged = isShown;
-    graph.note = isShown ? "NOTE" : "";
+  for (const bool isEnlarged : {true, false}) {
+    graph.enlarged = isEnlarged;
+    graph.note = "NOTE";
     paint();
-    const QRect top(0, 0, area.width(), 60);
-    const QRect one = find(colourOf(1), top);
-    const QRect two = find(colourOf(2), top);
     const QRect note = find(noteColour);
-    EXPECT_EQ(one.isValid() && two.isValid() && note.isValid(), isShown);
-    if (!isShown) continue;
-    EXPECT_LT(one.right() + 9, two.left());
-    EXPECT_TRUE(QRect(36, 0, 60, 34).contains(one));
     EXPECT_NEAR(note.right(), area.width() - 5, 6);
     EXPECT_NEAR(note.bottom(), area.height() - 8, 8);
+    const QRect strip(0, 0, area.width(), area.y());
+    picture = view.grab(strip).toImage();
+    const QRect one = find(colourOf(1), strip);
+    const QRect two = find(colourOf(2), strip);
+    EXPECT_LT(one.right() + 9, two.left());
+    EXPECT_TRUE(strip.marginsRemoved({6, 4, 0, 4}).contains(one | two));
+    EXPECT_GT(one.height(), 10);
   }
+  // Narrow, it shows the values under the pointer, which are looked at.
+  graph.valuesAt = [](double, double) { return std::vector<GraphMarks::Text>{{0, "WW"}}; };
+  const auto showsScales = [this](int width) {
+    form->resize(width, 800);
+    QApplication::processEvents();
+    QTest::mouseMove(view.findChild<QWidget*>(QStringLiteral("plot")), {50, 50});
+    QApplication::processEvents();
+    const QRect strip(0, 0, area.width(), area.y());
+    picture = view.grab(strip).toImage();
+    EXPECT_TRUE(find(QColor(0xe6, 0xeb, 0xef), strip).isValid());
+    return find(colourOf(1), strip).isValid();
+  };
+  EXPECT_TRUE(showsScales(1280));
+  marks.scales = {{1, std::string(100, 'W')}};
+  graph.notifyChanged();
+  EXPECT_FALSE(showsScales(1270));
 }
 
 TEST_F(DrawingTest, BadgeStandsBesideTheCursors) {

@@ -19,6 +19,7 @@
 #include "GraphView.h"
 #include "MainFormTest.h"
 #include "QtValues.h"
+#include "TextGrowth.h"
 #include "Theme.h"
 
 namespace tracewell {
@@ -90,6 +91,41 @@ TEST_F(FormsTest, EveryWindowFitsASmallScreenInEveryLanguageWithNothingCut) {
       EXPECT_LE(dialog.width(), 1024);
       EXPECT_LE(dialog.height(), 660);
     });
+  }
+}
+
+/// The graph has what the column of knobs leaves, and what is read from afar grows with the window.
+TEST_F(FormsTest, GraphTakesAllSpareRoomAndItsTextsGrow) {
+  main.lblStatus.caption = "Saved";
+  main.lblAge.caption = "CH1: unchanged for 12 s";
+  const auto* strip = find("graphDSO")->findChild<QWidget*>(QStringLiteral("scales"));
+  const auto* overlay = find("plot")->findChild<QWidget*>(QStringLiteral("marks"));
+  struct Case {
+    QSize size;
+    int column, scales, text;
+  };
+  for (const auto& [size, column, scales, text] :
+       {Case{{1024, 700}, 420, 16, 12}, Case{{1280, 800}, 480, 16, 12},
+        Case{{1920, 1080}, 480, 20, 16}, Case{{1920, 700}, 480, 16, 12},
+        Case{{2560, 1440}, 480, 28, 21}, Case{{3840, 2160}, 480, 40, 32}}) {
+    SCOPED_TRACE(testing::Message() << size.width() << " x " << size.height());
+    form->resize(size);
+    QApplication::processEvents();
+    EXPECT_EQ(find("central")->size(), find<QScrollArea>("view")->viewport()->size());
+    const int graph = find("graphDSO")->width();
+    EXPECT_LE(find("column")->width(), column);
+    EXPECT_EQ(graph + find("column")->width() + 30, size.width());
+    EXPECT_GE(pixelsOf(*strip), scales);
+    for (const QWidget* widget :
+         std::initializer_list<const QWidget*>{overlay, find("lblStatus"), find("lblAge")})
+      EXPECT_GE(pixelsOf(*widget), text);
+    EXPECT_EQ(cutTexts(*form), Lines());
+    EXPECT_FALSE(isShortened(*form));
+    main.graphDSO.toggleEnlarged();
+    QApplication::processEvents();
+    EXPECT_EQ(find("graphDSO")->width() + 20, size.width());
+    EXPECT_TRUE(strip->isVisible());
+    main.graphDSO.toggleEnlarged();
   }
 }
 
@@ -175,7 +211,7 @@ TEST_F(FormsTest, CursorsFollowTheMouseAndTheArrowKeys) {
   main.knobTime.turn(18);
   main.opTime.select();
   auto* view = find<GraphView>("graphDSO");
-  QWidget* plot = view->findChild<QWidget*>();
+  QWidget* plot = view->findChild<QWidget*>(QStringLiteral("plot"));
   QApplication::processEvents();
   Cursor& cur1 = main.graphDSO.cursor("cur1");
   const QPoint centre = plot->rect().center();
@@ -195,7 +231,7 @@ TEST_F(FormsTest, PicturesOfTheGraphShowNothingThatIsForTheScreen) {
   main.knobTime.turn(18);
   main.opTime.select();
   auto* view = find<GraphView>("graphDSO");
-  QWidget* plot = view->findChild<QWidget*>();
+  QWidget* plot = view->findChild<QWidget*>(QStringLiteral("plot"));
   const auto screen = [view] {
     QApplication::processEvents();
     return view->grab().toImage();

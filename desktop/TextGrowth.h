@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QObject>
+#include <QWidget>
+#include <vector>
+
+namespace tracewell {
+
+/// Height of a widget's font in pixels, however it was set.
+int pixelsOf(const QWidget& widget);
+
+/// What is read from afar is written larger in a larger window. A widget of a form says in its
+/// property "pixels" how large in a window of 1280 x 800 or less, and in "mostPixels" what it has
+/// room for. The column of knobs, "column", keeps its measure: the graph takes the rest.
+class TextGrowth : public QObject {
+ public:
+  /// Of a form that has no such widgets nothing is changed.
+  explicit TextGrowth(QWidget& form);
+
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void grow();
+  void limitColumn();
+
+  struct Text {
+    QWidget* widget;
+    int pixels;
+    int mostPixels;
+  };
+
+  QWidget& form_;
+  std::vector<Text> texts_;
+};
+
+}  // namespace tracewell
