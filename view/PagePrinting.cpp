@@ -9,7 +9,7 @@ namespace {
 /// Chan1, Chan2, Load1 to Load3; Load4 is not printed.
 constexpr int printedPlots = 5;
 /// Of two messages, one a channel.
-constexpr unsigned firstChannelName = 10;
+constexpr std::size_t firstChannelName = 10;
 
 }  // namespace
 
@@ -35,8 +35,8 @@ GraphPage PagePrinting::page() {
   std::string scales = "Volts/Div";
   for (const Channel& channel : main_.channels)
     if (channel.isDisplayed)
-      scales += " " + main_.state.Msg[firstChannelName + channel.number - 1U] + " " +
-                channel.scale.caption();
+      scales +=
+          " " + main_.state.Msg[firstChannelName + channel.index()] + " " + channel.scale.caption();
   page.captions = {scales, "SEC/Div " + main_.state.Msg[12] + " " + main_.lblTime.caption()};
   if (!main_.opOff.value()) page.captions.push_back(main_.graphDSO.axis("XAxis").caption());
   for (int number = 1; number <= printedPlots; ++number) {

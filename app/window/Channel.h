@@ -35,6 +35,8 @@ struct Channel {
   /// By how many units the trace was shifted when it was drawn: where its zero is.
   std::int16_t drawnShift = 0;
 
+  /// 0 or 1.
+  std::size_t index() const { return static_cast<std::size_t>(number - 1); }
   /// ":CHAN1:"
   std::string stem() const { return ":CHAN" + std::to_string(number) + ":"; }
 
