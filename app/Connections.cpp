@@ -22,6 +22,9 @@ void Tracewell::connectLifecycle() {
   };
   main.answersDoubted = [this](std::int64_t first, std::int64_t last) {
     measurements.doubtAnswers(first, last);
+    channelDialog.doubtAnswers();
+    trigger.doubtAnswers();
+    display.doubtAnswers();
   };
   main.marksDue = [this] { panelMarks.show(); };
   main.known.changed = [this] { panelMarks.show(); };

@@ -8,13 +8,13 @@
 namespace tracewell {
 namespace {
 
-constexpr QSizeF usualSize(1280, 800);
+constexpr QSizeF designedSize(1280, 800);
 /// Of the column, in heights of the form's font: 480 pixels in the usual one.
 constexpr int columnWidth = 40;
 
 /// A window that is only wide, or only high, has no more room for text.
 qreal growthOf(const QSizeF& window) {
-  return qMax(1.0, qMin(window.width() / usualSize.width(), window.height() / usualSize.height()));
+  return qMax(1.0, qMin(window.width() / designedSize.width(), window.height() / designedSize.height()));
 }
 
 }  // namespace

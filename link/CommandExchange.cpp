@@ -60,7 +60,7 @@ void CommandExchange::noteFailed(const std::string& line) {
 void CommandExchange::noteAnswered(const std::string& query, const std::string& reply) {
   if (reply.empty()) return main_.known.notAnswered(query);
   main_.known.answered(query, reply);
-  answers_.push_back({main_.services().clock.milliseconds(), query});
+  answers_.push_back({answeredAt_, query});
   if (answers_.size() > mostAnswers) answers_.pop_front();
 }
 
@@ -68,9 +68,9 @@ void CommandExchange::lookForDoubts() {
   const LineReport::Doubt doubt = main_.services().port.report().doubt;
   if (std::exchange(doubtsSeen_, doubt.times) == doubt.times) return;
   for (const Answer& answer : answers_)
-    if (answer.at >= doubt.firstAnswerAt && answer.at <= doubt.lastAnswerAt)
+    if (answer.at >= doubt.firstAnswerAt && answer.at <= doubt.lastAnswerAt + handingOver)
       main_.known.notAnswered(answer.query);
-  main_.answersDoubted.raise(doubt.firstAnswerAt, doubt.lastAnswerAt);
+  main_.answersDoubted.raise(doubt.firstAnswerAt, doubt.lastAnswerAt + handingOver);
 }
 
 std::string CommandExchange::ask(const std::string& query) {
@@ -113,7 +113,13 @@ std::string CommandExchange::exchange(const std::string& command) {
   hasBegun_ = true;
   port.write(command + "\r\n",
              isQuery(command) ? SerialPort::Expects::reply : SerialPort::Expects::nothing);
-  std::string reply = isQuery(command) ? replyValue(port.read()) : "";
+  std::string reply;
+  if (isQuery(command)) {
+    const std::string line = port.read();
+    // Before anything is painted: the line's own moment.
+    answeredAt_ = main_.services().clock.milliseconds();
+    reply = replyValue(line);
+  }
   port.reset();
   InRemote = true;
   main_.cmdLock.value = true;

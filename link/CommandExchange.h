@@ -35,6 +35,9 @@ class CommandExchange {
   /// Whether the last command went out, and was answered if it was a query.
   bool wasSent() const { return wasSent_; }
 
+  /// When the last answer came, on Clock's scale.
+  std::int64_t answeredAt() const { return answeredAt_; }
+
   /// Takes back the answers that the line has come to doubt since the last call.
   void lookForDoubts();
 
@@ -61,7 +64,10 @@ class CommandExchange {
     std::string query;
   };
   static constexpr std::size_t mostAnswers = 64;
+  /// Milliseconds that may pass between the line's moment of an answer and its moment here.
+  static constexpr int handingOver = 5;
   std::deque<Answer> answers_;
+  std::int64_t answeredAt_ = 0;
   int doubtsSeen_ = 0;
   bool wasSent_ = false;
   /// Some of the last line may have gone out.

@@ -12,14 +12,16 @@ void SettingsBurst::writeAndVerify(const Property<std::string>& caption,
   const Sending sending(*this, row);
   const ShortTimeOut shortTimeOut(main_);
   main_.txtMsg.text = "";
+  // A setup that is loaded meanwhile is of the next time.
+  const SetupTable chosen = main_.gridMeasure;
   const int count = static_cast<int>(stems.size());
   Inquiry inquiry(exchange_.inquiries(), caption, Inquiry::Of::settings, count - first);
   for (int i = first; i < count; ++i) {
     inquiry.next();
     bool isDone = false;
     for (int attempt = 0; attempt < attempts && !isDone; ++attempt) {
-      const bool isRight = isAccepted(std::string(stems[static_cast<std::size_t>(i)]), row,
-                                      SetupTable::firstValue + i);
+      const bool isRight = isAccepted(std::string(stems[static_cast<std::size_t>(i)]),
+                                      chosen.text(row, SetupTable::firstValue + i));
       inquiry.note(isRight);
       isDone = isRight || inquiry.isGivenUp();
     }
@@ -34,8 +36,7 @@ bool SettingsBurst::isSending(int row, const Property<std::string>& caption) con
   return true;
 }
 
-bool SettingsBurst::isAccepted(const std::string& stem, int row, int column) {
-  const std::string& value = main_.gridMeasure.text(row, column);
+bool SettingsBurst::isAccepted(const std::string& stem, const std::string& value) {
   const std::string command = stem + " " + value;
   exchange_.SendDSOCmd(command);
   echoLine(main_, command);

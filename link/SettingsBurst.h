@@ -47,7 +47,7 @@ class SettingsBurst {
 
  private:
   static constexpr int attempts = 3;
-  bool isAccepted(const std::string& stem, int row, int column);
+  bool isAccepted(const std::string& stem, const std::string& value);
 
   frmDSO& main_;
   CommandExchange& exchange_;

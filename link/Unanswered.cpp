@@ -4,6 +4,7 @@
 namespace tracewell {
 
 void Unanswered::watch(Control& control) {
+  watched_.push_back(&control);
   control.trust = [this, &control] {
     return controls_.contains(&control) ? Trust::unread : Trust::holds;
   };
@@ -16,6 +17,10 @@ void Unanswered::note(Control& control, bool isAnswered) {
   else
     controls_.insert(&control);
   control.notifyChanged();
+}
+
+void Unanswered::doubtAll() {
+  for (Control* control : watched_) note(*control, false);
 }
 
 }  // namespace tracewell

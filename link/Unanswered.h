@@ -2,6 +2,7 @@
 #pragma once
 
 #include <set>
+#include <vector>
 
 #include "Control.h"
 
@@ -17,8 +18,11 @@ class Unanswered {
   /// `control` outlives this.
   void watch(Control& control);
   void note(Control& control, bool isAnswered);
+  /// The answers may be those of other questions.
+  void doubtAll();
 
  private:
+  std::vector<Control*> watched_;
   std::set<const Control*> controls_;
 };
 

@@ -27,6 +27,10 @@ class frmChannel : public Window {
   /// Leaves the acquisition running meanwhile, and running afterwards in every case.
   void cmdCh1_Click() { editSettings(main_.channel(1)); }
   void cmdCh2_Click() { editSettings(main_.channel(2)); }
+  /// What it shows while it is open may be the answers to other questions.
+  void doubtAnswers() {
+    if (isVisible()) unanswered_.doubtAll();
+  }
 
  private:
   void editSettings(Channel& channel);

@@ -80,13 +80,14 @@ void frmDisplay::readBrightness(Slide& slide, std::size_t setting) {
 void frmDisplay::sendBrightness() {
   main_.refresh();
   const SettingsBurst::Sending sending(burst_, SetupTable::display);
+  const SetupTable chosen = main_.gridMeasure;
   const ShortTimeOut shortTimeOut(main_);
   main_.txtMsg.text = "";
   Inquiry inquiry(exchange_.inquiries(), caption, Inquiry::Of::settings, brightnessCount);
   for (std::size_t setting = 0; setting < brightnessCount; ++setting) {
     inquiry.next();
     const std::string stem(BrightQuery[setting]);
-    const std::string& value = main_.gridMeasure.text(SetupTable::display, column(setting));
+    const std::string& value = chosen.text(SetupTable::display, column(setting));
     const std::string command = std::string(stem).append(" ").append(value);
     exchange_.SendDSOCmd(command);
     Delay(main_, SettingsBurst::settlingTime);

@@ -28,6 +28,10 @@ class frmDisplay : public Window {
   Button cmdCancel{*this, "cmdCancel", "cancel"};
 
   void cmdDisplay_Click();
+  /// What it shows while it is open may be the answers to other questions.
+  void doubtAnswers() {
+    if (isVisible()) unanswered_.doubtAll();
+  }
 
  private:
   void readSettings();

@@ -29,6 +29,10 @@ class frmTrig : public Window {
   Button cmdCancel{*this, "cmdCancel", "Cancel"};
 
   void cmdTrig_Click();
+  /// What it shows while it is open may be the answers to other questions.
+  void doubtAnswers() {
+    if (isVisible()) unanswered_.doubtAll();
+  }
 
  private:
   void readSettings();

@@ -133,12 +133,8 @@ int Measurements::flaggedCount(int row, std::size_t items) const {
 void Measurements::showResult(int label, int channel, const std::string& title,
                               const std::string& reply) {
   const KnownInstrument& known = main_.known;
-  results_.at(static_cast<std::size_t>(label)) = Result{channel,
-                                                        !reply.empty(),
-                                                        known.presentLine(),
-                                                        known.now(),
-                                                        main_.services().clock.milliseconds(),
-                                                        false};
+  results_.at(static_cast<std::size_t>(label)) = Result{
+      channel, !reply.empty(), known.presentLine(), known.now(), exchange_.answeredAt(), false};
   main_.lblMeasure(label).caption = title + reply;
   main_.lblMeasure(label).notifyChanged();
 }

@@ -16,7 +16,7 @@ std::optional<double> levelHeight(const frmDSO& main) {
   const std::optional<double> source = main.known.number(Setting::triggerSource);
   if (source != 0 && source != 1) return std::nullopt;
   const Channel& channel = main.channel(source == 0 ? 1 : 2);
-  const auto volts = main.known.voltsPerDivision(channel.number);
+  const auto volts = voltsOfTrace(main, channel);
   const auto zero = zeroOf(main, channel);
   const bool isPositionKnown = main.known.isKnown(ofChannel(Setting::position1, channel.number));
   if (!level(main) || !volts || !zero || !isPositionKnown) return std::nullopt;
