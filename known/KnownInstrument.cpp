@@ -265,7 +265,8 @@ Doubt KnownInstrument::doubt(Setting setting) const {
 bool KnownInstrument::mayMoveLevel() const {
   const Entry& mode = entry(triggerMode);
   if (mode.doubt == Doubt::neverRead || !isOnPortOf(mode)) return false;
-  return mode.doubt != Doubt::none || mode.number == autoLevel;
+  const bool isAsTold = mode.doubt == Doubt::none || mode.doubt == Doubt::noAnswer;
+  return !isAsTold || mode.number == autoLevel;
 }
 
 std::optional<double> KnownInstrument::number(Setting setting) const {
