@@ -224,8 +224,11 @@ void KnownInstrument::notAnswered(std::string_view query) {
   for (const WirePart& part : wireParts(query)) {
     const std::optional<Setting> setting = askedBy(part);
     if (!setting) continue;
-    entry(*setting).doubt = Doubt::noAnswer;
     entry(*setting).line = presentLine();
+    // That it may have changed before stays true.
+    const Doubt before = entry(*setting).doubt;
+    if (before != Doubt::mayHaveChanged && before != Doubt::notSent)
+      entry(*setting).doubt = Doubt::noAnswer;
   }
   tell();
 }
