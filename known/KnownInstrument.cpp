@@ -41,16 +41,6 @@ std::optional<double> perDivision(std::optional<double> value, std::optional<dou
   return *value / *scale;
 }
 
-/// What is sure whichever of the two holds.
-MadeUnder both(const MadeUnder& a, const MadeUnder& b) {
-  const auto same = [](const auto& one, const auto& other) {
-    return one == other ? one : std::remove_cvref_t<decltype(one)>();
-  };
-  return {same(a.voltsPerDivision, b.voltsPerDivision),
-          same(a.secondsPerDivision, b.secondsPerDivision), same(a.mathEntry, b.mathEntry),
-          std::nullopt};
-}
-
 }  // namespace
 
 void KnownInstrument::sent(std::string_view command) {
@@ -64,12 +54,23 @@ void KnownInstrument::typed(std::string_view line) {
 }
 
 void KnownInstrument::notSent(std::string_view line) {
+  lockUncertain();
   for (const WirePart& part : wireParts(line)) {
     if (part.isQuery) continue;
     const WireEffect effect = effectOf(part);
     if (effect.sets) doubtful(*effect.sets, Doubt::notSent);
     for (const Setting setting : effect.touches) doubtful(setting, Doubt::notSent);
   }
+  tell();
+}
+
+/// What is sent locks, and what may have been sent may have.
+void KnownInstrument::lockUncertain() {
+  if (number(lock) != 1.0) doubtful(lock, Doubt::mayHaveChanged);
+}
+
+void KnownInstrument::requested() {
+  lockUncertain();
   tell();
 }
 
@@ -164,6 +165,7 @@ void KnownInstrument::takeSent(Setting setting, const Value& value) {
 }
 
 void KnownInstrument::take(Setting setting, Value value) {
+  leave(setting);
   Entry& taken = entry(setting);
   taken.number = value.number;
   taken.caption = std::move(value.caption);
@@ -171,7 +173,14 @@ void KnownInstrument::take(Setting setting, Value value) {
   taken.line = presentLine();
 }
 
+/// A level that has moved by itself stays where it is.
+void KnownInstrument::leave(Setting setting) {
+  if (setting == triggerMode && mayMoveLevel() && entry(triggerLevel).doubt == Doubt::none)
+    doubtful(triggerLevel, Doubt::mayHaveChanged);
+}
+
 void KnownInstrument::doubtful(Setting setting, Doubt reason) {
+  leave(setting);
   Entry& doubted = entry(setting);
   doubted.doubt = reason;
   doubted.line = presentLine();
@@ -215,8 +224,11 @@ void KnownInstrument::notAnswered(std::string_view query) {
   for (const WirePart& part : wireParts(query)) {
     const std::optional<Setting> setting = askedBy(part);
     if (!setting) continue;
-    entry(*setting).doubt = Doubt::noAnswer;
     entry(*setting).line = presentLine();
+    // That it may have changed before stays true.
+    const Doubt before = entry(*setting).doubt;
+    if (before != Doubt::mayHaveChanged && before != Doubt::notSent)
+      entry(*setting).doubt = Doubt::noAnswer;
   }
   tell();
 }
@@ -224,14 +236,22 @@ void KnownInstrument::notAnswered(std::string_view query) {
 void KnownInstrument::reading() {
   for (const Setting setting : {scale1, scale2, timeBase, position1, position2}) {
     // The values of another instrument are no longer of account.
-    if (entry(setting).line != presentLine()) entry(setting) = Entry();
+    if (entry(setting).line != presentLine()) {
+      entry(setting) = Entry();
+      entry(setting).changedAt = ++now_;
+    }
     entry(setting).doubt = Doubt::noAnswer;
     entry(setting).line = presentLine();
   }
   tell();
 }
 
-void KnownInstrument::swept(Moment requested) {
+/// An instrument that is stopped has one sweep, not two.
+void KnownInstrument::swept(int channel, Moment requested) {
+  Swept& last = swept_[static_cast<std::size_t>(channel - 1)];
+  const bool isSecond = last.line == presentLine() && last.requested >= changedAt(running);
+  if (isSecond && mayBeStopped()) take(running, {runningState, ""});
+  last = {presentLine(), requested};
   sweptAt_ = std::max(sweptAt_, requested);
 }
 
@@ -239,9 +259,17 @@ Doubt KnownInstrument::doubt(Setting setting) const {
   const Entry& asked = entry(setting);
   if (asked.doubt == Doubt::neverRead) return Doubt::neverRead;
   if (asked.line != presentLine()) return Doubt::anotherInstrument;
-  // The instrument then finds its level by itself.
-  const bool isAutomatic = setting == triggerLevel && number(triggerMode) == autoLevel;
-  return isAutomatic && asked.doubt == Doubt::none ? Doubt::mayHaveChanged : asked.doubt;
+  const bool isMoving = setting == triggerLevel && asked.doubt == Doubt::none && mayMoveLevel();
+  return isMoving ? Doubt::mayHaveChanged : asked.doubt;
+}
+
+/// In one of its modes the instrument finds its level by itself. That one is not expected before
+/// it is heard of.
+bool KnownInstrument::mayMoveLevel() const {
+  const Entry& mode = entry(triggerMode);
+  if (mode.doubt == Doubt::neverRead || !isOnPortOf(mode)) return false;
+  const bool isAsTold = mode.doubt == Doubt::none || mode.doubt == Doubt::noAnswer;
+  return !isAsTold || mode.number == autoLevel;
 }
 
 std::optional<double> KnownInstrument::number(Setting setting) const {
@@ -262,23 +290,42 @@ std::optional<double> KnownInstrument::secondsPerDivision() const {
 
 int KnownInstrument::mathChannel() const {
   const Entry& known = entry(math);
-  if (known.line != presentLine() || !known.number) return 0;
+  if (!isOnPortOf(known) || !known.number) return 0;
   return mathChannelOf(static_cast<std::size_t>(*known.number));
 }
 
+MadeUnder whicheverHolds(const MadeUnder& a, const MadeUnder& b) {
+  const auto same = [](const auto& one, const auto& other) {
+    return one == other ? one : std::remove_cvref_t<decltype(one)>();
+  };
+  return {same(a.voltsPerDivision, b.voltsPerDivision),
+          same(a.secondsPerDivision, b.secondsPerDivision), same(a.mathEntry, b.mathEntry),
+          std::nullopt};
+}
+
 KnownInstrument::Moment KnownInstrument::signalChangedAt(int channel) const {
-  return std::max({changedAt(ofChannel(scale1, channel)), changedAt(ofChannel(input1, channel)),
-                   changedAt(timeBase), changedAt(math)});
+  return std::max({changedAt(ofChannel(scale1, channel)), changedAt(ofChannel(probe1, channel)),
+                   changedAt(ofChannel(input1, channel)), changedAt(timeBase), changedAt(math)});
 }
 
 bool KnownInstrument::isStopped() const {
   return number(running) == stoppedState;
 }
 
-/// What has been changed since the last sweep that is known of may not be in it yet.
+/// It was, on this port, and has not been told to run since.
+bool KnownInstrument::mayBeStopped() const {
+  const Entry& told = entry(running);
+  return !isKnown(running) && isOnPortOf(told) && told.number == stoppedState;
+}
+
+/// What has been changed since the last sweep that is known of may not be in it yet; where it may
+/// have been stopped before, that stop counts, too.
 void KnownInstrument::stop() {
-  for (const int channel : {1, 2})
-    atStop_[static_cast<std::size_t>(channel - 1)] = settingsAt(channel, sweptAt_);
+  for (const int channel : {1, 2}) {
+    MadeUnder& frozen = atStop_[static_cast<std::size_t>(channel - 1)];
+    const MadeUnder now = settingsAt(channel, sweptAt_);
+    frozen = mayBeStopped() ? whicheverHolds(frozen, now) : now;
+  }
 }
 
 MadeUnder KnownInstrument::settingsAt(int channel, Moment moment) const {
@@ -298,7 +345,8 @@ MadeUnder KnownInstrument::madeUnder(int channel, Moment requested) const {
   if (isStopped() && changedAt(running) <= requested) frozen.stop = changedAt(running);
   if (isStopped()) return frozen;
   const MadeUnder present = settingsAt(channel, requested);
-  return changedAt(running) > requested ? both(frozen, present) : present;
+  const bool isEither = changedAt(running) > requested || mayBeStopped();
+  return isEither ? whicheverHolds(frozen, present) : present;
 }
 
 }  // namespace tracewell

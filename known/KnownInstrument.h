@@ -38,14 +38,16 @@ class KnownInstrument {
   /// The user has typed a line, and it was sent. Whether the instrument takes it nobody says, so
   /// what it sets is not known until it is read; math, Run, Stop and the lock are.
   void typed(std::string_view line);
-  /// It was begun and failed, so the instrument may have it or not.
+  /// It was begun and failed, or begun and is not over: the instrument may have it or not.
   void notSent(std::string_view line);
   void answered(std::string_view query, std::string_view reply);
   void notAnswered(std::string_view query);
   /// Scales and positions are about to be read; each is not known until its answer has come.
   void reading();
-  /// A record has come, requested at a moment, of a sweep that was not fetched before.
-  void swept(Moment requested);
+  /// A record is requested. When that goes out is the line's to decide.
+  void requested();
+  /// A record of a channel has come, requested at a moment, of a sweep that was not fetched before.
+  void swept(int channel, Moment requested);
 
   /// Told after each of these.
   std::function<void()> changed;
@@ -102,6 +104,13 @@ class KnownInstrument {
   void doubtful(Setting setting, Doubt reason);
   void followed(Setting setting);
   void stop();
+  void lockUncertain();
+  void leave(Setting setting);
+  bool mayMoveLevel() const;
+  bool mayBeStopped() const;
+  bool isOnPortOf(const Entry& told) const {
+    return told.line.portNumber == presentLine().portNumber;
+  }
   std::optional<Value> sentValue(Setting setting, const WirePart& command) const;
   std::optional<Value> toldValue(Setting setting, std::string_view reply) const;
   MadeUnder settingsAt(int channel, Moment moment) const;
@@ -113,8 +122,13 @@ class KnownInstrument {
   std::array<Entry, settingCount> entries_;
   Moment now_ = 1;
   std::optional<Line> readOn_;
-  /// The newest request behind which a new sweep has come.
+  /// The newest request behind which a new sweep has come; of a channel, and on which line.
   Moment sweptAt_ = 0;
+  struct Swept {
+    Line line;
+    Moment requested = 0;
+  };
+  std::array<Swept, 2> swept_;
   /// Under what both channels were made that a stopped instrument sends.
   std::array<MadeUnder, 2> atStop_;
 };

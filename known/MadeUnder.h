@@ -26,4 +26,7 @@ struct MadeUnder {
   bool operator==(const MadeUnder&) const = default;
 };
 
+/// What is sure whichever of the two holds.
+MadeUnder whicheverHolds(const MadeUnder& a, const MadeUnder& b);
+
 }  // namespace tracewell

@@ -94,8 +94,8 @@ WireEffect effectOf(const WirePart& command) {
   return {{}, everything()};
 }
 
-std::optional<Setting> askedBy(const WirePart& query) {
-  return settingIn(settingHeaders, query.header);
+std::optional<Setting> askedBy(const WirePart& part) {
+  return part.isQuery ? settingIn(settingHeaders, part.header) : std::nullopt;
 }
 
 std::optional<Setting> dependentOn(Setting setting) {

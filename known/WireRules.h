@@ -34,8 +34,8 @@ struct WireEffect {
 /// A command that is not in the tables may change anything.
 WireEffect effectOf(const WirePart& command);
 
-/// The setting that a query asks for.
-std::optional<Setting> askedBy(const WirePart& query);
+/// The setting that a query asks for; none for a command.
+std::optional<Setting> askedBy(const WirePart& part);
 
 /// What a change of a setting changes, too: a probe the scale, and a scale the divisions of what
 /// the instrument keeps in volts and seconds, position and delay.

@@ -40,6 +40,7 @@ void Acquisition::AcqDSO(std::int16_t channel) {
     port.write(":ACQ" + std::to_string(channel) + ":POIN\r\n", SerialPort::Expects::record);
     port.tag = std::to_string(channel);
     port.stamp = main_.known.now();
+    main_.known.requested();
     port.beginRead(WaveformRecord::byteCount);
     PortBusy = true;
   } catch (const Error& error) {
@@ -79,8 +80,12 @@ void Acquisition::keepRecord(Channel& channel, const std::string& data) {
     record.madeUnder.stop = made.stop;
     return;
   }
+  // On another line the same bytes may be of the same sweep, too.
+  if (record.bytes == data)
+    made = whicheverHolds(made, record.madeUnder);
+  else
+    main_.known.swept(channel.number, port.stamp);
   record = {data, line, made, now, now};
-  main_.known.swept(port.stamp);
 }
 
 void Acquisition::StopAcq() {

@@ -34,7 +34,7 @@ std::string CommandExchange::SendDSOCmd(const std::string& command) {
   return reply;
 }
 
-/// A line that ends as a query may hold commands, too.
+/// A line that ends as a query may hold commands, too; that it went out is sure with its answer.
 std::string CommandExchange::sendTyped(const std::string& line) {
   std::string reply = transfer(line);
   if (wasSent_)
@@ -111,6 +111,8 @@ std::string CommandExchange::exchange(const std::string& command) {
   hasBegun_ = false;
   port.prepare();
   hasBegun_ = true;
+  // Until it is answered it may have gone out or not.
+  if (isQuery(command)) main_.known.notSent(command);
   port.write(command + "\r\n",
              isQuery(command) ? SerialPort::Expects::reply : SerialPort::Expects::nothing);
   std::string reply;

@@ -76,8 +76,8 @@ std::optional<double> secondsOfTraces(const frmDSO& main) {
 
 std::optional<double> zeroOf(const frmDSO& main, const Channel& channel) {
   if (hasTrace(channel)) return channel.drawnShift;
-  if (!main.known.isKnown(ofChannel(Setting::position1, channel.number))) return std::nullopt;
-  return channel.position * Graph::unitsPerDivision;
+  const auto position = main.known.number(ofChannel(Setting::position1, channel.number));
+  return position ? std::optional(*position * Graph::unitsPerDivision) : std::nullopt;
 }
 
 std::int64_t recordPeriod(const frmDSO& main) {

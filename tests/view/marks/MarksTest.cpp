@@ -56,7 +56,7 @@ TEST_F(MarksTest, MarksTellWhatIsKnownOfDisplayedTraces) {
   EXPECT_EQ(graph.marks().sides, (std::vector<Side>{zero, {1, Side::above, 250, "1"}}));
   EXPECT_EQ(graph.marks().scales, (Texts{{1, "CH1 500.0 mV"}, {0, "500.0 us"}}));
   EXPECT_EQ(graph.valuesAt(25, 125), (Texts{{1, "500 mV"}, {0, "250 us"}}));
-  main.Ch1Pos = -4.5;
+  main.known.sent(":CHAN1:OFFS -2.25");
   EXPECT_EQ(graph.marks().sides[0].direction, Side::below);
 
   main.opVoltage.select();
