@@ -14,7 +14,8 @@ constexpr int columnWidth = 40;
 
 /// A window that is only wide, or only high, has no more room for text.
 qreal growthOf(const QSizeF& window) {
-  return qMax(1.0, qMin(window.width() / designedSize.width(), window.height() / designedSize.height()));
+  return qMax(1.0,
+              qMin(window.width() / designedSize.width(), window.height() / designedSize.height()));
 }
 
 }  // namespace

@@ -15,7 +15,11 @@ using enum Setting;
 
 constexpr double stoppedState = 0;
 constexpr double runningState = 1;
+/// Modes of the trigger. From normalMode on the instrument sweeps when there is a trigger, else
+/// freely.
 constexpr double autoLevel = 0;
+constexpr double normalMode = 2;
+constexpr double singleMode = 3;
 
 bool isScale(Setting setting) {
   return setting == scale1 || setting == scale2 || setting == timeBase;
@@ -58,6 +62,7 @@ void KnownInstrument::notSent(std::string_view line) {
   for (const WirePart& part : wireParts(line)) {
     if (part.isQuery) continue;
     const WireEffect effect = effectOf(part);
+    if (effect.isUnknown || effect.sets == math) mathMayBeOn_ = true;
     if (effect.sets) doubtful(*effect.sets, Doubt::notSent);
     for (const Setting setting : effect.touches) doubtful(setting, Doubt::notSent);
   }
@@ -80,13 +85,21 @@ void KnownInstrument::obey(const WirePart& command, bool isTrusted) {
   if (command.isQuery) return;
   const WireEffect effect = effectOf(command);
   for (const Setting setting : effect.touches) doubtful(setting, Doubt::mayHaveChanged);
+  if (effect.isUnknown) mathMayBeOn_ = true;
   if (!effect.sets) return;
   const Setting setting = *effect.sets;
   const bool isPlain = setting == math || setting == running || setting == lock;
   const auto value = isTrusted || isPlain ? sentValue(setting, command) : std::nullopt;
-  if (!value) return doubtful(setting, Doubt::mayHaveChanged);
+  if (!value) return leaveOpen(setting, command);
   if (setting == running && value->number == stoppedState && !isStopped()) stop();
   takeSent(setting, *value);
+}
+
+/// What it may be now counts where it makes a difference to records.
+void KnownInstrument::leaveOpen(Setting setting, const WirePart& command) {
+  doubtful(setting, Doubt::mayHaveChanged);
+  if (setting == math) mathMayBeOn_ = true;
+  if (setting == triggerMode) entry(setting).number = plainNumber(command.argument);
 }
 
 std::optional<KnownInstrument::Value> KnownInstrument::sentValue(Setting setting,
@@ -166,6 +179,7 @@ void KnownInstrument::takeSent(Setting setting, const Value& value) {
 
 void KnownInstrument::take(Setting setting, Value value) {
   leave(setting);
+  if (setting == math) mathMayBeOn_ = false;
   Entry& taken = entry(setting);
   taken.number = value.number;
   taken.caption = std::move(value.caption);
@@ -195,9 +209,12 @@ void KnownInstrument::followed(Setting setting) {
     doubtful(*dependent, Doubt::mayHaveChanged);
 }
 
+/// Of several questions in a line nobody knows which one is answered.
 void KnownInstrument::answered(std::string_view query, std::string_view reply) {
   takeSent(lock, {1.0, ""});
-  for (const WirePart& part : wireParts(query)) {
+  const std::vector<WirePart> parts = wireParts(query);
+  if (std::ranges::count(parts, true, &WirePart::isQuery) != 1) return notAnswered(query);
+  for (const WirePart& part : parts) {
     const std::optional<Setting> setting = askedBy(part);
     if (!setting || *setting == math || *setting == running || *setting == lock) continue;
     const std::optional<Value> value = toldValue(*setting, reply);
@@ -248,6 +265,7 @@ void KnownInstrument::reading() {
 
 /// An instrument that is stopped has one sweep, not two.
 void KnownInstrument::swept(int channel, Moment requested) {
+  if (isStopped() || requested < changedAt(running)) return;
   Swept& last = swept_[static_cast<std::size_t>(channel - 1)];
   const bool isSecond = last.line == presentLine() && last.requested >= changedAt(running);
   if (isSecond && mayBeStopped()) take(running, {runningState, ""});
@@ -259,6 +277,10 @@ Doubt KnownInstrument::doubt(Setting setting) const {
   const Entry& asked = entry(setting);
   if (asked.doubt == Doubt::neverRead) return Doubt::neverRead;
   if (asked.line != presentLine()) return Doubt::anotherInstrument;
+  // After one sweep it stops itself.
+  const bool isOver = setting == running && asked.doubt == Doubt::none &&
+                      asked.number == runningState && entry(triggerMode).number == singleMode;
+  if (isOver) return Doubt::mayHaveChanged;
   const bool isMoving = setting == triggerLevel && asked.doubt == Doubt::none && mayMoveLevel();
   return isMoving ? Doubt::mayHaveChanged : asked.doubt;
 }
@@ -334,17 +356,27 @@ MadeUnder KnownInstrument::settingsAt(int channel, Moment moment) const {
   };
   MadeUnder made{since(ofChannel(scale1, channel)), since(timeBase), std::nullopt, std::nullopt};
   const bool isMath = mathChannel() == channel;
-  if (isMath || changedAt(math) > moment) made.voltsPerDivision.reset();
+  if (isMath || mathMayBeOn_ || changedAt(math) > moment) made.voltsPerDivision.reset();
   if (isMath && isKnown(math) && changedAt(math) <= moment)
     made.mathEntry = static_cast<int>(*number(math));
   return made;
+}
+
+/// Since when a sweep that is new is sure to be: one that sweeps freely has swept behind the
+/// request, one that waits for its trigger since the sweep before.
+KnownInstrument::Moment KnownInstrument::sweptSince(int channel) const {
+  const Entry& mode = entry(triggerMode);
+  const bool waits = isOnPortOf(mode) && mode.number >= normalMode;
+  if (!waits) return now_;
+  const Swept& last = swept_[static_cast<std::size_t>(channel - 1)];
+  return last.line == presentLine() ? last.requested : 0;
 }
 
 MadeUnder KnownInstrument::madeUnder(int channel, Moment requested) const {
   MadeUnder frozen = atStop_[static_cast<std::size_t>(channel - 1)];
   if (isStopped() && changedAt(running) <= requested) frozen.stop = changedAt(running);
   if (isStopped()) return frozen;
-  const MadeUnder present = settingsAt(channel, requested);
+  const MadeUnder present = settingsAt(channel, std::min(requested, sweptSince(channel)));
   const bool isEither = changedAt(running) > requested || mayBeStopped();
   return isEither ? whicheverHolds(frozen, present) : present;
 }

@@ -106,6 +106,7 @@ class KnownInstrument {
   void stop();
   void lockUncertain();
   void leave(Setting setting);
+  void leaveOpen(Setting setting, const WirePart& command);
   bool mayMoveLevel() const;
   bool mayBeStopped() const;
   bool isOnPortOf(const Entry& told) const {
@@ -114,6 +115,7 @@ class KnownInstrument {
   std::optional<Value> sentValue(Setting setting, const WirePart& command) const;
   std::optional<Value> toldValue(Setting setting, std::string_view reply) const;
   MadeUnder settingsAt(int channel, Moment moment) const;
+  Moment sweptSince(int channel) const;
   void tell() const {
     if (changed) changed();
   }
@@ -129,6 +131,8 @@ class KnownInstrument {
     Moment requested = 0;
   };
   std::array<Swept, 2> swept_;
+  /// Something may have switched it on, and nobody knows for which channel.
+  bool mathMayBeOn_ = false;
   /// Under what both channels were made that a stopped instrument sends.
   std::array<MadeUnder, 2> atStop_;
 };

@@ -33,6 +33,9 @@ constexpr std::array touchingHeaders = {
     HeaderRule{"CHAN1:INV", input1},  HeaderRule{"CHAN2:INV", input2},
     HeaderRule{"CHAN1:BWL", input1},  HeaderRule{"CHAN2:BWL", input2}};
 
+/// Commands that set up everything anew. They leave no math on.
+constexpr std::array<std::string_view, 2> resettingHeaders = {"AUT", "*RST"};
+
 /// Commands that leave alone what the panel shows, by how they begin.
 constexpr std::array<std::string_view, 14> harmlessBeginnings = {
     "ACQ:",      "ACQ1:",    "ACQ2:",     "DISP:",     "MEAS:", "SIM:", "TRIG:SLOP",
@@ -85,13 +88,16 @@ std::vector<WirePart> wireParts(std::string_view line) {
 }
 
 WireEffect effectOf(const WirePart& command) {
-  if (const auto setting = settingIn(settingHeaders, command.header)) return {setting, {}};
-  if (const auto touched = settingIn(touchingHeaders, command.header)) return {{}, {*touched}};
+  if (const auto setting = settingIn(settingHeaders, command.header)) return {setting, {}, false};
+  if (const auto touched = settingIn(touchingHeaders, command.header))
+    return {{}, {*touched}, false};
   const auto isItsBeginning = [&](std::string_view beginning) {
     return command.header.starts_with(beginning);
   };
   if (std::ranges::any_of(harmlessBeginnings, isItsBeginning)) return {};
-  return {{}, everything()};
+  const bool isKnown =
+      std::ranges::find(resettingHeaders, command.header) != resettingHeaders.end();
+  return {{}, everything(), !isKnown};
 }
 
 std::optional<Setting> askedBy(const WirePart& part) {

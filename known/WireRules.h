@@ -29,6 +29,8 @@ std::vector<WirePart> wireParts(std::string_view line);
 struct WireEffect {
   std::optional<Setting> sets;
   std::vector<Setting> touches;
+  /// It is in no table.
+  bool isUnknown = false;
 };
 
 /// A command that is not in the tables may change anything.

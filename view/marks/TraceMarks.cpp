@@ -43,10 +43,11 @@ std::string traceAge(const frmDSO& main, const Channel& channel) {
   if (!isOfThisLine(main, channel)) return words.say("%1: no record yet", {name});
   const std::int64_t seconds = (now(main) - channel.record.sweepAt) / 1000;
   if (isOld(main, channel) || !main.tmDSO.enabled()) return ageText(words, name, seconds);
-  // Nothing new comes of an instrument that was stopped.
-  const bool isUnchanged = channel.record.sweepAt != channel.record.fetchedAt ||
-                           channel.record.madeUnder.stop.has_value();
-  return isUnchanged ? unchangedText(words, name, seconds) : words.say("%1: live", {name});
+  if (channel.record.sweepAt != channel.record.fetchedAt)
+    return unchangedText(words, name, seconds);
+  // Nothing live comes of an instrument that was stopped.
+  return channel.record.madeUnder.stop ? ageText(words, name, seconds)
+                                       : words.say("%1: live", {name});
 }
 
 }  // namespace
