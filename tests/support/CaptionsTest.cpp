@@ -55,32 +55,6 @@ TEST_F(CaptionsTest, ShippedFilesNameEveryWindowAndControlInOrder) {
   }
 }
 
-TEST_F(CaptionsTest, LanguageChangesEveryWindowAndKeepsWhatIsShown) {
-  start();
-  main.mnbLA2.choose();
-  EXPECT_EQ(main.lblConnect.caption(), main.state.Msg[1]);
-  port.answerLikeAnInstrument();
-  main.cmdStart.press();
-  main.cmdRunStop.press();
-  main.slideCH1.drag(-1.5);
-  main.mnbLA3.choose();
-  EXPECT_EQ(main.gridMeasure.text(12, 2), "3");
-  EXPECT_TRUE(main.mnbLA3.isChecked());
-  EXPECT_FALSE(main.mnbLA1.isChecked());
-  EXPECT_EQ(program.trigger.cmdCancel.caption(), "Annuler");
-  EXPECT_EQ(main.mnbFile.caption(), "Fichier");
-  EXPECT_EQ(main.lblConnect.caption(), main.state.Msg[7]);
-  EXPECT_EQ(main.cmdStart.caption(), "Arrêter");
-  EXPECT_EQ(main.slideCH1.caption(), "Position voie 1 : -1.50 Div");
-  // Through languages whose words for two states are alike.
-  for (MenuEntry* language : {&main.mnbLA4, &main.mnbLA2, &main.mnbLA1}) language->choose();
-  EXPECT_EQ(main.slideCH2.caption(), "Channel Two Position : -2.00 Div");
-  EXPECT_EQ(main.slideTime.caption(), "Time Position : 0.00 Div");
-  port.wire.clear();
-  main.cmdRunStop.press();
-  EXPECT_EQ(port.wire, Lines{":Run"});
-}
-
 TEST_F(CaptionsTest, DumpedSectionIsACaptionFileOfItsWindow) {
   start();
   program.rs232.lblRS232(0).caption = "A, b";

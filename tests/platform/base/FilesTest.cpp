@@ -197,31 +197,4 @@ TEST_F(FilesTest, LongLogIsKeptOnceAndItsNewestHalfReadAndWritten) {
   EXPECT_FALSE(fs::exists(folder.path() / "dso.err.bad2"));
 }
 
-/// Another program has the same folder.
-TEST_F(FilesTest, LogOfTwoProgramsHasTheLinesOfBoth) {
-  const fs::path file = folder.path() / "dso.err";
-  TextBox& box = program.errLog.txtErrLog;
-  writeWholeFile(file, "old\r\n");
-  program.start();
-  main.mnbErrLog.choose();
-  box.text = box.text() + "first\r\n";
-  writeWholeFile(file, "old\r\nanother's\r\n");
-  for (const char* more : {"", "second\r\n"}) {
-    box.text = box.text() + more;
-    program.errLog.cmdClose.press();
-    EXPECT_EQ(contentOf(file), std::string("old\r\nanother's\r\nfirst\r\n") + more);
-    EXPECT_EQ(contentOf(file), box.text());
-    EXPECT_EQ(main.lblStatus.caption(),
-              "dso.err has lines of another program too; they are in the log now");
-  }
-  // Cleared is what the user saw.
-  writeWholeFile(file, "unseen\r\n");
-  program.errLog.cmdClear.press();
-  program.errLog.cmdClose.press();
-  EXPECT_EQ(contentOf(file), "");
-  EXPECT_EQ(contentOf(folder.path() / "dso.err.bad"), "unseen\r\n");
-  EXPECT_EQ(main.lblStatus.caption(),
-            "dso.err was changed by another program, and that is kept as dso.err.bad");
-}
-
 }  // namespace tracewell
