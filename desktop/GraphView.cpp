@@ -233,6 +233,8 @@ void GraphView::showAxes() {
   plot_->yAxis->grid()->setZeroLinePen(QPen(toQt(y.gridColour()).lighter(170), 1));
   plot_->setBackground(QBrush(toQt(graph_->plotAreaColour())));
   showInLabel(*caption_, x.caption(), qMax(width(), minimumSizeHint().width()));
+  graph_->axis("XAxis").isPaintedPale = x.isPale();
+  caption_->setEnabled(!x.isPale());
   // Small ticks along the centre lines: a dotted line five units wide each way.
   const QPen ticks(toQt(x.gridColour()).lighter(170), 5, Qt::CustomDashLine, Qt::FlatCap);
   const std::array<std::array<double, 4>, 2> ends = {

@@ -6,8 +6,10 @@
 namespace tracewell {
 namespace {
 
-/// Whether it has happened again and again, or nothing else has since.
-bool isLasting(const LineReport::Tally& tally, const LineReport& report) {
+/// Whether it has happened again and again, or nothing else has since; not long ago.
+bool isLasting(const LineReport::Tally& tally, const LineReport& report, std::int64_t now) {
+  constexpr std::int64_t longAgo = 15000;
+  if (tally.lastAt && now - *tally.lastAt > longAgo) return false;
   return tally.inLastMinute > 1 || (tally.inLastMinute == 1 && tally.lastAt > report.lastRecordAt);
 }
 
@@ -29,7 +31,7 @@ std::string lineTrouble(const frmDSO& main, const Words& words) {
   };
   if (report.unaskedBytes.inLastMinute > 0)
     say(words.say("Bytes that nobody asked for: %1 in a minute", {times(report.unaskedBytes)}));
-  if (isLasting(report.shortRecords, report))
+  if (isLasting(report.shortRecords, report, main.services().clock.milliseconds()))
     say(words.say("Records stay short: %1 of %2 bytes came",
                   {std::to_string(report.cameOfRecord), std::to_string(report.lengthOfRecord)}));
   if (report.lateRecords.inLastMinute > 0)

@@ -198,6 +198,7 @@ std::map<std::string, std::string> Played::shownBy(Window& window) {
     for (const GraphMarks::Text& value : main.graphDSO.valuesAt(50, 50))
       shown["pointer"] += value.text + " ";
   }
+  if (isTruthTold_ && main.graphDSO.axis("XAxis").isPale()) shown["XAxis"] += " pale";
   for (const int number : {1, 2})
     if (isTruthTold_ && main.graphDSO.plot(number).isPale())
       shown["old" + std::to_string(number)] = "";

@@ -58,6 +58,12 @@ class Axis : public Observable {
  public:
   Axis(std::string_view axisName, double low, double high);
   const std::string& name() const { return name_; }
+  /// Asked whenever the caption is painted: what it says is counted in a scale that is not the
+  /// traces'. The view shows it pale.
+  std::function<bool()> pale;
+  bool isPale() const { return pale && pale(); }
+  /// How the view has painted it last; the view's.
+  bool isPaintedPale = false;
   Property<std::string> caption{*this};
   Property<Colour> gridColour;
   Property<bool> visible{*this, true};

@@ -63,7 +63,7 @@ class CopyTest : public MainFormTest {
 TEST_F(CopyTest, KeyAndMenuCopyWhatIsShown) {
   QWidget& graph = *find("graphDSO");
   QTest::keyClick(&graph, Qt::Key_C, Qt::ControlModifier);
-  EXPECT_TRUE(content().text().startsWith("Time (s)\tCH1 (V)\n-0.0025\t0\n"));
+  EXPECT_TRUE(content().text().startsWith("Time (div)\tCH1 (div)\n-5\t0\n"));
   EXPECT_EQ(qvariant_cast<QImage>(content().imageData()).pixelColor(0, 0), QColor('g', 'r', 'a'));
   for (const int entry : {0, 1, 2}) chooseInMenuOf(graph, entry);
   main.lblMeasure(0).caption = "Freq1.000 kHz";

@@ -57,6 +57,7 @@ PanelMarks::PanelMarks(frmDSO& main) : main_(main) {
   main.cmdRunStop.trust = [&main, asked = main.cmdRunStop.trust] {
     return main.shownMessages.cmdRunStop == 0 ? Trust::holds : asked();
   };
+  main.graphDSO.axis("XAxis").pale = [&main] { return isReadoutPale(main); };
   main.graphDSO.marks = [&main] { return screenMarks(main); };
   main.graphDSO.valuesAt = [&main](double x, double y) { return valuesAt(main, x, y); };
 }
@@ -110,6 +111,8 @@ void PanelMarks::showTraces() {
   main_.graphDSO.note = simulatedNote(main_);
   for (const Channel& channel : main_.channels)
     if (channel.plot.isPale() != channel.plot.isPaintedPale) channel.plot.notifyChanged();
+  const Axis& readout = main_.graphDSO.axis("XAxis");
+  if (readout.isPale() != readout.isPaintedPale) readout.notifyChanged();
   if (screenMarks(main_) != main_.graphDSO.paintedMarks) main_.graphDSO.notifyChanged();
 }
 

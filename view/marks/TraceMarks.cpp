@@ -41,12 +41,13 @@ std::string traceAge(const frmDSO& main, const Channel& channel) {
   const Words& words = main.services().words;
   const std::string& name = channel.display.caption();
   if (!isOfThisLine(main, channel)) return words.say("%1: no record yet", {name});
-  const std::int64_t seconds = (now(main) - channel.record.sweepAt) / 1000;
-  if (isOld(main, channel) || !main.tmDSO.enabled()) return ageText(words, name, seconds);
+  const auto secondsSince = [&main](std::int64_t then) { return (now(main) - then) / 1000; };
+  const std::int64_t sinceRecord = secondsSince(channel.record.fetchedAt);
+  if (isOld(main, channel) || !main.tmDSO.enabled()) return ageText(words, name, sinceRecord);
   if (channel.record.sweepAt != channel.record.fetchedAt)
-    return unchangedText(words, name, seconds);
+    return unchangedText(words, name, secondsSince(channel.record.sweepAt));
   // Nothing live comes of an instrument that was stopped.
-  return channel.record.madeUnder.stop ? ageText(words, name, seconds)
+  return channel.record.madeUnder.stop ? ageText(words, name, sinceRecord)
                                        : words.say("%1: live", {name});
 }
 
@@ -76,6 +77,8 @@ std::optional<double> secondsOfTraces(const frmDSO& main) {
 }
 
 std::optional<double> zeroOf(const frmDSO& main, const Channel& channel) {
+  // That of another instrument lies elsewhere on its screen.
+  if (hasTrace(channel) && !isOfThisLine(main, channel)) return std::nullopt;
   if (hasTrace(channel)) return channel.drawnShift;
   const auto position = main.known.number(ofChannel(Setting::position1, channel.number));
   return position ? std::optional(*position * Graph::unitsPerDivision) : std::nullopt;
@@ -97,6 +100,12 @@ bool isPale(const frmDSO& main, const Channel& channel) {
   // Math has no volts in any case.
   const auto present = main.known.voltsPerDivision(channel.number);
   return !made.mathEntry && !isKnownAndSame(made.voltsPerDivision, present);
+}
+
+bool isReadoutPale(const frmDSO& main) {
+  if (main.opOff.value()) return false;
+  if (main.opTime.value()) return !secondsOfTraces(main);
+  return !voltsOfTrace(main, main.channel(main.cbCurChan.text() == "1" ? 1 : 2));
 }
 
 bool areOfOneSweep(const frmDSO& main) {

@@ -34,6 +34,10 @@ bool isPale(const frmDSO& main, const Channel& channel);
 /// is of a sweep of its own, and what is between them in time means nothing.
 bool areOfOneSweep(const frmDSO& main);
 
+/// What the read-out of the cursors says is counted in a scale that is not known, or not the one
+/// under which the traces were made.
+bool isReadoutPale(const frmDSO& main);
+
 /// The age of each displayed trace, or that it is live, in the language in force.
 std::string traceAges(const frmDSO& main);
 
