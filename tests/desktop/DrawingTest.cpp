@@ -121,19 +121,6 @@ TEST_F(DrawingTest, TracesLieWhereTheirPointsAre) {
   }
 }
 
-TEST_F(DrawingTest, OldTraceIsPaleOnTheScreenAlone) {
-  draw(1, {{-200, 50}, {100, 50}});
-  graph.plot(1).pale = [] { return true; };
-  graph.plot(1).notifyChanged();
-  marks.names = {{1, "name"}};
-  paint();
-  EXPECT_FALSE(find(colourOf(1), around(-50, 50, 100, 9), 0.6).isValid());
-  picture = view.picture().toImage();
-  EXPECT_GT(find(colourOf(1), around(-50, 50, 100, 9), 0.6).width(), 98);
-  // No name at its end.
-  EXPECT_LT(find(colourOf(1)).height(), 4);
-}
-
 TEST_F(DrawingTest, TriggerMarkPointsAtItsLevelAndStaysInside) {
   const QColor colour(129, 212, 132);
   EXPECT_EQ(find(colour), QRect());

@@ -118,27 +118,5 @@ TEST(Faults, NeitherConnectNorAcquisitionHangsAndBothLaterSucceed) {
   }
 }
 
-/// Hung up after every byte of a query's reply and of a record.
-TEST(Faults, HangUpAtEveryByteIsSurvived) {
-  FaultyBench bench;
-  bench.main.cmdStart.press();
-  bench.clock.run(3000);
-  const std::size_t replyBytes = FaultyBench::healthy("*IDN?").size();
-  for (std::size_t byte = 0; byte <= 1014; ++byte) {
-    // The count begins anew with each line that is opened.
-    bench.port.settings.dataBits = bench.port.settings.dataBits == 8 ? 7 : 8;
-    bench.farEnd.hangUpAfter = byte;
-    if (byte < replyBytes) bench.ask("*IDN?");
-    bench.main.tmDSO.enabled = true;
-    bench.clock.run(2500);
-    bench.farEnd.hangUpAfter = std::string::npos;
-    if (byte % 50 != 0 && byte < 1010) continue;
-    bench.mend();
-    bench.expectWell("byte " + std::to_string(byte));
-  }
-  EXPECT_GE(bench.farEnd.opened, 1015);
-  EXPECT_TRUE(bench.dialogs.runTimeErrors.empty());
-}
-
 }  // namespace
 }  // namespace tracewell

@@ -23,7 +23,7 @@ class LineScript : OnALine<PacedOpener> {
     };
     port.dataReady = [this](const std::string& data) {
       const std::size_t own = static_cast<std::size_t>(std::ranges::count(data, port.tag.at(0)));
-      note("record " + port.tag + " " + std::to_string(own));
+      note("record " + port.tag + " " + std::to_string(own) + under());
       port.reset();
     };
   }
@@ -46,6 +46,7 @@ class LineScript : OnALine<PacedOpener> {
     if (name == "ask")
       for (int i = 1; i <= number; ++i) ask("Q" + std::to_string(i) + "?");
     if (name == "record") user_.request(value);
+    if (name == "stamp") port.stamp = std::stoll(value);
     if (name == "run") clock.run(static_cast<int>(number));
     if (name == "sleep") clock.sleep(static_cast<int>(number));
     if (name == "reset") port.reset();
@@ -71,6 +72,13 @@ class LineScript : OnALine<PacedOpener> {
   static std::string toLine(std::string text) {
     for (char& byte : text) byte = byte == '^' ? '\n' : byte == '<' ? '\r' : byte;
     return text;
+  }
+
+  /// The stamp, if there is one, and the line.
+  std::string under() const {
+    if (port.stamp == 0) return "";
+    return " of " + std::to_string(port.stamp) + " on " + std::to_string(port.openPort()) + "/" +
+           std::to_string(port.openings());
   }
 
   /// What the account of the line says.
@@ -147,52 +155,6 @@ class LineScript : OnALine<PacedOpener> {
 
 TEST(LineScriptTest, ComesToWhatStandsBelowIt) {
   playFile("line.txt", [](const std::string& script) { return LineScript().play(script); });
-}
-
-/// Nothing that was on its way on another line is delivered, however the line has come to change.
-TEST(ConversationTest, RecordComesUnderItsOwnTagStampAndLine) {
-  OnALine<PacedOpener> line;
-  LinePort& port = line.port;
-  PortUser user(port);
-  std::string seen;
-  port.dataReady = [&](const std::string&) {
-    seen += port.tag + " " + std::to_string(port.stamp) + " on " + std::to_string(port.openPort()) +
-            "/" + std::to_string(port.openings()) + "; ";
-    port.reset();
-  };
-  line.opener.farEnd.answer = [](const std::string& request) {
-    return request.ends_with("POIN") ? std::string(1014, 'x') : "";
-  };
-  const auto request = [&](const char* channel, std::int64_t stamp) {
-    port.stamp = stamp;
-    user.request(channel);
-  };
-  port.settings.portNumber = 3;
-  request("1", 11);
-  line.clock.run(50);
-  request("2", 12);
-  line.clock.run(50);
-  request("2", 13);
-  // Chosen, and not opened yet.
-  port.settings.portNumber = 4;
-  line.clock.run(3000);
-  request("1", 14);
-  line.clock.run(100);
-  port.settings.portNumber = 5;
-  // All of it is there, and has not been announced yet.
-  line.clock.sleep(1000);
-  user.send(":Run");
-  line.clock.run(3000);
-  request("2", 15);
-  line.clock.run(100);
-  line.opener.farEnd.hangUpAfter = 0;
-  line.clock.run(100);
-  line.opener.farEnd.hangUpAfter = std::string::npos;
-  request("2", 16);
-  line.clock.run(4000);
-  request("2", 17);
-  line.clock.run(1000);
-  EXPECT_EQ(seen, "1 11 on 3/1; 2 12 on 3/1; 2 16 on 5/4; ");
 }
 
 /// The screen has its turn, and nothing of the program runs.
