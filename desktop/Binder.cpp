@@ -91,21 +91,21 @@ int widestOf(const QLabel& label) {
   return (is("age") ? 30 : 25) * em;
 }
 
-template <class AnyLabel>
-QLabel* bindLabel(AnyLabel& control, QWidget& form) {
+void bind(Label& control, QWidget& form) {
   auto* label = findObject<QLabel>(control, form);
   showWith(control, label,
            [&control, label] { showInLabel(*label, control.caption(), widestOf(*label)); });
-  return label;
-}
-
-void bind(Label& control, QWidget& form) {
-  QLabel* label = bindLabel(control, form);
   if (control.doubleClicked) onDoubleClick(label, [&control] { control.doubleClick(); });
 }
 
 void bind(ValueLabel& control, QWidget& form) {
-  bindLabel(control, form);
+  auto* label = findObject<QLabel>(control, form);
+  showWith(control, label, [&control, label] {
+    showInLabel(*label, control.caption(), widestOf(*label));
+    auto* line = qobject_cast<ElidedLabel*>(label);
+    if (line == nullptr || !label->property("status").toBool()) return;
+    line->setSign(control.isWarning ? ElidedLabel::warning : ElidedLabel::information);
+  });
 }
 
 void bind(Frame& control, QWidget& form) {
@@ -221,7 +221,8 @@ void bind(ComboBox& control, QWidget& form) {
   box->setInsertPolicy(QComboBox::NoInsert);
   // What is typed is meant: "3" is not the beginning of port 33.
   box->setCompleter(nullptr);
-  if (box->property("opensMore").toBool()) takeOnEnter(*box, control);
+  keepEditingKeys(*box->lineEdit());
+  if (box->property("opensMore").toBool()) takeOnKeys(*box, control);
   QObject::connect(box->lineEdit(), &QLineEdit::textEdited, box,
                    [&control](const QString& typed) { control.edit(fromQt(typed)); });
   QObject::connect(box->lineEdit(), &QLineEdit::editingFinished, box, [&control, box] {
@@ -245,7 +246,7 @@ void bind(TextBox& control, QWidget& form) {
     if (line->text() != toQt(control.text()))
       line->setText(shownText(control.text(), roomOfEditor));
   });
-  giveUpSelectAll(*line);
+  keepEditingKeys(*line);
   QObject::connect(line, &QLineEdit::textEdited, line,
                    [&control](const QString& text) { control.type(fromQt(text)); });
   QObject::connect(line, &QLineEdit::returnPressed, line,
