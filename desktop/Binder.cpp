@@ -53,12 +53,17 @@ Object* findObject(const Control& control, QWidget& form) {
   return object;
 }
 
+/// As pale as text can be and still be read.
+constexpr qreal paleOpacity = 0.7;
+
 /// Without an effect where nothing is pale: an effect costs a picture of its own at each painting.
 void showPale(QWidget& widget, bool isPale) {
+  if (auto* knob = qobject_cast<KnobWidget*>(&widget)) knob->setPale(isPale);
+  if (auto* slide = qobject_cast<SlideWidget*>(&widget)) slide->setPale(isPale);
   if (isPale == (widget.graphicsEffect() != nullptr)) return;
   if (!isPale) return widget.setGraphicsEffect(nullptr);
   auto* effect = new QGraphicsOpacityEffect(&widget);
-  effect->setOpacity(0.45);
+  effect->setOpacity(paleOpacity);
   widget.setGraphicsEffect(effect);
 }
 

@@ -32,8 +32,10 @@ struct Value {
 
 Value valueOf(const QString& text) {
   static const QRegularExpression form(QStringLiteral("^([0-9]*\\.?[0-9]*)(.*)$"));
-  static const QMap<QString, int> exponents = {{QStringLiteral("n"), -9}, {QStringLiteral("u"), -6},
-                                               {QStringLiteral("m"), -3}, {QStringLiteral("v"), 0},
+  static const QMap<QString, int> exponents = {{QStringLiteral("n"), -9},
+                                               {QStringLiteral("u"), -6},
+                                               {QStringLiteral("m"), -3},
+                                               {QStringLiteral("v"), 0},
                                                {QStringLiteral("s"), 0}};
   const QRegularExpressionMatch parts = form.match(text.toLower());
   Value value;
@@ -72,6 +74,15 @@ void KnobWidget::setValue(double value) {
 void KnobWidget::setAccent(const QColor& accent) {
   accent_ = accent;
   update();
+}
+
+void KnobWidget::setPale(bool isPale) {
+  isPale_ = isPale;
+  update();
+}
+
+QColor KnobWidget::mark() const {
+  return isPale_ ? palette().color(QPalette::WindowText) : accent_;
 }
 
 QPointF KnobWidget::centre() const {
@@ -154,9 +165,8 @@ void KnobWidget::paintDetents(QPainter& painter) {
   painter.setFont(font);
   for (int detent = 0; detent < captions_.size(); ++detent) {
     const bool isChosen = detent == value_;
-    QColor colour = isChosen ? accent_ : palette().color(QPalette::WindowText);
-    if (!isChosen) colour.setAlphaF(0.75F);
-    painter.setPen(QPen(colour, isChosen ? 2 : 1));
+    painter.setPen(
+        QPen(isChosen ? mark() : palette().color(QPalette::WindowText), isChosen ? 2 : 1.2));
     painter.drawLine(pointAt(angleOf(detent), radius() + 4 * scale()),
                      pointAt(angleOf(detent), radius() + 8 * scale()));
     // Beside the chosen caption there is no room for its neighbours.
@@ -183,7 +193,7 @@ void KnobWidget::paintCap(QPainter& painter) {
   painter.setPen(hasFocus() ? QPen(palette().color(QPalette::Highlight), 2)
                             : QPen(body.darker(190), 1.5));
   painter.drawEllipse(centre(), size, size);
-  painter.setPen(QPen(accent_, qMax(2.5, size / 12), Qt::SolidLine, Qt::RoundCap));
+  painter.setPen(QPen(mark(), qMax(2.5, size / 12), Qt::SolidLine, Qt::RoundCap));
   painter.drawLine(pointAt(angleOf(value_), size * 0.45), pointAt(angleOf(value_), size * 0.85));
 }
 
@@ -239,8 +249,8 @@ bool KnobWidget::takeTyped(const QKeyEvent& event) {
   const QString text = event.text();
   const bool isEmpty = typed_.isEmpty();
   const bool isDigit = text.size() == 1 && (text[0].isDigit() || text[0] == QLatin1Char('.'));
-  const bool isUnit = !isEmpty && text.size() == 1 &&
-                      QStringLiteral("numsvNUMSV").contains(text[0]);
+  const bool isUnit =
+      !isEmpty && text.size() == 1 && QStringLiteral("numsvNUMSV").contains(text[0]);
   if (isDigit || isUnit) {
     if (typed_.size() < mostTyped) setTyped(typed_ + text);
     return true;

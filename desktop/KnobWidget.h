@@ -24,6 +24,8 @@ class KnobWidget : public QWidget {
   int value() const { return value_; }
   QColor accent() const { return accent_; }
   void setAccent(const QColor& accent);
+  /// Without its colour: dimmed, that could not be read any more.
+  void setPale(bool isPale);
 
   /// Middle of the room below the cap, between the first detent and the last.
   QPointF gap() const;
@@ -47,7 +49,8 @@ class KnobWidget : public QWidget {
   /// Of a typed value. False for a key that has no part in one.
   bool takeTyped(const QKeyEvent& event);
   void setTyped(const QString& typed);
-  /// The one nearest to what was typed; of several that read the same the one nearest to the present.
+  /// The one nearest to what was typed; of several that read the same the one nearest to the
+  /// present.
   int typedDetent() const;
   void paintTyped(QPainter& painter);
   /// How much larger than at its usual size it is drawn, captions included.
@@ -62,11 +65,14 @@ class KnobWidget : public QWidget {
   int nearestDetent(const QPointF& position) const;
   bool hasCaption(int detent) const;
   void turnTo(int detent);
+  /// Of what marks the value.
+  QColor mark() const;
   void paintDetents(QPainter& painter);
   void paintCap(QPainter& painter);
 
   QStringList captions_{QString()};
   QColor accent_{Qt::white};
+  bool isPale_ = false;
   int value_ = 0;
   /// Shown on the cap until it is taken with Enter, or given up.
   QString typed_;

@@ -72,10 +72,10 @@ TEST_F(FrontPanelTest, KnobTurnsWithTheCapAndStopsAtItsEnds) {
 TEST_F(FrontPanelTest, KnobTakesATypedValue) {
   const std::tuple<const char*, int, const char*, int> cases[] = {
       // From a detent, what is typed, to a detent.
-      {"knobChan1", 0, "500m", 7}, {"knobChan1", 0, ".5V", 7},  {"knobChan1", 0, "500", 7},
-      {"knobChan1", 8, "2", 9},    {"knobChan1", 4, "2", 0},    {"knobChan1", 3, "300m", 6},
-      {"knobTime", 16, "20", 12},  {"knobTime", 3, "20", 3},    {"knobTime", 16, "20N", 3},
-      {"knobTime", 5, "99s", 28},  {"knobTime", 28, "0", 28},   {"knobTime", 28, "..", 28},
+      {"knobChan1", 0, "500m", 7}, {"knobChan1", 0, ".5V", 7}, {"knobChan1", 0, "500", 7},
+      {"knobChan1", 8, "2", 9},    {"knobChan1", 4, "2", 0},   {"knobChan1", 3, "300m", 6},
+      {"knobTime", 16, "20", 12},  {"knobTime", 3, "20", 3},   {"knobTime", 16, "20N", 3},
+      {"knobTime", 5, "99s", 28},  {"knobTime", 28, "0", 28},  {"knobTime", 28, "..", 28},
       {"knobTime", 9, ".5m", 16},
   };
   for (const auto& [name, from, typed, wanted] : cases) {
