@@ -21,6 +21,7 @@
 #include <QTreeWidget>
 #include <utility>
 
+#include "ButtonSigns.h"
 #include "Controls.h"
 #include "CopyGestures.h"
 #include "Dials.h"
@@ -128,6 +129,7 @@ QIcon swatch(const QColor& colour) {
 /// A button that nothing answers yet is out of reach rather than dead.
 void bind(Button& control, QWidget& form) {
   auto* button = findObject<QPushButton>(control, form);
+  showSign(*button);
   // A new text would take the form's shortcut away.
   showWith(control, button, [&control, button, shortcut = button->shortcut()] {
     button->setText(shownCaption(control.caption()));

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <QAbstractButton>
 #include <QAccessible>
+#include <QAction>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
@@ -241,6 +242,16 @@ TEST(DesktopWords, FollowTheLanguageInEveryWindowAndLeaveWhatIsShown) {
   QApplication::processEvents();
   EXPECT_EQ(tip(main.opOff), english);
   EXPECT_EQ(mark->accessibleName(), QStringLiteral("not answered"));
+}
+
+/// The platform of the tests shows no files.
+TEST(ManualEntry, SaysWhereTheManualIsWhereNoProgramShowsIt) {
+  const ProgramFolderCopy folder;
+  DesktopProgram desktop(folder.path());
+  ASSERT_TRUE(desktop.start());
+  QWidget* form = desktop.windows.widgetOf(desktop.program.main.cmdStart)->window();
+  form->findChild<QAction*>(QStringLiteral("manual"))->trigger();
+  EXPECT_NE(desktop.program.main.lblStatus.caption().find("manual.md"), std::string::npos);
 }
 
 /// In processor time, which a busy machine does not stretch.
