@@ -54,8 +54,9 @@ Object* findObject(const Control& control, QWidget& form) {
   return object;
 }
 
-/// As pale as text can be and still be read.
+/// As pale as text can be and still be read; on a button less so than on a panel.
 constexpr qreal paleOpacity = 0.7;
+constexpr qreal paleButtonOpacity = 0.9;
 
 /// Without an effect where nothing is pale: an effect costs a picture of its own at each painting.
 void showPale(QWidget& widget, bool isPale) {
@@ -64,7 +65,9 @@ void showPale(QWidget& widget, bool isPale) {
   if (isPale == (widget.graphicsEffect() != nullptr)) return;
   if (!isPale) return widget.setGraphicsEffect(nullptr);
   auto* effect = new QGraphicsOpacityEffect(&widget);
-  effect->setOpacity(paleOpacity);
+  const bool isButton = qobject_cast<QAbstractButton*>(&widget) != nullptr ||
+                        qobject_cast<QComboBox*>(&widget) != nullptr;
+  effect->setOpacity(isButton ? paleButtonOpacity : paleOpacity);
   widget.setGraphicsEffect(effect);
 }
 

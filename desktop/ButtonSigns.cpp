@@ -5,14 +5,13 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QPixmap>
-#include <functional>
-#include <map>
 
 namespace tracewell {
 namespace {
 
 /// Pixels of its picture, which is drawn in a square of 16 units.
 constexpr int side = 64;
+constexpr int shownSide = 13;
 constexpr qreal units = 16;
 
 QPainterPath wave(qreal left, qreal right, qreal middle, qreal height) {
@@ -25,14 +24,6 @@ QPainterPath wave(qreal left, qreal right, qreal middle, qreal height) {
   return path;
 }
 
-void paintTraces(QPainter& painter) {
-  painter.drawPath(wave(1, 15, 8, 9));
-}
-
-void paintLine(QPainter& painter) {
-  painter.drawPolyline(QPolygonF({{1, 11}, {5, 11}, {5, 5}, {11, 5}, {11, 11}, {15, 11}}));
-}
-
 /// A screen and a knob.
 void paintInstrument(QPainter& painter) {
   painter.drawRoundedRect(QRectF(1, 2.5, 14, 11), 1.5, 1.5);
@@ -43,12 +34,7 @@ void paintInstrument(QPainter& painter) {
 }  // namespace
 
 void showSign(QPushButton& button) {
-  static const std::map<QString, std::function<void(QPainter&)>> signs = {
-      {QStringLiteral("traces"), paintTraces},
-      {QStringLiteral("line"), paintLine},
-      {QStringLiteral("instrument"), paintInstrument}};
-  const auto sign = signs.find(button.property("sign").toString());
-  if (sign == signs.end()) return;
+  if (button.property("sign").toString() != QLatin1String("instrument")) return;
   button.ensurePolished();
   QPixmap picture(side, side);
   picture.fill(Qt::transparent);
@@ -57,9 +43,10 @@ void showSign(QPushButton& button) {
   painter.scale(side / units, side / units);
   painter.setPen(QPen(button.palette().color(QPalette::ButtonText), 1.5, Qt::SolidLine,
                       Qt::RoundCap, Qt::RoundJoin));
-  sign->second(painter);
+  paintInstrument(painter);
   painter.end();
   button.setIcon(QIcon(picture));
+  button.setIconSize({shownSide, shownSide});
 }
 
 }  // namespace tracewell

@@ -5,9 +5,8 @@
 
 namespace tracewell {
 
-/// Captions of several buttons can read "Stop". A sign in front says what a button acts on, as its
-/// form names it in the property "sign": "traces" of this window, the serial "line", or the
-/// "instrument" itself.
+/// The start button and that of the instrument can both read "Stop". A sign in front says what a
+/// button acts on, as its form names it in the property "sign": the "instrument" itself.
 void showSign(QPushButton& button);
 
 }  // namespace tracewell

@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
+#include <QPushButton>
 #include <algorithm>
 
 #include "DesktopWords.h"
@@ -100,17 +101,20 @@ void UnreadMark::toPlace() {
   const int middle = (marked.height() - height()) / 2;
   const int right = marked.width() - width();
   constexpr int arrow = 22;
+  constexpr int frame = 3;
   if (const auto* knob = qobject_cast<const KnobWidget*>(&marked))
     move(knob->gap().toPoint() - rect().center());
   else if (qobject_cast<const QComboBox*>(&marked) != nullptr)
     move(right - arrow, middle);
+  else if (qobject_cast<const QPushButton*>(&marked) != nullptr)
+    move(right - frame, middle);
   else if (qobject_cast<const QAbstractButton*>(&marked) != nullptr)
     move(std::min(right, marked.sizeHint().width() + 2), middle);
   else if (auto* label = qobject_cast<QLabel*>(&marked)) {
     if (qobject_cast<ElidedLabel*>(label) == nullptr) makeRoom(*label, isVisibleTo(&marked));
     move(std::min(right, endOfText(*label) + UnreadMark::room - side), middle);
   } else
-    move(right, qobject_cast<const QLineEdit*>(&marked) != nullptr ? middle : 0);
+    move(right - frame, qobject_cast<const QLineEdit*>(&marked) != nullptr ? middle : frame);
 }
 
 }  // namespace tracewell

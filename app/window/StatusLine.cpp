@@ -48,7 +48,7 @@ void StatusLine::tellAgain() {
   for (const Told& told : told_) {
     if (isAsking && !isProgress(told) && told.topic != refused) continue;
     const std::string said = told.sentence(words_);
-    warns = warns || isWarning(told);
+    warns = warns || (!said.empty() && isWarning(told));
     line += (line.empty() || said.empty() ? "" : "; ") + said;
   }
   label_.isWarning = warns;

@@ -700,6 +700,10 @@
         <translation>Pas de réponse à %1</translation>
     </message>
     <message>
+        <source>No program here shows the manual. It is %1</source>
+        <translation>Aucun programme ici n'affiche le manuel. Il se trouve dans %1</translation>
+    </message>
+    <message>
         <source>No room for all of %1: press %2 first</source>
         <translation>Pas assez de place pour tout %1 : appuyer d'abord sur %2</translation>
     </message>
@@ -1098,6 +1102,10 @@
     <message>
         <source>Write the text where the picture is clicked</source>
         <translation>Écrire le texte à l'endroit cliqué de l'image</translation>
+    </message>
+    <message>
+        <source>from the zero of %1:</source>
+        <translation>depuis le zéro de %1 :</translation>
     </message>
     <message>
         <source>not answered</source>

@@ -700,6 +700,10 @@
         <translation>Нет ответа на %1</translation>
     </message>
     <message>
+        <source>No program here shows the manual. It is %1</source>
+        <translation>Здесь нет программы, которая показывает руководство. Оно находится в %1</translation>
+    </message>
+    <message>
         <source>No room for all of %1: press %2 first</source>
         <translation>Для всего %1 не хватает места: сначала нажмите «%2»</translation>
     </message>
@@ -1098,6 +1102,10 @@
     <message>
         <source>Write the text where the picture is clicked</source>
         <translation>Писать текст там, где щёлкнули по рисунку</translation>
+    </message>
+    <message>
+        <source>from the zero of %1:</source>
+        <translation>от нуля %1:</translation>
     </message>
     <message>
         <source>not answered</source>

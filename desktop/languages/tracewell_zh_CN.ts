@@ -700,6 +700,10 @@
         <translation>%1 无应答</translation>
     </message>
     <message>
+        <source>No program here shows the manual. It is %1</source>
+        <translation>此处没有可显示手册的程序。手册位于 %1</translation>
+    </message>
+    <message>
         <source>No room for all of %1: press %2 first</source>
         <translation>%1 无法全部显示：请先按“%2”</translation>
     </message>
@@ -1098,6 +1102,10 @@
     <message>
         <source>Write the text where the picture is clicked</source>
         <translation>在图片上单击处写入文字</translation>
+    </message>
+    <message>
+        <source>from the zero of %1:</source>
+        <translation>自 %1 的零点算起：</translation>
     </message>
     <message>
         <source>not answered</source>

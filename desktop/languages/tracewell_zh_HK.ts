@@ -700,6 +700,10 @@
         <translation>%1 冇回應</translation>
     </message>
     <message>
+        <source>No program here shows the manual. It is %1</source>
+        <translation>呢度冇程式可以顯示手冊。手冊喺 %1</translation>
+    </message>
+    <message>
         <source>No room for all of %1: press %2 first</source>
         <translation>擺唔晒 %1：請先撳「%2」</translation>
     </message>
@@ -1098,6 +1102,10 @@
     <message>
         <source>Write the text where the picture is clicked</source>
         <translation>喺圖片上撳嘅位置寫入文字</translation>
+    </message>
+    <message>
+        <source>from the zero of %1:</source>
+        <translation>由 %1 嘅零點計起：</translation>
     </message>
     <message>
         <source>not answered</source>

@@ -22,6 +22,8 @@ namespace {
 /// As much as a text, and as a line that carries meaning, needs to be seen by most.
 constexpr double ofText = 4.5;
 constexpr double ofLines = 3;
+/// What cannot be used is not to stand out.
+constexpr double ofDisabled = 3;
 
 double luminance(QRgb colour) {
   const auto linear = [](int part) {
@@ -77,15 +79,15 @@ class ContrastTest : public MainFormTest {
     return widget.rect().adjusted(left, 5, -5 - UnreadMark::room, -5);
   }
 
-  void expectReadable() {
+  void expectReadable(double needed) {
     QApplication::processEvents();
     for (QWidget* widget : form->findChildren<QWidget*>()) {
       const QRect text = textOf(*widget);
       if (text.isEmpty() || !widget->isVisible()) continue;
-      EXPECT_GE(contrastOf(*widget, text), ofText) << fromQt(widget->objectName());
+      EXPECT_GE(contrastOf(*widget, text), needed) << fromQt(widget->objectName());
     }
     for (KnobWidget* knob : form->findChildren<KnobWidget*>())
-      EXPECT_GE(contrastOf(*knob, {0, 0, knob->width() / 6, knob->height()}), ofText);
+      EXPECT_GE(contrastOf(*knob, {0, 0, knob->width() / 6, knob->height()}), needed);
     for (SlideWidget* slide : form->findChildren<SlideWidget*>()) {
       const bool isUpright = slide->height() > slide->width();
       const QRect marks = isUpright ? QRect(slide->width() / 2 + 7, 0, 2, slide->height() / 3)
@@ -93,7 +95,7 @@ class ContrastTest : public MainFormTest {
       EXPECT_GE(contrastOf(*slide, marks), ofLines) << fromQt(slide->objectName());
     }
     const QRect menus(0, 0, 60, 15);
-    EXPECT_GE(contrastOf(*find("menuBar"), menus), ofText);
+    EXPECT_GE(contrastOf(*find("menuBar"), menus), needed);
   }
 };
 
@@ -107,17 +109,17 @@ TEST_F(ContrastTest, EverythingCanBeReadInBothThemes) {
   for (const bool isDark : {false, true}) {
     SCOPED_TRACE(isDark ? "dark" : "light");
     useTheme(isDark);
-    for (const bool isStale : {false, true}) {
+    for (const bool isStale : {true, false}) {
       SCOPED_TRACE(isStale ? "stale" : "known");
       for (Control* control : main.controls()) {
         if (!control->trust) continue;
         control->trust = [isStale] { return isStale ? Trust::stale : Trust::holds; };
         control->notifyChanged();
       }
-      expectReadable();
+      expectReadable(ofText);
     }
     form->setEnabled(false);
-    expectReadable();
+    expectReadable(ofDisabled);
     form->setEnabled(true);
   }
 }
