@@ -21,6 +21,7 @@
 #include <QTreeWidget>
 #include <utility>
 
+#include "ButtonSigns.h"
 #include "Controls.h"
 #include "CopyGestures.h"
 #include "Dials.h"
@@ -53,12 +54,20 @@ Object* findObject(const Control& control, QWidget& form) {
   return object;
 }
 
+/// As pale as text can be and still be read; on a button less so than on a panel.
+constexpr qreal paleOpacity = 0.7;
+constexpr qreal paleButtonOpacity = 0.9;
+
 /// Without an effect where nothing is pale: an effect costs a picture of its own at each painting.
 void showPale(QWidget& widget, bool isPale) {
+  if (auto* knob = qobject_cast<KnobWidget*>(&widget)) knob->setPale(isPale);
+  if (auto* slide = qobject_cast<SlideWidget*>(&widget)) slide->setPale(isPale);
   if (isPale == (widget.graphicsEffect() != nullptr)) return;
   if (!isPale) return widget.setGraphicsEffect(nullptr);
   auto* effect = new QGraphicsOpacityEffect(&widget);
-  effect->setOpacity(0.45);
+  const bool isButton = qobject_cast<QAbstractButton*>(&widget) != nullptr ||
+                        qobject_cast<QComboBox*>(&widget) != nullptr;
+  effect->setOpacity(isButton ? paleButtonOpacity : paleOpacity);
   widget.setGraphicsEffect(effect);
 }
 
@@ -91,21 +100,21 @@ int widestOf(const QLabel& label) {
   return (is("age") ? 30 : 25) * em;
 }
 
-template <class AnyLabel>
-QLabel* bindLabel(AnyLabel& control, QWidget& form) {
+void bind(Label& control, QWidget& form) {
   auto* label = findObject<QLabel>(control, form);
   showWith(control, label,
            [&control, label] { showInLabel(*label, control.caption(), widestOf(*label)); });
-  return label;
-}
-
-void bind(Label& control, QWidget& form) {
-  QLabel* label = bindLabel(control, form);
   if (control.doubleClicked) onDoubleClick(label, [&control] { control.doubleClick(); });
 }
 
 void bind(ValueLabel& control, QWidget& form) {
-  bindLabel(control, form);
+  auto* label = findObject<QLabel>(control, form);
+  showWith(control, label, [&control, label] {
+    showInLabel(*label, control.caption(), widestOf(*label));
+    auto* line = qobject_cast<ElidedLabel*>(label);
+    if (line == nullptr || !label->property("status").toBool()) return;
+    line->setSign(control.isWarning ? ElidedLabel::warning : ElidedLabel::information);
+  });
 }
 
 void bind(Frame& control, QWidget& form) {
@@ -123,6 +132,7 @@ QIcon swatch(const QColor& colour) {
 /// A button that nothing answers yet is out of reach rather than dead.
 void bind(Button& control, QWidget& form) {
   auto* button = findObject<QPushButton>(control, form);
+  showSign(*button);
   // A new text would take the form's shortcut away.
   showWith(control, button, [&control, button, shortcut = button->shortcut()] {
     button->setText(shownCaption(control.caption()));
@@ -221,7 +231,8 @@ void bind(ComboBox& control, QWidget& form) {
   box->setInsertPolicy(QComboBox::NoInsert);
   // What is typed is meant: "3" is not the beginning of port 33.
   box->setCompleter(nullptr);
-  if (box->property("opensMore").toBool()) takeOnEnter(*box, control);
+  keepEditingKeys(*box->lineEdit());
+  if (box->property("opensMore").toBool()) takeOnKeys(*box, control);
   QObject::connect(box->lineEdit(), &QLineEdit::textEdited, box,
                    [&control](const QString& typed) { control.edit(fromQt(typed)); });
   QObject::connect(box->lineEdit(), &QLineEdit::editingFinished, box, [&control, box] {
@@ -245,7 +256,7 @@ void bind(TextBox& control, QWidget& form) {
     if (line->text() != toQt(control.text()))
       line->setText(shownText(control.text(), roomOfEditor));
   });
-  giveUpSelectAll(*line);
+  keepEditingKeys(*line);
   QObject::connect(line, &QLineEdit::textEdited, line,
                    [&control](const QString& text) { control.type(fromQt(text)); });
   QObject::connect(line, &QLineEdit::returnPressed, line,

@@ -1,13 +1,21 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "DesktopProgram.h"
 
+#include "QtValues.h"
+
 namespace tracewell {
 
 DesktopProgram::DesktopProgram(const std::filesystem::path& programFolder)
     : ports(programFolder, clock, standBy),
       windows(programFolder),
       services{clock,   dialogs,  gate,    dispatcher, standBy, port,         ports,
-               windows, pictures, printer, clipboard,  words,   programFolder} {}
+               windows, pictures, printer, clipboard,  words,   programFolder} {
+  windows.manualRefused = [this](const QString& file) {
+    program.main.status.tell(StatusLine::happened, [file = fromQt(file)](const Words& said) {
+      return said.say("No program here shows the manual. It is %1", {file});
+    });
+  };
+}
 
 /// However the event loop has ended, forms go before the windows that they show.
 DesktopProgram::~DesktopProgram() {

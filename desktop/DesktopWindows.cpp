@@ -44,7 +44,7 @@ void focusFirst(QWidget& form) {
 /// only ever goes when the window says so.
 class DesktopWindows::Form : public QObject {
  public:
-  Form(Window& window, QWidget* parent) : window_(window) {
+  Form(Window& window, QWidget* parent, const DesktopWindows& windows) : window_(window) {
     widget_ = makeForm(window.name(), parent);
     bindControls(window, *widget_);
     window.changed = [this] { widget_->setWindowTitle(shownTitle(window_.caption())); };
@@ -52,7 +52,10 @@ class DesktopWindows::Form : public QObject {
     widget_->installEventFilter(this);
     if (isMain()) {
       reachMenusByKey();
-      new ManualEntry(*widget_->findChild<QMenu*>(QStringLiteral("mnbHelp")));
+      new ManualEntry(*widget_->findChild<QMenu*>(QStringLiteral("mnbHelp")),
+                      [&windows](const QString& file) {
+                        if (windows.manualRefused) windows.manualRefused(file);
+                      });
     }
   }
   ~Form() override {
@@ -120,7 +123,7 @@ QWidget* DesktopWindows::mainForm() const {
 DesktopWindows::Form& DesktopWindows::formOf(Window& window) {
   const auto known = forms_.find(&window);
   if (known != forms_.end()) return *known->second;
-  auto form = std::make_unique<Form>(window, mainForm());
+  auto form = std::make_unique<Form>(window, mainForm(), *this);
   if (form->isMain()) state_.restore(form->widget());
   return *forms_.emplace(&window, std::move(form)).first->second;
 }

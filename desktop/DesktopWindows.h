@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QWidget>
+#include <functional>
 #include <map>
 #include <memory>
 
@@ -29,6 +30,8 @@ class DesktopWindows : public WindowHost {
 
   /// The widget that shows the control; none while its window has no form.
   QWidget* widgetOf(const Control& control) const;
+  /// Told the manual's file where no program here shows it.
+  std::function<void(const QString& file)> manualRefused;
   /// Lets go of every form.
   void unloadAll();
 

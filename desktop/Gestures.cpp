@@ -3,12 +3,40 @@
 
 #include <QEvent>
 #include <QKeyEvent>
+#include <QKeySequence>
+#include <algorithm>
+#include <array>
 #include <utility>
 
 #include "ShownText.h"
 
 namespace tracewell {
 namespace {
+
+constexpr std::array editingKeys = {QKeySequence::SelectAll,
+                                    QKeySequence::Undo,
+                                    QKeySequence::Redo,
+                                    QKeySequence::Cut,
+                                    QKeySequence::Copy,
+                                    QKeySequence::Paste,
+                                    QKeySequence::Delete,
+                                    QKeySequence::Backspace,
+                                    QKeySequence::DeleteStartOfWord,
+                                    QKeySequence::DeleteEndOfWord,
+                                    QKeySequence::DeleteEndOfLine,
+                                    QKeySequence::DeleteCompleteLine,
+                                    QKeySequence::MoveToStartOfLine,
+                                    QKeySequence::MoveToEndOfLine,
+                                    QKeySequence::MoveToPreviousWord,
+                                    QKeySequence::MoveToNextWord,
+                                    QKeySequence::SelectStartOfLine,
+                                    QKeySequence::SelectEndOfLine,
+                                    QKeySequence::SelectPreviousWord,
+                                    QKeySequence::SelectNextWord,
+                                    QKeySequence::MoveToPreviousChar,
+                                    QKeySequence::MoveToNextChar,
+                                    QKeySequence::MoveToStartOfBlock,
+                                    QKeySequence::MoveToEndOfBlock};
 
 /// Shows every event of the watched object to `action` first, which says whether it has used it up.
 class EventWatch : public QObject {
@@ -43,23 +71,27 @@ void onEnter(QObject* watched, const std::function<void()>& action) {
   });
 }
 
-void takeOnEnter(QComboBox& box, const ComboBox& control) {
+void takeOnKeys(QComboBox& box, const ComboBox& control) {
   new EventWatch(box.lineEdit(), [&box, &control](const QEvent& event) {
     if (event.type() != QEvent::KeyPress) return false;
     const int key = static_cast<const QKeyEvent&>(event).key();
     const bool isEnter = key == Qt::Key_Return || key == Qt::Key_Enter;
-    if (!isEnter || box.currentText() == shownText(control.text(), roomOfEditor)) return false;
+    const bool isTab = key == Qt::Key_Tab || key == Qt::Key_Backtab;
+    if (!isEnter && !isTab) return false;
+    if (box.currentText() == shownText(control.text(), roomOfEditor)) return false;
     emit box.lineEdit()->editingFinished();
-    return true;
+    return isEnter;
   });
 }
 
-void giveUpSelectAll(QLineEdit& line) {
-  new EventWatch(&line, [&line](QEvent& event) {
-    const bool isOurs = event.type() == QEvent::ShortcutOverride && line.text().isEmpty() &&
-                        static_cast<QKeyEvent&>(event).matches(QKeySequence::SelectAll);
-    if (isOurs) event.ignore();
-    return isOurs;
+void keepEditingKeys(QLineEdit& line) {
+  new EventWatch(&line, [](QEvent& event) {
+    if (event.type() != QEvent::ShortcutOverride) return false;
+    const auto& key = static_cast<QKeyEvent&>(event);
+    const bool isEditing = std::ranges::any_of(
+        editingKeys, [&key](QKeySequence::StandardKey keys) { return key.matches(keys); });
+    if (isEditing) event.accept();
+    return isEditing;
   });
 }
 

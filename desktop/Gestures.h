@@ -18,11 +18,13 @@ void onDoubleClick(QObject* watched, const std::function<void()>& action);
 void onEnter(QObject* watched, const std::function<void()>& action);
 
 /// Enter on a text that is not taken yet takes it and does no more: what it opens is to be seen
-/// before the dialog is closed.
-void takeOnEnter(QComboBox& box, const ComboBox& control);
+/// before the dialog is closed. Tab takes it before it looks for the next box, which may be the one
+/// that opens.
+void takeOnKeys(QComboBox& box, const ComboBox& control);
 
-/// In an empty line there is nothing to select, and the key is the menu's.
-void giveUpSelectAll(QLineEdit& line);
+/// Keys that edit a text are the line's as long as it has the focus, whether there is anything to
+/// edit or not: what is typed behind them is meant for it.
+void keepEditingKeys(QLineEdit& line);
 
 /// When the user has pressed a key in a list, which moves through it. Focus alone, which also gives
 /// a list its current entry, is no choice, and neither is the release of a key that was pressed

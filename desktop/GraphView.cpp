@@ -27,7 +27,7 @@ const QColor cursorColour(255, 138, 128);
 const QColor activeCursorColour(255, 205, 198);
 constexpr qreal activeCursorWidth = 2;
 /// Share of its own colour that a trace keeps when what it shows is old.
-constexpr float oldShare = 0.4F;
+constexpr float oldShare = 0.5F;
 const QColor triggerColour(129, 212, 132);
 const QColor noteColour(255, 171, 64);
 
@@ -229,14 +229,14 @@ void GraphView::showAxes() {
   plot_->yAxis->setRange(y.minimum(), y.maximum());
   plot_->xAxis->grid()->setPen(QPen(toQt(x.gridColour()), 1));
   plot_->yAxis->grid()->setPen(QPen(toQt(y.gridColour()), 1));
-  plot_->xAxis->grid()->setZeroLinePen(QPen(toQt(x.gridColour()).lighter(170), 1));
-  plot_->yAxis->grid()->setZeroLinePen(QPen(toQt(y.gridColour()).lighter(170), 1));
+  plot_->xAxis->grid()->setZeroLinePen(QPen(toQt(x.gridColour()).lighter(130), 1));
+  plot_->yAxis->grid()->setZeroLinePen(QPen(toQt(y.gridColour()).lighter(130), 1));
   plot_->setBackground(QBrush(toQt(graph_->plotAreaColour())));
   showInLabel(*caption_, x.caption(), qMax(width(), minimumSizeHint().width()));
   graph_->axis("XAxis").isPaintedPale = x.isPale();
   caption_->setEnabled(!x.isPale());
   // Small ticks along the centre lines: a dotted line five units wide each way.
-  const QPen ticks(toQt(x.gridColour()).lighter(170), 5, Qt::CustomDashLine, Qt::FlatCap);
+  const QPen ticks(toQt(x.gridColour()).lighter(130), 5, Qt::CustomDashLine, Qt::FlatCap);
   const std::array<std::array<double, 4>, 2> ends = {
       {{x.minimum(), 0, x.maximum(), 0}, {0, y.minimum(), 0, y.maximum()}}};
   for (std::size_t i = 0; i < centreLines_.size(); ++i) {

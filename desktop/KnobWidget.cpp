@@ -2,12 +2,15 @@
 #include "KnobWidget.h"
 
 #include <QKeyEvent>
+#include <QMap>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QRadialGradient>
+#include <QRegularExpression>
 #include <QWheelEvent>
 #include <cmath>
 #include <numbers>
+#include <optional>
 
 namespace tracewell {
 namespace {
@@ -17,6 +20,38 @@ constexpr qreal firstAngle = 225;
 constexpr qreal sweep = 270;
 /// More captions than this do not fit around the knob.
 constexpr int mostCaptions = 12;
+/// Longer is no value.
+constexpr int mostTyped = 6;
+
+/// A number and what stands behind it: "20m", ".5", "1V". What is no prefix is the unit.
+struct Value {
+  double number = 0;
+  /// A power of ten; none where nothing says so.
+  std::optional<int> exponent;
+};
+
+Value valueOf(const QString& text) {
+  static const QRegularExpression form(QStringLiteral("^([0-9]*\\.?[0-9]*)(.*)$"));
+  static const QMap<QString, int> exponents = {{QStringLiteral("n"), -9},
+                                               {QStringLiteral("u"), -6},
+                                               {QStringLiteral("m"), -3},
+                                               {QStringLiteral("v"), 0},
+                                               {QStringLiteral("s"), 0}};
+  const QRegularExpressionMatch parts = form.match(text.toLower());
+  Value value;
+  value.number = parts.captured(1).toDouble();
+  const auto unit = exponents.constFind(parts.captured(2).left(1));
+  if (unit != exponents.cend()) value.exponent = *unit;
+  return value;
+}
+
+/// Decades between two values, where the second may stand for any thousandth part if it names no
+/// unit.
+double distanceOf(const Value& detent, const Value& typed) {
+  const double decades =
+      std::log10(detent.number) + detent.exponent.value_or(0) - std::log10(typed.number);
+  return std::fabs(typed.exponent ? decades - *typed.exponent : std::remainder(decades, 3));
+}
 
 }  // namespace
 
@@ -39,6 +74,15 @@ void KnobWidget::setValue(double value) {
 void KnobWidget::setAccent(const QColor& accent) {
   accent_ = accent;
   update();
+}
+
+void KnobWidget::setPale(bool isPale) {
+  isPale_ = isPale;
+  update();
+}
+
+QColor KnobWidget::mark() const {
+  return isPale_ ? palette().color(QPalette::WindowText) : accent_;
 }
 
 QPointF KnobWidget::centre() const {
@@ -99,6 +143,20 @@ void KnobWidget::paintEvent(QPaintEvent*) {
   painter.setRenderHint(QPainter::Antialiasing);
   paintDetents(painter);
   paintCap(painter);
+  if (!typed_.isEmpty()) paintTyped(painter);
+}
+
+void KnobWidget::paintTyped(QPainter& painter) {
+  QFont bold = font();
+  bold.setBold(true);
+  painter.setFont(bold);
+  const QSizeF size(radius() * 1.5, painter.fontMetrics().height() + 6);
+  const QRectF place(centre() - QPointF(size.width(), size.height()) / 2, size);
+  painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+  painter.setBrush(palette().color(QPalette::Base));
+  painter.drawRoundedRect(place, 3, 3);
+  painter.setPen(palette().color(QPalette::Text));
+  painter.drawText(place, Qt::AlignCenter, typed_);
 }
 
 void KnobWidget::paintDetents(QPainter& painter) {
@@ -107,9 +165,8 @@ void KnobWidget::paintDetents(QPainter& painter) {
   painter.setFont(font);
   for (int detent = 0; detent < captions_.size(); ++detent) {
     const bool isChosen = detent == value_;
-    QColor colour = isChosen ? accent_ : palette().color(QPalette::WindowText);
-    if (!isChosen) colour.setAlphaF(0.75F);
-    painter.setPen(QPen(colour, isChosen ? 2 : 1));
+    painter.setPen(
+        QPen(isChosen ? mark() : palette().color(QPalette::WindowText), isChosen ? 2 : 1.2));
     painter.drawLine(pointAt(angleOf(detent), radius() + 4 * scale()),
                      pointAt(angleOf(detent), radius() + 8 * scale()));
     // Beside the chosen caption there is no room for its neighbours.
@@ -136,7 +193,7 @@ void KnobWidget::paintCap(QPainter& painter) {
   painter.setPen(hasFocus() ? QPen(palette().color(QPalette::Highlight), 2)
                             : QPen(body.darker(190), 1.5));
   painter.drawEllipse(centre(), size, size);
-  painter.setPen(QPen(accent_, qMax(2.5, size / 12), Qt::SolidLine, Qt::RoundCap));
+  painter.setPen(QPen(mark(), qMax(2.5, size / 12), Qt::SolidLine, Qt::RoundCap));
   painter.drawLine(pointAt(angleOf(value_), size * 0.45), pointAt(angleOf(value_), size * 0.85));
 }
 
@@ -167,7 +224,62 @@ void KnobWidget::wheelEvent(QWheelEvent* event) {
   event->accept();
 }
 
+void KnobWidget::setTyped(const QString& typed) {
+  typed_ = typed;
+  update();
+}
+
+int KnobWidget::typedDetent() const {
+  const Value typed = valueOf(typed_);
+  // Rounding must not decide which of two equal ones is nearer.
+  constexpr double same = 1e-6;
+  int nearest = value_;
+  double smallest = distanceOf(valueOf(captions_[value_]), typed);
+  for (int detent = 0; detent < captions_.size(); ++detent) {
+    const double distance = distanceOf(valueOf(captions_[detent]), typed);
+    const bool isSame = std::fabs(distance - smallest) < same;
+    const bool isCloser = isSame && qAbs(detent - value_) < qAbs(nearest - value_);
+    if (distance < smallest - same || isCloser) nearest = detent;
+    smallest = qMin(smallest, distance);
+  }
+  return nearest;
+}
+
+bool KnobWidget::takeTyped(const QKeyEvent& event) {
+  const QString text = event.text();
+  const bool isEmpty = typed_.isEmpty();
+  const bool isDigit = text.size() == 1 && (text[0].isDigit() || text[0] == QLatin1Char('.'));
+  const bool isUnit =
+      !isEmpty && text.size() == 1 && QStringLiteral("numsvNUMSV").contains(text[0]);
+  if (isDigit || isUnit) {
+    if (typed_.size() < mostTyped) setTyped(typed_ + text);
+    return true;
+  }
+  if (isEmpty) return false;
+  switch (event.key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      if (valueOf(typed_).number > 0) turnTo(typedDetent());
+      setTyped({});
+      return true;
+    case Qt::Key_Escape:
+      setTyped({});
+      return true;
+    case Qt::Key_Backspace:
+      setTyped(typed_.chopped(1));
+      return true;
+    default:
+      return false;
+  }
+}
+
+void KnobWidget::focusOutEvent(QFocusEvent* event) {
+  setTyped({});
+  QWidget::focusOutEvent(event);
+}
+
 void KnobWidget::keyPressEvent(QKeyEvent* event) {
+  if (takeTyped(*event)) return;
   switch (event->key()) {
     case Qt::Key_Up:
     case Qt::Key_Right:

@@ -10,7 +10,7 @@
 namespace tracewell {
 
 /// A rotary switch. The user turns it by dragging around it, with the wheel, the arrow, Page, Home
-/// and End keys, or by a click on the caption of a detent.
+/// and End keys, by a click on the caption of a detent, or by typing a value and Enter.
 class KnobWidget : public QWidget {
   Q_OBJECT
   Q_PROPERTY(QColor accent READ accent WRITE setAccent)
@@ -24,6 +24,8 @@ class KnobWidget : public QWidget {
   int value() const { return value_; }
   QColor accent() const { return accent_; }
   void setAccent(const QColor& accent);
+  /// Without its colour: dimmed, that could not be read any more.
+  void setPale(bool isPale);
 
   /// Middle of the room below the cap, between the first detent and the last.
   QPointF gap() const;
@@ -41,8 +43,16 @@ class KnobWidget : public QWidget {
   void mouseMoveEvent(QMouseEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
 
  private:
+  /// Of a typed value. False for a key that has no part in one.
+  bool takeTyped(const QKeyEvent& event);
+  void setTyped(const QString& typed);
+  /// The one nearest to what was typed; of several that read the same the one nearest to the
+  /// present.
+  int typedDetent() const;
+  void paintTyped(QPainter& painter);
   /// How much larger than at its usual size it is drawn, captions included.
   qreal scale() const;
   QPointF centre() const;
@@ -55,12 +65,17 @@ class KnobWidget : public QWidget {
   int nearestDetent(const QPointF& position) const;
   bool hasCaption(int detent) const;
   void turnTo(int detent);
+  /// Of what marks the value.
+  QColor mark() const;
   void paintDetents(QPainter& painter);
   void paintCap(QPainter& painter);
 
   QStringList captions_{QString()};
   QColor accent_{Qt::white};
+  bool isPale_ = false;
   int value_ = 0;
+  /// Shown on the cap until it is taken with Enter, or given up.
+  QString typed_;
   WheelTravel wheel_;
   /// Of a drag: the detent that it began at, the last angle, and degrees turned to the right.
   int draggedFrom_ = 0;

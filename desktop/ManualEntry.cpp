@@ -5,6 +5,7 @@
 #include <QDesktopServices>
 #include <QFileInfo>
 #include <QUrl>
+#include <utility>
 
 namespace tracewell {
 
@@ -17,14 +18,15 @@ QString manualFile(const QString& executableFolder) {
   return {};
 }
 
-ManualEntry::ManualEntry(QMenu& menu) : QAction(&menu) {
+ManualEntry::ManualEntry(QMenu& menu, std::function<void(const QString& file)> refused)
+    : QAction(&menu) {
   setObjectName(QStringLiteral("manual"));
   menu.addAction(this);
   showState();
   connect(&menu, &QMenu::aboutToShow, this, &ManualEntry::showState);
-  connect(this, &QAction::triggered, this, [] {
-    QDesktopServices::openUrl(
-        QUrl::fromLocalFile(manualFile(QCoreApplication::applicationDirPath())));
+  connect(this, &QAction::triggered, this, [refused = std::move(refused)] {
+    const QString file = manualFile(QCoreApplication::applicationDirPath());
+    if (!QDesktopServices::openUrl(QUrl::fromLocalFile(file)) && refused) refused(file);
   });
 }
 

@@ -3,6 +3,7 @@
 
 #include <QAction>
 #include <QMenu>
+#include <functional>
 
 namespace tracewell {
 
@@ -15,7 +16,8 @@ class ManualEntry : public QAction {
   Q_OBJECT
 
  public:
-  explicit ManualEntry(QMenu& menu);
+  /// `refused` is told the file that no program here could be found for.
+  ManualEntry(QMenu& menu, std::function<void(const QString& file)> refused);
 
  private:
   void showState();

@@ -42,6 +42,11 @@ void SlideWidget::setAccent(const QColor& accent) {
   update();
 }
 
+void SlideWidget::setPale(bool isPale) {
+  isPale_ = isPale;
+  update();
+}
+
 void SlideWidget::setNumbered(bool isNumbered) {
   isNumbered_ = isNumbered;
   updateGeometry();
@@ -101,21 +106,23 @@ void SlideWidget::paintEvent(QPaintEvent*) {
   const int marks = static_cast<int>((maximum_ - std::ceil(minimum_)) / spacing) + 1;
   for (int i = 0; i < marks; ++i) {
     const double mark = std::ceil(minimum_) + i * spacing;
-    QColor colour = text;
-    colour.setAlphaF(mark == 0 ? 0.95F : 0.65F);
-    painter.setPen(QPen(colour, mark == 0 ? 2 : 1));
+    painter.setPen(QPen(text, mark == 0 ? 2 : 1));
     const qreal end = mark == 0 ? 20 : 15;
+    // On whole pixels: two rows of half a pixel each would be half as dark.
+    painter.setRenderHint(QPainter::Antialiasing, false);
     painter.drawLine(pointAt(positionOf(mark), 12), pointAt(positionOf(mark), end));
     if (isNumbered_) paintNumber(painter, mark);
   }
+  painter.setRenderHint(QPainter::Antialiasing);
   const QPointF centre = pointAt(positionOf(value_), 0);
   const QSizeF size =
       isVertical() ? QSizeF(pointerWidth, pointerLength) : QSizeF(pointerLength, pointerWidth);
   const QRectF pointer(centre.x() - size.width() / 2, centre.y() - size.height() / 2, size.width(),
                        size.height());
-  painter.setBrush(isEnabled() ? accent_ : palette().color(QPalette::Mid));
+  const QColor accent = isPale_ ? text : accent_;
+  painter.setBrush(isEnabled() ? accent : palette().color(QPalette::Mid));
   painter.setPen(hasFocus() ? QPen(palette().color(QPalette::Highlight), 2)
-                            : QPen(accent_.darker(160), 1));
+                            : QPen(accent.darker(160), 1));
   painter.drawRoundedRect(pointer, 3, 3);
 }
 

@@ -25,6 +25,8 @@ class SlideWidget : public QWidget {
   double value() const { return value_; }
   QColor accent() const { return accent_; }
   void setAccent(const QColor& accent);
+  /// Without its colour: dimmed, that could not be read any more.
+  void setPale(bool isPale);
   /// A vertical slide has its numbers beside its marks.
   bool isNumbered() const { return isNumbered_; }
   void setNumbered(bool isNumbered);
@@ -66,6 +68,7 @@ class SlideWidget : public QWidget {
   WheelTravel wheel_;
   double value_ = 0;
   QColor accent_{Qt::white};
+  bool isPale_ = false;
   bool isNumbered_ = false;
   Qt::Orientation orientation_ = Qt::Vertical;
   bool isDragged_ = false;

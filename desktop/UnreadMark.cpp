@@ -2,21 +2,47 @@
 #include "UnreadMark.h"
 
 #include <QAbstractButton>
-#include <QCheckBox>
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPainter>
+#include <QPushButton>
 #include <algorithm>
 
 #include "DesktopWords.h"
+#include "ElidedLabel.h"
 #include "KnobWidget.h"
 
 namespace tracewell {
 namespace {
 
 constexpr int side = 13;
+
+/// Its letters stand closer where there is no room for the mark behind them: a window that fits the
+/// screen has it without.
+void makeRoom(QLabel& label, bool isMarked) {
+  QFont font = label.font();
+  font.setLetterSpacing(QFont::AbsoluteSpacing, 0);
+  const int natural = QFontMetrics(font).horizontalAdvance(label.text());
+  const int missing = natural + UnreadMark::room - label.contentsRect().width();
+  if (isMarked && missing > 0 && !label.text().isEmpty())
+    font.setLetterSpacing(QFont::AbsoluteSpacing,
+                          -static_cast<qreal>(missing) / static_cast<qreal>(label.text().size()));
+  // It must not become narrower, and closer, for it.
+  label.setMinimumWidth(isMarked ? natural : 0);
+  if (font.letterSpacing() != label.font().letterSpacing()) label.setFont(font);
+}
+
+/// Beside the text, and in the same place when it is there again.
+void makeRoom(QWidget& marked, bool isMarked) {
+  if (auto* line = qobject_cast<QLineEdit*>(&marked))
+    line->setTextMargins(0, 0, isMarked ? UnreadMark::room : 0, 0);
+  else if (qobject_cast<QAbstractButton*>(&marked) != nullptr ||
+           qobject_cast<QComboBox*>(&marked) != nullptr)
+    marked.setMinimumWidth(marked.sizeHint().width() + UnreadMark::room);
+}
 
 int endOfText(const QLabel& label) {
   const int length = label.fontMetrics().horizontalAdvance(label.text());
@@ -36,10 +62,8 @@ void UnreadMark::show(QWidget& marked, bool isUnread) {
   if (mark == nullptr && !isUnread) return;
   marked.setAccessibleDescription(isUnread ? meaning() : QString());
   if (mark == nullptr) mark = new UnreadMark(marked);
-  // Beside the text, and in the same place when it is there again.
-  if (qobject_cast<QCheckBox*>(&marked) != nullptr)
-    marked.setMinimumWidth(marked.sizeHint().width() + room);
   mark->setVisible(isUnread);
+  makeRoom(marked, isUnread);
   mark->toPlace();
 }
 
@@ -73,20 +97,24 @@ bool UnreadMark::eventFilter(QObject*, QEvent* event) {
 }
 
 void UnreadMark::toPlace() {
-  const QWidget& marked = *parentWidget();
+  QWidget& marked = *parentWidget();
   const int middle = (marked.height() - height()) / 2;
   const int right = marked.width() - width();
   constexpr int arrow = 22;
+  constexpr int frame = 3;
   if (const auto* knob = qobject_cast<const KnobWidget*>(&marked))
     move(knob->gap().toPoint() - rect().center());
   else if (qobject_cast<const QComboBox*>(&marked) != nullptr)
     move(right - arrow, middle);
+  else if (qobject_cast<const QPushButton*>(&marked) != nullptr)
+    move(right - frame, middle);
   else if (qobject_cast<const QAbstractButton*>(&marked) != nullptr)
     move(std::min(right, marked.sizeHint().width() + 2), middle);
-  else if (const auto* label = qobject_cast<const QLabel*>(&marked))
+  else if (auto* label = qobject_cast<QLabel*>(&marked)) {
+    if (qobject_cast<ElidedLabel*>(label) == nullptr) makeRoom(*label, isVisibleTo(&marked));
     move(std::min(right, endOfText(*label) + UnreadMark::room - side), middle);
-  else
-    move(right, 0);
+  } else
+    move(right - frame, qobject_cast<const QLineEdit*>(&marked) != nullptr ? middle : frame);
 }
 
 }  // namespace tracewell

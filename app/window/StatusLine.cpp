@@ -38,16 +38,24 @@ bool StatusLine::isOver(const Told& told) const {
   return isOfAMoment && clock_.milliseconds() - told.since > missedIsSaid;
 }
 
+/// Something is not as it looks; the others say what is being done, or has been.
+bool StatusLine::isWarning(const Told& told) {
+  return told.topic != progress && told.topic != refused && told.topic != happened;
+}
+
 void StatusLine::tellAgain() {
   std::erase_if(told_, [this](const Told& told) { return isOver(told); });
   const auto isProgress = [](const Told& told) { return told.topic == progress; };
   const bool isAsking = std::any_of(told_.begin(), told_.end(), isProgress);
   std::string line;
+  bool warns = false;
   for (const Told& told : told_) {
     if (isAsking && !isProgress(told) && told.topic != refused) continue;
     const std::string said = told.sentence(words_);
+    warns = warns || (!said.empty() && isWarning(told));
     line += (line.empty() || said.empty() ? "" : "; ") + said;
   }
+  label_.isWarning = warns;
   label_.caption = line;
 }
 

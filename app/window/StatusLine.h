@@ -64,6 +64,7 @@ class StatusLine {
     std::int64_t since;
   };
   bool isOver(const Told& told) const;
+  static bool isWarning(const Told& told);
   void remove(Topic topic);
 
   ValueLabel& label_;

@@ -708,6 +708,10 @@
         <translation>Pas de réponse à %1</translation>
     </message>
     <message>
+        <source>No program here shows the manual. It is %1</source>
+        <translation>Aucun programme ici n'affiche le manuel. Il se trouve dans %1</translation>
+    </message>
+    <message>
         <source>No record for %1 s</source>
         <translation>Aucun enregistrement depuis %1 s</translation>
     </message>
@@ -1130,6 +1134,10 @@
     <message>
         <source>Write the text where the picture is clicked</source>
         <translation>Écrire le texte à l'endroit cliqué de l'image</translation>
+    </message>
+    <message>
+        <source>from the zero of %1:</source>
+        <translation>depuis le zéro de %1 :</translation>
     </message>
     <message>
         <source>not answered</source>

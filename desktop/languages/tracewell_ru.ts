@@ -708,6 +708,10 @@
         <translation>Нет ответа на %1</translation>
     </message>
     <message>
+        <source>No program here shows the manual. It is %1</source>
+        <translation>Здесь нет программы, которая показывает руководство. Оно находится в %1</translation>
+    </message>
+    <message>
         <source>No record for %1 s</source>
         <translation>Нет записи уже %1 с</translation>
     </message>
@@ -1130,6 +1134,10 @@
     <message>
         <source>Write the text where the picture is clicked</source>
         <translation>Писать текст там, где щёлкнули по рисунку</translation>
+    </message>
+    <message>
+        <source>from the zero of %1:</source>
+        <translation>от нуля %1:</translation>
     </message>
     <message>
         <source>not answered</source>

@@ -708,6 +708,10 @@
         <translation>%1 无应答</translation>
     </message>
     <message>
+        <source>No program here shows the manual. It is %1</source>
+        <translation>此处没有可显示手册的程序。手册位于 %1</translation>
+    </message>
+    <message>
         <source>No record for %1 s</source>
         <translation>已有 %1 秒没有记录</translation>
     </message>
@@ -1130,6 +1134,10 @@
     <message>
         <source>Write the text where the picture is clicked</source>
         <translation>在图片上单击处写入文字</translation>
+    </message>
+    <message>
+        <source>from the zero of %1:</source>
+        <translation>自 %1 的零点算起：</translation>
     </message>
     <message>
         <source>not answered</source>

@@ -708,6 +708,10 @@
         <translation>%1 冇回應</translation>
     </message>
     <message>
+        <source>No program here shows the manual. It is %1</source>
+        <translation>呢度冇程式可以顯示手冊。手冊喺 %1</translation>
+    </message>
+    <message>
         <source>No record for %1 s</source>
         <translation>已經 %1 秒冇記錄</translation>
     </message>
@@ -1130,6 +1134,10 @@
     <message>
         <source>Write the text where the picture is clicked</source>
         <translation>喺圖片上撳嘅位置寫入文字</translation>
+    </message>
+    <message>
+        <source>from the zero of %1:</source>
+        <translation>由 %1 嘅零點計起：</translation>
     </message>
     <message>
         <source>not answered</source>

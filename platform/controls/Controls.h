@@ -29,6 +29,8 @@ class ValueLabel : public Control {
   ValueLabel(Window& owner, std::string_view name, int index)
       : ValueLabel(owner, name, "", index) {}
   Property<std::string> caption;
+  /// What it says should be heeded. The view makes it stand out with the next caption.
+  bool isWarning = false;
 };
 
 /// A titled box around other controls. Disabled, it takes them out of the user's reach.

@@ -6,7 +6,8 @@
 namespace tracewell {
 namespace {
 
-constexpr Colour gridColour{30, 58, 56};
+/// Three times as bright as the ground, so that it can be counted.
+constexpr Colour gridColour{64, 102, 98};
 constexpr Colour plotAreaColour{5, 8, 10};
 
 /// The part of `parts` with that name; the names are fixed, so a miss is a fault of the caller.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <QAbstractButton>
 #include <QAccessible>
+#include <QAction>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
@@ -21,6 +22,7 @@
 #include "QtValues.h"
 #include "TextGrowth.h"
 #include "Theme.h"
+#include "UnreadMark.h"
 
 namespace tracewell {
 namespace {
@@ -92,6 +94,60 @@ TEST_F(FormsTest, EveryWindowFitsASmallScreenInEveryLanguageWithNothingCut) {
       EXPECT_LE(dialog.height(), 660);
     });
   }
+}
+
+/// What lies under the marks is blank, or a row of one colour.
+Lines coveredBy(QWidget& form) {
+  Lines covered;
+  for (UnreadMark* mark : form.findChildren<UnreadMark*>()) {
+    if (!mark->isVisible()) continue;
+    QWidget& marked = *mark->parentWidget();
+    mark->hide();
+    const QImage under = marked.grab(mark->geometry()).toImage();
+    int most = 0;
+    for (int y = 0; y < under.height(); ++y)
+      for (int x = 1; x < under.width(); ++x)
+        most = qMax(most, qAbs(qGray(under.pixel(x, y)) - qGray(under.pixel(0, y))));
+    constexpr int shade = 12;
+    if (most > shade || !marked.rect().contains(mark->geometry()))
+      covered.push_back(fromQt(marked.objectName()));
+  }
+  return covered;
+}
+
+TEST_F(FormsTest, MarksCoverNoText) {
+  const auto mark = [](Window& window, QWidget& widget) {
+    for (Control* control : window.controls()) {
+      const bool isValue = dynamic_cast<ComboBox*>(control) != nullptr ||
+                           dynamic_cast<CheckBox*>(control) != nullptr ||
+                           dynamic_cast<OptionButton*>(control) != nullptr ||
+                           dynamic_cast<Slide*>(control) != nullptr;
+      if (!control->trust && (!isValue || widget.objectName() == QLatin1String("frmDSO"))) continue;
+      control->trust = [] { return Trust::unread; };
+      control->notifyChanged();
+    }
+    QApplication::processEvents();
+  };
+  form->resize(1024, 700);
+  main.cmdRunStop.visible = true;
+  for (MenuEntry* language :
+       {&main.mnbLA1, &main.mnbLA2, &main.mnbLA3, &main.mnbLA4, &main.mnbLA5}) {
+    language->choose();
+    SCOPED_TRACE(language->caption());
+    main.slideCH2.drag(-2);
+    main.lblChan1.caption = "500.0 mV";
+    main.shownMessages.cmdRunStop = 6;
+    mark(main, *form);
+    EXPECT_EQ(find("central")->size(), find<QScrollArea>("view")->viewport()->size());
+    EXPECT_EQ(coveredBy(*form), Lines());
+  }
+  forEachDialog([&mark](Window& window, QWidget& dialog) {
+    dialog.show();
+    mark(window, dialog);
+    dialog.adjustSize();
+    QApplication::processEvents();
+    EXPECT_EQ(coveredBy(dialog), Lines());
+  });
 }
 
 /// The graph has what the column of knobs leaves, and what is read from afar grows with the window.
@@ -187,6 +243,16 @@ TEST(DesktopWords, FollowTheLanguageInEveryWindowAndLeaveWhatIsShown) {
   EXPECT_EQ(mark->accessibleName(), QStringLiteral("not answered"));
 }
 
+/// The platform of the tests shows no files.
+TEST(ManualEntry, SaysWhereTheManualIsWhereNoProgramShowsIt) {
+  const ProgramFolderCopy folder;
+  DesktopProgram desktop(folder.path());
+  ASSERT_TRUE(desktop.start());
+  QWidget* form = desktop.windows.widgetOf(desktop.program.main.cmdStart)->window();
+  form->findChild<QAction*>(QStringLiteral("manual"))->trigger();
+  EXPECT_NE(desktop.program.main.lblStatus.caption().find("manual.md"), std::string::npos);
+}
+
 /// In processor time, which a busy machine does not stretch.
 TEST_F(FormsTest, LanguageChangesInAnInstant) {
   for (Window* window : program.otherWindows()) window->load();
@@ -203,6 +269,12 @@ TEST_F(FormsTest, WhatTheProgramSetsIsShown) {
   EXPECT_EQ(find<QLabel>("lblConnect")->text(), QStringLiteral("Stopped & idle"));
   EXPECT_EQ(find<QAbstractButton>("cmdStart")->text(), QStringLiteral("Run && stop"));
   EXPECT_TRUE(find<QAbstractButton>("cbCh2")->isChecked());
+  main.lblStatus.caption = "told";
+  const auto sign = [this] { return find("lblStatus")->grab(QRect(0, 0, 26, 16)).toImage(); };
+  const QImage plain = sign();
+  main.lblStatus.isWarning = true;
+  main.lblStatus.caption = "told again";
+  EXPECT_TRUE(sign() != plain);
   EXPECT_EQ(find<QPlainTextEdit>("txtMsg")->toPlainText(), QStringLiteral("1,2\n"));
   EXPECT_TRUE(takeWire().empty());
 }
@@ -292,6 +364,17 @@ TEST_F(FormsTest, EnterOnATypedModeTakesItAndNoMore) {
   EXPECT_EQ(presses, 0);
   QTest::keyClick(mode->lineEdit(), Qt::Key_Return);
   EXPECT_EQ(presses, 1);
+  // Tab goes to what the text has opened.
+  dialog->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(dialog.get()));
+  for (const char* name : {"Sample", "Average"}) {
+    mode->setFocus();
+    mode->lineEdit()->selectAll();
+    QTest::keyClicks(mode->lineEdit(), QLatin1String(name));
+    QTest::keyClick(mode->lineEdit(), Qt::Key_Tab);
+    EXPECT_EQ(window.cbMode.text(), name);
+  }
+  EXPECT_EQ(dialog->focusWidget()->objectName(), QStringLiteral("cbAverage"));
   unbindControls(window);
 }
 
@@ -328,9 +411,12 @@ TEST_F(FormsTest, CommandLineKeepsTheKeysThatEditIt) {
   ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
   auto* line = find<QLineEdit>("txtTest");
   line->setFocus();
-  QTest::keyClick(line, Qt::Key_A, Qt::ControlModifier);
   QTest::keyClick(line, Qt::Key_R, Qt::ControlModifier);
-  EXPECT_EQ(std::exchange(windows.shown, {}), (Lines{"frmAcq", "frmRS232"}));
+  EXPECT_EQ(std::exchange(windows.shown, {}), Lines{"frmRS232"});
+  // Also where there is nothing to edit: what is typed behind them belongs to the line.
+  for (const Qt::Key key : {Qt::Key_A, Qt::Key_Z, Qt::Key_X, Qt::Key_C, Qt::Key_Backspace})
+    QTest::keyClick(line, key, Qt::ControlModifier);
+  EXPECT_TRUE(windows.shown.empty());
   QTest::keyClicks(line, QStringLiteral("*IDN?"));
   QTest::keyClick(line, Qt::Key_A, Qt::ControlModifier);
   EXPECT_EQ(line->selectedText(), QStringLiteral("*IDN?"));

@@ -69,6 +69,32 @@ TEST_F(FrontPanelTest, KnobTurnsWithTheCapAndStopsAtItsEnds) {
   EXPECT_EQ(find<QLabel>("slideCH1_caption")->text(), toQt(main.slideCH1.caption()));
 }
 
+TEST_F(FrontPanelTest, KnobTakesATypedValue) {
+  const std::tuple<const char*, int, const char*, int> cases[] = {
+      // From a detent, what is typed, to a detent.
+      {"knobChan1", 0, "500m", 7}, {"knobChan1", 0, ".5V", 7}, {"knobChan1", 0, "500", 7},
+      {"knobChan1", 8, "2", 9},    {"knobChan1", 4, "2", 0},   {"knobChan1", 3, "300m", 6},
+      {"knobTime", 16, "20", 12},  {"knobTime", 3, "20", 3},   {"knobTime", 16, "20N", 3},
+      {"knobTime", 5, "99s", 28},  {"knobTime", 28, "0", 28},  {"knobTime", 28, "..", 28},
+      {"knobTime", 9, ".5m", 16},
+  };
+  for (const auto& [name, from, typed, wanted] : cases) {
+    SCOPED_TRACE(testing::Message() << name << " " << typed);
+    auto& knob = name == std::string("knobTime") ? main.knobTime : main.knobChan1;
+    knob.value = from;
+    QTest::keyClicks(find(name), QString::fromLatin1(typed));
+    EXPECT_EQ(knob.value(), from);
+    QTest::keyClick(find(name), Qt::Key_Return);
+    EXPECT_EQ(knob.value(), wanted);
+  }
+  for (const Qt::Key givesUp : {Qt::Key_Escape, Qt::Key_Backspace}) {
+    QTest::keyClick(find("knobTime"), Qt::Key_1);
+    QTest::keyClick(find("knobTime"), givesUp);
+    QTest::keyClick(find("knobTime"), Qt::Key_Return);
+    EXPECT_EQ(main.knobTime.value(), 16);
+  }
+}
+
 /// A user with real windows: by mouse, or by keyboard. What there is no simple way for with either,
 /// such as a slide's exact value, the control does by itself.
 class Hands : public Played {

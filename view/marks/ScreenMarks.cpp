@@ -58,7 +58,13 @@ std::vector<std::string> voltageLines(const frmDSO& main, const Channel& channel
                                       const Cursor& cur1, const Cursor& cur2) {
   const std::optional<double> scale = voltsOfTrace(main, channel);
   if (!scale) return {};
-  return voltageBadge(*scale, zeroOf(main, channel), cur1.yPosition(), cur2.yPosition());
+  const std::optional<double> zero = zeroOf(main, channel);
+  std::vector<std::string> lines = voltageBadge(*scale, zero, cur1.yPosition(), cur2.yPosition());
+  // The read-out below the graph counts from its centre.
+  if (zero)
+    lines.insert(lines.begin(),
+                 main.services().words.say("from the zero of %1:", {channel.display.caption()}));
+  return lines;
 }
 
 /// Volts in the colour of the channel whose scale counts.
