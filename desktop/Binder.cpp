@@ -5,7 +5,6 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QGraphicsOpacityEffect>
 #include <QGroupBox>
 #include <QIcon>
 #include <QLabel>
@@ -52,23 +51,6 @@ Object* findObject(const Control& control, QWidget& form) {
     throw Error(invalidProcedureCall, "Tracewell",
                 "The form of " + control.owner().name() + " has no proper " + control.objectName());
   return object;
-}
-
-/// As pale as text can be and still be read; on a button less so than on a panel.
-constexpr qreal paleOpacity = 0.7;
-constexpr qreal paleButtonOpacity = 0.9;
-
-/// Without an effect where nothing is pale: an effect costs a picture of its own at each painting.
-void showPale(QWidget& widget, bool isPale) {
-  if (auto* knob = qobject_cast<KnobWidget*>(&widget)) knob->setPale(isPale);
-  if (auto* slide = qobject_cast<SlideWidget*>(&widget)) slide->setPale(isPale);
-  if (isPale == (widget.graphicsEffect() != nullptr)) return;
-  if (!isPale) return widget.setGraphicsEffect(nullptr);
-  auto* effect = new QGraphicsOpacityEffect(&widget);
-  const bool isButton = qobject_cast<QAbstractButton*>(&widget) != nullptr ||
-                        qobject_cast<QComboBox*>(&widget) != nullptr;
-  effect->setOpacity(isButton ? paleButtonOpacity : paleOpacity);
-  widget.setGraphicsEffect(effect);
 }
 
 /// Shows the control now and whenever it changes. The signals of its object are held back

@@ -64,6 +64,8 @@ class DesktopWindows::Form : public QObject {
     widget_->removeEventFilter(this);
     widget_->hide();
     // Possibly in the middle of one of its own events.
+    // What it still loses, as the focus, must not reach controls that may be gone by then.
+    for (QObject* part : widget_->findChildren<QObject*>()) part->disconnect();
     widget_.release()->deleteLater();
   }
 

@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QEvent>
+#include <QGraphicsOpacityEffect>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
@@ -14,11 +15,15 @@
 #include "DesktopWords.h"
 #include "ElidedLabel.h"
 #include "KnobWidget.h"
+#include "SlideWidget.h"
 
 namespace tracewell {
 namespace {
 
 constexpr int side = 13;
+/// As pale as text can be and still be read; on a button less so than on a panel.
+constexpr qreal paleOpacity = 0.7;
+constexpr qreal paleButtonOpacity = 0.9;
 
 /// Its letters stand closer where there is no room for the mark behind them: a window that fits the
 /// screen has it without.
@@ -56,6 +61,19 @@ QString meaning() {
 }
 
 }  // namespace
+
+/// Without an effect where nothing is pale: an effect costs a picture of its own at each painting.
+void showPale(QWidget& widget, bool isPale) {
+  if (auto* knob = qobject_cast<KnobWidget*>(&widget)) knob->setPale(isPale);
+  if (auto* slide = qobject_cast<SlideWidget*>(&widget)) slide->setPale(isPale);
+  if (isPale == (widget.graphicsEffect() != nullptr)) return;
+  if (!isPale) return widget.setGraphicsEffect(nullptr);
+  auto* effect = new QGraphicsOpacityEffect(&widget);
+  const bool isButton = qobject_cast<QAbstractButton*>(&widget) != nullptr ||
+                        qobject_cast<QComboBox*>(&widget) != nullptr;
+  effect->setOpacity(isButton ? paleButtonOpacity : paleOpacity);
+  widget.setGraphicsEffect(effect);
+}
 
 void UnreadMark::show(QWidget& marked, bool isUnread) {
   auto* mark = marked.findChild<UnreadMark*>(QString(), Qt::FindDirectChildrenOnly);

@@ -26,4 +26,7 @@ class UnreadMark : public QWidget {
   void toPlace();
 };
 
+/// Dims a widget whose value belongs to what is no longer there, or shows it as it is.
+void showPale(QWidget& widget, bool isPale);
+
 }  // namespace tracewell

@@ -3,12 +3,10 @@
 #include <QAccessible>
 #include <QAction>
 #include <QComboBox>
-#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
-#include <QScrollArea>
 #include <QTest>
 #include <QTimer>
 #include <QTreeWidget>
@@ -20,170 +18,12 @@
 #include "GraphView.h"
 #include "MainFormTest.h"
 #include "QtValues.h"
-#include "TextGrowth.h"
 #include "Theme.h"
-#include "UnreadMark.h"
 
 namespace tracewell {
 namespace {
 
-class FormsTest : public MainFormTest {
- protected:
-  /// Does something to a window and the widgets bound to it.
-  static void bound(Window& window, const std::function<void(Window&, QWidget&)>& act) {
-    SCOPED_TRACE(window.name());
-    const auto dialog = makeForm(window.name(), nullptr);
-    bindControls(window, *dialog);
-    act(window, *dialog);
-    unbindControls(window);
-  }
-  void forEachDialog(const std::function<void(Window&, QWidget&)>& act) {
-    for (Window* window : program.otherWindows()) bound(*window, act);
-  }
-};
-
-/// Text that its widget has no room for.
-Lines cutTexts(QWidget& form) {
-  Lines cut;
-  for (const QWidget* widget : form.findChildren<QWidget*>()) {
-    const auto* button = qobject_cast<const QAbstractButton*>(widget);
-    const auto* label = qobject_cast<const QLabel*>(widget);
-    const auto* box = qobject_cast<const QGroupBox*>(widget);
-    const bool isOurs = !widget->objectName().startsWith(QLatin1String("qt_"));
-    if (!isOurs || !widget->isVisible() || (label != nullptr && label->wordWrap())) continue;
-    const QString text = button != nullptr  ? button->text()
-                         : label != nullptr ? label->text()
-                         : box != nullptr   ? box->title()
-                                            : QString();
-    const int needed =
-        qMax(widget->minimumSizeHint().width(),
-             widget->fontMetrics().horizontalAdvance(text) + (box != nullptr ? 18 : 0));
-    if (!text.isEmpty() && widget->width() < needed) cut.push_back(fromQt(text));
-  }
-  return cut;
-}
-
-bool isShortened(const QWidget& form) {
-  return std::ranges::any_of(form.findChildren<QLabel*>(), [](const QLabel* label) {
-    return label->text().endsWith(QChar(0x2026));
-  });
-}
-
-TEST_F(FormsTest, EveryWindowFitsASmallScreenInEveryLanguageWithNothingCut) {
-  for (MenuEntry* language :
-       {&main.mnbLA1, &main.mnbLA2, &main.mnbLA3, &main.mnbLA4, &main.mnbLA5}) {
-    language->choose();
-    SCOPED_TRACE(language->caption());
-    main.lblConnect.caption = main.state.Msg[9];
-    main.cmdStart.caption = main.state.Msg[3];
-    main.lblTest.visible = true;
-    QApplication::processEvents();
-    form->resize(1024, 700);
-    QApplication::processEvents();
-    EXPECT_EQ(find("central")->size(), find<QScrollArea>("view")->viewport()->size());
-    EXPECT_EQ(cutTexts(*form), Lines());
-    EXPECT_FALSE(isShortened(*form));
-    forEachDialog([](Window&, QWidget& dialog) {
-      dialog.show();
-      QApplication::processEvents();
-      dialog.adjustSize();
-      QApplication::processEvents();
-      EXPECT_EQ(cutTexts(dialog), Lines());
-      EXPECT_FALSE(isShortened(dialog));
-      EXPECT_LE(dialog.width(), 1024);
-      EXPECT_LE(dialog.height(), 660);
-    });
-  }
-}
-
-/// What lies under the marks is blank, or a row of one colour.
-Lines coveredBy(QWidget& form) {
-  Lines covered;
-  for (UnreadMark* mark : form.findChildren<UnreadMark*>()) {
-    if (!mark->isVisible()) continue;
-    QWidget& marked = *mark->parentWidget();
-    mark->hide();
-    const QImage under = marked.grab(mark->geometry()).toImage();
-    int most = 0;
-    for (int y = 0; y < under.height(); ++y)
-      for (int x = 1; x < under.width(); ++x)
-        most = qMax(most, qAbs(qGray(under.pixel(x, y)) - qGray(under.pixel(0, y))));
-    constexpr int shade = 12;
-    if (most > shade || !marked.rect().contains(mark->geometry()))
-      covered.push_back(fromQt(marked.objectName()));
-  }
-  return covered;
-}
-
-TEST_F(FormsTest, MarksCoverNoText) {
-  const auto mark = [](Window& window, QWidget& widget) {
-    for (Control* control : window.controls()) {
-      const bool isValue = dynamic_cast<ComboBox*>(control) != nullptr ||
-                           dynamic_cast<CheckBox*>(control) != nullptr ||
-                           dynamic_cast<OptionButton*>(control) != nullptr ||
-                           dynamic_cast<Slide*>(control) != nullptr;
-      if (!control->trust && (!isValue || widget.objectName() == QLatin1String("frmDSO"))) continue;
-      control->trust = [] { return Trust::unread; };
-      control->notifyChanged();
-    }
-    QApplication::processEvents();
-  };
-  form->resize(1024, 700);
-  main.cmdRunStop.visible = true;
-  for (MenuEntry* language :
-       {&main.mnbLA1, &main.mnbLA2, &main.mnbLA3, &main.mnbLA4, &main.mnbLA5}) {
-    language->choose();
-    SCOPED_TRACE(language->caption());
-    main.slideCH2.drag(-2);
-    main.lblChan1.caption = "500.0 mV";
-    main.shownMessages.cmdRunStop = 6;
-    mark(main, *form);
-    EXPECT_EQ(find("central")->size(), find<QScrollArea>("view")->viewport()->size());
-    EXPECT_EQ(coveredBy(*form), Lines());
-  }
-  forEachDialog([&mark](Window& window, QWidget& dialog) {
-    dialog.show();
-    mark(window, dialog);
-    dialog.adjustSize();
-    QApplication::processEvents();
-    EXPECT_EQ(coveredBy(dialog), Lines());
-  });
-}
-
-/// The graph has what the column of knobs leaves, and what is read from afar grows with the window.
-TEST_F(FormsTest, GraphTakesAllSpareRoomAndItsTextsGrow) {
-  main.lblStatus.caption = "Saved";
-  main.lblAge.caption = "CH1: unchanged for 12 s";
-  const auto* strip = find("graphDSO")->findChild<QWidget*>(QStringLiteral("scales"));
-  const auto* overlay = find("plot")->findChild<QWidget*>(QStringLiteral("marks"));
-  struct Case {
-    QSize size;
-    int column, scales, text;
-  };
-  for (const auto& [size, column, scales, text] :
-       {Case{{1024, 700}, 420, 16, 12}, Case{{1280, 800}, 480, 16, 12},
-        Case{{1920, 1080}, 480, 20, 16}, Case{{1920, 700}, 480, 16, 12},
-        Case{{2560, 1440}, 480, 28, 21}, Case{{3840, 2160}, 480, 40, 32}}) {
-    SCOPED_TRACE(testing::Message() << size.width() << " x " << size.height());
-    form->resize(size);
-    QApplication::processEvents();
-    EXPECT_EQ(find("central")->size(), find<QScrollArea>("view")->viewport()->size());
-    const int graph = find("graphDSO")->width();
-    EXPECT_LE(find("column")->width(), column);
-    EXPECT_EQ(graph + find("column")->width() + 30, size.width());
-    EXPECT_GE(pixelsOf(*strip), scales);
-    for (const QWidget* widget :
-         std::initializer_list<const QWidget*>{overlay, find("lblStatus"), find("lblAge")})
-      EXPECT_GE(pixelsOf(*widget), text);
-    EXPECT_EQ(cutTexts(*form), Lines());
-    EXPECT_FALSE(isShortened(*form));
-    main.graphDSO.toggleEnlarged();
-    QApplication::processEvents();
-    EXPECT_EQ(find("graphDSO")->width() + 20, size.width());
-    EXPECT_TRUE(strip->isVisible());
-    main.graphDSO.toggleEnlarged();
-  }
-}
+using FormsTest = EveryFormTest;
 
 /// What a screen reader says of a control: its caption in the chosen language, or a name of its
 /// own.

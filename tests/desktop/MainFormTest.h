@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QTest>
 #include <QWidget>
+#include <functional>
 
 #include "Bench.h"
 #include "Binder.h"
@@ -31,6 +32,22 @@ class MainFormTest : public ProgramTest {
   }
 
   std::unique_ptr<QWidget> form;
+};
+
+/// With the other windows, too.
+class EveryFormTest : public MainFormTest {
+ protected:
+  /// Does something to a window and the widgets bound to it.
+  static void bound(Window& window, const std::function<void(Window&, QWidget&)>& act) {
+    SCOPED_TRACE(window.name());
+    const auto dialog = makeForm(window.name(), nullptr);
+    bindControls(window, *dialog);
+    act(window, *dialog);
+    unbindControls(window);
+  }
+  void forEachDialog(const std::function<void(Window&, QWidget&)>& act) {
+    for (Window* window : program.otherWindows()) bound(*window, act);
+  }
 };
 
 }  // namespace tracewell
