@@ -9,44 +9,29 @@ TEST_F(LineNoticeTest, SaysWhatIsWrongOnTheLineAsLongAsItIs) {
   const std::int64_t then = clock.milliseconds();
   const LineReport::Tally once{1, then};
   const LineReport::Tally often{3, then};
-  const struct {
-    std::function<void(LineReport&)> change;
-    const char* expected;
-  } cases[] = {
-      {[&](LineReport& report) { report.unaskedBytes = once; },
-       "Bytes that nobody asked for: 1 in a minute"},
-      {[&](LineReport& report) {
-         report.shortRecords = once;
-         report.cameOfRecord = 1013;
-         report.lengthOfRecord = 1014;
-       },
-       "Records stay short: 1013 of 1014 bytes came"},
-      {[&](LineReport& report) {
-         report.shortRecords = once;
-         report.lastRecordAt = then + 1;
-       },
-       ""},
-      {[&](LineReport& report) {
-         report.shortRecords = often;
-         report.lastRecordAt = then + 1;
-       },
-       "Records stay short: 0 of 0 bytes came"},
-      {[&](LineReport& report) { report.lateRecords = often; },
-       "Records that came too late: 3 in a minute"},
-      {[&](LineReport& report) { report.endlessReplies = often; },
-       "Answers without a line end: 3 in a minute"},
-      {[&](LineReport& report) { report.missingRecords = once; }, ""},
-      {[&](LineReport& report) {
-         report.missingRecords = often;
-         report.unaskedBytes = often;
-       },
+  using Report = LineReport;
+  using Happened = std::vector<std::pair<Report::Tally Report::*, Report::Tally>>;
+  // What has happened, and whether a record has come since.
+  const std::tuple<Happened, bool, const char*> cases[] = {
+      {{{&Report::unaskedBytes, once}}, false, "Bytes that nobody asked for: 1 in a minute"},
+      {{{&Report::shortRecords, once}}, false, "Records stay short: 1013 of 1014 bytes came"},
+      {{{&Report::shortRecords, once}}, true, ""},
+      {{{&Report::shortRecords, often}}, true, "Records stay short: 1013 of 1014 bytes came"},
+      {{{&Report::lateRecords, often}}, false, "Records that came too late: 3 in a minute"},
+      {{{&Report::endlessReplies, often}}, false, "Answers without a line end: 3 in a minute"},
+      {{{&Report::missingRecords, once}}, false, ""},
+      {{{&Report::missingRecords, often}, {&Report::unaskedBytes, often}},
+       false,
        "Bytes that nobody asked for: 3 in a minute; Records that did not come: 3 in a minute"},
-      // Nobody asks for records.
-      {[&](LineReport& report) { report.noRecordSince = then - 30000; }, ""},
-      {[](LineReport&) {}, ""}};
-  for (const auto& [change, expected] : cases) {
+      {{}, false, ""}};
+  for (const auto& [happened, isOver, expected] : cases) {
     port.lineReport = {};
-    change(port.lineReport);
+    for (const auto& [what, tally] : happened) port.lineReport.*what = tally;
+    if (isOver) port.lineReport.lastRecordAt = then + 1;
+    port.lineReport.cameOfRecord = 1013;
+    port.lineReport.lengthOfRecord = 1014;
+    // Nobody asks for records.
+    port.lineReport.noRecordSince = then - 30000;
     clock.run(1100);
     EXPECT_EQ(main.lblStatus.caption(), expected);
   }
