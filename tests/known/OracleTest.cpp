@@ -45,13 +45,13 @@ class Ports : public ChannelOpener {
  private:
   struct Channel : PacedChannel {
     explicit Channel(Ports& ports)
-        : PacedChannel(ports.line->end, ports.clock_), owner(ports), kept(ports.line) {
-      ports.open_ = this;
+        : PacedChannel(ports.line->end, ports.clock_), open(ports.open_), kept(ports.line) {
+      open = this;
     }
     ~Channel() override {
-      if (owner.open_ == this) owner.open_ = nullptr;
+      if (open == this) open = nullptr;
     }
-    Ports& owner;
+    Channel*& open;
     std::shared_ptr<Plugged> kept;
   };
   VirtualClock& clock_;
@@ -95,8 +95,8 @@ class Oracle : public BenchOf<OnALine<Ports>> {
     port.settings.portNumber = 3;
     for (int row = 2; row <= 5; ++row) setRow(row, {"1", "0", "1", "0", "0", "1", "0", "0"});
     for (const std::int16_t number : {std::int16_t{3}, std::int16_t{4}}) plugIn(number, nullptr);
-    playDialogs();
     listActs();
+    windows.opened = [this](Window& window) { playIn(window); };
     clock.meanwhile = [this] { whileTimePasses(); };
     clipboard.told = [this](const std::string& table, const Image&) { lookAtTable(table); };
   }
@@ -430,56 +430,36 @@ class Oracle : public BenchOf<OnALine<Ports>> {
     if (depth_ == 1 && !isModal_ && !gate.isHeld() && oneIn(4000)) act();
   }
 
-  /// `user` sets something, then leaves by OK or by Cancel.
-  template <class Dialog>
-  void inDialog(const char* name, Dialog& dialog, std::function<void()> user) {
-    windows.user[name] = [this, &dialog, user] {
-      isModal_ = true;
-      if (oneIn(3)) run(below(3000));
-      user();
-      if constexpr (requires { dialog.cmdSelect; }) {
-        if (oneIn(2)) dialog.cmdSelect.press();
-        dialog.cmdClose.press();
-      } else {
-        (oneIn(3) ? dialog.cmdCancel : dialog.cmdOK).press();
-      }
-      isModal_ = false;
-    };
+  void use(Control& control) {
+    if (auto* button = dynamic_cast<Button*>(&control)) return button->press();
+    if (auto* entry = dynamic_cast<MenuEntry*>(&control)) return entry->choose();
+    if (auto* box = dynamic_cast<CheckBox*>(&control)) return box->toggle();
+    if (auto* option = dynamic_cast<OptionButton*>(&control)) return option->select();
+    if (auto* slide = dynamic_cast<Slide*>(&control)) return drag(*slide);
+    if (auto* knob = dynamic_cast<Knob*>(&control))
+      return knob->turn(below(static_cast<int>(knob->detents().size())));
+    if (auto* box = dynamic_cast<ComboBox*>(&control); box && !box->items().empty())
+      box->choose(below(static_cast<int>(box->items().size())));
   }
 
-  void choose(ControlArray<OptionButton>& options) { options(below(options.size())).select(); }
-
-  void playDialogs() {
-    inDialog("frmRS232", program.rs232, [this] {
+  /// Uses some controls of a dialog, then leaves by any of its buttons.
+  void playIn(Window& window) {
+    isModal_ = true;
+    if (oneIn(3)) run(below(3000));
+    std::vector<Button*> buttons;
+    for (Control* control : window.controls())
+      if (auto* button = dynamic_cast<Button*>(control))
+        buttons.push_back(button);
+      else if (oneIn(4))
+        use(*control);
+    if (&window == &program.rs232) {
+      program.rs232.cbRS232(0).choose(1 + below(5));
       program.rs232.cbRS232(4).type(oneIn(10) ? "9" : oneIn(3) ? "4" : "3");
-      if (oneIn(4)) program.rs232.cbRS232(0).choose(1 + below(5));
-    });
-    inDialog("frmChannel", program.channelDialog, [this] {
-      if (oneIn(2)) program.channelDialog.cbCh(below(3)).toggle();
-      if (oneIn(2)) choose(program.channelDialog.obCoupling);
-      if (oneIn(2)) choose(program.channelDialog.obProbe);
-    });
-    inDialog("frmTrig", program.trigger, [this] {
-      for (ComboBox& box : program.trigger.cbTrig)
-        if (oneIn(2)) box.choose(below(static_cast<int>(box.items().size())));
-    });
-    inDialog("frmChDiv", program.channelScale, [this] { choose(program.channelScale.opVDiv); });
-    inDialog("frmTimeDiv", program.timeScale, [this] { choose(program.timeScale.obTimeDiv); });
-    inDialog("frmAcq", program.acquire, [] {});
-    inDialog("frmDisplay", program.display,
-             [this] { program.display.slideDataBrightness.drag(below(100)); });
-    inDialog("frmVMeasure", program.measurementChoice,
-             [this] { program.measurementChoice.cbV(below(16)).toggle(); });
-    inDialog("frmFMeasure", program.quickMeasurementChoice,
-             [this] { program.quickMeasurementChoice.cbChan.choose(below(2)); });
-    inDialog("frmGraph", program.graphStyle, [] {});
-    windows.user["frmCmd"] = [this] {
-      isModal_ = true;
-      program.console.txtCmd.type(typedLine());
-      program.console.cmdRun.press();
-      program.console.cmdOK.press();
-      isModal_ = false;
-    };
+    }
+    program.console.txtCmd.type(typedLine());
+    for (int i = below(3); i >= 0 && !buttons.empty(); --i) buttons[below(buttons.size())]->press();
+    window.close();
+    isModal_ = false;
   }
 
   /// Here @ is a channel, # a number, $ a scale and % one of two.
@@ -501,6 +481,10 @@ class Oracle : public BenchOf<OnALine<Ports>> {
               : c == '%' ? oneOf({"0", "1"})
                          : std::string(1, c);
     return line;
+  }
+
+  void moveCursor(const char* name) {
+    main.graphDSO.dragCursor(main.graphDSO.cursor(name), below(500) - 250, below(400) - 200);
   }
 
   void drag(Slide& slide) {
@@ -546,71 +530,40 @@ class Oracle : public BenchOf<OnALine<Ports>> {
   }
 
   void listActs() {
-    const auto add = [this](int chances, std::function<void()> act) {
-      acts_.emplace_back(chances, std::move(act));
-    };
-    for (const auto& [chances, button] :
-         std::initializer_list<std::pair<int, Button*>>{{1, &main.cmdStart},
-                                                        {1, &main.cmdRS232},
-                                                        {1, &main.cmdRunStop},
-                                                        {1, &main.cmdChannel1},
-                                                        {1, &main.cmdTime},
-                                                        {1, &main.cmdChannel2},
-                                                        {3, &main.cmdCh1},
-                                                        {3, &main.cmdCh2},
-                                                        {2, &main.cmdTrig},
-                                                        {3, &main.cmdAcq},
-                                                        {4, &main.cmdGraph},
-                                                        {3, &main.cmdDisplay},
-                                                        {4, &main.cmdAutoset},
-                                                        {3, &main.cmdDSOcmd},
-                                                        {3, &main.cmdVMeasure},
-                                                        {2, &main.cmdFMeasure}})
-      add(chances, [button = button] { button->press(); });
-    for (const auto& [chances, entry] :
-         std::initializer_list<std::pair<int, MenuEntry*>>{{2, &main.mnbFrequency},
-                                                           {2, &main.mnbRS232},
-                                                           {12, &main.mnbLA1},
-                                                           {12, &main.mnbLA2},
-                                                           {12, &main.mnbLA3}})
-      add(chances, [entry = entry] { entry->choose(); });
-    for (Channel& channel : main.channels) {
-      add(1, [this, &channel] { channel.knob.turn(below(11)); });
-      add(1, [this, &channel] { drag(channel.slide); });
-      add(1, [&channel] { channel.display.toggle(); });
-    }
-    for (Slide* slide : {&main.slideTime, &main.slideTrig}) add(1, [this, slide] { drag(*slide); });
-    for (const int longest : {1500, 6000, 6000, 6000, 12000})
-      add(1, [this, longest] { run(below(longest)); });
-    add(1, [this] { main.knobTime.turn(below(29)); });
-    add(1, [this] {
-      if (!main.tmDSO.enabled()) main.cmdStart.press();
-    });
-    add(1, [this] {
-      if (!main.LinkOK) main.cmdRS232.press();
-    });
-    add(1, [this] { main.cbMath.choose(oneIn(2) ? 3 : below(4)); });
-    add(1, [this] {
-      main.txtTest.type(typedLine());
-      main.cmdTest.press();
-    });
-    add(1, [this] { main.graphDSO.toggleEnlarged(); });
-    add(1, [this] {
-      oneOf({&main.opOff, &main.opTime, &main.opVoltage})->select();
-      main.cbCurChan.choose(below(2));
-    });
-    add(1, [this] {
-      Cursor& cursor = main.graphDSO.cursor(oneOf({"cur1", "cur2"}));
-      main.graphDSO.dragCursor(cursor, below(500) - 250, below(400) - 200);
-    });
-    add(1, [this] { main.graphDSO.copy(Graph::Copied::values); });
-    add(1, [this] { trouble(); });
-    add(1, [this] { busyUntil_ = late_ = lost_ = failing_ = 0; });
-    add(3, [this] { replug(); });
-    add(1, [this] {
-      if (TrueInstrument* is = truth()) is->isTriggered = oneIn(2);
-    });
-    add(1, [this] { useOwnPanel(); });
+    const Lines often = partsOf(
+        "cmdStart cmdRS232 cmdRunStop cmdTest cmdChannel1 cmdChannel2 cmdTime cmdTrig cmdFMeasure "
+        "knobChan1 knobChan2 knobTime slideCH1 slideCH2 slideTime slideTrig cbCh1 cbCh2 cbMath",
+        ' ');
+    const Lines seldom = partsOf(
+        "cmdCh1 cmdCh2 cmdAcq cmdDisplay cmdAutoset cmdDSOcmd cmdVMeasure cmdGraph mnbFrequency "
+        "mnbRS232 mnbLA1 mnbLA2 mnbLA3 opOff opTime opVoltage cbCurChan cbMath",
+        ' ');
+    for (Control* control : main.controls())
+      for (const auto& [names, chances] : {std::pair(&often, 1), std::pair(&seldom, 3)})
+        if (std::ranges::find(*names, control->name()) != names->end())
+          acts_.emplace_back(chances, [this, control] { use(*control); });
+    const std::pair<int, std::function<void()>> others[] = {
+        {1, [this] { run(below(1500)); }},
+        {1, [this] { run(below(6000)); }},
+        {1, [this] { run(below(6000)); }},
+        {1, [this] { run(below(6000)); }},
+        {1, [this] { run(below(12000)); }},
+        {1, [this] { main.tmDSO.enabled() ? void() : main.cmdStart.press(); }},
+        {1, [this] { main.LinkOK ? void() : main.cmdRS232.press(); }},
+        {1, [this] { main.cbMath.choose(3); }},
+        {1, [this] { main.txtTest.type(typedLine()); }},
+        {1, [this] { main.graphDSO.toggleEnlarged(); }},
+        {1, [this] { main.graphDSO.copy(Graph::Copied::values); }},
+        {1,
+         [this] {
+           moveCursor(oneOf({"cur1", "cur2"}));
+         }},
+        {1, [this] { trouble(); }},
+        {1, [this] { busyUntil_ = late_ = lost_ = failing_ = 0; }},
+        {3, [this] { replug(); }},
+        {1, [this] { opener.plugged[3]->instrument->isTriggered = oneIn(2); }},
+        {1, [this] { useOwnPanel(); }}};
+    acts_.insert(acts_.end(), std::begin(others), std::end(others));
   }
 
   TrueInstrument::History history_;
