@@ -183,6 +183,11 @@ class Oracle : public BenchOf<OnALine<Ports>> {
     if (++count == 1) first = shown + " at action " + std::to_string(actions);
   }
 
+  void expectNear(double shown, double truth, double within, const char* cause,
+                  const std::string& text = "") {
+    expect(isNear(shown, truth, within), cause, text);
+  }
+
   static bool holds(const Control& control) {
     return !control.trust || control.trust() == Trust::holds;
   }
@@ -275,10 +280,10 @@ class Oracle : public BenchOf<OnALine<Ports>> {
       const double units = x == 100 ? 100 : sweep.counts(channel.index(), sample);
       for (const auto& [plot, text] : main.graphDSO.valuesAt(x, zero + units)) {
         if (plot == 0)
-          expect(isNear(plain(text), x / 50 * sweep.seconds, sweep.seconds / 100),
-                 "pointer: seconds", text);
+          expectNear(plain(text), x / 50 * sweep.seconds, sweep.seconds / 100, "pointer: seconds",
+                     text);
         if (plot == channel.number)
-          expect(isNear(plain(text), units / 50 * volts, volts / 100), "pointer: volts", text);
+          expectNear(plain(text), units / 50 * volts, volts / 100, "pointer: volts", text);
       }
     }
   }
@@ -326,9 +331,8 @@ class Oracle : public BenchOf<OnALine<Ports>> {
     for (const auto& [plot, text] : marks.badge) {
       if (text.find("different sweeps") != std::string::npos) isOfOneSweep = false;
       const double shown = plain(text.substr(std::min(text.find("= ") + 2, text.size())));
-      const auto compare = [&, shown = shown, &text = text](double units, double scale,
-                                                            const char* cause) {
-        expect(isNear(shown, units / 50 * scale, scale / 100), cause, text);
+      const auto compare = [&, &its = text](double units, double scale, const char* cause) {
+        expectNear(shown, units / 50 * scale, scale / 100, cause, its);
       };
       for (Channel& channel : main.channels) {
         const Sweep* sweep = sweeps[channel.index()];
@@ -409,15 +413,15 @@ class Oracle : public BenchOf<OnALine<Ports>> {
         const Sweep* sweep = traceOf(channel);
         if (!sweep) continue;
         if (sweep->isOfOwnPanel) return;
-        const auto compare = [&](std::size_t place, const char* unit, double truth,
-                                 const char* cause) {
-          if (!heads.at(place).ends_with(unit)) return;
-          expect(isNear(std::atof(cells.at(place).c_str()), truth), cause, lines[line]);
-        };
-        compare(0, "(s)", (row - 250) / 50.0 * sweep->seconds, "table: seconds");
-        compare(column++, "(V)",
-                sweep->counts(channel.index(), row) / 50.0 * sweep->volts(channel.index()),
-                "table: volts");
+        const double volts = sweep->volts(channel.index());
+        const double units = sweep->counts(channel.index(), row);
+        if (heads[0].ends_with("(s)"))
+          expectNear(std::atof(cells[0].c_str()), (row - 250) / 50.0 * sweep->seconds, 0,
+                     "table: seconds", lines[line]);
+        if (heads.at(column).ends_with("(V)"))
+          expectNear(std::atof(cells.at(column).c_str()), units / 50 * volts, 0, "table: volts",
+                     lines[line]);
+        ++column;
       }
     }
   }

@@ -3,18 +3,14 @@
 
 #include <algorithm>
 #include <array>
-#include <cctype>
 #include <cmath>
-#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
-#include <limits>
 #include <map>
 #include <numbers>
 #include <random>
 #include <string>
-#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -41,7 +37,7 @@ class TrueInstrument {
     bool isMath(std::size_t channel) const { return math != 0 && channel == (math == 3 ? 1 : 0); }
     /// Near to nothing for math.
     double volts(std::size_t channel) const {
-      return isMath(channel) ? std::numeric_limits<double>::quiet_NaN() : scales[channel];
+      return isMath(channel) ? std::nan("") : scales[channel];
     }
     double signal(std::size_t channel, int sample) const {
       const double time = (sample - 250) / 50.0 * seconds;
@@ -60,13 +56,12 @@ class TrueInstrument {
     double offset = 0;
     double probe = 1;
   };
-  /// What a measurement depends on.
-  using Signal = std::tuple<std::string, std::string, std::string, double, double>;
   struct Measured {
     int instrument;
     std::size_t channel;
     std::string item;
-    Signal signal;
+    /// What it depends on.
+    std::string signal;
   };
   /// Of all instruments of a trial.
   struct History {
@@ -105,12 +100,11 @@ class TrueInstrument {
   /// Its own panel has been used since it was asked for everything.
   bool isOfOwnPanel = false;
 
-  Signal signal(std::size_t channel) const {
+  std::string signal(std::size_t channel) const {
     const std::string stem = channel == 0 ? "CHAN1:" : "CHAN2:";
-    const std::string input =
-        others_.at(stem + "COUP") + others_.at(stem + "INV") + others_.at(stem + "BWL");
-    const Channel& its = channels[channel];
-    return {text(its.volts, "V"), input, text(seconds, "s"), math, its.probe};
+    std::string depended = text(channels[channel].volts, "V") + text(seconds, "s");
+    for (const char* input : {"COUP", "INV", "BWL"}) depended += others_.at(stem + input) + ",";
+    return depended + std::to_string(math) + "," + std::to_string(channels[channel].probe);
   }
 
   /// What it sends back to a line.
@@ -173,11 +167,6 @@ class TrueInstrument {
   }
 
  private:
-  struct Number {
-    double& value;
-    std::string unit;
-  };
-
   int below(int limit) { return history_.below(limit); }
 
   std::string obey(const std::string& part) {
@@ -203,7 +192,7 @@ class TrueInstrument {
     const double number = std::atof(value.c_str());
     hasChanged_ = true;
     if (const auto named = numbers_.find(header); named != numbers_.end()) {
-      if (number > 0 || !header.ends_with(":SCAL")) named->second.value = number;
+      if (number > 0 || !header.ends_with(":SCAL")) named->second.first = number;
     } else if (header.ends_with(":PROB")) {
       Channel& channel = channels[header[4] == '2' ? 1 : 0];
       const double probe = std::pow(10, number);
@@ -255,8 +244,8 @@ class TrueInstrument {
     const std::string number = std::to_string(sent.number);
     std::string bytes =
         (channel == 0 ? "#1" : "#2") + std::string(12 - number.size(), '0') + number;
-    for (int i = 0; i < 500; ++i) {
-      const int counts = sent.counts(channel, i);
+    for (int i = 0, counts = 0; i < 500; ++i) {
+      counts = sent.counts(channel, i);
       bytes += {static_cast<char>((counts >> 8) & 0xFF), static_cast<char>(counts & 0xFF)};
     }
     return bytes;
@@ -267,17 +256,18 @@ class TrueInstrument {
   bool hasChanged_ = true;
   std::size_t measured_ = 0;
   /// What is answered as it was set.
-  std::map<std::string, Number> numbers_ = {{"CHAN1:DISP", {channels[0].isDisplayed, ""}},
-                                            {"CHAN2:DISP", {channels[1].isDisplayed, ""}},
-                                            {"CHAN1:SCAL", {channels[0].volts, "V"}},
-                                            {"CHAN2:SCAL", {channels[1].volts, "V"}},
-                                            {"CHAN1:OFFS", {channels[0].offset, "V"}},
-                                            {"CHAN2:OFFS", {channels[1].offset, "V"}},
-                                            {"TIM:SCAL", {seconds, "s"}},
-                                            {"TIM:DEL", {delay, "s"}},
-                                            {"TRIG:LEV", {level, "V"}},
-                                            {"TRIG:SOUR", {source, ""}},
-                                            {"TRIG:MOD", {mode, ""}}};
+  std::map<std::string, std::pair<double&, std::string>> numbers_ = {
+      {"CHAN1:DISP", {channels[0].isDisplayed, ""}},
+      {"CHAN2:DISP", {channels[1].isDisplayed, ""}},
+      {"CHAN1:SCAL", {channels[0].volts, "V"}},
+      {"CHAN2:SCAL", {channels[1].volts, "V"}},
+      {"CHAN1:OFFS", {channels[0].offset, "V"}},
+      {"CHAN2:OFFS", {channels[1].offset, "V"}},
+      {"TIM:SCAL", {seconds, "s"}},
+      {"TIM:DEL", {delay, "s"}},
+      {"TRIG:LEV", {level, "V"}},
+      {"TRIG:SOUR", {source, ""}},
+      {"TRIG:MOD", {mode, ""}}};
   std::map<std::string, std::string> others_ = {{"CHAN1:COUP", "1"}, {"CHAN2:COUP", "1"},
                                                 {"CHAN1:INV", "0"},  {"CHAN2:INV", "0"},
                                                 {"CHAN1:BWL", "0"},  {"CHAN2:BWL", "0"}};
