@@ -7,6 +7,8 @@
 #include <QUrl>
 #include <utility>
 
+#include "DesktopWords.h"
+
 namespace tracewell {
 
 QString manualFile(const QString& executableFolder) {
@@ -31,7 +33,7 @@ ManualEntry::ManualEntry(QMenu& menu, std::function<void(const QString& file)> r
 }
 
 void ManualEntry::showState() {
-  setText(QCoreApplication::translate("Panel", "Manual and keys"));
+  setText(panelText("Manual and keys"));
   setEnabled(!manualFile(QCoreApplication::applicationDirPath()).isEmpty());
 }
 

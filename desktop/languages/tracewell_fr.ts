@@ -600,6 +600,10 @@
         <translation>Valeur minimale</translation>
     </message>
     <message>
+        <source>Manual and keys</source>
+        <translation>Manuel et touches</translation>
+    </message>
+    <message>
         <source>Mean</source>
         <translation>Moyenne</translation>
     </message>

@@ -600,6 +600,10 @@
         <translation>Наименьшее значение</translation>
     </message>
     <message>
+        <source>Manual and keys</source>
+        <translation>Руководство и клавиши</translation>
+    </message>
+    <message>
         <source>Mean</source>
         <translation>Среднее</translation>
     </message>

@@ -600,6 +600,10 @@
         <translation>最小值</translation>
     </message>
     <message>
+        <source>Manual and keys</source>
+        <translation>手冊同按鍵</translation>
+    </message>
+    <message>
         <source>Mean</source>
         <translation>平均值</translation>
     </message>

@@ -60,7 +60,7 @@ TEST_F(MarksTest, MarksTellWhatIsKnownOfDisplayedTraces) {
   EXPECT_EQ(graph.marks().sides[0].direction, Side::below);
 
   main.opVoltage.select();
-  EXPECT_EQ(graph.marks().badge.size(), 3u);
+  EXPECT_EQ(graph.marks().badge.size(), 4u);
   main.known.typed(":CHAN1:OFFS 1");
   EXPECT_EQ(graph.marks().badge, (Texts{{1, "ΔV = 500 mV"}}));
   EXPECT_EQ(graph.marks().sides.size(), 1u);
