@@ -527,11 +527,12 @@ class Oracle : public BenchOf<OnALine<Ports>> {
     run(below(5000));
     busyUntil_ = late_ = lost_ = failing_ = 0;
     main.cmdRS232.press();
+    const bool isRead = main.LinkOK;
     // What the panel never asks for.
     for (const char* query :
          {":CHAN1:DISP?", ":CHAN2:DISP?", ":TIM:DEL?", ":TRIG:LEV?", ":TRIG:SOUR?", ":TRIG:MOD?"})
       program.exchange.SendDSOCmd(query);
-    is->isOfOwnPanel = !main.LinkOK || truth() != is;
+    is->isOfOwnPanel = !isRead || !main.LinkOK || truth() != is;
     if (!is->isStopped) is->sweep();
   }
 
