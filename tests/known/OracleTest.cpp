@@ -461,8 +461,9 @@ class Oracle : public BenchOf<OnALine<Ports>> {
       program.rs232.cbRS232(4).type(oneIn(10) ? "9" : oneIn(3) ? "4" : "3");
     }
     program.console.txtCmd.type(typedLine());
-    for (int i = below(3); i >= 0 && !buttons.empty(); --i) buttons[below(buttons.size())]->press();
-    window.close();
+    for (int i = below(4); i > 0 && window.isVisible() && !buttons.empty(); --i)
+      buttons[below(buttons.size())]->press();
+    if (window.isVisible()) window.close();
     isModal_ = false;
   }
 
@@ -487,8 +488,9 @@ class Oracle : public BenchOf<OnALine<Ports>> {
     return line;
   }
 
-  void moveCursor(const char* name) {
-    main.graphDSO.dragCursor(main.graphDSO.cursor(name), below(500) - 250, below(400) - 200);
+  void moveCursor() {
+    Cursor& cursor = main.graphDSO.cursor(oneIn(2) ? "cur1" : "cur2");
+    main.graphDSO.dragCursor(cursor, below(500) - 250, below(400) - 200);
   }
 
   void drag(Slide& slide) {
@@ -525,11 +527,12 @@ class Oracle : public BenchOf<OnALine<Ports>> {
     run(below(5000));
     busyUntil_ = late_ = lost_ = failing_ = 0;
     main.cmdRS232.press();
+    const bool isRead = main.LinkOK;
     // What the panel never asks for.
     for (const char* query :
          {":CHAN1:DISP?", ":CHAN2:DISP?", ":TIM:DEL?", ":TRIG:LEV?", ":TRIG:SOUR?", ":TRIG:MOD?"})
       program.exchange.SendDSOCmd(query);
-    is->isOfOwnPanel = !main.LinkOK || truth() != is;
+    is->isOfOwnPanel = !isRead || !main.LinkOK || truth() != is;
     if (!is->isStopped) is->sweep();
   }
 
@@ -558,14 +561,14 @@ class Oracle : public BenchOf<OnALine<Ports>> {
         {1, [this] { main.txtTest.type(typedLine()); }},
         {1, [this] { main.graphDSO.toggleEnlarged(); }},
         {1, [this] { main.graphDSO.copy(Graph::Copied::values); }},
-        {1,
-         [this] {
-           moveCursor(oneOf({"cur1", "cur2"}));
-         }},
+        {1, [this] { moveCursor(); }},
         {1, [this] { trouble(); }},
         {1, [this] { busyUntil_ = late_ = lost_ = failing_ = 0; }},
         {3, [this] { replug(); }},
-        {1, [this] { opener.plugged[3]->instrument->isTriggered = oneIn(2); }},
+        {1,
+         [this] {
+           if (auto* is = truth()) is->isTriggered = oneIn(2);
+         }},
         {1, [this] { useOwnPanel(); }}};
     acts_.insert(acts_.end(), std::begin(others), std::end(others));
   }
@@ -573,7 +576,7 @@ class Oracle : public BenchOf<OnALine<Ports>> {
   TrueInstrument::History history_;
   std::map<std::int16_t, std::shared_ptr<TrueInstrument>> last_;
   std::vector<std::pair<int, std::function<void()>>> acts_;
-  /// At the end of the line that the panel uses, where one is.
+  /// Stands at the line that the panel uses where no instrument does.
   const TrueInstrument nobody_{history_};
   const TrueInstrument* is_ = &nobody_;
   bool isThere_ = false;
