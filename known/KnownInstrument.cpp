@@ -202,11 +202,14 @@ void KnownInstrument::doubtful(Setting setting, Doubt reason) {
   followed(setting);
 }
 
-/// Nothing is nothing in any scale.
+/// Nothing is nothing in any scale. What is in doubt already passes it on.
 void KnownInstrument::followed(Setting setting) {
   const auto dependent = dependentOn(setting);
-  if (dependent && number(*dependent) != 0.0 && isKnown(*dependent))
+  if (!dependent) return;
+  if (isKnown(*dependent) && number(*dependent) != 0.0)
     doubtful(*dependent, Doubt::mayHaveChanged);
+  else
+    followed(*dependent);
 }
 
 /// Of several questions in a line nobody knows which one is answered.
