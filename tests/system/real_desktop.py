@@ -383,9 +383,9 @@ class SystemTestCase(unittest.TestCase):
         return server
 
     def trace(self, program):
-        """Where the graph shows the colour of channel 1."""
+        """Where the plot, without the strip of scales above it, shows the colour of channel 1."""
         return {position for position, (red, green, blue)
-                in self.screen.within(program.place("frmDSO.graphDSO"))
+                in self.screen.within(program.place("frmDSO.plot"))
                 if red > 170 and 120 < green < red and red - blue > 90}
 
     def expect_live_trace(self, program):
