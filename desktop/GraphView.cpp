@@ -233,8 +233,9 @@ void GraphView::showAxes() {
   plot_->yAxis->grid()->setZeroLinePen(QPen(toQt(y.gridColour()).lighter(130), 1));
   plot_->setBackground(QBrush(toQt(graph_->plotAreaColour())));
   showInLabel(*caption_, x.caption(), qMax(width(), minimumSizeHint().width()));
-  graph_->axis("XAxis").isPaintedPale = x.isPale();
-  caption_->setEnabled(!x.isPale());
+  const bool isPale = x.isPale() && !isForPicture_;
+  graph_->axis("XAxis").isPaintedPale = isPale;
+  caption_->setEnabled(!isPale);
   // Small ticks along the centre lines: a dotted line five units wide each way.
   const QPen ticks(toQt(x.gridColour()).lighter(130), 5, Qt::CustomDashLine, Qt::FlatCap);
   const std::array<std::array<double, 4>, 2> ends = {
