@@ -436,6 +436,10 @@
         <translation>Sans curseurs</translation>
     </message>
     <message>
+        <source>Dark</source>
+        <translation>Sombre</translation>
+    </message>
+    <message>
         <source>Data bits of a byte</source>
         <translation>Bits de données par octet</translation>
     </message>
@@ -504,6 +508,10 @@
         <translation>Réjection de fréquence</translation>
     </message>
     <message>
+        <source>High contrast</source>
+        <translation>Contraste élevé</translation>
+    </message>
+    <message>
         <source>High level</source>
         <translation>Niveau haut</translation>
     </message>
@@ -566,6 +574,14 @@
     <message>
         <source>Licence</source>
         <translation>Licence</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Clair</translation>
+    </message>
+    <message>
+        <source>Like the desktop</source>
+        <translation>Comme le bureau</translation>
     </message>
     <message>
         <source>Line only</source>
@@ -1014,6 +1030,10 @@
     <message>
         <source>The setup could not be saved to %1.</source>
         <translation>Les réglages n'ont pas pu être enregistrés dans %1.</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>Thème</translation>
     </message>
     <message>
         <source>There is no such port</source>

@@ -436,6 +436,10 @@
         <translation>Курсоры выключены</translation>
     </message>
     <message>
+        <source>Dark</source>
+        <translation>Тёмная</translation>
+    </message>
+    <message>
         <source>Data bits of a byte</source>
         <translation>Битов данных в байте</translation>
     </message>
@@ -504,6 +508,10 @@
         <translation>Подавление частот</translation>
     </message>
     <message>
+        <source>High contrast</source>
+        <translation>Высокая контрастность</translation>
+    </message>
+    <message>
         <source>High level</source>
         <translation>Верхний уровень</translation>
     </message>
@@ -566,6 +574,14 @@
     <message>
         <source>Licence</source>
         <translation>Лицензия</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Светлая</translation>
+    </message>
+    <message>
+        <source>Like the desktop</source>
+        <translation>Как на рабочем столе</translation>
     </message>
     <message>
         <source>Line only</source>
@@ -1014,6 +1030,10 @@
     <message>
         <source>The setup could not be saved to %1.</source>
         <translation>Не удалось сохранить настройки в %1.</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>Тема</translation>
     </message>
     <message>
         <source>There is no such port</source>

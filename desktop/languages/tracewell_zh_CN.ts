@@ -436,6 +436,10 @@
         <translation>关闭光标</translation>
     </message>
     <message>
+        <source>Dark</source>
+        <translation>深色</translation>
+    </message>
+    <message>
         <source>Data bits of a byte</source>
         <translation>每字节的数据位</translation>
     </message>
@@ -504,6 +508,10 @@
         <translation>频率抑制</translation>
     </message>
     <message>
+        <source>High contrast</source>
+        <translation>高对比度</translation>
+    </message>
+    <message>
         <source>High level</source>
         <translation>高电平</translation>
     </message>
@@ -566,6 +574,14 @@
     <message>
         <source>Licence</source>
         <translation>许可证</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>浅色</translation>
+    </message>
+    <message>
+        <source>Like the desktop</source>
+        <translation>跟随桌面</translation>
     </message>
     <message>
         <source>Line only</source>
@@ -1014,6 +1030,10 @@
     <message>
         <source>The setup could not be saved to %1.</source>
         <translation>设置无法保存到 %1。</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>主题</translation>
     </message>
     <message>
         <source>There is no such port</source>

@@ -436,6 +436,10 @@
         <translation>關閉游標</translation>
     </message>
     <message>
+        <source>Dark</source>
+        <translation>深色</translation>
+    </message>
+    <message>
         <source>Data bits of a byte</source>
         <translation>每個位元組嘅數據位元</translation>
     </message>
@@ -504,6 +508,10 @@
         <translation>頻率抑制</translation>
     </message>
     <message>
+        <source>High contrast</source>
+        <translation>高對比度</translation>
+    </message>
+    <message>
         <source>High level</source>
         <translation>高電平</translation>
     </message>
@@ -566,6 +574,14 @@
     <message>
         <source>Licence</source>
         <translation>授權條款</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>淺色</translation>
+    </message>
+    <message>
+        <source>Like the desktop</source>
+        <translation>跟住桌面</translation>
     </message>
     <message>
         <source>Line only</source>
@@ -1014,6 +1030,10 @@
     <message>
         <source>The setup could not be saved to %1.</source>
         <translation>設定儲存唔到去 %1。</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>主題</translation>
     </message>
     <message>
         <source>There is no such port</source>
