@@ -194,7 +194,9 @@ std::map<std::string, std::string> Played::shownBy(Window& window) {
   shown["ChanCount"] = std::to_string(main.state.ChanCount);
   showParts(main.graphDSO, shown);
   if (isTruthTold_) {
-    shown["marks"] = textOf(main.graphDSO.marks());
+    const GraphMarks marks = main.graphDSO.marks();
+    shown["marks"] = textOf(marks);
+    shown["banner"] = (marks.banner.isWarning ? "! " : "") + marks.banner.text;
     for (const GraphMarks::Text& value : main.graphDSO.valuesAt(50, 50))
       shown["pointer"] += value.text + " ";
   }

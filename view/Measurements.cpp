@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "ConnectionIndicator.h"
+#include "Doing.h"
 #include "Numbers.h"
 #include "Waiting.h"
 
@@ -33,6 +34,10 @@ std::string rowOf(const std::string& result) {
   for (const std::string_view name : FreqMeasName)
     if (result.starts_with(name)) return std::string(name) + "\t" + result.substr(name.size());
   return result;
+}
+
+std::string sayMeasuring(const Words& words) {
+  return words.say("Measuring");
 }
 
 }  // namespace
@@ -81,6 +86,7 @@ void Measurements::chooseAndMeasure() {
 
 void Measurements::RunMeasurements() {
   if (leadingNumber(selection_.tag) != 1) return;
+  const Doing measuring(main_, sayMeasuring);
   main_.refresh();
   ClearMeasureLabels();
   const ShortTimeOut shortTimeOut(main_);
@@ -181,6 +187,7 @@ void Measurements::cmdFMeasure_Click() {
 }
 
 void Measurements::measureQuickly() {
+  const Doing measuring(main_, sayMeasuring);
   const ShortTimeOut shortTimeOut(main_, 1);
   const int channel = quickSelection_.FMeasChan;
   chooseSource(channel);

@@ -152,6 +152,9 @@ class frmDSO : public Window {
     std::size_t cmdRunStop = 0;
   } shownMessages;
 
+  /// What the instrument is busy with instead of records, if with anything. Kept by
+  /// app/window/Doing.h.
+  StatusLine::Sentence doing;
   /// What stands beside the values, marks and ages, is to be looked at anew.
   Event<> marksDue;
   /// Answers that came between two moments of Clock may be those of other questions.

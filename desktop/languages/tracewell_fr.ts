@@ -312,6 +312,10 @@
         <translation>Atténuation de la sonde</translation>
     </message>
     <message>
+        <source>Autoset</source>
+        <translation>Réglage automatique en cours</translation>
+    </message>
+    <message>
         <source>Bandwidth limit against noise</source>
         <translation>Limitation de la bande passante contre le bruit</translation>
     </message>
@@ -704,6 +708,10 @@
         <translation>Mesure 9</translation>
     </message>
     <message>
+        <source>Measuring</source>
+        <translation>Mesure en cours</translation>
+    </message>
+    <message>
         <source>Message</source>
         <translation>Message</translation>
     </message>
@@ -968,6 +976,14 @@
         <translation>Bits d'arrêt après un octet</translation>
     </message>
     <message>
+        <source>Stopped</source>
+        <translation>Arrêté</translation>
+    </message>
+    <message>
+        <source>Stopped: press %1 to go on</source>
+        <translation>Arrêté : appuyez sur %1 pour continuer</translation>
+    </message>
+    <message>
         <source>Sum or difference of the channels</source>
         <translation>Somme ou différence des voies</translation>
     </message>
@@ -1004,6 +1020,10 @@
         <translation>Lecture de l'instrument en cours</translation>
     </message>
     <message>
+        <source>The instrument is stopped: press %1</source>
+        <translation>L'appareil est arrêté : appuyez sur %1</translation>
+    </message>
+    <message>
         <source>The last question had no answer: press %1</source>
         <translation>La dernière question est restée sans réponse : appuyer sur %1</translation>
     </message>
@@ -1024,6 +1044,10 @@
         <translation>Le rapport</translation>
     </message>
     <message>
+        <source>The scales are not known: press %1 to read them</source>
+        <translation>Les échelles ne sont pas connues : appuyez sur %1 pour les lire</translation>
+    </message>
+    <message>
         <source>The scales may be those of another instrument: press %1 to read them</source>
         <translation>Les calibres sont peut-être ceux d'un autre instrument : appuyer sur %1 pour les lire</translation>
     </message>
@@ -1038,6 +1062,10 @@
     <message>
         <source>There is no such port</source>
         <translation>Ce port n'existe pas</translation>
+    </message>
+    <message>
+        <source>These traces came over the connection before</source>
+        <translation>Ces courbes viennent de la connexion précédente</translation>
     </message>
     <message>
         <source>This version has new files beside those that you have changed: %1</source>

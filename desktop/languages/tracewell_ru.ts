@@ -312,6 +312,10 @@
         <translation>Коэффициент деления щупа</translation>
     </message>
     <message>
+        <source>Autoset</source>
+        <translation>Автонастройка</translation>
+    </message>
+    <message>
         <source>Bandwidth limit against noise</source>
         <translation>Ограничение полосы для подавления шума</translation>
     </message>
@@ -704,6 +708,10 @@
         <translation>Измерение 9</translation>
     </message>
     <message>
+        <source>Measuring</source>
+        <translation>Идёт измерение</translation>
+    </message>
+    <message>
         <source>Message</source>
         <translation>Сообщение</translation>
     </message>
@@ -968,6 +976,14 @@
         <translation>Стоп-биты после байта</translation>
     </message>
     <message>
+        <source>Stopped</source>
+        <translation>Остановлено</translation>
+    </message>
+    <message>
+        <source>Stopped: press %1 to go on</source>
+        <translation>Остановлено: для продолжения нажмите %1</translation>
+    </message>
+    <message>
         <source>Sum or difference of the channels</source>
         <translation>Сумма или разность каналов</translation>
     </message>
@@ -1004,6 +1020,10 @@
         <translation>Идёт чтение прибора</translation>
     </message>
     <message>
+        <source>The instrument is stopped: press %1</source>
+        <translation>Прибор остановлен: нажмите %1</translation>
+    </message>
+    <message>
         <source>The last question had no answer: press %1</source>
         <translation>На последний запрос нет ответа: нажмите «%1»</translation>
     </message>
@@ -1024,6 +1044,10 @@
         <translation>Отчёт</translation>
     </message>
     <message>
+        <source>The scales are not known: press %1 to read them</source>
+        <translation>Масштабы неизвестны: нажмите %1, чтобы прочитать их</translation>
+    </message>
+    <message>
         <source>The scales may be those of another instrument: press %1 to read them</source>
         <translation>Масштабы могут быть от другого прибора: нажмите «%1», чтобы прочитать их</translation>
     </message>
@@ -1038,6 +1062,10 @@
     <message>
         <source>There is no such port</source>
         <translation>Такого порта нет</translation>
+    </message>
+    <message>
+        <source>These traces came over the connection before</source>
+        <translation>Эти осциллограммы получены по прежнему соединению</translation>
     </message>
     <message>
         <source>This version has new files beside those that you have changed: %1</source>

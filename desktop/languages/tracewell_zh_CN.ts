@@ -312,6 +312,10 @@
         <translation>探头衰减比</translation>
     </message>
     <message>
+        <source>Autoset</source>
+        <translation>正在自动设置</translation>
+    </message>
+    <message>
         <source>Bandwidth limit against noise</source>
         <translation>限制带宽以抑制噪声</translation>
     </message>
@@ -704,6 +708,10 @@
         <translation>测量值 9</translation>
     </message>
     <message>
+        <source>Measuring</source>
+        <translation>正在测量</translation>
+    </message>
+    <message>
         <source>Message</source>
         <translation>提示</translation>
     </message>
@@ -968,6 +976,14 @@
         <translation>每字节后的停止位</translation>
     </message>
     <message>
+        <source>Stopped</source>
+        <translation>已停止</translation>
+    </message>
+    <message>
+        <source>Stopped: press %1 to go on</source>
+        <translation>已停止：按 %1 继续</translation>
+    </message>
+    <message>
         <source>Sum or difference of the channels</source>
         <translation>通道之和或差</translation>
     </message>
@@ -1004,6 +1020,10 @@
         <translation>正在读取仪器</translation>
     </message>
     <message>
+        <source>The instrument is stopped: press %1</source>
+        <translation>仪器已停止：按 %1</translation>
+    </message>
+    <message>
         <source>The last question had no answer: press %1</source>
         <translation>上一个查询无应答：请按“%1”</translation>
     </message>
@@ -1024,6 +1044,10 @@
         <translation>报告</translation>
     </message>
     <message>
+        <source>The scales are not known: press %1 to read them</source>
+        <translation>刻度未知：按 %1 读取</translation>
+    </message>
+    <message>
         <source>The scales may be those of another instrument: press %1 to read them</source>
         <translation>档位可能属于另一台仪器：请按“%1”重新读取</translation>
     </message>
@@ -1038,6 +1062,10 @@
     <message>
         <source>There is no such port</source>
         <translation>没有这个端口</translation>
+    </message>
+    <message>
+        <source>These traces came over the connection before</source>
+        <translation>这些波形来自之前的连接</translation>
     </message>
     <message>
         <source>This version has new files beside those that you have changed: %1</source>

@@ -312,6 +312,10 @@
         <translation>探頭嘅衰減比</translation>
     </message>
     <message>
+        <source>Autoset</source>
+        <translation>自動設定緊</translation>
+    </message>
+    <message>
         <source>Bandwidth limit against noise</source>
         <translation>限制頻寬以減少噪音</translation>
     </message>
@@ -704,6 +708,10 @@
         <translation>量度結果 9</translation>
     </message>
     <message>
+        <source>Measuring</source>
+        <translation>量度緊</translation>
+    </message>
+    <message>
         <source>Message</source>
         <translation>訊息</translation>
     </message>
@@ -968,6 +976,14 @@
         <translation>每個位元組之後嘅停止位元</translation>
     </message>
     <message>
+        <source>Stopped</source>
+        <translation>停咗</translation>
+    </message>
+    <message>
+        <source>Stopped: press %1 to go on</source>
+        <translation>停咗：撳 %1 繼續</translation>
+    </message>
+    <message>
         <source>Sum or difference of the channels</source>
         <translation>通道嘅和或者差</translation>
     </message>
@@ -1004,6 +1020,10 @@
         <translation>讀取緊儀器</translation>
     </message>
     <message>
+        <source>The instrument is stopped: press %1</source>
+        <translation>儀器停咗：撳 %1</translation>
+    </message>
+    <message>
         <source>The last question had no answer: press %1</source>
         <translation>上一個查詢冇回應：請撳「%1」</translation>
     </message>
@@ -1024,6 +1044,10 @@
         <translation>報告</translation>
     </message>
     <message>
+        <source>The scales are not known: press %1 to read them</source>
+        <translation>刻度未知：撳 %1 讀取</translation>
+    </message>
+    <message>
         <source>The scales may be those of another instrument: press %1 to read them</source>
         <translation>檔位可能係第部儀器嘅：撳「%1」再讀取</translation>
     </message>
@@ -1038,6 +1062,10 @@
     <message>
         <source>There is no such port</source>
         <translation>冇呢個連接埠</translation>
+    </message>
+    <message>
+        <source>These traces came over the connection before</source>
+        <translation>呢啲波形嚟自之前嘅連線</translation>
     </message>
     <message>
         <source>This version has new files beside those that you have changed: %1</source>

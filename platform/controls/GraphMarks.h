@@ -25,6 +25,13 @@ struct GraphMarks {
     bool operator==(const Side&) const = default;
   };
 
+  /// At the lower edge: what concerns all traces.
+  struct Banner {
+    std::string text;
+    bool isWarning = false;
+    bool operator==(const Banner&) const = default;
+  };
+
   std::vector<Side> sides;
   /// Stand at the right ends of their traces.
   std::vector<Text> names;
@@ -32,6 +39,8 @@ struct GraphMarks {
   std::vector<Text> scales;
   /// Lines of the badge beside the cursors; none while there is nothing to tell.
   std::vector<Text> badge;
+  /// No text while there is nothing to tell.
+  Banner banner;
 
   bool operator==(const GraphMarks&) const = default;
 };

@@ -266,5 +266,23 @@ TEST_F(DrawingTest, BadgeStandsBesideTheCursors) {
   }
 }
 
+TEST_F(DrawingTest, BannerStandsAtTheLowerEdgeInTheColourOfItsWeight) {
+  const QColor amber(255, 171, 64);
+  for (const bool isWarning : {false, true}) {
+    marks.banner = {"No record", isWarning};
+    graph.notifyChanged();
+    paint();
+    const QRect found = find(isWarning ? amber : QColor(0xe6, 0xeb, 0xef));
+    EXPECT_NEAR(found.center().x(), area.width() / 2, 2);
+    EXPECT_NEAR(found.bottom(), area.height() - 8, 4);
+    EXPECT_TRUE(found.height() < 40 && found.width() > 60 && found.width() < 160);
+    EXPECT_EQ(find(amber).isValid(), isWarning);
+  }
+  marks.banner.text = std::string(500, 'w');
+  graph.notifyChanged();
+  paint();
+  EXPECT_TRUE(area.rect().adjusted(4, 0, -4, 0).contains(find(amber)));
+}
+
 }  // namespace
 }  // namespace tracewell

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "TraceBanner.h"
 #include "TraceMarks.h"
 #include "TrueUnits.h"
 
@@ -100,6 +101,7 @@ GraphMarks screenMarks(const frmDSO& main) {
     if (plot.isShown()) marks.names.push_back({number, plot.name()});
   }
   marks.badge = badge(main);
+  marks.banner = traceBanner(main);
   return marks;
 }
 
