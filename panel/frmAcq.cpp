@@ -30,7 +30,7 @@ void frmAcq::cmdAcq_Click() {
     showSettings();
     showModal();
     if (tag == "1") sendSettings();
-    acquisition_.RunAcq();
+    acquisition_.runAcquisition();
   } catch (const Error& error) {
     errorLog_.ErrLog(error, "cmdAcq_Click : ");
   }

@@ -45,7 +45,7 @@ void frmChannel::editSettings(Channel& channel) {
     if (tag == "1")
       burst_.writeAndVerify(channel.menuEntry.caption, channelQueries(channel.number),
                             rowOf(channel), 1);
-    acquisition_.RunAcq();
+    acquisition_.runAcquisition();
     instrument_.readScale(channel.stem() + "SCAL?", channel.kind, channel.scale, channel.knob);
   } catch (const Error& error) {
     errorLog_.ErrLog(error, "cmdCh" + std::to_string(channel.number) + "_Click : ");

@@ -49,7 +49,7 @@ void frmDisplay::cmdDisplay_Click() {
     readSettings();
     showModal();
     if (tag == "1") sendBrightness();
-    acquisition_.RunAcq();
+    acquisition_.runAcquisition();
   } catch (const Error& error) {
     errorLog_.ErrLog(error, "cmdDisplay_Click : ");
   }

@@ -52,7 +52,7 @@ void frmTrig::cmdTrig_Click() {
   if (tag != "0") burst_.writeAndVerify(caption, TrigQuery, SetupTable::trigger, 0);
   if (tag == "2")
     burst_.writeAndVerify(fmAdv.caption, TrigAdvQuery, SetupTable::advancedTrigger, 0);
-  acquisition_.RunAcq();
+  acquisition_.runAcquisition();
 }
 
 /// Setting a box runs its click, so the instrument's values go into the table, too.
