@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "frmAcq.h"
 
-#include <array>
-
 #include "SettingsBurst.h"
 #include "SettingsQueries.h"
 #include "Waiting.h"
@@ -37,7 +35,6 @@ void frmAcq::cmdAcq_Click() {
 }
 
 void frmAcq::showSettings() {
-  load();
   cbMode.listIndex = main_.gridMeasure.number(SetupTable::acquire, 2);
   cbAverage.listIndex = main_.gridMeasure.number(SetupTable::acquire, 3);
   cbLength.listIndex = main_.gridMeasure.number(SetupTable::acquire, 4);

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "ConnectionIndicator.h"
+#include "MeasurementItems.h"
 #include "Numbers.h"
 #include "Waiting.h"
 
@@ -73,7 +74,6 @@ void Measurements::cmdVMeasure_Click() {
 
 void Measurements::chooseAndMeasure() {
   acquisition_.StopAcq();
-  selection_.load();
   selection_.showFlags();
   selection_.showModal();
   RunMeasurements();
