@@ -126,7 +126,7 @@ void Tracewell::sayAgain() {
   main.status.tellAgain();
   panelMarks.show();
   showFilesToKeep(main);
-  errLog.showNewLines(errLog.NewLogLines);
+  errLog.showNewLines(errLog.newLogLines);
 }
 
 void Tracewell::connectSupport() {

@@ -10,7 +10,6 @@
 #include "GraphView.h"
 #include "PictureFormats.h"
 #include "QtImages.h"
-#include "QtValues.h"
 #include "ShownText.h"
 
 namespace tracewell {

@@ -108,7 +108,7 @@ void Acquisition::ResumeAcq() {
   showOnStart(main_, 3);
 }
 
-void Acquisition::RunAcq() {
+void Acquisition::runAcquisition() {
   main_.tmDSO.enabled = true;
   showRunning(main_);
 }

@@ -29,7 +29,7 @@ class Acquisition {
   void StopAcq();
   void ResumeAcq();
   /// How the settings dialogs end: starts the periodic fetch and leaves message 2 on the button.
-  void RunAcq();
+  void runAcquisition();
 
   /// Runs or stops the instrument's own acquisition; the periodic fetch goes on.
   void cmdRunStop_Click();

@@ -21,7 +21,7 @@ void SettingsBurst::writeAndVerify(const Property<std::string>& caption,
     bool isDone = false;
     for (int attempt = 0; attempt < attempts && !isDone; ++attempt) {
       const bool isRight = isAccepted(std::string(stems[static_cast<std::size_t>(i)]),
-                                      chosen.text(row, SetupTable::firstValue + i));
+                                      chosen.text(row, SetupTable::columnOf(i)));
       inquiry.note(isRight);
       isDone = isRight || inquiry.isGivenUp();
     }

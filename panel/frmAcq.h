@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <array>
+
 #include "Acquisition.h"
 #include "Captions.h"
 #include "Controls.h"
@@ -27,6 +29,8 @@ class frmAcq : public Window {
   void cmdAcq_Click();
 
  private:
+  /// In the order of their values in the table.
+  std::array<ComboBox*, 3> boxes() { return {&cbMode, &cbAverage, &cbLength}; }
   void showSettings();
   void sendSettings();
   void cbMode_Click();

@@ -10,7 +10,7 @@
 namespace tracewell {
 
 /// The channel dialog: reads one channel's settings, edits its row of the setup table, and sends
-/// the row. Its tag reads "1" after OK.
+/// the row.
 class frmChannel : public Window {
  public:
   frmChannel(frmDSO& main, CommandExchange& exchange, ErrorLog& errorLog, Acquisition& acquisition,
@@ -52,7 +52,7 @@ class frmChannel : public Window {
   InstrumentState& instrument_;
   Unanswered unanswered_;
   /// The row that OK writes.
-  std::int16_t setupRow_ = SetupTable::channel1;
+  int setupRow_ = SetupTable::channel1;
 };
 
 }  // namespace tracewell

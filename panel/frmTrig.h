@@ -35,10 +35,13 @@ class frmTrig : public Window {
   }
 
  private:
+  static constexpr int modeBox = 1;
+
   void readSettings();
   void readAdvancedSettings();
-  bool isAdvanced() { return cbTrig(1).text() == "Advance"; }
-  std::int16_t indexOf(const std::string& reply, int row, int column) const;
+  void showStoredAdvancedSettings();
+  bool isAdvanced() { return cbTrig(modeBox).text() == "Advance"; }
+  std::int16_t indexOf(const std::string& reply, int row, int value) const;
   void Form_Activate();
   void cbTrig_Click(int box);
   void cmdOK_Click();
@@ -48,8 +51,8 @@ class frmTrig : public Window {
   Acquisition& acquisition_;
   SettingsBurst& burst_;
   Unanswered unanswered_;
-  /// 1 for the plain settings, 2 when the advanced ones are sent too.
-  std::int16_t outcome_ = 1;
+  /// After OK the advanced settings are sent, too. Any click but that of the mode box ends it.
+  bool sendsAdvanced_ = false;
 };
 
 }  // namespace tracewell

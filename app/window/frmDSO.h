@@ -143,7 +143,7 @@ class frmDSO : public Window {
   /// The setup table.
   SetupTable gridMeasure;
   /// Whole paths, in the order in which they were noted. Kept through app/window/KeptFiles.h.
-  std::vector<std::filesystem::path> FilesToKeep;
+  std::vector<std::filesystem::path> filesToKeep;
   /// Number of the message that stands on each of these captions; 0 while it is the caption file's.
   /// Kept through app/window/ConnectionIndicator.h.
   struct ShownMessages {

@@ -183,8 +183,8 @@ void Conversation::refuseRecord(std::string_view behind) {
 /// Nine tenths of what is missing, over and over: the last bytes are heard as they come.
 void Conversation::restUntilMoreHasCome() {
   constexpr int notWorthIt = 4;
-  const auto missing = static_cast<double>(record_.count - record_.bytes.size());
-  const int time = static_cast<int>(std::min<double>(0.9 * missing * byteTime(), longestRest));
+  const double missing = openSettings_.timeOf(record_.count - record_.bytes.size());
+  const int time = static_cast<int>(std::min<double>(0.9 * missing, longestRest));
   if (time > notWorthIt) channel_->rest(time);
 }
 
@@ -281,8 +281,8 @@ void Conversation::makeReadyToAsk(int timeOut) {
 
 /// However its bytes trickle.
 void Conversation::finishRecord() {
-  const auto left = static_cast<double>(record_.count - record_.bytes.size());
-  const auto longest = static_cast<std::int64_t>(std::ceil(2 * left * byteTime())) + restMargin;
+  const double left = openSettings_.timeOf(record_.count - record_.bytes.size());
+  const auto longest = static_cast<std::int64_t>(std::ceil(2 * left)) + restMargin;
   const std::int64_t deadline = clock_.milliseconds() + longest;
   const auto isOnItsWay = [this] {
     return state_ == State::recordAwaited || state_ == State::recordHeard;
@@ -376,14 +376,7 @@ void Conversation::sendHeld() {
 
 /// Within so long after the last byte of an answer, what belongs to it has come.
 int Conversation::settlingTime() const {
-  return settling + static_cast<int>(std::ceil(2 * byteTime()));
-}
-
-/// Of one byte on the line, with its start, parity and stop bits.
-double Conversation::byteTime() const {
-  const int bits = 1 + openSettings_.dataBits + (openSettings_.parity == 0 ? 0 : 1) +
-                   (openSettings_.stopBits == 0 ? 1 : 2);
-  return 1000.0 * bits / std::max(openSettings_.baudRate, 1);
+  return settling + static_cast<int>(std::ceil(openSettings_.timeOf(2)));
 }
 
 }  // namespace tracewell

@@ -141,7 +141,6 @@ class Conversation {
 
   void arrived();
   void sendHeld();
-  double byteTime() const;
   int settlingTime() const;
 
   ChannelOpener& opener_;

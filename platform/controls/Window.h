@@ -11,6 +11,9 @@ namespace tracewell {
 
 class Control;
 
+/// How a dialog ended, for its opener.
+enum class Outcome { cancelled, accepted };
+
 /// A window without a screen: a name, a caption, and its controls in the order of their
 /// declaration. A desktop shows it in the form of the same name; a test works on it as it is.
 class Window : public Observable {
@@ -21,8 +24,8 @@ class Window : public Observable {
 
   const std::string& name() const { return name_; }
   Property<std::string> caption;
-  /// Free text between a dialog and its opener: how it ended, or what it is opened for.
-  std::string tag;
+  /// Each dialog says when it is set back; most do when they are shown.
+  Outcome outcome = Outcome::cancelled;
 
   /// In the order of declaration, which is the order of caption files.
   const std::vector<Control*>& controls() const { return controls_; }

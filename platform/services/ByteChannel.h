@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -17,6 +19,12 @@ struct LineSettings {
   std::int16_t dataBits = 8;
   std::int16_t stopBits = 0;
   std::int16_t parity = 0;
+
+  /// Milliseconds that so many bytes take, each with its start, parity and stop bits.
+  double timeOf(std::size_t bytes) const {
+    const int bits = 1 + dataBits + (parity == 0 ? 0 : 1) + (stopBits == 0 ? 1 : 2);
+    return 1000.0 * static_cast<double>(bytes) * bits / std::max(baudRate, 1);
+  }
 
   bool operator==(const LineSettings&) const = default;
 };

@@ -95,8 +95,7 @@ std::optional<double> zeroOf(const frmDSO& main, const Channel& channel) {
 
 std::int64_t recordPeriod(const frmDSO& main) {
   const LineSettings& line = main.services().port.settings;
-  const int bits = 1 + line.dataBits + (line.parity == 0 ? 0 : 1) + (line.stopBits == 0 ? 1 : 2);
-  const int record = 1000 * WaveformRecord::byteCount * bits / std::max<int>(line.baudRate, 1);
+  const int record = static_cast<int>(line.timeOf(WaveformRecord::byteCount));
   const auto channels = std::ranges::count(main.channels, true, &Channel::isDisplayed);
   return std::max<std::int64_t>(channels, 1) * std::max(record, frmDSO::tickInterval);
 }

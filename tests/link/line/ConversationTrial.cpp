@@ -6,6 +6,7 @@
 #include <random>
 
 #include "Bench.h"
+#include "MeasurementItems.h"
 #include "Numbers.h"
 #include "PacedChannel.h"
 #include "PortUser.h"
