@@ -149,9 +149,7 @@ void GraphView::bind(Graph& graph) {
   for (std::size_t i = 0; i < traces_.size(); ++i) {
     Plot& plot = graph.plots()[i];
     plot.changed = dirty;
-    plot.plotted = [this, i] {
-      markPlotted(i);
-    };
+    plot.plotted = [this, i] { markPlotted(i); };
     isDataNew_[i] = true;
   }
   markDirty();
