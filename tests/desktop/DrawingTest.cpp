@@ -119,6 +119,13 @@ TEST_F(DrawingTest, TracesLieWhereTheirPointsAre) {
       EXPECT_EQ(find(colourOf(number)).height() > 3, style == Plot::dotPoints);
     }
   }
+  // Data alone, as a record brings them: that trace moves and the others stay.
+  for (const int number : {2, 1}) {
+    draw(number, {{-100, -60.0 * number}, {200, -60.0 * number}});
+    paint();
+    expectAt(colourOf(number), 50, -60 * number, at(200, 0).x() - at(-100, 0).x(), 5);
+    expectAt(colourOf(3), -50, 20, at(100, 0).x() - at(-200, 0).x(), 5);
+  }
 }
 
 TEST_F(DrawingTest, TriggerMarkPointsAtItsLevelAndStaysInside) {
