@@ -110,6 +110,15 @@ ProgramFolderCopy::~ProgramFolderCopy() {
   fs::remove_all(path_, ignored);
 }
 
+std::string errorOf(const std::function<void()>& action) {
+  try {
+    action();
+  } catch (const Error& error) {
+    return std::to_string(error.number()) + " " + error.description();
+  }
+  return "";
+}
+
 namespace {
 
 /// Of this process: now ("VmRSS:"), or the most since the last call of forgetPeak ("VmHWM:").

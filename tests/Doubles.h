@@ -29,6 +29,9 @@ inline std::string contentOf(const std::filesystem::path& path) {
   return readWholeFile(path, fileLimit::picture);
 }
 
+/// Number and description; empty where there was none.
+std::string errorOf(const std::function<void()>& action);
+
 /// Processor time, which a busy machine does not stretch, and memory at its peak; a sanitizer is
 /// allowed ten times as much.
 void expectCheap(const std::function<void()>& action, double seconds = 1, long megabytes = 200);

@@ -110,6 +110,16 @@ void replaceAll(std::string& text, const std::string& old, const std::string& wi
     text.replace(at, old.size(), with);
 }
 
+/// A file of lines; ^ is a line feed that is no line end, since it stands alone.
+std::string fileText(const std::filesystem::path& path) {
+  if (!std::filesystem::exists(path)) return "none";
+  std::string text = contentOf(path);
+  replaceAll(text, "\r\n", "\\n");
+  replaceAll(text, "\n", "^");
+  if (text.empty()) return "empty";
+  return text.size() > 600 ? shortened(text) : text;
+}
+
 /// One event a line, so that a difference shows where it is.
 std::string lines(std::string text) {
   replaceAll(text, "; ", "\n");
@@ -273,7 +283,7 @@ void Played::step(Window& window, const std::string& text) {
 /// The steps that are no control's, by name.
 std::map<std::string, std::function<void()>> Played::stepsWith(const std::string& value) {
   const auto number = [&value] { return std::stoi(value); };
-  const auto path = [this, &value] { return folder.path() / value; };
+  const auto path = [this, &value] { return folder.path() / pathOf(value); };
   const auto later = [&value] { return value.substr(value.find(' ') + 1); };
   return {
       {"plug", [this] { port.answerLikeAnInstrument(); }},
@@ -286,13 +296,22 @@ std::map<std::string, std::function<void()>> Played::stepsWith(const std::string
          dialogs.colour = {static_cast<std::uint8_t>(number()), 2, 3};
        }},
       {"write", [this, &value, later] { write(value.substr(0, value.find(' ')), later()); }},
+      {"read", [this, &value, path] { note("read " + value + " " + fileText(path())); }},
       {"remove", [path] { std::filesystem::remove(path()); }},
       {"folder", [path] { std::filesystem::create_directory(path()); }},
       {"answer", [this, &value] { dialogs.answer = value == "no" ? Answer::No : Answer::Yes; }},
       {"give up", [this] { standBy.giveUp(); }},
       {"wait", [this, number] { clock.run(number()); }},
+      {"here", [this] { std::filesystem::current_path(folder.path()); }},
       {"at", [this, number,
               later] { clock.callAfter(number(), [this, text = later()] { step(main, text); }); }},
+      {"cut2", [this, number] { main.Ch2Raw.resize(static_cast<std::size_t>(number())); }},
+      {"copy",
+       [this, &value, later] {
+         writeWholeFile(folder.path() / later(),
+                        contentOf(folder.path() / value.substr(0, value.find(' '))));
+       }},
+      {"paper", [this, &value] { printer.isOutOfPaper = value == "none"; }},
       {"record1", [this, number] { main.Ch1Raw = level(number()); }},
       {"record2", [this, number] { main.Ch2Raw = level(number()); }},
       {"port33",
@@ -387,7 +406,9 @@ void Played::use(Control& control, const std::string& value) {
   }
   auto& box = dynamic_cast<TextBox&>(control);
   const bool isEntered = value.ends_with('~');
-  box.type(value.substr(0, value.size() - (isEntered ? 1 : 0)));
+  std::string typed = value.substr(0, value.size() - (isEntered ? 1 : 0));
+  replaceAll(typed, "\\n", "\r\n");
+  box.type(typed);
   if (isEntered) box.pressKey(TextBox::enterKey);
 }
 
