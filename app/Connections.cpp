@@ -112,6 +112,9 @@ void Tracewell::connectFiles() {
   main.graphDSO.fileDropped = [this](const std::filesystem::path& file) {
     waveformButtons.graphDSO_FileDropped(file);
   };
+  main.graphDSO.referenceRemoved = [this](int number) {
+    waveformButtons.graphDSO_ReferenceRemoved(number);
+  };
   main.graphDSO.copied = [this](Graph::Copied what) { waveformButtons.graphDSO_Copied(what); };
   main.cmdLoadCSV.click = [this] { waveformButtons.cmdLoadCSV_Click(); };
   main.mnbLoadCSV.click = [this] { waveformButtons.cmdLoadCSV_Click(); };

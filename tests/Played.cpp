@@ -378,6 +378,7 @@ void Played::connect() {
 void Played::useGraph(Graph& graph, const std::string& value) {
   using enum Graph::Copied;
   if (value.empty()) return graph.toggleEnlarged();
+  if (value.starts_with("-")) return graph.removeReference(std::stoi(value.substr(1)));
   if (value.ends_with(".csv")) return note(graph.drop(folder.path() / value) ? "taken" : "left");
   graph.copy(value == "values" ? values : value == "picture" ? picture : pictureAndValues);
 }

@@ -36,6 +36,10 @@
         <translation>%1, %2 : balayages différents</translation>
     </message>
     <message>
+        <source>%1: %2 in its file</source>
+        <translation>%1 : %2 dans son fichier</translation>
+    </message>
+    <message>
         <source>%1: %2 of %3 settings not confirmed</source>
         <translation>%1 : %2 réglages sur %3 non confirmés</translation>
     </message>
@@ -78,6 +82,10 @@
     <message>
         <source>%1: recorded at %2, not at %3</source>
         <translation>%1 : enregistrée à %2, et non à %3</translation>
+    </message>
+    <message>
+        <source>%1: scale not known</source>
+        <translation>%1 : échelle inconnue</translation>
     </message>
     <message>
         <source>%1: setting %2 of %3</source>
@@ -858,6 +866,10 @@
     <message>
         <source>Records that did not come: %1 in a minute</source>
         <translation>Enregistrements qui ne sont pas venus : %1 en une minute</translation>
+    </message>
+    <message>
+        <source>Remove %1</source>
+        <translation>Retirer %1</translation>
     </message>
     <message>
         <source>Remove the loaded waveforms</source>

@@ -36,6 +36,10 @@
         <translation>%1, %2: разные развёртки</translation>
     </message>
     <message>
+        <source>%1: %2 in its file</source>
+        <translation>%1: в файле %2</translation>
+    </message>
+    <message>
         <source>%1: %2 of %3 settings not confirmed</source>
         <translation>%1: не подтверждено настроек: %2 из %3</translation>
     </message>
@@ -78,6 +82,10 @@
     <message>
         <source>%1: recorded at %2, not at %3</source>
         <translation>%1: записано при %2, а не при %3</translation>
+    </message>
+    <message>
+        <source>%1: scale not known</source>
+        <translation>%1: масштаб неизвестен</translation>
     </message>
     <message>
         <source>%1: setting %2 of %3</source>
@@ -858,6 +866,10 @@
     <message>
         <source>Records that did not come: %1 in a minute</source>
         <translation>Записи, которые не пришли: %1 за минуту</translation>
+    </message>
+    <message>
+        <source>Remove %1</source>
+        <translation>Убрать %1</translation>
     </message>
     <message>
         <source>Remove the loaded waveforms</source>

@@ -36,6 +36,10 @@
         <translation>%1、%2：不同次扫描</translation>
     </message>
     <message>
+        <source>%1: %2 in its file</source>
+        <translation>%1：文件中为 %2</translation>
+    </message>
+    <message>
         <source>%1: %2 of %3 settings not confirmed</source>
         <translation>%1：%3 项设置中有 %2 项未确认</translation>
     </message>
@@ -78,6 +82,10 @@
     <message>
         <source>%1: recorded at %2, not at %3</source>
         <translation>%1：在 %2 下记录，而非 %3</translation>
+    </message>
+    <message>
+        <source>%1: scale not known</source>
+        <translation>%1：刻度未知</translation>
     </message>
     <message>
         <source>%1: setting %2 of %3</source>
@@ -858,6 +866,10 @@
     <message>
         <source>Records that did not come: %1 in a minute</source>
         <translation>没有到达的记录：一分钟内 %1 个</translation>
+    </message>
+    <message>
+        <source>Remove %1</source>
+        <translation>移除 %1</translation>
     </message>
     <message>
         <source>Remove the loaded waveforms</source>

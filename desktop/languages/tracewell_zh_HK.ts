@@ -36,6 +36,10 @@
         <translation>%1、%2：唔同次掃描</translation>
     </message>
     <message>
+        <source>%1: %2 in its file</source>
+        <translation>%1：檔案入面係 %2</translation>
+    </message>
+    <message>
         <source>%1: %2 of %3 settings not confirmed</source>
         <translation>%1：%3 項設定有 %2 項未確認</translation>
     </message>
@@ -78,6 +82,10 @@
     <message>
         <source>%1: recorded at %2, not at %3</source>
         <translation>%1：用 %2 記錄，唔係 %3</translation>
+    </message>
+    <message>
+        <source>%1: scale not known</source>
+        <translation>%1：刻度未知</translation>
     </message>
     <message>
         <source>%1: setting %2 of %3</source>
@@ -858,6 +866,10 @@
     <message>
         <source>Records that did not come: %1 in a minute</source>
         <translation>冇嚟到嘅記錄：一分鐘內 %1 個</translation>
+    </message>
+    <message>
+        <source>Remove %1</source>
+        <translation>移除 %1</translation>
     </message>
     <message>
         <source>Remove the loaded waveforms</source>

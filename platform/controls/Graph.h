@@ -31,6 +31,10 @@ class Plot : public Observable {
   Property<Colour> lineColour;
   Property<int> lineStyle{*this, solidLine};
   Property<int> pointStyle{*this, noPoints};
+  /// The scale that its source names; empty where none is.
+  Property<std::string> scale{*this};
+  /// Laid over the others by the user, who may take it away again.
+  bool isReference() const { return isReference_; }
   /// There is something to see.
   bool isShown() const { return visible() && !y_.empty(); }
   /// Asked whenever the trace is painted: it is not what the instrument has under the settings that
@@ -50,6 +54,7 @@ class Plot : public Observable {
 
  private:
   std::string name_;
+  bool isReference_;
   std::vector<double> x_;
   std::vector<double> y_;
 };
@@ -94,6 +99,7 @@ struct GraphParts {
   struct PlotPart {
     std::string_view name;
     Colour colour;
+    /// Others are references, and hidden at first.
     bool isVisible;
   };
   struct AxisPart {
@@ -157,6 +163,9 @@ class Graph : public Control {
   /// The user has dropped a file on the graph. False while no handler may run: not taken yet.
   Event<const std::filesystem::path&> fileDropped;
   bool drop(const std::filesystem::path& file);
+  /// The user wants the reference of that number away.
+  Event<int> referenceRemoved;
+  void removeReference(int number);
   /// The user drags a cursor to a point in graph units.
   void dragCursor(Cursor& cursor, double x, double y);
 

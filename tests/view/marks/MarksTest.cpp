@@ -42,7 +42,7 @@ TEST_F(MarksTest, MarksTellWhatIsKnownOfDisplayedTraces) {
 
   graph.plot(4).plotXvsY(main.XIndex, atTop);
   graph.plot(4).visible = true;
-  EXPECT_EQ(graph.marks().names, (Texts{{4, "Load2"}}));
+  EXPECT_EQ(graph.marks().names, (Texts{{4, "Load2: scale not known"}}));
 }
 
 }  // namespace tracewell
