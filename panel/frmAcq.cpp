@@ -9,11 +9,10 @@ namespace tracewell {
 
 frmAcq::frmAcq(frmDSO& main, CommandExchange& exchange, ErrorLog& errorLog,
                Acquisition& acquisition, Captions& captions)
-    : Window("frmAcq", "Acquisition", main.services()),
+    : SettingsDialog("frmAcq", "Acquisition", main, acquisition),
       main_(main),
       exchange_(exchange),
       errorLog_(errorLog),
-      acquisition_(acquisition),
       captions_(captions) {
   // Set at loading only: after an OK a later Cancel sends the row again.
   formLoad = [this] { outcome = Outcome::cancelled; };
@@ -24,11 +23,8 @@ frmAcq::frmAcq(frmDSO& main, CommandExchange& exchange, ErrorLog& errorLog,
 
 void frmAcq::cmdAcq_Click() {
   try {
-    acquisition_.StopAcq();
-    showSettings();
-    showModal();
-    if (outcome == Outcome::accepted) sendSettings();
-    acquisition_.runAcquisition();
+    edit(
+        Fetching::stops, [this] { showSettings(); }, [this] { sendSettings(); });
   } catch (const Error& error) {
     errorLog_.ErrLog(error, "cmdAcq_Click : ");
   }

@@ -3,16 +3,16 @@
 
 #include <array>
 
-#include "Acquisition.h"
 #include "Captions.h"
 #include "Controls.h"
+#include "SettingsDialog.h"
 
 namespace tracewell {
 
 /// The acquisition dialog: edits row 6 of the setup table, which is sent after OK without waiting
 /// and without reading back. The averaging box shows while the mode box reads "Average", a text
 /// that is typed, not picked.
-class frmAcq : public Window {
+class frmAcq : public SettingsDialog {
  public:
   frmAcq(frmDSO& main, CommandExchange& exchange, ErrorLog& errorLog, Acquisition& acquisition,
          Captions& captions);
@@ -40,7 +40,6 @@ class frmAcq : public Window {
   frmDSO& main_;
   CommandExchange& exchange_;
   ErrorLog& errorLog_;
-  Acquisition& acquisition_;
   Captions& captions_;
 };
 

@@ -21,11 +21,10 @@ int rowOf(const Channel& channel) {
 
 frmChannel::frmChannel(frmDSO& main, CommandExchange& exchange, ErrorLog& errorLog,
                        Acquisition& acquisition, SettingsBurst& burst, InstrumentState& instrument)
-    : Window("frmChannel", "Channel", main.services()),
+    : SettingsDialog("frmChannel", "Channel", main, acquisition),
       main_(main),
       exchange_(exchange),
       errorLog_(errorLog),
-      acquisition_(acquisition),
       burst_(burst),
       instrument_(instrument) {
   formActivate = [this] { outcome = Outcome::cancelled; };
@@ -42,16 +41,18 @@ frmChannel::frmChannel(frmDSO& main, CommandExchange& exchange, ErrorLog& errorL
 void frmChannel::editSettings(Channel& channel) {
   try {
     if (burst_.isSending(rowOf(channel), channel.menuEntry.caption)) return;
-    readSettings(channel);
-    showModal();
-    if (outcome == Outcome::accepted)
-      burst_.writeAndVerify(channel.menuEntry.caption, channelQueries(channel.number),
-                            rowOf(channel), invertOn);
-    acquisition_.runAcquisition();
+    // While its settings are sent the dialog may be opened for the other channel.
+    edit(
+        Fetching::goesOn, [&] { readSettings(channel); }, [&] { sendSettings(channel); });
     instrument_.readScale(channel.stem() + "SCAL?", channel.kind, channel.scale, channel.knob);
   } catch (const Error& error) {
     errorLog_.ErrLog(error, "cmdCh" + std::to_string(channel.number) + "_Click : ");
   }
+}
+
+void frmChannel::sendSettings(const Channel& channel) {
+  burst_.writeAndVerify(channel.menuEntry.caption, channelQueries(channel.number), rowOf(channel),
+                        invertOn);
 }
 
 void frmChannel::readSettings(const Channel& channel) {

@@ -22,11 +22,10 @@ constexpr int column(std::size_t value) {
 
 frmDisplay::frmDisplay(frmDSO& main, CommandExchange& exchange, ErrorLog& errorLog,
                        Acquisition& acquisition, SettingsBurst& burst)
-    : Window("frmDisplay", "Display Setup", main.services()),
+    : SettingsDialog("frmDisplay", "Display Setup", main, acquisition),
       main_(main),
       exchange_(exchange),
       errorLog_(errorLog),
-      acquisition_(acquisition),
       burst_(burst) {
   unanswered_.watch(slideDataBrightness);
   unanswered_.watch(slideGraticuleBrightness);
@@ -44,11 +43,8 @@ frmDisplay::frmDisplay(frmDSO& main, CommandExchange& exchange, ErrorLog& errorL
 void frmDisplay::cmdDisplay_Click() {
   try {
     if (burst_.isSending(SetupTable::display, caption)) return;
-    acquisition_.StopAcq();
-    readSettings();
-    showModal();
-    if (outcome == Outcome::accepted) sendBrightness();
-    acquisition_.runAcquisition();
+    edit(
+        Fetching::stops, [this] { readSettings(); }, [this] { sendBrightness(); });
   } catch (const Error& error) {
     errorLog_.ErrLog(error, "cmdDisplay_Click : ");
   }

@@ -10,10 +10,9 @@ namespace tracewell {
 
 frmTrig::frmTrig(frmDSO& main, CommandExchange& exchange, Acquisition& acquisition,
                  SettingsBurst& burst)
-    : Window("frmTrig", "Trigger", main.services()),
+    : SettingsDialog("frmTrig", "Trigger", main, acquisition),
       main_(main),
       exchange_(exchange),
-      acquisition_(acquisition),
       burst_(burst) {
   cbTrig(0).items = {"1", "2", "EXT", "Line"};
   cbTrig(1).items = {"Auto Level", "Auto", "Normal", "Single"};
@@ -40,21 +39,23 @@ void frmTrig::cmdTrig_Click() {
   if (burst_.isSending(SetupTable::trigger, caption) ||
       burst_.isSending(SetupTable::advancedTrigger, caption))
     return;
-  acquisition_.StopAcq();
-  {
-    const WaitingNotice notice(main_);
-    readSettings();
-    if (isAdvanced())
-      readAdvancedSettings();
-    else
-      showStoredAdvancedSettings();
-  }
-  showModal();
-  const bool isAccepted = outcome == Outcome::accepted;
-  if (isAccepted) burst_.writeAndVerify(caption, TrigQuery, SetupTable::trigger, 0);
-  if (isAccepted && sendsAdvanced_)
+  edit(
+      Fetching::stops, [this] { fill(); }, [this] { sendSettings(); });
+}
+
+void frmTrig::fill() {
+  const WaitingNotice notice(main_);
+  readSettings();
+  if (isAdvanced())
+    readAdvancedSettings();
+  else
+    showStoredAdvancedSettings();
+}
+
+void frmTrig::sendSettings() {
+  burst_.writeAndVerify(caption, TrigQuery, SetupTable::trigger, 0);
+  if (sendsAdvanced_)
     burst_.writeAndVerify(fmAdv.caption, TrigAdvQuery, SetupTable::advancedTrigger, 0);
-  acquisition_.runAcquisition();
 }
 
 /// Setting a box runs its click, so the instrument's values go into the table, too.
