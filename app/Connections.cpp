@@ -33,7 +33,9 @@ void Tracewell::connectLifecycle() {
 }
 
 void Tracewell::connectLink() {
-  main.services().port.dataReady = [this](const std::string& data) { acquisition.DataReady(data); };
+  main.services().port.dataReady = [this](const LineRecord& record) {
+    acquisition.DataReady(record);
+  };
   main.cmdStart.click = [this] { connect.cmdStart_Click(); };
   main.cmdRS232.click = [this] { connect.cmdRS232_Click(); };
   main.mnbRS232.click = [this] { rs232.mnbRS232_Click(); };

@@ -10,7 +10,7 @@ void SettingsBurst::writeAndVerify(const Property<std::string>& caption,
                                    std::span<const std::string_view> stems, int row, int first) {
   main_.refresh();
   const Sending sending(*this, row);
-  const ShortTimeOut shortTimeOut(main_);
+  const ShortTimeOut shortTimeOut(main_.state, exchange_);
   main_.txtMsg.text = "";
   // A setup that is loaded meanwhile is of the next time.
   const SetupTable chosen = main_.gridMeasure;

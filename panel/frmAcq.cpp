@@ -37,7 +37,7 @@ void frmAcq::showSettings() {
 }
 
 void frmAcq::sendSettings() {
-  const ShortTimeOut shortTimeOut(main_);
+  const ShortTimeOut shortTimeOut(main_.state, exchange_);
   main_.txtMsg.text = "";
   for (std::size_t i = 0; i < AcqQuery.size(); ++i) {
     const int column = SetupTable::columnOf(static_cast<int>(i));

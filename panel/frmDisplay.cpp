@@ -76,7 +76,7 @@ void frmDisplay::sendBrightness() {
   main_.refresh();
   const SettingsBurst::Sending sending(burst_, SetupTable::display);
   const SetupTable chosen = main_.gridMeasure;
-  const ShortTimeOut shortTimeOut(main_);
+  const ShortTimeOut shortTimeOut(main_.state, exchange_);
   main_.txtMsg.text = "";
   Inquiry inquiry(exchange_.inquiries(), caption, Inquiry::Of::settings, brightnessCount);
   for (std::size_t setting = 0; setting < brightnessCount; ++setting) {

@@ -140,7 +140,7 @@ Lines split(const std::string& text, const std::string& separator) {
 Played::Played() {
   program.start();
   // As after the first exchange of any dialog.
-  port.readTimeOut = ReplyTimeout(main.state);
+  program.exchange.readTimeOut = ReplyTimeout(main.state);
   for (Window* window : program.otherWindows()) newIn(*window);
   newIn(main);
   port.told = dialogs.told = printer.told = [this](const std::string& event) { note(event); };
@@ -345,9 +345,9 @@ bool Played::setUp(const std::string& name, const std::string& value) {
     const Lines place = split(value, ":");
     main.graphDSO.dragCursor(main.graphDSO.cursor(name), std::stod(place[0]), std::stod(place[1]));
   } else if (name.starts_with("trace")) {
-    port.tag = name.substr(5);
-    port.stamp = main.known.now();
-    port.deliver(makeRecord([first = std::stoi(value)](int i) { return first + i; }));
+    port.requested.stamp = main.known.now();
+    port.deliver(static_cast<std::int16_t>(std::stoi(name.substr(5))),
+                 makeRecord([first = std::stoi(value)](int i) { return first + i; }));
   } else if (name.starts_with("row")) {
     setRow(std::stoi(name.substr(3)), split(value, " "));
   } else if (name.ends_with('?')) {

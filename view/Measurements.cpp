@@ -88,7 +88,7 @@ void Measurements::RunMeasurements() {
   const Doing measuring(main_, sayMeasuring);
   main_.refresh();
   ClearMeasureLabels();
-  const ShortTimeOut shortTimeOut(main_);
+  const ShortTimeOut shortTimeOut(main_.state, exchange_);
   nextLabel_ = 0;
   int count = 0;
   for (const int channel : {1, 2})
@@ -187,7 +187,7 @@ void Measurements::cmdFMeasure_Click() {
 
 void Measurements::measureQuickly() {
   const Doing measuring(main_, sayMeasuring);
-  const ShortTimeOut shortTimeOut(main_, 1);
+  const ShortTimeOut shortTimeOut(main_.state, exchange_, 1);
   const int channel = quickSelection_.FMeasChan;
   chooseSource(channel);
   Inquiry inquiry(exchange_.inquiries(), main_.fmMeasure.caption, Inquiry::Of::questions,

@@ -67,11 +67,11 @@ std::string Conversation::ask(std::string_view query, int timeOut) {
   }
 }
 
-void Conversation::request(Record record) {
+void Conversation::request(LineRecord record) {
   account_.wantedRecord(clock_.milliseconds());
   hear(take(0));
-  const bool waitsAlready =
-      std::ranges::any_of(held_, [&](const Record& held) { return held.tag == record.tag; });
+  const bool waitsAlready = std::ranges::any_of(
+      held_, [&](const LineRecord& held) { return held.channel == record.channel; });
   if (!waitsAlready) held_.push_back(std::move(record));
   sendHeld();
 }
@@ -173,7 +173,8 @@ void Conversation::refuseRecord(std::string_view behind) {
   drainTime_ = recordDrain;
   if (isWanted_) {
     // Otherwise a channel that always answers would stand back for one that never does.
-    std::erase_if(held_, [this](const Record& held) { return held.tag == record_.tag; });
+    std::erase_if(held_,
+                  [this](const LineRecord& held) { return held.channel == record_.channel; });
     record_.bytes.clear();
     held_.push_front(record_);
   }
@@ -352,7 +353,7 @@ void Conversation::arrived() {
     // Nobody waits for these: what comes without end must not keep the processor busy.
     if (state_ == State::draining) channel_->rest(StandBy::longestGap);
     if (whole_) {
-      const Record record = *std::exchange(whole_, std::nullopt);
+      const LineRecord record = *std::exchange(whole_, std::nullopt);
       account_.gaveRecord(clock_.milliseconds());
       delivered(record);
     }

@@ -21,8 +21,7 @@ class CopyTest : public MainFormTest {
     };
     port.answerLikeAnInstrument();
     main.cmdStart.press();
-    port.tag = "1";
-    port.deliver(makeRecord([](int i) { return i; }));
+    port.deliver(1, makeRecord([](int i) { return i; }));
   }
 
   static const QMimeData& content() { return *QGuiApplication::clipboard()->mimeData(); }

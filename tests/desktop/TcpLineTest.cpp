@@ -36,7 +36,6 @@ class TcpLineTest : public DeviceLineTest {
 
   std::string failure() {
     try {
-      port.reset();
       port.prepare();
     } catch (const Error& error) {
       if (error.number() == portReadTimeOut) return "given up";
