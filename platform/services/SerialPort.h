@@ -39,12 +39,12 @@ class SerialPort {
   }
 
   /// The number of the port that was opened last, whatever `settings` say about the next one. At
-  /// dataReady it is the one that the record was asked for and has come on: what is on its way when
-  /// a line is closed is never delivered.
+  /// dataReady it is the port of the record: a record that is pending when a line is closed is
+  /// never delivered.
   virtual std::int16_t openPort() const = 0;
 
   /// How often a line has been opened; another instrument may be on it each time. At dataReady it
-  /// tells, as openPort does, the line of the record.
+  /// names the line of the record, as openPort does.
   virtual int openings() const = 0;
 
   /// What has gone wrong on the line lately.
@@ -88,14 +88,14 @@ class PortList {
     /// The device's name, for example "ttyUSB0" or "simulated instrument".
     std::string device;
   };
-  /// The ports that are there now, by rising number.
+  /// The ports that are there now, in ascending order.
   virtual std::vector<Entry> ports() = 0;
 
   /// The device that a number means, whether it is there now or not; empty for a number without
   /// one.
   virtual std::string deviceOf(std::int16_t number) = 0;
 
-  /// Whether its device could be opened, as far as that shows from outside.
+  /// Whether its device could be opened, as far as that shows without trying.
   enum class State { ready, absent, inUseElsewhere };
   virtual State stateOf(std::int16_t number) = 0;
 };
