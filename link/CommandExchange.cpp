@@ -13,6 +13,12 @@ bool isQuery(const std::string& command) {
   return command.ends_with('?');
 }
 
+SerialPort::Expects expectedOf(const std::string& line) {
+  if (isQuery(line)) return SerialPort::Expects::reply;
+  const bool hasQuestion = line.find('?') != std::string::npos;
+  return hasQuestion ? SerialPort::Expects::unreadReply : SerialPort::Expects::nothing;
+}
+
 /// The value in a reply line.
 std::string replyValue(const std::string& line) {
   std::string value(trimBlanks(line));
@@ -113,8 +119,7 @@ std::string CommandExchange::exchange(const std::string& command) {
   hasBegun_ = true;
   // Until it is answered it may have gone out or not.
   if (isQuery(command)) main_.known.notSent(command);
-  port.write(command + "\r\n",
-             isQuery(command) ? SerialPort::Expects::reply : SerialPort::Expects::nothing);
+  port.write(command + "\r\n", expectedOf(command));
   std::string reply;
   if (isQuery(command)) {
     const std::string line = port.read();

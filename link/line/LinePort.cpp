@@ -18,10 +18,10 @@ void LinePort::prepareLine() {
 }
 
 void LinePort::write(std::string_view bytes, Expects expects) {
-  if (expects == Expects::nothing)
-    conversation_.command(bytes);
-  else
+  if (expects == Expects::reply || expects == Expects::record)
     request_ = bytes;
+  else
+    conversation_.command(bytes, expects == Expects::unreadReply);
 }
 
 std::string LinePort::read() {

@@ -58,10 +58,10 @@ class SerialPort {
   /// What has gone wrong on the line lately.
   virtual LineReport report() const = 0;
 
-  /// What the instrument answers to a line.
-  enum class Expects { nothing, reply, record };
+  /// What the instrument answers to a line; an unread reply is one that nobody waits for.
+  enum class Expects { nothing, reply, record, unreadReply };
 
-  /// Sends the bytes of a command, at once. Those that expect an answer are sent by read or
+  /// Sends the bytes of a command, at once. Those whose answer is awaited are sent by read or
   /// beginRead, which know how it is to be awaited.
   virtual void write(std::string_view bytes, Expects expects) = 0;
 
