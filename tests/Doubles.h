@@ -102,8 +102,6 @@ class NumberedWords : public Words {
 
 class RecordingPrinter : public Printer {
  public:
-  Lines printed;
-  std::vector<GraphPage> pages;
   bool isOutOfPaper = false;
   /// All of it, as it happens.
   Event<const std::string&> told;
@@ -114,10 +112,7 @@ class RecordingPrinter : public Printer {
   void printPage(const GraphPage& page) override;
 
  private:
-  void print(const std::string& text) {
-    printed.push_back(text);
-    told.raise("print " + text.substr(0, 40));
-  }
+  void print(const std::string& text) { told.raise("print " + text.substr(0, 40)); }
 };
 
 /// A screen on which a script plays the user of each modal window.
