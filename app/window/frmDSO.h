@@ -142,7 +142,7 @@ class frmDSO : public Window {
   Samples XIndex{};
   /// The setup table.
   SetupTable gridMeasure;
-  /// Whole paths, in the order in which they were noted. Kept through app/window/KeptFiles.h.
+  /// Whole paths, in the order in which they were noted. Kept through files/kept/KeptFiles.h.
   std::vector<std::filesystem::path> filesToKeep;
   /// Number of the message that stands on each of these captions; 0 while it is the caption file's.
   /// Kept through app/window/ConnectionIndicator.h.
@@ -183,7 +183,7 @@ class frmDSO : public Window {
   ValueLabel lblAge{*this, "lblAge", ""};
   /// Opens the error log.
   ValueButton cmdNewErrors{*this, "cmdNewErrors"};
-  /// Written through app/window/KeptFiles.h.
+  /// Written through files/kept/KeptFiles.h.
   ValueLabel lblNotice{*this, "lblNotice", ""};
 
   /// Waveform requests, and a bench diagnostic that nothing enables. Milliseconds.

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "TraceBanner.h"
 
-#include <algorithm>
-
 #include "TraceMarks.h"
 
 namespace tracewell {
