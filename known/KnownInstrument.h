@@ -31,7 +31,7 @@ class KnownInstrument {
       : presentLine_(std::move(presentLine)) {}
   KnownInstrument(const KnownInstrument&) = delete;
 
-  // What happens, told in its order.
+  // Facts, reported in order.
 
   /// The panel has sent a command: the instrument now has what it sets.
   void sent(std::string_view command);
