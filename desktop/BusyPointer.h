@@ -8,8 +8,8 @@
 
 namespace tracewell {
 
-/// The busy pointer while a handler waits for the instrument: the gate is held then, and the event
-/// loop runs all the same. Short waits do not show it.
+/// Shows the busy pointer while a handler waits for the instrument: the gate is held, and the event
+/// loop still runs. Short waits do not show it.
 class BusyPointer : public QObject {
  public:
   explicit BusyPointer(const Gate& gate);

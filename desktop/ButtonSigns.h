@@ -5,8 +5,9 @@
 
 namespace tracewell {
 
-/// The start button and that of the instrument can both read "Stop". A sign in front says what a
-/// button acts on, as its form names it in the property "sign": the "instrument" itself.
+/// The start button and the instrument's run/stop button can both read "Stop". A sign in front
+/// shows what a button acts on. Its form names the sign in the property "sign": "instrument" for
+/// the instrument itself.
 void showSign(QPushButton& button);
 
 }  // namespace tracewell

@@ -6,8 +6,8 @@
 
 namespace tracewell {
 
-/// What a user does with a widget to have its content in another program: the key for copying while
-/// it has the focus, and "Copy" in its context menu.
+/// How a user copies a widget's content to another program: the copy key while it has the focus,
+/// and "Copy" in its context menu.
 class CopyGestures : public QObject {
   Q_OBJECT
 
@@ -23,7 +23,7 @@ class CopyGestures : public QObject {
   std::function<void()> copy_;
 };
 
-/// The key copies the whole text of an area where nothing in it is selected.
+/// Makes the copy key copy the whole text of an area if nothing in it is selected.
 class WholeTextCopy : public QObject {
   Q_OBJECT
 

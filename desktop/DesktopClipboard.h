@@ -5,7 +5,7 @@
 
 namespace tracewell {
 
-/// The desktop's own.
+/// The desktop's own clipboard.
 class DesktopClipboard : public Clipboard {
  public:
   void put(const std::string& text, const Image& picture) override;

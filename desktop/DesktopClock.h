@@ -22,7 +22,7 @@ class DesktopClock : public Clock {
 
  private:
   QElapsedTimer sinceStart_;
-  /// Actions that are still due when the clock goes away are dropped with it.
+  /// Drops the actions that are still due when the clock is destroyed.
   QObject context_;
 };
 

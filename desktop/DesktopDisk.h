@@ -5,7 +5,7 @@
 
 namespace tracewell {
 
-/// The system's own call for each. Needs no Qt.
+/// Uses the system's own call for each. Needs no Qt.
 class DesktopDisk : public Disk {
  public:
   std::error_code flush(std::FILE& file) override;

@@ -8,8 +8,8 @@
 
 namespace tracewell {
 
-/// Printing with Qt. A machine without a printer prints to a PDF file that the user names, each
-/// time anew, so that no print takes the place of another.
+/// Printing with Qt. Without a printer it prints to a PDF file that the user names anew each time,
+/// so that no print replaces another.
 class DesktopPrinter : public Printer {
  public:
   void setUp() override;
@@ -17,13 +17,13 @@ class DesktopPrinter : public Printer {
   void printText(const std::string& text) override;
   void printPage(const GraphPage& page) override;
 
-  /// Prints everything to this PDF file from now on, each print in the place of the one before.
+  /// Prints everything to this PDF file from now on; each print replaces the one before.
   void printToFile(const QString& path);
 
  private:
-  /// Made when it is first needed: it asks the print system for the default printer.
+  /// Created when first needed: it asks the print system for the default printer.
   QPrinter& printer();
-  /// False when there is no printer and the user has chosen none.
+  /// False if there is no printer and the user has chosen none.
   bool isReady();
   void finished();
   void turnPaper(QPageLayout::Orientation orientation);

@@ -18,13 +18,13 @@
 
 namespace tracewell {
 
-/// The program with everything that it asks of the outside, on this desktop. Needs a QApplication.
+/// The program with all its services, on this desktop. Needs a QApplication.
 struct DesktopProgram {
   explicit DesktopProgram(const std::filesystem::path& programFolder);
 
   ~DesktopProgram();
 
-  /// Loads and shows the main window. False, after saying why, when the program cannot start.
+  /// Loads and shows the main window. If the program cannot start, says why and returns false.
   bool start();
 
   DesktopClock clock;

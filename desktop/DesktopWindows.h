@@ -17,7 +17,7 @@ class Control;
 /// kept until the window is unloaded.
 class DesktopWindows : public WindowHost {
  public:
-  /// The main window is remembered in the folder, and so is the theme, which is applied.
+  /// Keeps the main window's place and size and the theme in the folder, and applies the theme.
   explicit DesktopWindows(const std::filesystem::path& programFolder);
   ~DesktopWindows() override;
 
@@ -28,11 +28,11 @@ class DesktopWindows : public WindowHost {
   /// Unloading the main window ends the event loop.
   void unload(Window& window) override;
 
-  /// The widget that shows the control; none while its window has no form.
+  /// The widget that shows the control; null while its window has no form.
   QWidget* widgetOf(const Control& control) const;
-  /// Told the manual's file where no program here shows it.
+  /// Called with the manual's file if no program here shows it.
   std::function<void(const QString& file)> manualRefused;
-  /// Lets go of every form.
+  /// Deletes every form.
   void unloadAll();
 
  private:

@@ -8,20 +8,20 @@
 
 namespace tracewell {
 
-/// What the desktop itself says, in the language in force. Its translations are in
-/// languages/*.ts, as are those of the forms and of what the logic says.
+/// The desktop's own words, in the language in force. The translations are in languages/*.ts, with
+/// those of the forms and of the logic's words.
 QString panelText(const char* english);
 
-/// The English tool tips and accessible names of a widget and of those within it, as they are now,
-/// are what sayInLanguage translates.
+/// Keeps the present English tool tips and accessible names of a widget and its children for
+/// sayInLanguage.
 void keepEnglish(QWidget& widget);
 
-/// Gives a widget, and those within it, the kept tool tips and accessible names in the language in
-/// force. Captions and values stay as the program has set them.
+/// Gives a widget and its children the kept tool tips and accessible names in the language in
+/// force. Captions and values stay.
 void sayInLanguage(QWidget& widget);
 
-/// Speaks Qt's way: installs the translations of the panel's words, and of the toolkit's own where
-/// the system has them. Qt then sends QEvent::LanguageChange to every window.
+/// Translates with Qt: installs the translations of the panel's words, and of the toolkit's if the
+/// system has them. Qt then sends QEvent::LanguageChange to every window.
 class DesktopWords : public Words {
  public:
   void use(int language) override;

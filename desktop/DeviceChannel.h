@@ -11,8 +11,7 @@
 
 namespace tracewell {
 
-/// A line over one of the toolkit's devices: what serial devices and servers of them have in
-/// common.
+/// A line over one of the toolkit's devices: the common part of serial devices and device servers.
 class DeviceChannel : public ByteChannel {
  public:
   void write(std::string_view bytes) override;
@@ -20,18 +19,18 @@ class DeviceChannel : public ByteChannel {
   void rest(int milliseconds) override;
 
  protected:
-  /// `name` stands in front of every complaint.
+  /// `name` begins every error description.
   DeviceChannel(const QString& name, std::unique_ptr<QIODevice> device);
 
-  /// Sends what waits in the device.
+  /// Sends what is buffered in the device.
   virtual void flush() = 0;
-  /// How many bytes the device may fetch by itself before it is read; 0 for any number.
+  /// Limits the bytes that the device may fetch before it is read; 0 for no limit.
   virtual void limitFetching(qint64 bytes) = 0;
 
-  /// To be called when bytes have arrived.
+  /// Call it when bytes have arrived.
   void announce();
-  /// To be called with the device's words when it has failed. The first failure is the last: a
-  /// device that is gone reports the same one without end until it is closed.
+  /// Call it with the device's words when it has failed. Only the first failure counts: a device
+  /// that is gone reports the same one endlessly until it is closed.
   void fail(const QString& reason);
   bool hasFailed() const { return !failure_.isNull(); }
   [[noreturn]] void raiseFailure() const;
@@ -51,7 +50,7 @@ class DeviceChannel : public ByteChannel {
   bool isAnnounced_ = false;
   QTimer resting_;
   bool isResting_ = false;
-  /// Declared last: announcements that are still due are dropped before anything else goes.
+  /// Declared last, so that pending announcements are dropped before anything else is destroyed.
   QObject context_;
 };
 

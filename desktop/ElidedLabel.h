@@ -5,8 +5,8 @@
 
 namespace tracewell {
 
-/// A line of text that takes the room that it gets and ends in "…" where that is not enough. A text
-/// has a sign in front of it that says its weight, where one was given.
+/// A line of text that ends in "…" if its room is too small. A sign in front, if given, shows the
+/// text's weight.
 class ElidedLabel : public QLabel {
   Q_OBJECT
   Q_PROPERTY(QColor warningColour MEMBER warningColour_)

@@ -12,7 +12,7 @@ namespace tracewell {
 /// without a form. Made from the list of forms in CMakeLists.txt.
 std::unique_ptr<QWidget> makeForm(const std::string& name, QWidget* parent);
 
-/// Of every form, in alphabetical order.
+/// The names of all forms, in alphabetical order.
 std::vector<std::string> formNames();
 
 }  // namespace tracewell

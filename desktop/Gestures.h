@@ -8,26 +8,25 @@
 
 #include "Controls.h"
 
-/// What the user does to a widget beyond what the toolkit reports as a signal. Each watch belongs
-/// to the watched object and goes with it.
+/// User actions on a widget for which the toolkit has no signal. Each watch belongs to the watched
+/// object and is deleted with it.
 namespace tracewell {
 
 void onDoubleClick(QObject* watched, const std::function<void()>& action);
 
-/// For Enter, which a dialog would otherwise take for its default button.
+/// Runs `action` at Enter, which a dialog would otherwise take for its default button.
 void onEnter(QObject* watched, const std::function<void()>& action);
 
-/// Enter on a text that is not taken yet takes it and does no more: what it opens is to be seen
-/// before the dialog is closed. Tab takes it before it looks for the next box, which may be the one
-/// that opens.
+/// Enter on a text that is not taken yet only takes it: the user sees what it opens before the
+/// dialog closes. Tab takes it before it looks for the next box, which may be the one that opens.
 void takeOnKeys(QComboBox& box, const ComboBox& control);
 
-/// Keys that edit a text are the line's as long as it has the focus, whether there is anything to
-/// edit or not: what is typed behind them is meant for it.
+/// While the line has the focus it gets all keys that edit a text, even if it is empty: the user
+/// means the line.
 void keepEditingKeys(QLineEdit& line);
 
-/// When the user has pressed a key in a list, which moves through it. Focus alone, which also gives
-/// a list its current entry, is no choice, and neither is the release of a key that was pressed
+/// Runs `action` when the user presses a key that moves through a list. Focus alone, which also
+/// gives a list a current entry, is no choice; nor is the release of a key that was pressed
 /// elsewhere.
 void onMoveByKey(QObject* list, const std::function<void()>& action);
 

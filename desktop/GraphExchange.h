@@ -8,8 +8,8 @@ namespace tracewell {
 
 class Graph;
 
-/// What a user does with a graph's widget to have it in another program, or a file of another
-/// program in it: the key for copying, the context menu, a data file dropped on it.
+/// How a user exchanges a graph with other programs: the copy key, the context menu, a data file
+/// dropped on it.
 class GraphExchange : public QObject {
   Q_OBJECT
 

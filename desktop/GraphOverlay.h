@@ -12,16 +12,16 @@ namespace tracewell {
 class Graph;
 class ScaleStrip;
 
-/// What the screen shows over the plot beside what belongs to the graph itself: the marks, as large
-/// as its font, and the frame of the keyboard focus. Hands the scales to the strip above the plot.
-/// A picture of the graph is taken while it is hidden.
+/// What the screen shows over the plot: the marks, as large as its font, and the frame of the
+/// keyboard focus. Passes the scales to the strip above the plot. It is hidden while a picture of
+/// the graph is taken.
 class GraphOverlay : public QWidget {
   Q_OBJECT
 
  public:
   GraphOverlay(QCustomPlot& plot, ScaleStrip& strip);
 
-  /// Null for none. The graph outlives its being shown.
+  /// Null for none. The graph lives as long as it is shown.
   void setGraph(const Graph* graph);
   void setFocusShown(bool isShown);
 
@@ -38,11 +38,11 @@ class GraphOverlay : public QWidget {
   QRectF flagPlace(const GraphMarks::Side& side, const QList<QRectF>& taken) const;
   QPointF badgePlace(const QSizeF& size) const;
   QSizeF sizeOf(const Texts& row) const;
-  /// The texts beside each other on a ground of their own.
+  /// Paints the texts side by side on their own ground.
   void paintRow(QPainter& painter, const Texts& row, const QRectF& place) const;
   void paintGround(QPainter& painter, const QRectF& place) const;
   QColor colourOf(int plot) const;
-  /// So many pixels with the usual font.
+  /// Pixels that correspond to `pixels` with the usual font.
   qreal grown(qreal pixels) const;
   QPointF toPixels(double x, double y) const;
 

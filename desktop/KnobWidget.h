@@ -24,17 +24,17 @@ class KnobWidget : public QWidget {
   int value() const { return value_; }
   QColor accent() const { return accent_; }
   void setAccent(const QColor& accent);
-  /// Without its colour: dimmed, that could not be read any more.
+  /// Removes its colour: a dimmed colour would be unreadable.
   void setPale(bool isPale);
 
-  /// Middle of the room below the cap, between the first detent and the last.
+  /// Middle of the gap below the cap, between the first detent and the last.
   QPointF gap() const;
 
   QSize sizeHint() const override { return {168, 150}; }
   QSize minimumSizeHint() const override { return {128, 116}; }
 
  signals:
-  /// By the user, to a detent that need not be a new one.
+  /// The user has turned it, perhaps to the same detent.
   void turned(int detent);
 
  protected:
@@ -46,26 +46,26 @@ class KnobWidget : public QWidget {
   void focusOutEvent(QFocusEvent* event) override;
 
  private:
-  /// Of a typed value. False for a key that has no part in one.
+  /// Takes a key of a typed value. False for any other key.
   bool takeTyped(const QKeyEvent& event);
   void setTyped(const QString& typed);
-  /// The one nearest to what was typed; of several that read the same the one nearest to the
+  /// The detent nearest to the typed value; of several that read the same, the one nearest to the
   /// present.
   int typedDetent() const;
   void paintTyped(QPainter& painter);
-  /// How much larger than at its usual size it is drawn, captions included.
+  /// The factor by which it is drawn larger than usual, captions included.
   qreal scale() const;
   QPointF centre() const;
   qreal radius() const;
   /// Direction of a detent from the centre, in degrees counter-clockwise from three o'clock.
   qreal angleOf(int detent) const;
   QPointF pointAt(qreal angle, qreal distance) const;
-  /// Degrees, counted as in mathematics.
+  /// The angle of a point from the centre, as in angleOf.
   qreal angleAt(const QPointF& position) const;
   int nearestDetent(const QPointF& position) const;
   bool hasCaption(int detent) const;
   void turnTo(int detent);
-  /// Of what marks the value.
+  /// Colour of the mark at the value.
   QColor mark() const;
   void paintDetents(QPainter& painter);
   void paintCap(QPainter& painter);
@@ -74,10 +74,10 @@ class KnobWidget : public QWidget {
   QColor accent_{Qt::white};
   bool isPale_ = false;
   int value_ = 0;
-  /// Shown on the cap until it is taken with Enter, or given up.
+  /// The typed text, shown on the cap until Enter takes it or it is given up.
   QString typed_;
   WheelTravel wheel_;
-  /// Of a drag: the detent that it began at, the last angle, and degrees turned to the right.
+  /// State of a drag: its first detent, the last angle, and degrees turned to the right.
   int draggedFrom_ = 0;
   qreal dragAngle_ = 0;
   qreal dragTravel_ = 0;

@@ -7,16 +7,17 @@
 
 namespace tracewell {
 
-/// The manual where the program has been installed, unpacked or built; empty if there is none.
+/// The path of the manual, whether the program was installed, unpacked or built; empty if there is
+/// none.
 QString manualFile(const QString& executableFolder);
 
-/// Opens the manual, which also lists the keys, with whatever shows such files here. The caption
-/// files do not name it: it is no control of the main window.
+/// Opens the manual, which also lists the keys, with the desktop's program for such files. The
+/// caption files do not name this entry: it is no control of the main window.
 class ManualEntry : public QAction {
   Q_OBJECT
 
  public:
-  /// `refused` is told the file that no program here could be found for.
+  /// `refused` is called with the file if no program can show it.
   ManualEntry(QMenu& menu, std::function<void(const QString& file)> refused);
 
  private:

@@ -7,8 +7,8 @@
 
 namespace tracewell {
 
-/// A placeable Windows metafile that draws the image point by point, at 96 points to an inch. It
-/// counts in signed 16-bit numbers.
+/// A placeable Windows metafile that draws the image point by point, at 96 points to an inch. Its
+/// sizes are signed 16-bit numbers.
 std::string metafile(const Image& image);
 
 }  // namespace tracewell

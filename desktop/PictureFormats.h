@@ -12,8 +12,8 @@ namespace tracewell {
 /// As Pictures::encode. A cursor points with its upper left corner.
 std::string encodePicture(const Image& image, int format);
 
-/// As Pictures::load. Of several pages or frames the first; transparent parts become white. Refuses
-/// pictures of more than 8192 pixels either way.
+/// As Pictures::load. Takes the first of several pages or frames; transparent parts become white.
+/// Refuses pictures of more than 8192 pixels either way.
 Image loadPicture(const std::filesystem::path& path);
 
 }  // namespace tracewell

@@ -11,18 +11,18 @@ namespace tracewell {
 inline constexpr std::size_t largestPictureArea = 10'000'000;
 /// Pixels that it may have either way.
 inline constexpr int largestPictureSide = 8192;
-/// Bytes that all lines of a PCX may have together; three make a pixel.
+/// Bytes that all lines of a PCX may have together; a pixel has three.
 inline constexpr std::size_t largestPcxLines = 24'000'000;
 
 struct GuardedPicture {
   /// The library's name of the format; empty for what is no bmp, gif, pcx, tif, png or jpg.
   std::string format;
-  /// The file without all that no picture needs.
+  /// The file, reduced to what the picture needs.
   std::string bytes;
 };
 
-/// Only the parts that make the first picture are left, so that comments, profiles and the like,
-/// which a library inflates and copies, cost nothing. What is cut short stays so. Raises
+/// Keeps only the parts that make the first picture. So comments, profiles and the like, which a
+/// library inflates and copies, cost nothing. A truncated file stays truncated. Raises
 /// std::runtime_error for what costs too much by itself: too many parts or scans, arithmetic
 /// coding, lines or tiles that are far longer than the picture.
 GuardedPicture guardedPicture(std::string bytes);

@@ -6,7 +6,7 @@
 
 namespace tracewell {
 
-/// A picture, scaled down to fit where it does not.
+/// A picture, scaled down if it does not fit.
 class PictureWidget : public QWidget {
   Q_OBJECT
 

@@ -19,12 +19,12 @@ namespace tracewell {
 
 /// What the port numbers mean on this machine.
 ///
-/// Number 0 is the built-in simulated instrument. On Windows n is COMn, always. Elsewhere 1
-/// to 32 are ttyS0 to ttyS31, 33 to 64 ttyUSB0 to ttyUSB31, 65 to 96 ttyACM0 to ttyACM31; a link
-/// "comN" in the program folder stands for number N whatever its range, and so does a file "comN"
-/// with the line "tcp://host:port", which means a serial device server. Once it has been seen there
-/// it does until the program ends: a number does not become the usual device when a link goes, nor
-/// another server.
+/// Number 0 is the built-in simulated instrument. On Windows n is COMn, always. Elsewhere 1 to 32
+/// are ttyS0 to ttyS31, 33 to 64 ttyUSB0 to ttyUSB31, 65 to 96 ttyACM0 to ttyACM31; a link "comN"
+/// in the program folder stands for number N whatever its range, and so does a file "comN" with the
+/// line "tcp://host:port", which means a serial device server. Once seen, it stands for that number
+/// until the program ends. A number does not become the usual device when a link goes, nor another
+/// server.
 class PortDirectory : public ChannelOpener, public PortList {
  public:
   PortDirectory(std::filesystem::path programFolder, Clock& clock, StandBy& standBy);
@@ -37,7 +37,7 @@ class PortDirectory : public ChannelOpener, public PortList {
  private:
   std::filesystem::path overrideOf(int number) const;
   bool isOverridden(int number) const;
-  /// None where the number is no server's. Raises where its file cannot be read as one.
+  /// Empty if the number is no server's. Raises an error if its file cannot be read as one.
   std::optional<ServerAddress> serverOf(int number);
   std::unique_ptr<ByteChannel> openServer(const ServerAddress& server);
   QString systemDevice(int number) const;
@@ -47,7 +47,7 @@ class PortDirectory : public ChannelOpener, public PortList {
   /// The numbers that have had a file or link of their own during this run.
   mutable std::set<int> overridden_;
   std::map<int, ServerAddress> servers_;
-  /// A server that did not answer, and until when it is not asked again.
+  /// A server that did not answer, and until when it is not tried again.
   struct Silence {
     ServerAddress server;
     Error error;

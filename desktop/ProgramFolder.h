@@ -10,20 +10,21 @@ namespace tracewell {
 /// The folder of setup, language files and error log.
 struct ProgramFolder {
   std::filesystem::path path;
-  /// Names of shipped files that are new to the user and stand beside those that he has changed.
+  /// Names of shipped files that are new to the user and stand beside those that the user has
+  /// changed.
   std::vector<std::string> offered = {};
   /// Why nothing can be kept; empty where it can.
   std::string failure = "";
 };
 
-/// The executable's own, or, when that cannot be written, one of the user's, which follows the
-/// shipped files. Where that cannot be made either, the shipped files are used where they are.
+/// The executable's folder or, if that cannot be written, one of the user's, which follows the
+/// shipped files. If that cannot be made either, the shipped files are used where they are.
 ProgramFolder programFolder();
 
-/// Copies the shipped files of `from` to `to`, which is made if need be. A file that is there and
-/// that the user has not changed follows the shipped one; beside one that he has changed the new
-/// one is put as "<name>.new", once, and named in the result. Setups are the user's. What was
-/// copied and offered stands in "shipped-files".
+/// Copies the shipped files of `from` to `to`, which is made if need be. A file that the user has
+/// not changed follows the shipped one. Beside a changed one the new one is put as "<name>.new",
+/// once, and named in the result. Setups are the user's. "shipped-files" lists what was copied and
+/// offered.
 std::vector<std::string> fillProgramFolder(const std::filesystem::path& from,
                                            const std::filesystem::path& to);
 

@@ -11,7 +11,7 @@
 
 namespace tracewell {
 
-/// The line behind a serial device server, which keeps its settings: raw TCP.
+/// The line behind a serial device server, as raw TCP. The server keeps the settings of the line.
 class QtTcpChannel : public DeviceChannel {
  public:
   /// Finds the host, connects, and drops what the server says by itself, all within
@@ -23,7 +23,7 @@ class QtTcpChannel : public DeviceChannel {
   QtTcpChannel(const ServerAddress& address, StandBy& standBy, TcpSocket& socket);
 
   void flush() override { socket_.flush(); }
-  /// Never any number: a server that floods the line must not fill the memory, nor a turn.
+  /// Always limited: a server that floods the line must not fill the memory, nor a turn.
   void limitFetching(qint64 bytes) override {
     socket_.limitFetching(bytes == 0 ? mostFetched : bytes);
   }
@@ -34,7 +34,7 @@ class QtTcpChannel : public DeviceChannel {
   void dropGreeting();
   /// Milliseconds that opening may still take.
   int left() const;
-  /// Lets the desktop have its turn; raises what giving up does.
+  /// Lets the desktop run; raises an error if the user gives up.
   void turn();
   [[noreturn]] void endWith(const QString& reason);
 

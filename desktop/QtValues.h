@@ -8,8 +8,8 @@
 
 #include "Colour.h"
 
-/// The program's texts are UTF-8 bytes; Qt's are QString, and likewise for colours. What is to be
-/// shown goes through ShownText.h.
+/// Converts between the program's texts (UTF-8 bytes) and colours and Qt's. Texts to be shown go
+/// through ShownText.h.
 namespace tracewell {
 
 inline QString toQt(const std::string& text) {
@@ -39,7 +39,7 @@ inline Colour fromQt(const QColor& colour) {
           static_cast<std::uint8_t>(colour.blue())};
 }
 
-/// What is seen when a share of the colour, 0 to 1, lies over the ground.
+/// The colour laid over the ground with the opacity `share`, 0 to 1.
 inline QColor mixed(const QColor& colour, const QColor& ground, float share) {
   const auto mix = [share](float one, float other) { return share * one + (1 - share) * other; };
   return QColor::fromRgbF(mix(colour.redF(), ground.redF()), mix(colour.greenF(), ground.greenF()),

@@ -6,7 +6,7 @@
 namespace tracewell {
 
 /// A box of replies and records. A record is one paragraph of 500 numbers, twice a second, of which
-/// a few rows show: only these are laid out, until the user turns to the box.
+/// a few rows show. Only these are laid out until the user turns to the box.
 class ReplyBox : public QPlainTextEdit {
  public:
   explicit ReplyBox(QWidget* parent = nullptr);

@@ -10,11 +10,11 @@ namespace tracewell {
 
 class Graph;
 
-/// The colour of what a graph's marks say of a plot, or of none for 0: readable on the plot area.
+/// The colour of a graph's marks for a plot, or for no plot if 0: readable on the plot area.
 QColor markColour(const Graph& graph, int plot);
 
-/// The line above the plot that is read from afar: the scales, and at its right end the values
-/// under the pointer, which take their place where there is no room for both.
+/// The line above the plot, read from afar: the scales, and at its right end the values under the
+/// pointer, which replace the scales if there is no room for both.
 class ScaleStrip : public QWidget {
   Q_OBJECT
 

@@ -7,24 +7,24 @@
 
 namespace tracewell {
 
-/// What the user's folder has of each shipped file, as "shipped-files" there says: a line
+/// Which content of each shipped file the user's folder has. "shipped-files" there has a line
 /// "name,copied,offered" for each, with the sums of the contents.
 class ShippedFiles {
  public:
-  /// What is damaged counts as not there.
+  /// A damaged line counts as missing.
   explicit ShippedFiles(const std::filesystem::path& folder);
 
-  /// Brings the file of this name up to the shipped content. True if that now stands beside the
+  /// Updates the file of this name to the shipped content. True if that now stands beside the
   /// user's own as "<name>.new" and did not before.
   bool bring(const std::string& name, const std::string& content);
-  /// Where that fails, the next start does it all again.
+  /// If that fails, the next start does it all again.
   void keep() const;
 
  private:
   struct Sums {
-    /// Of what was last copied.
+    /// Sum of the content last copied.
     std::string copied;
-    /// Of what was last put beside a file that the user has changed.
+    /// Sum of the content last put beside a file that the user has changed.
     std::string offered;
     bool operator==(const Sums&) const = default;
   };
@@ -35,7 +35,7 @@ class ShippedFiles {
 
   std::filesystem::path folder_;
   Record record_;
-  /// As it was read.
+  /// The text as read.
   std::string readText_;
 };
 

@@ -6,16 +6,16 @@
 #include <QString>
 #include <string>
 
-/// The one way of a text from the line, from a file or from a file system to the screen or to
-/// paper. What is shown is never markup, holds nothing that changes how its surroundings are
-/// shown, and ends in "…" where it was shortened. What the program keeps stays as it is.
+/// The only way of a text from the line, a file or a file system to the screen or to paper. A shown
+/// text is never markup, does not change how its surroundings look, and ends in "…" if it was
+/// shortened. What the program keeps is unchanged.
 namespace tracewell {
 
 /// How much of a text is shown.
 struct Room {
   qsizetype characters;
   qsizetype lines = 1;
-  /// Elsewhere each is a blank: nobody can say how wide it is.
+  /// Without, each is shown as a blank, since its width is not known.
   bool hasTabs = false;
 };
 inline constexpr Room roomOfCaption{60};
@@ -27,25 +27,25 @@ inline constexpr Room roomOfParagraph{1000, 20};
 inline constexpr Room roomOfPage{1100000, 30000, true};
 
 /// Bytes that are no UTF-8, control characters, direction marks and the like become U+FFFD; so does
-/// a line end where there is room for one line. CR goes.
+/// a line end if there is room for one line only. CR is removed.
 QString shownText(const std::string& text, Room room);
 
-/// The last lines of a text for which there is room, behind a line of "…" where others were before
-/// them: of a log the newest count.
+/// The last lines of a text that fit, after a line of "…" if earlier ones were left out. For logs,
+/// where the newest lines matter.
 QString shownEnd(const std::string& text, Room room);
 
 /// A caption for a widget that would take "&" for a keyboard mark.
 QString shownCaption(const std::string& caption);
 
-/// A title for a window, which would take "[*]" for the place of a mark.
+/// A title for a window that would take "[*]" for the place of a mark.
 QString shownTitle(const std::string& title);
 
 /// Shows a text in a label: one that breaks its lines as a paragraph, any other on one line of at
 /// most `widest` pixels.
 void showInLabel(QLabel& label, const std::string& text, int widest);
 
-/// From now on no label of the program guesses that its text is markup, those of the toolkit's own
-/// boxes and tips included. A form that wants markup says so.
+/// From now on no label of the program treats its text as markup, including those of the toolkit's
+/// own boxes and tips. A form that wants markup says so.
 void keepLabelsPlain(QApplication& application);
 
 }  // namespace tracewell

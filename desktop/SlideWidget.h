@@ -25,7 +25,7 @@ class SlideWidget : public QWidget {
   double value() const { return value_; }
   QColor accent() const { return accent_; }
   void setAccent(const QColor& accent);
-  /// Without its colour: dimmed, that could not be read any more.
+  /// Removes its colour: a dimmed colour would be unreadable.
   void setPale(bool isPale);
   /// A vertical slide has its numbers beside its marks.
   bool isNumbered() const { return isNumbered_; }
@@ -39,7 +39,7 @@ class SlideWidget : public QWidget {
  signals:
   /// The user moves the pointer.
   void dragged(double to);
-  /// The user lets go, or has moved it with a key or the wheel.
+  /// The user has let go, or has moved it with a key or the wheel.
   void released();
 
  protected:

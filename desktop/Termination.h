@@ -9,12 +9,12 @@ class QSocketNotifier;
 
 namespace tracewell {
 
-/// Tells when the system wants the program to end: the session is being closed or, on Unix, one of
-/// the signals SIGTERM, SIGINT and SIGHUP has come. At most one of it may live.
-/// A signal that the program was started to ignore stays ignored.
+/// Reports that the system wants the program to end: the session is closing or, on Unix, SIGTERM,
+/// SIGINT or SIGHUP has arrived. At most one may exist. A signal that the program was started to
+/// ignore stays ignored.
 class Termination : public QObject {
  public:
-  /// `end` is called out of the event loop. It saves what is to be saved and ends the program.
+  /// `end` is called from the event loop. It saves everything and ends the program.
   explicit Termination(std::function<void()> end);
   ~Termination() override;
 
@@ -22,7 +22,7 @@ class Termination : public QObject {
   void watchSignals();
 
   std::function<void()> end_;
-  /// Turns a signal into an event; none where there are no signals.
+  /// Turns a signal into an event; null on systems without signals.
   std::unique_ptr<QSocketNotifier> arrival_;
 };
 

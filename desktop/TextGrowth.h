@@ -10,12 +10,12 @@ namespace tracewell {
 /// Height of a widget's font in pixels, however it was set.
 int pixelsOf(const QWidget& widget);
 
-/// What is read from afar is written larger in a larger window. A widget of a form says in its
-/// property "pixels" how large in a window of 1280 x 800 or less, and in "mostPixels" what it has
-/// room for. The column of knobs, "column", keeps its measure: the graph takes the rest.
+/// Enlarges texts that are read from afar in a larger window. A widget's property "pixels" is its
+/// size in a window of 1280 x 800 or less; "mostPixels" is what it has room for. The column of
+/// knobs, "column", keeps its size: the graph takes the rest.
 class TextGrowth : public QObject {
  public:
-  /// Of a form that has no such widgets nothing is changed.
+  /// Changes nothing in a form without such widgets.
   explicit TextGrowth(QWidget& form);
 
   bool eventFilter(QObject* watched, QEvent* event) override;

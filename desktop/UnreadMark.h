@@ -7,12 +7,12 @@ namespace tracewell {
 
 /// A question mark on a widget whose value the instrument has not told: behind the words of a
 /// button or label, in front of the arrow of a box with a list, in the gap of a knob's scale,
-/// otherwise in the upper right corner. Screen readers hear it as the widget's description.
+/// otherwise in the upper right corner. Screen readers get it as the widget's description.
 class UnreadMark : public QWidget {
   Q_OBJECT
 
  public:
-  /// Shows or hides the mark of `marked`, which owns it. A mark is made when it is first shown.
+  /// Shows or hides the mark of `marked`, which owns it. Creates it when first shown.
   static void show(QWidget& marked, bool isUnread);
   /// Pixels that it takes behind words.
   static constexpr int room = 17;
@@ -26,7 +26,7 @@ class UnreadMark : public QWidget {
   void toPlace();
 };
 
-/// Dims a widget whose value belongs to what is no longer there, or shows it as it is.
+/// Dims a widget whose value belongs to something that is gone, or shows it normally.
 void showPale(QWidget& widget, bool isPale);
 
 }  // namespace tracewell

@@ -11,10 +11,10 @@
 
 namespace tracewell {
 
-/// Stands between the user and the widgets while a handler waits for the instrument. What the user
-/// does meanwhile is kept in its order and comes when the handler is done, unless that has opened a
-/// window in front of it or closed what it was meant for; Escape ends the waits; the main window's
-/// closing is let through, since it is obeyed at once.
+/// Stands between the user and the widgets while a handler waits for the instrument. Keeps what the
+/// user does and replays it in order when the handler is done, unless the handler has opened a
+/// window in front of its target or closed the target. Escape ends the waits. Closing the main
+/// window passes through at once.
 class UserInput : public QObject {
  public:
   UserInput(const Gate& gate, StandBy& standBy);

@@ -8,7 +8,7 @@ namespace tracewell {
 /// Turns a wheel's small steps, such as a touchpad's, into whole notches.
 class WheelTravel {
  public:
-  /// Notches that are complete with this event; negative towards the user.
+  /// Number of notches completed by this event; negative towards the user.
   int notches(const QWheelEvent& event) {
     constexpr int notch = 120;
     travel_ += event.angleDelta().y();

@@ -9,18 +9,18 @@
 namespace tracewell {
 
 /// Place and size of the main window and the theme, kept in "window.state" of the program folder
-/// from one run to the next. A state of the desktop and no setup: what is damaged counts as none,
-/// and what cannot be written is forgotten.
+/// from one run to the next. It is a state of the desktop and no setup: a damaged file counts as
+/// none, and a failure to write is ignored.
 class WindowState {
  public:
   explicit WindowState(const std::filesystem::path& programFolder);
 
-  /// Before the window is first shown. Whatever the file says, it will be on a screen, as a whole
-  /// and with its frame.
+  /// Call it before the window is first shown. Whatever the file says, the window will be on a
+  /// screen, whole and with its frame.
   void restore(QWidget& window) const;
   void keep(const QWidget& window) const;
 
-  /// As the file says, until another one is set; `system` where it says nothing.
+  /// The theme of the file, until another one is set; `system` if the file names none.
   Theme theme() const { return theme_; }
   void setTheme(Theme theme) { theme_ = theme; }
 

@@ -18,23 +18,23 @@ class SetupFiles {
   /// Where the program keeps its own setup.
   std::filesystem::path defaultPath() const;
 
-  /// Fills the table. Stops at the first error without a box: rows read so far are new, the
-  /// others as they were. A file that holds more than was taken is noted as one to keep.
+  /// Fills the table. Stops at the first error without a box: rows read so far are new, the others
+  /// unchanged. Notes a file that holds more than was taken as one to keep.
   void ReadSetupFile(const std::filesystem::path& path);
 
-  /// Writes rows 0 to 12; does nothing for an empty path. A file that was read but not taken
-  /// whole is kept aside first, and so is a default setup that another program has changed since
-  /// it was read: that is to be said then. Raises "Type mismatch" when a row's count is no number,
-  /// pathAccess for a text that could not be read again, and the file system's reason; the old
-  /// file is whole then.
+  /// Writes rows 0 to 12; does nothing for an empty path. First keeps aside a file that was not
+  /// taken whole, and a default setup that another program has changed since it was read; for the
+  /// latter, returns the sentence to say. Raises "Type mismatch" if a row's count is no number,
+  /// pathAccess for a text that could not be read again, and the file system's reason; the old file
+  /// is whole then.
   StatusLine::Sentence WriteSetupFile(const std::filesystem::path& path);
 
   void mnbLoadSetup_Click();
   void mnbSaveSetup_Click();
 
  private:
-  /// Raises the reason why a part could not be read; what was taken is noted also then.
-  /// Whether there was a line to take.
+  /// Raises the reason if a part could not be read; what was taken is noted even then. Whether
+  /// there was a line to take.
   bool loadFile(const std::filesystem::path& path);
   /// The number of values that each line of a file states.
   using Counts = std::vector<std::string>;

@@ -7,14 +7,14 @@
 
 namespace tracewell {
 
-/// The traces that are shown, for a spreadsheet: a heading, then a line for each of the 500 points,
-/// columns with tabs between them, LF behind every line. Empty where nothing is shown.
+/// The shown traces for a spreadsheet: a heading, then a line for each of the 500 points, with tabs
+/// between columns and LF behind every line. Empty if no trace is shown.
 ///
-/// The first column is the time, from the middle of the screen on, in seconds; a channel is in
-/// volts, counted from its zero. What its record came under decides, not what the knobs say now. A
-/// column is in divisions, and says so, where that is not known, and for a channel in whose place
-/// the instrument shows the math that was chosen here. Loaded traces have their place on the screen
-/// in divisions, across, in a column before theirs, and up.
+/// The first column is the time in seconds from the middle of the screen. A channel is in volts
+/// from its zero, by the settings that its record was made under, not by the knobs. If these are
+/// not known, or if the instrument shows math in the channel's place, the column is in divisions
+/// and says so. Loaded traces are in divisions, up, with a column for their divisions across before
+/// them.
 std::string traceTable(const frmDSO& main);
 
 }  // namespace tracewell

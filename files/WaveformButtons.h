@@ -17,16 +17,16 @@ class WaveformButtons {
   void cmdSave_Click();
   void cmdLoad_Click();
   /// Draws the first column of a data file into Load1, at the height of its numbers. Raises an
-  /// error for a file that is none.
+  /// error if the file is no data file.
   void cmdLoadCSV_Click();
   /// The same for a file that was dropped on the graph.
   void graphDSO_FileDropped(const std::filesystem::path& path);
 
-  /// Hands the picture as it would be saved, the values of the traces that are shown, or both to
-  /// other programs.
+  /// Copies the picture as it would be saved, the values of the shown traces, or both to other
+  /// programs.
   void graphDSO_Copied(Graph::Copied what);
 
-  /// Hides the reference traces, which are free again.
+  /// Hides the reference traces and frees them.
   void cmdRemove_Click();
   void graphDSO_ReferenceRemoved(int number);
 

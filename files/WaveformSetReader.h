@@ -5,10 +5,10 @@
 #include <string>
 #include <vector>
 
-/// Reads what WaveformSetWriter writes, and what a spreadsheet has made of it.
+/// Reads what WaveformSetWriter writes, also after a spreadsheet has changed it.
 namespace tracewell {
 
-/// Stands in a description for what belongs to a channel that was not saved.
+/// In a description, the value of a channel that was not saved.
 inline constexpr const char* notSaved = "N";
 
 /// The lines of a description file that a reader uses.
@@ -24,7 +24,7 @@ struct WaveformDescription {
   std::string time;
 };
 
-/// Raises an error when the file is missing, too large or has fewer than seven lines.
+/// Raises an error if the file is missing, too large or has fewer than seven lines.
 WaveformDescription readDescription(const std::filesystem::path& path);
 
 /// Points in graph units, one per data line; a channel that the file does not hold has none.
@@ -43,7 +43,7 @@ LoadedWaveforms readWaveforms(const std::string& csvText, const std::string& pos
 /// The first column of a ".csv" text as it stands, under the same rules.
 std::vector<double> readFirstColumn(const std::string& csvText);
 
-/// The whole file; raises an error when it is larger than any waveform file can be.
+/// The whole file. Raises an error if it is larger than any waveform file can be.
 std::string readWaveformFile(const std::filesystem::path& path);
 
 }  // namespace tracewell

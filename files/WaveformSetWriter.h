@@ -9,8 +9,8 @@
 namespace tracewell {
 
 /// The samples of the displayed channels: a line of headings, then 500 lines. A sample is its low
-/// byte alone, with 256 taken away unless the high byte is 0. Without a displayed channel the text
-/// is empty. Raises "Subscript out of range" for a channel whose record has not come yet.
+/// byte alone, minus 256 unless the high byte is 0. Without a displayed channel the text is empty.
+/// Raises "Subscript out of range" for a channel without a record yet.
 std::string BuildCsvText(const frmDSO& main);
 
 /// The nine lines that describe a set: picture, data file, author, description, positions, scales
@@ -19,8 +19,8 @@ std::string BuildCsvText(const frmDSO& main);
 std::string buildInfText(const frmDSO& main, const std::string& picturePath,
                          const std::string& author, const std::string& description);
 
-/// `path` without its last four characters, where an extension is. Raises "Invalid procedure call
-/// or argument" for a shorter text.
+/// `path` without its last four characters, the place of an extension. Raises "Invalid procedure
+/// call or argument" for a shorter text.
 std::string withoutExtension(const std::string& path);
 
 }  // namespace tracewell

@@ -9,8 +9,8 @@ namespace tracewell {
 
 /// The save window: a picture of the graph to write notes on, and three files of one base name: the
 /// picture in one of nine formats, the samples (".csv"), and the description (".inf"). A set of the
-/// same name is replaced as a whole: where one file cannot be written all stay as they were, so
-/// that no description ever speaks of other data or of a picture that is not there.
+/// same name is replaced as a whole: if one file cannot be written all stay as they were. So a
+/// description never refers to other data or to a missing picture.
 class frmSave : public Window {
  public:
   explicit frmSave(frmDSO& main);
@@ -31,12 +31,12 @@ class frmSave : public Window {
   TextBox txtDes{*this, "txtDes"};
   /// The text of the data file, then that of the description file.
   TextBox txtDatFile{*this, "txtDatFile"};
-  /// What of the scales that will be written is not the traces'.
+  /// Says which scales that will be written are not the traces'.
   ValueLabel lblScales{*this, "lblScales", ""};
   Button cmdOK{*this, "cmdOK", "OK"};
   Button cmdCancel{*this, "cmdCancel", "Cancel"};
 
-  /// The picture to begin with; what has been drawn before is forgotten.
+  /// Starts with this picture; earlier drawings are forgotten.
   void takePicture(const Image& image);
 
  private:
@@ -52,7 +52,7 @@ class frmSave : public Window {
   StatusLine::Sentence scalesNotOfTraces_;
   std::int16_t pictureType_ = Pictures::jpg;
   std::string pictureExtension_ = "jpg";
-  /// The pictures before each drawing; the first one is as it came from the graph.
+  /// The pictures before each drawing; the first is the graph's.
   std::vector<Image> history_;
 };
 

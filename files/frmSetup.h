@@ -7,7 +7,7 @@
 namespace tracewell {
 
 /// The status report: the template "default.sit" with the values of the setup table filled in. The
-/// template is read once, so each further showing puts the values in again before the old ones.
+/// template is read once, so each further opening inserts the values again, before the old ones.
 class frmSetup : public Window {
  public:
   explicit frmSetup(frmDSO& main);

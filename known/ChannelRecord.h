@@ -10,13 +10,13 @@ namespace tracewell {
 
 /// A waveform record of a channel, with what is known of how it was made.
 struct ChannelRecord {
-  /// As it came, header included; empty before the first.
+  /// As received, header included; empty before the first.
   std::string bytes;
-  /// On which line it came.
+  /// The line that it arrived on.
   InstrumentLine line;
   MadeUnder madeUnder;
-  /// Milliseconds of Clock: when its sweep came first, and when it was fetched last. The same bytes
-  /// again are the same sweep.
+  /// Milliseconds of Clock: when its sweep first arrived, and when it was last fetched. The same
+  /// bytes again are the same sweep.
   std::int64_t sweepAt = 0;
   std::int64_t fetchedAt = 0;
 

@@ -14,42 +14,42 @@
 
 namespace tracewell {
 
-/// What the panel knows of the instrument. It hears every line that goes out and every answer, and
-/// tells of each setting the value that the instrument has, or why that is not known. All that the
-/// panel shows without a mark is what this tells.
+/// What the panel knows of the instrument. It hears every line sent and every reply, and tells for
+/// each setting the instrument's value, or why that is not known. Everything that the panel shows
+/// without a mark comes from here.
 ///
-/// A setting is known on the line on which it was told: behind another port, or on a line that has
-/// been opened anew, there may be another instrument.
+/// A setting is known on the line on which it was told. Behind another port, or on a line that has
+/// been reopened, there may be another instrument.
 class KnownInstrument {
  public:
   using Line = InstrumentLine;
-  /// Counts what has happened; the order is all that it says.
+  /// A count of facts. Only the order matters.
   using Moment = std::int64_t;
 
-  /// `presentLine` tells on which line the next command goes out.
+  /// `presentLine` returns the line on which the next command goes out.
   explicit KnownInstrument(std::function<Line()> presentLine)
       : presentLine_(std::move(presentLine)) {}
   KnownInstrument(const KnownInstrument&) = delete;
 
-  // What happens, told in its order.
+  // Facts, reported in order.
 
-  /// The panel has sent a command: the instrument has now what it sets.
+  /// The panel has sent a command: the instrument now has what it sets.
   void sent(std::string_view command);
-  /// The user has typed a line, and it was sent. Whether the instrument takes it nobody says, so
-  /// what it sets is not known until it is read; math, Run, Stop and the lock are.
+  /// The user has typed a line, and it was sent. The instrument may refuse it, so what it sets is
+  /// not known until it is read. Math, Run, Stop and the lock are taken as sent.
   void typed(std::string_view line);
-  /// It was begun and failed, or begun and is not over: the instrument may have it or not.
+  /// Sending was begun and failed, or is not over: the instrument may have it or not.
   void notSent(std::string_view line);
   void answered(std::string_view query, std::string_view reply);
   void notAnswered(std::string_view query);
-  /// Scales and positions are about to be read; each is not known until its answer has come.
+  /// Scales and positions are about to be read; each is not known until its reply has arrived.
   void reading();
-  /// A record is requested. When that goes out is the line's to decide.
+  /// A record is requested. The line decides when the request goes out.
   void requested();
-  /// A record of a channel has come, requested at a moment, of a sweep that was not fetched before.
+  /// A record of a channel, requested at that moment, has brought a new sweep.
   void swept(int channel, Moment requested);
 
-  /// Told after each of these.
+  /// Called after each of these.
   std::function<void()> changed;
 
   // What is known.
@@ -63,7 +63,7 @@ class KnownInstrument {
   /// Since when the setting has had its value, or its doubt.
   Moment changedAt(Setting setting) const { return entry(setting).changedAt; }
 
-  /// Since when what a measurement of a channel depends on is what it is.
+  /// Since when everything that a measurement of the channel depends on is unchanged.
   Moment signalChangedAt(int channel) const;
 
   /// The value, in the units that Setting.h says.
@@ -72,14 +72,14 @@ class KnownInstrument {
   std::optional<std::string> caption(Setting scale) const;
   std::optional<double> voltsPerDivision(int channel) const;
   std::optional<double> secondsPerDivision() const;
-  /// The channel in whose place the instrument shows its math, as far as that is known or was known
-  /// last; 0 for none. Math that was set elsewhere is not known here.
+  /// The channel in whose place the instrument shows its math, as known now or last; 0 for none.
+  /// Math that was set elsewhere is not known here.
   int mathChannel() const;
-  /// It was stopped from here.
+  /// The panel has stopped the instrument.
   bool isStopped() const;
 
-  /// What a record that was requested at a moment, and has come now, was made under. A stopped
-  /// instrument sends what it had at its stop.
+  /// The settings under which a record was made that was requested at that moment and has arrived
+  /// now. A stopped instrument sends what it had at its stop.
   MadeUnder madeUnder(int channel, Moment requested) const;
 
  private:
@@ -129,16 +129,16 @@ class KnownInstrument {
   std::array<Entry, settingCount> entries_;
   Moment now_ = 1;
   std::optional<Line> readOn_;
-  /// The newest request behind which a new sweep has come; of a channel, and on which line.
+  /// The newest request that brought a new sweep; its channel and line.
   Moment sweptAt_ = 0;
   struct Swept {
     Line line;
     Moment requested = 0;
   };
   std::array<Swept, 2> swept_;
-  /// Something may have switched it on, and nobody knows for which channel.
+  /// Something may have switched math on, for an unknown channel.
   bool mathMayBeOn_ = false;
-  /// Under what both channels were made that a stopped instrument sends.
+  /// The settings under which a stopped instrument made the records that it sends.
   std::array<MadeUnder, 2> atStop_;
 };
 

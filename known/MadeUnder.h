@@ -6,7 +6,7 @@
 
 namespace tracewell {
 
-/// A line to an instrument: the port's number, and how often a line had been opened then. Another
+/// A line to an instrument: the port's number, and how often a line had been opened. Another
 /// instrument may be on it each time.
 struct InstrumentLine {
   std::int16_t portNumber = -1;
@@ -14,19 +14,19 @@ struct InstrumentLine {
   bool operator==(const InstrumentLine&) const = default;
 };
 
-/// The settings under which a record was made; none where one is not known.
+/// The settings under which a record was made; empty where not known.
 struct MadeUnder {
-  /// None for math, too, which has a scale of its own.
+  /// Empty for math too, which has its own scale.
   std::optional<double> voltsPerDivision;
   std::optional<double> secondsPerDivision;
   /// The instrument's math in place of the channel: its entry in the math box.
   std::optional<int> mathEntry;
-  /// The stop behind which it was fetched: records of one stop are of one sweep.
+  /// The stop after which it was fetched: records of one stop are of one sweep.
   std::optional<std::int64_t> stop;
   bool operator==(const MadeUnder&) const = default;
 };
 
-/// What is sure whichever of the two holds.
+/// What is certain whichever of the two holds.
 MadeUnder whicheverHolds(const MadeUnder& a, const MadeUnder& b);
 
 }  // namespace tracewell

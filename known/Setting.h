@@ -19,7 +19,7 @@ enum class Setting : std::size_t {
   /// Number of the option in the channel dialog.
   probe1,
   probe2,
-  /// Coupling, inversion and bandwidth limit together: only when they changed is kept.
+  /// Coupling, inversion and bandwidth limit together: only the time of their change is kept.
   input1,
   input2,
   /// Seconds per division.
@@ -40,7 +40,7 @@ enum class Setting : std::size_t {
 };
 constexpr std::size_t settingCount = 18;
 
-/// Of a pair, that of channel 1 or 2.
+/// The setting of channel 1 or 2 out of a pair.
 constexpr Setting ofChannel(Setting first, int channel) {
   return static_cast<Setting>(static_cast<std::size_t>(first) +
                               static_cast<std::size_t>(channel - 1));
@@ -55,7 +55,7 @@ enum class Doubt {
   notSent,
   /// Something may have changed it since.
   mayHaveChanged,
-  /// It was told by what was on the line before.
+  /// It was told by the instrument that was on the line before.
   anotherInstrument
 };
 

@@ -9,8 +9,8 @@
 
 namespace tracewell {
 
-/// What the instrument sends for a waveform: a 14-byte header of its own, then 500 samples of two
-/// bytes, the high byte first, in two's complement.
+/// A waveform as the instrument sends it: a 14-byte header, then 500 samples of two bytes, high
+/// byte first, in two's complement.
 struct WaveformRecord {
   static constexpr int headerBytes = 14;
   static constexpr int sampleCount = 500;

@@ -10,14 +10,14 @@
 
 #include "Setting.h"
 
-/// What the lines to the instrument have to do with its settings. This is the one place that knows.
+/// What the lines to the instrument do to its settings. Nothing else knows.
 namespace tracewell {
 
 /// One command or query out of a line.
 struct WirePart {
   /// In capitals, without the colon that may lead it and without the "?": "CHAN1:SCAL".
   std::string header;
-  /// What stands behind the blank, without the blanks around it.
+  /// The text behind the blank, without the blanks around it.
   std::string argument;
   bool isQuery = false;
 };
@@ -25,7 +25,7 @@ struct WirePart {
 /// The parts of a line, which ";" and line ends separate.
 std::vector<WirePart> wireParts(std::string_view line);
 
-/// What a command does: it sets one setting, or leaves the value of some not known.
+/// What a command does: it sets one setting, or makes some not known.
 struct WireEffect {
   std::optional<Setting> sets;
   std::vector<Setting> touches;
@@ -39,12 +39,12 @@ WireEffect effectOf(const WirePart& command);
 /// The setting that a query asks for; none for a command.
 std::optional<Setting> askedBy(const WirePart& part);
 
-/// What a change of a setting changes, too: a probe the scale, and a scale the divisions of what
-/// the instrument keeps in volts and seconds, position and delay.
+/// The setting that a change of `setting` changes, too. A probe changes the scale. A scale changes
+/// position or delay in divisions, since the instrument keeps them in volts and seconds.
 std::optional<Setting> dependentOn(Setting setting);
 
-/// What sets the instrument's math, by entry of the math box; the last is off. Unlike all other
-/// commands they begin without a colon.
+/// The commands that set the instrument's math, by entry of the math box; the last is off. Unlike
+/// all other commands they begin without a colon.
 constexpr std::array<std::string_view, 4> mathCommands = {"CHAN1:MATH 1", "CHAN1:MATH 2",
                                                           "CHAN2:MATH 2", "CHAN1:MATH 0"};
 

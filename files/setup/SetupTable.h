@@ -9,18 +9,18 @@
 
 namespace tracewell {
 
-/// A row as long as no setup file has been read. Values and whole rows may be added, at the end;
-/// those of the first version stay as they are, so that its files are known.
+/// A row before a setup file has been read. Add values and whole rows only at the end; those of the
+/// first version stay, so that its files are recognised.
 struct DesignRow {
   std::string_view label;
-  /// Of the first version; none in a row that was added.
+  /// Values of the first version; none in a row that was added.
   std::vector<std::string_view> values;
   std::vector<std::string_view> added = {};
 };
 
 /// Every remembered choice, as a table of text cells. A row is a group of settings: column 0 its
 /// label, column 1 the number n of its values, columns 2 to n + 1 the values. The owner of a row
-/// reads and writes the values; setup files carry the rows that the program begins with.
+/// reads and writes its values; setup files hold the rows of the design.
 class SetupTable {
  public:
   static constexpr int rowCount = 32;
@@ -70,8 +70,8 @@ class SetupTable {
   std::int16_t number(int row, int column) const;
   std::int16_t valueCount(int row) const { return number(row, 1); }
 
-  /// Gives a row that an earlier version has written the values that were added since, which keep
-  /// what they have. Any other count is the file's own.
+  /// Extends a row that an earlier version wrote by the values that were added since; these keep
+  /// what they have. Leaves any other count as the file has it.
   void addNewValues(int row);
 
  private:

@@ -19,52 +19,53 @@
 
 namespace tracewell {
 
-/// The one owner of the line to the instrument. It knows what has been asked, and so whose the next
-/// bytes are; an answer is handed out for its own question or not at all.
+/// The one owner of the line to the instrument. It knows what is outstanding, and so whose the next
+/// bytes are. It returns a reply for its own query or not at all.
 ///
-/// The instrument answers in the order in which it is asked, each question less than longestThought
-/// after it was put, or never. On that all rules here rest:
+/// All rules rest on one assumption: the instrument replies in the order in which it is asked, less
+/// than longestThought after each query or request, or never.
 ///
-/// - A record is on its way from its request on, byte or no byte, until it is whole or
-///   longestThought has passed without a byte. Further requests wait, one for each channel. It
-///   counts when nothing but blanks and line ends follows it for the settling time.
-/// - A record of which less than half has come when it is given up stays owed. Others are asked for
-///   all the same, and the next one that comes answers nobody, since it may be the one that is
-///   owed. Then the line is drained for recordDrain; whoever asked last asks again. An answered
-///   question proves that nothing is owed any longer, unless one before it had no answer.
-/// - A question without an answer stays owed. A line that comes while more is owed than the present
-///   question answers nobody. Before the next question or record the line is *drained*: until all
-///   that is owed has come, or it has been quiet for long enough (drainTime). A line that does not
-///   come to rest within twice that time is not asked: the question is unanswered, unsent.
-/// - Bytes that nobody has asked for make the line untrusted until it has been quiet for as long.
-/// - After two questions in a row without an answer the instrument counts as silent: further ones
-///   are put without draining, as long as nothing is heard.
-/// - A plain command never waits. A question in it counts as one without an answer.
+/// - A record is pending from its request on, until it is whole or longestThought has passed
+///   without a byte. Further requests wait, one for each channel. A record counts if only blanks
+///   and line ends follow it within the settling time.
+/// - A record that is given up with less than half of its bytes stays outstanding. Others are still
+///   requested, but the next one that arrives is discarded: it may be the outstanding one. Then the
+///   line is drained for recordDrain, and the discarded record is requested again first. A reply
+///   proves that no record is outstanding, unless an earlier query went unanswered.
+/// - An unanswered query stays outstanding. While more than one reply is outstanding, an arriving
+///   line is discarded. Before the next query or record the line is *drained*: until everything
+///   outstanding has arrived, or it has been quiet for long enough (drainTime). If the line does
+///   not come to rest within twice that time, the query counts as unanswered and is not sent.
+/// - Unasked bytes make the line untrusted until it has been quiet for as long.
+/// - After two unanswered queries in a row the instrument counts as silent: further ones are sent
+///   without draining until something is heard.
+/// - A plain command never waits. A query in it counts as unanswered.
 ///
 /// All times are milliseconds. Every wait is one of StandBy.
 class Conversation {
  public:
   static constexpr int longestThought = 3000;
-  /// A line whose time-out is longer than longestThought is drained for that and so much more.
+  /// If the time-out is longer than longestThought, the line is drained for the time-out and this
+  /// margin.
   static constexpr int drainMargin = 1000;
-  /// How long the line must be quiet before a record that is owed comes no more, once the first one
-  /// has come: an instrument that is steadily late keeps the distance of the requests, which is
-  /// longestThought and the interval of whoever asks.
+  /// How long the line must be quiet until outstanding records no longer count, once the first one
+  /// has arrived. A steadily late instrument keeps the distance of the requests: longestThought and
+  /// the caller's interval.
   static constexpr int recordDrain = 2 * longestThought;
-  /// The rest of a record is awaited for twice the time of its bytes, and so much more.
+  /// The rest of an abandoned record is awaited for twice the time of its bytes and this margin.
   static constexpr int restMargin = 250;
-  /// Bytes of one answer follow each other, through whatever adapter, within so long.
+  /// Bytes of one reply follow each other within this time, through any adapter.
   static constexpr int settling = 20;
-  /// While the most of a record is still to come its bytes are not looked at, for at most so long.
+  /// While most of a record is still to come the line is not looked at, for at most this long.
   static constexpr int longestRest = 200;
-  /// A reply of more bytes is none.
+  /// A longer reply is discarded.
   static constexpr std::size_t longestReply = 4096;
 
   Conversation(ChannelOpener& opener, Clock& clock, const EventDispatcher& dispatcher,
                StandBy& standBy);
   Conversation(const Conversation&) = delete;
 
-  /// Opens the line, or opens it anew with other settings, if need be. Raises deviceError when it
+  /// Opens the line, or opens it anew with other settings, if need be. Raises deviceError if it
   /// cannot be opened or is gone.
   void use(const LineSettings& settings);
   /// The settings of the line that was opened last.
@@ -73,34 +74,35 @@ class Conversation {
   int openings() const { return openings_; }
   LineReport report() const { return account_.report(clock_.milliseconds()); }
 
-  /// Sends a line. A reply to it is owed, if there is one, and read by nobody. Raises deviceError.
+  /// Sends a line. With `isAnswered` its reply is outstanding, and will be discarded. Raises
+  /// deviceError.
   void command(std::string_view line, bool isAnswered = false);
 
-  /// The reply line to `query`, through its LF. Raises portReadTimeOut where there is none within
-  /// `timeOut` of the query, where one came but may not be trusted, and where the user gave up;
-  /// deviceError; throws ProgramEnded.
+  /// Returns the reply line to `query`, through its LF. Raises portReadTimeOut if no reply arrives
+  /// within `timeOut`, if it cannot be trusted, or if the user gave up. Raises deviceError; throws
+  /// ProgramEnded.
   std::string ask(std::string_view query, int timeOut);
 
-  /// Requests a record, now or when the line is free. One of a channel that waits already is left
-  /// out. Raises deviceError.
+  /// Requests a record, now or when the line is free. If a request of its channel is waiting, it is
+  /// left out. Raises deviceError.
   void request(LineRecord record);
 
-  /// Whoever wanted a record, here or waiting, does not want it any longer.
+  /// Records, pending or waiting, are no longer wanted.
   void abandon();
 
-  /// Called out of the event loop with each whole record.
+  /// Called from the event loop with each whole record.
   std::function<void(const LineRecord&)> delivered;
 
  private:
-  /// What is under way, and so whose the next bytes are.
+  /// What is pending, and so whose the next bytes are.
   enum class State {
-    /// Nothing is owed.
+    /// Nothing is outstanding.
     idle,
     replyAwaited,
     recordAwaited,
-    /// It is whole; what comes right behind it tells whether it is one.
+    /// A record is whole; what follows right behind it tells whether it counts.
     recordHeard,
-    /// Answers are owed that nobody waits for, or bytes have come that nobody has asked for.
+    /// Replies are outstanding that no one waits for, or unasked bytes have arrived.
     draining
   };
 
@@ -143,24 +145,24 @@ class Conversation {
   int openings_ = 0;
 
   State state_ = State::idle;
-  /// The record on its way (recordAwaited), and whether somebody still wants it.
+  /// The pending record (recordAwaited), and whether it is still wanted.
   LineRecord record_;
   bool isWanted_ = false;
-  /// One that is whole and not delivered yet.
+  /// A record that is whole and not delivered yet.
   std::optional<LineRecord> whole_;
-  /// Bytes of records that were given up and may still come, and whether any has since the last of
-  /// them was given up.
+  /// Bytes of records that were given up and may still arrive, and whether any has arrived since
+  /// the last of them was given up.
   std::size_t owedBytes_ = 0;
   bool isOwedComing_ = false;
-  /// A question had no answer: the next one that comes may be its own, and proves nothing.
+  /// A query went unanswered: the next reply may be its own, and proves nothing.
   bool isQuestionOwed_ = false;
   /// Requests that wait for the line, the oldest first.
   std::deque<LineRecord> held_;
 
-  /// Questions put and not answered, the present one included.
+  /// Queries sent and not answered, the present one included.
   int unanswered_ = 0;
   int unansweredInRow_ = 0;
-  /// More has come than was owed, or what cannot be counted.
+  /// More has arrived than was outstanding, or something that cannot be counted.
   bool isStray_ = false;
   /// The last drain did not bring the line to rest.
   bool isRestless_ = false;
@@ -171,7 +173,7 @@ class Conversation {
   std::int64_t heardAt_ = 0;
   std::int64_t lineEndAt_ = std::numeric_limits<int>::min();
   LineAccount account_{longestThought};
-  /// As long as this object lives, for actions that are due later.
+  /// Lives as long as this object; delayed actions check it.
   std::shared_ptr<int> alive_ = std::make_shared<int>();
 };
 

@@ -7,30 +7,30 @@
 
 namespace tracewell {
 
-/// Keeps the account of a line that LineReport tells. It is told what happens and when, and knows
-/// nothing of the rules.
+/// Keeps the facts for LineReport. It is told what happens on the line and when, and knows none of
+/// the rules.
 class LineAccount {
  public:
-  /// `longestThought` is the time within which every answer comes, in milliseconds.
+  /// `longestThought` is the time within which every reply arrives, in milliseconds.
   explicit LineAccount(int longestThought) : longestThought_(longestThought) {}
 
   LineReport report(std::int64_t now) const;
   /// Another instrument is on the line.
   void beginAnew();
 
-  /// So many bytes were heard, of which the first may have come as early as `since`.
+  /// `bytes` unasked bytes were heard, the first of them at `since` at the earliest.
   void heardUnasked(int bytes, std::int64_t since, std::int64_t now);
   void gaveUpRecord(std::size_t came, std::size_t length, std::int64_t now);
   void heardLateRecord(std::int64_t now) { late_.add(1, now); }
   void missedLineEnd(std::size_t bytes, std::int64_t now);
-  /// Somebody wants a record, as again and again while the acquisition runs.
+  /// A record is wanted; repeated while the acquisition runs.
   void wantedRecord(std::int64_t now);
   void gaveRecord(std::int64_t now);
-  /// The answer to a question that was put at `askedAt` is handed out.
+  /// The reply to a query sent at `askedAt` is returned.
   void gaveAnswer(std::int64_t askedAt, std::int64_t now);
 
  private:
-  /// Counts over a minute, by the second.
+  /// Counts over the last minute, second by second.
   class Minute {
    public:
     void add(int count, std::int64_t now);
@@ -51,7 +51,7 @@ class LineAccount {
   Minute missing_;
   Minute late_;
   Minute endless_;
-  /// All of a report that is no tally.
+  /// The parts of the report that are no tallies.
   LineReport rest_;
   std::optional<std::int64_t> wantedAt_;
   std::optional<std::int64_t> seriesFrom_;

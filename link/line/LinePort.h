@@ -10,7 +10,7 @@
 
 namespace tracewell {
 
-/// The port over any ByteChannel. What a transfer means on the line is the Conversation's.
+/// The port over any ByteChannel. Conversation carries out the transfers.
 class LinePort : public SerialPort {
  public:
   LinePort(ChannelOpener& opener, Clock& clock, Gate& gate, const EventDispatcher& dispatcher,

@@ -7,7 +7,7 @@
 
 namespace tracewell {
 
-/// Where a serial device server listens, which passes the bytes of its line on as they are.
+/// The address of a serial device server, which passes the bytes of its line on unchanged.
 struct ServerAddress {
   std::string host;
   std::uint16_t port = 0;
@@ -15,11 +15,11 @@ struct ServerAddress {
   bool operator==(const ServerAddress&) const = default;
 };
 
-/// "host:port", and "[host]:port" where the host has colons of its own.
+/// "host:port", or "[host]:port" if the host itself has colons.
 std::string addressText(const ServerAddress& address);
 
-/// What a file with the one line "tcp://host:port" names; blanks and line ends around it do not
-/// matter. Raises the errors of readWholeFile, and pathAccess where anything else stands in it.
+/// Reads a file with the one line "tcp://host:port"; blanks and line ends around it do not matter.
+/// Raises the errors of readWholeFile, and pathAccess for any other content.
 ServerAddress readServerAddress(const std::filesystem::path& file);
 
 }  // namespace tracewell

@@ -7,17 +7,17 @@
 
 namespace tracewell {
 
-/// Marks beside what the main window shows of the instrument. Nothing of them is kept: each control
-/// is asked when it is painted, and compares what it shows with what is known. This holds the one
-/// list of which control shows which setting, and has painted anew what has become different.
+/// Marks beside what the main window shows of the instrument. No mark is stored: each control, when
+/// painted, compares what it shows with what is known. This holds the one list of which control
+/// shows which setting, and repaints what has become different.
 class PanelMarks {
  public:
-  /// From now on the controls of `main`, which outlives this, can be asked.
+  /// Connects the controls of `main`, which outlives this.
   explicit PanelMarks(frmDSO& main);
   PanelMarks(const PanelMarks&) = delete;
 
-  /// Paints what has changed. Raises no event, so it may be called at any time; also as time goes
-  /// by, since traces grow old.
+  /// Paints what has changed. Raises no event, so it may be called at any time. Call it regularly,
+  /// since traces grow old.
   void show();
 
  private:

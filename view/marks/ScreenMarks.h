@@ -5,8 +5,8 @@
 
 namespace tracewell {
 
-/// What the screen shows beside the traces: where the channels' zeros are and what has left the
-/// screen, names, scales, and true values at the cursors. What has not been read is left out.
+/// What the screen shows beside the traces: the channels' zeros, what has left the screen, names,
+/// scales, and true values at the cursors. Values that have not been read are left out.
 GraphMarks screenMarks(const frmDSO& main);
 
 /// Volts of the displayed channels, from their zeros, and the time at a point in graph units.

@@ -6,9 +6,8 @@
 namespace tracewell {
 
 /// Puts the marker "Triger" at the height of the trigger level on the trace of the trigger's
-/// source. Of both only what the instrument has counts, and while the user drags the slide the
-/// level that it is at. The marker is hidden while the level, the source, the scale or the position
-/// are not known, and for a source that is no channel.
+/// source. Both are the instrument's; while the user drags the slide, its level counts. The marker
+/// is hidden while level, source, scale or position is not known, and if the source is no channel.
 void showTriggerMarker(frmDSO& main);
 
 }  // namespace tracewell

@@ -5,9 +5,8 @@
 
 namespace tracewell {
 
-/// Pictures, descriptions and pages carry the scales that the window shows. What of these the
-/// traces were not recorded at, as a sentence that holds for the moment of this call; none where
-/// all is as it is written.
+/// Pictures, descriptions and pages carry the scales that the window shows. Returns a sentence
+/// about those at which the traces were not recorded, as of this call; none if all agree.
 StatusLine::Sentence scalesNotOfTraces(const frmDSO& main);
 
 }  // namespace tracewell
