@@ -23,13 +23,16 @@ class ProgramFolderCopy {
 };
 
 /// Time, the user and the event queue around a port of some kind.
-struct Surroundings {
-  VirtualClock clock;
+template <class TimeKeeper>
+struct SurroundingsBy {
+  TimeKeeper clock;
   Gate gate;
   StandBy standBy{clock, gate};
   RecordingDialogs dialogs{gate};
   EventDispatcher dispatcher{gate, dialogs};
 };
+
+using Surroundings = SurroundingsBy<VirtualClock>;
 
 struct OnAScript : Surroundings {
   ScriptedPort port{gate};

@@ -8,13 +8,10 @@
 namespace tracewell {
 
 /// The port's rules in real time, on a real channel that the derived test opens.
-class DeviceLineTest : public testing::Test, public ChannelOpener {
+class DeviceLineTest : public testing::Test,
+                       public ChannelOpener,
+                       protected SurroundingsBy<DesktopClock> {
  protected:
-  DesktopClock clock;
-  Gate gate;
-  StandBy standBy{clock, gate};
-  RecordingDialogs dialogs{gate};
-  EventDispatcher dispatcher{gate, dialogs};
   LinePort port{*this, clock, gate, dispatcher, standBy};
 };
 

@@ -70,13 +70,7 @@ std::string said(const Reader& reader, const std::function<void(const fs::path&)
   bench.dialogs.pickedFile = path;
   std::string text;
   bench.main.lblNotice.changed = [&] { text += bench.main.lblNotice.caption(); };
-  expectCheap([&] {
-    try {
-      reader.read(bench, path);
-    } catch (const Error& error) {
-      text += error.description();
-    }
-  });
+  expectCheap([&] { text += errorOf([&] { reader.read(bench, path); }); });
   EXPECT_EQ(fs::symlink_status(path).type(), type);
   for (const std::string& error : bench.dialogs.runTimeErrors) text += error;
   return text + bench.program.errLog.txtErrLog.text();

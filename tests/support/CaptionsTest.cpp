@@ -60,25 +60,6 @@ TEST_F(CaptionsTest, DumpedSectionIsACaptionFileOfItsWindow) {
   EXPECT_EQ(program.rs232.lblRS232(0).caption(), "x");
 }
 
-TEST_F(CaptionsTest, CaptionsGoToTheirWindowInOnePass) {
-  writeCaptions(
-      "//RS232,,Serielle \r\ncmdOK,OK, Gut, ja \r\ncmdCancel,Cancel,Weg\r\n"
-      "// DSO ,,Haupt\r\nmnbFile,,Datei\r\nno comma\r\nmnbRS232,,Leitung\r\nnowhere,,X\r\n"
-      "cmdStart,,nie\r\n");
-  Captions captions(main);
-  captions.setWindows({&program.rs232});
-  captions.LoadCaptions();
-  EXPECT_EQ(main.caption(), "Haupt");
-  EXPECT_EQ(main.mnbFile.caption(), "Datei");
-  EXPECT_EQ(main.mnbRS232.caption(), "RS-232");  // The line without a comma stopped at File.
-  EXPECT_EQ(main.cmdStart.caption(), "Connect");
-  EXPECT_EQ(program.rs232.caption(), "Serielle");
-  EXPECT_EQ(program.rs232.cmdOK.caption(), " Gut, ja");
-  EXPECT_EQ(program.rs232.cmdCancel.caption(), "Weg");
-  EXPECT_TRUE(main.mnbLA1.isChecked());
-  EXPECT_FALSE(main.mnbLA2.isChecked());
-}
-
 /// Neither loops nor crashes, and is named. Cut after any byte, the shipped file is one of these or
 /// gives captions.
 TEST_F(CaptionsTest, FileThatCannotBeUsedIsOneErrorThatNamesIt) {

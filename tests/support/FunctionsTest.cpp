@@ -59,12 +59,10 @@ std::string address(const std::string& text) {
   const ProgramFolderCopy folder;
   const std::filesystem::path file = folder.path() / "server";
   writeWholeFile(file, text);
-  try {
-    return addressText(readServerAddress(file));
-  } catch (const Error& error) {
-    EXPECT_NE(error.description().find(pathText(file)), std::string::npos);
-    return error.description().substr(0, error.description().find(':'));
-  }
+  std::string address;
+  const std::string error = errorOf([&] { address = addressText(readServerAddress(file)); });
+  EXPECT_TRUE(error.empty() || error.find(pathText(file)) != std::string::npos);
+  return error.empty() ? address : error.substr(0, error.find(':'));
 }
 
 std::string timeOuts(const Lines& of) {
