@@ -26,5 +26,7 @@ class Disk {
 /// The disk under every file that is written from now on; the caller's, null for none. The process
 /// has one, since files are written before there is a program that could hand it on.
 void useDisk(Disk* disk);
+/// Null for none.
+Disk* diskInUse();
 
 }  // namespace tracewell
