@@ -4,13 +4,10 @@
 #include <QTranslator>
 #include <QWidget>
 
+#include "PanelText.h"
 #include "Words.h"
 
 namespace tracewell {
-
-/// What the desktop itself says, in the language in force. Its translations are in
-/// languages/*.ts, as are those of the forms and of what the logic says.
-QString panelText(const char* english);
 
 /// The English tool tips and accessible names of a widget and of those within it, as they are now,
 /// are what sayInLanguage translates.

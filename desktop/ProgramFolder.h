@@ -20,6 +20,9 @@ struct ProgramFolder {
 /// shipped files. Where that cannot be made either, the shipped files are used where they are.
 ProgramFolder programFolder();
 
+/// Where programFolder is or will be, as far as ports are concerned, without making it.
+std::filesystem::path folderOfPorts();
+
 /// Copies the shipped files of `from` to `to`, which is made if need be. A file that is there and
 /// that the user has not changed follows the shipped one; beside one that he has changed the new
 /// one is put as "<name>.new", once, and named in the result. Setups are the user's. What was
