@@ -9,7 +9,11 @@ set(READ_FIRST ${PROJECT_SOURCE_DIR}/README.md ${PROJECT_SOURCE_DIR}/CONTRIBUTIN
                ${PROJECT_SOURCE_DIR}/SECURITY.md)
 set(DESKTOP_FILES ${PROJECT_SOURCE_DIR}/packaging/desktop)
 
-install(TARGETS tracewell krm410-sim COMPONENT system)
+install(TARGETS ${PROGRAMS} COMPONENT system)
+set(PROGRAMS tracewell krm410-sim)
+if(TRACEWELL_RECORDER)
+  list(APPEND PROGRAMS tracewell-record)
+endif()
 # The program looks for its modules there, whatever the machine calls its folder of libraries.
 install(TARGETS ${MODULES} LIBRARY DESTINATION lib/tracewell COMPONENT system)
 install(FILES ${PROGRAM_FILES} DESTINATION ${CMAKE_INSTALL_DATADIR}/tracewell COMPONENT system)
@@ -36,8 +40,12 @@ endfunction()
 install_compressed(${DESKTOP_FILES}/changelog changelog.gz ${CMAKE_INSTALL_DOCDIR})
 install_compressed(${DESKTOP_FILES}/tracewell.1 tracewell.1.gz ${CMAKE_INSTALL_MANDIR}/man1)
 install_compressed(${DESKTOP_FILES}/krm410-sim.1 krm410-sim.1.gz ${CMAKE_INSTALL_MANDIR}/man1)
+if(TRACEWELL_RECORDER)
+  install_compressed(${DESKTOP_FILES}/tracewell-record.1 tracewell-record.1.gz
+                     ${CMAKE_INSTALL_MANDIR}/man1)
+endif()
 
-install(TARGETS tracewell krm410-sim ${MODULES} RUNTIME DESTINATION . LIBRARY DESTINATION .
+install(TARGETS ${PROGRAMS} ${MODULES} RUNTIME DESTINATION . LIBRARY DESTINATION .
         COMPONENT portable EXCLUDE_FROM_ALL)
 install(FILES ${PROGRAM_FILES} ${READ_FIRST} LICENSE DESTINATION . COMPONENT portable
         EXCLUDE_FROM_ALL)

@@ -12,9 +12,6 @@
 namespace tracewell {
 namespace {
 
-/// The one that all texts of languages/*.ts have.
-constexpr const char* context = "Panel";
-
 struct Catalogues {
   const char* panel;
   /// Qt has none for Hong Kong.
@@ -43,10 +40,6 @@ QList<QWidget*> allWithin(QWidget& widget) {
 }
 
 }  // namespace
-
-QString panelText(const char* english) {
-  return QCoreApplication::translate(context, english);
-}
 
 void keepEnglish(QWidget& widget) {
   for (QWidget* part : allWithin(widget)) {

@@ -4,13 +4,10 @@
 #include <QTranslator>
 #include <QWidget>
 
+#include "PanelText.h"
 #include "Words.h"
 
 namespace tracewell {
-
-/// The desktop's own words, in the language in force. The translations are in languages/*.ts, with
-/// those of the forms and of the logic's words.
-QString panelText(const char* english);
 
 /// Keeps the present English tool tips and accessible names of a widget and its children for
 /// sayInLanguage.

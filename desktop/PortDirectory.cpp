@@ -5,8 +5,8 @@
 #include <QSet>
 #include <utility>
 
-#include "DesktopWords.h"
 #include "Error.h"
+#include "PanelText.h"
 #include "QtSerialChannel.h"
 #include "QtTcpChannel.h"
 #include "QtValues.h"

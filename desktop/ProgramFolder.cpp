@@ -72,6 +72,10 @@ fs::path usersFolder() {
 
 #endif
 
+bool isPortable(const fs::path& own) {
+  return QFileInfo(toQt(own)).isWritable() && holdsProgramFiles(own);
+}
+
 }  // namespace
 
 /// What cannot be copied is missed, and named, when it is first read.
@@ -101,9 +105,14 @@ std::vector<std::string> fillProgramFolder(const fs::path& from, const fs::path&
   return offered;
 }
 
+fs::path folderOfPorts() {
+  const fs::path own = executableFolder();
+  return isPortable(own) ? own : usersFolder();
+}
+
 ProgramFolder programFolder() {
   const fs::path own = executableFolder();
-  if (QFileInfo(toQt(own)).isWritable() && holdsProgramFiles(own)) return {own};
+  if (isPortable(own)) return {own};
   const fs::path shipped = shippedFolder(own);
   ProgramFolder users{usersFolder()};
   std::error_code failed;

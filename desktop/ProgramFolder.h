@@ -21,6 +21,9 @@ struct ProgramFolder {
 /// shipped files. If that cannot be made either, the shipped files are used where they are.
 ProgramFolder programFolder();
 
+/// The folder that programFolder uses or would make, as far as ports are concerned.
+std::filesystem::path folderOfPorts();
+
 /// Copies the shipped files of `from` to `to`, which is made if need be. A file that the user has
 /// not changed follows the shipped one. Beside a changed one the new one is put as "<name>.new",
 /// once, and named in the result. Setups are the user's. "shipped-files" lists what was copied and

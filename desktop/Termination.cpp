@@ -3,82 +3,14 @@
 
 #include <QGuiApplication>
 #include <QSessionManager>
-#include <QSocketNotifier>
 #include <utility>
 
-#ifdef Q_OS_UNIX
-#include <fcntl.h>
-#include <unistd.h>
-
-#include <array>
-#include <cerrno>
-#include <csignal>
-#endif
-
 namespace tracewell {
-
-#ifdef Q_OS_UNIX
-namespace {
-
-constexpr std::array<int, 3> endingSignals = {SIGTERM, SIGINT, SIGHUP};
-
-/// A signal can do no more than write a byte; the event loop reads it. A full pipe says enough.
-std::array<int, 2> signalPipe = {-1, -1};
-
-bool openPipe() {
-  if (::pipe(signalPipe.data()) != 0) return false;
-  for (const int end : signalPipe) {
-    ::fcntl(end, F_SETFD, FD_CLOEXEC);
-    ::fcntl(end, F_SETFL, O_NONBLOCK);
-  }
-  return true;
-}
-
-bool isIgnored(int number) {
-  struct sigaction action = {};
-  return ::sigaction(number, nullptr, &action) == 0 && action.sa_handler == SIG_IGN;
-}
-
-void signalled(int) {
-  const int interrupted = errno;
-  const char byte = 0;
-  static_cast<void>(!::write(signalPipe[1], &byte, 1));
-  errno = interrupted;
-}
-
-}  // namespace
-#endif
 
 Termination::Termination(std::function<void()> end) : end_(std::move(end)) {
   // A session that ends goes on without asking the user anything.
   connect(
       qGuiApp, &QGuiApplication::commitDataRequest, this, [this] { end_(); }, Qt::DirectConnection);
-  watchSignals();
 }
-
-#ifdef Q_OS_UNIX
-void Termination::watchSignals() {
-  if (!openPipe()) return;
-  arrival_ = std::make_unique<QSocketNotifier>(signalPipe[0], QSocketNotifier::Read);
-  connect(arrival_.get(), &QSocketNotifier::activated, this, [this] {
-    arrival_->setEnabled(false);
-    end_();
-  });
-  for (const int number : endingSignals)
-    if (!isIgnored(number)) std::signal(number, signalled);
-}
-
-Termination::~Termination() {
-  if (arrival_ == nullptr) return;
-  for (const int number : endingSignals)
-    if (!isIgnored(number)) std::signal(number, SIG_DFL);
-  arrival_.reset();
-  for (int& end : signalPipe) ::close(std::exchange(end, -1));
-}
-#else
-void Termination::watchSignals() {}
-
-Termination::~Termination() = default;
-#endif
 
 }  // namespace tracewell

@@ -3,9 +3,8 @@
 
 #include <QObject>
 #include <functional>
-#include <memory>
 
-class QSocketNotifier;
+#include "EndingSignals.h"
 
 namespace tracewell {
 
@@ -16,14 +15,10 @@ class Termination : public QObject {
  public:
   /// `end` is called from the event loop. It saves everything and ends the program.
   explicit Termination(std::function<void()> end);
-  ~Termination() override;
 
  private:
-  void watchSignals();
-
   std::function<void()> end_;
-  /// Turns a signal into an event; null on systems without signals.
-  std::unique_ptr<QSocketNotifier> arrival_;
+  EndingSignals signals_{[this] { end_(); }};
 };
 
 }  // namespace tracewell

@@ -3,6 +3,7 @@
 
 #include "ConnectionIndicator.h"
 #include "Numbers.h"
+#include "RecordArrival.h"
 #include "WaveformRecord.h"
 
 namespace tracewell {
@@ -63,26 +64,13 @@ void Acquisition::DataReady(const LineRecord& record) {
   ignoringErrors([&] { WaveCount = addInt16(WaveCount, 1); });
 }
 
-/// Of a sweep that was fetched before, only that it is there still is new.
 void Acquisition::keepRecord(Channel& channel, const LineRecord& fetched) {
   const SerialPort& port = main_.services().port;
-  const std::int64_t now = main_.services().clock.milliseconds();
-  const InstrumentLine line{port.openPort(), port.openings()};
-  MadeUnder made;
-  if (line == main_.known.presentLine())
-    made = main_.known.madeUnder(channel.number, fetched.stamp);
-  ChannelRecord& record = channel.record;
-  record.fetchedAt = now;
-  if (record.isSameSweep(fetched.bytes, line)) {
-    record.madeUnder.stop = made.stop;
-    return;
-  }
-  // On another line the same bytes may be of the same sweep, too.
-  if (record.bytes == fetched.bytes)
-    made = whicheverHolds(made, record.madeUnder);
-  else
-    main_.known.swept(channel.number, fetched.stamp);
-  record = {fetched.bytes, line, made, now, now};
+  const RecordArrival arrival{channel.number,
+                              {port.openPort(), port.openings()},
+                              fetched.stamp,
+                              main_.services().clock.milliseconds()};
+  takeRecord(channel.record, fetched.bytes, arrival, main_.known);
 }
 
 void Acquisition::StopAcq() {

@@ -74,10 +74,14 @@ MeasurementLog::MeasurementLog(fs::path path, MeasurementColumns columns, std::i
 }
 
 MeasurementLog::~MeasurementLog() {
-  const std::int64_t now = failedAt_ + retryInterval;
+  finish(failedAt_ + retryInterval);
+}
+
+bool MeasurementLog::finish(std::int64_t now) {
   if (!file_) reopen(now);
   writePending(now);
   flush(now);
+  return pending_.empty();
 }
 
 void MeasurementLog::begin() {

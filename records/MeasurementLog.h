@@ -29,7 +29,7 @@ class MeasurementLog {
   /// Begins the file, or continues it where its heading is the same. Where it is another, the file
   /// is "<name>-2.<extension>", and so on: path() tells. Raises pathAccess.
   MeasurementLog(std::filesystem::path path, MeasurementColumns columns, std::int64_t now);
-  /// Writes what is held, if that can be.
+  /// Finishes it.
   ~MeasurementLog();
   MeasurementLog(const MeasurementLog&) = delete;
 
@@ -37,6 +37,8 @@ class MeasurementLog {
   void append(std::int64_t wallTime, int channel, const OwnMeasurements& values, std::int64_t now);
   /// Writes and flushes what is due.
   void tick(std::int64_t now);
+  /// Writes and flushes all that is held, at once. False where that cannot be.
+  bool finish(std::int64_t now);
 
   const std::filesystem::path& path() const { return path_; }
   const MeasurementColumns& columns() const { return columns_; }

@@ -3,23 +3,42 @@
 
 #include <cstddef>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "RecordStore.h"
 
 namespace tracewell {
 
-/// A stretch of records as text, for pandas, a spreadsheet, and PulseView or sigrok-cli:
+/// Records as a table of text, for pandas, a spreadsheet, and PulseView or sigrok-cli:
 ///
 ///     Time (s),CH1 (V)
 ///     0,0.12
 ///     1e-05,0.14
 ///
-/// Time counts from the first sample on; each record begins when its sweep came, so that between
-/// records there is a leap. Records of both channels that are of one sweep share their rows. Other
-/// records of both channels stand one behind the other, with the other channel's column empty:
-/// sigrok, which knows no empty cells, takes a single channel or a single sweep.
+/// Time counts from the first sample of the first record on; each record begins when its sweep
+/// came, so that between records there is a leap. Records of one sweep share their rows. Others of
+/// two channels stand one behind the other, with the other channel's column empty: sigrok, which
+/// knows no empty cells, takes a single channel or a single sweep.
+class SamplesTable {
+ public:
+  /// 1, 2 or both.
+  explicit SamplesTable(std::vector<int> channels) : channels_(std::move(channels)) {}
+
+  /// Its scales are known, and it is whole.
+  static bool canHold(const ChannelRecord& record);
+
+  std::string heading() const;
+  /// Of a record of channel 1, of channel 2, or of both where they are of one sweep.
+  std::string rows(const ChannelRecord* first, const ChannelRecord* second);
+
+ private:
+  std::vector<int> channels_;
+  std::optional<std::int64_t> begunAt_;
+};
+
 struct SamplesCsvResult {
   std::size_t records = 0;
   /// Not written, since the scales were not known, or the record was cut.
@@ -33,7 +52,7 @@ struct Stretch {
   int channel = 0;
 };
 
-/// Hands the text over in pieces, the heading first, a record at a time.
+/// Hands the table of a stretch over in pieces, the heading first, a record at a time.
 SamplesCsvResult writeSamples(const RecordStore& store, const Stretch& stretch,
                               const std::function<void(std::string_view)>& write);
 

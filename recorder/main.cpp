@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+/// tracewell-record: records without a window.
+#include <QCoreApplication>
+#include <csignal>
+#include <cstdio>
+#include <iostream>
+
+#ifdef _WIN32
+#include <io.h>
+#else
+#include <unistd.h>
+#endif
+
+#include "DesktopClock.h"
+#include "DesktopDisk.h"
+#include "EndingSignals.h"
+#include "LinePort.h"
+#include "PortDirectory.h"
+#include "ProgramFolder.h"
+#include "Recorder.h"
+#include "WallTime.h"
+
+namespace {
+
+using namespace tracewell;
+
+bool isTerminal(std::FILE* file) {
+#ifdef _WIN32
+  return ::_isatty(::_fileno(file)) != 0;
+#else
+  return ::isatty(::fileno(file)) != 0;
+#endif
+}
+
+/// What is said on the standard error: messages, and on a terminal how it goes.
+class Console {
+ public:
+  explicit Console(bool showsProgress) : showsProgress_(showsProgress) {}
+  ~Console() { clear(); }
+  Console(const Console&) = delete;
+
+  void say(const std::string& text) {
+    clear();
+    std::cerr << "tracewell-record: " << text << std::endl;
+  }
+  void progress(const std::string& text) {
+    if (!showsProgress_) return;
+    clear();
+    std::cerr << text << std::flush;
+    isProgressShown_ = true;
+  }
+
+ private:
+  void clear() {
+    if (std::exchange(isProgressShown_, false)) std::cerr << "\r\x1b[K" << std::flush;
+  }
+
+  bool showsProgress_;
+  bool isProgressShown_ = false;
+};
+
+/// Nobody is there to be asked.
+class ConsoleDialogs : public Dialogs {
+ public:
+  ConsoleDialogs(const Gate& gate, Console& console) : Dialogs(gate), console_(console) {}
+  void showMessage(const std::string& text) override { console_.say(text); }
+  void showRunTimeError(const Error& error) override { console_.say(error.description()); }
+
+ private:
+  Answer answerYesNo(const std::string&, const std::string&) override { return Answer::No; }
+  std::filesystem::path fileToOpen(const FileDialog&) override { return {}; }
+  std::filesystem::path fileToSave(const FileDialog&) override { return {}; }
+  Colour pickedColour(Colour initial) override { return initial; }
+
+  Console& console_;
+};
+
+int exitStatus(RecorderEnd end) {
+  return static_cast<int>(end);
+}
+
+int record(const RecorderOptions& options) {
+  DesktopDisk disk;
+  useDisk(&disk);
+  Console console(!options.isQuiet && isTerminal(stderr));
+  Gate gate;
+  DesktopClock clock;
+  StandBy standBy(clock, gate);
+  ConsoleDialogs dialogs(gate, console);
+  EventDispatcher dispatcher(gate, dialogs);
+  PortDirectory ports(folderOfPorts(), clock, standBy);
+  LinePort port(ports, clock, gate, dispatcher, standBy);
+  std::optional<RecorderOutput> output;
+  try {
+    output.emplace(options, clock.milliseconds());
+  } catch (const Error& error) {
+    console.say(error.description());
+    return exitStatus(RecorderEnd::notWritten);
+  }
+  int status = exitStatus(RecorderEnd::done);
+  Recorder recorder(options, *output, port, clock, dispatcher,
+                    {[&](const std::string& text) { console.say(text); },
+                     [&](const std::string& text) { console.progress(text); },
+                     [&](RecorderEnd end) {
+                       status = exitStatus(end);
+                       gate.close();
+                       QCoreApplication::quit();
+                     }});
+  const EndingSignals endingSignals(
+      [&] { dispatcher.dispatchEnd([&] { recorder.endBySignal(); }); });
+  clock.callAfter(0, [&] { dispatcher.dispatch([&] { recorder.begin(); }); });
+  QCoreApplication::exec();
+  return status;
+}
+
+}  // namespace
+
+int main(int argumentCount, char** arguments) {
+#ifdef SIGPIPE
+  // A pipe that nobody reads any longer is an error of writing.
+  std::signal(SIGPIPE, SIG_IGN);
+#endif
+  QCoreApplication application(argumentCount, arguments);
+  QCoreApplication::setApplicationName(QStringLiteral("tracewell"));
+  try {
+    const RecorderOptions options =
+        recorderOptions({arguments + 1, arguments + argumentCount}, wallTimeNow());
+    if (options.wantsHelp) std::cout << recorderHelp();
+    if (options.wantsVersion) std::cout << "tracewell-record " << TRACEWELL_VERSION << "\n";
+    return options.wantsHelp || options.wantsVersion ? EXIT_SUCCESS : record(options);
+  } catch (const RecorderUsageError& error) {
+    std::cerr << "tracewell-record: " << error.what() << " (see --help)\n";
+    return exitStatus(RecorderEnd::wrongOptions);
+  }
+}
