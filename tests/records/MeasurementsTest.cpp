@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <cmath>
+#include <cstdlib>
+#include <numbers>
+
+#include "Converter.h"
+#include "Doubles.h"
+#include "OwnMeasurements.h"
+#include "Places.h"
+#include "SyntheticRecord.h"
+
+namespace tracewell {
+namespace {
+
+/// Of periods: 0.1 % or half a sample; of edges 5 % or a sample; of heights a step of the
+/// converter.
+double allowed(const QuantityName& name, double truth, double period, double height) {
+  switch (name.unit) {
+    case QuantityUnit::volts:
+      return converter::step;
+    case QuantityUnit::seconds:
+      return name.quantity == Quantity::period ? std::max(0.5, 0.001 * truth)
+                                               : std::max(1.0, 0.05 * truth);
+    default:
+      return name.quantity == Quantity::duty ? 100 / period : 100 * converter::step / height;
+  }
+}
+
+}  // namespace
+
+/// TRACEWELL_RECORDS names another table of make_table.py.
+TEST(OwnMeasurements, AgreeWithTheTableOrHaveNoValueWhereNoneIsDefined) {
+  const char* const other = std::getenv("TRACEWELL_RECORDS");
+  const auto rows = readRecordRows(
+      other != nullptr ? other : std::string(scriptFolder) + "/../records/records.csv");
+  ASSERT_EQ(rows.size(), 200U);
+  std::map<std::string_view, std::pair<double, int>> worst;
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    const OwnMeasurements found = measureSamples(syntheticRecord(rows[i]));
+    for (const QuantityName& name : quantityNames) {
+      const auto cell = rows[i].find("true " + std::string(name.shortName));
+      if (cell == rows[i].end() || cell->second == "?") continue;
+      const OwnValue& own = found[name.quantity];
+      const std::string what = std::string(name.shortName) + " of line " + std::to_string(i + 2) +
+                               " is " + cell->second + ", " + std::string(reasonText(own.reason));
+      if (cell->second == "-" || cell->second == "<") {
+        EXPECT_FALSE(own.value) << what << " " << *own.value;
+        EXPECT_EQ(own.below.has_value(), cell->second == "<") << what;
+        continue;
+      }
+      EXPECT_TRUE(own.value) << what;
+      if (!own.value) continue;
+      const double truth = std::stod(cell->second);
+      const double limit = allowed(name, truth, std::stod(rows[i].at("period")),
+                                   2 * std::stod(rows[i].at("amplitude")));
+      EXPECT_NEAR(*own.value, truth, limit) << what;
+      const double missed = std::fabs(*own.value - truth) / limit;
+      if (missed >= worst[name.shortName].first) worst[name.shortName].first = missed;
+      ++worst[name.shortName].second;
+    }
+  }
+  // As shares of what is allowed.
+  for (const auto& [name, error] : worst)
+    RecordProperty(std::string(name),
+                   std::to_string(error.first) + " of " + std::to_string(error.second));
+  if (std::getenv("VERBOSE"))
+    for (const auto& [name, error] : worst)
+      std::cout << name << " " << error.first << " of " << error.second << "\n";
+}
+
+TEST(OwnMeasurements, HaveUnitsWhereScalesAreKnownAndDelaysWithinASweep) {
+  const auto sine = [](double phase) {
+    return makeRecord([phase](int i) {
+      return 2 * static_cast<int>(
+                     std::lround(50 * std::sin(2 * std::numbers::pi * (i / 100.0 - phase))));
+    });
+  };
+  const MadeUnder made{0.5, 1e-3, std::nullopt, 7};
+  ChannelRecord first{sine(0), {33, 1}, made, 0, 0};
+  ChannelRecord second{sine(0.2), {33, 1}, made, 0, 0};
+  const OwnMeasurements both = measure(first, second);
+  EXPECT_NEAR(both[Quantity::amplitude].value.value(), 2, 0.01);
+  EXPECT_NEAR(both[Quantity::frequency].value.value(), 500, 0.1);
+  EXPECT_NEAR(both[Quantity::delay].value.value(), 4e-4, 1e-6);
+  EXPECT_NEAR(both[Quantity::phase].value.value(), 72, 0.2);
+  second.madeUnder.stop = 8;
+  EXPECT_EQ(measure(first, second)[Quantity::delay].reason, NoValue::otherSweep);
+  first.madeUnder.voltsPerDivision.reset();
+  EXPECT_EQ(measure(first)[Quantity::rms].reason, NoValue::scaleNotKnown);
+  EXPECT_NEAR(measure(first)[Quantity::duty].value.value(), 50, 0.1);
+  first.bytes.pop_back();
+  EXPECT_EQ(measure(first)[Quantity::duty].reason, NoValue::incomplete);
+}
+
+TEST(OwnMeasurements, StatisticsHoldWithALargeMean) {
+  Statistics statistics;
+  EXPECT_FALSE(statistics.mean() || statistics.standardDeviation());
+  for (const double value : {1e9 + 4, 1e9 + 7, 1e9 + 13, 1e9 + 16})
+    statistics.add(OwnValue::of(value));
+  statistics.add(OwnValue::no(NoValue::flat));
+  EXPECT_EQ(statistics.count(), 4U);
+  EXPECT_DOUBLE_EQ(statistics.mean().value(), 1e9 + 10);
+  EXPECT_DOUBLE_EQ(statistics.standardDeviation().value(), std::sqrt(30));
+  EXPECT_DOUBLE_EQ(statistics.lowest().value(), 1e9 + 4);
+  EXPECT_DOUBLE_EQ(statistics.highest().value(), 1e9 + 16);
+}
+
+}  // namespace tracewell

@@ -1,0 +1,169 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""Prints the table of records.csv: parameters of 200 records, and what is true of each of them, in units
+and samples. Wants numpy and scipy; the argument is a seed other than that of the table.
+
+    tests/records/make_table.py > tests/records/records.csv
+
+Of a value that is not defined the table has "-", of one that may be told or not "?", of an edge that is
+too fast "<".
+"""
+
+import random
+import sys
+
+import numpy
+from scipy import signal
+
+COUNT, STEP, LOWEST, HIGHEST = 500, 2, -128, 127
+PARAMETERS = "shape period phase amplitude offset duty edge ringing noise seed".split()
+VALUES = "max min vpp mean rms acrms top base ampl over period duty rise fall".split()
+
+
+def noise(seed):
+    """About Gaussian, of deviation 0.98."""
+    result = numpy.zeros(COUNT)
+    for i in range(COUNT):
+        for _ in range(4):
+            seed ^= seed << 13 & 0xFFFFFFFF
+            seed ^= seed >> 17
+            seed ^= seed << 5 & 0xFFFFFFFF
+            result[i] += seed / 4294967296 - 0.5
+    return 1.7 * result
+
+
+def pulse(p, turns):
+    """Straight edges, half-way up at 0 and half-way down at the duty; they may ring behind."""
+    half = p["edge"] / p["period"] / 2
+    since = numpy.mod(turns + half, 1)
+    corners = [0, 2 * half, p["duty"], p["duty"] + 2 * half, 1]
+    level = numpy.interp(since, corners, [-1, 1, 1, -1, -1])
+    for begin, height in ((corners[1], 1), (corners[3], -1)):
+        behind = numpy.mod(since - begin, 1)
+        level += height * p["ringing"] * numpy.exp(-40 * behind) * numpy.sin(2 * numpy.pi * 12 * behind)
+    return level
+
+
+def clean(p, samples):
+    turns = samples / p["period"] + p["phase"]
+    shape = {"sine": lambda: numpy.sin(2 * numpy.pi * turns),
+             "triangle": lambda: signal.sawtooth(2 * numpy.pi * (turns + 0.25), 0.5),
+             "pulse": lambda: pulse(p, turns)}[p["shape"]]()
+    return p["offset"] + p["amplitude"] * shape
+
+
+def record(p):
+    units = clean(p, numpy.arange(COUNT)) + p["noise"] * noise(p["seed"])
+    return STEP * numpy.clip(numpy.round(units / STEP), LOWEST, HIGHEST)
+
+
+def edges(p, level_from, level_to):
+    """How many edges of the signal without noise lie in the record, at least and at most, up and down:
+    those of which all between the levels is seen, and those that are half-way in it."""
+    times = numpy.linspace(0, COUNT - 1, 200001)
+    share = (clean(p, times) - p["offset"]) / p["amplitude"] / 2 + 0.5
+    sure, likely = {}, {}
+    for name, rising in (("rise", True), ("fall", False)):
+        way = share if rising else 1 - share
+        begins = numpy.flatnonzero((way[:-1] < 0.5) & (way[1:] >= 0.5))
+        likely[name] = len(begins)
+        sure[name] = 0
+        for begin in begins:
+            before, behind = way[:begin + 1][::-1], way[begin:]
+            low, high = numpy.argmax(before <= level_from), numpy.argmax(behind >= level_to)
+            sure[name] += bool(before[low] <= level_from and behind[high] >= level_to)
+    return sure, likely
+
+
+def truth(p):
+    samples = record(p)
+    low, high = samples.min() <= STEP * LOWEST, samples.max() >= STEP * HIGHEST
+    clipped = low or high
+    found = {"max": "-" if high else samples.max(), "min": "-" if low else samples.min()}
+    every = {"vpp": numpy.ptp(samples), "mean": samples.mean(),
+             "rms": numpy.sqrt((samples ** 2).mean()), "acrms": samples.std()}
+    found |= {name: "-" if clipped else value for name, value in every.items()}
+    if p["amplitude"] == 0:
+        return found | {name: "-" for name in VALUES if name not in found}
+    sure, likely = edges(p, 0.15, 0.85)
+    is_whole, may_be_whole = max(sure.values()) >= 2, max(likely.values()) >= 2
+    rhythm = lambda value: value if is_whole else "?" if may_be_whole else "-"
+    seen = min(p["offset"] + p["amplitude"], STEP * HIGHEST) - max(p["offset"] - p["amplitude"], STEP * LOWEST)
+    is_faint = clipped and seen < 10 * p["noise"] + 4 * STEP
+    found["period"] = "?" if is_faint else rhythm(p["period"])
+    is_even = p["shape"] == "triangle"
+    # Half-way between the ends, which noise has moved.
+    share = 0.5 - (samples.max() + samples.min() - 2 * p["offset"]) / 4 / p["amplitude"] if is_even else p["duty"]
+    found["duty"] = "-" if clipped else rhythm(100 * share)
+    # A pulse that is nearly all edges has no states.
+    flat = [p["duty"] - p["edge"] / p["period"], 1 - p["duty"] - p["edge"] / p["period"]]
+    has_states = p["shape"] != "pulse" or all(
+        part >= 0.3 * whole for part, whole in zip(flat, (p["duty"], 1 - p["duty"])))
+    if not has_states and not clipped:
+        found["duty"] = "?"
+    # Of a part of a signal that turns the levels are a matter of where it is cut.
+    ends = {"top": samples.max() if is_even else p["offset"] + p["amplitude"],
+            "base": samples.min() if is_even else p["offset"] - p["amplitude"]}
+    for name, is_cut in (("top", high), ("base", low)):
+        found[name] = "-" if is_cut else ends[name] if is_whole and has_states and not is_faint else "?"
+    is_seen = is_whole and has_states and not clipped
+    unseen = "-" if clipped else "?"
+    found["ampl"] = ends["top"] - ends["base"] if is_seen else unseen
+    found["over"] = 100 * (samples.max() - ends["top"]) / found["ampl"] if is_seen else unseen
+    whole, any_of = edges(p, 0.05, 0.95)
+    share = {"sine": numpy.arcsin(0.8) / numpy.pi,
+             "triangle": 0.2 * numpy.ptp(samples) / p["amplitude"]}.get(p["shape"])
+    time = share * p["period"] if share else 0.8 * p["edge"]
+    for name in ("rise", "fall"):
+        found[name] = unseen
+        if is_seen and whole[name] > 0:
+            is_noisy = (20 if is_even else 10) * p["noise"] > p["amplitude"]
+            found[name] = "?" if is_noisy or 1.5 <= time < 2.5 else "<" if time < 2 else time
+    return found
+
+
+def parameters(draw):
+    shape = draw.choice(["sine", "sine", "square", "square", "pulse", "triangle"])
+    periods = draw.choice([draw.uniform(0.3, 3), draw.uniform(3, 40), 0.3, 40, draw.uniform(1, 12)])
+    p = {"shape": "pulse" if shape == "square" else shape, "period": COUNT / periods,
+         "phase": draw.random(), "amplitude": draw.choice([draw.uniform(20, 120), draw.uniform(60, 240)]),
+         "duty": 0.5, "edge": 0, "ringing": 0, "noise": draw.choice([0, 0, 1, 1.5, 2, 3]),
+         "seed": draw.randrange(1, 1 << 32)}
+    room = 250 - p["amplitude"] - 3.4 * p["noise"]
+    p["offset"] = draw.uniform(-1, 1) * max(room, 0)
+    kind = draw.random()
+    if kind < 0.12:  # Clipped at one edge of the converter, or at both.
+        p["offset"] = draw.choice([-1, 1]) * (room + draw.uniform(10, 60))
+    elif kind < 0.18:
+        p["amplitude"], p["offset"] = draw.uniform(280, 600), draw.uniform(-50, 50)
+    elif kind < 0.24:  # Nothing but a level.
+        p["amplitude"] = 0
+    if p["shape"] == "pulse":
+        p["edge"] = draw.choice([0, 1, 0.1 * p["period"], draw.uniform(0, 0.2) * p["period"]])
+        if shape == "pulse":
+            fewest = (p["edge"] + 2) / p["period"]
+            p["duty"] = draw.choice([max(fewest, draw.uniform(0.02, 0.15)), draw.uniform(0.2, 0.8)])
+            p["duty"] = max(min(p["duty"], 1 - fewest), 0.12 if p["period"] < 20 else 0)
+        elif p["period"] > 60 and kind > 0.7:
+            p["ringing"] = draw.uniform(0.05, 0.3)
+            p["edge"] = min(p["edge"], 0.02 * p["period"])
+            p["offset"] *= 0.5
+            p["amplitude"] *= 0.6
+    return {name: round(value, 4) if isinstance(value, float) else value for name, value in p.items()}
+
+
+def text(value):
+    return value if isinstance(value, str) else f"{value:.6g}"
+
+
+def main():
+    seed = int(sys.argv[1]) if len(sys.argv) > 1 else 1
+    draw = random.Random(seed)
+    print(",".join([*PARAMETERS, *("true " + name for name in VALUES)]))
+    for _ in range(200):
+        p = parameters(draw)
+        true = truth(p)
+        print(",".join([str(p[name]) for name in PARAMETERS] + [text(true[name]) for name in VALUES]))
+
+
+main()
