@@ -27,5 +27,7 @@ class Disk {
 /// The disk under every file that is written from now on; the caller's, and null for none. One for
 /// the process, since files are written before there is a program that could hand it on.
 void useDisk(Disk* disk);
+/// Null for none.
+Disk* diskInUse();
 
 }  // namespace tracewell

@@ -220,6 +220,10 @@ void useDisk(Disk* disk) {
   usedDisk = disk;
 }
 
+Disk* diskInUse() {
+  return usedDisk;
+}
+
 void writeWholeFile(const fs::path& path, std::string_view bytes) {
   writeWholeFiles({{path, bytes}});
 }

@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "MeasurementRow.h"
+
+#include "Numbers.h"
+#include "SamplesCsv.h"
+#include "TrueNumbers.h"
+#include "WallTime.h"
+
+namespace tracewell {
+
+bool MeasurementLimit::isPassed(const OwnMeasurements& values) const {
+  const auto& own = values[quantity].value;
+  return own && (isUpper ? *own > value : *own < value);
+}
+
+std::optional<MeasurementLimit> limitOf(std::string_view text) {
+  const std::size_t sign = text.find_first_of("<>");
+  if (sign == std::string_view::npos) return std::nullopt;
+  const std::string_view name = trimBlanks(text.substr(0, sign));
+  const std::string_view number = trimBlanks(text.substr(sign + 1));
+  const auto quantity = quantityNamed(name);
+  if (!quantity) return std::nullopt;
+  auto value = trueNumber(number, unitText(nameOf(*quantity).unit));
+  if (!value && isNumeric(number)) value = toDouble(number);
+  if (!value) return std::nullopt;
+  std::string shown = std::string(name) + " " + text[sign] + " " + std::string(number);
+  return MeasurementLimit{*quantity, text[sign] == '>', *value, std::move(shown)};
+}
+
+std::optional<std::vector<Quantity>> quantitiesOf(std::string_view text) {
+  std::vector<Quantity> quantities;
+  while (true) {
+    const std::size_t comma = text.find(',');
+    const auto quantity = quantityNamed(trimBlanks(text.substr(0, comma)));
+    if (!quantity) return std::nullopt;
+    quantities.push_back(*quantity);
+    if (comma == std::string_view::npos) return quantities;
+    text.remove_prefix(comma + 1);
+  }
+}
+
+std::string MeasurementColumns::heading() const {
+  std::string text = "time,channel";
+  for (const Quantity quantity : quantities) {
+    const QuantityName& name = nameOf(quantity);
+    text.append(",").append(name.shortName).append(" (").append(unitText(name.unit)).append(")");
+  }
+  return text + ",limits\n";
+}
+
+std::string MeasurementColumns::row(std::int64_t wallTime, int channel,
+                                    const OwnMeasurements& values) const {
+  constexpr int digits = 7;
+  std::string text = isoTime(wallTime) + "," + std::to_string(channel);
+  for (const Quantity quantity : quantities) {
+    text += ",";
+    if (values[quantity].value) text += shortNumberText(*values[quantity].value, digits);
+  }
+  return text + "," + passed(values) + "\n";
+}
+
+std::string MeasurementColumns::passed(const OwnMeasurements& values) const {
+  std::string text;
+  for (const MeasurementLimit& limit : limits)
+    if (limit.isPassed(values)) text += (text.empty() ? "" : "; ") + limit.text;
+  return text;
+}
+
+}  // namespace tracewell

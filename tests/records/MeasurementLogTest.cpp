@@ -1,0 +1,132 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "MeasurementLog.h"
+
+#include <chrono>
+#include <cstdlib>
+#include <fstream>
+
+#include "Disk.h"
+#include "Doubles.h"
+#include "WallTime.h"
+
+namespace tracewell {
+namespace {
+
+const std::string heading = "channel,vpp (V),freq (Hz),limits";
+
+}  // namespace
+
+/// A disk that refuses to hold anything while it is full, and counts.
+class RefusingDisk : public Disk {
+ public:
+  RefusingDisk() { useDisk(this); }
+  ~RefusingDisk() override { useDisk(nullptr); }
+  bool isFull = false;
+  int flushes = 0;
+  std::error_code flush(std::FILE&) override {
+    ++flushes;
+    return isFull ? std::make_error_code(std::errc::no_space_on_device) : std::error_code();
+  }
+  void takeOwner(std::FILE&, const std::filesystem::path&) override {}
+  std::error_code flushFolder(const std::filesystem::path&) override { return {}; }
+};
+
+class MeasurementLogTest : public testing::Test {
+ protected:
+  MeasurementLogTest() { std::filesystem::create_directories(folder); }
+  ~MeasurementLogTest() override { std::filesystem::remove_all(folder); }
+
+  const std::filesystem::path folder =
+      std::filesystem::path(testing::TempDir()) /
+      ("log" + std::to_string(std::chrono::steady_clock::now().time_since_epoch().count()));
+  const std::filesystem::path path = folder / "log.csv";
+  RefusingDisk disk;
+  MeasurementColumns columns{{Quantity::peakToPeak, Quantity::frequency},
+                             {limitOf("vpp > 500 mV").value(), limitOf("freq<2").value()}};
+  std::int64_t now = 0;
+
+  static OwnMeasurements values(double vpp) {
+    OwnMeasurements found;
+    found[Quantity::peakToPeak] = OwnValue::of(vpp);
+    found[Quantity::frequency] = OwnValue::no(NoValue::flat);
+    return found;
+  }
+  void append(MeasurementLog& log, double vpp) { log.append(0, 1, values(vpp), now += 1200); }
+  /// Without the time, which has the zone of this machine.
+  Lines rows(const std::filesystem::path& file) const {
+    Lines found;
+    std::ifstream stream(file, std::ios::binary);
+    for (std::string line; std::getline(stream, line);)
+      found.push_back(line.substr(line.find(',') + 1));
+    return found;
+  }
+};
+
+TEST_F(MeasurementLogTest, IsContinuedBehindItsLastWholeRowOrBegunAnew) {
+  {
+    MeasurementLog log(path, columns, now);
+    append(log, 0.25);
+    append(log, 0.75);
+    append(log, 0.25);
+    EXPECT_GE(disk.flushes, 2);
+  }
+  const Lines whole = {heading, "1,0.25,,", "1,0.75,,vpp > 500 mV", "1,0.25,,"};
+  EXPECT_EQ(rows(path), whole);
+  for (const std::string& torn : {std::string("1970-01-01T0"), std::string(100000, '\0')}) {
+    std::ofstream(path, std::ios::binary | std::ios::app) << torn;
+    MeasurementLog log(path, columns, now);
+    EXPECT_EQ(log.rows(), 3U);
+    EXPECT_EQ(log.bytes(), std::filesystem::file_size(path));
+    EXPECT_EQ(rows(path), whole);
+  }
+  std::filesystem::resize_file(path, 7);
+  MeasurementLog again(path, columns, now);
+  EXPECT_EQ(rows(path), Lines{heading});
+  columns.quantities.pop_back();
+  MeasurementLog other(path, columns, now);
+  EXPECT_EQ(other.path(), folder / "log-2.csv");
+}
+
+TEST_F(MeasurementLogTest, HoldsWhatTheDiskDoesNotTakeAndGoesOn) {
+  MeasurementLog log(path, columns, now);
+  append(log, 0.1);
+  log.tick(now += 3000);
+  disk.isFull = true;
+  append(log, 0.2);
+  log.tick(now += 3000);
+  EXPECT_TRUE(log.isDiskFull());
+  EXPECT_EQ(rows(path), (Lines{heading, "1,0.1,,"}));
+  EXPECT_EQ(log.held(), 1U);
+  now += 10;
+  for (int i = 0; i < 10003; ++i) log.append(0, 1, values(0.3), now);
+  EXPECT_EQ(log.lost(), 4U);
+  disk.isFull = false;
+  for (int i = 0; i < 5; ++i) log.tick(now += 1000);
+  EXPECT_FALSE(log.trouble());
+  EXPECT_EQ(log.rows(), 10001U);
+  EXPECT_EQ(rows(path).size(), 10002U);
+  // Another program takes the file away.
+  std::filesystem::remove(path);
+  append(log, 0.4);
+  for (int i = 0; i < 5; ++i) log.tick(now += 1000);
+  EXPECT_EQ(rows(path), (Lines{heading, "1,0.4,,"}));
+}
+
+TEST(MeasurementRow, TimesHaveAZoneAndLimitsAreReadStrictly) {
+  const std::string time = isoTime(1773581345250);
+  // 13:29:05 of Greenwich, whatever zone this machine is in.
+  ASSERT_EQ(time.size(), std::string("2026-03-15T14:29:05.250+01:00").size());
+  const auto minutes = [&](std::size_t at) {
+    return 60 * std::stoi(time.substr(at, 2)) + std::stoi(time.substr(at + 3, 2));
+  };
+  const int zone = (time[23] == '-' ? -1 : 1) * minutes(24);
+  EXPECT_EQ((minutes(11) - zone + 2880) % 1440, 13 * 60 + 29) << time;
+  EXPECT_DOUBLE_EQ(limitOf("freq <1.5 kHz").value().value, 1500);
+  for (const char* const text :
+       {"", "vpp", "vpp >", "vpp > x", "volts > 1", "vpp > 1 s", "vpp >> 1"})
+    EXPECT_FALSE(limitOf(text)) << text;
+  EXPECT_EQ(quantitiesOf("vpp, freq").value().size(), 2U);
+  EXPECT_FALSE(quantitiesOf("vpp,") || quantitiesOf(""));
+}
+
+}  // namespace tracewell

@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "RecordStore.h"
+
+#include "Doubles.h"
+#include "Error.h"
+#include "SamplesCsv.h"
+
+namespace tracewell {
+class RecordStoreTest : public testing::Test {
+ protected:
+  RecordStore store;
+  ChannelRecord next{"", {33, 1}, {0.5, 1e-3, std::nullopt, std::nullopt}, 0, 0};
+
+  static std::string level(int value) {
+    return makeRecord([value](int i) { return value + i % 2; });
+  }
+  RecordStore::Number keep(int channel, int value, int milliseconds = 1200) {
+    next.bytes = level(value);
+    next.sweepAt = next.fetchedAt += milliseconds;
+    return store.keep(channel, next, {next.fetchedAt, false}).value();
+  }
+  std::string csv(int channel, SamplesCsvResult* result = nullptr) {
+    std::string text;
+    const auto written = writeSamples(store, {store.first(), store.end(), channel},
+                                      [&](std::string_view part) { text += part; });
+    if (result != nullptr) *result = written;
+    return text;
+  }
+};
+
+TEST_F(RecordStoreTest, TheLastOnesAreKeptAndThePinnedOnesBeyondThem) {
+  ASSERT_TRUE(store.pin(keep(1, 7), "seven"));
+  EXPECT_FALSE(store.pin(5, "none"));
+  for (int i = 1; i <= 10000; ++i) keep(1 + i % 2, i % 20000);
+  EXPECT_EQ(store.size(), RecordStore::capacity);
+  EXPECT_EQ(store.first(), 1);
+  EXPECT_EQ(store.bytesOf(0), level(7));
+  EXPECT_EQ(store.record(10000).bytes, level(10000));
+  EXPECT_EQ(store.facts(10000).highest, 10001);
+  EXPECT_EQ(store.firstSince(store.facts(4000).sweepAt - 1), 4000);
+  const std::size_t whole = store.bytes();
+  for (int i = 0; i < 1000; ++i) keep(1, i);
+  EXPECT_EQ(store.bytes(), whole);
+  EXPECT_LT(whole, 12'000'000U);
+  EXPECT_EQ(store.newestOf(2), 10000 - 1);
+  store.letGo(0);
+  EXPECT_THROW(store.facts(0), Error);
+}
+
+TEST_F(RecordStoreTest, ASweepIsKeptOnceAndGapsAreTold) {
+  keep(1, 1);
+  EXPECT_EQ(keep(2, 1), 1);
+  EXPECT_EQ(keep(1, 1), 0);
+  EXPECT_EQ(store.facts(0).fetches, 2);
+  using Change = std::function<void()>;
+  const std::pair<Change, RecordGap> cases[] = {
+      {[] {}, {}},
+      {[&] { next.madeUnder.voltsPerDivision.reset(); }, {.hasOtherScales = true}},
+      {[&] { next.madeUnder.stop = 5; }, {}},
+      {[&] { next.madeUnder.stop.reset(); }, {.wasStopped = true}},
+      {[&] { ++next.line.openings; }, {.wasUnplugged = true}},
+      {[&] {
+         next.line = {34, 2};
+       },
+       {.isAnotherInstrument = true}},
+      {[&] { next.fetchedAt += 5000; }, {.wasSilent = true}}};
+  int value = 10;
+  for (const auto& [change, gap] : cases) {
+    change();
+    EXPECT_EQ(store.facts(keep(1, ++value)).gap, gap) << value;
+  }
+}
+
+TEST_F(RecordStoreTest, RecordsOfOneStopArePartnersAndShareRowsOfTheTable) {
+  keep(1, 100);
+  keep(2, 200);
+  EXPECT_FALSE(store.partnerOf(0));
+  next.madeUnder.stop = 3;
+  keep(1, 100);
+  keep(2, 200);
+  EXPECT_EQ(store.size(), 2U);
+  EXPECT_EQ(store.partnerOf(0), 1);
+  EXPECT_TRUE(csv(0).starts_with("Time (s),CH1 (V),CH2 (V)\n0,1,2\n2e-05,1.01,2.01\n")) << csv(0);
+  next.madeUnder = {};
+  keep(2, 300);
+  SamplesCsvResult result;
+  EXPECT_TRUE(csv(2, &result).starts_with("Time (s),CH2 (V)\n0,2\n"));
+  EXPECT_EQ(result.records, 1U);
+  EXPECT_EQ(result.leftOut, 1U);
+  next.madeUnder = {0.5, 1e-3, std::nullopt, std::nullopt};
+  keep(2, 400, 2500);
+  // The fourth record of the channel's, 6.1 s behind its first.
+  EXPECT_NE(csv(2).find("\n6.1,4\n6.10002,4.01\n"), std::string::npos);
+}
+
+}  // namespace tracewell
