@@ -33,7 +33,9 @@ void Tracewell::connectLifecycle() {
 }
 
 void Tracewell::connectLink() {
-  main.services().port.dataReady = [this](const std::string& data) { acquisition.DataReady(data); };
+  main.services().port.dataReady = [this](const LineRecord& record) {
+    acquisition.DataReady(record);
+  };
   main.cmdStart.click = [this] { connect.cmdStart_Click(); };
   main.cmdRS232.click = [this] { connect.cmdRS232_Click(); };
   main.mnbRS232.click = [this] { rs232.mnbRS232_Click(); };
@@ -112,6 +114,9 @@ void Tracewell::connectFiles() {
   main.graphDSO.fileDropped = [this](const std::filesystem::path& file) {
     waveformButtons.graphDSO_FileDropped(file);
   };
+  main.graphDSO.referenceRemoved = [this](int number) {
+    waveformButtons.graphDSO_ReferenceRemoved(number);
+  };
   main.graphDSO.copied = [this](Graph::Copied what) { waveformButtons.graphDSO_Copied(what); };
   main.cmdLoadCSV.click = [this] { waveformButtons.cmdLoadCSV_Click(); };
   main.mnbLoadCSV.click = [this] { waveformButtons.cmdLoadCSV_Click(); };
@@ -126,7 +131,7 @@ void Tracewell::sayAgain() {
   main.status.tellAgain();
   panelMarks.show();
   showFilesToKeep(main);
-  errLog.showNewLines(errLog.NewLogLines);
+  errLog.showNewLines(errLog.newLogLines);
 }
 
 void Tracewell::connectSupport() {

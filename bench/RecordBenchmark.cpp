@@ -18,11 +18,10 @@ void recordToTrace(benchmark::State& state) {
   Bench bench;
   bench.program.start();
   const std::string record = sineRecord();
-  bench.port.tag = "1";
   bench.main.Ch1Pos = 1.5;
   for (auto _ : state) {
     bench.program.acquisition.WaveCount = 0;
-    bench.port.deliver(record);
+    bench.port.deliver(1, record);
     benchmark::DoNotOptimize(bench.main.graphDSO.plot(1).y().data());
     benchmark::DoNotOptimize(bench.main.txtMsg.text().data());
   }

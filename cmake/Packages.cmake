@@ -10,6 +10,8 @@ set(READ_FIRST ${PROJECT_SOURCE_DIR}/README.md ${PROJECT_SOURCE_DIR}/CONTRIBUTIN
 set(DESKTOP_FILES ${PROJECT_SOURCE_DIR}/packaging/desktop)
 
 install(TARGETS tracewell krm410-sim COMPONENT system)
+# The program looks for its modules there, whatever the machine calls its folder of libraries.
+install(TARGETS ${MODULES} LIBRARY DESTINATION lib/tracewell COMPONENT system)
 install(FILES ${PROGRAM_FILES} DESTINATION ${CMAKE_INSTALL_DATADIR}/tracewell COMPONENT system)
 install(FILES ${DESKTOP_FILES}/tracewell.desktop
         DESTINATION ${CMAKE_INSTALL_DATADIR}/applications COMPONENT system)
@@ -35,7 +37,8 @@ install_compressed(${DESKTOP_FILES}/changelog changelog.gz ${CMAKE_INSTALL_DOCDI
 install_compressed(${DESKTOP_FILES}/tracewell.1 tracewell.1.gz ${CMAKE_INSTALL_MANDIR}/man1)
 install_compressed(${DESKTOP_FILES}/krm410-sim.1 krm410-sim.1.gz ${CMAKE_INSTALL_MANDIR}/man1)
 
-install(TARGETS tracewell krm410-sim RUNTIME DESTINATION . COMPONENT portable EXCLUDE_FROM_ALL)
+install(TARGETS tracewell krm410-sim ${MODULES} RUNTIME DESTINATION . LIBRARY DESTINATION .
+        COMPONENT portable EXCLUDE_FROM_ALL)
 install(FILES ${PROGRAM_FILES} ${READ_FIRST} LICENSE DESTINATION . COMPONENT portable
         EXCLUDE_FROM_ALL)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs DESTINATION . COMPONENT portable EXCLUDE_FROM_ALL)

@@ -18,7 +18,6 @@
 #include <QRadioButton>
 #include <QSignalBlocker>
 #include <QTreeWidget>
-#include <utility>
 
 #include "ButtonSigns.h"
 #include "Controls.h"

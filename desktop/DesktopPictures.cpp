@@ -5,12 +5,15 @@
 #include <QPainter>
 #include <QPixmap>
 #include <QWidget>
+#include <QtMath>
+#include <algorithm>
+#include <cmath>
 
 #include "Graph.h"
 #include "GraphView.h"
 #include "PictureFormats.h"
+#include "PictureGuard.h"
 #include "QtImages.h"
-#include "QtValues.h"
 #include "ShownText.h"
 
 namespace tracewell {
@@ -28,6 +31,17 @@ QFont noteFont(const QImage& picture) {
   font.setPixelSize(qMax(smallest, picture.width() / partOfWidth));
   font.setBold(true);
   return font;
+}
+
+/// No larger than what can be loaded again in every format.
+QImage fitted(const QImage& picture) {
+  constexpr double most = std::min(largestPictureArea, largestPcxLines / 3);
+  const double area = double{1} * picture.width() * picture.height();
+  const double longest = qMax(picture.width(), picture.height());
+  const double share = qMin(std::sqrt(most / area), largestPictureSide / longest);
+  if (share >= 1) return picture;
+  return picture.scaled(qFloor(picture.width() * share), qFloor(picture.height() * share),
+                        Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
 }  // namespace
@@ -50,7 +64,7 @@ Image DesktopPictures::graphImage(const Graph& graph, const std::string& footnot
   painter.drawText(QRect(8, shown.height(), shown.width() - 16, lineHeight),
                    Qt::AlignVCenter | Qt::AlignLeft, shownText(footnote, roomOfLine));
   painter.end();
-  return fromQt(picture);
+  return fromQt(fitted(picture));
 }
 
 Image DesktopPictures::withText(const Image& image, const std::string& text, int x, int y) {

@@ -16,6 +16,7 @@
 #include "ManualEntry.h"
 #include "QtValues.h"
 #include "ShownText.h"
+#include "ThemeMenu.h"
 #include "Window.h"
 
 namespace tracewell {
@@ -44,7 +45,7 @@ void focusFirst(QWidget& form) {
 /// only ever goes when the window says so.
 class DesktopWindows::Form : public QObject {
  public:
-  Form(Window& window, QWidget* parent, const DesktopWindows& windows) : window_(window) {
+  Form(Window& window, QWidget* parent, DesktopWindows& windows) : window_(window) {
     widget_ = makeForm(window.name(), parent);
     bindControls(window, *widget_);
     window.changed = [this] { widget_->setWindowTitle(shownTitle(window_.caption())); };
@@ -56,6 +57,8 @@ class DesktopWindows::Form : public QObject {
                       [&windows](const QString& file) {
                         if (windows.manualRefused) windows.manualRefused(file);
                       });
+      new ThemeMenu(*widget_->findChild<QMenu*>(QStringLiteral("mnbView")), windows.state_.theme(),
+                    [&windows](Theme theme) { windows.use(theme); });
     }
   }
   ~Form() override {
@@ -102,8 +105,9 @@ class DesktopWindows::Form : public QObject {
   std::unique_ptr<QWidget> widget_;
 };
 
-DesktopWindows::DesktopWindows(const std::filesystem::path& programFolder)
-    : state_(programFolder) {}
+DesktopWindows::DesktopWindows(const std::filesystem::path& programFolder) : state_(programFolder) {
+  applyTheme(*qApp, state_.theme());
+}
 DesktopWindows::~DesktopWindows() = default;
 
 QWidget* DesktopWindows::widgetOf(const Control& control) const {
@@ -128,6 +132,12 @@ DesktopWindows::Form& DesktopWindows::formOf(Window& window) {
   auto form = std::make_unique<Form>(window, mainForm(), *this);
   if (form->isMain()) state_.restore(form->widget());
   return *forms_.emplace(&window, std::move(form)).first->second;
+}
+
+void DesktopWindows::use(Theme theme) {
+  state_.setTheme(theme);
+  applyTheme(*qApp, theme);
+  if (const QWidget* form = mainForm()) state_.keep(*form);
 }
 
 void DesktopWindows::showModal(Window& window) {

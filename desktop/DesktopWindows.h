@@ -17,7 +17,7 @@ class Control;
 /// kept until the window is unloaded.
 class DesktopWindows : public WindowHost {
  public:
-  /// The main window is remembered in the folder.
+  /// The main window is remembered in the folder, and so is the theme, which is applied.
   explicit DesktopWindows(const std::filesystem::path& programFolder);
   ~DesktopWindows() override;
 
@@ -39,6 +39,7 @@ class DesktopWindows : public WindowHost {
   class Form;
   Form& formOf(Window& window);
   QWidget* mainForm() const;
+  void use(Theme theme);
 
   WindowState state_;
   std::map<Window*, std::unique_ptr<Form>> forms_;

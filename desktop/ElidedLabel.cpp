@@ -5,6 +5,8 @@
 #include <QPainter>
 #include <QToolTip>
 
+#include "BannerPainter.h"
+
 namespace tracewell {
 
 ElidedLabel::ElidedLabel(QWidget* parent) : QLabel(parent) {
@@ -23,35 +25,14 @@ int ElidedLabel::signWidth() const {
   return sign_ == none || text().isEmpty() ? 0 : fontMetrics().ascent() * 3 / 2;
 }
 
-/// Told apart by shape, too: a disc, or a triangle.
-void ElidedLabel::paintSign(QPainter& painter, const QRectF& place) const {
-  const bool isWarning = sign_ == warning;
-  painter.save();
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(isWarning ? warningColour_ : QColor(0x2e, 0x75, 0x50));
-  if (isWarning)
-    painter.drawPolygon(
-        QPolygonF({{place.center().x(), place.top()}, place.bottomRight(), place.bottomLeft()}));
-  else
-    painter.drawEllipse(place);
-  QFont bold = font();
-  bold.setBold(true);
-  bold.setPixelSize(qRound(place.height() * 0.72));
-  painter.setFont(bold);
-  painter.setPen(isWarning ? palette().color(QPalette::Window) : Qt::white);
-  painter.drawText(place.adjusted(0, isWarning ? place.height() * 0.2 : 0, 0, 0), Qt::AlignCenter,
-                   isWarning ? QStringLiteral("!") : QStringLiteral("i"));
-  painter.restore();
-}
-
 void ElidedLabel::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   drawFrame(&painter);
   QRect room = contentsRect();
   if (const int width = signWidth(); width > 0) {
     const qreal side = fontMetrics().ascent() * 1.15;
-    paintSign(painter, {room.left() + 0.5, room.center().y() - side / 2 + 0.5, side, side});
+    paintWeightSign(painter, {room.left() + 0.5, room.center().y() - side / 2 + 0.5, side, side},
+                    sign_ == warning, warningColour_, palette().color(QPalette::Window));
     room.setLeft(room.left() + width);
     if (sign_ == warning) painter.setPen(warningColour_);
   }

@@ -25,7 +25,6 @@ class ElidedLabel : public QLabel {
 
  private:
   int signWidth() const;
-  void paintSign(QPainter& painter, const QRectF& place) const;
 
   Sign sign_ = none;
   QColor warningColour_;

@@ -72,6 +72,12 @@ bool GraphExchange::openMenu(const QPoint& position) {
                   copy(Graph::Copied::pictureAndValues));
   menu->addAction(panelText("Copy the picture"), this, copy(Graph::Copied::picture));
   menu->addAction(panelText("Copy the values"), this, copy(Graph::Copied::values));
+  for (int number = 1; number <= static_cast<int>(graph_.plots().size()); ++number) {
+    const Plot& plot = graph_.plot(number);
+    if (plot.isReference() && plot.isShown())
+      menu->addAction(panelText("Remove %1").arg(toQt(plot.name())), this,
+                      [this, number] { graph_.removeReference(number); });
+  }
   menu->popup(position);
   return true;
 }

@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "BannerPainter.h"
 #include "Graph.h"
 #include "QtValues.h"
 #include "ScaleStrip.h"
@@ -35,6 +36,8 @@ constexpr qreal roomOfCursors = 20;
 /// Kept free at the bottom for the note.
 constexpr qreal roomOfNote = 26;
 constexpr qreal nearCursor = 10;
+/// Of the warning at the lower edge.
+const QColor bannerWarning(255, 171, 64);
 /// Of the text's colour in the frame around it.
 constexpr float borderShare = 0.27F;
 
@@ -123,6 +126,9 @@ void GraphOverlay::paintEvent(QPaintEvent*) {
     paintNames(painter, marks.names);
     paintSides(painter, marks.sides);
     paintBadge(painter, marks.badge);
+    if (!marks.banner.text.empty())
+      paintBanner(painter, rect().adjusted(edge, 0, -edge, -edge), marks.banner,
+                  {colourOf(0), bannerWarning, toQt(graph_->plotAreaColour())});
   }
   if (!isFocusShown_) return;
   painter.setBrush(Qt::NoBrush);

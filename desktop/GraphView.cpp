@@ -38,14 +38,19 @@ QSharedPointer<QCPAxisTicker> divisionTicker() {
   return ticker;
 }
 
+/// Of a live trace.
+QString layerOf(std::size_t trace) {
+  return QStringLiteral("trace %1").arg(trace + 1);
+}
+
+/// Above the traces, in the picture of the last one: a picture more would be one more to paint.
 QCPItemText* makeText(QCustomPlot* plot, const QColor& colour, Qt::Alignment alignment) {
   auto* text = new QCPItemText(plot);
   text->setColor(colour);
   text->setPositionAlignment(alignment);
   text->setVisible(false);
   text->setClipToAxisRect(false);
-  // Above the traces; the overlay would be a second buffer to paint.
-  text->setLayer(QStringLiteral("legend"));
+  text->setLayer(layerOf(liveTraces - 1));
   return text;
 }
 
@@ -72,10 +77,12 @@ GraphView::GraphView(QWidget* parent)
   plot_->setNoAntialiasingOnDrag(true);
   plot_->setPlottingHints(QCP::phFastPolylines | QCP::phCacheLabels);
   plot_->setAntialiasedElements(QCP::aePlottables);
+  // Else it is measured at every frame, although it does not show.
+  plot_->setAutoAddPlottableToLegend(false);
   makeGraticule();
+  makeLayers();
   for (QCPGraph*& trace : traces_) trace = plot_->addGraph();
-  // The live traces lie on top of those that were loaded.
-  for (std::size_t i = 0; i < liveTraces; ++i) traces_[i]->setLayer(QStringLiteral("axes"));
+  for (std::size_t i = 0; i < liveTraces; ++i) traces_[i]->setLayer(layerOf(i));
   for (CursorItems& items : cursorItems_) {
     items.line = new QCPItemLine(plot_);
     items.line->setPen(QPen(cursorColour, 1, Qt::DashLine));
@@ -94,6 +101,17 @@ GraphView::GraphView(QWidget* parent)
 
 GraphView::~GraphView() {
   unbind();
+}
+
+/// The live traces lie on top of those that were loaded. Everything below them is one picture; the
+/// plot's own empty layers would be others.
+void GraphView::makeLayers() {
+  for (const char* unused : {"axes", "legend", "overlay"})
+    plot_->removeLayer(plot_->layer(QLatin1String(unused)));
+  for (std::size_t i = 0; i < liveTraces; ++i) {
+    plot_->addLayer(layerOf(i));
+    plot_->layer(layerOf(i))->setMode(QCPLayer::lmBuffered);
+  }
 }
 
 void GraphView::makeGraticule() {
@@ -131,10 +149,7 @@ void GraphView::bind(Graph& graph) {
   for (std::size_t i = 0; i < traces_.size(); ++i) {
     Plot& plot = graph.plots()[i];
     plot.changed = dirty;
-    plot.plotted = [this, i] {
-      isDataNew_[i] = true;
-      markDirty();
-    };
+    plot.plotted = [this, i] { markPlotted(i); };
     isDataNew_[i] = true;
   }
   markDirty();
@@ -182,10 +197,22 @@ void GraphView::unbind() {
 }
 
 void GraphView::markDirty() {
-  if (isDirty_) return;
   isDirty_ = true;
+  paintSoon();
+}
+
+void GraphView::markPlotted(std::size_t trace) {
+  isDataNew_[trace] = true;
+  if (trace >= liveTraces) isDirty_ = true;
+  paintSoon();
+}
+
+void GraphView::paintSoon() {
+  if (isPaintDue_) return;
+  isPaintDue_ = true;
   QTimer::singleShot(0, this, [this] {
-    replot();
+    isPaintDue_ = false;
+    isDirty_ ? replot() : replotLive();
     plot_->repaint();
   });
 }
@@ -208,11 +235,7 @@ void GraphView::replot() {
   showAxes();
   for (std::size_t i = 0; i < traces_.size(); ++i) {
     showTrace(graph_->plots()[i], *traces_[i], i < liveTraces ? liveTraceWidth : loadedTraceWidth);
-    if (std::exchange(isDataNew_[i], false)) {
-      const Plot& plot = graph_->plots()[i];
-      traces_[i]->setData(QVector<double>(plot.x().begin(), plot.x().end()),
-                          QVector<double>(plot.y().begin(), plot.y().end()), true);
-    }
+    takeData(i);
   }
   showCursors();
   showTriggerMarker();
@@ -220,6 +243,24 @@ void GraphView::replot() {
   note_->setText(shownText(graph_->note(), roomOfLine));
   note_->setVisible(!graph_->note().empty());
   plot_->replot(QCustomPlot::rpQueuedRefresh);
+}
+
+void GraphView::replotLive() {
+  if (graph_ == nullptr) return;
+  showValues();
+  for (std::size_t i = 0; i < liveTraces; ++i) {
+    if (!isDataNew_[i]) continue;
+    showTrace(graph_->plots()[i], *traces_[i], liveTraceWidth);
+    takeData(i);
+    traces_[i]->layer()->replot();
+  }
+}
+
+void GraphView::takeData(std::size_t trace) {
+  if (!std::exchange(isDataNew_[trace], false)) return;
+  const Plot& plot = graph_->plots()[trace];
+  traces_[trace]->setData(QVector<double>(plot.x().begin(), plot.x().end()),
+                          QVector<double>(plot.y().begin(), plot.y().end()), true);
 }
 
 void GraphView::showAxes() {

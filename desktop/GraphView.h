@@ -29,7 +29,8 @@ class ScaleStrip;
 /// double click or E enlarges the view and restores it. An overlay and the strip above the plot
 /// show what is for the screen alone, and GraphExchange has to do with other programs.
 ///
-/// Changes are painted once an event-loop turn, however many they are.
+/// Changes are painted once an event-loop turn, however many they are. Each live trace is kept as a
+/// picture of its own, so that a record has its own trace drawn and nothing else.
 class GraphView : public QWidget {
   Q_OBJECT
 
@@ -61,11 +62,18 @@ class GraphView : public QWidget {
   };
 
   void markDirty();
+  /// Of the graph nothing but the data of that trace has changed.
+  void markPlotted(std::size_t trace);
+  void paintSoon();
   void takeWindow();
   void takeFont();
   /// Of what is under the pointer.
   void showValues();
   void replot();
+  void replotLive();
+  /// The data, if they are others than those that were drawn.
+  void takeData(std::size_t trace);
+  void makeLayers();
   void showAxes();
   void showTrace(Plot& plot, QCPGraph& trace, qreal lineWidth);
   void showCursors();
@@ -96,6 +104,7 @@ class GraphView : public QWidget {
   std::size_t activeCursor_ = 0;
   /// Where the mouse is over the plot.
   std::optional<QPointF> pointer_;
+  bool isPaintDue_ = false;
   bool isDirty_ = false;
   bool isForPicture_ = false;
 };

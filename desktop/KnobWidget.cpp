@@ -191,7 +191,7 @@ void KnobWidget::paintCap(QPainter& painter) {
   light.setColorAt(1, body.darker(125));
   painter.setBrush(light);
   painter.setPen(hasFocus() ? QPen(palette().color(QPalette::Highlight), 2)
-                            : QPen(body.darker(190), 1.5));
+                            : QPen(palette().color(QPalette::Shadow), 1.5));
   painter.drawEllipse(centre(), size, size);
   painter.setPen(QPen(mark(), qMax(2.5, size / 12), Qt::SolidLine, Qt::RoundCap));
   painter.drawLine(pointAt(angleOf(value_), size * 0.45), pointAt(angleOf(value_), size * 0.85));

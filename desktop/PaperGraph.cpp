@@ -5,7 +5,6 @@
 #include <array>
 
 #include "Graph.h"
-#include "QtValues.h"
 #include "ShownText.h"
 
 namespace tracewell {

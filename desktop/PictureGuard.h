@@ -9,6 +9,8 @@ namespace tracewell {
 
 /// Pixels that a picture may have, in all; each takes some fifteen bytes on its way.
 inline constexpr std::size_t largestPictureArea = 10'000'000;
+/// Pixels that it may have either way.
+inline constexpr int largestPictureSide = 8192;
 /// Bytes that all lines of a PCX may have together; three make a pixel.
 inline constexpr std::size_t largestPcxLines = 24'000'000;
 

@@ -4,16 +4,12 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <utility>
 
 #ifdef Q_OS_UNIX
 #include <fcntl.h>
 #include <termios.h>
 #include <unistd.h>
 #endif
-
-#include "Error.h"
-#include "QtValues.h"
 
 namespace tracewell {
 namespace {

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "QtTcpChannel.h"
 
-#include <QHostInfo>
 #include <QThread>
 #include <atomic>
 #include <memory>
 #include <thread>
 
 #include "Error.h"
+#include "Modules.h"
 #include "QtValues.h"
 #include "SerialPort.h"
 
@@ -20,8 +20,12 @@ constexpr int interval = 10;
 /// much more. Milliseconds.
 constexpr int greeting = 100;
 
+Network& network() {
+  return moduleOf<Network>(QStringLiteral("tracewell-network"), deviceError);
+}
+
 struct LookUp {
-  QHostInfo found;
+  Network::Host found;
   std::atomic<bool> isOver = false;
 };
 
@@ -29,8 +33,8 @@ struct LookUp {
 /// its thread, not even the end of the program, as it would for one of the toolkit's.
 std::shared_ptr<const LookUp> beginLookUp(const QString& host) {
   const auto lookUp = std::make_shared<LookUp>();
-  std::thread([lookUp, host] {
-    lookUp->found = QHostInfo::fromName(host);
+  std::thread([lookUp, host, &network = network()] {
+    lookUp->found = network.find(host);
     lookUp->isOver = true;
   }).detach();
   return lookUp;
@@ -39,62 +43,54 @@ std::shared_ptr<const LookUp> beginLookUp(const QString& host) {
 }  // namespace
 
 QtTcpChannel::QtTcpChannel(const ServerAddress& address, StandBy& standBy)
-    : QtTcpChannel(address, standBy, new QTcpSocket) {
+    : QtTcpChannel(address, standBy, network().makeSocket()) {
   sinceBegin_.start();
   limitFetching(0);
   connectToOneOf(addressesOf(toQt(address.host)), address.port);
   dropGreeting();
-  QObject::connect(&socket_, &QTcpSocket::readyRead, &context(), [this] { announce(); });
-  QObject::connect(&socket_, &QTcpSocket::errorOccurred, &context(),
-                   [this](QAbstractSocket::SocketError error) {
-                     // A read that nothing came of is one, too, and leaves the line as it is.
-                     const bool isConnected = socket_.state() == QAbstractSocket::ConnectedState;
-                     if (error != QAbstractSocket::SocketTimeoutError || !isConnected)
-                       fail(socket_.errorString());
-                   });
+  QObject::connect(&socket_.device(), &QIODevice::readyRead, &context(), [this] { announce(); });
+  socket_.whenFailed(context(), [this] { fail(socket_.device().errorString()); });
 }
 
-QtTcpChannel::QtTcpChannel(const ServerAddress& address, StandBy& standBy, QTcpSocket* socket)
-    : DeviceChannel(toQt(addressText(address)), std::unique_ptr<QIODevice>(socket)),
+QtTcpChannel::QtTcpChannel(const ServerAddress& address, StandBy& standBy, TcpSocket& socket)
+    : DeviceChannel(toQt(addressText(address)), std::unique_ptr<QIODevice>(&socket.device())),
       standBy_(standBy),
-      socket_(*socket) {}
+      socket_(socket) {}
 
-QList<QHostAddress> QtTcpChannel::addressesOf(const QString& host) {
-  if (const QHostAddress address(host); !address.isNull()) return {address};
+QStringList QtTcpChannel::addressesOf(const QString& host) {
+  if (network().isAddress(host)) return {host};
   const std::shared_ptr<const LookUp> lookUp = beginLookUp(host);
   while (!lookUp->isOver && left() > 0) {
     QThread::msleep(interval);
     turn();
   }
   if (!lookUp->isOver) endWith(QStringLiteral("the name was not found in time"));
-  if (lookUp->found.addresses().isEmpty()) endWith(lookUp->found.errorString());
-  return lookUp->found.addresses();
+  if (lookUp->found.addresses.isEmpty()) endWith(lookUp->found.failure);
+  return lookUp->found.addresses;
 }
 
 /// A name may have addresses at which nobody answers; each gets its share of the time.
-void QtTcpChannel::connectToOneOf(const QList<QHostAddress>& hosts, std::uint16_t port) {
+void QtTcpChannel::connectToOneOf(const QStringList& hosts, std::uint16_t port) {
   for (qsizetype i = 0; i < hosts.size(); ++i) {
     const int share = left() / static_cast<int>(hosts.size() - i);
     if (isConnected(hosts[i], port, share)) return;
   }
-  const bool isSilent = socket_.state() == QAbstractSocket::ConnectingState;
-  endWith(isSilent ? QStringLiteral("the server did not answer in time") : socket_.errorString());
+  const bool isSilent = socket_.state() == TcpSocket::State::connecting;
+  endWith(isSilent ? QStringLiteral("the server did not answer in time")
+                   : socket_.device().errorString());
 }
 
 /// The toolkit's own wait would end the attempt with its time-out, so the events are waited for.
-bool QtTcpChannel::isConnected(const QHostAddress& host, std::uint16_t port, int timeOut) {
+bool QtTcpChannel::isConnected(const QString& host, std::uint16_t port, int timeOut) {
   QElapsedTimer sinceCall;
   sinceCall.start();
-  socket_.abort();
-  socket_.connectToHost(host, port);
-  while (socket_.state() == QAbstractSocket::ConnectingState && sinceCall.elapsed() < timeOut) {
+  socket_.connectTo(host, port);
+  while (socket_.state() == TcpSocket::State::connecting && sinceCall.elapsed() < timeOut) {
     QThread::msleep(interval);
     turn();
   }
-  if (socket_.state() != QAbstractSocket::ConnectedState) return false;
+  if (socket_.state() != TcpSocket::State::connected) return false;
   distance_ = static_cast<int>(sinceCall.elapsed());
-  socket_.setSocketOption(QAbstractSocket::LowDelayOption, 1);
-  socket_.setSocketOption(QAbstractSocket::KeepAliveOption, 1);
   return true;
 }
 
@@ -103,9 +99,9 @@ void QtTcpChannel::dropGreeting() {
   QElapsedTimer sinceHeard;
   sinceHeard.start();
   while (left() > 0 && sinceHeard.elapsed() < distance_ + greeting) {
-    socket_.waitForReadyRead(interval);
-    if (!socket_.readAll().isEmpty()) sinceHeard.restart();
-    if (socket_.state() != QAbstractSocket::ConnectedState) endWith(socket_.errorString());
+    socket_.device().waitForReadyRead(interval);
+    if (!socket_.device().readAll().isEmpty()) sinceHeard.restart();
+    if (socket_.state() != TcpSocket::State::connected) endWith(socket_.device().errorString());
     turn();
   }
 }

@@ -2,10 +2,10 @@
 #pragma once
 
 #include <QElapsedTimer>
-#include <QHostAddress>
-#include <QTcpSocket>
+#include <QStringList>
 
 #include "DeviceChannel.h"
+#include "Network.h"
 #include "ServerAddress.h"
 #include "StandBy.h"
 
@@ -20,17 +20,17 @@ class QtTcpChannel : public DeviceChannel {
   QtTcpChannel(const ServerAddress& address, StandBy& standBy);
 
  private:
-  QtTcpChannel(const ServerAddress& address, StandBy& standBy, QTcpSocket* socket);
+  QtTcpChannel(const ServerAddress& address, StandBy& standBy, TcpSocket& socket);
 
   void flush() override { socket_.flush(); }
   /// Never any number: a server that floods the line must not fill the memory, nor a turn.
   void limitFetching(qint64 bytes) override {
-    socket_.setReadBufferSize(bytes == 0 ? mostFetched : bytes);
+    socket_.limitFetching(bytes == 0 ? mostFetched : bytes);
   }
   static constexpr qint64 mostFetched = 1 << 16;
-  QList<QHostAddress> addressesOf(const QString& host);
-  void connectToOneOf(const QList<QHostAddress>& hosts, std::uint16_t port);
-  bool isConnected(const QHostAddress& host, std::uint16_t port, int timeOut);
+  QStringList addressesOf(const QString& host);
+  void connectToOneOf(const QStringList& hosts, std::uint16_t port);
+  bool isConnected(const QString& host, std::uint16_t port, int timeOut);
   void dropGreeting();
   /// Milliseconds that opening may still take.
   int left() const;
@@ -39,7 +39,7 @@ class QtTcpChannel : public DeviceChannel {
   [[noreturn]] void endWith(const QString& reason);
 
   StandBy& standBy_;
-  QTcpSocket& socket_;
+  TcpSocket& socket_;
   QElapsedTimer sinceBegin_;
   /// How long the server took to answer the connection.
   int distance_ = 0;

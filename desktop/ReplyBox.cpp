@@ -52,7 +52,7 @@ class ReplyBox::Rows : public QPlainTextDocumentLayout {
   void layOut(QTextBlock& block) const {
     const qreal margin = document()->documentMargin();
     QTextLayout& rows = *block.layout();
-    rows.setTextOption(document()->defaultTextOption());
+    rows.setTextOption(wrappingOf(block));
     // Else the letters are measured anew for the cursor, and once more to be painted.
     rows.setCacheEnabled(true);
     rows.beginLayout();
@@ -67,6 +67,19 @@ class ReplyBox::Rows : public QPlainTextDocumentLayout {
     }
     rows.endLayout();
     count(block);
+  }
+
+  /// Numbers with commas between them are one word, whose end would be looked for at each row.
+  QTextOption wrappingOf(const QTextBlock& block) const {
+    QTextOption option = document()->defaultTextOption();
+    const auto isOfNumber = [](QChar character) {
+      return (character >= '0' && character <= '9') || character == ',' || character == '-';
+    };
+    const QString text = block.text();
+    if (option.wrapMode() == QTextOption::WrapAtWordBoundaryOrAnywhere &&
+        std::ranges::all_of(text, isOfNumber))
+      option.setWrapMode(QTextOption::WrapAnywhere);
+    return option;
   }
 
   void count(QTextBlock& block) const {

@@ -44,7 +44,10 @@ class Shown {
     if (isTooLong()) return true;
     if (character == '\t' && !room_.hasTabs) character = ' ';
     if (character != '\t' && !isHarmless(character)) character = stranger.unicode();
-    text_ += QStringView(QChar::fromUcs4(character));
+    if (QChar::requiresSurrogates(character))
+      text_ += QStringView(QChar::fromUcs4(character));
+    else
+      text_ += QChar(static_cast<char16_t>(character));
     return true;
   }
 

@@ -17,15 +17,36 @@ namespace tracewell {
 namespace {
 
 struct Colours {
-  QColor window, panel, button, base, text, dimmed, outline, highlight;
+  QColor window, panel, button, base, text, dimmed, outline, shadow, highlight;
 };
 
 const Colours dark = {QColor(0x1b, 0x1e, 0x22), QColor(0x24, 0x28, 0x2e), QColor(0x3a, 0x42, 0x4b),
                       QColor(0x38, 0x3f, 0x48), QColor(0xdd, 0xe3, 0xe8), QColor(0xa9, 0xb1, 0xb9),
-                      QColor(0x8c, 0x95, 0x9e), QColor(0x4f, 0x9c, 0xd8)};
-const Colours light = {QColor(0xe9, 0xec, 0xef), QColor(0xf7, 0xf8, 0xf9), QColor(0xdd, 0xe1, 0xe6),
-                       QColor(0xff, 0xff, 0xff), QColor(0x1c, 0x22, 0x28), QColor(0x5a, 0x62, 0x6a),
-                       QColor(0x78, 0x80, 0x88), QColor(0x1d, 0x6f, 0xb8)};
+                      QColor(0x8c, 0x95, 0x9e), QColor(0x1e, 0x22, 0x27), QColor(0x4f, 0x9c, 0xd8)};
+const Colours light = {
+    QColor(0xe9, 0xec, 0xef), QColor(0xf7, 0xf8, 0xf9), QColor(0xdd, 0xe1, 0xe6),
+    QColor(0xff, 0xff, 0xff), QColor(0x1c, 0x22, 0x28), QColor(0x5a, 0x62, 0x6a),
+    QColor(0x78, 0x80, 0x88), QColor(0x74, 0x76, 0x79), QColor(0x1d, 0x6f, 0xb8)};
+const Colours highContrast = {Qt::black, Qt::black, QColor(0x20, 0x20, 0x20),
+                              Qt::black, Qt::white, QColor(0xc8, 0xc8, 0xc8),
+                              Qt::white, Qt::white, QColor(0xff, 0xe1, 0x4d)};
+
+bool isDark(const QColor& ground) {
+  return ground.lightness() < 128;
+}
+
+Colours coloursOf(const QPalette& desktop) {
+  const QColor text = desktop.color(QPalette::WindowText);
+  return {desktop.color(QPalette::Window),
+          desktop.color(QPalette::Window),
+          desktop.color(QPalette::Button),
+          desktop.color(QPalette::Base),
+          text,
+          desktop.color(QPalette::Disabled, QPalette::WindowText),
+          text,
+          text,
+          desktop.color(QPalette::Highlight)};
+}
 
 QPalette paletteOf(const Colours& colours) {
   QPalette palette;
@@ -40,6 +61,7 @@ QPalette paletteOf(const Colours& colours) {
   palette.setColor(QPalette::ToolTipText, colours.text);
   palette.setColor(QPalette::PlaceholderText, colours.dimmed);
   palette.setColor(QPalette::Mid, colours.outline);
+  palette.setColor(QPalette::Shadow, colours.shadow);
   palette.setColor(QPalette::Highlight, colours.highlight);
   const bool isPale = colours.highlight.lightness() > 140;
   palette.setColor(QPalette::HighlightedText, isPale ? Qt::black : Qt::white);
@@ -48,24 +70,51 @@ QPalette paletteOf(const Colours& colours) {
   return palette;
 }
 
-QString styleSheet(const QString& name) {
+QString styleSheet(const QStringList& names) {
   QString sheet;
-  for (const QString& part : {QStringLiteral("common"), name}) {
-    QFile file(QStringLiteral(":/%1.css").arg(part));
+  for (const QString& name : names) {
+    QFile file(QStringLiteral(":/%1.css").arg(name));
     if (file.open(QIODevice::ReadOnly)) sheet += QString::fromUtf8(file.readAll());
   }
   return sheet;
 }
 
+const Colours& coloursOf(Theme theme) {
+  if (theme == Theme::highContrast) return highContrast;
+  return theme == Theme::dark ? dark : light;
+}
+
 }  // namespace
 
-void applyTheme(QApplication& application) {
+Theme themeOf(const QPalette& desktop) {
+  const auto isExtreme = [&desktop](QPalette::ColorRole role) {
+    const int lightness = desktop.color(role).lightness();
+    return lightness <= 12 || lightness >= 243;
+  };
+  if (isExtreme(QPalette::Window) && isExtreme(QPalette::WindowText) &&
+      isExtreme(QPalette::Button) && isExtreme(QPalette::Base))
+    return Theme::highContrast;
+  return isDark(desktop.color(QPalette::Window)) ? Theme::dark : Theme::light;
+}
+
+void applyTheme(QApplication& application, Theme chosen, const QPalette& desktop) {
   initResources();
-  QApplication::setWindowIcon(QIcon(QStringLiteral(":/tracewell.png")));
-  const bool isDark = QApplication::palette().color(QPalette::Window).lightness() < 128;
+  const bool isDesktops = chosen == Theme::system;
+  const Theme theme = isDesktops ? themeOf(desktop) : chosen;
+  const bool hasContrast = theme == Theme::highContrast;
+  const Colours colours = isDesktops && hasContrast ? coloursOf(desktop) : coloursOf(theme);
+  QStringList sheets = {QStringLiteral("common"),
+                        isDark(colours.window) ? QStringLiteral("dark") : QStringLiteral("light")};
+  if (hasContrast) sheets << QStringLiteral("contrast");
   QApplication::setStyle(new PanelStyle);
-  QApplication::setPalette(paletteOf(isDark ? dark : light));
-  application.setStyleSheet(styleSheet(isDark ? QStringLiteral("dark") : QStringLiteral("light")));
+  QApplication::setPalette(paletteOf(colours));
+  application.setStyleSheet(styleSheet(sheets));
+}
+
+void applyTheme(QApplication& application, Theme chosen) {
+  static const QPalette desktop = QApplication::palette();
+  QApplication::setWindowIcon(QIcon(QStringLiteral(":/tracewell.png")));
+  applyTheme(application, chosen, desktop);
 }
 
 }  // namespace tracewell

@@ -2,12 +2,23 @@
 #pragma once
 
 #include <QApplication>
+#include <QPalette>
 
 namespace tracewell {
 
-/// Dark like an instrument's front, or light where the desktop is: palette and style sheet for the
-/// whole program. Forms mark their parts with dynamic properties ("channel", "readout", ...) that
-/// the style sheets refer to.
-void applyTheme(QApplication& application);
+/// How the panel looks; `system` follows the desktop.
+enum class Theme { system, light, dark, highContrast };
+
+/// The look of a desktop with these colours: high contrast where text and ground are black and
+/// white or close to it, else dark or light like its windows.
+Theme themeOf(const QPalette& desktop);
+
+/// Sets palette and style sheet of the whole program, at any time. Forms mark their parts with
+/// dynamic properties ("channel", "readout", ...) that the style sheets refer to. `system` takes
+/// the colours of a high-contrast desktop as they are.
+void applyTheme(QApplication& application, Theme chosen, const QPalette& desktop);
+
+/// The same on the desktop as it was when this was first called.
+void applyTheme(QApplication& application, Theme chosen = Theme::system);
 
 }  // namespace tracewell

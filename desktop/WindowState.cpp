@@ -2,6 +2,7 @@
 #include "WindowState.h"
 
 #include <QGuiApplication>
+#include <QMap>
 #include <QRegularExpression>
 #include <QScreen>
 #include <QTimer>
@@ -23,16 +24,22 @@ constexpr QMargins likelyFrame(4, 40, 4, 4);
 /// Until it has. Milliseconds.
 constexpr int framingTime = 300;
 
+const QMap<QString, Theme> themes = {{QStringLiteral("light"), Theme::light},
+                                     {QStringLiteral("dark"), Theme::dark},
+                                     {QStringLiteral("contrast"), Theme::highContrast}};
+
 struct Place {
   /// Without the frame.
   QRect inside;
   bool isMaximised = false;
+  Theme theme = Theme::system;
 };
 
-/// "x,y,width,height,maximised"
+/// "x,y,width,height,maximised", and ",theme" unless it is the desktop's.
 std::optional<Place> readPlace(const std::filesystem::path& file) {
   static const QRegularExpression form(
-      QStringLiteral("\\A(-?[0-9]{1,5}),(-?[0-9]{1,5}),([0-9]{1,5}),([0-9]{1,5}),([01])\r\n\\z"));
+      QStringLiteral("\\A(-?[0-9]{1,5}),(-?[0-9]{1,5}),([0-9]{1,5}),([0-9]{1,5}),([01])"
+                     "(?:,(light|dark|contrast))?\r\n\\z"));
   QString text;
   try {
     text = toQt(readWholeFile(file, fileLimit::windowState));
@@ -43,7 +50,8 @@ std::optional<Place> readPlace(const std::filesystem::path& file) {
   const auto number = [&found](int field) { return found.captured(field).toInt(); };
   const QSize size(number(3), number(4));
   if (!found.hasMatch() || size.boundedTo(leastSize) != leastSize) return std::nullopt;
-  return Place{QRect(QPoint(number(1), number(2)), size), number(5) == 1};
+  return Place{QRect(QPoint(number(1), number(2)), size), number(5) == 1,
+               themes.value(found.captured(6), Theme::system)};
 }
 
 /// Its mode, which the new file would take over, would keep that from being read, too.
@@ -92,7 +100,7 @@ void fitFramed(QWidget& window) {
 }  // namespace
 
 WindowState::WindowState(const std::filesystem::path& programFolder)
-    : file_(programFolder / "window.state") {}
+    : file_(programFolder / "window.state"), theme_(readPlace(file_).value_or(Place()).theme) {}
 
 void WindowState::restore(QWidget& window) const {
   const std::optional<Place> kept = readPlace(file_);
@@ -107,12 +115,14 @@ void WindowState::restore(QWidget& window) const {
 void WindowState::keep(const QWidget& window) const {
   const bool isMaximised = window.isMaximized();
   const QRect inside = isMaximised ? window.normalGeometry() : window.geometry();
-  const QString text = QStringLiteral("%1,%2,%3,%4,%5\r\n")
+  const QString theme = themes.key(theme_);
+  const QString text = QStringLiteral("%1,%2,%3,%4,%5%6\r\n")
                            .arg(inside.x())
                            .arg(inside.y())
                            .arg(inside.width())
                            .arg(inside.height())
-                           .arg(isMaximised ? 1 : 0);
+                           .arg(isMaximised ? 1 : 0)
+                           .arg(theme.isEmpty() ? theme : QLatin1Char(',') + theme);
   try {
     forgetUnreadable(file_);
     writeWholeFile(file_, fromQt(text));

@@ -7,14 +7,12 @@
 #include "ProgramFolder.h"
 #include "ShownText.h"
 #include "Termination.h"
-#include "Theme.h"
 
 int main(int argumentCount, char** arguments) {
   QApplication application(argumentCount, arguments);
   QApplication::setApplicationName(QStringLiteral("tracewell"));
   // The main window itself says when the program ends.
   QApplication::setQuitOnLastWindowClosed(false);
-  tracewell::applyTheme(application);
   tracewell::keepLabelsPlain(application);
   tracewell::DesktopDisk disk;
   tracewell::useDisk(&disk);

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// Pictures of every window, as the manual shows them:
 ///
-///     tracewell-screenshots FOLDER [LANGUAGE [light|dark [WIDTH HEIGHT]]]
+///     tracewell-screenshots FOLDER [LANGUAGE [light|dark|contrast [WIDTH HEIGHT]]]
 ///
 /// writes frmDSO.png and the others, and a printed page, into FOLDER. LANGUAGE is a number from 1
-/// to 5; "dark" shows them as on a dark desktop; WIDTH and HEIGHT are those of the main window. It
-/// is connected to the simulated instrument, and every dialog is opened from it as a user does. The
-/// program folder is the executable's own; a waveform is saved there and the error log is written
-/// on.
+/// to 5; the third word is the theme; WIDTH and HEIGHT are those of the main window. It is connected
+/// to the simulated instrument, and every dialog is opened from it as a user does. The program
+/// folder is the executable's own; a waveform is saved there and the error log is written on.
 
 #include <QApplication>
 #include <QDialog>
@@ -190,11 +189,12 @@ int main(int argumentCount, char** arguments) {
   using namespace tracewell;
   QApplication application(argumentCount, arguments);
   const QStringList words = QApplication::arguments();
-  if (words.value(3) == QStringLiteral("dark")) QApplication::setPalette(QColor(Qt::black));
-  applyTheme(application);
   keepLabelsPlain(application);
   if (words.size() < 2 || !QDir().mkpath(words[1])) return EXIT_FAILURE;
   DesktopProgram desktop(programFolder().path);
+  const QStringList themes = {"light", "dark", "contrast"};
+  if (const auto theme = themes.indexOf(words.value(3)); theme >= 0)
+    applyTheme(application, static_cast<Theme>(theme + 1));
   if (!desktop.start()) return EXIT_FAILURE;
   if (words.size() > 2) desktop.program.languageMenu.mnbLA_Click(words[2].toInt());
   const QSize size =

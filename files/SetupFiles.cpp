@@ -32,7 +32,7 @@ std::string fileText(const SetupTable& table, const std::vector<std::string>& co
     const std::string& number = counts[static_cast<std::size_t>(row)];
     text += table.text(row, 0) + "," + number;
     const int count = toInt16(number);
-    for (int i = 0; i < count; ++i) text += "," + table.text(row, SetupTable::firstValue + i);
+    for (int i = 0; i < count; ++i) text += "," + table.text(row, SetupTable::columnOf(i));
     text += lineEnd;
   }
   return text;

@@ -52,6 +52,7 @@ void WaveformButtons::loadCSV(const std::filesystem::path& path) {
   const std::vector<double> points = readFirstColumn(main_.txtMsg.text());
   Plot& load1 = main_.graphDSO.plot(ScopeGraph::firstReference);
   load1.plotXvsY(main_.XIndex, points);
+  load1.scale = "";
   load1.visible = true;
   main_.status.tell(StatusLine::happened, [path, isEmpty = points.empty()](const Words& words) {
     return isEmpty ? words.say("%1 has no data", {pathText(path)})
@@ -78,6 +79,11 @@ Image WaveformButtons::picture() const {
 void WaveformButtons::cmdRemove_Click() {
   for (int number = ScopeGraph::firstReference; number <= ScopeGraph::plotCount; ++number)
     main_.graphDSO.plot(number).visible = false;
+  main_.status.withdraw(StatusLine::happened);
+}
+
+void WaveformButtons::graphDSO_ReferenceRemoved(int number) {
+  main_.graphDSO.plot(number).visible = false;
   main_.status.withdraw(StatusLine::happened);
 }
 

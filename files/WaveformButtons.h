@@ -28,6 +28,7 @@ class WaveformButtons {
 
   /// Hides the reference traces, which are free again.
   void cmdRemove_Click();
+  void graphDSO_ReferenceRemoved(int number);
 
   /// Writes the reply box to "text.csv" in the current folder without asking.
   void cmdExportCSV_Click();

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "WaveformSetReader.h"
 
-#include <cmath>
 #include <string_view>
 
 #include "Error.h"

@@ -20,6 +20,7 @@ struct WaveformDescription {
   /// Positions at saving time in divisions, or notSaved.
   std::string channel1;
   std::string channel2;
+  /// What stands in the line of the time: the volts per division of channel 1.
   std::string time;
 };
 

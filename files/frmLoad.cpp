@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 
+#include "DataFolder.h"
 #include "Files.h"
 #include "WaveformSetReader.h"
 
@@ -11,8 +12,6 @@ namespace tracewell {
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr const char* parentFolder = "..";
 
 /// Letters where the system has them, the one root where it has not.
 std::vector<std::string> drives() {
@@ -34,30 +33,14 @@ bool isPictureType(const std::string& picturePath) {
          types.end();
 }
 
-struct FolderContent {
-  std::vector<std::string> folders{parentFolder};
-  std::vector<std::string> dataFiles;
-};
-
-/// Raises an error with the system's reason for a folder that cannot be read.
-FolderContent readFolder(const fs::path& folder) {
-  std::error_code failed;
-  FolderContent content;
-  for (fs::directory_iterator entry(folder, failed); !failed && entry != fs::directory_iterator();
-       entry.increment(failed)) {
-    std::error_code ignored;
-    const std::string name = pathText(entry->path().filename());
-    if (entry->is_directory(ignored))
-      content.folders.push_back(name);
-    else if (name.ends_with(".csv"))
-      content.dataFiles.push_back(name);
-  }
-  if (failed)
-    throw Error(pathAccess, "Tracewell",
-                "Cannot read: " + pathText(folder) + " (" + failed.message() + ")");
-  std::sort(content.folders.begin() + 1, content.folders.end());
-  std::ranges::sort(content.dataFiles);
-  return content;
+/// Beside a data file whose name has capitals, as another system writes it, the description's may
+/// have them, too.
+std::string descriptionPath(const std::string& dataPath) {
+  constexpr std::size_t extensionLength = 3;
+  const std::string base = dataPath.substr(0, dataPath.size() - extensionLength);
+  std::error_code ignored;
+  const bool hasCapitals = dataPath.ends_with("CSV") && !fs::exists(pathOf(base + "inf"), ignored);
+  return base + (hasCapitals ? "INF" : "inf");
 }
 
 }  // namespace
@@ -103,7 +86,7 @@ void frmLoad::dirCSV_Change() {
 }
 
 void frmLoad::showFolder(const fs::path& folder) {
-  FolderContent content = readFolder(folder);
+  DataFolder content = readDataFolder(folder, services().standBy);
   folder_ = folder;
   driveCSV.text = pathText(folder.root_path());
   lblPath.caption = pathText(folder);
@@ -116,12 +99,12 @@ void frmLoad::showFolder(const fs::path& folder) {
 void frmLoad::chooseShown() {
   const auto& files = fileCSV.items();
   const auto found = std::ranges::find_if(files, [this](const std::string& name) {
-    return pathText(folder_ / pathOf(name)) == basePath_ + "csv";
+    return pathText(folder_ / pathOf(name)) == dataPath_;
   });
   shownFile_ = found == files.end() ? ListBox::noEntry : static_cast<int>(found - files.begin());
   fileCSV.chosen = shownFile_;
   if (found != files.end()) return;
-  basePath_.clear();
+  dataPath_.clear();
   txtFile.text = "";
   pictureCSV.image = Image();
 }
@@ -130,19 +113,18 @@ void frmLoad::chooseShown() {
 void frmLoad::fileCSV_Click() {
   if (fileCSV.chosen() == ListBox::noEntry) return;
   try {
-    constexpr std::size_t extensionLength = 3;
-    std::string base = pathText(folder_ / pathOf(fileCSV.chosenText()));
-    base.resize(base.size() - extensionLength);
-    const WaveformDescription txtCSV = readDescription(pathOf(base + "inf"));
+    const std::string dataPath = pathText(folder_ / pathOf(fileCSV.chosenText()));
+    const WaveformDescription txtCSV = readDescription(pathOf(descriptionPath(dataPath)));
     if (!isPictureType(txtCSV.picturePath))
       throw Error(invalidProcedureCall, "Tracewell", "No picture: " + txtCSV.picturePath);
     pictureCSV.image = services().pictures.load(pathOf(txtCSV.picturePath));
     txtFile.text = "Data File : " + txtCSV.dataFile + "\r\nAuthor : " + txtCSV.author +
                    "\r\nDescription : " + txtCSV.description + "\r\nCh1 : " + txtCSV.channel1 +
                    "\r\nCh2 : " + txtCSV.channel2 + "\r\nTime : " + txtCSV.time + "\r\n";
-    basePath_ = base;
+    dataPath_ = dataPath;
     channel1Value_ = txtCSV.channel1;
     channel2Value_ = txtCSV.channel2;
+    scale1_ = txtCSV.time;
     shownFile_ = fileCSV.chosen();
   } catch (const Error&) {
     services().dialogs.showMessage("File is not correct!");
@@ -152,8 +134,7 @@ void frmLoad::fileCSV_Click() {
 
 void frmLoad::cmdOK_Click() {
   try {
-    drawSet(
-        readWaveforms(readWaveformFile(pathOf(basePath_ + "csv")), channel1Value_, channel2Value_));
+    drawSet(readWaveforms(readWaveformFile(pathOf(dataPath_)), channel1Value_, channel2Value_));
     hide();
   } catch (const Error&) {
     // Says nothing, and the window stays for another choice.
@@ -166,23 +147,24 @@ void frmLoad::drawSet(const LoadedWaveforms& set) {
   while (number <= ScopeGraph::plotCount && main_.graphDSO.plot(number).visible()) ++number;
   std::size_t drawn = 0;
   bool hasRoom = true;
-  const auto draw = [&](const std::vector<double>& points) {
+  const auto draw = [&](const std::vector<double>& points, const std::string& scale) {
     if (points.empty()) return;
     hasRoom = number <= ScopeGraph::plotCount;
     if (!hasRoom) return;
     Plot& plot = main_.graphDSO.plot(number);
     plot.plotXvsY(main_.XIndex, points);
+    plot.scale = scale;
     plot.visible = true;
     ++number;
     ++drawn;
   };
-  if (cb1.isChecked() && channel1Value_ != notSaved) draw(set.channel1);
-  if (cb2.isChecked() && channel2Value_ != notSaved) draw(set.channel2);
+  if (cb1.isChecked() && channel1Value_ != notSaved) draw(set.channel1, scale1_);
+  if (cb2.isChecked() && channel2Value_ != notSaved) draw(set.channel2, "");
   sayWhatIsShown(drawn, hasRoom);
 }
 
 void frmLoad::sayWhatIsShown(std::size_t drawn, bool hasRoom) {
-  main_.status.tell(StatusLine::happened, [=, this, path = basePath_ + "csv"](const Words& words) {
+  main_.status.tell(StatusLine::happened, [=, this, path = dataPath_](const Words& words) {
     if (!hasRoom)
       return words.say("No room for all of %1: press %2 first", {path, main_.cmdRemove.caption()});
     return drawn == 0 ? words.say("%1 has no record of what was chosen", {path})

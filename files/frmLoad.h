@@ -44,11 +44,13 @@ class frmLoad : public Window {
 
   frmDSO& main_;
   std::filesystem::path folder_;
-  /// Path of the chosen set up to and including the dot of the extension.
-  std::string basePath_;
+  /// Path of the chosen set's data file; empty for none.
+  std::string dataPath_;
   /// Positions at saving time.
   std::string channel1Value_ = notSaved;
   std::string channel2Value_ = notSaved;
+  /// Of channel 1 at saving time; that of channel 2 stands in no description.
+  std::string scale1_;
   /// Entry of fileCSV whose description is shown.
   int shownFile_ = ListBox::noEntry;
 };

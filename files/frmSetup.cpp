@@ -21,7 +21,7 @@ std::string filledReport(std::string text, const SetupTable& table) {
   for (int row = 0; row < table.fileRows(); ++row) {
     const int count = table.valueCount(row);
     for (int i = 0; i < count; ++i) {
-      const std::string& value = table.text(row, SetupTable::firstValue + i);
+      const std::string& value = table.text(row, SetupTable::columnOf(i));
       const std::size_t bracket = find(text, "[", position);
       text.insert(bracket, value);
       position = find(text, "]", bracket + value.size());

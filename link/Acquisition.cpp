@@ -35,64 +35,61 @@ void Acquisition::tmDSO_Timer() {
 void Acquisition::AcqDSO(std::int16_t channel) {
   SerialPort& port = main_.services().port;
   try {
-    port.textMode = false;
     port.prepare();
-    port.write(":ACQ" + std::to_string(channel) + ":POIN\r\n", SerialPort::Expects::record);
-    port.tag = std::to_string(channel);
-    port.stamp = main_.known.now();
+    const KnownInstrument::Moment stamp = main_.known.now();
     main_.known.requested();
-    port.beginRead(WaveformRecord::byteCount);
+    port.request({.request = ":ACQ" + std::to_string(channel) + ":POIN\r\n",
+                  .channel = channel,
+                  .stamp = stamp,
+                  .count = WaveformRecord::byteCount});
     PortBusy = true;
   } catch (const Error& error) {
     errorLog_.ErrLog(error, "AcqDSO : ");
   }
 }
 
-void Acquisition::DataReady(const std::string& data) {
-  SerialPort& port = main_.services().port;
-  std::int16_t number = 0;
+void Acquisition::DataReady(const LineRecord& record) {
   std::int16_t shift = 0;
-  ignoringErrors([&] { number = toInt16(port.tag); });
-  Channel& channel = main_.channel(number == 1 ? 1 : 2);
-  keepRecord(channel, data);
+  Channel& channel = main_.channel(record.channel == 1 ? 1 : 2);
+  keepRecord(channel, record);
   ignoringErrors([&] { shift = channel.recordShift(); });
-  const Samples samples = decodeSamples(data, shift);
+  const Samples samples = decodeSamples(record.bytes, shift);
   ignoringErrors([&] {
-    main_.graphDSO.plot(number).plotXvsY(main_.XIndex, samples);
+    main_.graphDSO.plot(record.channel).plotXvsY(main_.XIndex, samples);
     channel.drawnShift = shift;
   });
-  main_.txtMsg.text = recordText(number, samples);
+  main_.txtMsg.text = recordText(record.channel, samples);
   main_.marksDue.raise();
-  ignoringErrors([&] { port.reset(); });
   ignoringErrors([&] { WaveCount = addInt16(WaveCount, 1); });
 }
 
 /// Of a sweep that was fetched before, only that it is there still is new.
-void Acquisition::keepRecord(Channel& channel, const std::string& data) {
+void Acquisition::keepRecord(Channel& channel, const LineRecord& fetched) {
   const SerialPort& port = main_.services().port;
   const std::int64_t now = main_.services().clock.milliseconds();
   const InstrumentLine line{port.openPort(), port.openings()};
   MadeUnder made;
-  if (line == main_.known.presentLine()) made = main_.known.madeUnder(channel.number, port.stamp);
+  if (line == main_.known.presentLine())
+    made = main_.known.madeUnder(channel.number, fetched.stamp);
   ChannelRecord& record = channel.record;
   record.fetchedAt = now;
-  if (record.isSameSweep(data, line)) {
+  if (record.isSameSweep(fetched.bytes, line)) {
     record.madeUnder.stop = made.stop;
     return;
   }
   // On another line the same bytes may be of the same sweep, too.
-  if (record.bytes == data)
+  if (record.bytes == fetched.bytes)
     made = whicheverHolds(made, record.madeUnder);
   else
-    main_.known.swept(channel.number, port.stamp);
-  record = {data, line, made, now, now};
+    main_.known.swept(channel.number, fetched.stamp);
+  record = {fetched.bytes, line, made, now, now};
 }
 
 void Acquisition::StopAcq() {
   try {
     main_.tmDSO.enabled = false;
     if (PortBusy) {
-      main_.services().port.reset();
+      main_.services().port.abandon();
       PortBusy = false;
     }
     showOnStart(main_, 2);
@@ -108,7 +105,7 @@ void Acquisition::ResumeAcq() {
   showOnStart(main_, 3);
 }
 
-void Acquisition::RunAcq() {
+void Acquisition::runAcquisition() {
   main_.tmDSO.enabled = true;
   showRunning(main_);
 }

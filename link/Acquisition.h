@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
 
 #include "CommandExchange.h"
 
@@ -20,16 +19,16 @@ class Acquisition {
   /// Requests one record (":ACQ1:POIN"); it arrives through DataReady. Logs its failure.
   void AcqDSO(std::int16_t channel);
 
-  /// Takes a record of the channel in the port's tag: keeps it, plots it and shows it as text.
-  /// Reports no error; what fails is left out.
-  void DataReady(const std::string& data);
+  /// Takes a record: keeps it, plots it and shows it as text. Reports no error; what fails is left
+  /// out.
+  void DataReady(const LineRecord& record);
 
   /// Pauses and resumes the periodic fetch around dialogs and long exchanges. They are not mirror
   /// images: resuming needs no pausing before, and leaves message 3 on the start button.
   void StopAcq();
   void ResumeAcq();
   /// How the settings dialogs end: starts the periodic fetch and leaves message 2 on the button.
-  void RunAcq();
+  void runAcquisition();
 
   /// Runs or stops the instrument's own acquisition; the periodic fetch goes on.
   void cmdRunStop_Click();
@@ -38,15 +37,15 @@ class Acquisition {
   std::int16_t WaveCount = 0;
 
  private:
-  void keepRecord(Channel& channel, const std::string& data);
+  void keepRecord(Channel& channel, const LineRecord& record);
 
   frmDSO& main_;
   CommandExchange& exchange_;
   ErrorLog& errorLog_;
   /// 1 or 2: whose record is requested next.
   std::int16_t AcqChan = 1;
-  /// A record has been requested, or the acquisition resumed, and the port not been reset by
-  /// StopAcq since.
+  /// A record has been requested, or the acquisition resumed, and StopAcq has not given it up
+  /// since.
   bool PortBusy = false;
 };
 

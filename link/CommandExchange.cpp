@@ -106,23 +106,12 @@ void CommandExchange::noteAnswer(const std::string& command, bool isAnswered) {
 }
 
 std::string CommandExchange::exchange(const std::string& command) {
-  SerialPort& port = main_.services().port;
-  port.textMode = true;
-  hasBegun_ = false;
-  port.prepare();
-  hasBegun_ = true;
-  // Until it is answered it may have gone out or not.
-  if (isQuery(command)) main_.known.notSent(command);
-  port.write(command + "\r\n",
-             isQuery(command) ? SerialPort::Expects::reply : SerialPort::Expects::nothing);
+  prepare();
   std::string reply;
-  if (isQuery(command)) {
-    const std::string line = port.read();
-    // Before anything is painted: the line's own moment.
-    answeredAt_ = main_.services().clock.milliseconds();
-    reply = replyValue(line);
-  }
-  port.reset();
+  if (isQuery(command))
+    reply = query(command);
+  else
+    main_.services().port.command(command + "\r\n");
   InRemote = true;
   main_.cmdLock.value = true;
   main_.LinkOK = true;
@@ -130,16 +119,26 @@ std::string CommandExchange::exchange(const std::string& command) {
   return reply;
 }
 
+void CommandExchange::prepare() {
+  hasBegun_ = false;
+  main_.services().port.prepare();
+  hasBegun_ = true;
+}
+
+std::string CommandExchange::query(const std::string& command) {
+  // Until it is answered it may have gone out or not.
+  main_.known.notSent(command);
+  const std::string line = main_.services().port.query(command + "\r\n", readTimeOut);
+  // Before anything is painted: the line's own moment.
+  answeredAt_ = main_.services().clock.milliseconds();
+  return replyValue(line);
+}
+
 void CommandExchange::LoadSetup() {
   if (!InRemote) return;
   try {
-    SerialPort& port = main_.services().port;
-    port.textMode = true;
-    hasBegun_ = false;
-    port.prepare();
-    hasBegun_ = true;
-    port.write(":SYST:UNL\r\n", SerialPort::Expects::nothing);
-    port.reset();
+    prepare();
+    main_.services().port.command(":SYST:UNL\r\n");
     main_.cmdLock.value = false;
     InRemote = false;
     main_.known.sent(":SYST:UNL");

@@ -29,6 +29,9 @@ class CommandExchange {
   /// The same for a line that the user has typed: what it sets is not the panel's choice.
   std::string sendTyped(const std::string& line);
 
+  /// Milliseconds that a reply is awaited; SerialPort says what 0 means. Kept through ShortTimeOut.
+  int readTimeOut = SerialPort::defaultReadTimeOut;
+
   /// What an Inquiry begins with.
   Inquiries& inquiries() { return inquiries_; }
 
@@ -52,7 +55,9 @@ class CommandExchange {
   std::string ask(const std::string& query);
   std::string send(const std::string& command, int repeatsLeft);
   void noteAnswer(const std::string& command, bool isAnswered);
+  void prepare();
   std::string exchange(const std::string& command);
+  std::string query(const std::string& command);
 
   frmDSO& main_;
   ErrorLog& errorLog_;

@@ -30,7 +30,7 @@ void CommandLine::send() {
   if (command.empty() || !isOneCommand(command)) return;
   try {
     main_.txtMsg.text = "";
-    const ShortTimeOut shortTimeOut(main_);
+    const ShortTimeOut shortTimeOut(main_.state, exchange_);
     main_.txtMsg.text = exchange_.sendTyped(command);
   } catch (const Error& error) {
     errorLog_.ErrLog(error, error.source());

@@ -56,9 +56,9 @@ void InstrumentState::readAll() {
 void InstrumentState::applyBaudRateAndPort() {
   LineSettings& settings = main_.services().port.settings;
   const SetupTable& table = main_.gridMeasure;
-  const std::int16_t baudRate = table.number(SetupTable::link, linkColumn(baudRateValue));
+  const std::int16_t baudRate = table.number(SetupTable::link, SetupTable::columnOf(baudRateValue));
   settings.baudRate = baudRate;
-  settings.portNumber = table.number(SetupTable::link, linkColumn(portValue));
+  settings.portNumber = table.number(SetupTable::link, SetupTable::columnOf(portValue));
   main_.state.BaudRate = baudRate;
   showPort(main_, settings.portNumber);
   showDifferingLink(main_);

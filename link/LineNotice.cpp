@@ -13,13 +13,6 @@ bool isLasting(const LineReport::Tally& tally, const LineReport& report, std::in
   return tally.inLastMinute > 1 || (tally.inLastMinute == 1 && tally.lastAt > report.lastRecordAt);
 }
 
-/// Milliseconds without a record while records are asked for; 0 as long as that is nothing special.
-std::int64_t silence(const frmDSO& main, const LineReport& report) {
-  if (!main.tmDSO.enabled() || !report.noRecordSince) return 0;
-  const std::int64_t passed = main.services().clock.milliseconds() - *report.noRecordSince;
-  return passed > 3 * recordPeriod(main) ? passed : 0;
-}
-
 std::string lineTrouble(const frmDSO& main, const Words& words) {
   const LineReport report = main.services().port.report();
   std::string text;
@@ -38,9 +31,8 @@ std::string lineTrouble(const frmDSO& main, const Words& words) {
     say(words.say("Records that came too late: %1 in a minute", {times(report.lateRecords)}));
   if (report.endlessReplies.inLastMinute > 0)
     say(words.say("Answers without a line end: %1 in a minute", {times(report.endlessReplies)}));
-  if (const std::int64_t time = silence(main, report); time > 0)
-    say(words.say("No record for %1 s", {std::to_string(time / 1000)}));
-  else if (report.missingRecords.inLastMinute > 1)
+  // The graph itself says that none comes at all.
+  if (millisecondsWithoutRecord(main) == 0 && report.missingRecords.inLastMinute > 1)
     say(words.say("Records that did not come: %1 in a minute", {times(report.missingRecords)}));
   return text;
 }

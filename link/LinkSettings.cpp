@@ -47,7 +47,9 @@ std::int16_t parityCode(const std::string& text) {
 }
 
 LineSettings linkSettings(const SetupTable& table) {
-  const auto text = [&](int value) { return table.text(SetupTable::link, linkColumn(value)); };
+  const auto text = [&](int value) {
+    return table.text(SetupTable::link, SetupTable::columnOf(value));
+  };
   return {.portNumber = toInt16(text(portValue)),
           .baudRate = toInt16(text(baudRateValue)),
           .dataBits = dataBitsCode(text(dataBitsValue)),

@@ -9,11 +9,6 @@ namespace tracewell {
 enum LinkValue : int { baudRateValue, dataBitsValue, stopBitsValue, parityValue, portValue };
 constexpr int linkValues = 5;
 
-/// Column of such a value.
-constexpr int linkColumn(int value) {
-  return SetupTable::firstValue + value;
-}
-
 /// The port's codes of what the table and the RS-232 dialog hold as text.
 std::int16_t dataBitsCode(const std::string& text);
 std::int16_t stopBitsCode(const std::string& text);

@@ -5,8 +5,8 @@
 
 namespace tracewell {
 
-/// Pauses the acquisition as long as it lives, and resumes it also when something has gone wrong.
-/// What the user has had done before is no longer said.
+/// Pauses the acquisition as long as it lives, and resumes it also when something has gone wrong,
+/// unlike a SettingsDialog. What the user has had done before is no longer said.
 class Paused {
  public:
   Paused(frmDSO& main, Acquisition& acquisition) : main_(main), acquisition_(acquisition) {

@@ -10,7 +10,7 @@ void SettingsBurst::writeAndVerify(const Property<std::string>& caption,
                                    std::span<const std::string_view> stems, int row, int first) {
   main_.refresh();
   const Sending sending(*this, row);
-  const ShortTimeOut shortTimeOut(main_);
+  const ShortTimeOut shortTimeOut(main_.state, exchange_);
   main_.txtMsg.text = "";
   // A setup that is loaded meanwhile is of the next time.
   const SetupTable chosen = main_.gridMeasure;
@@ -21,7 +21,7 @@ void SettingsBurst::writeAndVerify(const Property<std::string>& caption,
     bool isDone = false;
     for (int attempt = 0; attempt < attempts && !isDone; ++attempt) {
       const bool isRight = isAccepted(std::string(stems[static_cast<std::size_t>(i)]),
-                                      chosen.text(row, SetupTable::firstValue + i));
+                                      chosen.text(row, SetupTable::columnOf(i)));
       inquiry.note(isRight);
       isDone = isRight || inquiry.isGivenUp();
     }

@@ -29,18 +29,17 @@ std::int16_t ShortReplyTimeout(const ModuleState& state) {
   return toInt16(ReplyTimeout(state) / 4.0);
 }
 
-ShortTimeOut::ShortTimeOut(frmDSO& main, std::int16_t factor)
-    : main_(main), normal_(ReplyTimeout(main.state)) {
-  main_.services().port.readTimeOut = mulInt16(ShortReplyTimeout(main_.state), factor);
+ShortTimeOut::ShortTimeOut(const ModuleState& state, CommandExchange& exchange, std::int16_t factor)
+    : state_(state), exchange_(exchange), normal_(ReplyTimeout(state)) {
+  exchange_.readTimeOut = mulInt16(ShortReplyTimeout(state), factor);
 }
 
 ShortTimeOut::~ShortTimeOut() {
-  int& readTimeOut = main_.services().port.readTimeOut;
   try {
     // Anew: a channel may have been switched on or off meanwhile.
-    readTimeOut = ReplyTimeout(main_.state);
+    exchange_.readTimeOut = ReplyTimeout(state_);
   } catch (const Error&) {
-    readTimeOut = normal_;
+    exchange_.readTimeOut = normal_;
   }
 }
 

@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-#include "frmDSO.h"
+#include "CommandExchange.h"
 
 namespace tracewell {
 
@@ -18,12 +18,13 @@ std::int16_t ShortReplyTimeout(const ModuleState& state);
 /// Making one raises what ReplyTimeout does.
 class ShortTimeOut {
  public:
-  explicit ShortTimeOut(frmDSO& main, std::int16_t factor = 2);
+  ShortTimeOut(const ModuleState& state, CommandExchange& exchange, std::int16_t factor = 2);
   ~ShortTimeOut();
   ShortTimeOut(const ShortTimeOut&) = delete;
 
  private:
-  frmDSO& main_;
+  const ModuleState& state_;
+  CommandExchange& exchange_;
   int normal_;
 };
 

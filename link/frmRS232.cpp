@@ -21,7 +21,7 @@ frmRS232::frmRS232(frmDSO& main) : Window("frmRS232", "RS-232", main.services())
 void frmRS232::mnbRS232_Click() {
   listPorts();
   for (int i = 0; i < linkValues; ++i)
-    cbRS232(i).text = main_.gridMeasure.text(SetupTable::link, linkColumn(i));
+    cbRS232(i).text = main_.gridMeasure.text(SetupTable::link, SetupTable::columnOf(i));
   showDevice(cbRS232(portValue).text());
   showModal();
 }
@@ -66,7 +66,7 @@ void frmRS232::cmdOK_Click() {
   settings.stopBits = stopBitsCode(cbRS232(stopBitsValue).text());
   settings.parity = parityCode(cbRS232(parityValue).text());
   for (int i = 0; i < linkValues; ++i)
-    main_.gridMeasure.setText(SetupTable::link, linkColumn(i), cbRS232(i).text());
+    main_.gridMeasure.setText(SetupTable::link, SetupTable::columnOf(i), cbRS232(i).text());
   showPort(main_, settings.portNumber);
   for (const auto topic :
        {StatusLine::stoppedByError, StatusLine::missedBySeries, StatusLine::missedByOne})

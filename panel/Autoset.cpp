@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Autoset.h"
 
+#include "Doing.h"
 #include "Waiting.h"
 
 namespace tracewell {
@@ -18,6 +19,7 @@ void Autoset::cmdAutoset_Click() {
   try {
     message_.lblMsg.caption = main_.state.Msg[1];
     message_.show();
+    const Doing autoset(main_, [](const Words& words) { return words.say("Autoset"); });
     acquisition_.StopAcq();
     exchange_.SendDSOCmd(":AUT");
     message_.showProgress(duration);

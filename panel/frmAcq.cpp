@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "frmAcq.h"
 
-#include <array>
-
 #include "SettingsBurst.h"
 #include "SettingsQueries.h"
 #include "Waiting.h"
@@ -11,14 +9,13 @@ namespace tracewell {
 
 frmAcq::frmAcq(frmDSO& main, CommandExchange& exchange, ErrorLog& errorLog,
                Acquisition& acquisition, Captions& captions)
-    : Window("frmAcq", "Acquisition", main.services()),
+    : SettingsDialog("frmAcq", "Acquisition", main, acquisition),
       main_(main),
       exchange_(exchange),
       errorLog_(errorLog),
-      acquisition_(acquisition),
       captions_(captions) {
   // Set at loading only: after an OK a later Cancel sends the row again.
-  formLoad = [this] { tag = "0"; };
+  formLoad = [this] { outcome = Outcome::cancelled; };
   cbMode.click = [this] { cbMode_Click(); };
   cmdOK.click = [this] { cmdOK_Click(); };
   cmdCancel.click = [this] { cmdCancel_Click(); };
@@ -26,28 +23,24 @@ frmAcq::frmAcq(frmDSO& main, CommandExchange& exchange, ErrorLog& errorLog,
 
 void frmAcq::cmdAcq_Click() {
   try {
-    acquisition_.StopAcq();
-    showSettings();
-    showModal();
-    if (tag == "1") sendSettings();
-    acquisition_.RunAcq();
+    edit(
+        Fetching::stops, [this] { showSettings(); }, [this] { sendSettings(); });
   } catch (const Error& error) {
     errorLog_.ErrLog(error, "cmdAcq_Click : ");
   }
 }
 
 void frmAcq::showSettings() {
-  load();
-  cbMode.listIndex = main_.gridMeasure.number(SetupTable::acquire, 2);
-  cbAverage.listIndex = main_.gridMeasure.number(SetupTable::acquire, 3);
-  cbLength.listIndex = main_.gridMeasure.number(SetupTable::acquire, 4);
+  int column = SetupTable::firstValue;
+  for (ComboBox* box : boxes())
+    box->listIndex = main_.gridMeasure.number(SetupTable::acquire, column++);
 }
 
 void frmAcq::sendSettings() {
-  const ShortTimeOut shortTimeOut(main_);
+  const ShortTimeOut shortTimeOut(main_.state, exchange_);
   main_.txtMsg.text = "";
   for (std::size_t i = 0; i < AcqQuery.size(); ++i) {
-    const int column = SetupTable::firstValue + static_cast<int>(i);
+    const int column = SetupTable::columnOf(static_cast<int>(i));
     const std::string command =
         std::string(AcqQuery[i]) + " " + main_.gridMeasure.text(SetupTable::acquire, column);
     exchange_.SendDSOCmd(command);
@@ -63,9 +56,9 @@ void frmAcq::cbMode_Click() {
 
 void frmAcq::cmdOK_Click() {
   int column = SetupTable::firstValue;
-  for (const ComboBox* box : {&cbMode, &cbAverage, &cbLength})
+  for (const ComboBox* box : boxes())
     main_.gridMeasure.setText(SetupTable::acquire, column++, std::to_string(box->listIndex()));
-  tag = "1";
+  outcome = Outcome::accepted;
   hide();
   main_.refresh();
 }

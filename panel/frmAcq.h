@@ -1,16 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "Acquisition.h"
+#include <array>
+
 #include "Captions.h"
 #include "Controls.h"
+#include "SettingsDialog.h"
 
 namespace tracewell {
 
 /// The acquisition dialog: edits row 6 of the setup table, which is sent after OK without waiting
 /// and without reading back. The averaging box shows while the mode box reads "Average", a text
 /// that is typed, not picked.
-class frmAcq : public Window {
+class frmAcq : public SettingsDialog {
  public:
   frmAcq(frmDSO& main, CommandExchange& exchange, ErrorLog& errorLog, Acquisition& acquisition,
          Captions& captions);
@@ -27,6 +29,8 @@ class frmAcq : public Window {
   void cmdAcq_Click();
 
  private:
+  /// In the order of their values in the table.
+  std::array<ComboBox*, 3> boxes() { return {&cbMode, &cbAverage, &cbLength}; }
   void showSettings();
   void sendSettings();
   void cbMode_Click();
@@ -36,7 +40,6 @@ class frmAcq : public Window {
   frmDSO& main_;
   CommandExchange& exchange_;
   ErrorLog& errorLog_;
-  Acquisition& acquisition_;
   Captions& captions_;
 };
 

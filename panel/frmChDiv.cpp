@@ -13,26 +13,22 @@ frmChDiv::frmChDiv(frmDSO& main) : Window("frmChDiv", "Volt/Div", main.services(
   cmdClose.click = [this] { cmdClose_Click(); };
 }
 
-void frmChDiv::pickFor(const char* channelNumber) {
-  tag = channelNumber;
+void frmChDiv::pickFor(Channel& channel) {
+  channel_ = &channel;
   showModal();
-}
-
-Knob& frmChDiv::knob() {
-  return tag == "1" ? main_.knobChan1 : main_.knobChan2;
 }
 
 void frmChDiv::Form_Activate() {
   for (ValueLabel& label : lblChannel) {
-    const std::string number = std::to_string(label.index() + 1);
-    label.caption = services().words.say("Channel %1", {number});
-    label.visible = number == tag;
+    const int number = label.index() + 1;
+    label.caption = services().words.say("Channel %1", {std::to_string(number)});
+    label.visible = number == channel_->number;
   }
-  opVDiv(toInt32(knob().value())).value = true;
+  opVDiv(toInt32(channel_->knob.value())).value = true;
 }
 
 void frmChDiv::cmdSelect_Click() {
-  knob().value = selectedStep_;
+  channel_->knob.value = selectedStep_;
   main_.refresh();
 }
 

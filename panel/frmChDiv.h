@@ -6,8 +6,7 @@
 
 namespace tracewell {
 
-/// Picks volts per division for the channel in its tag, "1" or "2". Stays open, so that several
-/// steps can be tried in turn.
+/// Picks volts per division for a channel. Stays open, so that several steps can be tried in turn.
 class frmChDiv : public Window {
  public:
   explicit frmChDiv(frmDSO& main);
@@ -22,17 +21,17 @@ class frmChDiv : public Window {
   Button cmdSelect{*this, "cmdSelect", "Select"};
   Button cmdClose{*this, "cmdClose", "Close"};
 
-  void cmdChannel1_Click() { pickFor("1"); }
-  void cmdChannel2_Click() { pickFor("2"); }
+  void cmdChannel1_Click() { pickFor(main_.channel(1)); }
+  void cmdChannel2_Click() { pickFor(main_.channel(2)); }
 
  private:
-  void pickFor(const char* channelNumber);
-  Knob& knob();
+  void pickFor(Channel& channel);
   void Form_Activate();
   void cmdSelect_Click();
   void cmdClose_Click();
 
   frmDSO& main_;
+  Channel* channel_ = &main_.channel(1);
   std::int16_t selectedStep_ = 0;
 };
 

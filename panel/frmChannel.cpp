@@ -9,24 +9,25 @@
 namespace tracewell {
 namespace {
 
-constexpr int boxCount = 3;
+/// Places in the row and in the queries. The first three are boxes; the first one is not sent,
+/// since the box in the main window sends it.
+enum ChannelValue : int { displayOn, invertOn, bandwidthLimitOn, coupling, probe };
 
-std::int16_t rowOf(const Channel& channel) {
-  return channel.number == 1 ? SetupTable::channel1 : SetupTable::channel2;
+int rowOf(const Channel& channel) {
+  return SetupTable::channelRow(channel.number);
 }
 
 }  // namespace
 
 frmChannel::frmChannel(frmDSO& main, CommandExchange& exchange, ErrorLog& errorLog,
                        Acquisition& acquisition, SettingsBurst& burst, InstrumentState& instrument)
-    : Window("frmChannel", "Channel", main.services()),
+    : SettingsDialog("frmChannel", "Channel", main, acquisition),
       main_(main),
       exchange_(exchange),
       errorLog_(errorLog),
-      acquisition_(acquisition),
       burst_(burst),
       instrument_(instrument) {
-  formActivate = [this] { tag = "0"; };
+  formActivate = [this] { outcome = Outcome::cancelled; };
   for (CheckBox& box : cbCh) unanswered_.watch(box);
   for (auto& [group, options] : {std::pair(&fmCoupling, &obCoupling), {&fmProbe, &obProbe}}) {
     unanswered_.watch(*group);
@@ -40,16 +41,18 @@ frmChannel::frmChannel(frmDSO& main, CommandExchange& exchange, ErrorLog& errorL
 void frmChannel::editSettings(Channel& channel) {
   try {
     if (burst_.isSending(rowOf(channel), channel.menuEntry.caption)) return;
-    readSettings(channel);
-    showModal();
-    if (tag == "1")
-      burst_.writeAndVerify(channel.menuEntry.caption, channelQueries(channel.number),
-                            rowOf(channel), 1);
-    acquisition_.RunAcq();
+    // While its settings are sent the dialog may be opened for the other channel.
+    edit(
+        Fetching::goesOn, [&] { readSettings(channel); }, [&] { sendSettings(channel); });
     instrument_.readScale(channel.stem() + "SCAL?", channel.kind, channel.scale, channel.knob);
   } catch (const Error& error) {
     errorLog_.ErrLog(error, "cmdCh" + std::to_string(channel.number) + "_Click : ");
   }
+}
+
+void frmChannel::sendSettings(const Channel& channel) {
+  burst_.writeAndVerify(channel.menuEntry.caption, channelQueries(channel.number), rowOf(channel),
+                        invertOn);
 }
 
 void frmChannel::readSettings(const Channel& channel) {
@@ -65,9 +68,9 @@ void frmChannel::readSettings(const Channel& channel) {
 }
 
 void frmChannel::show(int place, const std::string& reply) {
-  if (place == boxCount) {
+  if (place == coupling) {
     showOption(fmCoupling, obCoupling, reply);
-  } else if (place > boxCount) {
+  } else if (place == probe) {
     showOption(fmProbe, obProbe, reply);
   } else {
     if (isNumeric(reply)) cbCh(place).value = toInt16(reply);
@@ -84,10 +87,10 @@ void frmChannel::showOption(Frame& group, ControlArray<OptionButton>& options,
 
 void frmChannel::cmdOK_Click() {
   for (int i = 0; i < cbCh.size(); ++i)
-    main_.gridMeasure.setText(setupRow_, 2 + i, cbCh(i).isChecked() ? "1" : "0");
-  keepSelected(obCoupling, 5);
-  keepSelected(obProbe, 6);
-  tag = "1";
+    main_.gridMeasure.setText(setupRow_, SetupTable::columnOf(i), cbCh(i).isChecked() ? "1" : "0");
+  keepSelected(obCoupling, SetupTable::columnOf(coupling));
+  keepSelected(obProbe, SetupTable::columnOf(probe));
+  outcome = Outcome::accepted;
   hide();
 }
 
@@ -98,7 +101,7 @@ void frmChannel::keepSelected(ControlArray<OptionButton>& options, int column) {
 }
 
 void frmChannel::cmdCancel_Click() {
-  tag = "0";
+  outcome = Outcome::cancelled;
   hide();
 }
 

@@ -1,17 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "Acquisition.h"
 #include "Controls.h"
 #include "InstrumentState.h"
 #include "SettingsBurst.h"
-#include "Unanswered.h"
+#include "SettingsDialog.h"
 
 namespace tracewell {
 
 /// The channel dialog: reads one channel's settings, edits its row of the setup table, and sends
-/// the row. Its tag reads "1" after OK.
-class frmChannel : public Window {
+/// the row.
+class frmChannel : public SettingsDialog {
  public:
   frmChannel(frmDSO& main, CommandExchange& exchange, ErrorLog& errorLog, Acquisition& acquisition,
              SettingsBurst& burst, InstrumentState& instrument);
@@ -27,14 +26,11 @@ class frmChannel : public Window {
   /// Leaves the acquisition running meanwhile, and running afterwards in every case.
   void cmdCh1_Click() { editSettings(main_.channel(1)); }
   void cmdCh2_Click() { editSettings(main_.channel(2)); }
-  /// What it shows while it is open may be the answers to other questions.
-  void doubtAnswers() {
-    if (isVisible()) unanswered_.doubtAll();
-  }
 
  private:
   void editSettings(Channel& channel);
   void readSettings(const Channel& channel);
+  void sendSettings(const Channel& channel);
   /// Shows the reply to the query of a place in the row. What is no number leaves the control as
   /// the dialog last had it, and marks it as unread. Raises an error for a number without a
   /// control.
@@ -47,12 +43,10 @@ class frmChannel : public Window {
   frmDSO& main_;
   CommandExchange& exchange_;
   ErrorLog& errorLog_;
-  Acquisition& acquisition_;
   SettingsBurst& burst_;
   InstrumentState& instrument_;
-  Unanswered unanswered_;
   /// The row that OK writes.
-  std::int16_t setupRow_ = SetupTable::channel1;
+  int setupRow_ = SetupTable::channel1;
 };
 
 }  // namespace tracewell

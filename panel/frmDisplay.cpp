@@ -10,28 +10,26 @@
 namespace tracewell {
 namespace {
 
-/// Places in BrightQuery; the third one, the waveform style, is never sent.
-enum Brightness : std::size_t { ofData, ofGraticule, brightnessCount };
+/// Places in the row, and in BrightQuery; the third one, the waveform style, is never sent.
+enum DisplayValue : std::size_t { dataBrightness, graticuleBrightness, waveformStyle };
+constexpr int brightnessCount = 2;
 
-constexpr int column(std::size_t setting) {
-  return SetupTable::firstValue + static_cast<int>(setting);
+constexpr int column(std::size_t value) {
+  return SetupTable::columnOf(static_cast<int>(value));
 }
-
-constexpr int styleColumn = 4;
 
 }  // namespace
 
 frmDisplay::frmDisplay(frmDSO& main, CommandExchange& exchange, ErrorLog& errorLog,
                        Acquisition& acquisition, SettingsBurst& burst)
-    : Window("frmDisplay", "Display Setup", main.services()),
+    : SettingsDialog("frmDisplay", "Display Setup", main, acquisition),
       main_(main),
       exchange_(exchange),
       errorLog_(errorLog),
-      acquisition_(acquisition),
       burst_(burst) {
   unanswered_.watch(slideDataBrightness);
   unanswered_.watch(slideGraticuleBrightness);
-  formActivate = [this] { tag = "0"; };
+  formActivate = [this] { outcome = Outcome::cancelled; };
   slideDataBrightness.pointerValueChanged = [this] {
     lblDataBright.caption = numberText(slideDataBrightness.value());
   };
@@ -45,11 +43,8 @@ frmDisplay::frmDisplay(frmDSO& main, CommandExchange& exchange, ErrorLog& errorL
 void frmDisplay::cmdDisplay_Click() {
   try {
     if (burst_.isSending(SetupTable::display, caption)) return;
-    acquisition_.StopAcq();
-    readSettings();
-    showModal();
-    if (tag == "1") sendBrightness();
-    acquisition_.RunAcq();
+    edit(
+        Fetching::stops, [this] { readSettings(); }, [this] { sendBrightness(); });
   } catch (const Error& error) {
     errorLog_.ErrLog(error, "cmdDisplay_Click : ");
   }
@@ -60,10 +55,10 @@ void frmDisplay::readSettings() {
   const WaitingNotice notice(main_);
   Inquiry inquiry(exchange_.inquiries(), caption, Inquiry::Of::questions, brightnessCount);
   inquiry.next();
-  readBrightness(slideDataBrightness, ofData);
+  readBrightness(slideDataBrightness, dataBrightness);
   inquiry.next();
-  readBrightness(slideGraticuleBrightness, ofGraticule);
-  const bool isDot = main_.gridMeasure.text(SetupTable::display, styleColumn) == "1";
+  readBrightness(slideGraticuleBrightness, graticuleBrightness);
+  const bool isDot = main_.gridMeasure.text(SetupTable::display, column(waveformStyle)) == "1";
   (isDot ? obDot : obVector).value = true;
 }
 
@@ -81,7 +76,7 @@ void frmDisplay::sendBrightness() {
   main_.refresh();
   const SettingsBurst::Sending sending(burst_, SetupTable::display);
   const SetupTable chosen = main_.gridMeasure;
-  const ShortTimeOut shortTimeOut(main_);
+  const ShortTimeOut shortTimeOut(main_.state, exchange_);
   main_.txtMsg.text = "";
   Inquiry inquiry(exchange_.inquiries(), caption, Inquiry::Of::settings, brightnessCount);
   for (std::size_t setting = 0; setting < brightnessCount; ++setting) {
@@ -98,11 +93,12 @@ void frmDisplay::sendBrightness() {
 
 void frmDisplay::cmdOK_Click() {
   SetupTable& table = main_.gridMeasure;
-  table.setText(SetupTable::display, column(ofData), numberText(slideDataBrightness.value()));
-  table.setText(SetupTable::display, column(ofGraticule),
+  table.setText(SetupTable::display, column(dataBrightness),
+                numberText(slideDataBrightness.value()));
+  table.setText(SetupTable::display, column(graticuleBrightness),
                 numberText(slideGraticuleBrightness.value()));
-  table.setText(SetupTable::display, styleColumn, obDot.value() ? "1" : "0");
-  tag = "1";
+  table.setText(SetupTable::display, column(waveformStyle), obDot.value() ? "1" : "0");
+  outcome = Outcome::accepted;
   hide();
 }
 

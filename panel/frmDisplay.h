@@ -1,17 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "Acquisition.h"
 #include "Controls.h"
 #include "Dials.h"
 #include "SettingsBurst.h"
-#include "Unanswered.h"
+#include "SettingsDialog.h"
 
 namespace tracewell {
 
 /// The display dialog: edits row 7 of the setup table. After OK both brightnesses are sent, each
 /// once and read back; the waveform style stays a stored choice of the panel.
-class frmDisplay : public Window {
+class frmDisplay : public SettingsDialog {
  public:
   frmDisplay(frmDSO& main, CommandExchange& exchange, ErrorLog& errorLog, Acquisition& acquisition,
              SettingsBurst& burst);
@@ -28,10 +27,6 @@ class frmDisplay : public Window {
   Button cmdCancel{*this, "cmdCancel", "cancel"};
 
   void cmdDisplay_Click();
-  /// What it shows while it is open may be the answers to other questions.
-  void doubtAnswers() {
-    if (isVisible()) unanswered_.doubtAll();
-  }
 
  private:
   void readSettings();
@@ -43,9 +38,7 @@ class frmDisplay : public Window {
   frmDSO& main_;
   CommandExchange& exchange_;
   ErrorLog& errorLog_;
-  Acquisition& acquisition_;
   SettingsBurst& burst_;
-  Unanswered unanswered_;
 };
 
 }  // namespace tracewell

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "frmTrig.h"
 
-#include <optional>
-
 #include "Inquiry.h"
 #include "Numbers.h"
 #include "SettingsQueries.h"
@@ -12,10 +10,9 @@ namespace tracewell {
 
 frmTrig::frmTrig(frmDSO& main, CommandExchange& exchange, Acquisition& acquisition,
                  SettingsBurst& burst)
-    : Window("frmTrig", "Trigger", main.services()),
+    : SettingsDialog("frmTrig", "Trigger", main, acquisition),
       main_(main),
       exchange_(exchange),
-      acquisition_(acquisition),
       burst_(burst) {
   cbTrig(0).items = {"1", "2", "EXT", "Line"};
   cbTrig(1).items = {"Auto Level", "Auto", "Normal", "Single"};
@@ -33,7 +30,7 @@ frmTrig::frmTrig(frmDSO& main, CommandExchange& exchange, Acquisition& acquisiti
   for (ComboBox& box : cbTrig) box.click = [this, &box] { cbTrig_Click(box.index()); };
   cmdOK.click = [this] { cmdOK_Click(); };
   cmdCancel.click = [this] {
-    tag = "0";
+    outcome = Outcome::cancelled;
     hide();
   };
 }
@@ -42,17 +39,23 @@ void frmTrig::cmdTrig_Click() {
   if (burst_.isSending(SetupTable::trigger, caption) ||
       burst_.isSending(SetupTable::advancedTrigger, caption))
     return;
-  acquisition_.StopAcq();
-  {
-    const WaitingNotice notice(main_);
-    readSettings();
+  edit(
+      Fetching::stops, [this] { fill(); }, [this] { sendSettings(); });
+}
+
+void frmTrig::fill() {
+  const WaitingNotice notice(main_);
+  readSettings();
+  if (isAdvanced())
     readAdvancedSettings();
-  }
-  showModal();
-  if (tag != "0") burst_.writeAndVerify(caption, TrigQuery, SetupTable::trigger, 0);
-  if (tag == "2")
+  else
+    showStoredAdvancedSettings();
+}
+
+void frmTrig::sendSettings() {
+  burst_.writeAndVerify(caption, TrigQuery, SetupTable::trigger, 0);
+  if (sendsAdvanced_)
     burst_.writeAndVerify(fmAdv.caption, TrigAdvQuery, SetupTable::advancedTrigger, 0);
-  acquisition_.RunAcq();
 }
 
 /// Setting a box runs its click, so the instrument's values go into the table, too.
@@ -63,49 +66,64 @@ void frmTrig::readSettings() {
     const std::string query(TrigQuery[static_cast<std::size_t>(i)]);
     const std::string reply = exchange_.SendDSOCmd(query + "?");
     echoLine(main_, reply);
-    cbTrig(i).listIndex = indexOf(reply, SetupTable::trigger, 2 + i);
+    cbTrig(i).listIndex = indexOf(reply, SetupTable::trigger, i);
     unanswered_.note(cbTrig(i), isNumeric(reply));
   }
 }
 
 void frmTrig::readAdvancedSettings() {
-  std::optional<Inquiry> inquiry;
-  if (isAdvanced())
-    inquiry.emplace(exchange_.inquiries(), fmAdv.caption, Inquiry::Of::questions, 5);
-  for (int i = 0; i < 5; ++i) {
-    if (inquiry) inquiry->next();
-    const std::string query(TrigAdvQuery[static_cast<std::size_t>(i)]);
-    const std::string reply = inquiry ? exchange_.SendDSOCmd(query + "?") : "";
-    if (i < 2) {
-      cbTrigAdv(i).listIndex = indexOf(reply, SetupTable::advancedTrigger, 2 + i);
-      unanswered_.note(cbTrigAdv(i), !inquiry || isNumeric(reply));
-    } else {
-      TextBox& box = txtTrigAdv(i - 2);
-      box.text = inquiry ? reply : main_.gridMeasure.text(SetupTable::advancedTrigger, 2 + i);
-      unanswered_.note(box, !inquiry || !reply.empty());
-    }
+  Inquiry inquiry(exchange_.inquiries(), fmAdv.caption, Inquiry::Of::questions,
+                  static_cast<int>(TrigAdvQuery.size()));
+  auto query = TrigAdvQuery.begin();
+  const auto askNext = [&] {
+    inquiry.next();
+    return exchange_.SendDSOCmd(std::string(*query++) + "?");
+  };
+  for (ComboBox& box : cbTrigAdv) {
+    const std::string reply = askNext();
+    box.listIndex = indexOf(reply, SetupTable::advancedTrigger, box.index());
+    unanswered_.note(box, isNumeric(reply));
+  }
+  for (TextBox& box : txtTrigAdv) {
+    box.text = askNext();
+    unanswered_.note(box, !box.text().empty());
+  }
+}
+
+/// Nobody has been asked, so none of them lacks an answer.
+void frmTrig::showStoredAdvancedSettings() {
+  int column = SetupTable::firstValue;
+  for (ComboBox& box : cbTrigAdv) {
+    box.listIndex = main_.gridMeasure.number(SetupTable::advancedTrigger, column++);
+    unanswered_.note(box, true);
+  }
+  for (TextBox& box : txtTrigAdv) {
+    box.text = main_.gridMeasure.text(SetupTable::advancedTrigger, column++);
+    unanswered_.note(box, true);
   }
 }
 
 /// The instrument's number, or the stored one where it gave none.
-std::int16_t frmTrig::indexOf(const std::string& reply, int row, int column) const {
-  return isNumeric(reply) ? toInt16(reply) : main_.gridMeasure.number(row, column);
+std::int16_t frmTrig::indexOf(const std::string& reply, int row, int value) const {
+  return isNumeric(reply) ? toInt16(reply)
+                          : main_.gridMeasure.number(row, SetupTable::columnOf(value));
 }
 
 void frmTrig::Form_Activate() {
   for (int i = 0; i < cbTrig.size(); ++i)
-    cbTrig(i).listIndex = main_.gridMeasure.number(SetupTable::trigger, 2 + i);
-  tag = "0";
+    cbTrig(i).listIndex = main_.gridMeasure.number(SetupTable::trigger, SetupTable::columnOf(i));
+  outcome = Outcome::cancelled;
 }
 
 void frmTrig::cbTrig_Click(int box) {
-  outcome_ = box == 1 && isAdvanced() ? 2 : 1;
-  if (box == 1) fmAdv.enabled = isAdvanced();
-  main_.gridMeasure.setText(SetupTable::trigger, 2 + box, std::to_string(cbTrig(box).listIndex()));
+  sendsAdvanced_ = box == modeBox && isAdvanced();
+  if (box == modeBox) fmAdv.enabled = isAdvanced();
+  main_.gridMeasure.setText(SetupTable::trigger, SetupTable::columnOf(box),
+                            std::to_string(cbTrig(box).listIndex()));
 }
 
 void frmTrig::cmdOK_Click() {
-  tag = std::to_string(outcome_);
+  outcome = Outcome::accepted;
   hide();
   main_.refresh();
 }

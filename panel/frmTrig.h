@@ -1,17 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "Acquisition.h"
 #include "Controls.h"
 #include "SettingsBurst.h"
-#include "Unanswered.h"
+#include "SettingsDialog.h"
 
 namespace tracewell {
 
 /// The trigger dialog. Choices go into the setup table at each click, and Cancel leaves them there;
 /// only OK sends them. The advanced group is in use while the mode box reads "Advance", a text that
 /// is typed, not picked. Traps nothing.
-class frmTrig : public Window {
+class frmTrig : public SettingsDialog {
  public:
   frmTrig(frmDSO& main, CommandExchange& exchange, Acquisition& acquisition, SettingsBurst& burst);
 
@@ -29,27 +28,26 @@ class frmTrig : public Window {
   Button cmdCancel{*this, "cmdCancel", "Cancel"};
 
   void cmdTrig_Click();
-  /// What it shows while it is open may be the answers to other questions.
-  void doubtAnswers() {
-    if (isVisible()) unanswered_.doubtAll();
-  }
 
  private:
+  static constexpr int modeBox = 1;
+
+  void fill();
   void readSettings();
   void readAdvancedSettings();
-  bool isAdvanced() { return cbTrig(1).text() == "Advance"; }
-  std::int16_t indexOf(const std::string& reply, int row, int column) const;
+  void showStoredAdvancedSettings();
+  void sendSettings();
+  bool isAdvanced() { return cbTrig(modeBox).text() == "Advance"; }
+  std::int16_t indexOf(const std::string& reply, int row, int value) const;
   void Form_Activate();
   void cbTrig_Click(int box);
   void cmdOK_Click();
 
   frmDSO& main_;
   CommandExchange& exchange_;
-  Acquisition& acquisition_;
   SettingsBurst& burst_;
-  Unanswered unanswered_;
-  /// 1 for the plain settings, 2 when the advanced ones are sent too.
-  std::int16_t outcome_ = 1;
+  /// After OK the advanced settings are sent, too. Any click but that of the mode box ends it.
+  bool sendsAdvanced_ = false;
 };
 
 }  // namespace tracewell

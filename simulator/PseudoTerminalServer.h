@@ -3,7 +3,6 @@
 
 #include <poll.h>
 
-#include <csignal>
 #include <span>
 #include <string>
 

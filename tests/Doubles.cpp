@@ -61,9 +61,10 @@ void ScriptedPort::answerLikeAnInstrument() {
 }
 
 /// A record that nobody has requested counts as requested last.
-void ScriptedPort::deliver(const std::string& record) {
-  if (const auto request = stamps.extract(tag)) stamp = request.mapped();
-  dataReady.raise(record);
+void ScriptedPort::deliver(std::int16_t channel, const std::string& record) {
+  LineRecord delivered = {.channel = channel, .stamp = requested.stamp, .bytes = record};
+  if (const auto request = stamps.extract(channel)) delivered.stamp = request.mapped();
+  dataReady.raise(delivered);
 }
 
 void ScriptedPort::prepareLine() {
@@ -75,25 +76,30 @@ void ScriptedPort::prepareLine() {
   }
 }
 
-void ScriptedPort::write(std::string_view bytes, Expects expects) {
-  EXPECT_TRUE(bytes.ends_with("\r\n"));
-  lastCommand_ = bytes.substr(0, bytes.size() - 2);
-  wire.push_back(lastCommand_);
-  const bool isTold = expects == Expects::reply && readTimeOut != 600;
-  told.raise(lastCommand_ + (isTold ? " @" + std::to_string(readTimeOut) : ""));
+std::string ScriptedPort::write(std::string_view line, const std::string& toldToo) {
+  EXPECT_TRUE(line.ends_with("\r\n"));
+  wire.emplace_back(line.substr(0, line.size() - 2));
+  told.raise(wire.back() + toldToo);
+  return wire.back();
 }
 
-std::string ScriptedPort::read() {
-  EXPECT_TRUE(textMode);
-  std::deque<std::string>& lines = replies[lastCommand_];
+std::string ScriptedPort::query(std::string_view line, int timeOut) {
+  const std::string asked = write(line, timeOut == 600 ? "" : " @" + std::to_string(timeOut));
+  std::deque<std::string>& lines = replies[asked];
   if (lines.empty()) throw Error(portReadTimeOut, "RS232", "silence");
-  std::string line = lines.front();
+  std::string reply = lines.front();
   if (lines.size() > 1) lines.pop_front();
-  return line;
+  return reply;
 }
 
-void ScriptedPort::reset() {
-  ++resets;
+void ScriptedPort::request(LineRecord record) {
+  requested = record;
+  stamps[record.channel] = record.stamp;
+  write(record.request, "");
+}
+
+void ScriptedPort::abandon() {
+  ++abandoned;
   if (isStuck) throw Error(deviceError, "RS232", "stuck");
 }
 
@@ -108,6 +114,15 @@ ProgramFolderCopy::~ProgramFolderCopy() {
   std::error_code ignored;
   fs::permissions(path_, fs::perms::owner_all, ignored);
   fs::remove_all(path_, ignored);
+}
+
+std::string errorOf(const std::function<void()>& action) {
+  try {
+    action();
+  } catch (const Error& error) {
+    return std::to_string(error.number()) + " " + error.description();
+  }
+  return "";
 }
 
 namespace {

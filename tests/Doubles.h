@@ -29,6 +29,9 @@ inline std::string contentOf(const std::filesystem::path& path) {
   return readWholeFile(path, fileLimit::picture);
 }
 
+/// Number and description; empty where there was none.
+std::string errorOf(const std::function<void()>& action);
+
 /// Processor time, which a busy machine does not stretch, and memory at its peak; a sanitizer is
 /// allowed ten times as much.
 void expectCheap(const std::function<void()>& action, double seconds = 1, long megabytes = 200);
@@ -154,35 +157,32 @@ class ScriptedPort : public SerialPort, public PortList {
   /// The same as it happens, with the time that a reply is given where that is not the usual one.
   Event<const std::string&> told;
   std::vector<LineSettings> prepared;
-  int resets = 0;
+  int abandoned = 0;
   int timesOpened = 1;
   LineReport lineReport;
-  int recordLength = 0;
-  /// Resetting fails.
+  /// Abandoning fails.
   bool isStuck = false;
+  /// Of the last request.
+  LineRecord requested;
+  /// Of the requests on their way, by channel.
+  std::map<int, std::int64_t> stamps;
 
   void answer(const std::string& query, std::deque<std::string> lines) {
     replies[query] = std::move(lines);
   }
   /// A connected instrument with both scales, the time base and both positions.
   void answerLikeAnInstrument();
-  /// Delivers a record for the last request.
-  void deliver(const std::string& record);
-  /// Of the requests on their way, by tag.
-  std::map<std::string, std::int64_t> stamps;
+  void deliver(std::int16_t channel, const std::string& record);
 
   std::int16_t openPort() const override {
     return prepared.empty() ? 0 : prepared.back().portNumber;
   }
   int openings() const override { return timesOpened; }
   LineReport report() const override { return lineReport; }
-  void write(std::string_view bytes, Expects expects) override;
-  std::string read() override;
-  void beginRead(int count) override {
-    recordLength = count;
-    stamps[tag] = stamp;
-  }
-  void reset() override;
+  void command(std::string_view line) override { write(line, ""); }
+  std::string query(std::string_view line, int timeOut) override;
+  void request(LineRecord record) override;
+  void abandon() override;
   std::vector<Entry> ports() override { return {{0, "simulated instrument"}, {33, "ttyUSB0"}}; }
   State stateOf(std::int16_t number) override { return number == 33 ? stateOf33 : State::ready; }
   State stateOf33 = State::ready;
@@ -194,8 +194,7 @@ class ScriptedPort : public SerialPort, public PortList {
 
  private:
   void prepareLine() override;
-
-  std::string lastCommand_;
+  std::string write(std::string_view line, const std::string& toldToo);
 };
 
 /// A record whose samples are `sample(i)`, with a header that is not zero.

@@ -110,6 +110,16 @@ void replaceAll(std::string& text, const std::string& old, const std::string& wi
     text.replace(at, old.size(), with);
 }
 
+/// A file of lines; ^ is a line feed that is no line end, since it stands alone.
+std::string fileText(const std::filesystem::path& path) {
+  if (!std::filesystem::exists(path)) return "none";
+  std::string text = contentOf(path);
+  replaceAll(text, "\r\n", "\\n");
+  replaceAll(text, "\n", "^");
+  if (text.empty()) return "empty";
+  return text.size() > 600 ? shortened(text) : text;
+}
+
 /// One event a line, so that a difference shows where it is.
 std::string lines(std::string text) {
   replaceAll(text, "; ", "\n");
@@ -130,7 +140,7 @@ Lines split(const std::string& text, const std::string& separator) {
 Played::Played() {
   program.start();
   // As after the first exchange of any dialog.
-  port.readTimeOut = ReplyTimeout(main.state);
+  program.exchange.readTimeOut = ReplyTimeout(main.state);
   for (Window* window : program.otherWindows()) newIn(*window);
   newIn(main);
   port.told = dialogs.told = printer.told = [this](const std::string& event) { note(event); };
@@ -194,7 +204,9 @@ std::map<std::string, std::string> Played::shownBy(Window& window) {
   shown["ChanCount"] = std::to_string(main.state.ChanCount);
   showParts(main.graphDSO, shown);
   if (isTruthTold_) {
-    shown["marks"] = textOf(main.graphDSO.marks());
+    const GraphMarks marks = main.graphDSO.marks();
+    shown["marks"] = textOf(marks);
+    shown["banner"] = (marks.banner.isWarning ? "! " : "") + marks.banner.text;
     for (const GraphMarks::Text& value : main.graphDSO.valuesAt(50, 50))
       shown["pointer"] += value.text + " ";
   }
@@ -271,7 +283,7 @@ void Played::step(Window& window, const std::string& text) {
 /// The steps that are no control's, by name.
 std::map<std::string, std::function<void()>> Played::stepsWith(const std::string& value) {
   const auto number = [&value] { return std::stoi(value); };
-  const auto path = [this, &value] { return folder.path() / value; };
+  const auto path = [this, &value] { return folder.path() / pathOf(value); };
   const auto later = [&value] { return value.substr(value.find(' ') + 1); };
   return {
       {"plug", [this] { port.answerLikeAnInstrument(); }},
@@ -284,13 +296,22 @@ std::map<std::string, std::function<void()>> Played::stepsWith(const std::string
          dialogs.colour = {static_cast<std::uint8_t>(number()), 2, 3};
        }},
       {"write", [this, &value, later] { write(value.substr(0, value.find(' ')), later()); }},
+      {"read", [this, &value, path] { note("read " + value + " " + fileText(path())); }},
       {"remove", [path] { std::filesystem::remove(path()); }},
       {"folder", [path] { std::filesystem::create_directory(path()); }},
       {"answer", [this, &value] { dialogs.answer = value == "no" ? Answer::No : Answer::Yes; }},
       {"give up", [this] { standBy.giveUp(); }},
       {"wait", [this, number] { clock.run(number()); }},
+      {"here", [this] { std::filesystem::current_path(folder.path()); }},
       {"at", [this, number,
               later] { clock.callAfter(number(), [this, text = later()] { step(main, text); }); }},
+      {"cut2", [this, number] { main.Ch2Raw.resize(static_cast<std::size_t>(number())); }},
+      {"copy",
+       [this, &value, later] {
+         writeWholeFile(folder.path() / later(),
+                        contentOf(folder.path() / value.substr(0, value.find(' '))));
+       }},
+      {"paper", [this, &value] { printer.isOutOfPaper = value == "none"; }},
       {"record1", [this, number] { main.Ch1Raw = level(number()); }},
       {"record2", [this, number] { main.Ch2Raw = level(number()); }},
       {"port33",
@@ -324,9 +345,9 @@ bool Played::setUp(const std::string& name, const std::string& value) {
     const Lines place = split(value, ":");
     main.graphDSO.dragCursor(main.graphDSO.cursor(name), std::stod(place[0]), std::stod(place[1]));
   } else if (name.starts_with("trace")) {
-    port.tag = name.substr(5);
-    port.stamp = main.known.now();
-    port.deliver(makeRecord([first = std::stoi(value)](int i) { return first + i; }));
+    port.requested.stamp = main.known.now();
+    port.deliver(static_cast<std::int16_t>(std::stoi(name.substr(5))),
+                 makeRecord([first = std::stoi(value)](int i) { return first + i; }));
   } else if (name.starts_with("row")) {
     setRow(std::stoi(name.substr(3)), split(value, " "));
   } else if (name.ends_with('?')) {
@@ -357,6 +378,7 @@ void Played::connect() {
 void Played::useGraph(Graph& graph, const std::string& value) {
   using enum Graph::Copied;
   if (value.empty()) return graph.toggleEnlarged();
+  if (value.starts_with("-")) return graph.removeReference(std::stoi(value.substr(1)));
   if (value.ends_with(".csv")) return note(graph.drop(folder.path() / value) ? "taken" : "left");
   graph.copy(value == "values" ? values : value == "picture" ? picture : pictureAndValues);
 }
@@ -385,7 +407,9 @@ void Played::use(Control& control, const std::string& value) {
   }
   auto& box = dynamic_cast<TextBox&>(control);
   const bool isEntered = value.ends_with('~');
-  box.type(value.substr(0, value.size() - (isEntered ? 1 : 0)));
+  std::string typed = value.substr(0, value.size() - (isEntered ? 1 : 0));
+  replaceAll(typed, "\\n", "\r\n");
+  box.type(typed);
   if (isEntered) box.pressKey(TextBox::enterKey);
 }
 

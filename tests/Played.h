@@ -11,7 +11,7 @@ namespace tracewell {
 class Played : public Bench {
  public:
   Played();
-  virtual ~Played() = default;
+  virtual ~Played() { std::filesystem::current_path(before_); }
   /// Plays the steps; the result is what came of them.
   std::string play(const std::string& script);
 
@@ -43,6 +43,7 @@ class Played : public Bench {
   std::string newIn(Window& window);
   void note(const std::string& event) { events_.push_back(event); }
 
+  const std::filesystem::path before_ = std::filesystem::current_path();
   /// How the path of a file of the program folder begins.
   const std::string inFolder_ =
       pathText(folder.path()) + pathText(std::filesystem::path("/").make_preferred());

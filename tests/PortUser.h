@@ -9,39 +9,33 @@ namespace tracewell {
 class PortUser {
  public:
   explicit PortUser(LinePort& port) : port_(port) {
-    port.dataReady = [this](const std::string& data) {
-      records.emplace_back(port_.tag, data);
-      port_.reset();
-    };
+    port.dataReady = [this](const LineRecord& record) { records.push_back(record); };
   }
 
-  void request(const std::string& channel) {
-    port_.textMode = false;
+  void request(std::int16_t channel) {
     port_.prepare();
-    port_.write(":ACQ" + channel + ":POIN\r\n", SerialPort::Expects::record);
-    port_.tag = channel;
-    port_.beginRead(1014);
+    port_.request({.request = ":ACQ" + std::to_string(channel) + ":POIN\r\n",
+                   .channel = channel,
+                   .stamp = stamp,
+                   .count = 1014});
   }
-  void send(const std::string& line, SerialPort::Expects expects = SerialPort::Expects::nothing) {
-    port_.textMode = true;
+  void send(const std::string& line) {
     port_.prepare();
-    port_.write(line + "\r\n", expects);
+    port_.command(line + "\r\n");
   }
   /// The reply, or the number of the error.
   std::string ask(const std::string& query) {
-    send(query, SerialPort::Expects::reply);
-    std::string reply;
+    port_.prepare();
     try {
-      reply = port_.read();
+      return port_.query(query + "\r\n", timeOut);
     } catch (const Error& error) {
-      reply = std::to_string(error.number());
+      return std::to_string(error.number());
     }
-    port_.reset();
-    return reply;
   }
 
-  /// Tag and bytes.
-  std::vector<std::pair<std::string, std::string>> records;
+  std::vector<LineRecord> records;
+  int timeOut = 0;
+  std::int64_t stamp = 0;
 
  private:
   LinePort& port_;

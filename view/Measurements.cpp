@@ -4,7 +4,8 @@
 #include <algorithm>
 
 #include "ConnectionIndicator.h"
-#include "Numbers.h"
+#include "Doing.h"
+#include "MeasurementItems.h"
 #include "Waiting.h"
 
 namespace tracewell {
@@ -33,6 +34,10 @@ std::string rowOf(const std::string& result) {
   for (const std::string_view name : FreqMeasName)
     if (result.starts_with(name)) return std::string(name) + "\t" + result.substr(name.size());
   return result;
+}
+
+std::string sayMeasuring(const Words& words) {
+  return words.say("Measuring");
 }
 
 }  // namespace
@@ -73,27 +78,27 @@ void Measurements::cmdVMeasure_Click() {
 
 void Measurements::chooseAndMeasure() {
   acquisition_.StopAcq();
-  selection_.load();
   selection_.showFlags();
   selection_.showModal();
   RunMeasurements();
 }
 
 void Measurements::RunMeasurements() {
-  if (leadingNumber(selection_.tag) != 1) return;
+  if (selection_.outcome != Outcome::accepted) return;
+  const Doing measuring(main_, sayMeasuring);
   main_.refresh();
   ClearMeasureLabels();
-  const ShortTimeOut shortTimeOut(main_);
+  const ShortTimeOut shortTimeOut(main_.state, exchange_);
   nextLabel_ = 0;
   int count = 0;
   for (const int channel : {1, 2})
-    count += flaggedCount(channel + 1, VoltMeasName.size()) +
-             flaggedCount(channel + 3, FreqMeasName.size());
+    count += flaggedCount(SetupTable::voltageRow(channel), VoltMeasName.size()) +
+             flaggedCount(SetupTable::timeRow(channel), FreqMeasName.size());
   Inquiry inquiry(exchange_.inquiries(), main_.fmMeasure.caption, Inquiry::Of::questions, count);
   for (const int channel : {1, 2}) {
     chooseSource(channel);
-    measureFlagged(inquiry, channel, VoltMeasName, VoltMeasQuery, channel + 1);
-    measureFlagged(inquiry, channel, FreqMeasName, FreqMeasQuery, channel + 3);
+    measureFlagged(inquiry, channel, VoltMeasName, VoltMeasQuery, SetupTable::voltageRow(channel));
+    measureFlagged(inquiry, channel, FreqMeasName, FreqMeasQuery, SetupTable::timeRow(channel));
   }
 }
 
@@ -140,7 +145,7 @@ void Measurements::showResult(int label, int channel, const std::string& title,
 }
 
 bool Measurements::isFlagged(int row, std::size_t item) const {
-  return main_.gridMeasure.text(row, SetupTable::firstValue + static_cast<int>(item)) == "1";
+  return main_.gridMeasure.text(row, SetupTable::columnOf(static_cast<int>(item))) == "1";
 }
 
 void Measurements::showNext(int channel, const std::string& title, const std::string& reply) {
@@ -169,7 +174,7 @@ std::string Measurements::ask(const std::string& query) {
 
 void Measurements::mnbFrequency_Click() {
   quickSelection_.showModal();
-  if (quickSelection_.tag == "1") cmdFMeasure_Click();
+  if (quickSelection_.outcome == Outcome::accepted) cmdFMeasure_Click();
 }
 
 void Measurements::cmdFMeasure_Click() {
@@ -181,7 +186,8 @@ void Measurements::cmdFMeasure_Click() {
 }
 
 void Measurements::measureQuickly() {
-  const ShortTimeOut shortTimeOut(main_, 1);
+  const Doing measuring(main_, sayMeasuring);
+  const ShortTimeOut shortTimeOut(main_.state, exchange_, 1);
   const int channel = quickSelection_.FMeasChan;
   chooseSource(channel);
   Inquiry inquiry(exchange_.inquiries(), main_.fmMeasure.caption, Inquiry::Of::questions,

@@ -3,10 +3,12 @@
 
 #include <array>
 #include <optional>
+#include <span>
+#include <string>
+#include <string_view>
 
 #include "Acquisition.h"
 #include "Inquiry.h"
-#include "MeasurementItems.h"
 #include "frmFMeasure.h"
 #include "frmVMeasure.h"
 

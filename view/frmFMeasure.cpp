@@ -14,23 +14,23 @@ frmFMeasure::frmFMeasure(frmDSO& main)
 }
 
 void frmFMeasure::Form_Activate() {
-  tag = "0";
+  outcome = Outcome::cancelled;
   cbChan.text = std::to_string(FMeasChan);
   for (CheckBox& box : cbF) {
-    const int column = SetupTable::firstValue + box.index();
+    const int column = SetupTable::columnOf(box.index());
     box.value = main_.gridMeasure.text(SetupTable::voltageChannel1, column) == "1" ? 1 : 0;
   }
 }
 
 void frmFMeasure::cmdOK_Click() {
   for (const CheckBox& box : cbF) {
-    const int column = SetupTable::firstValue + box.index();
+    const int column = SetupTable::columnOf(box.index());
     const std::string flag = std::to_string(box.value());
     main_.gridMeasure.setText(SetupTable::quickMeasurement, column, flag);
     main_.gridMeasure.setText(SetupTable::voltageChannel1, column, flag);
   }
   FMeasChan = cbChan.text() == "2" ? 2 : 1;
-  tag = "1";
+  outcome = Outcome::accepted;
   hide();
 }
 

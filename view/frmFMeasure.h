@@ -9,7 +9,7 @@
 namespace tracewell {
 
 /// Channel and items of the quick frequency measurement. OK writes the flags into rows 1 and 2 of
-/// the setup table and tells its opener by the tag "1". Row 2, which the quick measurement reads,
+/// the setup table and tells its opener. Row 2, which the quick measurement reads,
 /// is also the voltage row of channel 1: the two dialogs share it.
 class frmFMeasure : public Window {
  public:

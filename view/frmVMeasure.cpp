@@ -14,13 +14,11 @@ struct Cell {
 };
 
 Cell voltageCell(int box) {
-  return {box < voltageItems ? SetupTable::voltageChannel1 : SetupTable::voltageChannel2,
-          SetupTable::firstValue + box % voltageItems};
+  return {SetupTable::voltageRow(1 + box / voltageItems), SetupTable::columnOf(box % voltageItems)};
 }
 
 Cell timeCell(int box) {
-  return {box < timeItems ? SetupTable::timeChannel1 : SetupTable::timeChannel2,
-          SetupTable::firstValue + box % timeItems};
+  return {SetupTable::timeRow(1 + box / timeItems), SetupTable::columnOf(box % timeItems)};
 }
 
 void showFlag(const SetupTable& table, Cell cell, CheckBox& box) {
@@ -36,7 +34,7 @@ void keepFlag(SetupTable& table, Cell cell, const CheckBox& box) {
 frmVMeasure::frmVMeasure(frmDSO& main, Captions& captions)
     : Window("frmVMeasure", "Voltage Measure", main.services()), main_(main), captions_(captions) {
   formActivate = [this] {
-    tag = "0";
+    outcome = Outcome::cancelled;
     showHint();
   };
   for (CheckBox& box : cbV) box.click = [this] { showHint(); };
@@ -79,7 +77,7 @@ void frmVMeasure::setChannel(int channel, bool isChecked) {
 void frmVMeasure::cmdOK_Click() {
   for (CheckBox& box : cbV) keepFlag(main_.gridMeasure, voltageCell(box.index()), box);
   for (CheckBox& box : cbF) keepFlag(main_.gridMeasure, timeCell(box.index()), box);
-  tag = "1";
+  outcome = Outcome::accepted;
   hide();
 }
 

@@ -8,8 +8,8 @@
 namespace tracewell {
 
 /// Which measurements to run: voltage boxes 0 to 7 and time boxes 0 to 6 are channel 1's, the
-/// others channel 2's. OK writes the flags into rows 2 to 5 of the setup table and tells its opener
-/// by the tag "1".
+/// others channel 2's. OK writes the flags into rows 2 to 5 of the setup table and tells its
+/// opener.
 class frmVMeasure : public Window {
  public:
   frmVMeasure(frmDSO& main, Captions& captions);

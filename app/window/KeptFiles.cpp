@@ -19,7 +19,7 @@ fs::path wholePath(const fs::path& path) {
 }
 
 auto findNoted(frmDSO& main, const fs::path& path) {
-  return std::ranges::find_if(main.FilesToKeep, [whole = wholePath(path)](const fs::path& noted) {
+  return std::ranges::find_if(main.filesToKeep, [whole = wholePath(path)](const fs::path& noted) {
     std::error_code ignored;
     return noted == whole || fs::equivalent(noted, whole, ignored);
   });
@@ -45,7 +45,7 @@ bool isWrittenUnasked(const frmDSO& main, const fs::path& path) {
 
 void showFilesToKeep(frmDSO& main) {
   std::string text;
-  for (const fs::path& path : main.FilesToKeep)
+  for (const fs::path& path : main.filesToKeep)
     if (isWrittenUnasked(main, path))
       text += (text.empty() ? "" : "; ") + notice(main.services().words, path);
   main.lblNotice.visible = !text.empty();
@@ -53,19 +53,19 @@ void showFilesToKeep(frmDSO& main) {
 }
 
 void noteFileToKeep(frmDSO& main, const fs::path& path) {
-  if (findNoted(main, path) == main.FilesToKeep.end()) main.FilesToKeep.push_back(wholePath(path));
+  if (findNoted(main, path) == main.filesToKeep.end()) main.filesToKeep.push_back(wholePath(path));
   showFilesToKeep(main);
 }
 
 void forgetFileToKeep(frmDSO& main, const fs::path& path) {
   const auto noted = findNoted(main, path);
-  if (noted == main.FilesToKeep.end()) return;
-  main.FilesToKeep.erase(noted);
+  if (noted == main.filesToKeep.end()) return;
+  main.filesToKeep.erase(noted);
   showFilesToKeep(main);
 }
 
 void keepNotedFile(frmDSO& main, const fs::path& path) {
-  if (findNoted(main, path) == main.FilesToKeep.end()) return;
+  if (findNoted(main, path) == main.filesToKeep.end()) return;
   keepAside(path);
   forgetFileToKeep(main, path);
 }

@@ -143,7 +143,7 @@ class frmDSO : public Window {
   /// The setup table.
   SetupTable gridMeasure;
   /// Whole paths, in the order in which they were noted. Kept through app/window/KeptFiles.h.
-  std::vector<std::filesystem::path> FilesToKeep;
+  std::vector<std::filesystem::path> filesToKeep;
   /// Number of the message that stands on each of these captions; 0 while it is the caption file's.
   /// Kept through app/window/ConnectionIndicator.h.
   struct ShownMessages {
@@ -152,6 +152,9 @@ class frmDSO : public Window {
     std::size_t cmdRunStop = 0;
   } shownMessages;
 
+  /// What the instrument is busy with instead of records, if with anything. Kept by
+  /// app/window/Doing.h.
+  StatusLine::Sentence doing;
   /// What stands beside the values, marks and ages, is to be looked at anew.
   Event<> marksDue;
   /// Answers that came between two moments of Clock may be those of other questions.

@@ -36,6 +36,10 @@
         <translation>%1, %2 : balayages différents</translation>
     </message>
     <message>
+        <source>%1: %2 in its file</source>
+        <translation>%1 : %2 dans son fichier</translation>
+    </message>
+    <message>
         <source>%1: %2 of %3 settings not confirmed</source>
         <translation>%1 : %2 réglages sur %3 non confirmés</translation>
     </message>
@@ -78,6 +82,10 @@
     <message>
         <source>%1: recorded at %2, not at %3</source>
         <translation>%1 : enregistrée à %2, et non à %3</translation>
+    </message>
+    <message>
+        <source>%1: scale not known</source>
+        <translation>%1 : échelle inconnue</translation>
     </message>
     <message>
         <source>%1: setting %2 of %3</source>
@@ -312,6 +320,10 @@
         <translation>Atténuation de la sonde</translation>
     </message>
     <message>
+        <source>Autoset</source>
+        <translation>Réglage automatique en cours</translation>
+    </message>
+    <message>
         <source>Bandwidth limit against noise</source>
         <translation>Limitation de la bande passante contre le bruit</translation>
     </message>
@@ -436,6 +448,10 @@
         <translation>Sans curseurs</translation>
     </message>
     <message>
+        <source>Dark</source>
+        <translation>Sombre</translation>
+    </message>
+    <message>
         <source>Data bits of a byte</source>
         <translation>Bits de données par octet</translation>
     </message>
@@ -504,6 +520,10 @@
         <translation>Réjection de fréquence</translation>
     </message>
     <message>
+        <source>High contrast</source>
+        <translation>Contraste élevé</translation>
+    </message>
+    <message>
         <source>High level</source>
         <translation>Niveau haut</translation>
     </message>
@@ -566,6 +586,14 @@
     <message>
         <source>Licence</source>
         <translation>Licence</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Clair</translation>
+    </message>
+    <message>
+        <source>Like the desktop</source>
+        <translation>Comme le bureau</translation>
     </message>
     <message>
         <source>Line only</source>
@@ -686,6 +714,10 @@
     <message>
         <source>Measurement 9</source>
         <translation>Mesure 9</translation>
+    </message>
+    <message>
+        <source>Measuring</source>
+        <translation>Mesure en cours</translation>
     </message>
     <message>
         <source>Message</source>
@@ -836,6 +868,10 @@
         <translation>Enregistrements qui ne sont pas venus : %1 en une minute</translation>
     </message>
     <message>
+        <source>Remove %1</source>
+        <translation>Retirer %1</translation>
+    </message>
+    <message>
         <source>Remove the loaded waveforms</source>
         <translation>Retirer les courbes chargées</translation>
     </message>
@@ -952,6 +988,14 @@
         <translation>Bits d'arrêt après un octet</translation>
     </message>
     <message>
+        <source>Stopped</source>
+        <translation>Arrêté</translation>
+    </message>
+    <message>
+        <source>Stopped: press %1 to go on</source>
+        <translation>Arrêté : appuyez sur %1 pour continuer</translation>
+    </message>
+    <message>
         <source>Sum or difference of the channels</source>
         <translation>Somme ou différence des voies</translation>
     </message>
@@ -988,6 +1032,10 @@
         <translation>Lecture de l'instrument en cours</translation>
     </message>
     <message>
+        <source>The instrument is stopped: press %1</source>
+        <translation>L'appareil est arrêté : appuyez sur %1</translation>
+    </message>
+    <message>
         <source>The last question had no answer: press %1</source>
         <translation>La dernière question est restée sans réponse : appuyer sur %1</translation>
     </message>
@@ -1008,6 +1056,10 @@
         <translation>Le rapport</translation>
     </message>
     <message>
+        <source>The scales are not known: press %1 to read them</source>
+        <translation>Les échelles ne sont pas connues : appuyez sur %1 pour les lire</translation>
+    </message>
+    <message>
         <source>The scales may be those of another instrument: press %1 to read them</source>
         <translation>Les calibres sont peut-être ceux d'un autre instrument : appuyer sur %1 pour les lire</translation>
     </message>
@@ -1016,8 +1068,16 @@
         <translation>Les réglages n'ont pas pu être enregistrés dans %1.</translation>
     </message>
     <message>
+        <source>Theme</source>
+        <translation>Thème</translation>
+    </message>
+    <message>
         <source>There is no such port</source>
         <translation>Ce port n'existe pas</translation>
+    </message>
+    <message>
+        <source>These traces came over the connection before</source>
+        <translation>Ces courbes viennent de la connexion précédente</translation>
     </message>
     <message>
         <source>This version has new files beside those that you have changed: %1</source>

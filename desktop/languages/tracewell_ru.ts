@@ -36,6 +36,10 @@
         <translation>%1, %2: разные развёртки</translation>
     </message>
     <message>
+        <source>%1: %2 in its file</source>
+        <translation>%1: в файле %2</translation>
+    </message>
+    <message>
         <source>%1: %2 of %3 settings not confirmed</source>
         <translation>%1: не подтверждено настроек: %2 из %3</translation>
     </message>
@@ -78,6 +82,10 @@
     <message>
         <source>%1: recorded at %2, not at %3</source>
         <translation>%1: записано при %2, а не при %3</translation>
+    </message>
+    <message>
+        <source>%1: scale not known</source>
+        <translation>%1: масштаб неизвестен</translation>
     </message>
     <message>
         <source>%1: setting %2 of %3</source>
@@ -312,6 +320,10 @@
         <translation>Коэффициент деления щупа</translation>
     </message>
     <message>
+        <source>Autoset</source>
+        <translation>Автонастройка</translation>
+    </message>
+    <message>
         <source>Bandwidth limit against noise</source>
         <translation>Ограничение полосы для подавления шума</translation>
     </message>
@@ -436,6 +448,10 @@
         <translation>Курсоры выключены</translation>
     </message>
     <message>
+        <source>Dark</source>
+        <translation>Тёмная</translation>
+    </message>
+    <message>
         <source>Data bits of a byte</source>
         <translation>Битов данных в байте</translation>
     </message>
@@ -504,6 +520,10 @@
         <translation>Подавление частот</translation>
     </message>
     <message>
+        <source>High contrast</source>
+        <translation>Высокая контрастность</translation>
+    </message>
+    <message>
         <source>High level</source>
         <translation>Верхний уровень</translation>
     </message>
@@ -566,6 +586,14 @@
     <message>
         <source>Licence</source>
         <translation>Лицензия</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Светлая</translation>
+    </message>
+    <message>
+        <source>Like the desktop</source>
+        <translation>Как на рабочем столе</translation>
     </message>
     <message>
         <source>Line only</source>
@@ -686,6 +714,10 @@
     <message>
         <source>Measurement 9</source>
         <translation>Измерение 9</translation>
+    </message>
+    <message>
+        <source>Measuring</source>
+        <translation>Идёт измерение</translation>
     </message>
     <message>
         <source>Message</source>
@@ -836,6 +868,10 @@
         <translation>Записи, которые не пришли: %1 за минуту</translation>
     </message>
     <message>
+        <source>Remove %1</source>
+        <translation>Убрать %1</translation>
+    </message>
+    <message>
         <source>Remove the loaded waveforms</source>
         <translation>Убрать загруженные осциллограммы</translation>
     </message>
@@ -952,6 +988,14 @@
         <translation>Стоп-биты после байта</translation>
     </message>
     <message>
+        <source>Stopped</source>
+        <translation>Остановлено</translation>
+    </message>
+    <message>
+        <source>Stopped: press %1 to go on</source>
+        <translation>Остановлено: для продолжения нажмите %1</translation>
+    </message>
+    <message>
         <source>Sum or difference of the channels</source>
         <translation>Сумма или разность каналов</translation>
     </message>
@@ -988,6 +1032,10 @@
         <translation>Идёт чтение прибора</translation>
     </message>
     <message>
+        <source>The instrument is stopped: press %1</source>
+        <translation>Прибор остановлен: нажмите %1</translation>
+    </message>
+    <message>
         <source>The last question had no answer: press %1</source>
         <translation>На последний запрос нет ответа: нажмите «%1»</translation>
     </message>
@@ -1008,6 +1056,10 @@
         <translation>Отчёт</translation>
     </message>
     <message>
+        <source>The scales are not known: press %1 to read them</source>
+        <translation>Масштабы неизвестны: нажмите %1, чтобы прочитать их</translation>
+    </message>
+    <message>
         <source>The scales may be those of another instrument: press %1 to read them</source>
         <translation>Масштабы могут быть от другого прибора: нажмите «%1», чтобы прочитать их</translation>
     </message>
@@ -1016,8 +1068,16 @@
         <translation>Не удалось сохранить настройки в %1.</translation>
     </message>
     <message>
+        <source>Theme</source>
+        <translation>Тема</translation>
+    </message>
+    <message>
         <source>There is no such port</source>
         <translation>Такого порта нет</translation>
+    </message>
+    <message>
+        <source>These traces came over the connection before</source>
+        <translation>Эти осциллограммы получены по прежнему соединению</translation>
     </message>
     <message>
         <source>This version has new files beside those that you have changed: %1</source>

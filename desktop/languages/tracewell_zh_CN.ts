@@ -36,6 +36,10 @@
         <translation>%1、%2：不同次扫描</translation>
     </message>
     <message>
+        <source>%1: %2 in its file</source>
+        <translation>%1：文件中为 %2</translation>
+    </message>
+    <message>
         <source>%1: %2 of %3 settings not confirmed</source>
         <translation>%1：%3 项设置中有 %2 项未确认</translation>
     </message>
@@ -78,6 +82,10 @@
     <message>
         <source>%1: recorded at %2, not at %3</source>
         <translation>%1：在 %2 下记录，而非 %3</translation>
+    </message>
+    <message>
+        <source>%1: scale not known</source>
+        <translation>%1：刻度未知</translation>
     </message>
     <message>
         <source>%1: setting %2 of %3</source>
@@ -312,6 +320,10 @@
         <translation>探头衰减比</translation>
     </message>
     <message>
+        <source>Autoset</source>
+        <translation>正在自动设置</translation>
+    </message>
+    <message>
         <source>Bandwidth limit against noise</source>
         <translation>限制带宽以抑制噪声</translation>
     </message>
@@ -436,6 +448,10 @@
         <translation>关闭光标</translation>
     </message>
     <message>
+        <source>Dark</source>
+        <translation>深色</translation>
+    </message>
+    <message>
         <source>Data bits of a byte</source>
         <translation>每字节的数据位</translation>
     </message>
@@ -504,6 +520,10 @@
         <translation>频率抑制</translation>
     </message>
     <message>
+        <source>High contrast</source>
+        <translation>高对比度</translation>
+    </message>
+    <message>
         <source>High level</source>
         <translation>高电平</translation>
     </message>
@@ -566,6 +586,14 @@
     <message>
         <source>Licence</source>
         <translation>许可证</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>浅色</translation>
+    </message>
+    <message>
+        <source>Like the desktop</source>
+        <translation>跟随桌面</translation>
     </message>
     <message>
         <source>Line only</source>
@@ -686,6 +714,10 @@
     <message>
         <source>Measurement 9</source>
         <translation>测量值 9</translation>
+    </message>
+    <message>
+        <source>Measuring</source>
+        <translation>正在测量</translation>
     </message>
     <message>
         <source>Message</source>
@@ -836,6 +868,10 @@
         <translation>没有到达的记录：一分钟内 %1 个</translation>
     </message>
     <message>
+        <source>Remove %1</source>
+        <translation>移除 %1</translation>
+    </message>
+    <message>
         <source>Remove the loaded waveforms</source>
         <translation>移除已读取的波形</translation>
     </message>
@@ -952,6 +988,14 @@
         <translation>每字节后的停止位</translation>
     </message>
     <message>
+        <source>Stopped</source>
+        <translation>已停止</translation>
+    </message>
+    <message>
+        <source>Stopped: press %1 to go on</source>
+        <translation>已停止：按 %1 继续</translation>
+    </message>
+    <message>
         <source>Sum or difference of the channels</source>
         <translation>通道之和或差</translation>
     </message>
@@ -988,6 +1032,10 @@
         <translation>正在读取仪器</translation>
     </message>
     <message>
+        <source>The instrument is stopped: press %1</source>
+        <translation>仪器已停止：按 %1</translation>
+    </message>
+    <message>
         <source>The last question had no answer: press %1</source>
         <translation>上一个查询无应答：请按“%1”</translation>
     </message>
@@ -1008,6 +1056,10 @@
         <translation>报告</translation>
     </message>
     <message>
+        <source>The scales are not known: press %1 to read them</source>
+        <translation>刻度未知：按 %1 读取</translation>
+    </message>
+    <message>
         <source>The scales may be those of another instrument: press %1 to read them</source>
         <translation>档位可能属于另一台仪器：请按“%1”重新读取</translation>
     </message>
@@ -1016,8 +1068,16 @@
         <translation>设置无法保存到 %1。</translation>
     </message>
     <message>
+        <source>Theme</source>
+        <translation>主题</translation>
+    </message>
+    <message>
         <source>There is no such port</source>
         <translation>没有这个端口</translation>
+    </message>
+    <message>
+        <source>These traces came over the connection before</source>
+        <translation>这些波形来自之前的连接</translation>
     </message>
     <message>
         <source>This version has new files beside those that you have changed: %1</source>

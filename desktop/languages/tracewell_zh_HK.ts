@@ -36,6 +36,10 @@
         <translation>%1、%2：唔同次掃描</translation>
     </message>
     <message>
+        <source>%1: %2 in its file</source>
+        <translation>%1：檔案入面係 %2</translation>
+    </message>
+    <message>
         <source>%1: %2 of %3 settings not confirmed</source>
         <translation>%1：%3 項設定有 %2 項未確認</translation>
     </message>
@@ -78,6 +82,10 @@
     <message>
         <source>%1: recorded at %2, not at %3</source>
         <translation>%1：用 %2 記錄，唔係 %3</translation>
+    </message>
+    <message>
+        <source>%1: scale not known</source>
+        <translation>%1：刻度未知</translation>
     </message>
     <message>
         <source>%1: setting %2 of %3</source>
@@ -312,6 +320,10 @@
         <translation>探頭嘅衰減比</translation>
     </message>
     <message>
+        <source>Autoset</source>
+        <translation>自動設定緊</translation>
+    </message>
+    <message>
         <source>Bandwidth limit against noise</source>
         <translation>限制頻寬以減少噪音</translation>
     </message>
@@ -436,6 +448,10 @@
         <translation>關閉游標</translation>
     </message>
     <message>
+        <source>Dark</source>
+        <translation>深色</translation>
+    </message>
+    <message>
         <source>Data bits of a byte</source>
         <translation>每個位元組嘅數據位元</translation>
     </message>
@@ -504,6 +520,10 @@
         <translation>頻率抑制</translation>
     </message>
     <message>
+        <source>High contrast</source>
+        <translation>高對比度</translation>
+    </message>
+    <message>
         <source>High level</source>
         <translation>高電平</translation>
     </message>
@@ -566,6 +586,14 @@
     <message>
         <source>Licence</source>
         <translation>授權條款</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>淺色</translation>
+    </message>
+    <message>
+        <source>Like the desktop</source>
+        <translation>跟住桌面</translation>
     </message>
     <message>
         <source>Line only</source>
@@ -686,6 +714,10 @@
     <message>
         <source>Measurement 9</source>
         <translation>量度結果 9</translation>
+    </message>
+    <message>
+        <source>Measuring</source>
+        <translation>量度緊</translation>
     </message>
     <message>
         <source>Message</source>
@@ -836,6 +868,10 @@
         <translation>冇嚟到嘅記錄：一分鐘內 %1 個</translation>
     </message>
     <message>
+        <source>Remove %1</source>
+        <translation>移除 %1</translation>
+    </message>
+    <message>
         <source>Remove the loaded waveforms</source>
         <translation>移除載入咗嘅波形</translation>
     </message>
@@ -952,6 +988,14 @@
         <translation>每個位元組之後嘅停止位元</translation>
     </message>
     <message>
+        <source>Stopped</source>
+        <translation>停咗</translation>
+    </message>
+    <message>
+        <source>Stopped: press %1 to go on</source>
+        <translation>停咗：撳 %1 繼續</translation>
+    </message>
+    <message>
         <source>Sum or difference of the channels</source>
         <translation>通道嘅和或者差</translation>
     </message>
@@ -988,6 +1032,10 @@
         <translation>讀取緊儀器</translation>
     </message>
     <message>
+        <source>The instrument is stopped: press %1</source>
+        <translation>儀器停咗：撳 %1</translation>
+    </message>
+    <message>
         <source>The last question had no answer: press %1</source>
         <translation>上一個查詢冇回應：請撳「%1」</translation>
     </message>
@@ -1008,6 +1056,10 @@
         <translation>報告</translation>
     </message>
     <message>
+        <source>The scales are not known: press %1 to read them</source>
+        <translation>刻度未知：撳 %1 讀取</translation>
+    </message>
+    <message>
         <source>The scales may be those of another instrument: press %1 to read them</source>
         <translation>檔位可能係第部儀器嘅：撳「%1」再讀取</translation>
     </message>
@@ -1016,8 +1068,16 @@
         <translation>設定儲存唔到去 %1。</translation>
     </message>
     <message>
+        <source>Theme</source>
+        <translation>主題</translation>
+    </message>
+    <message>
         <source>There is no such port</source>
         <translation>冇呢個連接埠</translation>
+    </message>
+    <message>
+        <source>These traces came over the connection before</source>
+        <translation>呢啲波形嚟自之前嘅連線</translation>
     </message>
     <message>
         <source>This version has new files beside those that you have changed: %1</source>

@@ -44,6 +44,15 @@ class SetupTable {
     advancedTrigger = 11,
     language = 12,
   };
+  /// Rows of channel 1 or 2.
+  static constexpr Row voltageRow(int channel) {
+    return channel == 1 ? voltageChannel1 : voltageChannel2;
+  }
+  static constexpr Row timeRow(int channel) { return channel == 1 ? timeChannel1 : timeChannel2; }
+  static constexpr Row channelRow(int channel) { return channel == 1 ? channel1 : channel2; }
+
+  /// Column of a row's values, which are counted from 0.
+  static constexpr int columnOf(int value) { return firstValue + value; }
 
   /// Filled with the design, which outlives the table.
   explicit SetupTable(const std::vector<DesignRow>& design = shippedDesign());

@@ -67,11 +67,11 @@ std::string Conversation::ask(std::string_view query, int timeOut) {
   }
 }
 
-void Conversation::request(Record record) {
+void Conversation::request(LineRecord record) {
   account_.wantedRecord(clock_.milliseconds());
   hear(take(0));
-  const bool waitsAlready =
-      std::ranges::any_of(held_, [&](const Record& held) { return held.tag == record.tag; });
+  const bool waitsAlready = std::ranges::any_of(
+      held_, [&](const LineRecord& held) { return held.channel == record.channel; });
   if (!waitsAlready) held_.push_back(std::move(record));
   sendHeld();
 }
@@ -173,7 +173,8 @@ void Conversation::refuseRecord(std::string_view behind) {
   drainTime_ = recordDrain;
   if (isWanted_) {
     // Otherwise a channel that always answers would stand back for one that never does.
-    std::erase_if(held_, [this](const Record& held) { return held.tag == record_.tag; });
+    std::erase_if(held_,
+                  [this](const LineRecord& held) { return held.channel == record_.channel; });
     record_.bytes.clear();
     held_.push_front(record_);
   }
@@ -183,8 +184,8 @@ void Conversation::refuseRecord(std::string_view behind) {
 /// Nine tenths of what is missing, over and over: the last bytes are heard as they come.
 void Conversation::restUntilMoreHasCome() {
   constexpr int notWorthIt = 4;
-  const auto missing = static_cast<double>(record_.count - record_.bytes.size());
-  const int time = static_cast<int>(std::min<double>(0.9 * missing * byteTime(), longestRest));
+  const double missing = openSettings_.timeOf(record_.count - record_.bytes.size());
+  const int time = static_cast<int>(std::min<double>(0.9 * missing, longestRest));
   if (time > notWorthIt) channel_->rest(time);
 }
 
@@ -281,8 +282,8 @@ void Conversation::makeReadyToAsk(int timeOut) {
 
 /// However its bytes trickle.
 void Conversation::finishRecord() {
-  const auto left = static_cast<double>(record_.count - record_.bytes.size());
-  const auto longest = static_cast<std::int64_t>(std::ceil(2 * left * byteTime())) + restMargin;
+  const double left = openSettings_.timeOf(record_.count - record_.bytes.size());
+  const auto longest = static_cast<std::int64_t>(std::ceil(2 * left)) + restMargin;
   const std::int64_t deadline = clock_.milliseconds() + longest;
   const auto isOnItsWay = [this] {
     return state_ == State::recordAwaited || state_ == State::recordHeard;
@@ -352,7 +353,7 @@ void Conversation::arrived() {
     // Nobody waits for these: what comes without end must not keep the processor busy.
     if (state_ == State::draining) channel_->rest(StandBy::longestGap);
     if (whole_) {
-      const Record record = *std::exchange(whole_, std::nullopt);
+      const LineRecord record = *std::exchange(whole_, std::nullopt);
       account_.gaveRecord(clock_.milliseconds());
       delivered(record);
     }
@@ -376,14 +377,7 @@ void Conversation::sendHeld() {
 
 /// Within so long after the last byte of an answer, what belongs to it has come.
 int Conversation::settlingTime() const {
-  return settling + static_cast<int>(std::ceil(2 * byteTime()));
-}
-
-/// Of one byte on the line, with its start, parity and stop bits.
-double Conversation::byteTime() const {
-  const int bits = 1 + openSettings_.dataBits + (openSettings_.parity == 0 ? 0 : 1) +
-                   (openSettings_.stopBits == 0 ? 1 : 2);
-  return 1000.0 * bits / std::max(openSettings_.baudRate, 1);
+  return settling + static_cast<int>(std::ceil(openSettings_.timeOf(2)));
 }
 
 }  // namespace tracewell

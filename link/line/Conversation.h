@@ -14,6 +14,7 @@
 #include "Clock.h"
 #include "EventDispatcher.h"
 #include "LineAccount.h"
+#include "LineRecord.h"
 #include "StandBy.h"
 
 namespace tracewell {
@@ -25,8 +26,8 @@ namespace tracewell {
 /// after it was put, or never. On that all rules here rest:
 ///
 /// - A record is on its way from its request on, byte or no byte, until it is whole or
-///   longestThought has passed without a byte. Further requests wait, one for each tag. It counts
-///   when nothing but blanks and line ends follows it for the settling time.
+///   longestThought has passed without a byte. Further requests wait, one for each channel. It
+///   counts when nothing but blanks and line ends follows it for the settling time.
 /// - A record of which less than half has come when it is given up stays owed. Others are asked for
 ///   all the same, and the next one that comes answers nobody, since it may be the one that is
 ///   owed. Then the line is drained for recordDrain; whoever asked last asks again. An answered
@@ -59,16 +60,6 @@ class Conversation {
   /// A reply of more bytes is none.
   static constexpr std::size_t longestReply = 4096;
 
-  struct Record {
-    std::string request;
-    std::string tag;
-    /// Whoever asks marks the request with it.
-    std::int64_t stamp = 0;
-    /// How many bytes it has when it is whole.
-    std::size_t count = 0;
-    std::string bytes;
-  };
-
   Conversation(ChannelOpener& opener, Clock& clock, const EventDispatcher& dispatcher,
                StandBy& standBy);
   Conversation(const Conversation&) = delete;
@@ -90,15 +81,15 @@ class Conversation {
   /// deviceError; throws ProgramEnded.
   std::string ask(std::string_view query, int timeOut);
 
-  /// Requests a record, now or when the line is free. One of a tag that waits already is left out.
-  /// Raises deviceError.
-  void request(Record record);
+  /// Requests a record, now or when the line is free. One of a channel that waits already is left
+  /// out. Raises deviceError.
+  void request(LineRecord record);
 
   /// Whoever wanted a record, here or waiting, does not want it any longer.
   void abandon();
 
   /// Called out of the event loop with each whole record.
-  std::function<void(const Record&)> delivered;
+  std::function<void(const LineRecord&)> delivered;
 
  private:
   /// What is under way, and so whose the next bytes are.
@@ -141,7 +132,6 @@ class Conversation {
 
   void arrived();
   void sendHeld();
-  double byteTime() const;
   int settlingTime() const;
 
   ChannelOpener& opener_;
@@ -154,10 +144,10 @@ class Conversation {
 
   State state_ = State::idle;
   /// The record on its way (recordAwaited), and whether somebody still wants it.
-  Record record_;
+  LineRecord record_;
   bool isWanted_ = false;
   /// One that is whole and not delivered yet.
-  std::optional<Record> whole_;
+  std::optional<LineRecord> whole_;
   /// Bytes of records that were given up and may still come, and whether any has since the last of
   /// them was given up.
   std::size_t owedBytes_ = 0;
@@ -165,7 +155,7 @@ class Conversation {
   /// A question had no answer: the next one that comes may be its own, and proves nothing.
   bool isQuestionOwed_ = false;
   /// Requests that wait for the line, the oldest first.
-  std::deque<Record> held_;
+  std::deque<LineRecord> held_;
 
   /// Questions put and not answered, the present one included.
   int unanswered_ = 0;

@@ -1,57 +1,26 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "LinePort.h"
 
-#include <utility>
-
-#include "Flag.h"
-
 namespace tracewell {
+
 LinePort::LinePort(ChannelOpener& opener, Clock& clock, Gate& gate,
                    const EventDispatcher& dispatcher, StandBy& standBy)
-    : SerialPort(gate), dispatcher_(dispatcher), conversation_(opener, clock, dispatcher, standBy) {
-  conversation_.delivered = [this](const Conversation::Record& record) { deliver(record); };
+    : SerialPort(gate), conversation_(opener, clock, dispatcher, standBy) {
+  conversation_.delivered = [this, &dispatcher](const LineRecord& record) {
+    dispatcher.dispatch([&] { dataReady.raise(record); });
+  };
 }
 
-void LinePort::prepareLine() {
-  conversation_.use(settings);
-  if (textMode) conversation_.abandon();
-}
-
-void LinePort::write(std::string_view bytes, Expects expects) {
-  if (expects == Expects::nothing)
-    conversation_.command(bytes);
-  else
-    request_ = bytes;
-}
-
-std::string LinePort::read() {
-  const int timeOut = readTimeOut > 0 ? readTimeOut : defaultReadTimeOut;
-  std::string line = conversation_.ask(request_, timeOut);
-  if (line.ends_with("\r\n")) line.erase(line.size() - 2, 1);
-  return line;
-}
-
-void LinePort::beginRead(int count) {
-  conversation_.request({.request = request_,
-                         .tag = tag,
-                         .stamp = stamp,
-                         .count = static_cast<std::size_t>(count),
-                         .bytes = {}});
-}
-
-void LinePort::reset() {
-  if (std::exchange(isJustDelivered_, false)) return;
+void LinePort::command(std::string_view line) {
   conversation_.abandon();
+  conversation_.command(line);
 }
 
-void LinePort::deliver(const Conversation::Record& record) {
-  dispatcher_.dispatch([&] {
-    tag = record.tag;
-    stamp = record.stamp;
-    // Over before the box of a failing handler runs events.
-    const Flag justDelivered(isJustDelivered_);
-    dataReady.raise(record.bytes);
-  });
+std::string LinePort::query(std::string_view line, int timeOut) {
+  conversation_.abandon();
+  std::string reply = conversation_.ask(line, timeOut > 0 ? timeOut : defaultReadTimeOut);
+  if (reply.ends_with("\r\n")) reply.erase(reply.size() - 2, 1);
+  return reply;
 }
 
 }  // namespace tracewell

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <string>
+#include <string_view>
+#include <utility>
 
 #include "Conversation.h"
 #include "SerialPort.h"
@@ -18,21 +20,15 @@ class LinePort : public SerialPort {
   std::int16_t openPort() const override { return conversation_.openSettings().portNumber; }
   int openings() const override { return conversation_.openings(); }
   LineReport report() const override { return conversation_.report(); }
-  void write(std::string_view bytes, Expects expects) override;
-  std::string read() override;
-  void beginRead(int count) override;
-  void reset() override;
+  void command(std::string_view line) override;
+  std::string query(std::string_view line, int timeOut) override;
+  void request(LineRecord record) override { conversation_.request(std::move(record)); }
+  void abandon() override { conversation_.abandon(); }
 
  private:
-  void prepareLine() override;
-  void deliver(const Conversation::Record& record);
+  void prepareLine() override { conversation_.use(settings); }
 
-  const EventDispatcher& dispatcher_;
   Conversation conversation_;
-  /// The line that read or beginRead sends.
-  std::string request_;
-  /// The next reset is the one that ends the record just delivered.
-  bool isJustDelivered_ = false;
 };
 
 }  // namespace tracewell

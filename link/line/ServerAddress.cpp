@@ -7,7 +7,6 @@
 #include <string_view>
 
 #include "FileError.h"
-#include "FileLimits.h"
 #include "Files.h"
 
 namespace tracewell {

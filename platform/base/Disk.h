@@ -7,25 +7,24 @@
 
 namespace tracewell {
 
-/// What the standard library cannot: waits until the disk itself holds what was written, and gives
-/// files away.
-/// Implemented by desktop/DesktopDisk.
+/// What the standard library cannot do: wait until the disk holds what was written, and give files
+/// away. Implemented by desktop/DesktopDisk.
 class Disk {
  public:
   virtual ~Disk() = default;
 
-  /// The content of a file that is open for writing and has been flushed by the library.
+  /// Flushes the content of a file that is open for writing and that the library has flushed.
   virtual std::error_code flush(std::FILE& file) = 0;
-  /// Of the one who runs the program for another, as an administrator: gives the file, which is
-  /// new and open for writing, to the owner of `like`, a file or a folder. Else, and where that
-  /// fails, it stays.
+  /// For an administrator who runs the program for another user: gives the file, which is new and
+  /// open for writing, to the owner of `like`, a file or a folder. Otherwise, or if that fails, the
+  /// file keeps its owner.
   virtual void takeOwner(std::FILE& file, const std::filesystem::path& like) = 0;
-  /// The names in a folder. No error where the file system has no such thing.
+  /// Flushes the names in a folder. No error if the file system cannot do that.
   virtual std::error_code flushFolder(const std::filesystem::path& folder) = 0;
 };
 
-/// The disk under every file that is written from now on; the caller's, and null for none. One for
-/// the process, since files are written before there is a program that could hand it on.
+/// The disk under every file that is written from now on; the caller's, null for none. The process
+/// has one, since files are written before there is a program that could hand it on.
 void useDisk(Disk* disk);
 /// Null for none.
 Disk* diskInUse();

@@ -39,9 +39,9 @@ class Error : public std::exception {
   std::string description_;
 };
 
-/// Thrown out of every wait, and by what would begin something, when the program has ended or is
-/// about to: the handler that meets it is over.
-/// Deliberately no Error, so that no trap logs it; the event dispatcher swallows it.
+/// Thrown out of every wait, and by everything that would begin something, when the program has
+/// ended or is about to. The handler that meets it is over. Deliberately no Error, so no trap logs
+/// it; the event dispatcher swallows it.
 struct ProgramEnded {};
 
 Error overflowError();

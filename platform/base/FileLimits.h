@@ -3,8 +3,8 @@
 
 #include <cstdint>
 
-/// The size that a file of each kind may have in bytes, far above any real one. Of the error log
-/// the last part of that size is read.
+/// The largest size of each kind of file in bytes, far above any real one. Of a larger error log
+/// the last part is read.
 namespace tracewell::fileLimit {
 
 inline constexpr std::uintmax_t kibibyte = 1024;
@@ -17,7 +17,7 @@ inline constexpr std::uintmax_t waveformData = 1024 * kibibyte;
 inline constexpr std::uintmax_t description = 256 * kibibyte;
 inline constexpr std::uintmax_t errorLog = 1024 * kibibyte;
 inline constexpr std::uintmax_t picture = kibibyte * 1024 * 32;
-/// Far above what the names and sums of the shipped files take.
+/// Far more than the names and sums of the shipped files take.
 inline constexpr std::uintmax_t shippedFiles = 64 * kibibyte;
 inline constexpr std::uintmax_t windowState = kibibyte;
 /// A `comN` that is no link to a device.

@@ -3,7 +3,7 @@
 
 namespace tracewell {
 
-/// True as long as it lives, unless somebody takes it back before.
+/// Keeps the flag true as long as it lives, unless someone clears it earlier.
 class Flag {
  public:
   explicit Flag(bool& flag) : flag_(flag) { flag_ = true; }

@@ -5,8 +5,8 @@
 #include <string>
 #include <string_view>
 
-/// Numbers and their texts. Integer state is 16-bit and every operation on it is checked; texts are
-/// read and written with "." as the point whatever the desktop's locale is.
+/// Numbers and their texts. Integer state is 16-bit, and every operation on it is checked. Texts
+/// have "." as the point, whatever the desktop's locale is.
 namespace tracewell {
 
 /// Nearest integer, ties to even. Raises "Overflow" outside -32768..32767 and for a NaN.
@@ -14,7 +14,7 @@ std::int16_t toInt16(double value);
 /// The same for the number in `text`; raises "Type mismatch" unless isNumeric(text).
 std::int16_t toInt16(std::string_view text);
 
-/// Checked 16-bit arithmetic: raises "Overflow" where the exact result does not fit.
+/// Checked 16-bit arithmetic: raises "Overflow" if the exact result does not fit.
 std::int16_t addInt16(std::int16_t a, std::int16_t b);
 std::int16_t mulInt16(std::int16_t a, std::int16_t b);
 
@@ -26,14 +26,15 @@ double checked(double value);
 /// a / b. Raises "Division by zero", and "Overflow" for 0 / 0 and for an infinite result.
 double divide(double a, double b);
 
-/// True for blanks around, one sign, digits with at most one point, an exponent; nothing else.
+/// True for one number: digits with at most one point. Blanks around it, one sign and an exponent
+/// are allowed, nothing else.
 bool isNumeric(std::string_view text);
 /// The number in `text`; raises "Type mismatch" unless isNumeric(text), "Overflow" if too large.
 double toDouble(std::string_view text);
 /// The longest number at the start of `text`: leading blanks are skipped, a blank or a letter ends
 /// it (so there is no exponent). 0 if there is none.
 double leadingNumber(std::string_view text);
-/// Whether there is one.
+/// Whether leadingNumber finds one.
 bool beginsWithNumber(std::string_view text);
 
 /// `text` without the blanks (not tabs, not line ends) at both ends.
@@ -44,7 +45,7 @@ std::string formatExponent(double value);
 /// Pattern "0.00": two decimals of the number at 15 significant digits, half away from zero, never
 /// "-0.00".
 std::string formatTwoDecimals(double value);
-/// The same with so many decimals; none leaves the point out.
+/// The same with `decimals` decimals; without any there is no point.
 std::string formatDecimals(double value, int decimals);
 /// The shortest decimal text that reads back as the same number, without an exponent.
 std::string numberText(double value);

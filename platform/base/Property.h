@@ -6,7 +6,8 @@
 
 namespace tracewell {
 
-/// Something that a view shows. The view puts its repaint here; without a view nothing happens.
+/// Something that a view shows. The view sets `changed` to its repaint; without a view nothing
+/// happens.
 class Observable {
  public:
   Observable() = default;
@@ -29,9 +30,9 @@ class Observable {
 template <class Value>
 class Property {
  public:
-  /// Told at every assignment whether the value is a new one.
+  /// Called at every assignment, with whether the value is new.
   using Assigned = std::function<void(bool isNew)>;
-  /// Raises the exception that refuses a value, before anything has changed.
+  /// Called before anything changes; raises the exception that refuses a value.
   using Check = std::function<void(const Value&)>;
 
   explicit Property(Observable& owner, Value initial = {}, Assigned assigned = {}, Check check = {})
@@ -50,7 +51,7 @@ class Property {
     return *this;
   }
 
-  /// Shows `value` without the control's reaction; returns whether it is a new one.
+  /// Shows `value` without the control's reaction. Returns whether it is new.
   bool setQuietly(Value value) {
     if (value == value_) return false;
     value_ = std::move(value);

@@ -13,12 +13,12 @@
 
 namespace tracewell {
 
-/// How far what a control shows is what the instrument has.
+/// How far a control shows what the instrument has.
 enum class Trust {
   holds,
-  /// The instrument did not tell this value, or something may have changed it since.
+  /// The instrument has not told this value, or something may have changed it since.
   unread,
-  /// It was right once, and belongs to what is no longer there.
+  /// It was right once, and belongs to something that is gone.
   stale
 };
 
@@ -44,15 +44,15 @@ class Control : public Observable {
 
   Property<bool> visible{*this, true};
   Property<bool> enabled{*this, true};
-  /// Asked whenever the control is painted; without it what is shown holds. It must not raise.
+  /// Called whenever the control is painted; without it the shown value holds. It must not raise.
   std::function<Trust()> trust;
-  /// What the view has painted last; the view's.
+  /// What the view painted last; belongs to the view.
   Trust painted = Trust::holds;
   /// The view marks it.
   bool isUnread() const { return trust && trust() == Trust::unread; }
   /// The view shows it pale.
   bool isStale() const { return trust && trust() == Trust::stale; }
-  /// Told when the user has chosen a value, before the control's own event.
+  /// Called when the user has chosen a value, before the control's own event.
   std::function<void()> chosen;
 
   /// Shows the control at once, although a handler is running.

@@ -9,8 +9,8 @@
 #include "Colour.h"
 #include "Control.h"
 
-/// The plain controls of every toolkit. What setting a property from code raises is said at each;
-/// what is not said raises nothing.
+/// The plain controls of every toolkit. Setting a property from code raises nothing, unless its
+/// comment says so.
 namespace tracewell {
 
 class Label : public CaptionedControl {
@@ -29,7 +29,7 @@ class ValueLabel : public Control {
   ValueLabel(Window& owner, std::string_view name, int index)
       : ValueLabel(owner, name, "", index) {}
   Property<std::string> caption;
-  /// What it says should be heeded. The view makes it stand out with the next caption.
+  /// Its text is a warning. The view makes it stand out from the next caption on.
   bool isWarning = false;
 };
 
@@ -37,7 +37,7 @@ class ValueLabel : public Control {
 class Frame : public CaptionedControl {
  public:
   using CaptionedControl::CaptionedControl;
-  /// The user wants what stands in it in another program.
+  /// The user wants to copy its content to another program.
   Event<> copied;
   void copy();
 };
@@ -51,7 +51,7 @@ class Button : public CaptionedControl {
   void press();
 };
 
-/// A button that says something of the program: the caption files leave it alone.
+/// A button whose text is the program's: the caption files leave it alone.
 class ValueButton : public Control {
  public:
   using Control::Control;
@@ -65,7 +65,7 @@ class Switch : public CaptionedControl {
  public:
   using CaptionedControl::CaptionedControl;
   Property<bool> value{*this};
-  /// Shows the state again: the widget has gone in or out by itself.
+  /// Shows the state again, since the widget has gone in or out by itself.
   void press();
 };
 
@@ -123,7 +123,7 @@ class ComboBox : public Control {
   /// Assigning makes listIndex follow quietly.
   Property<std::string> text;
   Event<> click;
-  /// Raised with what stands in the box while the user types, before any of it is taken.
+  /// Raised with the text of the box while the user types, before it is taken.
   Event<const std::string&> edited;
   /// The user changes a letter.
   void edit(const std::string& typed);

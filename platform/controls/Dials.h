@@ -31,7 +31,7 @@ class Slide : public CaptionedControl {
   struct Range {
     double minimum;
     double maximum;
-    /// What one press of an arrow key moves.
+    /// The step of one press of an arrow key.
     double step;
   };
 

@@ -22,7 +22,10 @@ auto& named(Parts& parts, std::string_view name) {
 }  // namespace
 
 Plot::Plot(std::string_view plotName, Colour colour, bool isVisible)
-    : visible(*this, isVisible), lineColour(*this, colour), name_(plotName) {}
+    : visible(*this, isVisible),
+      lineColour(*this, colour),
+      name_(plotName),
+      isReference_(!isVisible) {}
 
 void Plot::plotXvsY(std::span<const std::int16_t> x, std::span<const std::int16_t> y) {
   const auto count = static_cast<std::ptrdiff_t>(std::min(x.size(), y.size()));
@@ -92,6 +95,10 @@ bool Graph::drop(const std::filesystem::path& file) {
     fileDropped.raise(file);
   });
   return isTaken;
+}
+
+void Graph::removeReference(int number) {
+  userDoes([this, number] { referenceRemoved.raise(number); });
 }
 
 void Graph::dragCursor(Cursor& cursor, double x, double y) {

@@ -31,25 +31,30 @@ class Plot : public Observable {
   Property<Colour> lineColour;
   Property<int> lineStyle{*this, solidLine};
   Property<int> pointStyle{*this, noPoints};
-  /// There is something to see.
+  /// The scale that its source names; empty where none is.
+  Property<std::string> scale{*this};
+  /// Laid over the others by the user, who may take it away again.
+  bool isReference() const { return isReference_; }
+  /// Visible, with data.
   bool isShown() const { return visible() && !y_.empty(); }
-  /// Asked whenever the trace is painted: it is not what the instrument has under the settings that
-  /// the panel shows. The view shows it pale; pictures and pages do not.
+  /// Called whenever the trace is painted. True if the trace is not what the instrument has under
+  /// the settings that the panel shows. The view shows it pale; pictures and pages do not.
   std::function<bool()> pale;
   bool isPale() const { return pale && pale(); }
   /// How the view has painted it last; the view's.
   bool isPaintedPale = false;
 
-  /// Replaces the data; the shorter of the two arrays says how many points there are.
+  /// Replaces the data. The shorter of the two arrays sets the number of points.
   void plotXvsY(std::span<const std::int16_t> x, std::span<const std::int16_t> y);
   void plotXvsY(std::span<const std::int16_t> x, std::span<const double> y);
   const std::vector<double>& x() const { return x_; }
   const std::vector<double>& y() const { return y_; }
-  /// Told when plotXvsY has replaced the data.
+  /// Called when plotXvsY has replaced the data.
   std::function<void()> plotted;
 
  private:
   std::string name_;
+  bool isReference_;
   std::vector<double> x_;
   std::vector<double> y_;
 };
@@ -58,7 +63,7 @@ class Axis : public Observable {
  public:
   Axis(std::string_view axisName, double low, double high);
   const std::string& name() const { return name_; }
-  /// Asked whenever the caption is painted: what it says is counted in a scale that is not the
+  /// Called whenever the caption is painted. True if it is counted in a scale that is not the
   /// traces'. The view shows it pale.
   std::function<bool()> pale;
   bool isPale() const { return pale && pale(); }
@@ -81,7 +86,7 @@ class Cursor : public Observable {
   const std::string& name() const { return name_; }
   Property<bool> visible{*this};
   Property<CursorStyle> style{*this, CursorStyle::verticalLine};
-  /// Graph units. A line uses the one that it stands at.
+  /// Graph units. A line uses the coordinate that it stands at.
   Property<double> xPosition{*this};
   Property<double> yPosition{*this};
 
@@ -94,6 +99,7 @@ struct GraphParts {
   struct PlotPart {
     std::string_view name;
     Colour colour;
+    /// Others are references, and hidden at first.
     bool isVisible;
   };
   struct AxisPart {
@@ -117,7 +123,7 @@ class Graph : public Control {
   /// Plots are numbered from 1. Raises "Subscript out of range".
   Plot& plot(int number);
   const Plot& plot(int number) const;
-  /// Raise "Subscript out of range" where nothing has that name.
+  /// Raise "Subscript out of range" if nothing has that name.
   Axis& axis(std::string_view axisName);
   const Axis& axis(std::string_view axisName) const;
   Cursor& cursor(std::string_view cursorName);
@@ -127,19 +133,19 @@ class Graph : public Control {
   std::deque<Axis>& axes() { return axes_; }
   std::deque<Cursor>& cursors() { return cursors_; }
 
-  /// The view puts here how it lets go of the graph, which it else reaches until its own end.
+  /// Set by the view: makes it forget the graph, which it otherwise uses until its own end.
   std::function<void()> letGo;
 
   Property<Colour> plotAreaColour;
-  /// What stands beside the traces now. The view asks whenever it paints, so it must not raise;
-  /// where it changes without a change of the graph, notifyChanged says so.
+  /// What stands beside the traces now. The view calls it whenever it paints, so it must not raise.
+  /// If it changes without a change of the graph, call notifyChanged.
   std::function<GraphMarks()> marks;
-  /// Those that the view has painted last; the view's.
+  /// What the view painted last; belongs to the view.
   mutable GraphMarks paintedMarks;
-  /// The same for what lies at a point in graph units, under the pointer.
+  /// The same for the values at a point in graph units, under the pointer.
   std::function<std::vector<GraphMarks::Text>(double x, double y)> valuesAt;
 
-  /// Shown in a corner, for instance that the trace is a simulated one; empty for nothing.
+  /// Shown in a corner, for instance that the trace is simulated; may be empty.
   Property<std::string> note{*this};
 
   /// The view has the window to itself; set by the program.
@@ -150,13 +156,16 @@ class Graph : public Control {
   /// Raised by the view's own gesture for a larger or the normal view: a double click, or a key.
   Event<> enlargeToggled;
   void toggleEnlarged();
-  /// What the user may want of the graph in another program.
+  /// What the user may copy to another program.
   enum class Copied { pictureAndValues, picture, values };
   Event<Copied> copied;
   void copy(Copied what);
   /// The user has dropped a file on the graph. False while no handler may run: not taken yet.
   Event<const std::filesystem::path&> fileDropped;
   bool drop(const std::filesystem::path& file);
+  /// The user wants the reference of that number away.
+  Event<int> referenceRemoved;
+  void removeReference(int number);
   /// The user drags a cursor to a point in graph units.
   void dragCursor(Cursor& cursor, double x, double y);
 

@@ -6,8 +6,8 @@
 
 namespace tracewell {
 
-/// What the screen shows on a graph beside its traces and cursors; pictures and paper do not have
-/// it. Texts are ready ones, heights are graph units.
+/// What the screen, but not pictures and paper, shows on a graph beside its traces and cursors.
+/// Texts are final, heights are graph units.
 struct GraphMarks {
   /// In the colour of the plot of that number, or in the graph's own for 0.
   struct Text {
@@ -25,13 +25,22 @@ struct GraphMarks {
     bool operator==(const Side&) const = default;
   };
 
+  /// At the lower edge: what concerns all traces.
+  struct Banner {
+    std::string text;
+    bool isWarning = false;
+    bool operator==(const Banner&) const = default;
+  };
+
   std::vector<Side> sides;
-  /// Stand at the right ends of their traces.
+  /// Texts at the right ends of their traces.
   std::vector<Text> names;
-  /// Of the strip above the plot, which is read from afar.
+  /// Texts of the strip above the plot, which is read from afar.
   std::vector<Text> scales;
-  /// Lines of the badge beside the cursors; none while there is nothing to tell.
+  /// Lines of the badge beside the cursors; may be empty.
   std::vector<Text> badge;
+  /// No text while there is nothing to tell.
+  Banner banner;
 
   bool operator==(const GraphMarks&) const = default;
 };

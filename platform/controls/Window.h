@@ -11,8 +11,11 @@ namespace tracewell {
 
 class Control;
 
+/// How a dialog ended, for its opener.
+enum class Outcome { cancelled, accepted };
+
 /// A window without a screen: a name, a caption, and its controls in the order of their
-/// declaration. A desktop shows it in the form of the same name; a test works on it as it is.
+/// declaration. A desktop shows it in the form of the same name; a test works on it directly.
 class Window : public Observable {
  public:
   /// `name` is the system's own, for example "frmTrig"; `caption` the text of the title bar.
@@ -21,8 +24,8 @@ class Window : public Observable {
 
   const std::string& name() const { return name_; }
   Property<std::string> caption;
-  /// Free text between a dialog and its opener: how it ended, or what it is opened for.
-  std::string tag;
+  /// Each dialog says when it is set back; most do when they are shown.
+  Outcome outcome = Outcome::cancelled;
 
   /// In the order of declaration, which is the order of caption files.
   const std::vector<Control*>& controls() const { return controls_; }
@@ -38,8 +41,8 @@ class Window : public Observable {
   bool isLoaded() const { return isLoaded_; }
   bool isVisible() const { return isVisible_; }
   void load();
-  /// Returns when the window has been hidden. Throws ProgramEnded when the program has ended, be it
-  /// before or meanwhile.
+  /// Returns when the window has been hidden. Throws ProgramEnded if the program has ended, before
+  /// or meanwhile.
   void showModal();
   void show();
   void hide();
@@ -49,7 +52,7 @@ class Window : public Observable {
 
   /// The user closes the window with its title bar's button.
   void close();
-  /// As close, for the window whose closing ends the program: obeyed also while a handler waits.
+  /// Like close, for the window whose closing ends the program: obeyed even while a handler waits.
   void closeForGood();
 
   Services& services() const { return services_; }

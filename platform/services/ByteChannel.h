@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -17,6 +19,12 @@ struct LineSettings {
   std::int16_t dataBits = 8;
   std::int16_t stopBits = 0;
   std::int16_t parity = 0;
+
+  /// Milliseconds that so many bytes take, each with its start, parity and stop bits.
+  double timeOf(std::size_t bytes) const {
+    const int bits = 1 + dataBits + (parity == 0 ? 0 : 1) + (stopBits == 0 ? 1 : 2);
+    return 1000.0 * static_cast<double>(bytes) * bits / std::max(baudRate, 1);
+  }
 
   bool operator==(const LineSettings&) const = default;
 };
@@ -35,19 +43,20 @@ class ByteChannel {
   /// Puts all of `bytes` on the line; may return before they have been sent. Raises deviceError.
   virtual void write(std::string_view bytes) = 0;
 
-  /// All bytes that have arrived and were not yet read. If there are none, waits for the first one
-  /// up to `timeOut` milliseconds without running events; empty when none came. Raises deviceError
-  /// once the line is gone and everything that had arrived has been read.
+  /// Returns all bytes that have arrived and were not yet read. If there are none, waits up to
+  /// `timeOut` milliseconds for the first one without running events, and returns an empty text if
+  /// none arrives. Raises deviceError once the line is gone and everything that had arrived has
+  /// been read.
   virtual std::string read(int timeOut) = 0;
 
-  /// What arrives within so many milliseconds is announced at their end only: waking up for each
-  /// few bytes is what a long transfer costs most. The next read or rest ends it. A channel may
-  /// announce earlier all the same.
+  /// Announces bytes that arrive within so many milliseconds only at their end: waking up for each
+  /// few bytes is the main cost of a long transfer. The next read or rest ends it. A channel may
+  /// still announce earlier.
   virtual void rest(int milliseconds) { static_cast<void>(milliseconds); }
 
-  /// Called out of the event loop, never from inside write or read, when bytes have arrived or the
+  /// Called from the event loop, never from inside write or read, when bytes have arrived or the
   /// line has failed. The owner then calls read(0), and may destroy the channel before it returns.
-  /// May be called although nothing is there.
+  /// May be called without cause.
   std::function<void()> readable;
 };
 
@@ -57,9 +66,9 @@ class ChannelOpener {
  public:
   virtual ~ChannelOpener() = default;
 
-  /// The open channel, owned by the caller. Raises deviceError with the system's reason when there
-  /// is no such port, it is taken, or it may not be used, and the error of reading where a file
-  /// says what the number means and cannot be read.
+  /// Returns the open channel, owned by the caller. Raises deviceError with the system's reason if
+  /// there is no such port, it is taken, or it may not be used. If a file says what the number
+  /// means and cannot be read, raises the error of reading.
   virtual std::unique_ptr<ByteChannel> open(const LineSettings& settings) = 0;
 };
 

@@ -13,8 +13,8 @@ class Clipboard {
  public:
   virtual ~Clipboard() = default;
 
-  /// Replaces what was there. The other program takes what it can use: the text, UTF-8 with LF
-  /// between lines, or the picture. An empty one of the two is left out.
+  /// Replaces what was there. The other program takes what it can use: the text (UTF-8 with LF
+  /// between lines) or the picture. If one of them is empty it is left out.
   virtual void put(const std::string& text, const Image& picture) = 0;
 };
 

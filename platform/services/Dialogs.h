@@ -20,11 +20,11 @@ struct FileDialog {
 
 enum class Answer { Yes, No };
 
-/// The desktop's ready-made dialogs, all modal: a call returns when the user is done with it.
-/// Implemented by desktop/DesktopDialogs, and by tests/RecordingDialogs, in the private functions.
+/// The desktop's ready-made dialogs, all modal: a call returns when the user is done.
+/// desktop/DesktopDialogs and tests/RecordingDialogs implement the private functions.
 ///
-/// Those that ask the user throw ProgramEnded when the program has ended, be it before or while
-/// they were open: an answer that nobody has given is none.
+/// Dialogs that ask the user throw ProgramEnded if the program has ended before or while they were
+/// open: without the user there is no answer.
 class Dialogs {
  public:
   explicit Dialogs(const Gate& gate) : gate_(gate) {}
@@ -32,16 +32,16 @@ class Dialogs {
 
   Answer askYesNo(const std::string& prompt, const std::string& title);
 
-  /// Says that something went wrong and what the program has made of it.
+  /// Says what went wrong and what the program did about it.
   virtual void showMessage(const std::string& text) = 0;
 
   /// The box of the event dispatcher, for an error that no handler has trapped.
   virtual void showRunTimeError(const Error& error) = 0;
 
-  /// The path that the user picked. After Cancel it is `dialog.fileName` as given: a bare name,
-  /// which the caller then uses against the current folder.
+  /// Returns the path that the user picked. After Cancel it is `dialog.fileName` as given: a bare
+  /// name, which the caller then uses in the current folder.
   std::filesystem::path openFile(const FileDialog& dialog);
-  /// The same for a file to be written; asks before one that is there is replaced.
+  /// The same for a file to be written; asks before it replaces one.
   std::filesystem::path saveFile(const FileDialog& dialog);
 
   /// The colour that the user picked, or `initial` after Cancel.

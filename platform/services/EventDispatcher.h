@@ -9,20 +9,20 @@
 namespace tracewell {
 
 /// The one way from an outside event (a click, a tick, bytes from the line) into the program.
-/// Whatever a handler throws ends here.
+/// Everything that a handler throws ends here.
 class EventDispatcher {
  public:
   EventDispatcher(Gate& gate, Dialogs& dialogs) : gate_(gate), dialogs_(dialogs) {}
 
-  /// Runs `handler`, unless the gate is held or closed. An error that it does not trap is shown in
-  /// one box with its number and description; the program goes on.
+  /// Runs `handler`, unless the gate is held or closed. Shows an error that the handler does not
+  /// trap in one box, with number and description; the program goes on.
   void dispatch(const std::function<void()>& handler) const;
 
   /// Whether the program goes on.
   bool isOpen() const { return !gate_.isClosed(); }
 
   /// The same for the handler that ends the program. While the gate is held it is kept: the wait
-  /// ends (StandBy), and it runs as soon as the handler that waited has unwound.
+  /// ends (StandBy), and the kept handler runs as soon as the one that waited has unwound.
   void dispatchEnd(const std::function<void()>& handler) const;
 
  private:

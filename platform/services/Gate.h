@@ -6,12 +6,12 @@
 
 namespace tracewell {
 
-/// Whether anything may run and be begun. Every way into the program passes it (EventDispatcher),
-/// and so does what the program begins outside: transfers on the port, modal windows, dialogs that
-/// ask the user.
+/// Decides whether anything may run or begin. Every way into the program passes it
+/// (EventDispatcher), and so does everything that the program begins outside: transfers on the
+/// port, modal windows, dialogs that ask the user.
 ///
-/// It is open; or held, while a handler waits for the instrument and no other may run; or closed,
-/// once the program has ended.
+/// It is open; held, while a handler waits for the instrument and no other may run; or closed, once
+/// the program has ended.
 class Gate {
  public:
   Gate() = default;
@@ -35,10 +35,10 @@ class Gate {
     Gate& gate_;
   };
 
-  /// Keeps the handler that ends the program until whoever waits has unwound.
+  /// Keeps the handler that ends the program until the handler that waits has unwound.
   void keepEnd(std::function<void()> end) { end_ = std::move(end); }
   bool isEndDue() const { return static_cast<bool>(end_); }
-  /// The kept handler, which is forgotten; an empty one if there is none.
+  /// Returns the kept handler and forgets it; an empty one if there is none.
   std::function<void()> takeEnd() { return std::exchange(end_, {}); }
 
  private:

@@ -7,47 +7,45 @@
 
 namespace tracewell {
 
-/// What has gone wrong on the line, as facts; whoever shows them finds the words. Moments are
-/// milliseconds on Clock's scale. Another port number begins a new account; of it only the doubts
-/// are counted on.
+/// What has gone wrong on the line, as facts; the caller finds the words. Moments are milliseconds
+/// on Clock's scale. Another port number begins a new report; only the count of doubts goes on.
 struct LineReport {
   /// Something that has happened now and then.
   struct Tally {
     int inLastMinute = 0;
-    /// Of the last time, however long ago.
+    /// When it happened last, however long ago.
     std::optional<std::int64_t> lastAt;
   };
 
-  /// Bytes that belong to nothing that was asked, blanks apart.
+  /// Unasked bytes: they belong to no query or request. Blanks do not count.
   Tally unaskedBytes;
 
-  /// Records that had begun and stayed short, and how many bytes of how many the last one had.
+  /// Records that began and stayed short, and how many bytes of how many the last one had.
   Tally shortRecords;
   std::size_t cameOfRecord = 0;
   std::size_t lengthOfRecord = 0;
 
-  /// Records that were given up without a byte.
+  /// Records of which no byte arrived before they were given up.
   Tally missingRecords;
-  /// Records that came when one that had been given up was still owed: they answer nobody.
+  /// Records that arrived while one that had been given up was outstanding: they are discarded.
   Tally lateRecords;
-  /// Questions to which bytes came in time, and no line end; how many bytes the last time.
+  /// Queries that got bytes in time but no line end, and how many bytes the last time.
   Tally endlessReplies;
   std::size_t bytesOfEndlessReply = 0;
 
-  /// Since when records are asked for again and again, and none has come that could be handed out.
+  /// Since when records are requested repeatedly without one that could be delivered.
   std::optional<std::int64_t> noRecordSince;
-  /// The last record that was handed out.
+  /// When the last record was delivered.
   std::optional<std::int64_t> lastRecordAt;
 
-  /// Answers that were handed out and have become doubtful: bytes that nobody has asked for have
-  /// come behind the last one sooner than any answer may take. An instrument that answers twice,
-  /// the second time late, can so give each question the answer of the one before; hence all
-  /// answers of the series are in doubt, one question of which followed the answer before within
-  /// that time.
+  /// Replies that were returned and have become doubtful: unasked bytes arrived behind the last
+  /// one, within the longest time that a reply may take. An instrument that replies twice, the
+  /// second time late, can give each query the reply to the one before. So the whole series is in
+  /// doubt: all replies whose query followed the previous reply within that time.
   struct Doubt {
-    /// Grows by one each time, and never shrinks. At most once for the same last answer.
+    /// Grows by one each time and never shrinks; at most once for the same last reply.
     int times = 0;
-    /// What was handed out at these moments and in between is in doubt, the last time.
+    /// The last time, the replies returned at these moments and in between.
     std::int64_t firstAnswerAt = 0;
     std::int64_t lastAnswerAt = 0;
   };

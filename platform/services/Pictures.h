@@ -10,7 +10,7 @@ namespace tracewell {
 
 class Graph;
 
-/// What can be done with pictures. Implemented by desktop/DesktopPictures, and by
+/// Takes, marks, encodes and loads pictures. Implemented by desktop/DesktopPictures, and by
 /// tests/RecordingPictures.
 class Pictures {
  public:
@@ -19,7 +19,7 @@ class Pictures {
 
   virtual ~Pictures() = default;
 
-  /// The graph as the screen shows it, with `footnote` below. Raises an error when it is not shown.
+  /// The graph as the screen shows it, with `footnote` below. Raises an error if it is not shown.
   virtual Image graphImage(const Graph& graph, const std::string& footnote) = 0;
 
   /// `image` with `text` on it, its upper left corner at (x, y) in pixels.
@@ -30,8 +30,8 @@ class Pictures {
   virtual std::string encode(const Image& image, int format) = 0;
 
   /// The picture in a file of one of the formats bmp, gif, pcx, tif, png and jpg. Raises
-  /// fileNotFound or pathAccess as reading a file does, and an error that names the path for bytes
-  /// that are no such picture.
+  /// fileNotFound or pathAccess as readWholeFile does, and an error that names the path if the
+  /// bytes are no such picture.
   virtual Image load(const std::filesystem::path& path) = 0;
 };
 

@@ -11,7 +11,7 @@ namespace tracewell {
 /// The graph for paper: lines in graph units, and the texts around it.
 struct GraphPage {
   struct Trace {
-    /// Of the plot, from 1; a trace keeps its look whatever else is on the page.
+    /// Number of the plot, from 1; a trace keeps its look whatever else is on the page.
     int number = 1;
     std::string name;
     /// Graph units.
@@ -24,8 +24,8 @@ struct GraphPage {
   std::vector<Trace> traces;
 };
 
-/// The printer in use: the desktop's default one until set up otherwise, a PDF file where the user
-/// wants that. Implemented by desktop/DesktopPrinter, and by tests/RecordingPrinter.
+/// The printer in use: the desktop's default until set up otherwise, or a PDF file. Implemented by
+/// desktop/DesktopPrinter, and by tests/RecordingPrinter.
 ///
 /// Each print is a document of its own. A user who has no printer is asked to choose one; declining
 /// prints nothing. Raises an error with the reason when printing fails.

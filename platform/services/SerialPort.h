@@ -8,77 +8,66 @@
 
 #include "ByteChannel.h"
 #include "Gate.h"
+#include "LineRecord.h"
 #include "LineReport.h"
 #include "Property.h"
 
 namespace tracewell {
 
-/// The port to the instrument: command lines with their reply lines, and binary records of a known
-/// length. Implemented by LinePort, and by tests/ScriptedPort.
+/// The port to the instrument: commands, queries with their reply lines, and binary records.
+/// Implemented by LinePort, and by tests/ScriptedPort.
 ///
 /// Every operation may raise an Error; a missing reply raises number 30312 (portReadTimeOut), so
-/// that a silent instrument can be told from a broken line. While one waits no handler runs, the
-/// window stays alive, and ProgramEnded is thrown out of it when the end has been asked for. Only
-/// dataReady arrives out of the event loop.
+/// that a silent instrument can be told from a broken line. While a query waits no handler runs,
+/// the window stays alive, and ProgramEnded is thrown out of it when the end has been asked for.
+/// Only dataReady arrives out of the event loop.
 class SerialPort {
  public:
+  static constexpr int defaultReadTimeOut = 2000;
+
   explicit SerialPort(const Gate& gate) : gate_(gate) {}
   virtual ~SerialPort() = default;
 
   /// Takes effect at the next prepare. The same settings again leave an open line open.
   LineSettings settings;
-  /// Milliseconds that read waits for a whole reply; 0 or less means defaultReadTimeOut.
-  int readTimeOut = defaultReadTimeOut;
-  static constexpr int defaultReadTimeOut = 2000;
-  /// True while command lines are exchanged, false for a binary record.
-  bool textMode = true;
-  /// Free for the program. beginRead keeps it, and it is put back before that record's dataReady.
-  std::string tag;
-  /// Free for the program, like tag: beginRead keeps it, and it is put back before that record's
-  /// dataReady. A request that is left out, since one of its tag waits already, leaves no stamp.
-  std::int64_t stamp = 0;
 
-  /// Makes the line ready for a transfer and opens it if need be. In text mode it ends a record
-  /// still under way; in binary mode that goes on, and the next request waits for its end. Raises
-  /// deviceError if the line cannot be opened. Throws ProgramEnded once the program has ended.
+  /// Opens the line if need be; each of the transfers below wants one that is open. Raises
+  /// deviceError if it cannot be opened. Throws ProgramEnded once the program has ended.
   void prepare() {
     gate_.mustBeOpen();
     prepareLine();
   }
 
   /// The number of the port that was opened last, whatever `settings` say about the next one. At
-  /// dataReady it is the one that the record was asked for and has come on: what is on its way when
-  /// a line is closed is never delivered.
+  /// dataReady it is the port of the record: a record that is pending when a line is closed is
+  /// never delivered.
   virtual std::int16_t openPort() const = 0;
 
   /// How often a line has been opened; another instrument may be on it each time. At dataReady it
-  /// tells, as openPort does, the line of the record.
+  /// names the line of the record, as openPort does.
   virtual int openings() const = 0;
 
   /// What has gone wrong on the line lately.
   virtual LineReport report() const = 0;
 
-  /// What the instrument answers to a line.
-  enum class Expects { nothing, reply, record };
+  /// Sends a line, with its CR LF, to which nothing comes back. It does not wait. Gives up a record
+  /// that is on its way, as abandon does.
+  virtual void command(std::string_view line) = 0;
 
-  /// Sends the bytes of a command, at once. Those that expect an answer are sent by read or
-  /// beginRead, which know how it is to be awaited.
-  virtual void write(std::string_view bytes, Expects expects) = 0;
+  /// Sends a query, with its CR LF, and returns its reply line with the LF; a CR before the LF is
+  /// left out. Waits up to `timeOut` milliseconds for it (defaultReadTimeOut where that is 0 or
+  /// less), and before that for the answers to what was asked earlier, so that none of them is
+  /// taken for it. Gives up a record that is on its way, as abandon does.
+  virtual std::string query(std::string_view line, int timeOut) = 0;
 
-  /// Sends the query and returns its reply line with the LF; a CR before the LF is left out. Waits
-  /// up to readTimeOut for it, and before that for the answers to what was asked earlier, so that
-  /// none of them is taken for it.
-  virtual std::string read() = 0;
+  /// Requests a record; dataReady is raised with it when it is whole. While the line is busy the
+  /// request waits, one for each channel.
+  virtual void request(LineRecord record) = 0;
 
-  /// Requests a record of `count` bytes; dataReady is raised with it when it is whole. While the
-  /// line is busy the request waits, one for each tag.
-  virtual void beginRead(int count) = 0;
+  /// Nobody wants the records any longer that are on their way or wait for the line.
+  virtual void abandon() = 0;
 
-  /// Ends the transfer and drops what has arrived. The first one inside dataReady ends the record
-  /// just delivered and leaves a request that waits behind it in place.
-  virtual void reset() = 0;
-
-  Event<const std::string&> dataReady;
+  Event<const LineRecord&> dataReady;
 
  private:
   virtual void prepareLine() = 0;
@@ -99,14 +88,14 @@ class PortList {
     /// The device's name, for example "ttyUSB0" or "simulated instrument".
     std::string device;
   };
-  /// The ports that are there now, by rising number.
+  /// The ports that are there now, in ascending order.
   virtual std::vector<Entry> ports() = 0;
 
   /// The device that a number means, whether it is there now or not; empty for a number without
   /// one.
   virtual std::string deviceOf(std::int16_t number) = 0;
 
-  /// Whether its device could be opened, as far as that shows from outside.
+  /// Whether its device could be opened, as far as that shows without trying.
   enum class State { ready, absent, inUseElsewhere };
   virtual State stateOf(std::int16_t number) = 0;
 };

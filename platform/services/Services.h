@@ -17,7 +17,7 @@
 
 namespace tracewell {
 
-/// All that the program asks of the outside. Whoever fills it in owns the parts, and they outlive
+/// Everything that the program asks of the outside. The creator owns the parts, and they outlive
 /// the program.
 struct Services {
   Clock& clock;

@@ -9,21 +9,21 @@
 
 namespace tracewell {
 
-/// How a handler waits for the instrument: the window is painted and answers the desktop, the end
-/// of the session and Escape are obeyed, and no handler, tick or record runs inside.
+/// Lets a handler wait for the instrument. The window is painted and replies to the desktop; the
+/// end of the session and Escape are obeyed; no handler, tick or record runs inside.
 class StandBy {
  public:
-  /// Whoever waits calls turn at least so often. Milliseconds.
+  /// A waiting handler calls turn at least this often. Milliseconds.
   static constexpr int longestGap = 40;
 
   StandBy(Clock& clock, Gate& gate) : clock_(clock), gate_(gate) {}
   StandBy(const StandBy&) = delete;
 
-  /// Lets the desktop have its turn, if the last one is longestGap ago. Throws ProgramEnded when
-  /// the end of the program has been asked for meanwhile.
+  /// Lets the desktop run, if the last turn is longestGap ago. Throws ProgramEnded if the program
+  /// is to end.
   void turn();
 
-  /// The waits that a handler does one after the other. Giving up ends all of them.
+  /// A handler's waits, one after the other. Giving up ends all of them.
   class Burst {
    public:
     explicit Burst(StandBy& standBy) : standBy_(standBy) {
@@ -39,11 +39,11 @@ class StandBy {
     StandBy& standBy_;
   };
 
-  /// Told at each turn: what grows old does so while a handler waits. It may raise no event.
+  /// Called at each turn, so that ages go on while a handler waits. It must not raise events.
   std::function<void()> meanwhile;
 
   bool isInBurst() const { return bursts_ > 0; }
-  /// The user does not want to wait any longer. Without a burst it does nothing.
+  /// The user gives up the wait. Without a burst it does nothing.
   void giveUp() { isGivenUp_ = isInBurst(); }
   bool isGivenUp() const { return isGivenUp_; }
 

@@ -6,7 +6,7 @@ namespace tracewell {
 class Window;
 
 /// Puts windows on a screen. Implemented by desktop/DesktopWindows, and by tests/ScriptedWindows,
-/// where a script plays the user. The caller keeps every window that it passes.
+/// where a script plays the user. The caller owns every window that it passes.
 class WindowHost {
  public:
   virtual ~WindowHost() = default;
@@ -20,7 +20,7 @@ class WindowHost {
   /// Paints the window now, without running any other event.
   virtual void repaint(Window& window) = 0;
 
-  /// Hides the window for good and lets go of everything that stands for it on the screen.
+  /// Hides the window for good and deletes everything that stands for it on the screen.
   virtual void unload(Window& window) = 0;
 };
 

@@ -6,19 +6,19 @@
 
 namespace tracewell {
 
-/// What the panel says in words of its own, in the language in force: status line, hints, marks.
-/// The words of captions, messages and log lines are none of these; they come from the language
-/// files, or are English in every language.
+/// The panel's own words in the language in force: status line, hints, marks. Captions, messages
+/// and log lines are not among them; they come from the language files, or are English in every
+/// language.
 ///
-/// The desktop's one translates by Qt's means (desktop/DesktopWords.h); this one speaks English.
+/// This class speaks English; the desktop's translates with Qt (desktop/DesktopWords.h).
 class Words {
  public:
   Words() = default;
   virtual ~Words() = default;
   Words(const Words&) = delete;
 
-  /// The sentence `english` with `values` in the places of %1, %2, ... It is the key of its
-  /// translation, so it is written out where it is said, and never put together of parts.
+  /// Returns the sentence `english` with `values` for %1, %2, ... It is the key of its translation,
+  /// so write it out where it is said, and never assemble it from parts.
   std::string say(const char* english, std::initializer_list<std::string> values = {}) const;
 
   /// Language 1 to 5, as the setup table has it; English for any other.

@@ -14,7 +14,7 @@ void ErrorLog::ErrLog(const Error& error, const std::string& tag) {
   const std::string line = main_.services().clock.dateAndTime() + "  " + error.source() + " - " +
                            tag + error.description() + "\r\n";
   window_.txtErrLog.text = window_.txtErrLog.text() + line;
-  window_.showNewLines(window_.NewLogLines + 1);
+  window_.showNewLines(window_.newLogLines + 1);
 }
 
 }  // namespace tracewell

@@ -56,7 +56,7 @@ void frmErrLog::lblDSOCmd_DblClick() {
 }
 
 void frmErrLog::showNewLines(int count) {
-  NewLogLines = count;
+  newLogLines = count;
   const std::string number = std::to_string(count);
   main_.cmdNewErrors.caption = services().words.say("Error log: %1 new", {number});
   main_.cmdNewErrors.visible = count > 0;

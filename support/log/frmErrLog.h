@@ -22,7 +22,7 @@ class frmErrLog : public Window {
   /// Says in the main window how many lines nobody has seen yet.
   void showNewLines(int count);
   /// Lines that the log has got since it was last open.
-  int NewLogLines = 0;
+  int newLogLines = 0;
 
  private:
   void Form_Load();

@@ -4,8 +4,8 @@
 #include <algorithm>
 #include <array>
 
+#include "Error.h"
 #include "Files.h"
-#include "Numbers.h"
 
 namespace tracewell {
 namespace {

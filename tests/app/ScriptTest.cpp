@@ -11,6 +11,6 @@ TEST_P(ScriptTest, ComesToWhatStandsBelowIt) {
 
 INSTANTIATE_TEST_SUITE_P(Files, ScriptTest,
                          testing::Values("link.txt", "panel.txt", "view.txt", "files.txt",
-                                         "truth.txt", "log.txt"));
+                                         "truth.txt", "log.txt", "disk.txt"));
 
 }  // namespace tracewell

@@ -8,24 +8,6 @@
 
 namespace tracewell {
 
-TEST(Waiting, TimeOutsFollowBaudRateAndChannels) {
-  const std::tuple<std::int16_t, std::int16_t, std::int16_t, std::int16_t> cases[] = {
-      {19200, 1, 600, 150},  {9600, 2, 2400, 600}, {4800, 2, 4800, 1200},
-      {11000, 1, 1200, 300}, {14400, 1, 600, 150}, {19200, 0, 0, 0}};
-  ModuleState state;
-  for (const auto& [baudRate, channels, expected, expectedShort] : cases) {
-    state.BaudRate = baudRate;
-    state.ChanCount = channels;
-    EXPECT_EQ(ReplyTimeout(state), expected) << baudRate;
-    EXPECT_EQ(ShortReplyTimeout(state), expectedShort) << baudRate;
-  }
-  state.ChanCount = 1;
-  for (const std::int16_t rate : {std::int16_t{300}, std::int16_t{0}}) {
-    state.BaudRate = rate;
-    EXPECT_THROW(ReplyTimeout(state), Error);
-  }
-}
-
 TEST(Waiting, DelayLetsEventsRunAndLastsAtLeastOneMillisecondLonger) {
   Bench bench;
   bench.program.lifecycle.TestChar = 65;

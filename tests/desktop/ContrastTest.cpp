@@ -54,11 +54,7 @@ double contrastIn(const QImage& picture) {
 
 class ContrastTest : public MainFormTest {
  protected:
-  static void useTheme(bool isDark) {
-    QApplication::setPalette(QColor(isDark ? Qt::black : Qt::white));
-    applyTheme(*qApp);
-  }
-  ~ContrastTest() override { useTheme(false); }
+  ~ContrastTest() override { applyTheme(*qApp, Theme::light); }
 
   double contrastOf(QWidget& widget, const QRect& place) {
     return contrastIn(
@@ -99,16 +95,32 @@ class ContrastTest : public MainFormTest {
   }
 };
 
-TEST_F(ContrastTest, EverythingCanBeReadInBothThemes) {
+/// Black on white, as some desktops are set for those who see little.
+QPalette blackOnWhite() {
+  QPalette desktop(Qt::white, Qt::white);
+  for (const auto role : {QPalette::WindowText, QPalette::Highlight})
+    desktop.setColor(role, Qt::black);
+  return desktop;
+}
+
+TEST_F(ContrastTest, EverythingCanBeReadInEveryTheme) {
   main.lblStatus.caption = "Saved";
   main.lblNotice.caption = "kept aside";
   main.lblNotice.visible = true;
   main.lblAge.caption = "CH1: live";
   main.lblPort.caption = "port 0";
   main.lblMeasure(0).caption = "Vpp(1)";
-  for (const bool isDark : {false, true}) {
-    SCOPED_TRACE(isDark ? "dark" : "light");
-    useTheme(isDark);
+  const std::tuple<Theme, QPalette, bool> themes[] = {
+      {Theme::system, QPalette(QColor(0xef, 0xef, 0xef)), false},
+      {Theme::system, QPalette(QColor(0x23, 0x26, 0x29)), true},
+      {Theme::system, blackOnWhite(), false},
+      {Theme::light, blackOnWhite(), false},
+      {Theme::dark, {}, true},
+      {Theme::highContrast, {}, true}};
+  for (const auto& [theme, desktop, isDark] : themes) {
+    SCOPED_TRACE(testing::Message() << static_cast<int>(theme) << isDark);
+    applyTheme(*qApp, theme, desktop);
+    EXPECT_EQ(form->palette().color(QPalette::Window).lightness() < 128, isDark);
     for (const bool isStale : {true, false}) {
       SCOPED_TRACE(isStale ? "stale" : "known");
       for (Control* control : main.controls()) {

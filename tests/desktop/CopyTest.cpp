@@ -21,8 +21,7 @@ class CopyTest : public MainFormTest {
     };
     port.answerLikeAnInstrument();
     main.cmdStart.press();
-    port.tag = "1";
-    port.deliver(makeRecord([](int i) { return i; }));
+    port.deliver(1, makeRecord([](int i) { return i; }));
   }
 
   static const QMimeData& content() { return *QGuiApplication::clipboard()->mimeData(); }
@@ -66,6 +65,11 @@ TEST_F(CopyTest, KeyAndMenuCopyWhatIsShown) {
   EXPECT_TRUE(content().text().startsWith("Time (div)\tCH1 (div)\n-5\t0\n"));
   EXPECT_EQ(qvariant_cast<QImage>(content().imageData()).pixelColor(0, 0), QColor('g', 'r', 'a'));
   for (const int entry : {0, 1, 2}) chooseInMenuOf(graph, entry);
+  // Those that have something to show can be taken away one by one.
+  for (const int number : {3, 4, 6}) main.graphDSO.plot(number).visible = true;
+  for (const int number : {3, 6}) main.graphDSO.plot(number).plotXvsY(main.XIndex, main.XIndex);
+  chooseInMenuOf(graph, 4);
+  EXPECT_TRUE(main.graphDSO.plot(3).visible() && !main.graphDSO.plot(6).visible());
   main.lblMeasure(0).caption = "Freq1.000 kHz";
   QWidget& results = *find("fmMeasure");
   QTest::keyClick(&results, Qt::Key_C, Qt::ControlModifier);

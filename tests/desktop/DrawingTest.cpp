@@ -119,6 +119,13 @@ TEST_F(DrawingTest, TracesLieWhereTheirPointsAre) {
       EXPECT_EQ(find(colourOf(number)).height() > 3, style == Plot::dotPoints);
     }
   }
+  // Data alone, as a record brings them: that trace moves and the others stay.
+  for (const int number : {2, 1}) {
+    draw(number, {{-100, -60.0 * number}, {200, -60.0 * number}});
+    paint();
+    expectAt(colourOf(number), 50, -60 * number, at(200, 0).x() - at(-100, 0).x(), 5);
+    expectAt(colourOf(3), -50, 20, at(100, 0).x() - at(-200, 0).x(), 5);
+  }
 }
 
 TEST_F(DrawingTest, TriggerMarkPointsAtItsLevelAndStaysInside) {
@@ -264,6 +271,24 @@ TEST_F(DrawingTest, BadgeStandsBesideTheCursors) {
     else
       EXPECT_NEAR(one.top(), at(0, second).y() + 16, 6);
   }
+}
+
+TEST_F(DrawingTest, BannerStandsAtTheLowerEdgeInTheColourOfItsWeight) {
+  const QColor amber(255, 171, 64);
+  for (const bool isWarning : {false, true}) {
+    marks.banner = {"No record", isWarning};
+    graph.notifyChanged();
+    paint();
+    const QRect found = find(isWarning ? amber : QColor(0xe6, 0xeb, 0xef));
+    EXPECT_NEAR(found.center().x(), area.width() / 2, 2);
+    EXPECT_NEAR(found.bottom(), area.height() - 8, 4);
+    EXPECT_TRUE(found.height() < 40 && found.width() > 60 && found.width() < 160);
+    EXPECT_EQ(find(amber).isValid(), isWarning);
+  }
+  marks.banner.text = std::string(500, 'w');
+  graph.notifyChanged();
+  paint();
+  EXPECT_TRUE(area.rect().adjusted(4, 0, -4, 0).contains(find(amber)));
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <QColorDialog>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QMenu>
 #include <QProcess>
 #include <QScreen>
 #include <QTimer>
@@ -90,19 +91,22 @@ TEST(WindowState, WindowComesBackWhereItWasIfThatIsOnAScreen) {
   const fs::path file = folder.path() / "window.state";
   const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
   const QSize most = screen.size().boundedTo({1280, 800});
-  const std::pair<const char*, QRect> cases[] = {{"60,70,500,400,0\r\n", {60, 70, 500, 400}},
-                                                 {"60,70,500,400,1\r\n", {60, 70, 500, 400}},
-                                                 {"9000,-700,500,400,0\r\n", {}},
-                                                 {"60,70,0,400,0\r\n", {}},
-                                                 {"60,70,99999,99999,0\r\n", {}},
-                                                 {"60,70,500,400,0\r\n\r\n", {}},
-                                                 {"60,70,999999999999,400,0\r\n", {}},
-                                                 {"", {}}};
+  const std::pair<const char*, QRect> cases[] = {
+      {"60,70,500,400,0\r\n", {60, 70, 500, 400}},
+      {"60,70,500,400,1\r\n", {60, 70, 500, 400}},
+      {"60,70,500,400,0,contrast\r\n", {60, 70, 500, 400}},
+      {"9000,-700,500,400,0\r\n", {}},
+      {"60,70,0,400,0\r\n", {}},
+      {"60,70,99999,99999,0\r\n", {}},
+      {"60,70,500,400,0\r\n\r\n", {}},
+      {"60,70,999999999999,400,0\r\n", {}},
+      {"", {}}};
   for (const auto& [content, place] : cases) {
     SCOPED_TRACE(content);
     writeWholeFile(file, content);
     QWidget window;
-    WindowState(folder.path()).restore(window);
+    WindowState state(folder.path());
+    state.restore(window);
     EXPECT_TRUE(screen.contains(window.frameGeometry()));
     EXPECT_TRUE(!place.isValid() || window.geometry() == place);
     EXPECT_LE(window.width(), most.width());
@@ -113,7 +117,7 @@ TEST(WindowState, WindowComesBackWhereItWasIfThatIsOnAScreen) {
     QApplication::processEvents();
     EXPECT_EQ(window.geometry() == place, !window.isMaximized());
     fs::remove(file);
-    WindowState(folder.path()).keep(window);
+    state.keep(window);
     EXPECT_EQ(contentOf(file), content);
   }
   // Kept by the program itself at its end.
@@ -122,9 +126,11 @@ TEST(WindowState, WindowComesBackWhereItWasIfThatIsOnAScreen) {
     ASSERT_TRUE(desktop.start());
     QWidget* window = desktop.windows.widgetOf(desktop.program.main.graphDSO)->window();
     window->setGeometry(30, 50, 640, 480);
+    window->findChild<QMenu*>("theme")->actions()[2]->trigger();
+    EXPECT_LT(window->palette().color(QPalette::Window).lightness(), 128);
     desktop.program.main.closeForGood();
   }
-  EXPECT_EQ(contentOf(file), "30,50,640,480,0\r\n");
+  EXPECT_EQ(contentOf(file), "30,50,640,480,0,dark\r\n");
 }
 
 /// Does so with the dialog that is opened next.

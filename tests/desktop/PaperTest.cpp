@@ -114,6 +114,12 @@ TEST_F(PaperTest, PictureOfTheGraphTakesNotesWhereItIsClicked) {
     EXPECT_TRUE(pixel / plain.width >= 48 && pixel / plain.width < 80) << pixel;
   }
   EXPECT_GT(changed, 50);
+  // On a screen of 6K it is made as large as can be loaded again.
+  desktop.windows.widgetOf(graph)->resize(6016, 3384);
+  const Image large = desktop.pictures.graphImage(graph, "CH1 500.0 mV");
+  EXPECT_GT(large.width, 3000);
+  EXPECT_NEAR(static_cast<double>(large.height) / large.width, 3384.0 / 6016, 0.02);
+  EXPECT_FALSE(desktop.pictures.encode(large, Pictures::pcx).empty());
 }
 
 }  // namespace tracewell

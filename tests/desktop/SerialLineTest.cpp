@@ -58,10 +58,10 @@ TEST_F(SerialLineTest, MostOfARecordIsSleptThroughAndItsEndIsNot) {
   EXPECT_EQ(user.ask("*IDN?"), "KRM-410 SIMULATED\n");
   count = 0;
   const std::int64_t begin = clock.milliseconds();
-  user.request("2");
+  user.request(2);
   while (user.records.empty() && clock.milliseconds() < begin + 3000) QTest::qWait(1);
   ASSERT_FALSE(user.records.empty());
-  EXPECT_EQ(user.records[0].second.substr(0, 12), "KRM410 REC 2");
+  EXPECT_EQ(user.records[0].bytes.substr(0, 12), "KRM410 REC 2");
   const std::int64_t took = clock.milliseconds() - begin;
   // 1014 bytes at 19200 baud, and what the instrument thinks.
   EXPECT_GE(took, 528);

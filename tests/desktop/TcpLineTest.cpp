@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <QTcpServer>
+#include <QTcpSocket>
 #include <QTest>
 #include <QTimer>
 
@@ -36,7 +37,6 @@ class TcpLineTest : public DeviceLineTest {
 
   std::string failure() {
     try {
-      port.reset();
       port.prepare();
     } catch (const Error& error) {
       if (error.number() == portReadTimeOut) return "given up";

@@ -23,10 +23,4 @@ TEST_F(ReportTest, ShippedTemplateHasAPlaceForEveryValue) {
   }
 }
 
-TEST_F(ReportTest, PrinterThatFailsIsLogged) {
-  printer.isOutOfPaper = true;
-  main.mnbPrint.choose();
-  EXPECT_EQ(logLines(), Lines{"Printer - cmdPrint_Click : Out of paper"});
-}
-
 }  // namespace tracewell

@@ -19,22 +19,6 @@ class SetupFilesTest : public testing::Test, protected Bench {
   SetupTable& table = main.gridMeasure;
 };
 
-TEST_F(SetupFilesTest, WhatIsWrittenComesBack) {
-  program.setupFiles.WriteSetupFile(file);
-  EXPECT_EQ(contentOf(file), contentOf(folder.path() / "default.dso"));
-  for (int row = 0; row < 13; ++row) {
-    table.setText(row, 0, "Row " + std::to_string(row));
-    table.setText(row, 1, std::to_string(row));
-    for (int i = 0; i < row; ++i) table.setText(row, 2 + i, std::to_string(row * 100 + i));
-  }
-  program.setupFiles.WriteSetupFile(file);
-  const std::string bytes = contentOf(file);
-  EXPECT_TRUE(bytes.starts_with("RRow 0,0\r\nRow 1,1,100\r\n"));
-  table = SetupTable();
-  program.setupFiles.ReadSetupFile(file);
-  EXPECT_EQ((Lines{cell(0, 0), cell(12, 13), cell(5, 6)}), (Lines{"Row 0", "1211", "504"}));
-}
-
 /// What a later version keeps besides: a value in a row, and a row.
 TEST_F(SetupFilesTest, FilesOfEarlierVersionsAreTakenWholeAndGetWhatWasAdded) {
   auto design = SetupTable::shippedDesign();
@@ -82,20 +66,9 @@ TEST_F(SetupFilesTest, CountThatIsNoNumberFailsBeforeAnythingIsWritten) {
   table.setText(7, 1, "many");
   dialogs.pickedFile = file;
   main.mnbSaveSetup.choose();
+  EXPECT_EQ(dialogs.fileDialogs.back().initialFolder, folder.path());
   EXPECT_EQ(dialogs.runTimeErrors, Lines{"13 Type mismatch"});
   EXPECT_EQ(contentOf(file), "old");
-}
-
-TEST_F(SetupFilesTest, CancelMeansTheCurrentFolder) {
-  const fs::path before = fs::current_path();
-  fs::current_path(folder.path());
-  table.setText(0, 0, "kept");
-  main.mnbSaveSetup.choose();
-  table = SetupTable();
-  main.mnbLoadSetup.choose();
-  fs::current_path(before);
-  EXPECT_EQ(cell(0, 0), "kept");
-  EXPECT_EQ(dialogs.fileDialogs.back().initialFolder, folder.path());
 }
 
 TEST_F(SetupFilesTest, WhatCouldNotBeTakenWholeIsKept) {
@@ -146,36 +119,6 @@ TEST_F(SetupFilesTest, WhatCouldNotBeTakenWholeIsKept) {
   }
   EXPECT_FALSE(fs::exists(folder.path() / name));
   EXPECT_TRUE(dialogs.messages.empty());
-}
-
-TEST_F(SetupFilesTest, SetupThatAnotherProgramHasChangedIsKept) {
-  const fs::path setup = folder.path() / "default.dso";
-  const fs::path aside = folder.path() / "default.dso.bad";
-  const std::string theirs = "Rtheirs,1,1\r\n";
-  program.start();
-  table.setText(0, 0, "ours");
-  dialogs.pickedFile = setup;
-  main.mnbSaveSetup.choose();
-  EXPECT_FALSE(fs::exists(aside));
-  // The same as ours is no loss.
-  const std::string ours = contentOf(setup);
-  table.setText(0, 0, "later");
-  program.setupFiles.WriteSetupFile(setup);
-  table.setText(0, 0, "ours");
-  writeWholeFile(setup, ours);
-  program.setupFiles.WriteSetupFile(setup);
-  EXPECT_FALSE(fs::exists(aside));
-  const char* said =
-      "default.dso was changed by another program, and that is kept as default.dso.bad";
-  writeWholeFile(setup, theirs);
-  main.mnbSaveSetup.choose();
-  EXPECT_NE(main.lblStatus.caption().find(said), std::string::npos);
-  fs::remove(aside);
-  writeWholeFile(setup, theirs);
-  main.close();
-  EXPECT_EQ(dialogs.messages, Lines{said});
-  EXPECT_EQ(contentOf(setup), ours);
-  EXPECT_EQ(contentOf(aside), theirs);
 }
 
 /// As long as 32767 characters fit into a box.

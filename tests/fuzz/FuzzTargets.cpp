@@ -80,8 +80,8 @@ void report(const std::string& bytes) {
 }
 
 void record(const std::string& bytes) {
-  bench().port.tag = bytes.size() % 2 == 0 ? "1" : "2";
-  bench().program.acquisition.DataReady(bytes);
+  const std::int16_t channel = bytes.size() % 2 == 0 ? 1 : 2;
+  bench().program.acquisition.DataReady({.channel = channel, .bytes = bytes});
   shiftSamples(bytes, 100);
 }
 
@@ -89,10 +89,8 @@ void reply(const std::string& bytes) {
   OnALine<PacedOpener> line;
   line.opener.farEnd.byteTime = 0.001;
   line.opener.farEnd.answer = [&](const std::string&) { return bytes; };
-  line.port.readTimeOut = 100;
   line.port.prepare();
-  line.port.write("*IDN?\r\n", SerialPort::Expects::reply);
-  if (line.port.read().find('\n') == std::string::npos) std::abort();
+  if (line.port.query("*IDN?\r\n", 100).find('\n') == std::string::npos) std::abort();
 }
 
 /// What one input has left behind in the program is gone before the next one.

@@ -26,22 +26,4 @@ TEST_F(ConnectTest, SetupOfTheProgramHoldsFromItsStartOn) {
   EXPECT_TRUE(port.prepared.empty());
 }
 
-TEST_F(ConnectTest, ClosingReleasesThePanelThenSavesThenUnloads) {
-  const auto savedRow = [this] {
-    SetupTable table = std::exchange(main.gridMeasure, SetupTable());
-    program.setupFiles.ReadSetupFile(folder.path() / "default.dso");
-    return std::exchange(main.gridMeasure, std::move(table)).text(0, 0);
-  };
-  program.exchange.SendDSOCmd(":Run");
-  main.gridMeasure.setText(0, 0, "changed");
-  program.rs232.load();
-  port.resets = 0;
-  Lines events;
-  port.told = [&](const std::string& line) { events.push_back(line + " " + savedRow()); };
-  windows.unloaded = [&](Window& window) { events.push_back(window.name() + " " + savedRow()); };
-  main.cmdClose.press();
-  EXPECT_EQ(port.resets, 1);
-  EXPECT_EQ(events, (Lines{":SYST:UNL RS232", "frmRS232 changed", "frmDSO changed"}));
-}
-
 }  // namespace tracewell

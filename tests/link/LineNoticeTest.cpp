@@ -42,13 +42,19 @@ TEST_F(LineNoticeTest, SaysWhatIsWrongOnTheLineAsLongAsItIs) {
   clock.run(3000);
   EXPECT_EQ(main.lblStatus.caption(), "");
   clock.run(2500);
-  EXPECT_EQ(main.lblStatus.caption(), "No record for 5 s");
+  EXPECT_EQ(main.graphDSO.marks().banner.text, "No record for 5 s");
+  port.lineReport.unaskedBytes.inLastMinute = 1;
+  clock.run(1000);
   main.status.tell(StatusLine::happened, [](const Words&) { return "Copied"; });
-  clock.run(2000);
-  EXPECT_EQ(main.lblStatus.caption(), "Copied; No record for 7 s");
+  port.lineReport.unaskedBytes.inLastMinute = 3;
+  clock.run(1000);
+  EXPECT_EQ(main.lblStatus.caption(), "Copied; Bytes that nobody asked for: 3 in a minute");
+  EXPECT_EQ(main.graphDSO.marks().banner.text, "No record for 7 s");
+  port.lineReport.unaskedBytes.inLastMinute = 0;
   main.tmDSO.enabled = false;
   clock.run(600);
   EXPECT_EQ(main.lblStatus.caption(), "Copied");
+  EXPECT_EQ(main.graphDSO.marks().banner.text, "");
 }
 
 }  // namespace tracewell

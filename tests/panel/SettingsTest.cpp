@@ -1,27 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Bench.h"
-#include "ScaleTables.h"
 
 namespace tracewell {
 
 using SettingsTest = ProgramTest;
-
-TEST(Scales, EndsOfTheTables) {
-  EXPECT_EQ(ScaleCommandForKnob(ScaleKnob::Chan2, 9.5), ":CHAN2:SCAL 5");
-  EXPECT_EQ(ScaleCommandForKnob(ScaleKnob::Time, 28), ":TIM:SCAL 5");
-  EXPECT_THROW(ScaleCommandForKnob(ScaleKnob::Chan1, 11), Error);
-  EXPECT_THROW(ScaleCommandForKnob(ScaleKnob::Time, -1), Error);
-  EXPECT_EQ(ScaleStepForReply(ScaleKnob::Chan1, "100.0 MV"), std::nullopt);
-}
-
-TEST(Scales, ParsedCaptions) {
-  const std::pair<const char*, double> cases[] = {
-      {"2.000 mV", 0.002}, {"1.000 V", 1}, {"5.000 us", 5e-6}, {"500.0 ns", 500},
-      {"100mV", 0.1},      {"", 0},        {"m", 0},           {"-2.00 V", -2},
-      {"Null", 0}};
-  for (const auto& [caption, expected] : cases)
-    EXPECT_DOUBLE_EQ(ParseScaleCaption(caption), expected);
-}
 
 /// The tick count wraps during the waits of autoset and start.
 TEST_F(SettingsTest, WhatDoesNotFitIsLogged) {

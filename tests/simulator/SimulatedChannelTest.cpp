@@ -27,26 +27,24 @@ TEST(SimulatedChannel, AbandonedRecordsLeaveNothingBehind) {
     PortUser user(line.port);
     line.port.settings.baudRate = baudRate;
     const int recordTime = 1014 * 10 * 1000 / baudRate;
-    user.request("1");
+    user.request(1);
     line.clock.run(recordTime / 3);
     EXPECT_EQ(user.ask("*IDN?"), "KRM-410 SIMULATED\n");
 
-    user.request("2");
+    user.request(2);
     line.clock.run(recordTime / 2);
-    line.port.reset();
+    line.port.abandon();
     user.send(":CHAN1:SCAL 2");
-    line.port.reset();
     EXPECT_EQ(user.ask(":CHAN1:SCAL?"), "2.000 V\n");
 
-    user.request("1");
+    user.request(1);
     line.clock.run(recordTime / 4);
     user.send(":CHAN1:SCAL 5E-1");
-    line.port.reset();
-    user.request("2");
+    user.request(2);
     line.clock.run(2 * recordTime + 3100);
     ASSERT_EQ(user.records.size(), 1u);
-    EXPECT_EQ(user.records[0].first, "2");
-    EXPECT_EQ(user.records[0].second.substr(0, 12), "KRM410 REC 2");
+    EXPECT_EQ(user.records[0].channel, 2);
+    EXPECT_EQ(user.records[0].bytes.substr(0, 12), "KRM410 REC 2");
   }
 }
 
@@ -81,7 +79,7 @@ TEST_F(BuiltInInstrument, BothTracesRunAndThePlugMayBePulled) {
   for (const int number : {1, 2}) EXPECT_EQ(main.graphDSO.plot(number).y().size(), 500u);
   // A port chosen while a record comes has nothing to do with that record.
   port.settings.portNumber = 33;
-  port.dataReady.raise(main.Ch1Raw);
+  port.dataReady.raise({.channel = 1, .bytes = main.Ch1Raw});
   EXPECT_EQ(main.graphDSO.note(), "SIMULATED");
   clock.run(3000);
   EXPECT_EQ(main.graphDSO.note(), "");

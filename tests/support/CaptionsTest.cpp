@@ -14,15 +14,6 @@ class CaptionsTest : public testing::Test, protected Bench {
   void writeCaptions(const std::string& bytes) {
     writeWholeFile(folder.path() / "dso_la1.cap", bytes);
   }
-  /// What starting says, if it fails.
-  std::string start() {
-    try {
-      program.start();
-      return "";
-    } catch (const Error& error) {
-      return error.description();
-    }
-  }
 };
 
 /// Windows, controls and caption lines agree, in their order, in all five languages; the first two
@@ -56,7 +47,7 @@ TEST_F(CaptionsTest, ShippedFilesNameEveryWindowAndControlInOrder) {
 }
 
 TEST_F(CaptionsTest, DumpedSectionIsACaptionFileOfItsWindow) {
-  start();
+  program.start();
   program.rs232.lblRS232(0).caption = "A, b";
   program.captions.DumpCaptions(program.rs232);
   program.rs232.lblRS232(0).caption = "x";
@@ -100,17 +91,15 @@ TEST_F(CaptionsTest, FileThatCannotBeUsedIsOneErrorThatNamesIt) {
   int refused = 0;
   for (const std::string& bytes : files) {
     writeCaptions(bytes);
-    try {
-      program.captions.LoadCaptions();
-    } catch (const Error& error) {
-      ++refused;
-      EXPECT_NE(error.description().find("dso_la1.cap"), std::string::npos);
-    }
+    const std::string error = errorOf([this] { program.captions.LoadCaptions(); });
+    if (error.empty()) continue;
+    ++refused;
+    EXPECT_NE(error.find("dso_la1.cap"), std::string::npos);
   }
   EXPECT_GE(refused, 300);
   EXPECT_LT(refused, std::ssize(files));
   writeCaptions("//");
-  EXPECT_NE(start(), "");
+  EXPECT_NE(errorOf([this] { program.start(); }), "");
 }
 
 TEST_F(CaptionsTest, MessagesKeepTheirCommasAndNeedThirteenLines) {
@@ -140,7 +129,7 @@ TEST_F(CaptionsTest, MessagesKeepTheirCommasAndNeedThirteenLines) {
               (Lines{"text, 0 ", "text, 12 ", ""}));
   }
   std::filesystem::remove(folder.path() / "dso_la1.msg");
-  EXPECT_TRUE(start().ends_with("dso_la1.msg"));
+  EXPECT_TRUE(errorOf([this] { program.start(); }).ends_with("dso_la1.msg"));
 }
 
 }  // namespace tracewell

@@ -73,5 +73,23 @@ class AliveTest(SystemTestCase):
         self.assertEqual(self.program.process.returncode, 0)
 
 
+class SlowFolderTest(SystemTestCase):
+    """A folder whose list takes seconds to come, as over a network."""
+
+    def test_slow_folder(self):
+        program = self.make_program(0)
+        program.make_known()
+        slow = ["-D", "-f", "-o", program.folder / "calls", "-P", program.folder,
+                "-e", "trace=getdents64", "-e", "inject=getdents64:delay_enter=3000000"]
+        started = program.command()
+        program.command = lambda: ["strace", *slow, *started]
+        program.start()
+        program.click("frmDSO.cmdLoad")
+        gap = Desktop().longest_gap(program.window, 2)
+        self.assertLess(gap, LONGEST_GAP_HERE * strain())
+        self.assertFalse(program.windows("Load Waveform"))
+        program.find("Load Waveform")
+
+
 if __name__ == "__main__":
     main()

@@ -112,7 +112,8 @@ class Program:
 
     def __init__(self, port):
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="tracewell-system-"))
-        shutil.copy(TRACEWELL, self.folder)
+        for file in (TRACEWELL, *pathlib.Path(TRACEWELL).parent.glob("tracewell-*.so")):
+            shutil.copy(file, self.folder)
         for file in pathlib.Path(DATA).iterdir():
             shutil.copy(file, self.folder)
         self.setup = self.folder / "default.dso"

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "TraceBanner.h"
 #include "TraceMarks.h"
 #include "TrueUnits.h"
 
@@ -40,6 +41,16 @@ void addMathName(std::vector<GraphMarks::Text>& names, const frmDSO& main, const
   const std::optional<int> entry = channel.record.madeUnder.mathEntry;
   if (entry && channel.isDisplayed && hasTrace(channel))
     names.push_back({channel.number, main.cbMath.items().at(static_cast<std::size_t>(*entry))});
+}
+
+/// Nothing else tells at which scale a reference was made.
+void addReferenceName(std::vector<GraphMarks::Text>& names, const frmDSO& main, int number) {
+  const Plot& plot = main.graphDSO.plot(number);
+  const Words& words = main.services().words;
+  if (!plot.isShown()) return;
+  names.push_back({number, plot.scale().empty()
+                               ? words.say("%1: scale not known", {plot.name()})
+                               : words.say("%1: %2 in its file", {plot.name(), plot.scale()})});
 }
 
 /// A phase between two sweeps means nothing.
@@ -95,11 +106,10 @@ GraphMarks screenMarks(const frmDSO& main) {
   }
   if (main.known.secondsPerDivision())
     marks.scales.push_back({0, *main.known.caption(Setting::timeBase)});
-  for (int number = ScopeGraph::firstReference; number <= ScopeGraph::plotCount; ++number) {
-    const Plot& plot = main.graphDSO.plot(number);
-    if (plot.isShown()) marks.names.push_back({number, plot.name()});
-  }
+  for (int number = ScopeGraph::firstReference; number <= ScopeGraph::plotCount; ++number)
+    addReferenceName(marks.names, main, number);
   marks.badge = badge(main);
+  marks.banner = traceBanner(main);
   return marks;
 }
 

@@ -13,6 +13,24 @@ std::int64_t now(const frmDSO& main) {
   return main.services().clock.milliseconds();
 }
 
+bool isKnownAndSame(std::optional<double> made, std::optional<double> present) {
+  return made && made == present;
+}
+
+std::string traceAge(const frmDSO& main, const Channel& channel) {
+  const Words& words = main.services().words;
+  const std::string& name = channel.display.caption();
+  if (!isOfThisLine(main, channel)) return words.say("%1: no record yet", {name});
+  if (isOld(main, channel) || !main.tmDSO.enabled()) return ageText(words, channel, now(main));
+  if (channel.record.sweepAt != channel.record.fetchedAt)
+    return unchangedText(words, channel, now(main));
+  // Nothing live comes of an instrument that was stopped.
+  return channel.record.madeUnder.stop ? ageText(words, channel, now(main))
+                                       : words.say("%1: live", {name});
+}
+
+}  // namespace
+
 bool isOfThisLine(const frmDSO& main, const Channel& channel) {
   return !channel.record.bytes.empty() && channel.record.line == main.known.presentLine();
 }
@@ -21,37 +39,28 @@ bool isOld(const frmDSO& main, const Channel& channel) {
   return now(main) - channel.record.fetchedAt > oldAfter * recordPeriod(main);
 }
 
-bool isKnownAndSame(std::optional<double> made, std::optional<double> present) {
-  return made && made == present;
-}
-
-std::string unchangedText(const Words& words, const std::string& name, std::int64_t seconds) {
-  return seconds < 120
-             ? words.say("%1: unchanged for %2 s", {name, std::to_string(seconds)})
-             : words.say("%1: unchanged for %2 min", {name, std::to_string(seconds / 60)});
-}
-
-std::string ageText(const Words& words, const std::string& name, std::int64_t seconds) {
+std::string ageText(const Words& words, const Channel& channel, std::int64_t now) {
+  const std::string& name = channel.display.caption();
+  const std::int64_t seconds = (now - channel.record.fetchedAt) / 1000;
   return seconds < 120
              ? words.say("%1: last record %2 s ago", {name, std::to_string(seconds)})
              : words.say("%1: last record %2 min ago", {name, std::to_string(seconds / 60)});
 }
 
-std::string traceAge(const frmDSO& main, const Channel& channel) {
-  const Words& words = main.services().words;
+std::string unchangedText(const Words& words, const Channel& channel, std::int64_t now) {
   const std::string& name = channel.display.caption();
-  if (!isOfThisLine(main, channel)) return words.say("%1: no record yet", {name});
-  const auto secondsSince = [&main](std::int64_t then) { return (now(main) - then) / 1000; };
-  const std::int64_t sinceRecord = secondsSince(channel.record.fetchedAt);
-  if (isOld(main, channel) || !main.tmDSO.enabled()) return ageText(words, name, sinceRecord);
-  if (channel.record.sweepAt != channel.record.fetchedAt)
-    return unchangedText(words, name, secondsSince(channel.record.sweepAt));
-  // Nothing live comes of an instrument that was stopped.
-  return channel.record.madeUnder.stop ? ageText(words, name, sinceRecord)
-                                       : words.say("%1: live", {name});
+  const std::int64_t seconds = (now - channel.record.sweepAt) / 1000;
+  return seconds < 120
+             ? words.say("%1: unchanged for %2 s", {name, std::to_string(seconds)})
+             : words.say("%1: unchanged for %2 min", {name, std::to_string(seconds / 60)});
 }
 
-}  // namespace
+std::int64_t millisecondsWithoutRecord(const frmDSO& main) {
+  const std::optional<std::int64_t> since = main.services().port.report().noRecordSince;
+  if (!main.tmDSO.enabled() || !since) return 0;
+  const std::int64_t passed = now(main) - *since;
+  return passed > oldAfter * recordPeriod(main) ? passed : 0;
+}
 
 bool hasTrace(const Channel& channel) {
   return channel.plot.isShown() && !channel.record.bytes.empty();
@@ -86,8 +95,7 @@ std::optional<double> zeroOf(const frmDSO& main, const Channel& channel) {
 
 std::int64_t recordPeriod(const frmDSO& main) {
   const LineSettings& line = main.services().port.settings;
-  const int bits = 1 + line.dataBits + (line.parity == 0 ? 0 : 1) + (line.stopBits == 0 ? 1 : 2);
-  const int record = 1000 * WaveformRecord::byteCount * bits / std::max<int>(line.baudRate, 1);
+  const int record = static_cast<int>(line.timeOf(WaveformRecord::byteCount));
   const auto channels = std::ranges::count(main.channels, true, &Channel::isDisplayed);
   return std::max<std::int64_t>(channels, 1) * std::max(record, frmDSO::tickInterval);
 }

@@ -26,6 +26,21 @@ std::optional<double> zeroOf(const frmDSO& main, const Channel& channel);
 /// the line, at least the interval of the requests, for each channel that is displayed.
 std::int64_t recordPeriod(const frmDSO& main);
 
+/// The trace came over the present connection.
+bool isOfThisLine(const frmDSO& main, const Channel& channel);
+
+/// Milliseconds without a record while records are asked for; 0 as long as that is nothing special.
+std::int64_t millisecondsWithoutRecord(const frmDSO& main);
+
+/// The channel's record came longer ago than another one should have taken.
+bool isOld(const frmDSO& main, const Channel& channel);
+
+/// When the channel's record came; `now` in milliseconds of Clock.
+std::string ageText(const Words& words, const Channel& channel, std::int64_t now);
+
+/// How long the channel's record has been the same one; `now` in milliseconds of Clock.
+std::string unchangedText(const Words& words, const Channel& channel, std::int64_t now);
+
 /// The trace came from another instrument, came long ago, or was made under settings that are not
 /// those in force, or are not known.
 bool isPale(const frmDSO& main, const Channel& channel);

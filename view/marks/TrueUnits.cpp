@@ -2,7 +2,6 @@
 #include "TrueUnits.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 #include "Graph.h"

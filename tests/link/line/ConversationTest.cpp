@@ -16,15 +16,15 @@ namespace {
 class LineScript : OnALine<PacedOpener> {
  public:
   LineScript() {
-    port.readTimeOut = 300;
+    user_.timeOut = 300;
     farEnd.answer = [this](const std::string& line) {
       note("> " + line);
       return answer(line);
     };
-    port.dataReady = [this](const std::string& data) {
-      const std::size_t own = static_cast<std::size_t>(std::ranges::count(data, port.tag.at(0)));
-      note("record " + port.tag + " " + std::to_string(own) + under());
-      port.reset();
+    port.dataReady = [this](const LineRecord& record) {
+      const std::string channel = std::to_string(record.channel);
+      const auto own = std::ranges::count(record.bytes, channel.at(0));
+      note("record " + channel + " " + std::to_string(own) + under(record));
     };
   }
 
@@ -45,14 +45,14 @@ class LineScript : OnALine<PacedOpener> {
     if (name.ends_with('?')) ask(name);
     if (name == "ask")
       for (int i = 1; i <= number; ++i) ask("Q" + std::to_string(i) + "?");
-    if (name == "record") user_.request(value);
-    if (name == "stamp") port.stamp = std::stoll(value);
+    if (name == "record") user_.request(static_cast<std::int16_t>(number));
+    if (name == "stamp") user_.stamp = std::stoll(value);
     if (name == "run") clock.run(static_cast<int>(number));
     if (name == "sleep") clock.sleep(static_cast<int>(number));
-    if (name == "reset") port.reset();
+    if (name == "reset") port.abandon();
     if (name == "port") port.settings.portNumber = static_cast<std::int16_t>(number);
     if (name == "parity") port.settings.parity = static_cast<std::int16_t>(number);
-    if (name == "time") port.readTimeOut = static_cast<int>(number);
+    if (name == "time") user_.timeOut = static_cast<int>(number);
     if (name == "thought") farEnd.thought = number;
     if (name == "byte") farEnd.byteTime = number;
     if (name == "free") farEnd.lineFreeAt = 0;
@@ -75,9 +75,9 @@ class LineScript : OnALine<PacedOpener> {
   }
 
   /// The stamp, if there is one, and the line.
-  std::string under() const {
-    if (port.stamp == 0) return "";
-    return " of " + std::to_string(port.stamp) + " on " + std::to_string(port.openPort()) + "/" +
+  std::string under(const LineRecord& record) const {
+    if (record.stamp == 0) return "";
+    return " of " + std::to_string(record.stamp) + " on " + std::to_string(port.openPort()) + "/" +
            std::to_string(port.openings());
   }
 

@@ -6,6 +6,7 @@
 #include <random>
 
 #include "Bench.h"
+#include "MeasurementItems.h"
 #include "Numbers.h"
 #include "PacedChannel.h"
 #include "PortUser.h"
@@ -166,7 +167,8 @@ class Trial : BenchOf<OnALine<PacedOpener>> {
   }
 
   void ask() {
-    const ShortTimeOut shortTimeOut(main, static_cast<std::int16_t>(1 + below(3)));
+    const ShortTimeOut shortTimeOut(main.state, program.exchange,
+                                    static_cast<std::int16_t>(1 + below(3)));
     const std::string mine = std::to_string(1000 + ++asked_ % 9000);
     const std::string query = ":Q" + mine + "?";
     instrument_.sent.clear();
@@ -255,16 +257,16 @@ class LateTrial : OnALine<PacedOpener> {
     port.settings.stopBits = isSlowFrame ? 2 : 0;
     instrument_.byteTime = (isSlowFrame ? 12000.0 : 10000.0) / baudRate;
     instrument_.lateness = [this, late] { return late.at(static_cast<int>(clock.milliseconds())); };
-    port.dataReady = [this](const std::string& data) {
-      ++(data == instrument_.sent[":ACQ" + port.tag + ":POIN"] ? right : wrong);
-      port.reset();
+    port.dataReady = [this](const LineRecord& record) {
+      const std::string request = ":ACQ" + std::to_string(record.channel) + ":POIN";
+      ++(record.bytes == instrument_.sent[request] ? right : wrong);
     };
   }
 
   /// A tick each 1.2 seconds, as the program's; every so many of them a question.
   void run(int ticks, int ticksToAQuestion) {
     for (int tick = 1; tick <= ticks; ++tick) {
-      user_.request(tick % 2 == 0 ? "2" : "1");
+      user_.request(tick % 2 == 0 ? 2 : 1);
       clock.run(1200);
       if (ticksToAQuestion == 0 || tick % ticksToAQuestion != 0) continue;
       const std::string reply = user_.ask(":CHAN1:OFFS?");

@@ -14,14 +14,6 @@ namespace fs = std::filesystem;
 
 class FilesTest : public testing::Test, protected Bench {
  protected:
-  static std::string errorOf(const std::function<void()>& action) {
-    try {
-      action();
-    } catch (const Error& error) {
-      return error.description();
-    }
-    return "";
-  }
   std::size_t entries() const {
     return static_cast<std::size_t>(std::distance(fs::directory_iterator(folder.path()), {}));
   }
@@ -97,12 +89,12 @@ TEST_F(FilesTest, WhatADiskMayNotHoldIsSaidAndLeavesNothingBehind) {
   FullDisk disk;
   useDisk(&disk);
   const std::string place = ": " + pathText(file) + " (Input/output error)";
-  EXPECT_EQ(errorOf([&] { writeWholeFile(file, "new"); }), "Cannot write" + place);
+  EXPECT_EQ(errorOf([&] { writeWholeFile(file, "new"); }), "61 Cannot write" + place);
   EXPECT_EQ(contentOf(file), "old");
   EXPECT_EQ(entries(), before);
   disk.isFileFailing = false;
   EXPECT_EQ(errorOf([&] { writeWholeFile(file, "new"); }),
-            "Written, but perhaps not for good" + place);
+            "61 Written, but perhaps not for good" + place);
   useDisk(nullptr);
   EXPECT_EQ(contentOf(file), "new");
   EXPECT_EQ(entries(), before);

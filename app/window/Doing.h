@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <utility>
+
+#include "frmDSO.h"
+
+namespace tracewell {
+
+/// Names what the instrument is busy with instead of records, as long as it lives.
+class Doing {
+ public:
+  Doing(frmDSO& main, StatusLine::Sentence sentence)
+      : main_(main), outer_(std::exchange(main.doing, std::move(sentence))) {
+    main.marksDue.raise();
+  }
+  ~Doing() {
+    main_.doing = std::move(outer_);
+    main_.marksDue.raise();
+  }
+  Doing(const Doing&) = delete;
+
+ private:
+  frmDSO& main_;
+  StatusLine::Sentence outer_;
+};
+
+}  // namespace tracewell

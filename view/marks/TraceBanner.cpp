@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "TraceBanner.h"
+
+#include <algorithm>
+
+#include "TraceMarks.h"
+
+namespace tracewell {
+namespace {
+
+/// A signal of the usual kind has changed by then. Milliseconds.
+constexpr std::int64_t longUnchanged = 10000;
+
+/// With this caption the start button says what it does.
+constexpr std::size_t startMessage = 3;
+
+template <class Condition>
+const Channel* firstTrace(const frmDSO& main, Condition condition) {
+  for (const Channel& channel : main.channels)
+    if (channel.isDisplayed && hasTrace(channel) && condition(channel)) return &channel;
+  return nullptr;
+}
+
+bool isScaleMissing(const frmDSO& main, const Channel& channel) {
+  const bool hasVolts = channel.record.madeUnder.mathEntry.has_value() ||
+                        main.known.voltsPerDivision(channel.number).has_value();
+  return !hasVolts || !main.known.secondsPerDivision();
+}
+
+/// Empty unless the traces are not what they seem to be.
+std::string warning(const frmDSO& main, const Words& words) {
+  if (const std::int64_t time = millisecondsWithoutRecord(main); time > 0)
+    return words.say("No record for %1 s", {std::to_string(time / 1000)});
+  if (firstTrace(main, [&](const Channel& channel) { return !isOfThisLine(main, channel); }))
+    return words.say("These traces came over the connection before");
+  const auto isLate = [&](const Channel& channel) {
+    return main.tmDSO.enabled() && isOld(main, channel);
+  };
+  if (const Channel* const late = firstTrace(main, isLate))
+    return ageText(words, *late, main.services().clock.milliseconds());
+  if (firstTrace(main, [&](const Channel& channel) { return isScaleMissing(main, channel); }))
+    return words.say("The scales are not known: press %1 to read them", {main.cmdRS232.caption()});
+  return "";
+}
+
+std::string notice(const frmDSO& main, const Words& words) {
+  const bool hasTraces = firstTrace(main, [](const Channel&) { return true; }) != nullptr;
+  if (!main.tmDSO.enabled()) {
+    if (!hasTraces) return "";
+    return main.shownMessages.cmdStart == startMessage
+               ? words.say("Stopped: press %1 to go on", {main.cmdStart.caption()})
+               : words.say("Stopped");
+  }
+  if (main.known.isStopped())
+    return words.say("The instrument is stopped: press %1", {main.cmdRunStop.caption()});
+  const std::int64_t now = main.services().clock.milliseconds();
+  const Channel* const still = firstTrace(main, [now](const Channel& channel) {
+    const ChannelRecord& record = channel.record;
+    return record.fetchedAt != record.sweepAt && now - record.sweepAt >= longUnchanged;
+  });
+  return still != nullptr ? unchangedText(words, *still, now) : "";
+}
+
+}  // namespace
+
+GraphMarks::Banner traceBanner(const frmDSO& main) {
+  const Words& words = main.services().words;
+  if (main.doing) return {main.doing(words), false};
+  if (std::string text = warning(main, words); !text.empty()) return {std::move(text), true};
+  return {notice(main, words), false};
+}
+
+}  // namespace tracewell
