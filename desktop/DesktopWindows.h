@@ -32,6 +32,8 @@ class DesktopWindows : public WindowHost {
   QWidget* widgetOf(const Control& control) const;
   /// Told the manual's file where no program here shows it.
   std::function<void(const QString& file)> manualRefused;
+  /// Told the main window's form when it has been made.
+  std::function<void(QWidget& form)> mainMade;
   /// Lets go of every form.
   void unloadAll();
 
