@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QWheelEvent>
 #include <cmath>
+#include <utility>
 
 namespace tracewell {
 namespace {
@@ -154,9 +155,18 @@ void SlideWidget::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void SlideWidget::mouseReleaseEvent(QMouseEvent* event) {
-  if (event->button() != Qt::LeftButton || !isDragged_) return;
-  isDragged_ = false;
-  emit released();
+  if (event->button() == Qt::LeftButton) letGo();
+}
+
+void SlideWidget::letGo() {
+  if (std::exchange(isDragged_, false)) emit released();
+}
+
+/// A dialog that opens meanwhile gets the release of the button.
+bool SlideWidget::event(QEvent* event) {
+  if (event->type() == QEvent::WindowBlocked)
+    QMetaObject::invokeMethod(this, &SlideWidget::letGo, Qt::QueuedConnection);
+  return QWidget::event(event);
 }
 
 void SlideWidget::mouseDoubleClickEvent(QMouseEvent* event) {

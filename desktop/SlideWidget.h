@@ -43,6 +43,7 @@ class SlideWidget : public QWidget {
   void released();
 
  protected:
+  bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
@@ -61,6 +62,7 @@ class SlideWidget : public QWidget {
   QPointF pointAt(qreal along, qreal across) const;
   void moveTo(double value);
   void stepTo(double value);
+  void letGo();
 
   double minimum_ = -1;
   double maximum_ = 1;

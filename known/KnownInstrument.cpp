@@ -99,7 +99,9 @@ void KnownInstrument::obey(const WirePart& command, bool isTrusted) {
 void KnownInstrument::leaveOpen(Setting setting, const WirePart& command) {
   doubtful(setting, Doubt::mayHaveChanged);
   if (setting == math) mathMayBeOn_ = true;
-  if (setting == triggerMode) entry(setting).number = plainNumber(command.argument);
+  if (setting != triggerMode) return;
+  entry(setting).number = plainNumber(command.argument);
+  entry(setting).numberOnPort = presentLine().portNumber;
 }
 
 std::optional<KnownInstrument::Value> KnownInstrument::sentValue(Setting setting,
@@ -185,6 +187,7 @@ void KnownInstrument::take(Setting setting, Value value) {
   taken.caption = std::move(value.caption);
   taken.doubt = Doubt::none;
   taken.line = presentLine();
+  taken.numberOnPort = taken.line.portNumber;
 }
 
 /// A level that has moved by itself stays where it is.

@@ -87,7 +87,10 @@ class KnownInstrument {
     std::optional<double> number;
     std::string caption;
     Doubt doubt = Doubt::neverRead;
+    /// Where that was last told, or asked for in vain.
     Line line;
+    /// Where the number was told.
+    std::optional<std::int16_t> numberOnPort;
     Moment changedAt = 0;
   };
   struct Value {
@@ -109,8 +112,10 @@ class KnownInstrument {
   void leaveOpen(Setting setting, const WirePart& command);
   bool mayMoveLevel() const;
   bool mayBeStopped() const;
+  /// What was asked for in vain on another port is still what was told on this one.
   bool isOnPortOf(const Entry& told) const {
-    return told.line.portNumber == presentLine().portNumber;
+    const std::int16_t port = presentLine().portNumber;
+    return told.line.portNumber == port || told.numberOnPort == port;
   }
   std::optional<Value> sentValue(Setting setting, const WirePart& command) const;
   std::optional<Value> toldValue(Setting setting, std::string_view reply) const;

@@ -13,6 +13,12 @@ bool isQuery(const std::string& command) {
   return command.ends_with('?');
 }
 
+/// A question in the middle of a line is answered, too, and is not read.
+SerialPort::Reply replyTo(const std::string& command) {
+  return command.find('?') == std::string::npos ? SerialPort::Reply::none
+                                                : SerialPort::Reply::unread;
+}
+
 /// The value in a reply line.
 std::string replyValue(const std::string& line) {
   std::string value(trimBlanks(line));
@@ -111,7 +117,7 @@ std::string CommandExchange::exchange(const std::string& command) {
   if (isQuery(command))
     reply = query(command);
   else
-    main_.services().port.command(command + "\r\n");
+    main_.services().port.command(command + "\r\n", replyTo(command));
   InRemote = true;
   main_.cmdLock.value = true;
   main_.LinkOK = true;
@@ -138,7 +144,7 @@ void CommandExchange::LoadSetup() {
   if (!InRemote) return;
   try {
     prepare();
-    main_.services().port.command(":SYST:UNL\r\n");
+    main_.services().port.command(":SYST:UNL\r\n", SerialPort::Reply::none);
     main_.cmdLock.value = false;
     InRemote = false;
     main_.known.sent(":SYST:UNL");

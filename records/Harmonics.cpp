@@ -30,11 +30,14 @@ Terms fit(const Samples& samples, std::size_t terms, const Basis& basis) {
     if (!counts(samples[i])) continue;
     const Terms at = basis(static_cast<double>(i));
     for (std::size_t row = 0; row < terms; ++row) {
-      for (std::size_t column = 0; column < terms; ++column)
+      for (std::size_t column = row; column < terms; ++column)
         equations[row][column] += at[row] * at[column];
       equations[row][terms] += at[row] * samples[i];
     }
   }
+  for (std::size_t row = 0; row < terms; ++row)
+    for (std::size_t column = 0; column < row; ++column)
+      equations[row][column] = equations[column][row];
   // The equations are symmetric and positive, so none has to change its place.
   for (std::size_t pivot = 0; pivot < terms; ++pivot)
     for (std::size_t row = 0; row < terms; ++row) {
@@ -56,11 +59,12 @@ bool isSine(const Samples& samples, double period) {
   if (harmonics < 2) return false;
   const std::size_t terms = 1 + 2 * harmonics;
   const Terms found = fit(samples, terms, [&](double time) {
-    Terms at{1};
-    for (std::size_t term = 1; term < terms; term += 2) {
-      const double angle = turn * static_cast<double>((term + 1) / 2) * time / period;
-      at[term] = std::cos(angle);
-      at[term + 1] = std::sin(angle);
+    const double cosine = std::cos(turn * time / period);
+    const double sine = std::sin(turn * time / period);
+    Terms at{1, cosine, sine};
+    for (std::size_t term = 3; term < terms; term += 2) {
+      at[term] = at[term - 2] * cosine - at[term - 1] * sine;
+      at[term + 1] = at[term - 1] * cosine + at[term - 2] * sine;
     }
     return at;
   });

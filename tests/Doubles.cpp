@@ -42,7 +42,6 @@ void RecordingPrinter::printPage(const GraphPage& page) {
     text += "|" + std::to_string(trace.number) + " " + trace.name;
   told.raise(text);
   if (isOutOfPaper) throw Error(deviceError, "Printer", "Out of paper");
-  pages.push_back(page);
 }
 
 void ScriptedWindows::showModal(Window& window) {

@@ -102,8 +102,6 @@ class NumberedWords : public Words {
 
 class RecordingPrinter : public Printer {
  public:
-  Lines printed;
-  std::vector<GraphPage> pages;
   bool isOutOfPaper = false;
   /// All of it, as it happens.
   Event<const std::string&> told;
@@ -114,10 +112,7 @@ class RecordingPrinter : public Printer {
   void printPage(const GraphPage& page) override;
 
  private:
-  void print(const std::string& text) {
-    printed.push_back(text);
-    told.raise("print " + text.substr(0, 40));
-  }
+  void print(const std::string& text) { told.raise("print " + text.substr(0, 40)); }
 };
 
 /// A screen on which a script plays the user of each modal window.
@@ -179,7 +174,7 @@ class ScriptedPort : public SerialPort, public PortList {
   }
   int openings() const override { return timesOpened; }
   LineReport report() const override { return lineReport; }
-  void command(std::string_view line) override { write(line, ""); }
+  void command(std::string_view line, Reply) override { write(line, ""); }
   std::string query(std::string_view line, int timeOut) override;
   void request(LineRecord record) override;
   void abandon() override;

@@ -19,9 +19,9 @@ class PortUser {
                    .stamp = stamp,
                    .count = 1014});
   }
-  void send(const std::string& line) {
+  void send(const std::string& line, SerialPort::Reply reply = SerialPort::Reply::none) {
     port_.prepare();
-    port_.command(line + "\r\n");
+    port_.command(line + "\r\n", reply);
   }
   /// The reply, or the number of the error.
   std::string ask(const std::string& query) {

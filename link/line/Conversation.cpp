@@ -43,8 +43,13 @@ void Conversation::use(const LineSettings& settings) {
   hear(take(0));
 }
 
-void Conversation::command(std::string_view line) {
+void Conversation::command(std::string_view line, bool isAnswered) {
   send(line);
+  if (!isAnswered) return;
+  askedAt_ = clock_.milliseconds();
+  ++unanswered_;
+  isQuestionOwed_ = true;
+  if (state_ == State::idle) state_ = State::draining;
 }
 
 std::string Conversation::ask(std::string_view query, int timeOut) {
@@ -258,7 +263,10 @@ void Conversation::review() {
     isOwedComing_ = false;
     isQuestionOwed_ = false;
   }
-  state_ = State::idle;
+  // What was asked while the record came is answered behind it.
+  const bool isMoreOwed = state_ == State::recordHeard && unanswered_ > 0;
+  state_ = isMoreOwed ? State::draining : State::idle;
+  if (isMoreOwed) return;
   unanswered_ = 0;
   isStray_ = false;
   drainTime_ = longestThought;

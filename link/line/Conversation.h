@@ -39,7 +39,7 @@ namespace tracewell {
 /// - Bytes that nobody has asked for make the line untrusted until it has been quiet for as long.
 /// - After two questions in a row without an answer the instrument counts as silent: further ones
 ///   are put without draining, as long as nothing is heard.
-/// - A plain command never waits, since nothing comes back.
+/// - A plain command never waits. A question in it counts as one without an answer.
 ///
 /// All times are milliseconds. Every wait is one of StandBy.
 class Conversation {
@@ -73,8 +73,8 @@ class Conversation {
   int openings() const { return openings_; }
   LineReport report() const { return account_.report(clock_.milliseconds()); }
 
-  /// Sends a line to which nothing comes back. Raises deviceError.
-  void command(std::string_view line);
+  /// Sends a line. A reply to it is owed, if there is one, and read by nobody. Raises deviceError.
+  void command(std::string_view line, bool isAnswered = false);
 
   /// The reply line to `query`, through its LF. Raises portReadTimeOut where there is none within
   /// `timeOut` of the query, where one came but may not be trusted, and where the user gave up;

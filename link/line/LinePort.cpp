@@ -11,9 +11,9 @@ LinePort::LinePort(ChannelOpener& opener, Clock& clock, Gate& gate,
   };
 }
 
-void LinePort::command(std::string_view line) {
+void LinePort::command(std::string_view line, Reply reply) {
   conversation_.abandon();
-  conversation_.command(line);
+  conversation_.command(line, reply == Reply::unread);
 }
 
 std::string LinePort::query(std::string_view line, int timeOut) {

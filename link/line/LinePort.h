@@ -20,7 +20,7 @@ class LinePort : public SerialPort {
   std::int16_t openPort() const override { return conversation_.openSettings().portNumber; }
   int openings() const override { return conversation_.openings(); }
   LineReport report() const override { return conversation_.report(); }
-  void command(std::string_view line) override;
+  void command(std::string_view line, Reply reply) override;
   std::string query(std::string_view line, int timeOut) override;
   void request(LineRecord record) override { conversation_.request(std::move(record)); }
   void abandon() override { conversation_.abandon(); }

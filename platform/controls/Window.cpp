@@ -22,6 +22,7 @@ void Window::load() {
 
 void Window::showModal() {
   services_.gate.mustBeOpen();
+  if (isVisible_) return;
   load();
   formActivate.raise();
   isVisible_ = true;

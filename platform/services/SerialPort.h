@@ -50,9 +50,12 @@ class SerialPort {
   /// What has gone wrong on the line lately.
   virtual LineReport report() const = 0;
 
-  /// Sends a line, with its CR LF, to which nothing comes back. It does not wait. Gives up a record
-  /// that is on its way, as abandon does.
-  virtual void command(std::string_view line) = 0;
+  /// What the instrument sends back to a command: nothing, or a reply that is not read.
+  enum class Reply { none, unread };
+
+  /// Sends a line, with its CR LF. It does not wait. Gives up a record that is on its way, as
+  /// abandon does.
+  virtual void command(std::string_view line, Reply reply) = 0;
 
   /// Sends a query, with its CR LF, and returns its reply line with the LF; a CR before the LF is
   /// left out. Waits up to `timeOut` milliseconds for it (defaultReadTimeOut where that is 0 or

@@ -92,21 +92,31 @@ Top topOf(SpectrumWindow window, double left, double middle, double right) {
   double shift = 0;
   if (window == SpectrumWindow::hann) shift = std::max(0.0, (2 * share - 1) / (share + 1));
   if (window == SpectrumWindow::none) shift = share / (share + 1);
-  if (window == SpectrumWindow::flatTop) {
-    const double curve = std::log(left) - 2 * std::log(middle) + std::log(right);
-    return {curve < 0 ? 0.5 * std::log(left / right) / curve : 0, 1};
-  }
   if (shift == 0) return {0, 1};
   const double angle = std::numbers::pi * shift;
   const double lost = window == SpectrumWindow::hann ? 1 - shift * shift : 1;
   return {side * shift, lost * angle / std::sin(angle)};
 }
 
+/// The middle of the powers of the flat top, which is as wide to the one side as to the other.
+double flatTopMiddle(const std::vector<double>& heights, std::size_t bin) {
+  const std::size_t foot =
+      std::min({formOf(SpectrumWindow::flatTop).foot, bin, heights.size() - 1 - bin});
+  double sum = 0;
+  double moment = 0;
+  for (std::size_t at = bin - foot; at <= bin + foot; ++at) {
+    sum += heights[at] * heights[at];
+    moment += heights[at] * heights[at] * static_cast<double>(at);
+  }
+  return moment / sum;
+}
+
 SpectrumPeak peakAt(const Spectrum& spectrum, std::size_t bin) {
-  constexpr double nothing = 1e-30;
-  const auto height = [&](std::size_t at) { return spectrum.voltsRms[at] + nothing; };
-  const Top top = topOf(spectrum.window, height(bin - 1), height(bin), height(bin + 1));
-  return {spectrum.resolution * (static_cast<double>(bin) + top.shift), height(bin) * top.rise};
+  const std::vector<double>& heights = spectrum.voltsRms;
+  if (spectrum.window == SpectrumWindow::flatTop)
+    return {spectrum.resolution * flatTopMiddle(heights, bin), heights[bin]};
+  const Top top = topOf(spectrum.window, heights[bin - 1], heights[bin], heights[bin + 1]);
+  return {spectrum.resolution * (static_cast<double>(bin) + top.shift), heights[bin] * top.rise};
 }
 
 }  // namespace

@@ -18,8 +18,8 @@ enum class SpectrumWindow { hann, flatTop, none };
 
 struct SpectrumPeak {
   /// Hertz, and volts RMS, of the sine that would make this peak. Between the bins it is found by
-  /// the form that the window gives a sine: exact for a single one with Hann or none; with the flat
-  /// top its height is the bin's, and its frequency that of the parabola through the logarithms.
+  /// the form that the window gives a sine, which is exact for a single one with Hann or none; with
+  /// the flat top its height is the bin's, and its frequency the middle of the powers around.
   double frequency = 0;
   double voltsRms = 0;
 };

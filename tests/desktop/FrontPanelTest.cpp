@@ -2,6 +2,7 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QComboBox>
+#include <QDialog>
 #include <QGraphicsEffect>
 #include <QLabel>
 #include <QLineEdit>
@@ -234,6 +235,19 @@ INSTANTIATE_TEST_SUITE_P(Files, HandsTest,
                          testing::Combine(testing::Values("link.txt", "panel.txt", "view.txt",
                                                           "files.txt", "truth.txt"),
                                           testing::Bool()));
+
+/// It gets the release of the button.
+TEST_F(FrontPanelTest, DialogThatOpensTakesASlideOutOfTheHand) {
+  QWidget& slide = *find("slideCH1");
+  QTest::mousePress(&slide, Qt::LeftButton, {}, {slide.width() / 2, 0});
+  EXPECT_TRUE(main.slideCH1.isHeld());
+  takeWire();
+  QDialog dialog(form.get());
+  dialog.open();
+  QApplication::processEvents();
+  EXPECT_FALSE(main.slideCH1.isHeld());
+  EXPECT_EQ(takeWire().size(), 1u);
+}
 
 TEST_F(FrontPanelTest, LanguageInUseKeepsItsTickWhenItIsChosenAgain) {
   auto* english = find<QAction>("mnbLA1");

@@ -39,7 +39,7 @@ TEST(Spectrum, SinesHaveTheirFrequencyAndHeight) {
   constexpr Case cases[] = {{SpectrumWindow::none, 20, 0.1, 0.001},
                             {SpectrumWindow::hann, 20.5, 0.5, 0.002},
                             {SpectrumWindow::hann, 33.3, 0.5, 0.002},
-                            {SpectrumWindow::flatTop, 20.4, 20, 0.005}};
+                            {SpectrumWindow::flatTop, 20.4, 2, 0.003}};
   for (const auto& [window, cycles, frequencyWithin, heightWithin] : cases) {
     const ChannelRecord record = recordOf(
         [&](double i) { return 1000 + 5000 * sineAt(cycles, i) + 500 * sineAt(3 * cycles, i); });

@@ -42,6 +42,7 @@ class LineScript : OnALine<PacedOpener> {
   void act(const std::string& name, const std::string& value) {
     const double number = std::atof(value.c_str());
     if (name == "send") attempt(value, [&] { user_.send(value); });
+    if (name == "tell") user_.send(value, SerialPort::Reply::unread);
     if (name.ends_with('?')) ask(name);
     if (name == "ask")
       for (int i = 1; i <= number; ++i) ask("Q" + std::to_string(i) + "?");
@@ -131,7 +132,7 @@ class LineScript : OnALine<PacedOpener> {
 
   std::string firstAnswer(const std::string& line) {
     const bool isRecord = line.ends_with("POIN");
-    if (!isRecord && !line.ends_with('?')) return "";
+    if (!isRecord && line.find('?') == std::string::npos) return "";
     if (ignored_ > 0 && ++asked_ % ignored_ == 0) return "";
     if (!bytes_.empty()) return bytes_;
     return isRecord ? std::string(length_, line[4]) : line + "\n";
