@@ -201,7 +201,7 @@ void Screenshots::takeRecorder() {
   choose("cursors", RecorderCursors::across);
   choose("behind", 2);
   QTest::qWait(2500);
-  window.findChild<QPushButton*>(QStringLiteral("follow"))->click();
+  window.view().follow(false);
   window.setObjectName(QStringLiteral("recorder"));
   take(window);
   choose("mode", 2);

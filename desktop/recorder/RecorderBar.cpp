@@ -28,12 +28,7 @@ RecorderBar::RecorderBar(RecorderView& view, RecorderCursors& cursors, QWidget* 
   auto* const row = new QHBoxLayout(this);
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(6);
-  follow_ = new QPushButton(this);
-  follow_->setObjectName(QStringLiteral("follow"));
-  follow_->setCheckable(true);
-  follow_->setChecked(view.isFollowing());
-  follow_->setProperty("lock", true);
-  row->addWidget(follow_);
+  follow_ = addTick("follow", view.isFollowing());
   channel_ = addBox("channel");
   mode_ = addBox("mode");
   behind_ = addBox("behind");
@@ -49,7 +44,7 @@ RecorderBar::RecorderBar(RecorderView& view, RecorderCursors& cursors, QWidget* 
     connect(box, &QComboBox::currentIndexChanged, this, [this] { take(); });
   for (QCheckBox* tick : {fading_, envelope_, mean_})
     connect(tick, &QCheckBox::toggled, this, [this] { take(); });
-  connect(follow_, &QPushButton::clicked, this, [this](bool isOn) {
+  connect(follow_, &QCheckBox::clicked, this, [this](bool isOn) {
     view_.follow(isOn);
     emit chosen();
   });

@@ -3,7 +3,6 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QPushButton>
 #include <QWidget>
 
 #include "RecorderCursors.h"
@@ -34,7 +33,7 @@ class RecorderBar : public QWidget {
   RecorderView& view_;
   RecorderCursors& cursors_;
   SaidTexts texts_;
-  QPushButton* follow_;
+  QCheckBox* follow_;
   QComboBox* channel_;
   QComboBox* mode_;
   QComboBox* behind_;

@@ -97,7 +97,7 @@ void RecorderGraph::setLook(const RecorderLook& look) {
   setBackground(look.ground);
   QFont small = font();
   for (QCPAxis* axis : axisRect()->axes()) {
-    axis->setBasePen(QPen(look.grid));
+    axis->setBasePen(hasFocus() ? QPen(palette().color(QPalette::Highlight), 2) : QPen(look.grid));
     axis->setTickPen(QPen(look.grid));
     axis->setTickLabelFont(small);
     axis->setLabelFont(small);
@@ -233,6 +233,7 @@ void RecorderGraph::showLabels(const RecorderPicture& picture) {
     item.position->setType(QCPItemPosition::ptAbsolute);
     item.position->setCoords(room.topLeft());
     item.setFont(font());
+    item.setBrush(badge_->brush());
     item.setColor(look_.channels.at(channel));
     item.setText(text);
     item.setTextAlignment(Qt::AlignCenter);
@@ -320,13 +321,16 @@ void RecorderGraph::keyPressEvent(QKeyEvent* event) {
   }
 }
 
+/// The focus shows by a frame and at the active cursor.
 void RecorderGraph::focusInEvent(QFocusEvent* event) {
   QCustomPlot::focusInEvent(event);
+  setLook(look_);
   emit cursorMoved(active_, cursors_.at().at(active_));
 }
 
 void RecorderGraph::focusOutEvent(QFocusEvent* event) {
   QCustomPlot::focusOutEvent(event);
+  setLook(look_);
   emit cursorMoved(active_, cursors_.at().at(active_));
 }
 

@@ -50,6 +50,8 @@ void setRows(QTableWidget& table, int rows) {
   const int height = table.fontMetrics().height() + 3;
   for (int row = 0; row < rows; ++row)
     if (table.rowHeight(row) != height) table.setRowHeight(row, height);
+  const int frames = 2 * table.frameWidth();
+  table.setMaximumHeight(table.horizontalHeader()->sizeHint().height() + rows * height + frames);
 }
 
 /// The channels that have something to show, each with a column.
@@ -60,7 +62,9 @@ void setColumns(QTableWidget& table, const QString& first, const std::vector<int
   table.setHorizontalHeaderLabels(names);
   for (int column = 1; column < names.size(); ++column)
     table.horizontalHeaderItem(column)->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  table.horizontalHeaderItem(0)->setTextAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   table.horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+  table.horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
 }
 
 int heightOf(const QTableWidget& table, int rows) {
@@ -87,13 +91,10 @@ RecorderTables::RecorderTables(RecorderView& view, QWidget* parent)
   for (QLabel* label : {title_, details_, statisticsTitle_}) label->setWordWrap(true);
   column->addWidget(title_);
   column->addWidget(details_);
-  column->addWidget(values_, 1);
+  column->addWidget(values_, 3);
   column->addWidget(statisticsTitle_);
-  column->addWidget(statistics_);
-  constexpr int statisticsRows = 5;
-  statistics_->setFixedHeight(heightOf(*statistics_, statisticsRows));
+  column->addWidget(statistics_, 1);
   statistics_->setSelectionMode(QAbstractItemView::NoSelection);
-  values_->setMaximumHeight(heightOf(*values_, static_cast<int>(quantityCount)));
   column->addStretch(0);
   texts_.add([this] {
     values_->setAccessibleName(panelText("Measurements"));

@@ -18,7 +18,7 @@
 namespace tracewell {
 namespace {
 
-constexpr int columnWidth = 330;
+constexpr int columnWidth = 350;
 /// So many records are measured for the statistics at a time, and so long nothing is in between:
 /// the panel goes on meanwhile. Milliseconds.
 constexpr int measuredAtOnce = 20;
@@ -100,7 +100,6 @@ QLayout* RecorderWindow::actionRow() {
   export_ = addButton(*row, "export");
   log_ = addButton(*row, "log");
   log_->setCheckable(true);
-  log_->setProperty("lock", true);
   return row;
 }
 

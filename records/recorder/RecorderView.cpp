@@ -231,7 +231,7 @@ std::vector<RecorderView::StatisticsLine> RecorderView::statistics(Quantity quan
   };
   return {{words_.say("Count"), number(values.count())},
           {words_.say("Mean"), text(values.mean())},
-          {words_.say("Standard deviation"), text(values.standardDeviation())},
+          {words_.say("Std deviation"), text(values.standardDeviation())},
           {words_.say("Lowest"), text(values.lowest())},
           {words_.say("Highest"), text(values.highest())}};
 }

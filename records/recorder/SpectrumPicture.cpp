@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "Numbers.h"
 #include "RecorderPicture.h"
 #include "RecorderWords.h"
 #include "Spectrum.h"
@@ -16,6 +17,13 @@ constexpr std::size_t peaksNamed = 5;
 SpectrumWindow windowOf(SpectrumShape shape) {
   if (shape == SpectrumShape::flatTop) return SpectrumWindow::flatTop;
   return shape == SpectrumShape::none ? SpectrumWindow::none : SpectrumWindow::hann;
+}
+
+/// What stands out of the noise by so much, 12 dB, is named.
+double leastNamed(std::vector<double> voltsRms) {
+  const auto middle = voltsRms.begin() + static_cast<std::ptrdiff_t>(voltsRms.size() / 2);
+  std::ranges::nth_element(voltsRms, middle);
+  return 4 * *middle;
 }
 
 /// 1, 2 or 5 times a power of ten: the smallest that is no less.
@@ -76,10 +84,13 @@ RecorderPicture spectrumPicture(const RecordStore& store, std::span<const DrawnR
       highest = std::max(highest, volts);
     }
     widest = std::max(widest, curve.x.back());
-    for (const SpectrumPeak& peak : peaksOf(*spectrum, peaksNamed))
-      picture.labels.push_back({drawn.channel, peak.frequency,
-                                choice.isInDecibels ? Spectrum::dbv(peak.voltsRms) : peak.voltsRms,
-                                peakText(peak, choice.isInDecibels)});
+    const double least = leastNamed(spectrum->voltsRms);
+    for (const SpectrumPeak& peak : peaksOf(*spectrum, peaksNamed)) {
+      if (peak.voltsRms < least) continue;
+      const double level = choice.isInDecibels ? Spectrum::dbv(peak.voltsRms) : peak.voltsRms;
+      picture.labels.push_back(
+          {drawn.channel, peak.frequency, level, peakText(peak, choice.isInDecibels)});
+    }
     picture.curves.push_back(std::move(curve));
     picture.y.at(static_cast<std::size_t>(drawn.channel - 1)).emplace();
   }
