@@ -2,6 +2,9 @@
 #include "DesktopProgram.h"
 
 #include "QtValues.h"
+#ifdef TRACEWELL_RECORDER
+#include "DesktopRecorder.h"
+#endif
 
 namespace tracewell {
 
@@ -15,10 +18,16 @@ DesktopProgram::DesktopProgram(const std::filesystem::path& programFolder)
       return said.say("No program here shows the manual. It is %1", {file});
     });
   };
+#ifdef TRACEWELL_RECORDER
+  auto made = std::make_unique<DesktopRecorder>(program.main);
+  windows.mainMade = [&entry = *made](QWidget& form) { entry.addTo(form); };
+  recorder = std::move(made);
+#endif
 }
 
 /// However the event loop has ended, forms go before the windows that they show.
 DesktopProgram::~DesktopProgram() {
+  recorder.reset();
   windows.unloadAll();
 }
 

@@ -43,6 +43,8 @@ struct DesktopProgram {
   Tracewell program{services};
   UserInput input{gate, standBy};
   BusyPointer pointer{gate};
+  /// Keeps every record; none where the program is built without it (TRACEWELL_RECORDER).
+  std::unique_ptr<QObject> recorder;
 };
 
 }  // namespace tracewell

@@ -130,7 +130,10 @@ DesktopWindows::Form& DesktopWindows::formOf(Window& window) {
   const auto known = forms_.find(&window);
   if (known != forms_.end()) return *known->second;
   auto form = std::make_unique<Form>(window, mainForm(), *this);
-  if (form->isMain()) state_.restore(form->widget());
+  if (form->isMain()) {
+    state_.restore(form->widget());
+    if (mainMade) mainMade(form->widget());
+  }
   return *forms_.emplace(&window, std::move(form)).first->second;
 }
 

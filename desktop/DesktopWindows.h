@@ -32,6 +32,8 @@ class DesktopWindows : public WindowHost {
   QWidget* widgetOf(const Control& control) const;
   /// Called with the manual's file if no program here shows it.
   std::function<void(const QString& file)> manualRefused;
+  /// Called with the main window's form once it is made.
+  std::function<void(QWidget& form)> mainMade;
   /// Deletes every form.
   void unloadAll();
 

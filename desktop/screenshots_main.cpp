@@ -4,9 +4,10 @@
 ///     tracewell-screenshots FOLDER [LANGUAGE [light|dark|contrast [WIDTH HEIGHT]]]
 ///
 /// writes frmDSO.png and the others, and a printed page, into FOLDER. LANGUAGE is a number from 1
-/// to 5; the third word is the theme; WIDTH and HEIGHT are those of the main window. It is connected
-/// to the simulated instrument, and every dialog is opened from it as a user does. The program
-/// folder is the executable's own; a waveform is saved there and the error log is written on.
+/// to 5; the third word is the theme; WIDTH and HEIGHT are those of the main window. It is
+/// connected to the simulated instrument, and every dialog is opened from it as a user does. The
+/// program folder is the executable's own; a waveform is saved there and the error log is written
+/// on.
 
 #include <QApplication>
 #include <QDialog>
@@ -21,6 +22,14 @@
 #include "QtValues.h"
 #include "ShownText.h"
 #include "Theme.h"
+#ifdef TRACEWELL_RECORDER
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "DesktopRecorder.h"
+#include "RecorderWindow.h"
+#endif
 
 namespace tracewell {
 namespace {
@@ -77,6 +86,7 @@ class Screenshots {
   void takeTools();
   void takeErrorLog();
   void takeAutoset();
+  void takeRecorder();
 
   DesktopProgram& desktop_;
   Tracewell& program_;
@@ -91,6 +101,9 @@ bool Screenshots::takeAll() {
   takeWaveforms();
   takeTools();
   takeAutoset();
+#ifdef TRACEWELL_RECORDER
+  takeRecorder();
+#endif
   takeErrorLog();
   return isSaved_;
 }
@@ -172,6 +185,32 @@ void Screenshots::takeAutoset() {
   });
   program_.main.cmdAutoset.press();
 }
+
+#ifdef TRACEWELL_RECORDER
+/// The trace with those before it, then the spectrum.
+void Screenshots::takeRecorder() {
+  auto& window = static_cast<DesktopRecorder&>(*desktop_.recorder).open();
+  window.resize(mainSize_ - QSize(100, 40));
+  window.view().choice.behind = 5;
+  QTest::qWait(8000);
+  const auto choose = [&window](const char* box, int entry) {
+    window.findChild<QComboBox*>(QLatin1String(box))->setCurrentIndex(entry);
+  };
+  window.findChild<QLineEdit*>(QStringLiteral("pinName"))->setText(QStringLiteral("ringing"));
+  window.findChild<QPushButton*>(QStringLiteral("pin"))->click();
+  choose("cursors", RecorderCursors::across);
+  choose("behind", 2);
+  QTest::qWait(2500);
+  window.view().follow(false);
+  window.setObjectName(QStringLiteral("recorder"));
+  take(window);
+  choose("mode", 2);
+  choose("cursors", RecorderCursors::off);
+  window.setObjectName(QStringLiteral("recorder-spectrum"));
+  take(window);
+  window.close();
+}
+#endif
 
 /// With what a port that is not there leaves in it.
 void Screenshots::takeErrorLog() {

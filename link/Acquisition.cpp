@@ -53,6 +53,7 @@ void Acquisition::DataReady(const LineRecord& record) {
   std::int16_t shift = 0;
   Channel& channel = main_.channel(record.channel == 1 ? 1 : 2);
   keepRecord(channel, record);
+  ignoringErrors([&] { main_.recordKept.raise(channel.number); });
   ignoringErrors([&] { shift = channel.recordShift(); });
   const Samples samples = decodeSamples(record.bytes, shift);
   ignoringErrors([&] {

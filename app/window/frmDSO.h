@@ -157,6 +157,8 @@ class frmDSO : public Window {
   StatusLine::Sentence doing;
   /// What stands beside the values, marks and ages, is to be looked at anew.
   Event<> marksDue;
+  /// The record of a channel, 1 or 2, has come; the channel holds it.
+  Event<int> recordKept;
   /// Answers that came between two moments of Clock may be those of other questions.
   Event<std::int64_t, std::int64_t> answersDoubted;
   /// Kept apart from what the controls show: marks come of comparing the two.

@@ -1,0 +1,337 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "RecorderGraph.h"
+
+#include <cmath>
+
+#include "DesktopWords.h"
+#include "QtValues.h"
+#include "RecorderWords.h"
+#include "TrueNumbers.h"
+
+namespace tracewell {
+namespace {
+
+/// Of what lies behind the record: the newest, and what the oldest still has, of its colour.
+constexpr float newestShare = 0.6F;
+constexpr float oldestShare = 0.15F;
+constexpr qreal grabDistance = 8;
+
+/// What suits the larger end; none for what has no prefix.
+const UnitPrefix& prefixOf(const RecorderAxis& axis) {
+  const bool hasPrefix = axis.unit == "V" || axis.unit == "s" || axis.unit == "Hz";
+  const double most = std::max(std::fabs(axis.low), std::fabs(axis.high));
+  const UnitPrefix* fitting = &unitPrefixes[3];
+  if (!hasPrefix) return *fitting;
+  fitting = &unitPrefixes.front();
+  for (const UnitPrefix& prefix : unitPrefixes)
+    if (scaled(most, -prefix.exponent) >= 1 - 1e-9) fitting = &prefix;
+  return *fitting;
+}
+
+int decimalsOf(double step) {
+  return std::clamp(static_cast<int>(std::ceil(-std::log10(step) - 1e-9)), 0, 6);
+}
+
+QVector<double> scaledBy(const std::vector<double>& values, double factor) {
+  QVector<double> result(static_cast<qsizetype>(values.size()));
+  std::ranges::transform(values, result.begin(), [factor](double v) { return v * factor; });
+  return result;
+}
+
+QCPItemText* makeText(QCustomPlot& plot, Qt::Alignment alignment) {
+  auto* const text = new QCPItemText(&plot);
+  text->setPositionAlignment(alignment);
+  text->setTextAlignment(Qt::AlignLeft);
+  text->setPadding(QMargins(4, 2, 4, 2));
+  text->setClipToAxisRect(false);
+  text->setVisible(false);
+  return text;
+}
+
+void placeInCorner(QCPItemText& text, double x, double y) {
+  text.position->setType(QCPItemPosition::ptAxisRectRatio);
+  text.position->setCoords(x, y);
+}
+
+QString lines(const std::vector<std::string>& texts) {
+  QStringList list;
+  for (const std::string& text : texts) list << toQt(text);
+  return list.join(QLatin1Char('\n'));
+}
+
+}  // namespace
+
+RecorderGraph::RecorderGraph(QWidget* parent) : QCustomPlot(parent) {
+  setObjectName(QStringLiteral("recorderGraph"));
+  setFocusPolicy(Qt::StrongFocus);
+  setPlottingHints(QCP::phFastPolylines | QCP::phCacheLabels);
+  setAutoAddPlottableToLegend(false);
+  axisRect()->setupFullAxesBox();
+  for (QCPAxis* axis : axisRect()->axes()) {
+    axis->setTicker(QSharedPointer<QCPAxisTickerFixed>::create());
+    axis->setNumberFormat(QStringLiteral("f"));
+    axis->setSubTicks(false);
+    axis->setTickLengthIn(0);
+    axis->setLabelPadding(2);
+  }
+  // Axes stay as they are when those beside them take a range.
+  disconnect(xAxis, nullptr, xAxis2, nullptr);
+  disconnect(yAxis, nullptr, yAxis2, nullptr);
+  curve_ = new QCPCurve(xAxis, yAxis);
+  for (std::size_t i = 0; i < cursorLines_.size(); ++i) {
+    cursorLines_[i] = new QCPItemLine(this);
+    for (QCPItemPosition* end : {cursorLines_[i]->start, cursorLines_[i]->end})
+      end->setType(QCPItemPosition::ptAxisRectRatio);
+    cursorNames_[i] = makeText(*this, Qt::AlignLeft | Qt::AlignTop);
+    cursorNames_[i]->position->setType(QCPItemPosition::ptAxisRectRatio);
+    cursorNames_[i]->setText(QStringLiteral("P%1").arg(i + 1));
+  }
+  badge_ = makeText(*this, Qt::AlignRight | Qt::AlignTop);
+  placeInCorner(*badge_, 0.995, 0.01);
+  note_ = makeText(*this, Qt::AlignLeft | Qt::AlignBottom);
+  placeInCorner(*note_, 0.005, 0.99);
+}
+
+void RecorderGraph::setLook(const RecorderLook& look) {
+  look_ = look;
+  setBackground(look.ground);
+  QFont small = font();
+  for (QCPAxis* axis : axisRect()->axes()) {
+    axis->setBasePen(hasFocus() ? QPen(palette().color(QPalette::Highlight), 2) : QPen(look.grid));
+    axis->setTickPen(QPen(look.grid));
+    axis->setTickLabelFont(small);
+    axis->setLabelFont(small);
+    axis->grid()->setPen(QPen(look.grid));
+    axis->grid()->setZeroLinePen(QPen(look.grid.lighter(150)));
+  }
+  const QColor ground = QColor(look.ground.red(), look.ground.green(), look.ground.blue(), 215);
+  for (QCPItemText* text : {badge_, note_}) {
+    text->setFont(small);
+    text->setBrush(ground);
+  }
+  badge_->setPen(QPen(look.grid));
+  badge_->setColor(RecorderLook::cursor);
+  note_->setColor(RecorderLook::gap);
+}
+
+QCPAxis& RecorderGraph::axisOf(int channel) const {
+  return channel == 2 && hasOwnAxes_ ? *yAxis2 : *yAxis;
+}
+
+void RecorderGraph::showPicture(const RecorderPicture& picture, const RecorderCursors& cursors,
+                                const std::vector<std::string>& texts) {
+  hasOwnAxes_ = picture.mode == RecorderMode::trace && picture.y[0] && picture.y[1];
+  const bool isXY = picture.mode == RecorderMode::xy;
+  const QString across = picture.mode == RecorderMode::spectrum ? panelText("Frequency")
+                         : isXY                                 ? QStringLiteral("CH1")
+                                                                : panelText("Time");
+  acrossFactor_ =
+      showAxis(*xAxis, picture.x, across, isXY ? look_.channels[0] : QColor(RecorderLook::text))
+          .factor;
+  yAxis2->setTickLabels(hasOwnAxes_);
+  yAxis2->setLabel(QString());
+  const bool isShared = picture.mode == RecorderMode::spectrum && picture.y[0] && picture.y[1];
+  for (std::size_t i = 0; i < picture.y.size(); ++i) {
+    if (!picture.y.at(i)) continue;
+    const int channel = static_cast<int>(i) + 1;
+    upFactors_.at(i) = showAxis(axisOf(channel), *picture.y.at(i),
+                                isShared ? panelText("Level") : QStringLiteral("CH%1").arg(channel),
+                                isShared ? QColor(RecorderLook::text) : look_.channels.at(i))
+                           .factor;
+  }
+  showCurves(picture);
+  showXY(picture);
+  showLabels(picture);
+  showCursors(cursors, texts);
+  showNotes(picture.notes);
+  replot(rpQueuedRefresh);
+}
+
+RecorderGraph::Scale RecorderGraph::showAxis(QCPAxis& axis, const RecorderAxis& shown,
+                                             const QString& name, const QColor& colour) {
+  const UnitPrefix& prefix = prefixOf(shown);
+  const double factor = scaled(1, -prefix.exponent);
+  auto ticker = axis.ticker().staticCast<QCPAxisTickerFixed>();
+  ticker->setTickStep(shown.step * factor);
+  axis.setNumberPrecision(decimalsOf(shown.step * factor));
+  axis.setRange(shown.low * factor, shown.high * factor);
+  axis.setLabel(QStringLiteral("%1 (%2)").arg(name, toQt(std::string(prefix.text) + shown.unit)));
+  axis.setLabelColor(colour);
+  axis.setTickLabelColor(colour);
+  return {factor};
+}
+
+void RecorderGraph::showCurves(const RecorderPicture& picture) {
+  int ages = 1;
+  for (const RecorderCurve& curve : picture.curves) ages = std::max(ages, curve.age);
+  const bool isXY = picture.mode == RecorderMode::xy;
+  const std::size_t count = isXY ? 0 : picture.curves.size();
+  while (graphs_.size() < count) graphs_.push_back(addGraph());
+  for (std::size_t i = 0; i < count; ++i)
+    showCurve(i, picture.curves[i], axisOf(picture.curves[i].channel), ages);
+  for (std::size_t i = 0; i < graphs_.size(); ++i) graphs_[i]->setVisible(i < count);
+}
+
+void RecorderGraph::showCurve(std::size_t index, const RecorderCurve& curve, QCPAxis& axis,
+                              int ages) {
+  QCPGraph& graph = *graphs_[index];
+  const auto channel = static_cast<std::size_t>(curve.channel - 1);
+  const QColor& own = look_.channels.at(channel);
+  graph.setValueAxis(&axis);
+  graph.setData(scaledBy(curve.x, acrossFactor_), scaledBy(curve.y, upFactors_.at(channel)), true);
+  graph.setAntialiased(curve.kind == RecorderCurve::record || curve.kind == RecorderCurve::mean);
+  switch (curve.kind) {
+    case RecorderCurve::behind: {
+      const float age = static_cast<float>(curve.age) / static_cast<float>(ages);
+      const float share = newestShare + age * (oldestShare - newestShare);
+      graph.setPen(QPen(mixed(own, look_.ground, share), 1));
+      break;
+    }
+    case RecorderCurve::lowest:
+    case RecorderCurve::highest:
+      graph.setPen(QPen(own, 1, Qt::DotLine));
+      break;
+    case RecorderCurve::mean:
+      graph.setPen(QPen(Qt::white, 1.4));
+      break;
+    case RecorderCurve::record:
+      graph.setPen(QPen(own, 1.4));
+      break;
+  }
+}
+
+void RecorderGraph::showXY(const RecorderPicture& picture) {
+  const bool isXY = picture.mode == RecorderMode::xy && !picture.curves.empty();
+  curve_->setVisible(isXY);
+  if (!isXY) return;
+  const RecorderCurve& curve = picture.curves[0];
+  curve_->setPen(QPen(look_.channels[1], 1.4));
+  curve_->setData(scaledBy(curve.x, acrossFactor_), scaledBy(curve.y, upFactors_[1]));
+}
+
+/// Those of the highest peaks first; what would lie over another one is left out.
+void RecorderGraph::showLabels(const RecorderPicture& picture) {
+  for (QCPItemText* label : labels_) label->setVisible(false);
+  const QFontMetrics metrics(font());
+  std::vector<QRectF> taken;
+  std::size_t used = 0;
+  for (const auto& label : picture.labels) {
+    const auto channel = static_cast<std::size_t>(label.channel - 1);
+    const QPointF at(label.x * acrossFactor_, label.y * upFactors_.at(channel));
+    const QString text = toQt(label.text);
+    const QSizeF size = metrics.size(0, text) + QSize(8, 4);
+    const QPointF place(xAxis->coordToPixel(at.x()), axisOf(label.channel).coordToPixel(at.y()));
+    QRectF room(place - QPointF(size.width() / 2, size.height() + 3), size);
+    const QRect inside = axisRect()->rect();
+    room.moveTop(std::max(room.top(), inside.top() + 1.0));
+    room.moveLeft(std::clamp(room.left(), inside.left() + 1.0, inside.right() - size.width() - 1));
+    if (std::ranges::any_of(taken, [&](const QRectF& other) { return other.intersects(room); }))
+      continue;
+    taken.push_back(room);
+    if (used == labels_.size()) labels_.push_back(makeText(*this, Qt::AlignLeft | Qt::AlignTop));
+    QCPItemText& item = *labels_[used++];
+    item.position->setType(QCPItemPosition::ptAbsolute);
+    item.position->setCoords(room.topLeft());
+    item.setFont(font());
+    item.setBrush(badge_->brush());
+    item.setColor(look_.channels.at(channel));
+    item.setText(text);
+    item.setTextAlignment(Qt::AlignCenter);
+    item.setVisible(true);
+  }
+}
+
+void RecorderGraph::showCursors(const RecorderCursors& cursors,
+                                const std::vector<std::string>& texts) {
+  cursors_ = cursors;
+  const bool isOn = cursors.kind != RecorderCursors::off && !texts.empty();
+  const bool isAcross = cursors.kind == RecorderCursors::across;
+  for (std::size_t i = 0; i < cursorLines_.size(); ++i) {
+    cursorLines_.at(i)->setVisible(isOn);
+    cursorNames_.at(i)->setVisible(isOn);
+    const double share = cursors.at().at(i);
+    const QColor colour =
+        i == active_ ? QColor(RecorderLook::cursor).lighter(125) : QColor(RecorderLook::cursor);
+    cursorLines_.at(i)->setPen(QPen(colour, i == active_ && hasFocus() ? 2 : 1, Qt::DashLine));
+    cursorNames_.at(i)->setColor(colour);
+    cursorLines_.at(i)->start->setCoords(isAcross ? share : 0, isAcross ? 0 : 1 - share);
+    cursorLines_.at(i)->end->setCoords(isAcross ? share : 1, isAcross ? 1 : 1 - share);
+    cursorNames_.at(i)->position->setCoords(isAcross ? share : 0, isAcross ? 0 : 1 - share);
+  }
+  badge_->setVisible(isOn);
+  badge_->setText(lines(texts));
+}
+
+void RecorderGraph::showNotes(const std::vector<std::string>& notes) {
+  note_->setVisible(!notes.empty());
+  note_->setText(lines(notes));
+}
+
+double RecorderGraph::shareAt(const QPointF& place) const {
+  const QRect inside = axisRect()->rect();
+  return cursors_.kind == RecorderCursors::across
+             ? (place.x() - inside.left()) / std::max(1, inside.width())
+             : (inside.bottom() - place.y()) / std::max(1, inside.height());
+}
+
+std::optional<std::size_t> RecorderGraph::cursorAt(const QPointF& place) const {
+  if (cursors_.kind == RecorderCursors::off) return std::nullopt;
+  const QRect inside = axisRect()->rect();
+  const int length = cursors_.kind == RecorderCursors::across ? inside.width() : inside.height();
+  const auto distance = [&](std::size_t cursor) {
+    return std::fabs(cursors_.at().at(cursor) - shareAt(place)) * length;
+  };
+  const std::size_t nearest = distance(0) < distance(1) ? 0 : 1;
+  return distance(nearest) <= grabDistance ? std::optional(nearest) : std::nullopt;
+}
+
+void RecorderGraph::mousePressEvent(QMouseEvent* event) {
+  grabbed_ = cursorAt(event->position());
+  if (grabbed_) active_ = *grabbed_;
+}
+
+void RecorderGraph::mouseMoveEvent(QMouseEvent* event) {
+  if (grabbed_ && event->buttons().testFlag(Qt::LeftButton))
+    emit cursorMoved(*grabbed_, shareAt(event->position()));
+  const bool isNear = grabbed_ || cursorAt(event->position());
+  const auto shape =
+      cursors_.kind == RecorderCursors::across ? Qt::SizeHorCursor : Qt::SizeVerCursor;
+  setCursor(isNear ? shape : Qt::ArrowCursor);
+}
+
+void RecorderGraph::mouseReleaseEvent(QMouseEvent* /*event*/) {
+  grabbed_.reset();
+}
+
+void RecorderGraph::keyPressEvent(QKeyEvent* event) {
+  constexpr double small = 1.0 / 500;
+  const bool isAcross = cursors_.kind == RecorderCursors::across;
+  const double by = event->modifiers().testFlag(Qt::ShiftModifier) ? 10 * small : small;
+  const int back = isAcross ? Qt::Key_Left : Qt::Key_Down;
+  const int ahead = isAcross ? Qt::Key_Right : Qt::Key_Up;
+  const bool isOn = cursors_.kind != RecorderCursors::off;
+  if (isOn && event->key() == Qt::Key_C && event->modifiers() == Qt::NoModifier) {
+    active_ = 1 - active_;
+    emit cursorMoved(active_, cursors_.at().at(active_));
+  } else if (isOn && (event->key() == back || event->key() == ahead)) {
+    const double from = cursors_.at().at(active_);
+    emit cursorMoved(active_, event->key() == ahead ? from + by : from - by);
+  } else {
+    emit keyLeft(event);
+  }
+}
+
+/// The focus shows by a frame and at the active cursor.
+void RecorderGraph::focusInEvent(QFocusEvent* event) {
+  QCustomPlot::focusInEvent(event);
+  setLook(look_);
+  emit cursorMoved(active_, cursors_.at().at(active_));
+}
+
+void RecorderGraph::focusOutEvent(QFocusEvent* event) {
+  QCustomPlot::focusOutEvent(event);
+  setLook(look_);
+  emit cursorMoved(active_, cursors_.at().at(active_));
+}
+
+}  // namespace tracewell

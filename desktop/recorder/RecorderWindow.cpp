@@ -1,0 +1,357 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "RecorderWindow.h"
+
+#include <QHBoxLayout>
+#include <QSaveFile>
+#include <QVBoxLayout>
+
+#include "DesktopWords.h"
+#include "ElidedLabel.h"
+#include "Error.h"
+#include "Files.h"
+#include "PanelReference.h"
+#include "QtImages.h"
+#include "QtValues.h"
+#include "RecorderWords.h"
+#include "ShownText.h"
+
+namespace tracewell {
+namespace {
+
+constexpr int columnWidth = 350;
+/// So many records are measured for the statistics at a time, and so long nothing is in between:
+/// the panel goes on meanwhile. Milliseconds.
+constexpr int measuredAtOnce = 20;
+constexpr int betweenMeasuring = 20;
+
+}  // namespace
+
+RecorderWindow::RecorderWindow(Recorder& recorder)
+    : recorder_(recorder),
+      view_(recorder.store(), recorder.main().services().words),
+      bar_(new RecorderBar(view_, cursors_, this)),
+      graph_(new RecorderGraph(this)),
+      strip_(new RecordStrip(view_, this)),
+      tables_(new RecorderTables(view_, this)),
+      logBar_(new RecorderLogBar(recorder, this)),
+      status_(new ElidedLabel(this)),
+      logState_(new ElidedLabel(this)) {
+  setObjectName(QStringLiteral("recorderWindow"));
+  setAttribute(Qt::WA_QuitOnClose, false);
+  layOut();
+  sayTexts();
+  connectParts();
+  takeLook();
+  resize(1180, 760);
+  strip_->setFocus();
+}
+
+void RecorderWindow::layOut() {
+  auto* const rows = new QVBoxLayout(this);
+  rows->setContentsMargins(8, 8, 8, 6);
+  rows->setSpacing(6);
+  rows->addWidget(bar_);
+  auto* const middle = new QHBoxLayout;
+  middle->setSpacing(8);
+  auto* const drawn = new QVBoxLayout;
+  drawn->setSpacing(4);
+  drawn->addWidget(graph_, 1);
+  drawn->addWidget(strip_);
+  middle->addLayout(drawn, 1);
+  tables_->setFixedWidth(columnWidth);
+  middle->addWidget(tables_);
+  rows->addLayout(middle, 1);
+  rows->addLayout(actionRow());
+  rows->addWidget(logBar_);
+  logBar_->hide();
+  auto* const states = new QHBoxLayout;
+  states->addWidget(status_, 1);
+  states->addWidget(logState_, 1);
+  for (ElidedLabel* label : {status_, logState_}) label->setProperty("status", true);
+  status_->setObjectName(QStringLiteral("recorderStatus"));
+  logState_->setObjectName(QStringLiteral("logState"));
+  rows->addLayout(states);
+}
+
+QPushButton* RecorderWindow::addButton(QLayout& row, const char* name) {
+  auto* const button = new QPushButton(this);
+  button->setObjectName(QLatin1String(name));
+  row.addWidget(button);
+  return button;
+}
+
+QLayout* RecorderWindow::actionRow() {
+  auto* const row = new QHBoxLayout;
+  row->setSpacing(6);
+  pinName_ = new QLineEdit(this);
+  pinName_->setObjectName(QStringLiteral("pinName"));
+  pinName_->setMaxLength(60);
+  pinName_->setMaximumWidth(150);
+  row->addWidget(pinName_);
+  pin_ = addButton(*row, "pin");
+  pins_ = new QComboBox(this);
+  pins_->setObjectName(QStringLiteral("pins"));
+  pins_->setMinimumContentsLength(12);
+  pins_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  row->addWidget(pins_);
+  row->addStretch(1);
+  showInPanel_ = addButton(*row, "showInPanel");
+  copy_ = addButton(*row, "copy");
+  export_ = addButton(*row, "export");
+  log_ = addButton(*row, "log");
+  log_->setCheckable(true);
+  return row;
+}
+
+void RecorderWindow::connectParts() {
+  connect(bar_, &RecorderBar::chosen, this, &RecorderWindow::showSoon);
+  connect(strip_, &RecordStrip::used, this, &RecorderWindow::showSoon);
+  connect(graph_, &RecorderGraph::cursorMoved, this, [this](std::size_t cursor, double share) {
+    cursors_.move(cursor, share);
+    showSoon();
+  });
+  connect(graph_, &RecorderGraph::keyLeft, this,
+          [this](QKeyEvent* event) { QCoreApplication::sendEvent(strip_, event); });
+  connect(pin_, &QPushButton::clicked, this, [this] { run([this] { pinOrLetGo(); }); });
+  connect(pinName_, &QLineEdit::returnPressed, this, [this] { run([this] { pinOrLetGo(); }); });
+  connect(pinName_, &QLineEdit::textChanged, this, [this] { showPins(); });
+  connect(pins_, &QComboBox::activated, this, [this](int index) {
+    if (index > 0) view_.select(pins_->itemData(index).toLongLong());
+    showSoon();
+  });
+  connect(showInPanel_, &QPushButton::clicked, this, [this] { run([this] { showInPanel(); }); });
+  connect(copy_, &QPushButton::clicked, this, [this] { run([this] { copy(); }); });
+  connect(export_, &QPushButton::clicked, this, [this] { run([this] { exportCsv(); }); });
+  connect(log_, &QPushButton::toggled, logBar_, &QWidget::setVisible);
+  connect(logBar_, &RecorderLogBar::said, this, &RecorderWindow::say);
+  connect(logBar_, &RecorderLogBar::used, this, &RecorderWindow::showSoon);
+  connect(&measuring_, &QTimer::timeout, this, &RecorderWindow::measureSome);
+  connect(&everySecond_, &QTimer::timeout, this, [this] {
+    if (isVisible()) showLog();
+  });
+  everySecond_.start(1000);
+}
+
+void RecorderWindow::sayTexts() {
+  texts_.add([this] {
+    setWindowTitle(panelText("Recorder") + QStringLiteral(" - Tracewell"));
+    graph_->setAccessibleName(panelText("Graph of the record"));
+    graph_->setToolTip(QString());
+    strip_->setAccessibleName(panelText("Records along time"));
+    strip_->setToolTip(
+        panelText("Click or drag: a record. Shift + drag: a stretch. Wheel: zoom. Arrow keys, Page "
+                  "Up and Down, Home, End: step. Dotted line: a gap"));
+    pinName_->setPlaceholderText(panelText("Name"));
+    pinName_->setAccessibleName(panelText("Name of the pinned record"));
+    pins_->setAccessibleName(panelText("Pinned records"));
+    pins_->setToolTip(panelText("Goes to a pinned record; it stays when others go"));
+    showInPanel_->setText(panelText("Show in the panel"));
+    showInPanel_->setToolTip(panelText("Lays the record over the live traces, as Load does"));
+    copy_->setText(panelText("Copy"));
+    copy_->setToolTip(panelText("Copies the picture and its values for other programs (Ctrl+C)"));
+    copy_->setShortcut(QKeySequence::Copy);
+    export_->setText(panelText("Export…"));
+    export_->setToolTip(panelText(
+        "Writes the marked stretch, else this record, as CSV in volts and seconds (Ctrl+E)"));
+    export_->setShortcut(Qt::CTRL | Qt::Key_E);
+    log_->setText(panelText("Log"));
+    log_->setToolTip(panelText("Measurements of each record into a file, for hours (Ctrl+L)"));
+    log_->setShortcut(Qt::CTRL | Qt::Key_L);
+  });
+}
+
+void RecorderWindow::takeLook() {
+  frmDSO& main = recorder_.main();
+  const RecorderLook look{
+      toQt(main.graphDSO.plotAreaColour()),
+      toQt(main.graphDSO.axis("XAxis").gridColour()),
+      {toQt(main.channels[0].plot.lineColour()), toQt(main.channels[1].plot.lineColour())}};
+  graph_->setLook(look);
+  strip_->setLook(look);
+}
+
+void RecorderWindow::recordKept() {
+  view_.recordKept();
+  if (!isVisible()) return;
+  showSoon();
+}
+
+void RecorderWindow::showSoon() {
+  if (isShowDue_) return;
+  isShowDue_ = true;
+  QTimer::singleShot(0, this, [this] {
+    isShowDue_ = false;
+    showAll();
+  });
+}
+
+void RecorderWindow::showAll() {
+  takeLook();
+  const auto pointed = view_.selected();
+  const int channel = pointed ? recorder_.store().facts(*pointed).channel : 1;
+  const RecorderPicture picture = view_.picture();
+  const auto texts = cursorTexts(cursors_, picture, channel);
+  graph_->showPicture(picture, cursors_, texts);
+  QString said;
+  for (const auto* list : {&texts, &picture.notes})
+    for (const std::string& text : *list) said += toQt(text) + QStringLiteral(". ");
+  graph_->setAccessibleDescription(said);
+  strip_->setAccessibleDescription(toQt(view_.title()));
+  strip_->update();
+  bar_->showState();
+  tables_->showState();
+  showPins();
+  showLog();
+  for (QPushButton* button : {pin_, showInPanel_, copy_, export_})
+    button->setEnabled(pointed.has_value());
+  measuring_.start(betweenMeasuring);
+}
+
+void RecorderWindow::measureSome() {
+  const bool isMore = view_.measureMore(measuredAtOnce);
+  if (isMore && isVisible()) return;
+  measuring_.stop();
+  if (isVisible()) tables_->showState();
+}
+
+/// A name that is new renames a record that is pinned.
+void RecorderWindow::showPins() {
+  const auto pinned = recorder_.store().pinned();
+  const auto pointed = view_.selected();
+  const QSignalBlocker blocker(pins_);
+  pins_->clear();
+  pins_->addItem(pinned.empty() ? panelText("Nothing pinned")
+                                : panelText("Pinned: %1").arg(pinned.size()));
+  bool isPinned = false;
+  for (const auto& [number, name] : pinned) {
+    pins_->addItem(shownText(name, roomOfCaption), static_cast<qlonglong>(number));
+    if (number != pointed) continue;
+    isPinned = true;
+    pins_->setCurrentIndex(pins_->count() - 1);
+  }
+  pins_->setEnabled(!pinned.empty());
+  const bool isLetGo = isPinned && pinName_->text().trimmed().isEmpty();
+  pin_->setText(isLetGo ? panelText("Let go") : isPinned ? panelText("Rename") : panelText("Pin"));
+  pin_->setToolTip(isLetGo ? panelText("This record may go with the others again")
+                           : panelText("Keeps this record, under the name, when others go"));
+}
+
+void RecorderWindow::showLog() {
+  logBar_->showState();
+  const std::string text = recorder_.logText(recorder_.main().services().words);
+  logState_->setText(shownText(text, roomOfLine));
+  logState_->setToolTip(logState_->text());
+  const bool isTrouble = recorder_.log() != nullptr && recorder_.log()->trouble();
+  logState_->setSign(isTrouble      ? ElidedLabel::warning
+                     : text.empty() ? ElidedLabel::none
+                                    : ElidedLabel::information);
+}
+
+void RecorderWindow::say(const QString& text) {
+  status_->setText(text);
+  status_->setToolTip(text);
+}
+
+void RecorderWindow::run(const std::function<void()>& act) {
+  recorder_.main().services().dispatcher.dispatch([&] {
+    say({});
+    try {
+      act();
+    } catch (const Error& error) {
+      say(shownText(error.description(), roomOfLine));
+    }
+    showSoon();
+  });
+}
+
+void RecorderWindow::pinOrLetGo() {
+  const auto pointed = view_.selected();
+  if (!pointed) return;
+  RecordStore& store = recorder_.store();
+  const auto pinned = store.pinned();
+  const bool isPinned =
+      std::ranges::any_of(pinned, [&](const auto& known) { return known.first == *pointed; });
+  const QString name = pinName_->text().trimmed();
+  if (isPinned && name.isEmpty()) {
+    store.letGo(*pointed);
+    return;
+  }
+  const RecordFacts& facts = store.facts(*pointed);
+  const std::string own = channelName(facts.channel) + " " + timeOfDay(facts.wallTime);
+  if (!store.pin(*pointed, name.isEmpty() ? own : fromQt(name)))
+    return say(panelText("No more records can be pinned"));
+  // It is pointed at until the user goes on.
+  view_.select(*pointed);
+  pinName_->clear();
+}
+
+void RecorderWindow::showInPanel() {
+  const auto pointed = view_.selected();
+  if (!pointed) return;
+  const RecordStore& store = recorder_.store();
+  const bool isShown =
+      showAsReference(recorder_.main(), store.facts(*pointed).channel, store.record(*pointed));
+  say(isShown ? panelText("It lies over the live traces now")
+              : panelText("No reference is free: remove one in the panel first"));
+}
+
+void RecorderWindow::copy() {
+  const std::string table = tableOf(view_.picture());
+  recorder_.main().services().clipboard.put(table, fromQt(graph_->toPixmap().toImage()));
+  say(panelText("Copied"));
+}
+
+void RecorderWindow::exportCsv() {
+  const Services& services = recorder_.main().services();
+  const std::filesystem::path path = services.dialogs.saveFile(
+      {services.programFolder, fromQt(panelText("Export")), "", "*.csv|*.csv"});
+  if (!path.empty()) exportInto(path);
+}
+
+void RecorderWindow::exportInto(const std::filesystem::path& path) {
+  QSaveFile file(toQt(path));
+  const auto refuse = [&] {
+    throw Error(pathAccess, "Tracewell", pathText(path) + ": " + fromQt(file.errorString()));
+  };
+  if (!file.open(QIODevice::WriteOnly)) refuse();
+  const SamplesCsvResult result =
+      writeSamples(recorder_.store(), view_.exported(), [&file](std::string_view text) {
+        file.write(text.data(), static_cast<qint64>(text.size()));
+      });
+  if (result.records == 0) {
+    file.cancelWriting();
+    return say(panelText("Nothing to export: the scales of these records are not known"));
+  }
+  if (!file.commit()) refuse();
+  QString text = panelText("Saved %1").arg(shownText(pathText(path), roomOfLine));
+  if (result.leftOut > 0)
+    text += QStringLiteral(". ") +
+            panelText("%1 records left out: their scales are not known").arg(result.leftOut);
+  say(text);
+}
+
+void RecorderWindow::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::LanguageChange) {
+    texts_.sayAgain();
+    bar_->sayAgain();
+    tables_->sayAgain();
+    logBar_->sayAgain();
+    showSoon();
+  }
+  if (event->type() == QEvent::PaletteChange) showSoon();
+}
+
+void RecorderWindow::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  showSoon();
+}
+
+void RecorderWindow::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape)
+    close();
+  else
+    QWidget::keyPressEvent(event);
+}
+
+}  // namespace tracewell

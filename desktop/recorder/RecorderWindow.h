@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTimer>
+#include <QWidget>
+
+#include "RecordStrip.h"
+#include "Recorder.h"
+#include "RecorderBar.h"
+#include "RecorderCursors.h"
+#include "RecorderGraph.h"
+#include "RecorderLogBar.h"
+#include "RecorderTables.h"
+#include "RecorderView.h"
+#include "SaidTexts.h"
+
+namespace tracewell {
+
+class ElidedLabel;
+
+/// The recorder's window: graph, strip of time, measurements, and what can be done with a record.
+/// It is not modal, and shows what RecorderView says.
+class RecorderWindow : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit RecorderWindow(Recorder& recorder);
+
+  /// To be called when a record has been kept. Costs nothing while the window is closed.
+  void recordKept();
+  RecorderView& view() { return view_; }
+  /// The records that are marked, or the one pointed at, into a file. Raises pathAccess.
+  void exportInto(const std::filesystem::path& path);
+
+ protected:
+  void changeEvent(QEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  void layOut();
+  QLayout* actionRow();
+  QPushButton* addButton(QLayout& row, const char* name);
+  void connectParts();
+  void sayTexts();
+  void takeLook();
+  /// All that shows has changed; painted once an event-loop turn.
+  void showSoon();
+  void showAll();
+  void showPins();
+  void showLog();
+  void measureSome();
+  void say(const QString& text);
+  /// Errors of `act` end in a sentence of this window.
+  void run(const std::function<void()>& act);
+
+  void pinOrLetGo();
+  void showInPanel();
+  void copy();
+  void exportCsv();
+
+  Recorder& recorder_;
+  RecorderView view_;
+  RecorderCursors cursors_;
+  SaidTexts texts_;
+  RecorderBar* bar_;
+  RecorderGraph* graph_;
+  RecordStrip* strip_;
+  RecorderTables* tables_;
+  QLineEdit* pinName_ = nullptr;
+  QPushButton* pin_ = nullptr;
+  QComboBox* pins_ = nullptr;
+  QPushButton* showInPanel_ = nullptr;
+  QPushButton* copy_ = nullptr;
+  QPushButton* export_ = nullptr;
+  QPushButton* log_ = nullptr;
+  RecorderLogBar* logBar_;
+  ElidedLabel* status_;
+  ElidedLabel* logState_;
+  QTimer measuring_;
+  QTimer everySecond_;
+  bool isShowDue_ = false;
+};
+
+}  // namespace tracewell

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "KeptStatistics.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace tracewell {
+namespace {
+
+std::size_t placeOf(RecordStore::Number number) {
+  return static_cast<std::size_t>(number) % RecordStore::capacity;
+}
+
+}  // namespace
+
+bool KeptStatistics::work(int most) {
+  next_ = std::max(next_, store_.first());
+  for (; most > 0 && next_ < store_.end(); --most, ++next_) {
+    const std::size_t place = placeOf(next_);
+    if (place >= measured_.size()) measured_.resize(place + 1);
+    Measured& measured = measured_[place];
+    measured.channel = store_.facts(next_).channel;
+    const OwnMeasurements values = measure(store_.record(next_));
+    for (std::size_t i = 0; i < ofOneRecord; ++i)
+      measured.values.at(i) =
+          values[static_cast<Quantity>(i)].value.value_or(std::numeric_limits<double>::quiet_NaN());
+  }
+  return next_ < store_.end();
+}
+
+KeptStatistics::Result KeptStatistics::over(const Stretch& stretch, Quantity quantity) const {
+  Result result;
+  const auto index = static_cast<std::size_t>(quantity);
+  const auto end = std::min(stretch.end, store_.end());
+  for (auto number = std::max(stretch.first, store_.first()); number < end; ++number) {
+    const bool isMeasured = number < next_;
+    const int channel =
+        isMeasured ? measured_[placeOf(number)].channel : store_.facts(number).channel;
+    if (channel != stretch.channel) continue;
+    ++result.records;
+    if (!isMeasured) continue;
+    ++result.measured;
+    if (index >= ofOneRecord) continue;
+    const double value = measured_[placeOf(number)].values.at(index);
+    if (!std::isnan(value)) result.values.add(OwnValue::of(value));
+  }
+  return result;
+}
+
+}  // namespace tracewell

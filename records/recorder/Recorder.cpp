@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Recorder.h"
+
+#include <utility>
+
+#include "Files.h"
+#include "Numbers.h"
+#include "WallTime.h"
+
+namespace tracewell {
+namespace {
+
+std::string sizeText(std::uintmax_t bytes) {
+  const auto kilobytes = static_cast<double>(bytes) / 1000;
+  return kilobytes < 1000 ? formatDecimals(kilobytes, 1) + " kB"
+                          : formatDecimals(kilobytes / 1000, 1) + " MB";
+}
+
+std::string twoDigits(std::int64_t number) {
+  return (number < 10 ? "0" : "") + std::to_string(number);
+}
+
+/// "1:05:09"
+std::string durationText(std::int64_t milliseconds) {
+  const std::int64_t seconds = milliseconds / 1000;
+  return std::to_string(seconds / 3600) + ":" + twoDigits(seconds / 60 % 60) + ":" +
+         twoDigits(seconds % 60);
+}
+
+}  // namespace
+
+Recorder::Recorder(frmDSO& main) : main_(main) {
+  main_.recordKept = [this](int channel) { keep(channel); };
+}
+
+Recorder::~Recorder() {
+  main_.recordKept = Event<int>::Handler();
+}
+
+void Recorder::keep(int channel) {
+  const ChannelRecord& record = main_.channel(channel).record;
+  const bool isSimulated = record.line.portNumber == PortList::simulatedPort;
+  const auto number = store_.keep(channel, record, {wallTimeNow(), isSimulated});
+  if (!number) return;
+  if (log_ && store_.facts(*number).fetches == 1) write(*number);
+  if (kept) kept(*number);
+}
+
+void Recorder::write(RecordStore::Number number) {
+  const RecordFacts& facts = store_.facts(number);
+  const auto partner = store_.partnerOf(number);
+  // Phase and delay are counted from channel 1 on, and stand in the rows of channel 2.
+  const OwnMeasurements values = partner && facts.channel == 2
+                                     ? measure(store_.record(*partner), store_.record(number))
+                                     : OwnMeasurements();
+  OwnMeasurements own = measure(store_.record(number));
+  for (const Quantity quantity : {Quantity::phase, Quantity::delay})
+    own[quantity] = values[quantity];
+  log_->append(facts.wallTime, facts.channel, own, main_.services().clock.milliseconds());
+  const std::string passed = log_->columns().passed(own);
+  if (passed.empty()) return;
+  if (atLimit_.pins) store_.pin(number, passed);
+  if (atLimit_.rings && ring) ring();
+}
+
+void Recorder::startLog(const std::filesystem::path& path, MeasurementColumns columns,
+                        AtLimit atLimit) {
+  log_.reset();
+  atLimit_ = atLimit;
+  log_.emplace(path, std::move(columns), main_.services().clock.milliseconds());
+}
+
+void Recorder::tick() {
+  if (log_) log_->tick(main_.services().clock.milliseconds());
+}
+
+std::string Recorder::logText(const Words& words) const {
+  if (!log_) return "";
+  const std::int64_t now = main_.services().clock.milliseconds();
+  std::string text =
+      words.say("%1: %2, %3 rows, %4", {pathText(log_->path()), durationText(log_->duration(now)),
+                                        std::to_string(log_->rows()), sizeText(log_->bytes())});
+  if (!log_->trouble()) return text;
+  text += ". ";
+  text += log_->isDiskFull()
+              ? words.say("The disk is full: %1 rows wait", {std::to_string(log_->held())})
+              : words.say("%1 rows wait: %2", {std::to_string(log_->held()), *log_->trouble()});
+  if (log_->lost() > 0) text += ". " + words.say("%1 rows lost", {std::to_string(log_->lost())});
+  return text;
+}
+
+}  // namespace tracewell

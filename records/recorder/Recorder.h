@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <string>
+
+#include "MeasurementLog.h"
+#include "RecordStore.h"
+#include "frmDSO.h"
+
+namespace tracewell {
+
+/// Keeps every record that the panel fetches, and logs their measurements while the user wants
+/// that. It asks the instrument for nothing.
+class Recorder {
+ public:
+  /// Hears of the main window's records from now on. `main` outlives this.
+  explicit Recorder(frmDSO& main);
+  ~Recorder();
+  Recorder(const Recorder&) = delete;
+
+  RecordStore& store() { return store_; }
+  const RecordStore& store() const { return store_; }
+  frmDSO& main() { return main_; }
+
+  /// Told the number of a record that has been kept, or that was fetched again.
+  std::function<void(RecordStore::Number)> kept;
+
+  struct AtLimit {
+    bool pins = false;
+    bool rings = false;
+  };
+  /// Begins a log, in place of another. Raises pathAccess.
+  void startLog(const std::filesystem::path& path, MeasurementColumns columns, AtLimit atLimit);
+  /// Writes what is held.
+  void stopLog() { log_.reset(); }
+  const MeasurementLog* log() const { return log_ ? &*log_ : nullptr; }
+  /// Once a second while there is a log.
+  void tick();
+  /// A limit has been passed that is to ring.
+  std::function<void()> ring;
+
+  /// "2 h 05 min, 6,250 rows, 410 kB", and what is wrong; empty without a log.
+  std::string logText(const Words& words) const;
+
+ private:
+  void keep(int channel);
+  void write(RecordStore::Number number);
+
+  frmDSO& main_;
+  RecordStore store_;
+  std::optional<MeasurementLog> log_;
+  AtLimit atLimit_;
+};
+
+}  // namespace tracewell

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "RecorderCursors.h"
+
+#include <algorithm>
+
+#include "Graph.h"
+#include "Numbers.h"
+#include "RecorderWords.h"
+#include "TrueUnits.h"
+
+namespace tracewell {
+namespace {
+
+double valueAt(const RecorderAxis& axis, double share) {
+  return axis.low + share * (axis.high - axis.low);
+}
+
+std::string plainText(double value, const std::string& unit) {
+  return unit == "div" || unit == "dBV" ? formatTwoDecimals(value) + " " + unit
+                                        : numberWithUnit(value, unit);
+}
+
+std::vector<std::string> plainTexts(const RecorderAxis& axis, const std::array<double, 2>& at,
+                                    const std::string& difference) {
+  const double one = valueAt(axis, at[0]);
+  const double other = valueAt(axis, at[1]);
+  return {"P1 = " + plainText(one, axis.unit), "P2 = " + plainText(other, axis.unit),
+          difference + " = " + plainText(one - other, axis.unit)};
+}
+
+}  // namespace
+
+void RecorderCursors::move(std::size_t cursor, double to) {
+  at().at(cursor) = std::clamp(to, 0.0, 1.0);
+}
+
+std::vector<std::string> cursorTexts(const RecorderCursors& cursors, const RecorderPicture& picture,
+                                     int channel) {
+  if (cursors.kind == RecorderCursors::off || picture.curves.empty()) return {};
+  const bool isAcross = cursors.kind == RecorderCursors::across;
+  const auto& own = picture.y.at(static_cast<std::size_t>(channel - 1));
+  const auto& other = picture.y.at(static_cast<std::size_t>(2 - channel));
+  const RecorderAxis& axis = isAcross ? picture.x : own ? *own : *other;
+  const auto& at = cursors.at();
+  if (picture.mode == RecorderMode::spectrum) return plainTexts(axis, at, isAcross ? "Δf" : "Δ");
+  const auto perDivision =
+      isAcross && picture.mode == RecorderMode::trace
+          ? picture.secondsPerDivision
+          : picture.voltsPerDivision.at(isAcross ? 0 : static_cast<std::size_t>(channel - 1));
+  if (!perDivision) return plainTexts(axis, at, "Δ");
+  const auto units = [&](double share) {
+    return valueAt(axis, share) / *perDivision * Graph::unitsPerDivision;
+  };
+  return isAcross && picture.mode == RecorderMode::trace
+             ? timeBadge(*perDivision, units(at[0]), units(at[1]))
+             : voltageBadge(*perDivision, 0.0, units(at[0]), units(at[1]));
+}
+
+}  // namespace tracewell

@@ -1,0 +1,239 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "RecorderView.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "RecorderWords.h"
+
+namespace tracewell {
+namespace {
+
+/// Both channels are fetched in turn: the other one's record is not farther than that.
+constexpr RecordStore::Number farthestOther = 64;
+
+bool isUnderSameScales(const RecordFacts& one, const RecordFacts& other) {
+  return one.madeUnder.voltsPerDivision == other.madeUnder.voltsPerDivision &&
+         one.madeUnder.secondsPerDivision == other.madeUnder.secondsPerDivision &&
+         one.madeUnder.mathEntry == other.madeUnder.mathEntry &&
+         one.line.portNumber == other.line.portNumber;
+}
+
+std::string number(std::size_t count) {
+  return std::to_string(count);
+}
+
+}  // namespace
+
+void RecorderView::show(int channel) {
+  channel_ = channel;
+  // The one pointed at may be of the other channel.
+  if (!isFollowing_ && selected_ && !isShown(store_.facts(*selected_).channel)) step(-1);
+}
+
+void RecorderView::follow(bool isFollowing) {
+  selected_ = selected();
+  isFollowing_ = isFollowing;
+  if (isFollowing) recordKept();
+}
+
+std::optional<RecordStore::Number> RecorderView::selected() const {
+  if (!isFollowing_) return selected_;
+  if (channel_ != 0) return store_.newestOf(channel_);
+  return store_.size() > 0 ? std::optional(store_.end() - 1) : std::nullopt;
+}
+
+void RecorderView::select(Number number) {
+  if (!store_.isKept(number)) return;
+  isFollowing_ = false;
+  selected_ = number;
+  timeline.reveal(number);
+}
+
+/// Beyond the last one it stays there.
+void RecorderView::step(int records) {
+  const auto from = selected();
+  if (!from) return;
+  const int direction = records < 0 ? -1 : 1;
+  Number reached = *from;
+  Number ahead = std::clamp(*from, store_.first() - 1, store_.end());
+  for (int left = std::abs(records); left > 0;) {
+    ahead += direction;
+    if (ahead < store_.first() || ahead >= store_.end()) break;
+    if (!isShown(store_.facts(ahead).channel)) continue;
+    reached = ahead;
+    --left;
+  }
+  select(reached);
+}
+
+void RecorderView::selectFirst() {
+  for (Number number = store_.first(); number < store_.end(); ++number)
+    if (isShown(store_.facts(number).channel)) return select(number);
+}
+
+void RecorderView::selectLast() {
+  for (Number number = store_.end() - 1; number >= store_.first(); --number)
+    if (isShown(store_.facts(number).channel)) return select(number);
+}
+
+std::optional<RecordStore::Number> RecorderView::shownOf(int channel) const {
+  const auto pointed = selected();
+  if (!pointed || !isShown(channel)) return std::nullopt;
+  if (store_.facts(*pointed).channel == channel) return pointed;
+  // The user has chosen the other channel alone, and a pinned record is pointed at.
+  if (channel_ != 0) return std::nullopt;
+  if (const auto partner = store_.partnerOf(*pointed)) return partner;
+  const Number lowest = std::max(store_.first(), *pointed - farthestOther);
+  for (Number other = std::min(*pointed, store_.end()) - 1; other >= lowest; --other)
+    if (store_.facts(other).channel == channel) return other;
+  return std::nullopt;
+}
+
+/// One that has gone out of the store cannot be pointed at any longer; nor can it be marked.
+void RecorderView::recordKept() {
+  if (selected_ && !store_.isKept(*selected_)) selected_ = store_.first();
+  if (marked_) {
+    marked_->first = std::max(marked_->first, store_.first());
+    if (marked_->second < marked_->first) unmark();
+  }
+  if (const auto pointed = selected(); isFollowing_ && pointed) timeline.reveal(*pointed);
+}
+
+void RecorderView::mark(Number one, Number other) {
+  const auto [low, high] = std::minmax(one, other);
+  marked_ = {std::max(low, store_.first()), std::min(high, store_.end() - 1)};
+}
+
+Stretch RecorderView::stretch() const {
+  if (marked_) return {marked_->first, marked_->second + 1, channel_};
+  return {store_.first(), store_.end(), channel_};
+}
+
+Stretch RecorderView::exported() const {
+  const auto pointed = selected();
+  if (marked_ || !pointed) return stretch();
+  const auto partner = channel_ == 0 ? store_.partnerOf(*pointed) : std::nullopt;
+  if (!partner) return {*pointed, *pointed + 1, store_.facts(*pointed).channel};
+  const auto [low, high] = std::minmax(*pointed, *partner);
+  return {low, high + 1, 0};
+}
+
+std::vector<RecordStore::Number> RecorderView::drawnOf(int channel) const {
+  std::vector<Number> numbers;
+  const auto newest = shownOf(channel);
+  if (!newest) return numbers;
+  numbers.push_back(*newest);
+  const auto wanted = static_cast<std::size_t>(choice.behind) + 1;
+  for (Number other = std::min(*newest, store_.end()) - 1;
+       other >= store_.first() && numbers.size() < wanted; --other) {
+    const RecordFacts& facts = store_.facts(other);
+    if (facts.channel != channel) continue;
+    // Behind it another stretch begins.
+    if (!isUnderSameScales(facts, store_.facts(*newest))) break;
+    numbers.push_back(other);
+  }
+  return numbers;
+}
+
+RecorderPicture RecorderView::picture() const {
+  std::vector<DrawnRecords> channels;
+  for (const int channel : {1, 2})
+    if (auto numbers = drawnOf(channel); !numbers.empty())
+      channels.push_back({channel, std::move(numbers)});
+  RecorderPicture picture;
+  picture.mode = choice.mode;
+  if (channels.empty()) return picture;
+  switch (choice.mode) {
+    case RecorderMode::spectrum:
+      return spectrumPicture(store_, channels, choice, words_);
+    case RecorderMode::xy:
+      return xyPicture(store_, channels, words_);
+    case RecorderMode::trace:
+      break;
+  }
+  return tracePicture(store_, channels, choice, words_);
+}
+
+std::string RecorderView::title() const {
+  const auto pointed = selected();
+  if (!pointed) return words_.say("No record yet: they are kept as they come");
+  const RecordFacts& facts = store_.facts(*pointed);
+  const std::string name = channelName(facts.channel) + "  " + timeOfDay(facts.wallTime);
+  if (*pointed < store_.first()) return name + "  " + words_.say("pinned");
+  return name + "  " +
+         words_.say("record %1 of %2",
+                    {std::to_string(*pointed - store_.first() + 1), number(store_.size())});
+}
+
+std::vector<std::string> RecorderView::details() const {
+  std::vector<std::string> lines;
+  for (const int channel : {1, 2}) {
+    const auto shown = shownOf(channel);
+    if (!shown) continue;
+    const RecordFacts& facts = store_.facts(*shown);
+    lines.push_back(channelName(channel) + ": " + circumstances(words_, facts));
+    if (const std::string gap = gapText(words_, facts.gap); !gap.empty())
+      lines.push_back(words_.say("Before it: %1", {gap}));
+  }
+  return lines;
+}
+
+std::vector<RecorderView::Line> RecorderView::measurements() const {
+  std::array<std::optional<OwnMeasurements>, 2> values;
+  const auto one = shownOf(1);
+  const auto two = shownOf(2);
+  if (one) values[0] = measure(store_.record(*one));
+  if (two) values[1] = measure(store_.record(*two));
+  if (one && two) {
+    const OwnMeasurements both = measure(store_.record(*one), store_.record(*two));
+    for (const Quantity quantity : {Quantity::phase, Quantity::delay})
+      (*values[1])[quantity] = both[quantity];
+  }
+  std::vector<Line> lines;
+  for (const QuantityName& name : quantityNames) {
+    Line line{name.quantity, quantityName(words_, name.quantity), {}, {}};
+    const bool isOfBoth = name.quantity >= Quantity::phase;
+    if (isOfBoth && !(one && two)) continue;
+    for (std::size_t i = 0; i < values.size(); ++i) {
+      if (!values.at(i) || (isOfBoth && i == 0)) continue;
+      const OwnValue& value = (*values.at(i))[name.quantity];
+      line.values.at(i) = valueText(words_, value, name.unit);
+      line.hasValue.at(i) = value.value.has_value();
+    }
+    lines.push_back(std::move(line));
+  }
+  return lines;
+}
+
+std::string RecorderView::statisticsTitle(int channel) const {
+  Stretch part = stretch();
+  part.channel = channel;
+  const auto result = statistics_.over(part, Quantity::maximum);
+  if (result.records == 0) return "";
+  std::string text = words_.say("%1: %2 records, %3 to %4",
+                                {channelName(channel), number(result.records),
+                                 timeOfDay(store_.facts(part.first).wallTime, false),
+                                 timeOfDay(store_.facts(part.end - 1).wallTime, false)});
+  if (result.measured < result.records)
+    text += " " + words_.say("(%1 measured so far)", {number(result.measured)});
+  return text;
+}
+
+std::vector<RecorderView::StatisticsLine> RecorderView::statistics(Quantity quantity,
+                                                                   int channel) const {
+  Stretch part = stretch();
+  part.channel = channel;
+  const Statistics values = statistics_.over(part, quantity).values;
+  const std::string_view unit = unitText(nameOf(quantity).unit);
+  const auto text = [&](std::optional<double> value) {
+    return value ? numberWithUnit(*value, unit) : "";
+  };
+  return {{words_.say("Count"), number(values.count())},
+          {words_.say("Mean"), text(values.mean())},
+          {words_.say("Std deviation"), text(values.standardDeviation())},
+          {words_.say("Lowest"), text(values.lowest())},
+          {words_.say("Highest"), text(values.highest())}};
+}
+
+}  // namespace tracewell

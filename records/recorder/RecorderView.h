@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "KeptStatistics.h"
+#include "RecordStore.h"
+#include "RecordTimeline.h"
+#include "RecorderPicture.h"
+#include "Words.h"
+
+namespace tracewell {
+
+/// What the recorder's window shows: which record is pointed at, what of it and of those before it
+/// is drawn, and what is said of it. The window shows this and passes on what the user does.
+class RecorderView {
+ public:
+  using Number = RecordStore::Number;
+
+  RecorderView(const RecordStore& store, const Words& words)
+      : timeline(store), store_(store), words_(words), statistics_(store) {}
+
+  // Which record
+
+  /// 1 or 2; 0 for both.
+  int channel() const { return channel_; }
+  void show(int channel);
+  /// Goes with the newest record until another one is pointed at.
+  bool isFollowing() const { return isFollowing_; }
+  void follow(bool isFollowing);
+  /// None as long as nothing has been kept.
+  std::optional<Number> selected() const;
+  void select(Number number);
+  /// By so many records of the channels that are shown.
+  void step(int records);
+  void selectFirst();
+  void selectLast();
+  /// The record of a channel that is drawn: the one pointed at or, of the other channel, the one of
+  /// the same sweep or else the last before it.
+  std::optional<Number> shownOf(int channel) const;
+  /// To be called when a record has been kept.
+  void recordKept();
+
+  // A stretch
+
+  /// From one to the other, both included.
+  void mark(Number one, Number other);
+  void unmark() { marked_.reset(); }
+  bool isMarked() const { return marked_.has_value(); }
+  /// What is marked, or else all; of the channels that are shown.
+  Stretch stretch() const;
+  /// What is marked, or else the record pointed at and what is drawn of the other channel's.
+  Stretch exported() const;
+
+  // What is drawn
+
+  RecorderChoice choice;
+  RecorderPicture picture() const;
+  RecordTimeline timeline;
+
+  // What is said
+
+  /// "CH1, 14:29:05.250, record 12 of 340"
+  std::string title() const;
+  /// Its scales, and what lies between it and the one before; a line for each channel shown.
+  std::vector<std::string> details() const;
+  struct Line {
+    Quantity quantity = Quantity::maximum;
+    std::string name;
+    /// Of channel 1 and 2; empty for one that is not shown.
+    std::array<std::string, 2> values;
+    std::array<bool, 2> hasValue{};
+  };
+  std::vector<Line> measurements() const;
+  struct StatisticsLine {
+    std::string name;
+    std::string value;
+  };
+  /// Of the marked stretch or of all, of one channel.
+  std::vector<StatisticsLine> statistics(Quantity quantity, int channel) const;
+  /// "CH1: 312 records from 14:29:05 to 14:35:17"
+  std::string statisticsTitle(int channel) const;
+  /// Measures some more for the statistics; false when all is measured.
+  bool measureMore(int most) { return statistics_.work(most); }
+
+ private:
+  bool isShown(int channel) const { return channel_ == 0 || channel_ == channel; }
+  std::vector<Number> drawnOf(int channel) const;
+
+  const RecordStore& store_;
+  const Words& words_;
+  KeptStatistics statistics_;
+  int channel_ = 0;
+  bool isFollowing_ = true;
+  std::optional<Number> selected_;
+  /// First and last.
+  std::optional<std::pair<Number, Number>> marked_;
+};
+
+}  // namespace tracewell

@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+#include <QTableWidget>
+#include <fstream>
+
+#include "Bench.h"
+#include "DesktopProgram.h"
+#include "DesktopRecorder.h"
+#include "MainFormTest.h"
+#include "QtValues.h"
+#include "RecorderWindow.h"
+
+namespace tracewell {
+
+/// The program on this desktop with the simulated instrument, and the recorder's window.
+class RecorderWindowTest : public testing::Test {
+ protected:
+  RecorderWindowTest() {
+    EXPECT_TRUE(desktop.start());
+    connectSimulated();
+    entry()->trigger();
+    window = &recorder().open();
+    QApplication::processEvents();
+  }
+
+  DesktopRecorder& recorder() { return dynamic_cast<DesktopRecorder&>(*desktop.recorder); }
+  QAction* entry() {
+    for (QWidget* form : QApplication::topLevelWidgets())
+      if (auto* const found = form->findChild<QAction*>(QStringLiteral("recorder"))) return found;
+    return nullptr;
+  }
+  void connectSimulated() {
+    desktop.program.main.cmdStart.press();
+    waitForRecords(2);
+  }
+  void waitForRecords(RecordStore::Number count) {
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return recorder().recorder().store().end() >= count; }, 30000));
+    QApplication::processEvents();
+  }
+  template <class Widget>
+  Widget& find(const char* name) {
+    auto* const found = window->findChild<Widget*>(QLatin1String(name));
+    if (found == nullptr) throw std::runtime_error(name);
+    return *found;
+  }
+  void choose(const char* box, int index) {
+    find<QComboBox>(box).setCurrentIndex(index);
+    QApplication::processEvents();
+  }
+
+  ProgramFolderCopy folder;
+  DesktopProgram desktop{folder.path()};
+  RecorderWindow* window = nullptr;
+};
+
+TEST_F(RecorderWindowTest, KeepsFollowsStepsPinsShowsLogsAndExports) {
+  const RecordStore& store = recorder().recorder().store();
+  RecorderView& view = window->view();
+  EXPECT_EQ(view.selected(), store.end() - 1);
+  EXPECT_EQ(
+      find<QTableWidget>("values").item(static_cast<int>(Quantity::frequency), 1)->text().left(5),
+      QStringLiteral("1.000"));
+
+  auto& strip = find<QWidget>("recordStrip");
+  strip.setFocus();
+  QTest::keyClick(&strip, Qt::Key_Home);
+  EXPECT_EQ(view.selected(), 0);
+  QApplication::processEvents();
+  EXPECT_FALSE(find<QCheckBox>("follow").isChecked());
+  find<QLineEdit>("pinName").setText(QStringLiteral("as <b>found</b>"));
+  find<QPushButton>("pin").click();
+  ASSERT_EQ(store.pinned().size(), 1U);
+  EXPECT_EQ(find<QComboBox>("pins").itemText(1), QStringLiteral("as <b>found</b>"));
+
+  find<QPushButton>("showInPanel").click();
+  const Plot& reference = desktop.program.main.graphDSO.plot(ScopeGraph::firstReference);
+  EXPECT_TRUE(reference.isShown());
+
+  choose("mode", 2);
+  const auto picture = view.picture();
+  ASSERT_FALSE(picture.labels.empty());
+  EXPECT_NEAR(picture.labels[0].x, 1000, 5);
+  choose("mode", 0);
+
+  QTest::keyClick(&strip, Qt::Key_End, Qt::ShiftModifier);
+  EXPECT_TRUE(view.isMarked());
+  window->exportInto(folder.path() / "part.csv");
+  const auto lines = [&](const char* name) {
+    std::ifstream file(folder.path() / name);
+    return std::count(std::istreambuf_iterator<char>(file), {}, '\n');
+  };
+  const auto exported = view.exported();
+  EXPECT_EQ(lines("part.csv"), 1 + 500 * (exported.end - exported.first));
+
+  find<RecorderLogBar>("logBar").startInto(folder.path() / "log.csv");
+  QTest::keyClick(window, Qt::Key_F);
+  EXPECT_TRUE(view.isFollowing());
+  // The log goes on while the window is closed.
+  QTest::keyClick(&strip, Qt::Key_Escape);
+  EXPECT_FALSE(window->isVisible());
+  waitForRecords(store.end() + 2);
+  recorder().recorder().stopLog();
+  EXPECT_GE(lines("log.csv"), 3);
+  entry()->trigger();
+  EXPECT_TRUE(window->isVisible());
+  EXPECT_EQ(view.selected(), store.end() - 1);
+}
+
+TEST_F(RecorderWindowTest, FitsASmallScreenInEveryLanguage) {
+  for (int language = 1; language <= 5; ++language) {
+    desktop.program.languageMenu.mnbLA_Click(static_cast<std::int16_t>(language));
+    find<QPushButton>("log").setChecked(true);
+    for (int mode = 0; mode < find<QComboBox>("mode").count(); ++mode) {
+      choose("mode", mode);
+      EXPECT_LE(window->minimumSizeHint().width(), 1024) << language << mode;
+      EXPECT_LE(window->minimumSizeHint().height(), 700 - 40) << language << mode;
+    }
+    for (auto* const button : window->findChildren<QPushButton*>())
+      if (button->isVisible())
+        EXPECT_GE(button->width(), button->sizeHint().width()) << fromQt(button->text());
+    for (auto* const part : window->findChildren<QWidget*>())
+      if (part->focusPolicy() & Qt::TabFocus && part->isVisible())
+        EXPECT_FALSE(part->accessibleName().isEmpty() && part->toolTip().isEmpty() &&
+                     part->property("text").toString().isEmpty())
+            << fromQt(part->objectName());
+  }
+}
+
+}  // namespace tracewell

@@ -1,0 +1,282 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "RecorderView.h"
+
+#include <cmath>
+#include <numbers>
+
+#include "Bench.h"
+#include "MeasurementRow.h"
+#include "PanelReference.h"
+#include "Recorder.h"
+#include "RecorderCursors.h"
+#include "RecorderWords.h"
+
+namespace tracewell {
+namespace {
+
+/// 1 V high at 0.5 V/div, and 20 periods of 1 kHz at 2 ms/div.
+std::string sineRecord(double amplitude = 100) {
+  return makeRecord([=](int i) {
+    return static_cast<int>(
+        std::lround(amplitude * std::sin(2 * std::numbers::pi * (i + 0.5) / 25)));
+  });
+}
+
+}  // namespace
+
+class RecorderViewTest : public testing::Test {
+ protected:
+  RecordStore store;
+  Words words;
+  RecorderView view{store, words};
+  ChannelRecord next{"", {33, 1}, {0.5, 2e-3, std::nullopt, std::nullopt}, 0, 0};
+
+  RecordStore::Number keep(int channel, const std::string& bytes) {
+    next.bytes = bytes;
+    next.sweepAt = next.fetchedAt += 1200;
+    const auto number = store.keep(channel, next, {next.fetchedAt, false}).value();
+    view.recordKept();
+    return number;
+  }
+  /// Flat but for one unit, so that each is another sweep.
+  RecordStore::Number keepLevel(int channel, int units) {
+    return keep(channel, makeRecord([=](int i) { return units + i % 2; }));
+  }
+  std::string value(Quantity quantity, std::size_t channel = 0) {
+    for (const auto& line : view.measurements())
+      if (line.quantity == quantity) return line.values.at(channel);
+    return "no line";
+  }
+};
+
+TEST_F(RecorderViewTest, StepsThroughTheRecordsOfTheChannelsThatAreShown) {
+  EXPECT_FALSE(view.selected());
+  view.step(1);
+  for (int i = 0; i < 10; ++i) keepLevel(1 + i % 2, 10 * i);
+  EXPECT_EQ(view.selected(), 9);
+  const std::tuple<int, std::function<void()>, int> cases[] = {
+      {0, [&] { view.step(-1); }, 8},
+      {0, [&] { view.step(-100); }, 0},
+      {0, [&] { view.step(1); }, 1},
+      {2, [&] { view.step(3); }, 7},
+      {1, [] {}, 6},
+      {1, [&] { view.selectFirst(); }, 0},
+      {1, [&] { view.selectLast(); }, 8},
+      {2, [&] { view.selectFirst(); }, 1},
+      {0, [&] { view.follow(true); }, 9},
+      {1, [&] { view.follow(true); }, 8},
+  };
+  for (const auto& [channel, act, reached] : cases) {
+    view.show(channel);
+    act();
+    EXPECT_EQ(view.selected(), reached) << channel;
+  }
+  view.follow(false);
+  keepLevel(1, 500);
+  EXPECT_EQ(view.selected(), 8);
+  view.follow(true);
+  EXPECT_EQ(view.selected(), 10);
+}
+
+TEST_F(RecorderViewTest, ARecordThatGoesOutOfTheStoreIsPointedAtNoLonger) {
+  ASSERT_TRUE(store.pin(keepLevel(1, 1), "first"));
+  const auto second = keepLevel(1, 2);
+  view.mark(0, second);
+  view.select(second);
+  for (int i = 0; i < 10001; ++i) keepLevel(1, 10 + i % 7);
+  EXPECT_EQ(view.selected(), store.first());
+  EXPECT_FALSE(view.isMarked());
+  view.select(0);
+  EXPECT_EQ(view.title().substr(0, 3), "CH1");
+  EXPECT_TRUE(view.title().ends_with("pinned"));
+  view.step(1);
+  EXPECT_EQ(view.selected(), store.first());
+}
+
+TEST_F(RecorderViewTest, DrawsInVoltsAndSecondsWhereTheScalesAreKnown) {
+  keep(1, sineRecord());
+  RecorderPicture picture = view.picture();
+  EXPECT_EQ(picture.x.unit, "s");
+  EXPECT_DOUBLE_EQ(picture.curves.at(0).x.front(), -10e-3);
+  EXPECT_EQ(picture.y[0]->unit, "V");
+  EXPECT_FALSE(picture.y[1]);
+  EXPECT_NEAR(picture.curves.at(0).y.at(6), 1.0, 0.01);
+  EXPECT_EQ(value(Quantity::frequency), "1.000 kHz");
+  EXPECT_EQ(value(Quantity::maximum), "1.000 V");
+  EXPECT_TRUE(tableOf(picture).starts_with("Time (s)\tCH1 (V)\n-0.01\t0.13\n")) << tableOf(picture);
+  next.madeUnder.secondsPerDivision.reset();
+  keepLevel(1, 250);
+  picture = view.picture();
+  EXPECT_EQ(picture.x.unit, "div");
+  EXPECT_EQ(picture.y[0]->unit, "V");
+  // It reaches beyond four divisions.
+  EXPECT_DOUBLE_EQ(picture.y[0]->high, 6 * 0.5);
+  next.madeUnder = {std::nullopt, 2e-3, 1, std::nullopt};
+  keep(2, sineRecord(50));
+  picture = view.picture();
+  EXPECT_EQ(picture.x.unit, "div");
+  EXPECT_EQ(picture.y[1]->unit, "div");
+  EXPECT_DOUBLE_EQ(picture.voltsPerDivision[0].value(), 0.5);
+  EXPECT_EQ(picture.notes.size(), 2U);
+  EXPECT_EQ(value(Quantity::maximum, 1), "scale not known");
+}
+
+TEST_F(RecorderViewTest, RecordsBehindAreThoseOfTheSameScales) {
+  for (const int level : {10, 20, 30}) keepLevel(1, level);
+  next.madeUnder.voltsPerDivision = 1;
+  for (const int level : {40, 50, 60}) keepLevel(1, level);
+  view.choice.behind = 5;
+  view.choice.hasEnvelope = view.choice.hasMean = true;
+  RecorderPicture picture = view.picture();
+  ASSERT_EQ(picture.curves.size(), 6U);
+  using Kind = RecorderCurve::Kind;
+  const std::tuple<Kind, double> expected[] = {{Kind::behind, 0.8}, {Kind::behind, 1.0},
+                                               {Kind::lowest, 0.8}, {Kind::highest, 1.2},
+                                               {Kind::record, 1.2}, {Kind::mean, 1.0}};
+  for (std::size_t i = 0; i < 6; ++i) {
+    EXPECT_EQ(picture.curves[i].kind, std::get<0>(expected[i])) << i;
+    EXPECT_NEAR(picture.curves[i].y[0], std::get<1>(expected[i]), 1e-9) << i;
+  }
+  EXPECT_EQ(picture.notes,
+            std::vector<std::string>{"CH1: only 2 earlier records under these scales"});
+}
+
+TEST_F(RecorderViewTest, TwoRecordsAreComparedOnlyWhereTheyAreOfOneSweep) {
+  view.choice.mode = RecorderMode::xy;
+  keep(1, sineRecord());
+  keep(2, sineRecord(50));
+  EXPECT_TRUE(view.picture().curves.empty());
+  EXPECT_EQ(view.picture().notes.size(), 1U);
+  EXPECT_EQ(value(Quantity::phase, 1), "not of one sweep");
+  next.madeUnder.stop = 7;
+  keep(2, sineRecord(60));
+  keep(1, sineRecord(90));
+  ASSERT_EQ(view.picture().curves.size(), 1U);
+  EXPECT_EQ(view.picture().curves[0].y.size(), 500U);
+  EXPECT_NEAR(view.picture().curves[0].x[6], 0.9, 0.01);
+  EXPECT_NE(value(Quantity::phase, 1), "not of one sweep");
+  EXPECT_EQ(view.exported().end - view.exported().first, 2);
+}
+
+TEST_F(RecorderViewTest, TheSpectrumNamesItsPeak) {
+  if (!hasSpectra()) GTEST_SKIP();
+  keep(1, sineRecord());
+  view.choice.mode = RecorderMode::spectrum;
+  for (const auto& [isInDecibels, text] :
+       {std::pair(true, "1.000 kHz\n-3.0"), std::pair(false, "1.000 kHz\n70")}) {
+    view.choice.isInDecibels = isInDecibels;
+    const RecorderPicture picture = view.picture();
+    ASSERT_FALSE(picture.labels.empty());
+    EXPECT_TRUE(picture.labels[0].text.starts_with(text)) << picture.labels[0].text;
+    EXPECT_NEAR(picture.x.high, 12500, 1);
+  }
+  next.madeUnder.voltsPerDivision.reset();
+  keepLevel(1, 3);
+  EXPECT_TRUE(view.picture().curves.empty());
+}
+
+TEST_F(RecorderViewTest, CursorsSayWhatTheAxesMean) {
+  keep(1, sineRecord());
+  RecorderCursors cursors;
+  using Texts = std::vector<std::string>;
+  EXPECT_TRUE(cursorTexts(cursors, view.picture(), 1).empty());
+  cursors.kind = RecorderCursors::across;
+  cursors.move(0, 0.25);
+  cursors.move(1, 0.75);
+  EXPECT_EQ(cursorTexts(cursors, view.picture(), 1),
+            (Texts{"|Δt| = 10.00 ms", "1/|Δt| = 100.0 Hz"}));
+  cursors.kind = RecorderCursors::up;
+  cursors.move(0, 2);
+  cursors.move(1, 0.5);
+  EXPECT_EQ(cursorTexts(cursors, view.picture(), 1),
+            (Texts{"P1 = 2.00 V", "P2 = 0 mV", "ΔV = 2.00 V"}));
+  next.madeUnder = {};
+  keepLevel(1, 9);
+  EXPECT_EQ(cursorTexts(cursors, view.picture(), 1),
+            (Texts{"P1 = 4.00 div", "P2 = 0.00 div", "Δ = 4.00 div"}));
+}
+
+TEST_F(RecorderViewTest, StatisticsAreThoseOfTheStretch) {
+  for (const int level : {0, 50, 100, 150, 200}) keepLevel(1, level);
+  keepLevel(2, 200);
+  EXPECT_TRUE(view.measureMore(3));
+  EXPECT_TRUE(view.statisticsTitle(1).ends_with("(3 measured so far)")) << view.statisticsTitle(1);
+  EXPECT_FALSE(view.measureMore(10));
+  const auto mean = [&](Quantity quantity) { return view.statistics(quantity, 1)[1].value; };
+  EXPECT_EQ(mean(Quantity::minimum), "1.000 V");
+  EXPECT_EQ(mean(Quantity::frequency), "");
+  view.mark(4, 3);
+  EXPECT_EQ(mean(Quantity::minimum), "1.750 V");
+  EXPECT_EQ(view.statistics(Quantity::minimum, 1)[0].value, "2");
+}
+
+TEST_F(RecorderViewTest, TheStripShowsEveryRecordAtItsTime) {
+  constexpr int width = 400;
+  RecordTimeline& line = view.timeline;
+  EXPECT_FALSE(line.at(0.5, 0));
+  for (int i = 0; i < 60; ++i) keepLevel(1, i);
+  next.fetchedAt += 60000;
+  for (int i = 0; i < 60; ++i) keepLevel(1 + i % 2, 100 + i);
+  ASSERT_TRUE(store.pin(30, "odd"));
+  const auto picture = line.picture(width);
+  ASSERT_EQ(picture.gaps.size(), 1U);
+  EXPECT_EQ(picture.gaps[0].number, 60);
+  ASSERT_EQ(picture.pins.size(), 1U);
+  EXPECT_EQ(picture.pins[0].column, line.columnOf(30, width));
+  for (const RecordStore::Number number : {0, 31, 59, 119}) {
+    const int column = line.columnOf(number, width);
+    EXPECT_TRUE(picture.columns.at(static_cast<std::size_t>(store.facts(number).channel - 1))
+                    .at(static_cast<std::size_t>(column))
+                    .isAny)
+        << number;
+    EXPECT_EQ(line.at((column + 0.9) / width, store.facts(number).channel), number);
+  }
+  for (int i = 0; i < 10; ++i) line.zoom(0.5, 0);
+  EXPECT_FALSE(line.showsAll());
+  EXPECT_EQ(line.at(0, 0), 0);
+  line.reveal(119);
+  EXPECT_GT(line.columnOf(119, width), 0);
+  EXPECT_LT(line.columnOf(119, width), width);
+  line.zoom(1000, 0.5);
+  EXPECT_TRUE(line.showsAll());
+}
+
+class RecorderTest : public ProgramTest {
+ protected:
+  Recorder recorder{main};
+
+  void arrive(const std::string& bytes) {
+    program.acquisition.DataReady({.channel = 1, .stamp = main.known.now(), .bytes = bytes});
+  }
+};
+
+TEST_F(RecorderTest, KeepsWhatThePanelFetchesAndLogsEachSweepOnce) {
+  const auto path = folder.path() / "log.csv";
+  int rings = 0;
+  recorder.ring = [&] { ++rings; };
+  recorder.startLog(path, {{Quantity::period}, {*limitOf("vpp > 1 V")}}, {true, true});
+  for (const double amplitude : {100.0, 100.0, 80.0}) arrive(sineRecord(amplitude));
+  recorder.tick();
+  EXPECT_EQ(recorder.store().size(), 2U);
+  EXPECT_EQ(recorder.log()->rows(), 2U);
+  EXPECT_NE(recorder.logText(Words()).find("2 rows"), std::string::npos);
+  // No scale has been read: nothing is beyond a limit.
+  EXPECT_EQ(rings, 0);
+  EXPECT_TRUE(recorder.store().pinned().empty());
+  EXPECT_TRUE(takeWire().empty());
+}
+
+TEST_F(RecorderTest, ARecordTakesTheFirstReferenceThatIsFree) {
+  main.graphDSO.plot(3).visible = true;
+  main.channels[0].drawnShift = 25;
+  ChannelRecord record{sineRecord(), {}, {0.5, 2e-3, std::nullopt, std::nullopt}, 0, 0};
+  EXPECT_TRUE(showAsReference(main, 1, record));
+  EXPECT_TRUE(main.graphDSO.plot(4).isShown());
+  EXPECT_EQ(main.graphDSO.plot(4).scale(), "500.0 mV");
+  EXPECT_DOUBLE_EQ(main.graphDSO.plot(4).y()[6], 125);
+  EXPECT_TRUE(showAsReference(main, 1, record));
+  EXPECT_TRUE(showAsReference(main, 1, record));
+  EXPECT_FALSE(showAsReference(main, 1, record));
+}
+
+}  // namespace tracewell
