@@ -24,9 +24,9 @@ constexpr QMargins likelyFrame(4, 40, 4, 4);
 /// Until it has. Milliseconds.
 constexpr int framingTime = 300;
 
-const QMap<QString, Theme> themes = {{QStringLiteral("light"), Theme::light},
-                                     {QStringLiteral("dark"), Theme::dark},
-                                     {QStringLiteral("contrast"), Theme::highContrast}};
+const QMap<QString, Theme> themeWords = {{QStringLiteral("light"), Theme::light},
+                                         {QStringLiteral("dark"), Theme::dark},
+                                         {QStringLiteral("contrast"), Theme::highContrast}};
 
 struct Place {
   /// Without the frame.
@@ -51,7 +51,7 @@ std::optional<Place> readPlace(const std::filesystem::path& file) {
   const QSize size(number(3), number(4));
   if (!found.hasMatch() || size.boundedTo(leastSize) != leastSize) return std::nullopt;
   return Place{QRect(QPoint(number(1), number(2)), size), number(5) == 1,
-               themes.value(found.captured(6), Theme::system)};
+               themeWords.value(found.captured(6), Theme::system)};
 }
 
 /// Its mode, which the new file would take over, would keep that from being read, too.
@@ -115,7 +115,7 @@ void WindowState::restore(QWidget& window) const {
 void WindowState::keep(const QWidget& window) const {
   const bool isMaximised = window.isMaximized();
   const QRect inside = isMaximised ? window.normalGeometry() : window.geometry();
-  const QString theme = themes.key(theme_);
+  const QString theme = themeWords.key(theme_);
   const QString text = QStringLiteral("%1,%2,%3,%4,%5%6\r\n")
                            .arg(inside.x())
                            .arg(inside.y())
