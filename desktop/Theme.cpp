@@ -106,9 +106,13 @@ void applyTheme(QApplication& application, Theme chosen, const QPalette& desktop
   QStringList sheets = {QStringLiteral("common"),
                         isDark(colours.window) ? QStringLiteral("dark") : QStringLiteral("light")};
   if (hasContrast) sheets << QStringLiteral("contrast");
+  const QPalette palette = paletteOf(colours);
+  const QString sheet = styleSheet(sheets);
+  // Each widget there is would be styled anew.
+  if (application.styleSheet() == sheet && QApplication::palette() == palette) return;
   QApplication::setStyle(new PanelStyle);
-  QApplication::setPalette(paletteOf(colours));
-  application.setStyleSheet(styleSheet(sheets));
+  QApplication::setPalette(palette);
+  application.setStyleSheet(sheet);
 }
 
 void applyTheme(QApplication& application, Theme chosen) {
