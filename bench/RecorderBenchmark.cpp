@@ -60,6 +60,7 @@ void strip(benchmark::State& state) {
   shown.setLook(look);
   shown.resize(1200, 104);
   shown.show();
+  QApplication::processEvents();
   for (auto _ : state) shown.repaint();
 }
 BENCHMARK(strip)->Unit(benchmark::kMillisecond);
@@ -77,6 +78,7 @@ void graph(benchmark::State& state) {
   shown.setLook(look);
   shown.resize(820, 480);
   shown.show();
+  QApplication::processEvents();
   RecordStore::Number number = store.first();
   for (auto _ : state) {
     view.select(1000 + number++ % 8000);

@@ -17,7 +17,7 @@
 #include "LinePort.h"
 #include "PortDirectory.h"
 #include "ProgramFolder.h"
-#include "Recorder.h"
+#include "RecordingRun.h"
 #include "WallTime.h"
 
 namespace {
@@ -98,14 +98,14 @@ int record(const RecorderOptions& options) {
     return exitStatus(RecorderEnd::notWritten);
   }
   int status = exitStatus(RecorderEnd::done);
-  Recorder recorder(options, *output, port, clock, dispatcher,
-                    {[&](const std::string& text) { console.say(text); },
-                     [&](const std::string& text) { console.progress(text); },
-                     [&](RecorderEnd end) {
-                       status = exitStatus(end);
-                       gate.close();
-                       QCoreApplication::quit();
-                     }});
+  RecordingRun recorder(options, *output, port, clock, dispatcher,
+                        {[&](const std::string& text) { console.say(text); },
+                         [&](const std::string& text) { console.progress(text); },
+                         [&](RecorderEnd end) {
+                           status = exitStatus(end);
+                           gate.close();
+                           QCoreApplication::quit();
+                         }});
   const EndingSignals endingSignals(
       [&] { dispatcher.dispatchEnd([&] { recorder.endBySignal(); }); });
   clock.callAfter(0, [&] { dispatcher.dispatch([&] { recorder.begin(); }); });

@@ -24,8 +24,32 @@
         <translation>%1 ne contient aucune courbe des voies choisies</translation>
     </message>
     <message>
+        <source>%1 has no spectrum: its scales are not known, or its record is cut</source>
+        <translation>%1 n'a pas de spectre : ses échelles sont inconnues ou son enregistrement est tronqué</translation>
+    </message>
+    <message>
         <source>%1 holds no setup</source>
         <translation>%1 ne contient pas de réglages</translation>
+    </message>
+    <message>
+        <source>%1 in divisions: its scale is not known</source>
+        <translation>%1 en divisions : son échelle est inconnue</translation>
+    </message>
+    <message>
+        <source>%1 in divisions: math has no volts</source>
+        <translation>%1 en divisions : le calcul n'a pas de volts</translation>
+    </message>
+    <message>
+        <source>%1 records left out: their scales are not known</source>
+        <translation>%1 enregistrements omis : leurs échelles sont inconnues</translation>
+    </message>
+    <message>
+        <source>%1 rows lost</source>
+        <translation>%1 lignes perdues</translation>
+    </message>
+    <message>
+        <source>%1 rows wait: %2</source>
+        <translation>%1 lignes en attente : %2</translation>
     </message>
     <message>
         <source>%1 was changed by another program, and that is kept as %2</source>
@@ -42,6 +66,14 @@
     <message>
         <source>%1: %2 of %3 settings not confirmed</source>
         <translation>%1 : %2 réglages sur %3 non confirmés</translation>
+    </message>
+    <message>
+        <source>%1: %2 records, %3 to %4</source>
+        <translation>%1 : %2 enregistrements, de %3 à %4</translation>
+    </message>
+    <message>
+        <source>%1: %2, %3 rows, %4</source>
+        <translation>%1 : %2, %3 lignes, %4</translation>
     </message>
     <message>
         <source>%1: given up</source>
@@ -64,6 +96,10 @@
         <translation>%1 : en direct</translation>
     </message>
     <message>
+        <source>%1: mean of %2 spectra, %3 from line to line</source>
+        <translation>%1 : moyenne de %2 spectres, %3 de raie en raie</translation>
+    </message>
+    <message>
         <source>%1: no answer to %2 of %3 questions</source>
         <translation>%1 : %2 questions sur %3 sans réponse</translation>
     </message>
@@ -74,6 +110,10 @@
     <message>
         <source>%1: not known whether recorded at %2</source>
         <translation>%1 : on ignore si l'enregistrement est à %2</translation>
+    </message>
+    <message>
+        <source>%1: only %2 earlier records under these scales</source>
+        <translation>%1 : seulement %2 enregistrements antérieurs à ces échelles</translation>
     </message>
     <message>
         <source>%1: question %2 of %3</source>
@@ -102,6 +142,10 @@
     <message>
         <source>%1: wait until the settings have been sent</source>
         <translation>%1 : attendez que les réglages soient envoyés</translation>
+    </message>
+    <message>
+        <source>(%1 measured so far)</source>
+        <translation>(%1 déjà mesurés)</translation>
     </message>
     <message>
         <source>100mV per division</source>
@@ -264,6 +308,14 @@
         <translation>5 µs par division</translation>
     </message>
     <message>
+        <source>A record of the recorder is %1</source>
+        <translation>Un enregistrement de l'enregistreur est %1</translation>
+    </message>
+    <message>
+        <source>AC RMS</source>
+        <translation>Efficace AC</translation>
+    </message>
+    <message>
         <source>About Tracewell</source>
         <translation>À propos de Tracewell</translation>
     </message>
@@ -308,6 +360,10 @@
         <translation>Toutes celles de la voie 2</translation>
     </message>
     <message>
+        <source>Amplitude</source>
+        <translation>Amplitude</translation>
+    </message>
+    <message>
         <source>Amplitude: high level less low level</source>
         <translation>Amplitude : niveau haut moins niveau bas</translation>
     </message>
@@ -326,6 +382,18 @@
     <message>
         <source>Bandwidth limit against noise</source>
         <translation>Limitation de la bande passante contre le bruit</translation>
+    </message>
+    <message>
+        <source>Base</source>
+        <translation>Niveau bas</translation>
+    </message>
+    <message>
+        <source>Before it: %1</source>
+        <translation>Avant : %1</translation>
+    </message>
+    <message>
+        <source>Bell</source>
+        <translation>Sonnerie</translation>
     </message>
     <message>
         <source>Both channels</source>
@@ -368,6 +436,10 @@
         <translation>Voie à mesurer</translation>
     </message>
     <message>
+        <source>Channels</source>
+        <translation>Voies</translation>
+    </message>
+    <message>
         <source>Choose and run measurements</source>
         <translation>Choisir et lancer les mesures</translation>
     </message>
@@ -376,8 +448,20 @@
         <translation>Choisir dans la liste des commandes</translation>
     </message>
     <message>
+        <source>Choose what is measured first</source>
+        <translation>Choisissez d'abord ce qui est mesuré</translation>
+    </message>
+    <message>
+        <source>Chooses the file. A file with the same columns is continued</source>
+        <translation>Choisit le fichier. Un fichier qui a les mêmes colonnes est continué</translation>
+    </message>
+    <message>
         <source>Clear</source>
         <translation>Vider</translation>
+    </message>
+    <message>
+        <source>Click or drag: a record. Shift + drag: a stretch. Wheel: zoom. Arrow keys, Page Up and Down, Home, End: step. Dotted line: a gap</source>
+        <translation>Clic ou glisser : un enregistrement. Maj + glisser : une plage. Molette : zoom. Flèches, Page préc. et suiv., Début, Fin : pas à pas. Pointillé : une lacune</translation>
     </message>
     <message>
         <source>Close</source>
@@ -416,6 +500,10 @@
         <translation>Copié</translation>
     </message>
     <message>
+        <source>Copies the picture and its values for other programs (Ctrl+C)</source>
+        <translation>Copie l'image et ses valeurs pour d'autres programmes (Ctrl+C)</translation>
+    </message>
+    <message>
         <source>Copy</source>
         <translation>Copier</translation>
     </message>
@@ -426,6 +514,10 @@
     <message>
         <source>Copy the values</source>
         <translation>Copier les valeurs</translation>
+    </message>
+    <message>
+        <source>Count</source>
+        <translation>Nombre</translation>
     </message>
     <message>
         <source>Coupling</source>
@@ -444,8 +536,20 @@
         <translation>Couplage, sonde, inversion et limitation de bande de la voie 2</translation>
     </message>
     <message>
+        <source>Cursors</source>
+        <translation>Curseurs</translation>
+    </message>
+    <message>
+        <source>Cursors across</source>
+        <translation>Curseurs verticaux</translation>
+    </message>
+    <message>
         <source>Cursors off</source>
         <translation>Sans curseurs</translation>
+    </message>
+    <message>
+        <source>Cursors up</source>
+        <translation>Curseurs horizontaux</translation>
     </message>
     <message>
         <source>Dark</source>
@@ -454,6 +558,10 @@
     <message>
         <source>Data bits of a byte</source>
         <translation>Bits de données par octet</translation>
+    </message>
+    <message>
+        <source>Delay to CH1</source>
+        <translation>Retard sur CH1</translation>
     </message>
     <message>
         <source>Description of the chosen waveform</source>
@@ -472,6 +580,10 @@
         <translation>Afficher la voie 2</translation>
     </message>
     <message>
+        <source>Divisions across: the time base is not known</source>
+        <translation>Divisions en abscisse : la base de temps est inconnue</translation>
+    </message>
+    <message>
         <source>Dots at the samples</source>
         <translation>Points aux échantillons</translation>
     </message>
@@ -480,12 +592,40 @@
         <translation>Double-clic : journal d'erreurs</translation>
     </message>
     <message>
+        <source>Drawn as</source>
+        <translation>Représentation</translation>
+    </message>
+    <message>
+        <source>Draws each of the last 20 records, the older the paler</source>
+        <translation>Trace chacun des 20 derniers enregistrements, les plus anciens plus pâles</translation>
+    </message>
+    <message>
+        <source>Draws the lowest and highest value of all these records</source>
+        <translation>Trace la valeur la plus basse et la plus haute de tous ces enregistrements</translation>
+    </message>
+    <message>
+        <source>Draws the mean of all these records</source>
+        <translation>Trace la moyenne de tous ces enregistrements</translation>
+    </message>
+    <message>
         <source>Drive</source>
         <translation>Lecteur</translation>
     </message>
     <message>
+        <source>Duty</source>
+        <translation>Rapport cyclique</translation>
+    </message>
+    <message>
         <source>Empty the log</source>
         <translation>Vider le journal</translation>
+    </message>
+    <message>
+        <source>Ends the log; the file is whole</source>
+        <translation>Termine le journal ; le fichier est complet</translation>
+    </message>
+    <message>
+        <source>Envelope</source>
+        <translation>Enveloppe</translation>
     </message>
     <message>
         <source>Error Log</source>
@@ -500,12 +640,36 @@
         <translation>Journal d'erreurs : %1 nouv.</translation>
     </message>
     <message>
+        <source>Export</source>
+        <translation>Exporter</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exporter…</translation>
+    </message>
+    <message>
+        <source>Fading</source>
+        <translation>Rémanence</translation>
+    </message>
+    <message>
+        <source>Fall time</source>
+        <translation>Temps de descente</translation>
+    </message>
+    <message>
+        <source>Flat top</source>
+        <translation>Flat top</translation>
+    </message>
+    <message>
         <source>Folders</source>
         <translation>Dossiers</translation>
     </message>
     <message>
         <source>Folders; double click or Enter opens</source>
         <translation>Dossiers ; double-clic ou Entrée pour ouvrir</translation>
+    </message>
+    <message>
+        <source>Follow</source>
+        <translation>Suivre</translation>
     </message>
     <message>
         <source>Format of the picture file</source>
@@ -520,12 +684,36 @@
         <translation>Réjection de fréquence</translation>
     </message>
     <message>
+        <source>Goes to a pinned record; it stays when others go</source>
+        <translation>Va à un enregistrement épinglé ; il reste quand les autres partent</translation>
+    </message>
+    <message>
+        <source>Goes with the newest record (F)</source>
+        <translation>Suit l'enregistrement le plus récent (F)</translation>
+    </message>
+    <message>
+        <source>Graph of the record</source>
+        <translation>Graphe de l'enregistrement</translation>
+    </message>
+    <message>
+        <source>Hann</source>
+        <translation>Hann</translation>
+    </message>
+    <message>
+        <source>Hann tells close frequencies apart, flat top shows true levels</source>
+        <translation>Hann sépare les fréquences proches, flat top montre les niveaux exacts</translation>
+    </message>
+    <message>
         <source>High contrast</source>
         <translation>Contraste élevé</translation>
     </message>
     <message>
         <source>High level</source>
         <translation>Niveau haut</translation>
+    </message>
+    <message>
+        <source>Highest</source>
+        <translation>Maximum</translation>
     </message>
     <message>
         <source>Highest value</source>
@@ -542,6 +730,10 @@
     <message>
         <source>Horizontal position in divisions; double click for zero</source>
         <translation>Position horizontale, en divisions ; double-clic : zéro</translation>
+    </message>
+    <message>
+        <source>How many records before this one belong to the picture; a spectrum is their mean</source>
+        <translation>Combien d'enregistrements avant celui-ci font partie de l'image ; un spectre est leur moyenne</translation>
     </message>
     <message>
         <source>How records are taken</source>
@@ -568,8 +760,16 @@
         <translation>Utilisé : %1. Réglages enregistrés : %2 (OK dans le dialogue RS-232 les applique)</translation>
     </message>
     <message>
+        <source>It lies over the live traces now</source>
+        <translation>Il est maintenant superposé aux traces en direct</translation>
+    </message>
+    <message>
         <source>Keep what has been set</source>
         <translation>Garder ce qui a été réglé</translation>
+    </message>
+    <message>
+        <source>Keeps this record, under the name, when others go</source>
+        <translation>Garde cet enregistrement, sous ce nom, quand les autres partent</translation>
     </message>
     <message>
         <source>Lay a data file over the traces</source>
@@ -580,8 +780,20 @@
         <translation>Superposer une courbe enregistrée aux traces</translation>
     </message>
     <message>
+        <source>Lays the record over the live traces, as Load does</source>
+        <translation>Superpose l'enregistrement aux traces en direct, comme Charger</translation>
+    </message>
+    <message>
+        <source>Let go</source>
+        <translation>Libérer</translation>
+    </message>
+    <message>
         <source>Let the instrument find its settings</source>
         <translation>Laisser l'instrument trouver ses réglages</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Niveau</translation>
     </message>
     <message>
         <source>Licence</source>
@@ -594,6 +806,14 @@
     <message>
         <source>Like the desktop</source>
         <translation>Comme le bureau</translation>
+    </message>
+    <message>
+        <source>Limits</source>
+        <translation>Limites</translation>
+    </message>
+    <message>
+        <source>Limits:</source>
+        <translation>Limites :</translation>
     </message>
     <message>
         <source>Line only</source>
@@ -620,8 +840,16 @@
         <translation>%1 chargé</translation>
     </message>
     <message>
+        <source>Log</source>
+        <translation>Journal</translation>
+    </message>
+    <message>
         <source>Low level</source>
         <translation>Niveau bas</translation>
+    </message>
+    <message>
+        <source>Lowest</source>
+        <translation>Minimum</translation>
     </message>
     <message>
         <source>Lowest value</source>
@@ -630,6 +858,10 @@
     <message>
         <source>Manual and keys</source>
         <translation>Manuel et touches</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>Maximum</translation>
     </message>
     <message>
         <source>Mean</source>
@@ -650,6 +882,14 @@
     <message>
         <source>Measure what is ticked</source>
         <translation>Mesurer ce qui est coché</translation>
+    </message>
+    <message>
+        <source>Measured from the samples; choose a line for its statistics</source>
+        <translation>Mesuré sur les échantillons ; choisissez une ligne pour sa statistique</translation>
+    </message>
+    <message>
+        <source>Measurement</source>
+        <translation>Mesure</translation>
     </message>
     <message>
         <source>Measurement 1</source>
@@ -716,6 +956,14 @@
         <translation>Mesure 9</translation>
     </message>
     <message>
+        <source>Measurements</source>
+        <translation>Mesures</translation>
+    </message>
+    <message>
+        <source>Measurements of each record into a file, for hours (Ctrl+L)</source>
+        <translation>Les mesures de chaque enregistrement dans un fichier, pendant des heures (Ctrl+L)</translation>
+    </message>
+    <message>
         <source>Measuring</source>
         <translation>Mesure en cours</translation>
     </message>
@@ -724,8 +972,20 @@
         <translation>Message</translation>
     </message>
     <message>
+        <source>Minimum</source>
+        <translation>Minimum</translation>
+    </message>
+    <message>
         <source>Mode</source>
         <translation>Mode</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Name of the pinned record</source>
+        <translation>Nom de l'enregistrement épinglé</translation>
     </message>
     <message>
         <source>Name of the plot</source>
@@ -744,6 +1004,14 @@
         <translation>Pas de réponse à %1</translation>
     </message>
     <message>
+        <source>No cursors</source>
+        <translation>Sans curseurs</translation>
+    </message>
+    <message>
+        <source>No more records can be pinned</source>
+        <translation>Impossible d'épingler plus d'enregistrements</translation>
+    </message>
+    <message>
         <source>No program here shows the manual. It is %1</source>
         <translation>Aucun programme ici n'affiche le manuel. Il se trouve dans %1</translation>
     </message>
@@ -752,8 +1020,24 @@
         <translation>Aucun enregistrement depuis %1 s</translation>
     </message>
     <message>
+        <source>No record yet: they are kept as they come</source>
+        <translation>Pas encore d'enregistrement : ils sont gardés au fur et à mesure</translation>
+    </message>
+    <message>
+        <source>No reference is free: press %1 first</source>
+        <translation>Aucune référence n'est libre : appuyez d'abord sur %1</translation>
+    </message>
+    <message>
+        <source>No reference is free: remove one in the panel first</source>
+        <translation>Aucune référence n'est libre : retirez-en d'abord une dans le panneau</translation>
+    </message>
+    <message>
         <source>No room for all of %1: press %2 first</source>
         <translation>Pas assez de place pour tout %1 : appuyer d'abord sur %2</translation>
+    </message>
+    <message>
+        <source>No window</source>
+        <translation>Sans fenêtre</translation>
     </message>
     <message>
         <source>Noise Reject</source>
@@ -768,12 +1052,24 @@
         <translation>Aucune de la voie 2</translation>
     </message>
     <message>
+        <source>Not a limit: %1. Write them as vpp &gt; 1.2 V; freq &lt; 990 Hz</source>
+        <translation>Pas une limite : %1. Écrivez-les ainsi : vpp &gt; 1.2 V; freq &lt; 990 Hz</translation>
+    </message>
+    <message>
         <source>Not present: %1</source>
         <translation>Absent : %1</translation>
     </message>
     <message>
         <source>Not sent: the text has more than one line</source>
         <translation>Non envoyé : le texte a plus d'une ligne</translation>
+    </message>
+    <message>
+        <source>Nothing pinned</source>
+        <translation>Rien d'épinglé</translation>
+    </message>
+    <message>
+        <source>Nothing to export: the scales of these records are not known</source>
+        <translation>Rien à exporter : les échelles de ces enregistrements sont inconnues</translation>
     </message>
     <message>
         <source>Nothing will be kept. %1</source>
@@ -792,8 +1088,16 @@
         <translation>Numéro du port ; 0 : instrument simulé</translation>
     </message>
     <message>
+        <source>Of the stretch that is marked, else of all records</source>
+        <translation>De la plage marquée, sinon de tous les enregistrements</translation>
+    </message>
+    <message>
         <source>Open the error log</source>
         <translation>Ouvrir le journal d'erreurs</translation>
+    </message>
+    <message>
+        <source>Overshoot</source>
+        <translation>Dépassement</translation>
     </message>
     <message>
         <source>Parameter of the command</source>
@@ -812,6 +1116,10 @@
         <translation>Période</translation>
     </message>
     <message>
+        <source>Phase to CH1</source>
+        <translation>Phase sur CH1</translation>
+    </message>
+    <message>
         <source>Pick the time per division</source>
         <translation>Choisir le temps par division</translation>
     </message>
@@ -826,6 +1134,22 @@
     <message>
         <source>Picture of the chosen waveform</source>
         <translation>Image de la courbe choisie</translation>
+    </message>
+    <message>
+        <source>Pin</source>
+        <translation>Épingler</translation>
+    </message>
+    <message>
+        <source>Pinned records</source>
+        <translation>Enregistrements épinglés</translation>
+    </message>
+    <message>
+        <source>Pinned: %1</source>
+        <translation>Épinglés : %1</translation>
+    </message>
+    <message>
+        <source>Pins each record that is beyond a limit</source>
+        <translation>Épingle chaque enregistrement au-delà d'une limite</translation>
     </message>
     <message>
         <source>Positive width in percent of the period</source>
@@ -844,12 +1168,28 @@
         <translation>Imprimer le rapport</translation>
     </message>
     <message>
+        <source>RMS</source>
+        <translation>Efficace</translation>
+    </message>
+    <message>
         <source>Read the instrument again with the present port settings</source>
         <translation>Relire l'instrument avec les réglages actuels du port</translation>
     </message>
     <message>
         <source>Read the instrument, then start and stop the traces</source>
         <translation>Lire l'instrument, puis démarrer et arrêter les traces</translation>
+    </message>
+    <message>
+        <source>Recorder</source>
+        <translation>Enregistreur</translation>
+    </message>
+    <message>
+        <source>Records along time</source>
+        <translation>Enregistrements dans le temps</translation>
+    </message>
+    <message>
+        <source>Records before this one</source>
+        <translation>Enregistrements avant celui-ci</translation>
     </message>
     <message>
         <source>Records in an average</source>
@@ -876,12 +1216,24 @@
         <translation>Retirer les courbes chargées</translation>
     </message>
     <message>
+        <source>Rename</source>
+        <translation>Renommer</translation>
+    </message>
+    <message>
         <source>Replies and records</source>
         <translation>Réponses et enregistrements</translation>
     </message>
     <message>
+        <source>Rise time</source>
+        <translation>Temps de montée</translation>
+    </message>
+    <message>
         <source>Root mean square</source>
         <translation>Valeur efficace</translation>
+    </message>
+    <message>
+        <source>Rows beyond a limit name it. The short names stand in the list of measurements</source>
+        <translation>Les lignes au-delà d'une limite la nomment. Les noms courts sont dans la liste des mesures</translation>
     </message>
     <message>
         <source>Run or stop the acquisition of the instrument itself</source>
@@ -960,8 +1312,16 @@
         <translation>Réglages enregistrés dans %1</translation>
     </message>
     <message>
+        <source>Show in the panel</source>
+        <translation>Montrer dans le panneau</translation>
+    </message>
+    <message>
         <source>Slope</source>
         <translation>Front</translation>
+    </message>
+    <message>
+        <source>Sounds the bell at each record that is beyond a limit</source>
+        <translation>Sonne à chaque enregistrement au-delà d'une limite</translation>
     </message>
     <message>
         <source>Source</source>
@@ -972,6 +1332,14 @@
         <translation>Source, mode, front et couplage du déclenchement</translation>
     </message>
     <message>
+        <source>Spectrum</source>
+        <translation>Spectre</translation>
+    </message>
+    <message>
+        <source>Start the log…</source>
+        <translation>Démarrer le journal…</translation>
+    </message>
+    <message>
         <source>State of the acquisition</source>
         <translation>État de l'acquisition</translation>
     </message>
@@ -980,12 +1348,24 @@
         <translation>État de la connexion</translation>
     </message>
     <message>
+        <source>Statistics</source>
+        <translation>Statistique</translation>
+    </message>
+    <message>
         <source>Status</source>
         <translation>État</translation>
     </message>
     <message>
+        <source>Std deviation</source>
+        <translation>Écart-type</translation>
+    </message>
+    <message>
         <source>Stop bits behind a byte</source>
         <translation>Bits d'arrêt après un octet</translation>
+    </message>
+    <message>
+        <source>Stop the log</source>
+        <translation>Arrêter le journal</translation>
     </message>
     <message>
         <source>Stopped</source>
@@ -1016,8 +1396,20 @@
         <translation>L'acquisition s'est arrêtée : %1</translation>
     </message>
     <message>
+        <source>The channels that are shown, stepped through and measured</source>
+        <translation>Les voies montrées, parcourues et mesurées</translation>
+    </message>
+    <message>
+        <source>The columns of the log</source>
+        <translation>Les colonnes du journal</translation>
+    </message>
+    <message>
         <source>The data file</source>
         <translation>Le fichier de données</translation>
+    </message>
+    <message>
+        <source>The disk is full: %1 rows wait</source>
+        <translation>Le disque est plein : %1 lignes en attente</translation>
     </message>
     <message>
         <source>The folder that is shown</source>
@@ -1038,6 +1430,10 @@
     <message>
         <source>The last question had no answer: press %1</source>
         <translation>La dernière question est restée sans réponse : appuyer sur %1</translation>
+    </message>
+    <message>
+        <source>The log has ended</source>
+        <translation>Le journal est terminé</translation>
     </message>
     <message>
         <source>The picture to save</source>
@@ -1068,6 +1464,10 @@
         <translation>Les réglages n'ont pas pu être enregistrés dans %1.</translation>
     </message>
     <message>
+        <source>The unit of the levels</source>
+        <translation>L'unité des niveaux</translation>
+    </message>
+    <message>
         <source>Theme</source>
         <translation>Thème</translation>
     </message>
@@ -1080,8 +1480,20 @@
         <translation>Ces courbes viennent de la connexion précédente</translation>
     </message>
     <message>
+        <source>This record alone</source>
+        <translation>Cet enregistrement seul</translation>
+    </message>
+    <message>
+        <source>This record may go with the others again</source>
+        <translation>Cet enregistrement peut de nouveau partir avec les autres</translation>
+    </message>
+    <message>
         <source>This version has new files beside those that you have changed: %1</source>
         <translation>Cette version a placé de nouveaux fichiers à côté de ceux que vous avez modifiés : %1</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Temps</translation>
     </message>
     <message>
         <source>Time of the falling edge</source>
@@ -1104,6 +1516,14 @@
         <translation>Temps que prend l'instrument</translation>
     </message>
     <message>
+        <source>Top</source>
+        <translation>Niveau haut</translation>
+    </message>
+    <message>
+        <source>Trace</source>
+        <translation>Trace</translation>
+    </message>
+    <message>
         <source>Trace upside down</source>
         <translation>Trace inversée</translation>
     </message>
@@ -1122,6 +1542,14 @@
     <message>
         <source>Trigger level in volts; double click for zero</source>
         <translation>Niveau de déclenchement, en volts ; double-clic : zéro</translation>
+    </message>
+    <message>
+        <source>Two cursors with their distance: drag them, or use the arrow keys in the graph</source>
+        <translation>Deux curseurs et leur écart : faites-les glisser, ou utilisez les flèches dans le graphe</translation>
+    </message>
+    <message>
+        <source>V/div not known</source>
+        <translation>V/div inconnus</translation>
     </message>
     <message>
         <source>Version</source>
@@ -1164,6 +1592,10 @@
         <translation>En attente de la réponse à %1</translation>
     </message>
     <message>
+        <source>What is drawn of the records</source>
+        <translation>Ce qui est tracé des enregistrements</translation>
+    </message>
+    <message>
         <source>What is set</source>
         <translation>Ce qui est réglé</translation>
     </message>
@@ -1192,6 +1624,14 @@
         <translation>Largeur de l'impulsion positive</translation>
     </message>
     <message>
+        <source>Window of the spectrum</source>
+        <translation>Fenêtre du spectre</translation>
+    </message>
+    <message>
+        <source>With the last %1</source>
+        <translation>Avec les %1 derniers</translation>
+    </message>
+    <message>
         <source>Write the shown record to text.csv</source>
         <translation>Écrire l'enregistrement affiché dans text.csv</translation>
     </message>
@@ -1200,12 +1640,76 @@
         <translation>Écrire le texte à l'endroit cliqué de l'image</translation>
     </message>
     <message>
+        <source>Writes the marked stretch, else this record, as CSV in volts and seconds (Ctrl+E)</source>
+        <translation>Écrit la plage marquée, sinon cet enregistrement, en CSV en volts et secondes (Ctrl+E)</translation>
+    </message>
+    <message>
+        <source>X-Y</source>
+        <translation>X-Y</translation>
+    </message>
+    <message>
+        <source>X-Y needs both channels of one sweep: display both, press Run/Stop, and wait for both</source>
+        <translation>X-Y demande les deux voies d'un même balayage : affichez les deux, appuyez sur Run/Stop et attendez les deux</translation>
+    </message>
+    <message>
+        <source>another port</source>
+        <translation>autre port</translation>
+    </message>
+    <message>
+        <source>clipped</source>
+        <translation>écrêté</translation>
+    </message>
+    <message>
+        <source>fetched %1 times</source>
+        <translation>lu %1 fois</translation>
+    </message>
+    <message>
+        <source>flat</source>
+        <translation>plat</translation>
+    </message>
+    <message>
         <source>from the zero of %1:</source>
         <translation>depuis le zéro de %1 :</translation>
     </message>
     <message>
+        <source>irregular</source>
+        <translation>irrégulier</translation>
+    </message>
+    <message>
+        <source>less than a period</source>
+        <translation>moins d'une période</translation>
+    </message>
+    <message>
+        <source>math, which has no volts</source>
+        <translation>calcul, sans volts</translation>
+    </message>
+    <message>
         <source>not answered</source>
         <translation>sans réponse</translation>
+    </message>
+    <message>
+        <source>not of one sweep</source>
+        <translation>pas du même balayage</translation>
+    </message>
+    <message>
+        <source>nothing fetched</source>
+        <translation>rien de lu</translation>
+    </message>
+    <message>
+        <source>opened anew</source>
+        <translation>rouvert</translation>
+    </message>
+    <message>
+        <source>other period</source>
+        <translation>autre période</translation>
+    </message>
+    <message>
+        <source>other scales</source>
+        <translation>autres échelles</translation>
+    </message>
+    <message>
+        <source>pinned</source>
+        <translation>épinglé</translation>
     </message>
     <message>
         <source>port %1</source>
@@ -1220,8 +1724,32 @@
         <translation>port %1, %2 bauds %3</translation>
     </message>
     <message>
+        <source>record %1 of %2</source>
+        <translation>enregistrement %1 sur %2</translation>
+    </message>
+    <message>
+        <source>record cut</source>
+        <translation>enregistrement tronqué</translation>
+    </message>
+    <message>
+        <source>s/div not known</source>
+        <translation>s/div inconnues</translation>
+    </message>
+    <message>
+        <source>scale not known</source>
+        <translation>échelle inconnue</translation>
+    </message>
+    <message>
         <source>simulated instrument</source>
         <translation>instrument simulé</translation>
+    </message>
+    <message>
+        <source>stopped meanwhile</source>
+        <translation>arrêté entre-temps</translation>
+    </message>
+    <message>
+        <source>too few samples</source>
+        <translation>trop peu d'échantillons</translation>
     </message>
 </context>
 </TS>

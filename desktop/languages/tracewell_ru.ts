@@ -24,8 +24,32 @@
         <translation>В %1 нет записи выбранных каналов</translation>
     </message>
     <message>
+        <source>%1 has no spectrum: its scales are not known, or its record is cut</source>
+        <translation>У %1 нет спектра: масштабы неизвестны или запись обрезана</translation>
+    </message>
+    <message>
         <source>%1 holds no setup</source>
         <translation>В %1 нет настроек</translation>
+    </message>
+    <message>
+        <source>%1 in divisions: its scale is not known</source>
+        <translation>%1 в делениях: масштаб неизвестен</translation>
+    </message>
+    <message>
+        <source>%1 in divisions: math has no volts</source>
+        <translation>%1 в делениях: у математики нет вольт</translation>
+    </message>
+    <message>
+        <source>%1 records left out: their scales are not known</source>
+        <translation>Пропущено записей: %1, их масштабы неизвестны</translation>
+    </message>
+    <message>
+        <source>%1 rows lost</source>
+        <translation>потеряно строк: %1</translation>
+    </message>
+    <message>
+        <source>%1 rows wait: %2</source>
+        <translation>Ожидает строк: %1. %2</translation>
     </message>
     <message>
         <source>%1 was changed by another program, and that is kept as %2</source>
@@ -42,6 +66,14 @@
     <message>
         <source>%1: %2 of %3 settings not confirmed</source>
         <translation>%1: не подтверждено настроек: %2 из %3</translation>
+    </message>
+    <message>
+        <source>%1: %2 records, %3 to %4</source>
+        <translation>%1: записей %2, с %3 до %4</translation>
+    </message>
+    <message>
+        <source>%1: %2, %3 rows, %4</source>
+        <translation>%1: %2, строк %3, %4</translation>
     </message>
     <message>
         <source>%1: given up</source>
@@ -64,6 +96,10 @@
         <translation>%1: в реальном времени</translation>
     </message>
     <message>
+        <source>%1: mean of %2 spectra, %3 from line to line</source>
+        <translation>%1: среднее из спектров: %2, шаг линий %3</translation>
+    </message>
+    <message>
         <source>%1: no answer to %2 of %3 questions</source>
         <translation>%1: нет ответа на запросы: %2 из %3</translation>
     </message>
@@ -74,6 +110,10 @@
     <message>
         <source>%1: not known whether recorded at %2</source>
         <translation>%1: неизвестно, записано ли при %2</translation>
+    </message>
+    <message>
+        <source>%1: only %2 earlier records under these scales</source>
+        <translation>%1: прежних записей в этих масштабах только %2</translation>
     </message>
     <message>
         <source>%1: question %2 of %3</source>
@@ -102,6 +142,10 @@
     <message>
         <source>%1: wait until the settings have been sent</source>
         <translation>%1: подождите, пока параметры будут отправлены</translation>
+    </message>
+    <message>
+        <source>(%1 measured so far)</source>
+        <translation>(пока измерено %1)</translation>
     </message>
     <message>
         <source>100mV per division</source>
@@ -264,6 +308,14 @@
         <translation>5 мкс на деление</translation>
     </message>
     <message>
+        <source>A record of the recorder is %1</source>
+        <translation>Запись регистратора показана как %1</translation>
+    </message>
+    <message>
+        <source>AC RMS</source>
+        <translation>СКЗ перем.</translation>
+    </message>
+    <message>
         <source>About Tracewell</source>
         <translation>О программе Tracewell</translation>
     </message>
@@ -308,6 +360,10 @@
         <translation>Все для канала 2</translation>
     </message>
     <message>
+        <source>Amplitude</source>
+        <translation>Амплитуда</translation>
+    </message>
+    <message>
         <source>Amplitude: high level less low level</source>
         <translation>Амплитуда: верхний уровень минус нижний</translation>
     </message>
@@ -326,6 +382,18 @@
     <message>
         <source>Bandwidth limit against noise</source>
         <translation>Ограничение полосы для подавления шума</translation>
+    </message>
+    <message>
+        <source>Base</source>
+        <translation>Основание</translation>
+    </message>
+    <message>
+        <source>Before it: %1</source>
+        <translation>Перед ней: %1</translation>
+    </message>
+    <message>
+        <source>Bell</source>
+        <translation>Звонок</translation>
     </message>
     <message>
         <source>Both channels</source>
@@ -368,6 +436,10 @@
         <translation>Измеряемый канал</translation>
     </message>
     <message>
+        <source>Channels</source>
+        <translation>Каналы</translation>
+    </message>
+    <message>
         <source>Choose and run measurements</source>
         <translation>Выбрать и выполнить измерения</translation>
     </message>
@@ -376,8 +448,20 @@
         <translation>Выбрать из списка команд</translation>
     </message>
     <message>
+        <source>Choose what is measured first</source>
+        <translation>Сначала выберите измерения</translation>
+    </message>
+    <message>
+        <source>Chooses the file. A file with the same columns is continued</source>
+        <translation>Выбор файла. Файл с теми же столбцами продолжается</translation>
+    </message>
+    <message>
         <source>Clear</source>
         <translation>Очистить</translation>
+    </message>
+    <message>
+        <source>Click or drag: a record. Shift + drag: a stretch. Wheel: zoom. Arrow keys, Page Up and Down, Home, End: step. Dotted line: a gap</source>
+        <translation>Щелчок или перетаскивание: запись. Shift + перетаскивание: участок. Колесо: масштаб. Стрелки, Page Up и Down, Home, End: шаг. Пунктир: разрыв</translation>
     </message>
     <message>
         <source>Close</source>
@@ -416,6 +500,10 @@
         <translation>Скопировано</translation>
     </message>
     <message>
+        <source>Copies the picture and its values for other programs (Ctrl+C)</source>
+        <translation>Копирует рисунок и значения для других программ (Ctrl+C)</translation>
+    </message>
+    <message>
         <source>Copy</source>
         <translation>Копировать</translation>
     </message>
@@ -426,6 +514,10 @@
     <message>
         <source>Copy the values</source>
         <translation>Копировать значения</translation>
+    </message>
+    <message>
+        <source>Count</source>
+        <translation>Количество</translation>
     </message>
     <message>
         <source>Coupling</source>
@@ -444,8 +536,20 @@
         <translation>Связь, щуп, инверсия и ограничение полосы канала 2</translation>
     </message>
     <message>
+        <source>Cursors</source>
+        <translation>Курсоры</translation>
+    </message>
+    <message>
+        <source>Cursors across</source>
+        <translation>Курсоры по X</translation>
+    </message>
+    <message>
         <source>Cursors off</source>
         <translation>Курсоры выключены</translation>
+    </message>
+    <message>
+        <source>Cursors up</source>
+        <translation>Курсоры по Y</translation>
     </message>
     <message>
         <source>Dark</source>
@@ -454,6 +558,10 @@
     <message>
         <source>Data bits of a byte</source>
         <translation>Битов данных в байте</translation>
+    </message>
+    <message>
+        <source>Delay to CH1</source>
+        <translation>Задержка к CH1</translation>
     </message>
     <message>
         <source>Description of the chosen waveform</source>
@@ -472,6 +580,10 @@
         <translation>Показывать канал 2</translation>
     </message>
     <message>
+        <source>Divisions across: the time base is not known</source>
+        <translation>По горизонтали деления: развёртка неизвестна</translation>
+    </message>
+    <message>
         <source>Dots at the samples</source>
         <translation>Точки на отсчётах</translation>
     </message>
@@ -480,12 +592,40 @@
         <translation>Двойной щелчок: журнал ошибок</translation>
     </message>
     <message>
+        <source>Drawn as</source>
+        <translation>Вид</translation>
+    </message>
+    <message>
+        <source>Draws each of the last 20 records, the older the paler</source>
+        <translation>Рисует каждую из последних 20 записей, чем старше, тем бледнее</translation>
+    </message>
+    <message>
+        <source>Draws the lowest and highest value of all these records</source>
+        <translation>Рисует наименьшее и наибольшее значение всех этих записей</translation>
+    </message>
+    <message>
+        <source>Draws the mean of all these records</source>
+        <translation>Рисует среднее всех этих записей</translation>
+    </message>
+    <message>
         <source>Drive</source>
         <translation>Диск</translation>
     </message>
     <message>
+        <source>Duty</source>
+        <translation>Заполнение</translation>
+    </message>
+    <message>
         <source>Empty the log</source>
         <translation>Очистить журнал</translation>
+    </message>
+    <message>
+        <source>Ends the log; the file is whole</source>
+        <translation>Завершает журнал; файл остаётся целым</translation>
+    </message>
+    <message>
+        <source>Envelope</source>
+        <translation>Огибающая</translation>
     </message>
     <message>
         <source>Error Log</source>
@@ -500,12 +640,36 @@
         <translation>Журнал ошибок: новых %1</translation>
     </message>
     <message>
+        <source>Export</source>
+        <translation>Экспорт</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Экспорт…</translation>
+    </message>
+    <message>
+        <source>Fading</source>
+        <translation>Послесвечение</translation>
+    </message>
+    <message>
+        <source>Fall time</source>
+        <translation>Время спада</translation>
+    </message>
+    <message>
+        <source>Flat top</source>
+        <translation>С плоской вершиной</translation>
+    </message>
+    <message>
         <source>Folders</source>
         <translation>Папки</translation>
     </message>
     <message>
         <source>Folders; double click or Enter opens</source>
         <translation>Папки; двойной щелчок или Enter открывает</translation>
+    </message>
+    <message>
+        <source>Follow</source>
+        <translation>Следовать</translation>
     </message>
     <message>
         <source>Format of the picture file</source>
@@ -520,12 +684,36 @@
         <translation>Подавление частот</translation>
     </message>
     <message>
+        <source>Goes to a pinned record; it stays when others go</source>
+        <translation>Переход к закреплённой записи; она остаётся, когда другие уходят</translation>
+    </message>
+    <message>
+        <source>Goes with the newest record (F)</source>
+        <translation>Показывает самую новую запись (F)</translation>
+    </message>
+    <message>
+        <source>Graph of the record</source>
+        <translation>График записи</translation>
+    </message>
+    <message>
+        <source>Hann</source>
+        <translation>Ханн</translation>
+    </message>
+    <message>
+        <source>Hann tells close frequencies apart, flat top shows true levels</source>
+        <translation>Окно Ханна разделяет близкие частоты, окно с плоской вершиной показывает верные уровни</translation>
+    </message>
+    <message>
         <source>High contrast</source>
         <translation>Высокая контрастность</translation>
     </message>
     <message>
         <source>High level</source>
         <translation>Верхний уровень</translation>
+    </message>
+    <message>
+        <source>Highest</source>
+        <translation>Наибольшее</translation>
     </message>
     <message>
         <source>Highest value</source>
@@ -542,6 +730,10 @@
     <message>
         <source>Horizontal position in divisions; double click for zero</source>
         <translation>Сдвиг по горизонтали, в делениях; двойной щелчок: ноль</translation>
+    </message>
+    <message>
+        <source>How many records before this one belong to the picture; a spectrum is their mean</source>
+        <translation>Сколько записей перед этой входит в картину; спектр — их среднее</translation>
     </message>
     <message>
         <source>How records are taken</source>
@@ -568,8 +760,16 @@
         <translation>Используется: %1. В настройках: %2 (применит OK в окне RS-232)</translation>
     </message>
     <message>
+        <source>It lies over the live traces now</source>
+        <translation>Теперь она поверх живых осциллограмм</translation>
+    </message>
+    <message>
         <source>Keep what has been set</source>
         <translation>Оставить то, что установлено</translation>
+    </message>
+    <message>
+        <source>Keeps this record, under the name, when others go</source>
+        <translation>Сохраняет эту запись под этим именем, когда другие уходят</translation>
     </message>
     <message>
         <source>Lay a data file over the traces</source>
@@ -580,8 +780,20 @@
         <translation>Наложить сохранённую осциллограмму</translation>
     </message>
     <message>
+        <source>Lays the record over the live traces, as Load does</source>
+        <translation>Накладывает запись на живые осциллограммы, как «Загрузить»</translation>
+    </message>
+    <message>
+        <source>Let go</source>
+        <translation>Отпустить</translation>
+    </message>
+    <message>
         <source>Let the instrument find its settings</source>
         <translation>Прибор сам подберёт настройки</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Уровень</translation>
     </message>
     <message>
         <source>Licence</source>
@@ -594,6 +806,14 @@
     <message>
         <source>Like the desktop</source>
         <translation>Как на рабочем столе</translation>
+    </message>
+    <message>
+        <source>Limits</source>
+        <translation>Пределы</translation>
+    </message>
+    <message>
+        <source>Limits:</source>
+        <translation>Пределы:</translation>
     </message>
     <message>
         <source>Line only</source>
@@ -620,8 +840,16 @@
         <translation>Загружено: %1</translation>
     </message>
     <message>
+        <source>Log</source>
+        <translation>Журнал</translation>
+    </message>
+    <message>
         <source>Low level</source>
         <translation>Нижний уровень</translation>
+    </message>
+    <message>
+        <source>Lowest</source>
+        <translation>Наименьшее</translation>
     </message>
     <message>
         <source>Lowest value</source>
@@ -630,6 +858,10 @@
     <message>
         <source>Manual and keys</source>
         <translation>Руководство и клавиши</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>Максимум</translation>
     </message>
     <message>
         <source>Mean</source>
@@ -650,6 +882,14 @@
     <message>
         <source>Measure what is ticked</source>
         <translation>Измерить отмеченное</translation>
+    </message>
+    <message>
+        <source>Measured from the samples; choose a line for its statistics</source>
+        <translation>Измерено по отсчётам; выберите строку для её статистики</translation>
+    </message>
+    <message>
+        <source>Measurement</source>
+        <translation>Измерение</translation>
     </message>
     <message>
         <source>Measurement 1</source>
@@ -716,6 +956,14 @@
         <translation>Измерение 9</translation>
     </message>
     <message>
+        <source>Measurements</source>
+        <translation>Измерения</translation>
+    </message>
+    <message>
+        <source>Measurements of each record into a file, for hours (Ctrl+L)</source>
+        <translation>Измерения каждой записи в файл, часами (Ctrl+L)</translation>
+    </message>
+    <message>
         <source>Measuring</source>
         <translation>Идёт измерение</translation>
     </message>
@@ -724,8 +972,20 @@
         <translation>Сообщение</translation>
     </message>
     <message>
+        <source>Minimum</source>
+        <translation>Минимум</translation>
+    </message>
+    <message>
         <source>Mode</source>
         <translation>Режим</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Имя</translation>
+    </message>
+    <message>
+        <source>Name of the pinned record</source>
+        <translation>Имя закреплённой записи</translation>
     </message>
     <message>
         <source>Name of the plot</source>
@@ -744,6 +1004,14 @@
         <translation>Нет ответа на %1</translation>
     </message>
     <message>
+        <source>No cursors</source>
+        <translation>Без курсоров</translation>
+    </message>
+    <message>
+        <source>No more records can be pinned</source>
+        <translation>Больше записей закрепить нельзя</translation>
+    </message>
+    <message>
         <source>No program here shows the manual. It is %1</source>
         <translation>Здесь нет программы, которая показывает руководство. Оно находится в %1</translation>
     </message>
@@ -752,8 +1020,24 @@
         <translation>Нет записи уже %1 с</translation>
     </message>
     <message>
+        <source>No record yet: they are kept as they come</source>
+        <translation>Записей ещё нет: они сохраняются по мере поступления</translation>
+    </message>
+    <message>
+        <source>No reference is free: press %1 first</source>
+        <translation>Нет свободной опорной осциллограммы: сначала нажмите %1</translation>
+    </message>
+    <message>
+        <source>No reference is free: remove one in the panel first</source>
+        <translation>Нет свободной опорной осциллограммы: сначала уберите одну на панели</translation>
+    </message>
+    <message>
         <source>No room for all of %1: press %2 first</source>
         <translation>Для всего %1 не хватает места: сначала нажмите «%2»</translation>
+    </message>
+    <message>
+        <source>No window</source>
+        <translation>Без окна</translation>
     </message>
     <message>
         <source>Noise Reject</source>
@@ -768,12 +1052,24 @@
         <translation>Ничего для канала 2</translation>
     </message>
     <message>
+        <source>Not a limit: %1. Write them as vpp &gt; 1.2 V; freq &lt; 990 Hz</source>
+        <translation>Не предел: %1. Пишите так: vpp &gt; 1.2 V; freq &lt; 990 Hz</translation>
+    </message>
+    <message>
         <source>Not present: %1</source>
         <translation>Отсутствует: %1</translation>
     </message>
     <message>
         <source>Not sent: the text has more than one line</source>
         <translation>Не отправлено: в тексте больше одной строки</translation>
+    </message>
+    <message>
+        <source>Nothing pinned</source>
+        <translation>Ничего не закреплено</translation>
+    </message>
+    <message>
+        <source>Nothing to export: the scales of these records are not known</source>
+        <translation>Нечего экспортировать: масштабы этих записей неизвестны</translation>
     </message>
     <message>
         <source>Nothing will be kept. %1</source>
@@ -792,8 +1088,16 @@
         <translation>Номер порта; 0 означает имитатор прибора</translation>
     </message>
     <message>
+        <source>Of the stretch that is marked, else of all records</source>
+        <translation>По выделенному участку, иначе по всем записям</translation>
+    </message>
+    <message>
         <source>Open the error log</source>
         <translation>Открыть журнал ошибок</translation>
+    </message>
+    <message>
+        <source>Overshoot</source>
+        <translation>Выброс</translation>
     </message>
     <message>
         <source>Parameter of the command</source>
@@ -812,6 +1116,10 @@
         <translation>Период</translation>
     </message>
     <message>
+        <source>Phase to CH1</source>
+        <translation>Фаза к CH1</translation>
+    </message>
+    <message>
         <source>Pick the time per division</source>
         <translation>Выбрать время на деление</translation>
     </message>
@@ -826,6 +1134,22 @@
     <message>
         <source>Picture of the chosen waveform</source>
         <translation>Рисунок выбранной осциллограммы</translation>
+    </message>
+    <message>
+        <source>Pin</source>
+        <translation>Закрепить</translation>
+    </message>
+    <message>
+        <source>Pinned records</source>
+        <translation>Закреплённые записи</translation>
+    </message>
+    <message>
+        <source>Pinned: %1</source>
+        <translation>Закреплено: %1</translation>
+    </message>
+    <message>
+        <source>Pins each record that is beyond a limit</source>
+        <translation>Закрепляет каждую запись за пределом</translation>
     </message>
     <message>
         <source>Positive width in percent of the period</source>
@@ -844,12 +1168,28 @@
         <translation>Напечатать отчёт</translation>
     </message>
     <message>
+        <source>RMS</source>
+        <translation>СКЗ</translation>
+    </message>
+    <message>
         <source>Read the instrument again with the present port settings</source>
         <translation>Прочитать прибор заново с текущими настройками порта</translation>
     </message>
     <message>
         <source>Read the instrument, then start and stop the traces</source>
         <translation>Прочитать прибор, затем запускать и останавливать осциллограммы</translation>
+    </message>
+    <message>
+        <source>Recorder</source>
+        <translation>Регистратор</translation>
+    </message>
+    <message>
+        <source>Records along time</source>
+        <translation>Записи по времени</translation>
+    </message>
+    <message>
+        <source>Records before this one</source>
+        <translation>Записи перед этой</translation>
     </message>
     <message>
         <source>Records in an average</source>
@@ -876,12 +1216,24 @@
         <translation>Убрать загруженные осциллограммы</translation>
     </message>
     <message>
+        <source>Rename</source>
+        <translation>Переименовать</translation>
+    </message>
+    <message>
         <source>Replies and records</source>
         <translation>Ответы и записи</translation>
     </message>
     <message>
+        <source>Rise time</source>
+        <translation>Время нарастания</translation>
+    </message>
+    <message>
         <source>Root mean square</source>
         <translation>Среднеквадратичное значение</translation>
+    </message>
+    <message>
+        <source>Rows beyond a limit name it. The short names stand in the list of measurements</source>
+        <translation>Строки за пределом называют его. Краткие имена — в списке измерений</translation>
     </message>
     <message>
         <source>Run or stop the acquisition of the instrument itself</source>
@@ -960,8 +1312,16 @@
         <translation>Настройки сохранены в %1</translation>
     </message>
     <message>
+        <source>Show in the panel</source>
+        <translation>Показать на панели</translation>
+    </message>
+    <message>
         <source>Slope</source>
         <translation>Фронт</translation>
+    </message>
+    <message>
+        <source>Sounds the bell at each record that is beyond a limit</source>
+        <translation>Звонит при каждой записи за пределом</translation>
     </message>
     <message>
         <source>Source</source>
@@ -972,6 +1332,14 @@
         <translation>Источник, режим, фронт и связь синхронизации</translation>
     </message>
     <message>
+        <source>Spectrum</source>
+        <translation>Спектр</translation>
+    </message>
+    <message>
+        <source>Start the log…</source>
+        <translation>Начать журнал…</translation>
+    </message>
+    <message>
         <source>State of the acquisition</source>
         <translation>Состояние сбора данных</translation>
     </message>
@@ -980,12 +1348,24 @@
         <translation>Состояние связи с прибором</translation>
     </message>
     <message>
+        <source>Statistics</source>
+        <translation>Статистика</translation>
+    </message>
+    <message>
         <source>Status</source>
         <translation>Состояние</translation>
     </message>
     <message>
+        <source>Std deviation</source>
+        <translation>Ст. отклонение</translation>
+    </message>
+    <message>
         <source>Stop bits behind a byte</source>
         <translation>Стоп-биты после байта</translation>
+    </message>
+    <message>
+        <source>Stop the log</source>
+        <translation>Остановить журнал</translation>
     </message>
     <message>
         <source>Stopped</source>
@@ -1016,8 +1396,20 @@
         <translation>Сбор данных остановлен: %1</translation>
     </message>
     <message>
+        <source>The channels that are shown, stepped through and measured</source>
+        <translation>Каналы, которые показаны, просматриваются и измеряются</translation>
+    </message>
+    <message>
+        <source>The columns of the log</source>
+        <translation>Столбцы журнала</translation>
+    </message>
+    <message>
         <source>The data file</source>
         <translation>Файл данных</translation>
+    </message>
+    <message>
+        <source>The disk is full: %1 rows wait</source>
+        <translation>Диск заполнен: ожидает строк %1</translation>
     </message>
     <message>
         <source>The folder that is shown</source>
@@ -1038,6 +1430,10 @@
     <message>
         <source>The last question had no answer: press %1</source>
         <translation>На последний запрос нет ответа: нажмите «%1»</translation>
+    </message>
+    <message>
+        <source>The log has ended</source>
+        <translation>Журнал завершён</translation>
     </message>
     <message>
         <source>The picture to save</source>
@@ -1068,6 +1464,10 @@
         <translation>Не удалось сохранить настройки в %1.</translation>
     </message>
     <message>
+        <source>The unit of the levels</source>
+        <translation>Единица уровней</translation>
+    </message>
+    <message>
         <source>Theme</source>
         <translation>Тема</translation>
     </message>
@@ -1080,8 +1480,20 @@
         <translation>Эти осциллограммы получены по прежнему соединению</translation>
     </message>
     <message>
+        <source>This record alone</source>
+        <translation>Только эта запись</translation>
+    </message>
+    <message>
+        <source>This record may go with the others again</source>
+        <translation>Эта запись снова может уйти с другими</translation>
+    </message>
+    <message>
         <source>This version has new files beside those that you have changed: %1</source>
         <translation>Новые файлы этой версии лежат рядом с изменёнными вами: %1</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Время</translation>
     </message>
     <message>
         <source>Time of the falling edge</source>
@@ -1104,6 +1516,14 @@
         <translation>Время, нужное прибору</translation>
     </message>
     <message>
+        <source>Top</source>
+        <translation>Вершина</translation>
+    </message>
+    <message>
+        <source>Trace</source>
+        <translation>Осциллограмма</translation>
+    </message>
+    <message>
         <source>Trace upside down</source>
         <translation>Осциллограмма перевёрнута</translation>
     </message>
@@ -1122,6 +1542,14 @@
     <message>
         <source>Trigger level in volts; double click for zero</source>
         <translation>Уровень синхронизации, в вольтах; двойной щелчок: ноль</translation>
+    </message>
+    <message>
+        <source>Two cursors with their distance: drag them, or use the arrow keys in the graph</source>
+        <translation>Два курсора и расстояние: перетаскивайте их или пользуйтесь стрелками на графике</translation>
+    </message>
+    <message>
+        <source>V/div not known</source>
+        <translation>В/дел неизвестно</translation>
     </message>
     <message>
         <source>Version</source>
@@ -1164,6 +1592,10 @@
         <translation>Ожидание ответа на %1</translation>
     </message>
     <message>
+        <source>What is drawn of the records</source>
+        <translation>Что рисуется из записей</translation>
+    </message>
+    <message>
         <source>What is set</source>
         <translation>Что устанавливается</translation>
     </message>
@@ -1192,6 +1624,14 @@
         <translation>Длительность положительного импульса</translation>
     </message>
     <message>
+        <source>Window of the spectrum</source>
+        <translation>Окно спектра</translation>
+    </message>
+    <message>
+        <source>With the last %1</source>
+        <translation>С последними: %1</translation>
+    </message>
+    <message>
         <source>Write the shown record to text.csv</source>
         <translation>Записать показанную запись в text.csv</translation>
     </message>
@@ -1200,12 +1640,76 @@
         <translation>Писать текст там, где щёлкнули по рисунку</translation>
     </message>
     <message>
+        <source>Writes the marked stretch, else this record, as CSV in volts and seconds (Ctrl+E)</source>
+        <translation>Пишет выделенный участок, иначе эту запись, как CSV в вольтах и секундах (Ctrl+E)</translation>
+    </message>
+    <message>
+        <source>X-Y</source>
+        <translation>X-Y</translation>
+    </message>
+    <message>
+        <source>X-Y needs both channels of one sweep: display both, press Run/Stop, and wait for both</source>
+        <translation>X-Y требует обоих каналов одной развёртки: покажите оба, нажмите Run/Stop и дождитесь обоих</translation>
+    </message>
+    <message>
+        <source>another port</source>
+        <translation>другой порт</translation>
+    </message>
+    <message>
+        <source>clipped</source>
+        <translation>обрезано</translation>
+    </message>
+    <message>
+        <source>fetched %1 times</source>
+        <translation>получено раз: %1</translation>
+    </message>
+    <message>
+        <source>flat</source>
+        <translation>ровный</translation>
+    </message>
+    <message>
         <source>from the zero of %1:</source>
         <translation>от нуля %1:</translation>
     </message>
     <message>
+        <source>irregular</source>
+        <translation>нерегулярно</translation>
+    </message>
+    <message>
+        <source>less than a period</source>
+        <translation>меньше периода</translation>
+    </message>
+    <message>
+        <source>math, which has no volts</source>
+        <translation>математика, без вольт</translation>
+    </message>
+    <message>
         <source>not answered</source>
         <translation>нет ответа</translation>
+    </message>
+    <message>
+        <source>not of one sweep</source>
+        <translation>разные развёртки</translation>
+    </message>
+    <message>
+        <source>nothing fetched</source>
+        <translation>ничего не получено</translation>
+    </message>
+    <message>
+        <source>opened anew</source>
+        <translation>порт открыт заново</translation>
+    </message>
+    <message>
+        <source>other period</source>
+        <translation>другой период</translation>
+    </message>
+    <message>
+        <source>other scales</source>
+        <translation>другие масштабы</translation>
+    </message>
+    <message>
+        <source>pinned</source>
+        <translation>закреплена</translation>
     </message>
     <message>
         <source>port %1</source>
@@ -1220,8 +1724,32 @@
         <translation>порт %1, %2 бод %3</translation>
     </message>
     <message>
+        <source>record %1 of %2</source>
+        <translation>запись %1 из %2</translation>
+    </message>
+    <message>
+        <source>record cut</source>
+        <translation>запись обрезана</translation>
+    </message>
+    <message>
+        <source>s/div not known</source>
+        <translation>с/дел неизвестно</translation>
+    </message>
+    <message>
+        <source>scale not known</source>
+        <translation>масштаб неизвестен</translation>
+    </message>
+    <message>
         <source>simulated instrument</source>
         <translation>имитатор прибора</translation>
+    </message>
+    <message>
+        <source>stopped meanwhile</source>
+        <translation>была остановка</translation>
+    </message>
+    <message>
+        <source>too few samples</source>
+        <translation>мало отсчётов</translation>
     </message>
 </context>
 </TS>

@@ -24,8 +24,32 @@
         <translation>%1 中没有所选通道的波形</translation>
     </message>
     <message>
+        <source>%1 has no spectrum: its scales are not known, or its record is cut</source>
+        <translation>%1 没有频谱：刻度未知或记录不完整</translation>
+    </message>
+    <message>
         <source>%1 holds no setup</source>
         <translation>%1 中没有设置</translation>
+    </message>
+    <message>
+        <source>%1 in divisions: its scale is not known</source>
+        <translation>%1 以格为单位：刻度未知</translation>
+    </message>
+    <message>
+        <source>%1 in divisions: math has no volts</source>
+        <translation>%1 以格为单位：数学运算没有伏特值</translation>
+    </message>
+    <message>
+        <source>%1 records left out: their scales are not known</source>
+        <translation>略过 %1 条记录：刻度未知</translation>
+    </message>
+    <message>
+        <source>%1 rows lost</source>
+        <translation>丢失 %1 行</translation>
+    </message>
+    <message>
+        <source>%1 rows wait: %2</source>
+        <translation>%1 行等待写入：%2</translation>
     </message>
     <message>
         <source>%1 was changed by another program, and that is kept as %2</source>
@@ -42,6 +66,14 @@
     <message>
         <source>%1: %2 of %3 settings not confirmed</source>
         <translation>%1：%3 项设置中有 %2 项未确认</translation>
+    </message>
+    <message>
+        <source>%1: %2 records, %3 to %4</source>
+        <translation>%1：%2 条记录，%3 至 %4</translation>
+    </message>
+    <message>
+        <source>%1: %2, %3 rows, %4</source>
+        <translation>%1：%2，%3 行，%4</translation>
     </message>
     <message>
         <source>%1: given up</source>
@@ -64,6 +96,10 @@
         <translation>%1：实时</translation>
     </message>
     <message>
+        <source>%1: mean of %2 spectra, %3 from line to line</source>
+        <translation>%1：%2 个频谱的平均，谱线间隔 %3</translation>
+    </message>
+    <message>
         <source>%1: no answer to %2 of %3 questions</source>
         <translation>%1：%3 个查询中有 %2 个无应答</translation>
     </message>
@@ -74,6 +110,10 @@
     <message>
         <source>%1: not known whether recorded at %2</source>
         <translation>%1：不知是否在 %2 下记录</translation>
+    </message>
+    <message>
+        <source>%1: only %2 earlier records under these scales</source>
+        <translation>%1：此刻度下只有 %2 条更早的记录</translation>
     </message>
     <message>
         <source>%1: question %2 of %3</source>
@@ -102,6 +142,10 @@
     <message>
         <source>%1: wait until the settings have been sent</source>
         <translation>%1：请等待设置发送完毕</translation>
+    </message>
+    <message>
+        <source>(%1 measured so far)</source>
+        <translation>（已测量 %1 条）</translation>
     </message>
     <message>
         <source>100mV per division</source>
@@ -264,6 +308,14 @@
         <translation>每格 5 µs</translation>
     </message>
     <message>
+        <source>A record of the recorder is %1</source>
+        <translation>记录仪的一条记录为 %1</translation>
+    </message>
+    <message>
+        <source>AC RMS</source>
+        <translation>交流有效值</translation>
+    </message>
+    <message>
         <source>About Tracewell</source>
         <translation>关于 Tracewell</translation>
     </message>
@@ -308,6 +360,10 @@
         <translation>通道 2 全选</translation>
     </message>
     <message>
+        <source>Amplitude</source>
+        <translation>幅度</translation>
+    </message>
+    <message>
         <source>Amplitude: high level less low level</source>
         <translation>幅度：高电平减低电平</translation>
     </message>
@@ -326,6 +382,18 @@
     <message>
         <source>Bandwidth limit against noise</source>
         <translation>限制带宽以抑制噪声</translation>
+    </message>
+    <message>
+        <source>Base</source>
+        <translation>底值</translation>
+    </message>
+    <message>
+        <source>Before it: %1</source>
+        <translation>在此之前：%1</translation>
+    </message>
+    <message>
+        <source>Bell</source>
+        <translation>响铃</translation>
     </message>
     <message>
         <source>Both channels</source>
@@ -368,6 +436,10 @@
         <translation>要测量的通道</translation>
     </message>
     <message>
+        <source>Channels</source>
+        <translation>通道</translation>
+    </message>
+    <message>
         <source>Choose and run measurements</source>
         <translation>选择并执行测量</translation>
     </message>
@@ -376,8 +448,20 @@
         <translation>从命令列表中选择</translation>
     </message>
     <message>
+        <source>Choose what is measured first</source>
+        <translation>请先选择测量项</translation>
+    </message>
+    <message>
+        <source>Chooses the file. A file with the same columns is continued</source>
+        <translation>选择文件。列相同的文件会继续写入</translation>
+    </message>
+    <message>
         <source>Clear</source>
         <translation>清空</translation>
+    </message>
+    <message>
+        <source>Click or drag: a record. Shift + drag: a stretch. Wheel: zoom. Arrow keys, Page Up and Down, Home, End: step. Dotted line: a gap</source>
+        <translation>单击或拖动：选记录。Shift+拖动：选区段。滚轮：缩放。方向键、Page Up/Down、Home、End：逐条移动。虚线：中断</translation>
     </message>
     <message>
         <source>Close</source>
@@ -416,6 +500,10 @@
         <translation>已复制</translation>
     </message>
     <message>
+        <source>Copies the picture and its values for other programs (Ctrl+C)</source>
+        <translation>复制图像及其数值供其他程序使用 (Ctrl+C)</translation>
+    </message>
+    <message>
         <source>Copy</source>
         <translation>复制</translation>
     </message>
@@ -426,6 +514,10 @@
     <message>
         <source>Copy the values</source>
         <translation>复制数值</translation>
+    </message>
+    <message>
+        <source>Count</source>
+        <translation>数量</translation>
     </message>
     <message>
         <source>Coupling</source>
@@ -444,8 +536,20 @@
         <translation>通道 2 的耦合、探头、反相与带宽限制</translation>
     </message>
     <message>
+        <source>Cursors</source>
+        <translation>光标</translation>
+    </message>
+    <message>
+        <source>Cursors across</source>
+        <translation>横轴光标</translation>
+    </message>
+    <message>
         <source>Cursors off</source>
         <translation>关闭光标</translation>
+    </message>
+    <message>
+        <source>Cursors up</source>
+        <translation>纵轴光标</translation>
     </message>
     <message>
         <source>Dark</source>
@@ -454,6 +558,10 @@
     <message>
         <source>Data bits of a byte</source>
         <translation>每字节的数据位</translation>
+    </message>
+    <message>
+        <source>Delay to CH1</source>
+        <translation>对 CH1 延迟</translation>
     </message>
     <message>
         <source>Description of the chosen waveform</source>
@@ -472,6 +580,10 @@
         <translation>显示通道 2</translation>
     </message>
     <message>
+        <source>Divisions across: the time base is not known</source>
+        <translation>横轴以格为单位：时基未知</translation>
+    </message>
+    <message>
         <source>Dots at the samples</source>
         <translation>在采样点处画点</translation>
     </message>
@@ -480,12 +592,40 @@
         <translation>双击：打开错误日志</translation>
     </message>
     <message>
+        <source>Drawn as</source>
+        <translation>显示方式</translation>
+    </message>
+    <message>
+        <source>Draws each of the last 20 records, the older the paler</source>
+        <translation>绘出最近 20 条记录，越旧越淡</translation>
+    </message>
+    <message>
+        <source>Draws the lowest and highest value of all these records</source>
+        <translation>绘出这些记录的最低值和最高值</translation>
+    </message>
+    <message>
+        <source>Draws the mean of all these records</source>
+        <translation>绘出这些记录的平均值</translation>
+    </message>
+    <message>
         <source>Drive</source>
         <translation>驱动器</translation>
     </message>
     <message>
+        <source>Duty</source>
+        <translation>占空比</translation>
+    </message>
+    <message>
         <source>Empty the log</source>
         <translation>清空日志</translation>
+    </message>
+    <message>
+        <source>Ends the log; the file is whole</source>
+        <translation>结束日志；文件完整</translation>
+    </message>
+    <message>
+        <source>Envelope</source>
+        <translation>包络</translation>
     </message>
     <message>
         <source>Error Log</source>
@@ -500,12 +640,36 @@
         <translation>错误日志：%1 条新</translation>
     </message>
     <message>
+        <source>Export</source>
+        <translation>导出</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>导出…</translation>
+    </message>
+    <message>
+        <source>Fading</source>
+        <translation>余辉</translation>
+    </message>
+    <message>
+        <source>Fall time</source>
+        <translation>下降时间</translation>
+    </message>
+    <message>
+        <source>Flat top</source>
+        <translation>平顶窗</translation>
+    </message>
+    <message>
         <source>Folders</source>
         <translation>文件夹</translation>
     </message>
     <message>
         <source>Folders; double click or Enter opens</source>
         <translation>文件夹；双击或按回车键打开</translation>
+    </message>
+    <message>
+        <source>Follow</source>
+        <translation>跟随</translation>
     </message>
     <message>
         <source>Format of the picture file</source>
@@ -520,12 +684,36 @@
         <translation>频率抑制</translation>
     </message>
     <message>
+        <source>Goes to a pinned record; it stays when others go</source>
+        <translation>转到固定的记录；其他记录移出时它会保留</translation>
+    </message>
+    <message>
+        <source>Goes with the newest record (F)</source>
+        <translation>跟随最新的记录 (F)</translation>
+    </message>
+    <message>
+        <source>Graph of the record</source>
+        <translation>记录图形</translation>
+    </message>
+    <message>
+        <source>Hann</source>
+        <translation>汉宁窗</translation>
+    </message>
+    <message>
+        <source>Hann tells close frequencies apart, flat top shows true levels</source>
+        <translation>汉宁窗可分辨相近频率，平顶窗显示准确电平</translation>
+    </message>
+    <message>
         <source>High contrast</source>
         <translation>高对比度</translation>
     </message>
     <message>
         <source>High level</source>
         <translation>高电平</translation>
+    </message>
+    <message>
+        <source>Highest</source>
+        <translation>最高</translation>
     </message>
     <message>
         <source>Highest value</source>
@@ -542,6 +730,10 @@
     <message>
         <source>Horizontal position in divisions; double click for zero</source>
         <translation>水平位置（格）；双击归零</translation>
+    </message>
+    <message>
+        <source>How many records before this one belong to the picture; a spectrum is their mean</source>
+        <translation>此记录之前有多少条一并显示；频谱为其平均</translation>
     </message>
     <message>
         <source>How records are taken</source>
@@ -568,8 +760,16 @@
         <translation>正在使用：%1。设置中：%2（在 RS-232 对话框中按“确定”生效）</translation>
     </message>
     <message>
+        <source>It lies over the live traces now</source>
+        <translation>现已叠加在实时波形上</translation>
+    </message>
+    <message>
         <source>Keep what has been set</source>
         <translation>保留已设定的值</translation>
+    </message>
+    <message>
+        <source>Keeps this record, under the name, when others go</source>
+        <translation>以此名称保留此记录，其他记录移出时也不丢失</translation>
     </message>
     <message>
         <source>Lay a data file over the traces</source>
@@ -580,8 +780,20 @@
         <translation>将已保存的波形叠加到波形上</translation>
     </message>
     <message>
+        <source>Lays the record over the live traces, as Load does</source>
+        <translation>像“载入”一样把记录叠加在实时波形上</translation>
+    </message>
+    <message>
+        <source>Let go</source>
+        <translation>取消固定</translation>
+    </message>
+    <message>
         <source>Let the instrument find its settings</source>
         <translation>让仪器自动找到合适的设置</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>电平</translation>
     </message>
     <message>
         <source>Licence</source>
@@ -594,6 +806,14 @@
     <message>
         <source>Like the desktop</source>
         <translation>跟随桌面</translation>
+    </message>
+    <message>
+        <source>Limits</source>
+        <translation>限值</translation>
+    </message>
+    <message>
+        <source>Limits:</source>
+        <translation>限值：</translation>
     </message>
     <message>
         <source>Line only</source>
@@ -620,8 +840,16 @@
         <translation>已读取 %1</translation>
     </message>
     <message>
+        <source>Log</source>
+        <translation>日志</translation>
+    </message>
+    <message>
         <source>Low level</source>
         <translation>低电平</translation>
+    </message>
+    <message>
+        <source>Lowest</source>
+        <translation>最低</translation>
     </message>
     <message>
         <source>Lowest value</source>
@@ -630,6 +858,10 @@
     <message>
         <source>Manual and keys</source>
         <translation>手册与按键</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>最大值</translation>
     </message>
     <message>
         <source>Mean</source>
@@ -650,6 +882,14 @@
     <message>
         <source>Measure what is ticked</source>
         <translation>测量已勾选的项目</translation>
+    </message>
+    <message>
+        <source>Measured from the samples; choose a line for its statistics</source>
+        <translation>由采样点测得；选择一行查看其统计</translation>
+    </message>
+    <message>
+        <source>Measurement</source>
+        <translation>测量</translation>
     </message>
     <message>
         <source>Measurement 1</source>
@@ -716,6 +956,14 @@
         <translation>测量值 9</translation>
     </message>
     <message>
+        <source>Measurements</source>
+        <translation>测量</translation>
+    </message>
+    <message>
+        <source>Measurements of each record into a file, for hours (Ctrl+L)</source>
+        <translation>把每条记录的测量值写入文件，可持续数小时 (Ctrl+L)</translation>
+    </message>
+    <message>
         <source>Measuring</source>
         <translation>正在测量</translation>
     </message>
@@ -724,8 +972,20 @@
         <translation>提示</translation>
     </message>
     <message>
+        <source>Minimum</source>
+        <translation>最小值</translation>
+    </message>
+    <message>
         <source>Mode</source>
         <translation>方式</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Name of the pinned record</source>
+        <translation>固定记录的名称</translation>
     </message>
     <message>
         <source>Name of the plot</source>
@@ -744,6 +1004,14 @@
         <translation>%1 无应答</translation>
     </message>
     <message>
+        <source>No cursors</source>
+        <translation>无光标</translation>
+    </message>
+    <message>
+        <source>No more records can be pinned</source>
+        <translation>不能再固定更多记录</translation>
+    </message>
+    <message>
         <source>No program here shows the manual. It is %1</source>
         <translation>此处没有可显示手册的程序。手册位于 %1</translation>
     </message>
@@ -752,8 +1020,24 @@
         <translation>已有 %1 秒没有记录</translation>
     </message>
     <message>
+        <source>No record yet: they are kept as they come</source>
+        <translation>尚无记录：记录到达时即被保存</translation>
+    </message>
+    <message>
+        <source>No reference is free: press %1 first</source>
+        <translation>没有空闲的参考波形：请先按 %1</translation>
+    </message>
+    <message>
+        <source>No reference is free: remove one in the panel first</source>
+        <translation>没有空闲的参考波形：请先在面板中移除一个</translation>
+    </message>
+    <message>
         <source>No room for all of %1: press %2 first</source>
         <translation>%1 无法全部显示：请先按“%2”</translation>
+    </message>
+    <message>
+        <source>No window</source>
+        <translation>不加窗</translation>
     </message>
     <message>
         <source>Noise Reject</source>
@@ -768,12 +1052,24 @@
         <translation>通道 2 全不选</translation>
     </message>
     <message>
+        <source>Not a limit: %1. Write them as vpp &gt; 1.2 V; freq &lt; 990 Hz</source>
+        <translation>不是限值：%1。请写成 vpp &gt; 1.2 V; freq &lt; 990 Hz</translation>
+    </message>
+    <message>
         <source>Not present: %1</source>
         <translation>不存在：%1</translation>
     </message>
     <message>
         <source>Not sent: the text has more than one line</source>
         <translation>未发送：文本不止一行</translation>
+    </message>
+    <message>
+        <source>Nothing pinned</source>
+        <translation>没有固定记录</translation>
+    </message>
+    <message>
+        <source>Nothing to export: the scales of these records are not known</source>
+        <translation>没有可导出的内容：这些记录的刻度未知</translation>
     </message>
     <message>
         <source>Nothing will be kept. %1</source>
@@ -792,8 +1088,16 @@
         <translation>端口号；0 为仿真仪器</translation>
     </message>
     <message>
+        <source>Of the stretch that is marked, else of all records</source>
+        <translation>所标区段的统计，未标时为全部记录</translation>
+    </message>
+    <message>
         <source>Open the error log</source>
         <translation>打开错误日志</translation>
+    </message>
+    <message>
+        <source>Overshoot</source>
+        <translation>过冲</translation>
     </message>
     <message>
         <source>Parameter of the command</source>
@@ -812,6 +1116,10 @@
         <translation>周期</translation>
     </message>
     <message>
+        <source>Phase to CH1</source>
+        <translation>对 CH1 相位</translation>
+    </message>
+    <message>
         <source>Pick the time per division</source>
         <translation>选择每格时间</translation>
     </message>
@@ -826,6 +1134,22 @@
     <message>
         <source>Picture of the chosen waveform</source>
         <translation>所选波形的图片</translation>
+    </message>
+    <message>
+        <source>Pin</source>
+        <translation>固定</translation>
+    </message>
+    <message>
+        <source>Pinned records</source>
+        <translation>固定的记录</translation>
+    </message>
+    <message>
+        <source>Pinned: %1</source>
+        <translation>已固定：%1</translation>
+    </message>
+    <message>
+        <source>Pins each record that is beyond a limit</source>
+        <translation>固定每条超限的记录</translation>
     </message>
     <message>
         <source>Positive width in percent of the period</source>
@@ -844,12 +1168,28 @@
         <translation>打印报告</translation>
     </message>
     <message>
+        <source>RMS</source>
+        <translation>有效值</translation>
+    </message>
+    <message>
         <source>Read the instrument again with the present port settings</source>
         <translation>按当前端口设置重新读取仪器</translation>
     </message>
     <message>
         <source>Read the instrument, then start and stop the traces</source>
         <translation>读取仪器，然后开始和停止波形</translation>
+    </message>
+    <message>
+        <source>Recorder</source>
+        <translation>记录仪</translation>
+    </message>
+    <message>
+        <source>Records along time</source>
+        <translation>按时间排列的记录</translation>
+    </message>
+    <message>
+        <source>Records before this one</source>
+        <translation>此前的记录</translation>
     </message>
     <message>
         <source>Records in an average</source>
@@ -876,12 +1216,24 @@
         <translation>移除已读取的波形</translation>
     </message>
     <message>
+        <source>Rename</source>
+        <translation>重命名</translation>
+    </message>
+    <message>
         <source>Replies and records</source>
         <translation>应答与记录</translation>
     </message>
     <message>
+        <source>Rise time</source>
+        <translation>上升时间</translation>
+    </message>
+    <message>
         <source>Root mean square</source>
         <translation>均方根值</translation>
+    </message>
+    <message>
+        <source>Rows beyond a limit name it. The short names stand in the list of measurements</source>
+        <translation>超限的行会写明限值。简称见测量列表</translation>
     </message>
     <message>
         <source>Run or stop the acquisition of the instrument itself</source>
@@ -960,8 +1312,16 @@
         <translation>设置已保存到 %1</translation>
     </message>
     <message>
+        <source>Show in the panel</source>
+        <translation>在面板中显示</translation>
+    </message>
+    <message>
         <source>Slope</source>
         <translation>斜率</translation>
+    </message>
+    <message>
+        <source>Sounds the bell at each record that is beyond a limit</source>
+        <translation>每有超限记录即响铃</translation>
     </message>
     <message>
         <source>Source</source>
@@ -972,6 +1332,14 @@
         <translation>触发的信源、方式、斜率与耦合</translation>
     </message>
     <message>
+        <source>Spectrum</source>
+        <translation>频谱</translation>
+    </message>
+    <message>
+        <source>Start the log…</source>
+        <translation>开始日志…</translation>
+    </message>
+    <message>
         <source>State of the acquisition</source>
         <translation>采集状态</translation>
     </message>
@@ -980,12 +1348,24 @@
         <translation>连接状态</translation>
     </message>
     <message>
+        <source>Statistics</source>
+        <translation>统计</translation>
+    </message>
+    <message>
         <source>Status</source>
         <translation>状态</translation>
     </message>
     <message>
+        <source>Std deviation</source>
+        <translation>标准差</translation>
+    </message>
+    <message>
         <source>Stop bits behind a byte</source>
         <translation>每字节后的停止位</translation>
+    </message>
+    <message>
+        <source>Stop the log</source>
+        <translation>停止日志</translation>
     </message>
     <message>
         <source>Stopped</source>
@@ -1016,8 +1396,20 @@
         <translation>采集已停止：%1</translation>
     </message>
     <message>
+        <source>The channels that are shown, stepped through and measured</source>
+        <translation>显示、逐条浏览和测量的通道</translation>
+    </message>
+    <message>
+        <source>The columns of the log</source>
+        <translation>日志的列</translation>
+    </message>
+    <message>
         <source>The data file</source>
         <translation>数据文件</translation>
+    </message>
+    <message>
+        <source>The disk is full: %1 rows wait</source>
+        <translation>磁盘已满：%1 行等待写入</translation>
     </message>
     <message>
         <source>The folder that is shown</source>
@@ -1038,6 +1430,10 @@
     <message>
         <source>The last question had no answer: press %1</source>
         <translation>上一个查询无应答：请按“%1”</translation>
+    </message>
+    <message>
+        <source>The log has ended</source>
+        <translation>日志已结束</translation>
     </message>
     <message>
         <source>The picture to save</source>
@@ -1068,6 +1464,10 @@
         <translation>设置无法保存到 %1。</translation>
     </message>
     <message>
+        <source>The unit of the levels</source>
+        <translation>电平单位</translation>
+    </message>
+    <message>
         <source>Theme</source>
         <translation>主题</translation>
     </message>
@@ -1080,8 +1480,20 @@
         <translation>这些波形来自之前的连接</translation>
     </message>
     <message>
+        <source>This record alone</source>
+        <translation>仅此记录</translation>
+    </message>
+    <message>
+        <source>This record may go with the others again</source>
+        <translation>此记录可再随其他记录移出</translation>
+    </message>
+    <message>
         <source>This version has new files beside those that you have changed: %1</source>
         <translation>此版本的新文件已放在您修改过的文件旁边：%1</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
     </message>
     <message>
         <source>Time of the falling edge</source>
@@ -1104,6 +1516,14 @@
         <translation>仪器所需的时间</translation>
     </message>
     <message>
+        <source>Top</source>
+        <translation>顶值</translation>
+    </message>
+    <message>
+        <source>Trace</source>
+        <translation>波形</translation>
+    </message>
+    <message>
         <source>Trace upside down</source>
         <translation>波形上下颠倒</translation>
     </message>
@@ -1122,6 +1542,14 @@
     <message>
         <source>Trigger level in volts; double click for zero</source>
         <translation>触发电平（伏）；双击归零</translation>
+    </message>
+    <message>
+        <source>Two cursors with their distance: drag them, or use the arrow keys in the graph</source>
+        <translation>两个光标及其间距：可拖动，或在图形中用方向键</translation>
+    </message>
+    <message>
+        <source>V/div not known</source>
+        <translation>V/div 未知</translation>
     </message>
     <message>
         <source>Version</source>
@@ -1164,6 +1592,10 @@
         <translation>正在等待 %1 的应答</translation>
     </message>
     <message>
+        <source>What is drawn of the records</source>
+        <translation>记录的绘制内容</translation>
+    </message>
+    <message>
         <source>What is set</source>
         <translation>设定对象</translation>
     </message>
@@ -1192,6 +1624,14 @@
         <translation>正脉宽</translation>
     </message>
     <message>
+        <source>Window of the spectrum</source>
+        <translation>频谱窗函数</translation>
+    </message>
+    <message>
+        <source>With the last %1</source>
+        <translation>连同最近 %1 条</translation>
+    </message>
+    <message>
         <source>Write the shown record to text.csv</source>
         <translation>将显示的记录写入 text.csv</translation>
     </message>
@@ -1200,12 +1640,76 @@
         <translation>在图片上单击处写入文字</translation>
     </message>
     <message>
+        <source>Writes the marked stretch, else this record, as CSV in volts and seconds (Ctrl+E)</source>
+        <translation>将所标区段（未标时为此记录）以伏特和秒写成 CSV (Ctrl+E)</translation>
+    </message>
+    <message>
+        <source>X-Y</source>
+        <translation>X-Y</translation>
+    </message>
+    <message>
+        <source>X-Y needs both channels of one sweep: display both, press Run/Stop, and wait for both</source>
+        <translation>X-Y 需要同一次扫描的两个通道：显示两者，按 Run/Stop，等待两者到达</translation>
+    </message>
+    <message>
+        <source>another port</source>
+        <translation>另一端口</translation>
+    </message>
+    <message>
+        <source>clipped</source>
+        <translation>削波</translation>
+    </message>
+    <message>
+        <source>fetched %1 times</source>
+        <translation>已读取 %1 次</translation>
+    </message>
+    <message>
+        <source>flat</source>
+        <translation>平直</translation>
+    </message>
+    <message>
         <source>from the zero of %1:</source>
         <translation>自 %1 的零点算起：</translation>
     </message>
     <message>
+        <source>irregular</source>
+        <translation>不规则</translation>
+    </message>
+    <message>
+        <source>less than a period</source>
+        <translation>不足一个周期</translation>
+    </message>
+    <message>
+        <source>math, which has no volts</source>
+        <translation>数学运算，无伏特值</translation>
+    </message>
+    <message>
         <source>not answered</source>
         <translation>未应答</translation>
+    </message>
+    <message>
+        <source>not of one sweep</source>
+        <translation>非同一次扫描</translation>
+    </message>
+    <message>
+        <source>nothing fetched</source>
+        <translation>未读取</translation>
+    </message>
+    <message>
+        <source>opened anew</source>
+        <translation>重新打开</translation>
+    </message>
+    <message>
+        <source>other period</source>
+        <translation>周期不同</translation>
+    </message>
+    <message>
+        <source>other scales</source>
+        <translation>刻度不同</translation>
+    </message>
+    <message>
+        <source>pinned</source>
+        <translation>已固定</translation>
     </message>
     <message>
         <source>port %1</source>
@@ -1220,8 +1724,32 @@
         <translation>端口 %1，%2 波特 %3</translation>
     </message>
     <message>
+        <source>record %1 of %2</source>
+        <translation>第 %1 条，共 %2 条</translation>
+    </message>
+    <message>
+        <source>record cut</source>
+        <translation>记录不完整</translation>
+    </message>
+    <message>
+        <source>s/div not known</source>
+        <translation>s/div 未知</translation>
+    </message>
+    <message>
+        <source>scale not known</source>
+        <translation>刻度未知</translation>
+    </message>
+    <message>
         <source>simulated instrument</source>
         <translation>仿真仪器</translation>
+    </message>
+    <message>
+        <source>stopped meanwhile</source>
+        <translation>期间停止过</translation>
+    </message>
+    <message>
+        <source>too few samples</source>
+        <translation>采样点太少</translation>
     </message>
 </context>
 </TS>

@@ -24,8 +24,32 @@
         <translation>%1 入面冇所揀通道嘅波形</translation>
     </message>
     <message>
+        <source>%1 has no spectrum: its scales are not known, or its record is cut</source>
+        <translation>%1 沒有頻譜：刻度未知或記錄不完整</translation>
+    </message>
+    <message>
         <source>%1 holds no setup</source>
         <translation>%1 入面冇設定</translation>
+    </message>
+    <message>
+        <source>%1 in divisions: its scale is not known</source>
+        <translation>%1 以格為單位：刻度未知</translation>
+    </message>
+    <message>
+        <source>%1 in divisions: math has no volts</source>
+        <translation>%1 以格為單位：數學運算冇伏特值</translation>
+    </message>
+    <message>
+        <source>%1 records left out: their scales are not known</source>
+        <translation>略過 %1 條記錄：刻度未知</translation>
+    </message>
+    <message>
+        <source>%1 rows lost</source>
+        <translation>遺失 %1 行</translation>
+    </message>
+    <message>
+        <source>%1 rows wait: %2</source>
+        <translation>%1 行等待寫入：%2</translation>
     </message>
     <message>
         <source>%1 was changed by another program, and that is kept as %2</source>
@@ -42,6 +66,14 @@
     <message>
         <source>%1: %2 of %3 settings not confirmed</source>
         <translation>%1：%3 項設定有 %2 項未確認</translation>
+    </message>
+    <message>
+        <source>%1: %2 records, %3 to %4</source>
+        <translation>%1：%2 條記錄，%3 至 %4</translation>
+    </message>
+    <message>
+        <source>%1: %2, %3 rows, %4</source>
+        <translation>%1：%2，%3 行，%4</translation>
     </message>
     <message>
         <source>%1: given up</source>
@@ -64,6 +96,10 @@
         <translation>%1：實時</translation>
     </message>
     <message>
+        <source>%1: mean of %2 spectra, %3 from line to line</source>
+        <translation>%1：%2 個頻譜嘅平均，譜線間隔 %3</translation>
+    </message>
+    <message>
         <source>%1: no answer to %2 of %3 questions</source>
         <translation>%1：%3 個查詢有 %2 個冇回應</translation>
     </message>
@@ -74,6 +110,10 @@
     <message>
         <source>%1: not known whether recorded at %2</source>
         <translation>%1：唔知係咪用 %2 記錄</translation>
+    </message>
+    <message>
+        <source>%1: only %2 earlier records under these scales</source>
+        <translation>%1：呢個刻度下只有 %2 條更早嘅記錄</translation>
     </message>
     <message>
         <source>%1: question %2 of %3</source>
@@ -102,6 +142,10 @@
     <message>
         <source>%1: wait until the settings have been sent</source>
         <translation>%1：請等設定傳送完</translation>
+    </message>
+    <message>
+        <source>(%1 measured so far)</source>
+        <translation>（已測量 %1 條）</translation>
     </message>
     <message>
         <source>100mV per division</source>
@@ -264,6 +308,14 @@
         <translation>每格 5 µs</translation>
     </message>
     <message>
+        <source>A record of the recorder is %1</source>
+        <translation>記錄儀嘅一條記錄係 %1</translation>
+    </message>
+    <message>
+        <source>AC RMS</source>
+        <translation>交流有效值</translation>
+    </message>
+    <message>
         <source>About Tracewell</source>
         <translation>關於 Tracewell</translation>
     </message>
@@ -308,6 +360,10 @@
         <translation>通道 2 全選</translation>
     </message>
     <message>
+        <source>Amplitude</source>
+        <translation>幅度</translation>
+    </message>
+    <message>
         <source>Amplitude: high level less low level</source>
         <translation>幅度：高電平減低電平</translation>
     </message>
@@ -326,6 +382,18 @@
     <message>
         <source>Bandwidth limit against noise</source>
         <translation>限制頻寬以減少噪音</translation>
+    </message>
+    <message>
+        <source>Base</source>
+        <translation>底值</translation>
+    </message>
+    <message>
+        <source>Before it: %1</source>
+        <translation>之前：%1</translation>
+    </message>
+    <message>
+        <source>Bell</source>
+        <translation>響鐘</translation>
     </message>
     <message>
         <source>Both channels</source>
@@ -368,6 +436,10 @@
         <translation>要量度嘅通道</translation>
     </message>
     <message>
+        <source>Channels</source>
+        <translation>通道</translation>
+    </message>
+    <message>
         <source>Choose and run measurements</source>
         <translation>揀選並進行量度</translation>
     </message>
@@ -376,8 +448,20 @@
         <translation>喺指令清單度揀</translation>
     </message>
     <message>
+        <source>Choose what is measured first</source>
+        <translation>請先揀測量項目</translation>
+    </message>
+    <message>
+        <source>Chooses the file. A file with the same columns is continued</source>
+        <translation>揀檔案。欄相同嘅檔案會繼續寫落去</translation>
+    </message>
+    <message>
         <source>Clear</source>
         <translation>清空</translation>
+    </message>
+    <message>
+        <source>Click or drag: a record. Shift + drag: a stretch. Wheel: zoom. Arrow keys, Page Up and Down, Home, End: step. Dotted line: a gap</source>
+        <translation>撳或者拖：揀記錄。Shift+拖：揀區段。滾輪：縮放。方向鍵、Page Up/Down、Home、End：逐條移動。虛線：中斷</translation>
     </message>
     <message>
         <source>Close</source>
@@ -416,6 +500,10 @@
         <translation>已複製</translation>
     </message>
     <message>
+        <source>Copies the picture and its values for other programs (Ctrl+C)</source>
+        <translation>複製圖像同數值畀其他程式用 (Ctrl+C)</translation>
+    </message>
+    <message>
         <source>Copy</source>
         <translation>複製</translation>
     </message>
@@ -426,6 +514,10 @@
     <message>
         <source>Copy the values</source>
         <translation>複製數值</translation>
+    </message>
+    <message>
+        <source>Count</source>
+        <translation>數量</translation>
     </message>
     <message>
         <source>Coupling</source>
@@ -444,8 +536,20 @@
         <translation>通道 2 嘅耦合、探頭、反相同頻寬限制</translation>
     </message>
     <message>
+        <source>Cursors</source>
+        <translation>游標</translation>
+    </message>
+    <message>
+        <source>Cursors across</source>
+        <translation>橫軸游標</translation>
+    </message>
+    <message>
         <source>Cursors off</source>
         <translation>關閉游標</translation>
+    </message>
+    <message>
+        <source>Cursors up</source>
+        <translation>縱軸游標</translation>
     </message>
     <message>
         <source>Dark</source>
@@ -454,6 +558,10 @@
     <message>
         <source>Data bits of a byte</source>
         <translation>每個位元組嘅數據位元</translation>
+    </message>
+    <message>
+        <source>Delay to CH1</source>
+        <translation>對 CH1 延遲</translation>
     </message>
     <message>
         <source>Description of the chosen waveform</source>
@@ -472,6 +580,10 @@
         <translation>顯示通道 2</translation>
     </message>
     <message>
+        <source>Divisions across: the time base is not known</source>
+        <translation>橫軸以格為單位：時基未知</translation>
+    </message>
+    <message>
         <source>Dots at the samples</source>
         <translation>喺取樣點畫點</translation>
     </message>
@@ -480,12 +592,40 @@
         <translation>撳兩下：打開錯誤記錄</translation>
     </message>
     <message>
+        <source>Drawn as</source>
+        <translation>顯示方式</translation>
+    </message>
+    <message>
+        <source>Draws each of the last 20 records, the older the paler</source>
+        <translation>畫出最近 20 條記錄，越舊越淡</translation>
+    </message>
+    <message>
+        <source>Draws the lowest and highest value of all these records</source>
+        <translation>畫出呢啲記錄嘅最低值同最高值</translation>
+    </message>
+    <message>
+        <source>Draws the mean of all these records</source>
+        <translation>畫出呢啲記錄嘅平均值</translation>
+    </message>
+    <message>
         <source>Drive</source>
         <translation>磁碟</translation>
     </message>
     <message>
+        <source>Duty</source>
+        <translation>佔空比</translation>
+    </message>
+    <message>
         <source>Empty the log</source>
         <translation>清空記錄</translation>
+    </message>
+    <message>
+        <source>Ends the log; the file is whole</source>
+        <translation>結束日誌；檔案完整</translation>
+    </message>
+    <message>
+        <source>Envelope</source>
+        <translation>包絡</translation>
     </message>
     <message>
         <source>Error Log</source>
@@ -500,12 +640,36 @@
         <translation>錯誤記錄：%1 條新</translation>
     </message>
     <message>
+        <source>Export</source>
+        <translation>匯出</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>匯出…</translation>
+    </message>
+    <message>
+        <source>Fading</source>
+        <translation>餘輝</translation>
+    </message>
+    <message>
+        <source>Fall time</source>
+        <translation>下降時間</translation>
+    </message>
+    <message>
+        <source>Flat top</source>
+        <translation>平頂窗</translation>
+    </message>
+    <message>
         <source>Folders</source>
         <translation>資料夾</translation>
     </message>
     <message>
         <source>Folders; double click or Enter opens</source>
         <translation>資料夾；撳兩下或者撳 Enter 打開</translation>
+    </message>
+    <message>
+        <source>Follow</source>
+        <translation>跟隨</translation>
     </message>
     <message>
         <source>Format of the picture file</source>
@@ -520,12 +684,36 @@
         <translation>頻率抑制</translation>
     </message>
     <message>
+        <source>Goes to a pinned record; it stays when others go</source>
+        <translation>去到釘住嘅記錄；其他記錄走咗佢都會留低</translation>
+    </message>
+    <message>
+        <source>Goes with the newest record (F)</source>
+        <translation>跟住最新嘅記錄 (F)</translation>
+    </message>
+    <message>
+        <source>Graph of the record</source>
+        <translation>記錄圖形</translation>
+    </message>
+    <message>
+        <source>Hann</source>
+        <translation>漢寧窗</translation>
+    </message>
+    <message>
+        <source>Hann tells close frequencies apart, flat top shows true levels</source>
+        <translation>漢寧窗分得開相近頻率，平頂窗顯示準確電平</translation>
+    </message>
+    <message>
         <source>High contrast</source>
         <translation>高對比度</translation>
     </message>
     <message>
         <source>High level</source>
         <translation>高電平</translation>
+    </message>
+    <message>
+        <source>Highest</source>
+        <translation>最高</translation>
     </message>
     <message>
         <source>Highest value</source>
@@ -542,6 +730,10 @@
     <message>
         <source>Horizontal position in divisions; double click for zero</source>
         <translation>水平位置（格）；撳兩下歸零</translation>
+    </message>
+    <message>
+        <source>How many records before this one belong to the picture; a spectrum is their mean</source>
+        <translation>呢條記錄之前有幾多條一齊顯示；頻譜係佢哋嘅平均</translation>
     </message>
     <message>
         <source>How records are taken</source>
@@ -568,8 +760,16 @@
         <translation>用緊：%1。設定入面：%2（喺 RS-232 視窗撳「確定」就生效）</translation>
     </message>
     <message>
+        <source>It lies over the live traces now</source>
+        <translation>而家已經疊喺即時波形上面</translation>
+    </message>
+    <message>
         <source>Keep what has been set</source>
         <translation>保留已設定嘅值</translation>
+    </message>
+    <message>
+        <source>Keeps this record, under the name, when others go</source>
+        <translation>用呢個名留住呢條記錄，其他記錄走咗都唔會唔見</translation>
     </message>
     <message>
         <source>Lay a data file over the traces</source>
@@ -580,8 +780,20 @@
         <translation>將儲存咗嘅波形疊加上去</translation>
     </message>
     <message>
+        <source>Lays the record over the live traces, as Load does</source>
+        <translation>好似「載入」咁將記錄疊喺即時波形上面</translation>
+    </message>
+    <message>
+        <source>Let go</source>
+        <translation>取消釘住</translation>
+    </message>
+    <message>
         <source>Let the instrument find its settings</source>
         <translation>等儀器自己搵設定</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>電平</translation>
     </message>
     <message>
         <source>Licence</source>
@@ -594,6 +806,14 @@
     <message>
         <source>Like the desktop</source>
         <translation>跟住桌面</translation>
+    </message>
+    <message>
+        <source>Limits</source>
+        <translation>限值</translation>
+    </message>
+    <message>
+        <source>Limits:</source>
+        <translation>限值：</translation>
     </message>
     <message>
         <source>Line only</source>
@@ -620,8 +840,16 @@
         <translation>載入咗 %1</translation>
     </message>
     <message>
+        <source>Log</source>
+        <translation>日誌</translation>
+    </message>
+    <message>
         <source>Low level</source>
         <translation>低電平</translation>
+    </message>
+    <message>
+        <source>Lowest</source>
+        <translation>最低</translation>
     </message>
     <message>
         <source>Lowest value</source>
@@ -630,6 +858,10 @@
     <message>
         <source>Manual and keys</source>
         <translation>手冊同按鍵</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>最大值</translation>
     </message>
     <message>
         <source>Mean</source>
@@ -650,6 +882,14 @@
     <message>
         <source>Measure what is ticked</source>
         <translation>量度已剔選嘅項目</translation>
+    </message>
+    <message>
+        <source>Measured from the samples; choose a line for its statistics</source>
+        <translation>由取樣點量度；揀一行睇佢嘅統計</translation>
+    </message>
+    <message>
+        <source>Measurement</source>
+        <translation>測量</translation>
     </message>
     <message>
         <source>Measurement 1</source>
@@ -716,6 +956,14 @@
         <translation>量度結果 9</translation>
     </message>
     <message>
+        <source>Measurements</source>
+        <translation>測量</translation>
+    </message>
+    <message>
+        <source>Measurements of each record into a file, for hours (Ctrl+L)</source>
+        <translation>將每條記錄嘅測量值寫入檔案，可以寫幾個鐘 (Ctrl+L)</translation>
+    </message>
+    <message>
         <source>Measuring</source>
         <translation>量度緊</translation>
     </message>
@@ -724,8 +972,20 @@
         <translation>訊息</translation>
     </message>
     <message>
+        <source>Minimum</source>
+        <translation>最小值</translation>
+    </message>
+    <message>
         <source>Mode</source>
         <translation>模式</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名稱</translation>
+    </message>
+    <message>
+        <source>Name of the pinned record</source>
+        <translation>釘住記錄嘅名稱</translation>
     </message>
     <message>
         <source>Name of the plot</source>
@@ -744,6 +1004,14 @@
         <translation>%1 冇回應</translation>
     </message>
     <message>
+        <source>No cursors</source>
+        <translation>冇游標</translation>
+    </message>
+    <message>
+        <source>No more records can be pinned</source>
+        <translation>唔可以再釘更多記錄</translation>
+    </message>
+    <message>
         <source>No program here shows the manual. It is %1</source>
         <translation>呢度冇程式可以顯示手冊。手冊喺 %1</translation>
     </message>
@@ -752,8 +1020,24 @@
         <translation>已經 %1 秒冇記錄</translation>
     </message>
     <message>
+        <source>No record yet: they are kept as they come</source>
+        <translation>未有記錄：記錄一到就會保存</translation>
+    </message>
+    <message>
+        <source>No reference is free: press %1 first</source>
+        <translation>冇空閒嘅參考波形：請先撳 %1</translation>
+    </message>
+    <message>
+        <source>No reference is free: remove one in the panel first</source>
+        <translation>冇空閒嘅參考波形：請先喺面板移除一個</translation>
+    </message>
+    <message>
         <source>No room for all of %1: press %2 first</source>
         <translation>擺唔晒 %1：請先撳「%2」</translation>
+    </message>
+    <message>
+        <source>No window</source>
+        <translation>唔加窗</translation>
     </message>
     <message>
         <source>Noise Reject</source>
@@ -768,12 +1052,24 @@
         <translation>通道 2 全部唔選</translation>
     </message>
     <message>
+        <source>Not a limit: %1. Write them as vpp &gt; 1.2 V; freq &lt; 990 Hz</source>
+        <translation>唔係限值：%1。請寫成 vpp &gt; 1.2 V; freq &lt; 990 Hz</translation>
+    </message>
+    <message>
         <source>Not present: %1</source>
         <translation>搵唔到：%1</translation>
     </message>
     <message>
         <source>Not sent: the text has more than one line</source>
         <translation>未傳送：文字多過一行</translation>
+    </message>
+    <message>
+        <source>Nothing pinned</source>
+        <translation>冇釘住記錄</translation>
+    </message>
+    <message>
+        <source>Nothing to export: the scales of these records are not known</source>
+        <translation>冇嘢可以匯出：呢啲記錄嘅刻度未知</translation>
     </message>
     <message>
         <source>Nothing will be kept. %1</source>
@@ -792,8 +1088,16 @@
         <translation>連接埠編號；0 係仿真儀器</translation>
     </message>
     <message>
+        <source>Of the stretch that is marked, else of all records</source>
+        <translation>所標區段嘅統計，未標就係全部記錄</translation>
+    </message>
+    <message>
         <source>Open the error log</source>
         <translation>打開錯誤記錄</translation>
+    </message>
+    <message>
+        <source>Overshoot</source>
+        <translation>過衝</translation>
     </message>
     <message>
         <source>Parameter of the command</source>
@@ -812,6 +1116,10 @@
         <translation>週期</translation>
     </message>
     <message>
+        <source>Phase to CH1</source>
+        <translation>對 CH1 相位</translation>
+    </message>
+    <message>
         <source>Pick the time per division</source>
         <translation>揀選每格時間</translation>
     </message>
@@ -826,6 +1134,22 @@
     <message>
         <source>Picture of the chosen waveform</source>
         <translation>揀選咗嘅波形嘅圖片</translation>
+    </message>
+    <message>
+        <source>Pin</source>
+        <translation>釘住</translation>
+    </message>
+    <message>
+        <source>Pinned records</source>
+        <translation>釘住嘅記錄</translation>
+    </message>
+    <message>
+        <source>Pinned: %1</source>
+        <translation>已釘住：%1</translation>
+    </message>
+    <message>
+        <source>Pins each record that is beyond a limit</source>
+        <translation>釘住每條超限嘅記錄</translation>
     </message>
     <message>
         <source>Positive width in percent of the period</source>
@@ -844,12 +1168,28 @@
         <translation>打印報告</translation>
     </message>
     <message>
+        <source>RMS</source>
+        <translation>有效值</translation>
+    </message>
+    <message>
         <source>Read the instrument again with the present port settings</source>
         <translation>用而家嘅連接埠設定再讀取儀器</translation>
     </message>
     <message>
         <source>Read the instrument, then start and stop the traces</source>
         <translation>讀取儀器，之後開始同停止波形</translation>
+    </message>
+    <message>
+        <source>Recorder</source>
+        <translation>記錄儀</translation>
+    </message>
+    <message>
+        <source>Records along time</source>
+        <translation>按時間排列嘅記錄</translation>
+    </message>
+    <message>
+        <source>Records before this one</source>
+        <translation>之前嘅記錄</translation>
     </message>
     <message>
         <source>Records in an average</source>
@@ -876,12 +1216,24 @@
         <translation>移除載入咗嘅波形</translation>
     </message>
     <message>
+        <source>Rename</source>
+        <translation>改名</translation>
+    </message>
+    <message>
         <source>Replies and records</source>
         <translation>回應同記錄</translation>
     </message>
     <message>
+        <source>Rise time</source>
+        <translation>上升時間</translation>
+    </message>
+    <message>
         <source>Root mean square</source>
         <translation>均方根值</translation>
+    </message>
+    <message>
+        <source>Rows beyond a limit name it. The short names stand in the list of measurements</source>
+        <translation>超限嘅行會寫明限值。簡稱喺測量列表</translation>
     </message>
     <message>
         <source>Run or stop the acquisition of the instrument itself</source>
@@ -960,8 +1312,16 @@
         <translation>設定儲存咗去 %1</translation>
     </message>
     <message>
+        <source>Show in the panel</source>
+        <translation>喺面板顯示</translation>
+    </message>
+    <message>
         <source>Slope</source>
         <translation>斜率</translation>
+    </message>
+    <message>
+        <source>Sounds the bell at each record that is beyond a limit</source>
+        <translation>每有超限記錄就響鐘</translation>
     </message>
     <message>
         <source>Source</source>
@@ -972,6 +1332,14 @@
         <translation>觸發嘅訊號源、模式、斜率同耦合</translation>
     </message>
     <message>
+        <source>Spectrum</source>
+        <translation>頻譜</translation>
+    </message>
+    <message>
+        <source>Start the log…</source>
+        <translation>開始日誌…</translation>
+    </message>
+    <message>
         <source>State of the acquisition</source>
         <translation>擷取狀態</translation>
     </message>
@@ -980,12 +1348,24 @@
         <translation>連接狀態</translation>
     </message>
     <message>
+        <source>Statistics</source>
+        <translation>統計</translation>
+    </message>
+    <message>
         <source>Status</source>
         <translation>狀態</translation>
     </message>
     <message>
+        <source>Std deviation</source>
+        <translation>標準差</translation>
+    </message>
+    <message>
         <source>Stop bits behind a byte</source>
         <translation>每個位元組之後嘅停止位元</translation>
+    </message>
+    <message>
+        <source>Stop the log</source>
+        <translation>停止日誌</translation>
     </message>
     <message>
         <source>Stopped</source>
@@ -1016,8 +1396,20 @@
         <translation>擷取已停止：%1</translation>
     </message>
     <message>
+        <source>The channels that are shown, stepped through and measured</source>
+        <translation>顯示、逐條睇同測量嘅通道</translation>
+    </message>
+    <message>
+        <source>The columns of the log</source>
+        <translation>日誌嘅欄</translation>
+    </message>
+    <message>
         <source>The data file</source>
         <translation>數據檔案</translation>
+    </message>
+    <message>
+        <source>The disk is full: %1 rows wait</source>
+        <translation>磁碟滿咗：%1 行等待寫入</translation>
     </message>
     <message>
         <source>The folder that is shown</source>
@@ -1038,6 +1430,10 @@
     <message>
         <source>The last question had no answer: press %1</source>
         <translation>上一個查詢冇回應：請撳「%1」</translation>
+    </message>
+    <message>
+        <source>The log has ended</source>
+        <translation>日誌已經結束</translation>
     </message>
     <message>
         <source>The picture to save</source>
@@ -1068,6 +1464,10 @@
         <translation>設定儲存唔到去 %1。</translation>
     </message>
     <message>
+        <source>The unit of the levels</source>
+        <translation>電平單位</translation>
+    </message>
+    <message>
         <source>Theme</source>
         <translation>主題</translation>
     </message>
@@ -1080,8 +1480,20 @@
         <translation>呢啲波形嚟自之前嘅連線</translation>
     </message>
     <message>
+        <source>This record alone</source>
+        <translation>淨係呢條記錄</translation>
+    </message>
+    <message>
+        <source>This record may go with the others again</source>
+        <translation>呢條記錄可以再同其他一齊走</translation>
+    </message>
+    <message>
         <source>This version has new files beside those that you have changed: %1</source>
         <translation>呢個版本嘅新檔案已經擺喺你改過嘅檔案旁邊：%1</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>時間</translation>
     </message>
     <message>
         <source>Time of the falling edge</source>
@@ -1104,6 +1516,14 @@
         <translation>儀器需要嘅時間</translation>
     </message>
     <message>
+        <source>Top</source>
+        <translation>頂值</translation>
+    </message>
+    <message>
+        <source>Trace</source>
+        <translation>波形</translation>
+    </message>
+    <message>
         <source>Trace upside down</source>
         <translation>波形上下倒轉</translation>
     </message>
@@ -1122,6 +1542,14 @@
     <message>
         <source>Trigger level in volts; double click for zero</source>
         <translation>觸發電平（伏特）；撳兩下歸零</translation>
+    </message>
+    <message>
+        <source>Two cursors with their distance: drag them, or use the arrow keys in the graph</source>
+        <translation>兩個游標同佢哋嘅距離：可以拖，或者喺圖形用方向鍵</translation>
+    </message>
+    <message>
+        <source>V/div not known</source>
+        <translation>V/div 未知</translation>
     </message>
     <message>
         <source>Version</source>
@@ -1164,6 +1592,10 @@
         <translation>等緊 %1 嘅回應</translation>
     </message>
     <message>
+        <source>What is drawn of the records</source>
+        <translation>記錄嘅繪製內容</translation>
+    </message>
+    <message>
         <source>What is set</source>
         <translation>設定對象</translation>
     </message>
@@ -1192,6 +1624,14 @@
         <translation>正脈寬</translation>
     </message>
     <message>
+        <source>Window of the spectrum</source>
+        <translation>頻譜窗函數</translation>
+    </message>
+    <message>
+        <source>With the last %1</source>
+        <translation>連埋最近 %1 條</translation>
+    </message>
+    <message>
         <source>Write the shown record to text.csv</source>
         <translation>將顯示緊嘅記錄寫入 text.csv</translation>
     </message>
@@ -1200,12 +1640,76 @@
         <translation>喺圖片上撳嘅位置寫入文字</translation>
     </message>
     <message>
+        <source>Writes the marked stretch, else this record, as CSV in volts and seconds (Ctrl+E)</source>
+        <translation>將所標區段（未標就係呢條記錄）以伏特同秒寫成 CSV (Ctrl+E)</translation>
+    </message>
+    <message>
+        <source>X-Y</source>
+        <translation>X-Y</translation>
+    </message>
+    <message>
+        <source>X-Y needs both channels of one sweep: display both, press Run/Stop, and wait for both</source>
+        <translation>X-Y 要同一次掃描嘅兩個通道：顯示兩個，撳 Run/Stop，等兩個都到</translation>
+    </message>
+    <message>
+        <source>another port</source>
+        <translation>另一個埠</translation>
+    </message>
+    <message>
+        <source>clipped</source>
+        <translation>削波</translation>
+    </message>
+    <message>
+        <source>fetched %1 times</source>
+        <translation>讀咗 %1 次</translation>
+    </message>
+    <message>
+        <source>flat</source>
+        <translation>平直</translation>
+    </message>
+    <message>
         <source>from the zero of %1:</source>
         <translation>由 %1 嘅零點計起：</translation>
     </message>
     <message>
+        <source>irregular</source>
+        <translation>唔規則</translation>
+    </message>
+    <message>
+        <source>less than a period</source>
+        <translation>唔夠一個週期</translation>
+    </message>
+    <message>
+        <source>math, which has no volts</source>
+        <translation>數學運算，冇伏特值</translation>
+    </message>
+    <message>
         <source>not answered</source>
         <translation>未有回應</translation>
+    </message>
+    <message>
+        <source>not of one sweep</source>
+        <translation>唔係同一次掃描</translation>
+    </message>
+    <message>
+        <source>nothing fetched</source>
+        <translation>冇讀取</translation>
+    </message>
+    <message>
+        <source>opened anew</source>
+        <translation>重新打開</translation>
+    </message>
+    <message>
+        <source>other period</source>
+        <translation>週期唔同</translation>
+    </message>
+    <message>
+        <source>other scales</source>
+        <translation>刻度唔同</translation>
+    </message>
+    <message>
+        <source>pinned</source>
+        <translation>已釘住</translation>
     </message>
     <message>
         <source>port %1</source>
@@ -1220,8 +1724,32 @@
         <translation>連接埠 %1，%2 波特 %3</translation>
     </message>
     <message>
+        <source>record %1 of %2</source>
+        <translation>第 %1 條，共 %2 條</translation>
+    </message>
+    <message>
+        <source>record cut</source>
+        <translation>記錄不完整</translation>
+    </message>
+    <message>
+        <source>s/div not known</source>
+        <translation>s/div 未知</translation>
+    </message>
+    <message>
+        <source>scale not known</source>
+        <translation>刻度未知</translation>
+    </message>
+    <message>
         <source>simulated instrument</source>
         <translation>仿真儀器</translation>
+    </message>
+    <message>
+        <source>stopped meanwhile</source>
+        <translation>期間停過</translation>
+    </message>
+    <message>
+        <source>too few samples</source>
+        <translation>取樣點太少</translation>
     </message>
 </context>
 </TS>

@@ -105,8 +105,10 @@ void RecordStrip::paintTimes(QPainter& painter, const RecordTimeline::Picture& p
     painter.setPen(look_.grid);
     painter.drawLine(time.column, topRoom, time.column, height() - bottomRoom + 3);
     painter.setPen(RecorderLook::text);
-    painter.drawText(QRect(time.column - 45, height() - bottomRoom + 2, 90, bottomRoom - 2),
-                     Qt::AlignCenter, toQt(time.name));
+    const QRect room(time.column - 45, height() - bottomRoom + 2, 90, bottomRoom - 2);
+    const int half = painter.fontMetrics().horizontalAdvance(toQt(time.name)) / 2;
+    if (time.column >= half && time.column + half <= width())
+      painter.drawText(room, Qt::AlignCenter, toQt(time.name));
   }
 }
 

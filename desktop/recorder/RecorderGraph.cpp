@@ -53,6 +53,22 @@ void placeInCorner(QCPItemText& text, double x, double y) {
   text.position->setCoords(x, y);
 }
 
+/// Above the place, else at its right or left, where there is nothing yet; empty if nowhere.
+QRectF roomBeside(const QPointF& place, const QSizeF& size, const QRectF& inside,
+                  const std::vector<QRectF>& taken) {
+  constexpr qreal gap = 5;
+  const QPointF corners[] = {{-size.width() / 2, -size.height() - gap},
+                             {gap, -size.height() / 2},
+                             {-size.width() - gap, -size.height() / 2}};
+  for (const QPointF& corner : corners) {
+    const QRectF room(place + corner, size);
+    const bool isFree =
+        std::ranges::none_of(taken, [&](const QRectF& other) { return other.intersects(room); });
+    if (isFree && inside.contains(room)) return room;
+  }
+  return {};
+}
+
 QString lines(const std::vector<std::string>& texts) {
   QStringList list;
   for (const std::string& text : texts) list << toQt(text);
@@ -143,6 +159,7 @@ void RecorderGraph::showPicture(const RecorderPicture& picture, const RecorderCu
   showXY(picture);
   showLabels(picture);
   showCursors(cursors, texts);
+  note_->setColor(picture.mode == RecorderMode::spectrum ? RecorderLook::text : RecorderLook::gap);
   showNotes(picture.notes);
   replot(rpQueuedRefresh);
 }
@@ -221,19 +238,14 @@ void RecorderGraph::showLabels(const RecorderPicture& picture) {
     const QString text = toQt(label.text);
     const QSizeF size = metrics.size(0, text) + QSize(8, 4);
     const QPointF place(xAxis->coordToPixel(at.x()), axisOf(label.channel).coordToPixel(at.y()));
-    QRectF room(place - QPointF(size.width() / 2, size.height() + 3), size);
-    const QRect inside = axisRect()->rect();
-    room.moveTop(std::max(room.top(), inside.top() + 1.0));
-    room.moveLeft(std::clamp(room.left(), inside.left() + 1.0, inside.right() - size.width() - 1));
-    if (std::ranges::any_of(taken, [&](const QRectF& other) { return other.intersects(room); }))
-      continue;
+    const QRectF room = roomBeside(place, size, axisRect()->rect(), taken);
+    if (room.isEmpty()) continue;
     taken.push_back(room);
     if (used == labels_.size()) labels_.push_back(makeText(*this, Qt::AlignLeft | Qt::AlignTop));
     QCPItemText& item = *labels_[used++];
     item.position->setType(QCPItemPosition::ptAbsolute);
     item.position->setCoords(room.topLeft());
     item.setFont(font());
-    item.setBrush(badge_->brush());
     item.setColor(look_.channels.at(channel));
     item.setText(text);
     item.setTextAlignment(Qt::AlignCenter);

@@ -67,11 +67,6 @@ void setColumns(QTableWidget& table, const QString& first, const std::vector<int
   table.horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
 }
 
-int heightOf(const QTableWidget& table, int rows) {
-  return table.horizontalHeader()->sizeHint().height() + rows * (table.fontMetrics().height() + 3) +
-         2;
-}
-
 }  // namespace
 
 RecorderTables::RecorderTables(RecorderView& view, QWidget* parent)
@@ -126,7 +121,12 @@ void RecorderTables::showMeasurements() {
     const auto& line = lines[static_cast<std::size_t>(row)];
     setCell(*values_, row, 0, toQt(line.name));
     values_->item(row, 0)->setData(Qt::UserRole, static_cast<int>(line.quantity));
-    for (std::size_t i = 0; i < channels.size(); ++i) {
+    // What is of both channels stands across both columns.
+    const bool isOfBoth = line.quantity >= Quantity::phase;
+    const int span = isOfBoth ? static_cast<int>(channels.size()) : 1;
+    if (values_->columnSpan(row, 1) != span) values_->setSpan(row, 1, 1, span);
+    if (isOfBoth) setCell(*values_, row, 1, toQt(line.values[1]), !line.hasValue[1]);
+    for (std::size_t i = 0; i < channels.size() && !isOfBoth; ++i) {
       const auto channel = static_cast<std::size_t>(channels[i] - 1);
       setCell(*values_, row, static_cast<int>(i) + 1, toQt(line.values.at(channel)),
               !line.hasValue.at(channel));

@@ -239,12 +239,12 @@ void RecorderWindow::showPins() {
 void RecorderWindow::showLog() {
   logBar_->showState();
   const std::string text = recorder_.logText(recorder_.main().services().words);
-  logState_->setText(shownText(text, roomOfLine));
-  logState_->setToolTip(logState_->text());
   const bool isTrouble = recorder_.log() != nullptr && recorder_.log()->trouble();
-  logState_->setSign(isTrouble      ? ElidedLabel::warning
-                     : text.empty() ? ElidedLabel::none
-                                    : ElidedLabel::information);
+  const QString shown = shownText(text, roomOfLine);
+  logState_->setText(shown);
+  logState_->setSentences(shown.isEmpty() ? std::vector<ElidedLabel::Sentence>()
+                                          : std::vector<ElidedLabel::Sentence>{{shown, isTrouble}});
+  logState_->setToolTip(logState_->text());
 }
 
 void RecorderWindow::say(const QString& text) {

@@ -45,7 +45,7 @@ RecorderAxis levelAxis(double highest, bool isInDecibels) {
 }
 
 std::string peakText(const SpectrumPeak& peak, bool isInDecibels) {
-  const std::string level = isInDecibels ? numberWithUnit(Spectrum::dbv(peak.voltsRms), "dBV")
+  const std::string level = isInDecibels ? formatDecimals(Spectrum::dbv(peak.voltsRms), 1) + " dBV"
                                          : numberWithUnit(peak.voltsRms, "V");
   return numberWithUnit(peak.frequency, "Hz") + "\n" + level;
 }

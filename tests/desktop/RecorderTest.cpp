@@ -100,7 +100,7 @@ TEST_F(RecorderWindowTest, KeepsFollowsStepsPinsShowsLogsAndExports) {
 
   find<RecorderLogBar>("logBar").startInto(folder.path() / "log.csv");
   QTest::keyClick(window, Qt::Key_F);
-  EXPECT_TRUE(view.isFollowing());
+  EXPECT_TRUE(QTest::qWaitFor([&] { return view.isFollowing(); }, 2000));
   // The log goes on while the window is closed.
   QTest::keyClick(&strip, Qt::Key_Escape);
   EXPECT_FALSE(window->isVisible());
@@ -121,14 +121,16 @@ TEST_F(RecorderWindowTest, FitsASmallScreenInEveryLanguage) {
       EXPECT_LE(window->minimumSizeHint().width(), 1024) << language << mode;
       EXPECT_LE(window->minimumSizeHint().height(), 700 - 40) << language << mode;
     }
-    for (auto* const button : window->findChildren<QPushButton*>())
-      if (button->isVisible())
-        EXPECT_GE(button->width(), button->sizeHint().width()) << fromQt(button->text());
-    for (auto* const part : window->findChildren<QWidget*>())
-      if (part->focusPolicy() & Qt::TabFocus && part->isVisible())
-        EXPECT_FALSE(part->accessibleName().isEmpty() && part->toolTip().isEmpty() &&
-                     part->property("text").toString().isEmpty())
-            << fromQt(part->objectName());
+    for (const auto* const button : window->findChildren<QPushButton*>()) {
+      const bool fits = !button->isVisible() || button->width() >= button->sizeHint().width();
+      EXPECT_TRUE(fits) << language << fromQt(button->text());
+    }
+    for (const auto* const part : window->findChildren<QWidget*>()) {
+      const bool isStop = part->focusPolicy() & Qt::TabFocus && part->isVisible();
+      const bool isNamed =
+          !part->accessibleName().isEmpty() || !part->property("text").toString().isEmpty();
+      EXPECT_TRUE(!isStop || isNamed) << fromQt(part->objectName());
+    }
   }
 }
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Recorder.h"
+#include "RecordingRun.h"
 
 #include <algorithm>
 #include <utility>
@@ -11,8 +11,8 @@
 
 namespace tracewell {
 
-Recorder::Recorder(const RecorderOptions& options, RecorderOutput& output, SerialPort& port,
-                   Clock& clock, const EventDispatcher& dispatcher, Told told)
+RecordingRun::RecordingRun(const RecorderOptions& options, RecorderOutput& output, SerialPort& port,
+                           Clock& clock, const EventDispatcher& dispatcher, Told told)
     : options_(options),
       output_(output),
       port_(port),
@@ -23,7 +23,7 @@ Recorder::Recorder(const RecorderOptions& options, RecorderOutput& output, Seria
   port_.dataReady = [this](const LineRecord& record) { arrived(record); };
 }
 
-void Recorder::begin() {
+void RecordingRun::begin() {
   try {
     port_.prepare();
     readScales();
@@ -34,12 +34,12 @@ void Recorder::begin() {
   turn();
 }
 
-void Recorder::endBySignal() {
+void RecordingRun::endBySignal() {
   end(options_.hasEnd() ? RecorderEnd::endedEarly : RecorderEnd::done);
 }
 
 /// Looks again when the next request is due, and at least once a second.
-void Recorder::turn() {
+void RecordingRun::turn() {
   constexpr std::int64_t longest = 1000;
   constexpr std::int64_t shortest = 5;
   dispatcher_.dispatch([this] { tick(); });
@@ -51,7 +51,7 @@ void Recorder::turn() {
                    });
 }
 
-void Recorder::tick() {
+void RecordingRun::tick() {
   const std::int64_t now = clock_.milliseconds();
   output_.tick(now);
   tellTrouble();
@@ -64,7 +64,7 @@ void Recorder::tick() {
 }
 
 /// A line that has failed is opened anew with the next request.
-void Recorder::request(std::int64_t now) {
+void RecordingRun::request(std::int64_t now) {
   constexpr int soonest = 50;
   // Without an interval the next request follows the record.
   nextRequestAt_ = now + std::max(options_.interval, soonest);
@@ -89,13 +89,13 @@ void Recorder::request(std::int64_t now) {
   }
 }
 
-void Recorder::failed(const std::string& why) {
+void RecordingRun::failed(const std::string& why) {
   if (why != failure_) told_.message(why);
   failure_ = why;
 }
 
 /// The first question decides whether anybody is there; what has no answer else is not known.
-void Recorder::readScales() {
+void RecordingRun::readScales() {
   struct Scale {
     const char* query;
     Setting setting;
@@ -116,7 +116,7 @@ void Recorder::readScales() {
 }
 
 /// Once again where the reply is blank or does not come.
-void Recorder::ask(const std::string& query) {
+void RecordingRun::ask(const std::string& query) {
   constexpr int tries = 2;
   for (int i = 1; i <= tries; ++i) {
     isLocked_ = true;
@@ -132,7 +132,7 @@ void Recorder::ask(const std::string& query) {
   }
 }
 
-void Recorder::arrived(const LineRecord& fetched) {
+void RecordingRun::arrived(const LineRecord& fetched) {
   if (isOver_) return;
   const std::int64_t now = clock_.milliseconds();
   waitingSince_.reset();
@@ -150,7 +150,7 @@ void Recorder::arrived(const LineRecord& fetched) {
   if (isComplete()) end(RecorderEnd::done);
 }
 
-void Recorder::take(int channel, const ChannelRecord& record) {
+void RecordingRun::take(int channel, const ChannelRecord& record) {
   const OwnMeasurements values = measure(record, records_[channel == 1 ? 1 : 0]);
   isLimitPassed_ = isLimitPassed_ || !options_.columns.passed(values).empty();
   output_.take(channel, record, values, wallTimeNow(), clock_.milliseconds());
@@ -158,13 +158,13 @@ void Recorder::take(int channel, const ChannelRecord& record) {
   tellProgress(channel, values);
 }
 
-void Recorder::tellTrouble() {
+void RecordingRun::tellTrouble() {
   const std::string trouble = output_.trouble().value_or("");
   if (!trouble.empty() && trouble != trouble_) told_.message(trouble + "; rows are held");
   trouble_ = trouble;
 }
 
-void Recorder::tellProgress(int channel, const OwnMeasurements& values) {
+void RecordingRun::tellProgress(int channel, const OwnMeasurements& values) {
   constexpr int digits = 4;
   std::string text = "CH" + std::to_string(channel) + " " + std::to_string(countOf(channel));
   if (options_.count) text += "/" + std::to_string(*options_.count);
@@ -181,16 +181,16 @@ void Recorder::tellProgress(int channel, const OwnMeasurements& values) {
   told_.progress(text);
 }
 
-bool Recorder::isComplete(int channel) const {
+bool RecordingRun::isComplete(int channel) const {
   return options_.count && counts_[static_cast<std::size_t>(channel - 1)] >= *options_.count;
 }
 
-bool Recorder::isComplete() const {
+bool RecordingRun::isComplete() const {
   return std::ranges::all_of(options_.channels, [this](int one) { return isComplete(one); });
 }
 
 /// Whatever was sent has locked the instrument's own panel.
-void Recorder::release() {
+void RecordingRun::release() {
   if (!std::exchange(isLocked_, false)) return;
   try {
     port_.prepare();
@@ -200,7 +200,7 @@ void Recorder::release() {
   }
 }
 
-void Recorder::end(RecorderEnd how) {
+void RecordingRun::end(RecorderEnd how) {
   if (std::exchange(isOver_, true)) return;
   release();
   if (!output_.finish(clock_.milliseconds())) {

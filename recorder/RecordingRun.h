@@ -32,7 +32,7 @@ enum class RecorderEnd : int {
 /// Fetches records and hands them on, from the reading of the scales to the release of the
 /// instrument's own panel. A line that is opened anew has its scales read again, since another
 /// instrument may be on it.
-class Recorder {
+class RecordingRun {
  public:
   /// What it says of itself, and how it ends.
   struct Told {
@@ -43,9 +43,9 @@ class Recorder {
     std::function<void(RecorderEnd)> ended;
   };
 
-  Recorder(const RecorderOptions& options, RecorderOutput& output, SerialPort& port, Clock& clock,
-           const EventDispatcher& dispatcher, Told told);
-  Recorder(const Recorder&) = delete;
+  RecordingRun(const RecorderOptions& options, RecorderOutput& output, SerialPort& port,
+               Clock& clock, const EventDispatcher& dispatcher, Told told);
+  RecordingRun(const RecordingRun&) = delete;
 
   /// Out of the event loop, like all that follows.
   void begin();
