@@ -23,20 +23,20 @@
 #include "Controls.h"
 #include "CopyGestures.h"
 #include "Dials.h"
-#include "ElidedLabel.h"
 #include "Gestures.h"
 #include "Graph.h"
 #include "GraphView.h"
 #include "KnobWidget.h"
+#include "Labels.h"
 #include "LampWidget.h"
 #include "LineWidget.h"
 #include "Lists.h"
+#include "Options.h"
 #include "PictureWidget.h"
 #include "QtImages.h"
 #include "QtValues.h"
 #include "ShownText.h"
 #include "SlideWidget.h"
-#include "TextGrowth.h"
 #include "UnreadMark.h"
 
 namespace tracewell {
@@ -71,16 +71,6 @@ void showWith(Control& control, Object* object, Show show) {
   control.changed();
 }
 
-/// What a label on one line may take up before it would push its window off a small screen. Pixels,
-/// as many times as much as its font is higher.
-int widestOf(const QLabel& label) {
-  const int em = pixelsOf(label);
-  const auto is = [&label](const char* kind) { return label.property(kind).toBool(); };
-  if (qobject_cast<const ElidedLabel*>(&label) != nullptr) return QWIDGETSIZE_MAX;
-  if (is("state")) return 35 * em;
-  return (is("age") ? 30 : 25) * em;
-}
-
 void bind(Label& control, QWidget& form) {
   auto* label = findObject<QLabel>(control, form);
   showWith(control, label,
@@ -90,12 +80,7 @@ void bind(Label& control, QWidget& form) {
 
 void bind(ValueLabel& control, QWidget& form) {
   auto* label = findObject<QLabel>(control, form);
-  showWith(control, label, [&control, label] {
-    showInLabel(*label, control.caption(), widestOf(*label));
-    auto* line = qobject_cast<ElidedLabel*>(label);
-    if (line == nullptr || !label->property("status").toBool()) return;
-    line->setSign(control.isWarning ? ElidedLabel::warning : ElidedLabel::information);
-  });
+  showWith(control, label, [&control, label, &form] { showValue(control, *label, form); });
 }
 
 void bind(Frame& control, QWidget& form) {
@@ -175,16 +160,11 @@ void bind(CheckBox& control, QWidget& form) {
 
 void bind(OptionButton& control, QWidget& form) {
   auto* button = findObject<QRadioButton>(control, form);
-  // The model clears the siblings; Qt's own exclusion would not let all of them be clear.
-  button->setAutoExclusive(false);
   showWith(control, button, [&control, button] {
     button->setText(shownCaption(control.caption()));
-    button->setChecked(control.value());
+    showSelected(*button, control.value());
   });
-  QObject::connect(button, &QRadioButton::clicked, button, [&control] {
-    control.select();
-    control.notifyChanged();
-  });
+  QObject::connect(button, &QRadioButton::clicked, button, [&control] { selectByUser(control); });
 }
 
 QStringList shownEntries(const std::vector<std::string>& entries) {
@@ -277,6 +257,8 @@ void bind(Slide& control, QWidget& form) {
   slide->setRange(control.range().minimum, control.range().maximum, control.range().step);
   showWith(control, slide, [&control, slide, caption] {
     slide->setValue(control.value());
+    slide->setInWords(
+        shownText(control.caption(), roomOfLine).section(QLatin1Char(':'), 1).trimmed());
     if (caption == nullptr) return;
     const int room = widestOf(*caption) - (control.isUnread() ? UnreadMark::room : 0);
     showInLabel(*caption, control.caption(), room);

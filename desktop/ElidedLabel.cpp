@@ -14,36 +14,64 @@ ElidedLabel::ElidedLabel(QWidget* parent) : QLabel(parent) {
   setTextFormat(Qt::PlainText);
 }
 
-void ElidedLabel::setSign(Sign sign) {
-  if (sign == sign_) return;
-  sign_ = sign;
+void ElidedLabel::setSentences(const std::vector<Sentence>& sentences) {
+  if (sentences == sentences_) return;
+  sentences_ = sentences;
   update();
 }
 
 /// As high as the letters, and a gap.
 int ElidedLabel::signWidth() const {
-  return sign_ == none || text().isEmpty() ? 0 : fontMetrics().ascent() * 3 / 2;
+  return fontMetrics().ascent() * 3 / 2;
+}
+
+int ElidedLabel::gapWidth() const {
+  return fontMetrics().ascent();
+}
+
+int ElidedLabel::neededWidth() const {
+  if (sentences_.empty()) return fontMetrics().horizontalAdvance(text());
+  int width = -gapWidth();
+  for (const Sentence& sentence : sentences_)
+    width += gapWidth() + signWidth() + fontMetrics().horizontalAdvance(sentence.text);
+  return width;
+}
+
+QRect ElidedLabel::paintSentence(QPainter& painter, const Sentence& sentence, QRect room) const {
+  const qreal side = fontMetrics().ascent() * 1.15;
+  // Of a sentence a few letters at least.
+  const bool isRoom = room.width() > 3 * signWidth();
+  if (isRoom) {
+    paintWeightSign(painter, {room.left() + 0.5, room.center().y() - side / 2 + 0.5, side, side},
+                    sentence.isWarning, warningColour_, palette().color(QPalette::Window));
+    room.setLeft(room.left() + signWidth());
+  }
+  const QString all = isRoom ? sentence.text : QString(QChar(0x2026));
+  const QString line = fontMetrics().elidedText(all, Qt::ElideRight, room.width());
+  painter.setPen(sentence.isWarning ? warningColour_ : palette().color(QPalette::WindowText));
+  painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, line);
+  if (line != sentence.text) return {};
+  room.setLeft(room.left() + fontMetrics().horizontalAdvance(line) + gapWidth());
+  return room;
 }
 
 void ElidedLabel::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   drawFrame(&painter);
   QRect room = contentsRect();
-  if (const int width = signWidth(); width > 0) {
-    const qreal side = fontMetrics().ascent() * 1.15;
-    paintWeightSign(painter, {room.left() + 0.5, room.center().y() - side / 2 + 0.5, side, side},
-                    sign_ == warning, warningColour_, palette().color(QPalette::Window));
-    room.setLeft(room.left() + width);
-    if (sign_ == warning) painter.setPen(warningColour_);
+  if (sentences_.empty()) {
+    const QString line = fontMetrics().elidedText(text(), Qt::ElideRight, room.width());
+    painter.drawText(room, static_cast<int>(alignment()) | Qt::TextSingleLine, line);
   }
-  const QString line = fontMetrics().elidedText(text(), Qt::ElideRight, room.width());
-  painter.drawText(room, static_cast<int>(alignment()) | Qt::TextSingleLine, line);
+  for (const Sentence& sentence : sentences_) {
+    if (sentence.text.isEmpty() || room.isEmpty()) return;
+    room = paintSentence(painter, sentence, room);
+  }
 }
 
 /// The whole text, where it is not to be seen.
 bool ElidedLabel::event(QEvent* event) {
-  const bool isElided =
-      fontMetrics().horizontalAdvance(text()) > contentsRect().width() - signWidth();
+  const bool isElided = neededWidth() > contentsRect().width();
   if (event->type() != QEvent::ToolTip || !isElided) return QLabel::event(event);
   QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text(), this);
   return true;

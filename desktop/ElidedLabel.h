@@ -2,22 +2,29 @@
 #pragma once
 
 #include <QLabel>
+#include <vector>
 
 namespace tracewell {
 
-/// A line of text that ends in "…" if its room is too small. A sign in front, if given, shows the
-/// text's weight.
+/// A line of text that ends in "…" if its room is too small; its tip is then the whole text. Where
+/// the text is told as sentences, a sign in front of each shows its weight.
 class ElidedLabel : public QLabel {
   Q_OBJECT
   Q_PROPERTY(QColor warningColour MEMBER warningColour_)
 
  public:
-  enum Sign { none, information, warning };
+  struct Sentence {
+    QString text;
+    bool isWarning;
+    bool operator==(const Sentence&) const = default;
+  };
 
   explicit ElidedLabel(QWidget* parent = nullptr);
   QSize sizeHint() const override { return {0, QLabel::sizeHint().height()}; }
   QSize minimumSizeHint() const override { return sizeHint(); }
-  void setSign(Sign sign);
+  /// Together they are the label's text. They are painted from the left, the first one before the
+  /// others.
+  void setSentences(const std::vector<Sentence>& sentences);
 
  protected:
   bool event(QEvent* event) override;
@@ -25,8 +32,12 @@ class ElidedLabel : public QLabel {
 
  private:
   int signWidth() const;
+  int gapWidth() const;
+  int neededWidth() const;
+  /// Returns what is left of the room; none where the sentence was cut.
+  QRect paintSentence(QPainter& painter, const Sentence& sentence, QRect room) const;
 
-  Sign sign_ = none;
+  std::vector<Sentence> sentences_;
   QColor warningColour_;
 };
 

@@ -7,6 +7,7 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include "Accessible.h"
 #include "Graph.h"
 #include "GraphExchange.h"
 #include "GraphOverlay.h"
@@ -243,6 +244,7 @@ void GraphView::replot() {
   note_->setText(shownText(graph_->note(), roomOfLine));
   note_->setVisible(!graph_->note().empty());
   plot_->replot(QCustomPlot::rpQueuedRefresh);
+  tellGraph(*this);
 }
 
 void GraphView::replotLive() {

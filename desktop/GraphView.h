@@ -42,6 +42,9 @@ class GraphView : public QWidget {
   void bind(Graph& graph);
   void unbind();
 
+  /// The one that is bound, if one is.
+  const Graph* graph() const { return graph_; }
+
   /// What a saved picture shows: nothing dimmed or marked, no focus.
   QPixmap picture();
 

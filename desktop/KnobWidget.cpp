@@ -12,6 +12,9 @@
 #include <numbers>
 #include <optional>
 
+#include "Accessible.h"
+#include "TextGrowth.h"
+
 namespace tracewell {
 namespace {
 
@@ -20,6 +23,11 @@ constexpr qreal firstAngle = 225;
 constexpr qreal sweep = 270;
 /// More captions than this do not fit around the knob.
 constexpr int mostCaptions = 12;
+/// Of the captions: pixels, and of the size of the panel's text.
+constexpr int leastPixels = 9;
+constexpr qreal captionShare = 0.78;
+/// Below the cap.
+constexpr qreal roomOfMark = 18;
 /// Longer is no value.
 constexpr int mostTyped = 6;
 
@@ -53,6 +61,12 @@ double distanceOf(const Value& detent, const Value& typed) {
   return std::fabs(typed.exponent ? decades - *typed.exponent : std::remainder(decades, 3));
 }
 
+/// A point at that angle, at a distance of 1.
+QPointF directionOf(qreal angle) {
+  const qreal radians = angle * std::numbers::pi / 180;
+  return {std::cos(radians), -std::sin(radians)};
+}
+
 }  // namespace
 
 KnobWidget::KnobWidget(QWidget* parent) : QWidget(parent) {
@@ -63,12 +77,29 @@ KnobWidget::KnobWidget(QWidget* parent) : QWidget(parent) {
 
 void KnobWidget::setDetents(const QStringList& captions) {
   captions_ = captions;
-  update();
+  takePlace();
 }
 
 void KnobWidget::setValue(double value) {
-  value_ = qBound(0, static_cast<int>(std::lround(value)), static_cast<int>(captions_.size()) - 1);
+  const int detent = qBound(0, static_cast<int>(std::lround(value)), lastDetent());
+  if (detent == value_) return;
+  value_ = detent;
   update();
+  tellValue(*this);
+  tellWords(*this);
+}
+
+QString KnobWidget::inWords() const {
+  const Value value = valueOf(captions_[value_]);
+  if (unit_.isEmpty() || value.number <= 0) return captions_[value_];
+  static const QStringList prefixes = {QStringLiteral("n"), QStringLiteral("\u00b5"),
+                                       QStringLiteral("m"), QString()};
+  // A tenth of a volt is a hundred millivolts.
+  const int shift = value.number < 1 ? 1 : 0;
+  const qsizetype prefix = value.exponent.value_or(0) / 3 + prefixes.size() - 1 - shift;
+  return QStringLiteral("%1 %2%3")
+      .arg(value.number * (shift == 0 ? 1 : 1000))
+      .arg(prefixes.value(prefix), unit_);
 }
 
 void KnobWidget::setAccent(const QColor& accent) {
@@ -85,20 +116,40 @@ QColor KnobWidget::mark() const {
   return isPale_ ? palette().color(QPalette::WindowText) : accent_;
 }
 
-QPointF KnobWidget::centre() const {
-  return {width() / 2.0, height() / 2.0 + radius() * 0.12};
-}
-
 qreal KnobWidget::scale() const {
   return qBound(1.0, qMin(width() / 200.0, height() / 190.0), 1.6);
 }
 
-qreal KnobWidget::radius() const {
-  return qMin(width() / 2.0 - 33 * scale(), (height() / 2.0 - 14 * scale()) * 0.86);
+QFont KnobWidget::captionFont() const {
+  QFont font = this->font();
+  font.setPixelSize(qMax(leastPixels, qRound(pixelsOf(*this) * captionShare * scale())));
+  return font;
+}
+
+QRectF KnobWidget::extent(qreal radius, bool hasMark) const {
+  QRectF extent(-radius, -radius, 2 * radius, 2 * radius);
+  if (hasMark) extent.setBottom(radius + roomOfMark);
+  const QFontMetricsF metrics(captionFont());
+  for (int detent = 0; detent <= lastDetent(); ++detent)
+    extent |= captionPlace(detent, {}, radius, metrics);
+  return extent;
+}
+
+void KnobWidget::takePlace() {
+  // What the captions take up beside the cap depends on its size hardly at all.
+  radius_ = 0;
+  for (int round = 0; round < 3; ++round) {
+    const QSizeF room = extent(radius_, true).size();
+    radius_ += qMin(width() - room.width(), height() - room.height()) / 2;
+  }
+  const QRectF whole = extent(radius_, true);
+  centre_ = QRectF(rect()).center() - extent(radius_, false).center();
+  centre_.setY(qMin(centre_.y(), height() - whole.bottom()));
+  update();
 }
 
 QPointF KnobWidget::gap() const {
-  return pointAt(270, radius() + 9);
+  return pointAt(270, radius() + 10);
 }
 
 qreal KnobWidget::angleOf(int detent) const {
@@ -107,8 +158,18 @@ qreal KnobWidget::angleOf(int detent) const {
 }
 
 QPointF KnobWidget::pointAt(qreal angle, qreal distance) const {
-  const qreal radians = angle * std::numbers::pi / 180;
-  return centre() + QPointF(std::cos(radians), -std::sin(radians)) * distance;
+  return centre() + directionOf(angle) * distance;
+}
+
+/// As far from its detent on every side, however long it is.
+QRectF KnobWidget::captionPlace(int detent, const QPointF& centre, qreal radius,
+                                const QFontMetricsF& metrics) const {
+  const QSizeF room = metrics.size(Qt::TextSingleLine, captions_[detent]);
+  const QPointF outward = directionOf(angleOf(detent));
+  const QPointF half(room.width() / 2, room.height() / 2);
+  const QPointF at = centre + outward * (radius + 11 * scale()) +
+                     QPointF(outward.x() * half.x(), outward.y() * half.y());
+  return {at - half, room};
 }
 
 qreal KnobWidget::angleAt(const QPointF& position) const {
@@ -135,7 +196,16 @@ bool KnobWidget::hasCaption(int detent) const {
 }
 
 void KnobWidget::turnTo(int detent) {
-  emit turned(qBound(0, detent, static_cast<int>(captions_.size()) - 1));
+  emit turned(qBound(0, detent, lastDetent()));
+}
+
+void KnobWidget::resizeEvent(QResizeEvent*) {
+  takePlace();
+}
+
+void KnobWidget::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::FontChange) takePlace();
 }
 
 void KnobWidget::paintEvent(QPaintEvent*) {
@@ -160,9 +230,8 @@ void KnobWidget::paintTyped(QPainter& painter) {
 }
 
 void KnobWidget::paintDetents(QPainter& painter) {
-  QFont font = painter.font();
-  font.setPointSizeF(qMax(6.5, font.pointSizeF() * 0.78 * scale()));
-  painter.setFont(font);
+  painter.setFont(captionFont());
+  const QFontMetricsF metrics(painter.font());
   for (int detent = 0; detent < captions_.size(); ++detent) {
     const bool isChosen = detent == value_;
     painter.setPen(
@@ -173,12 +242,7 @@ void KnobWidget::paintDetents(QPainter& painter) {
     const bool isCrowded =
         captions_.size() > mostCaptions && !isChosen && qAbs(detent - value_) < 2;
     if (!hasCaption(detent) || isCrowded) continue;
-    // As far from its detent on every side, however long it is.
-    const QSizeF room = painter.fontMetrics().size(Qt::TextSingleLine, captions_[detent]);
-    const QPointF edge = pointAt(angleOf(detent), radius() + 11 * scale());
-    const QPointF outward = pointAt(angleOf(detent), 1) - centre();
-    const QPointF at = edge + QPointF(outward.x() * room.width(), outward.y() * room.height()) / 2;
-    painter.drawText(QRectF(at - QPointF(room.width(), room.height()) / 2, room), Qt::AlignCenter,
+    painter.drawText(captionPlace(detent, centre(), radius(), metrics), Qt::AlignCenter,
                      captions_[detent]);
   }
 }
@@ -213,7 +277,7 @@ void KnobWidget::mouseMoveEvent(QMouseEvent* event) {
   const qreal angle = angleAt(event->position());
   dragTravel_ += std::remainder(dragAngle_ - angle, 360);
   dragAngle_ = angle;
-  const int last = static_cast<int>(captions_.size()) - 1;
+  const int last = lastDetent();
   const int steps = static_cast<int>(std::lround(dragTravel_ * last / sweep));
   const int detent = qBound(0, draggedFrom_ + steps, last);
   if (detent != value_) turnTo(detent);
@@ -299,7 +363,7 @@ void KnobWidget::keyPressEvent(QKeyEvent* event) {
       turnTo(0);
       break;
     case Qt::Key_End:
-      turnTo(static_cast<int>(captions_.size()) - 1);
+      turnTo(lastDetent());
       break;
     default:
       QWidget::keyPressEvent(event);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QColor>
+#include <QFontMetricsF>
 #include <QStringList>
 #include <QWidget>
 
@@ -14,6 +15,7 @@ namespace tracewell {
 class KnobWidget : public QWidget {
   Q_OBJECT
   Q_PROPERTY(QColor accent READ accent WRITE setAccent)
+  Q_PROPERTY(QString unit READ unit WRITE setUnit)
 
  public:
   explicit KnobWidget(QWidget* parent = nullptr);
@@ -22,11 +24,21 @@ class KnobWidget : public QWidget {
   /// Rounded to a detent; emits nothing.
   void setValue(double value);
   int value() const { return value_; }
+  int lastDetent() const { return static_cast<int>(captions_.size()) - 1; }
+  /// As the user does; beyond the ends to the end.
+  void turnTo(int detent);
+  /// What the captions count in: "V".
+  QString unit() const { return unit_; }
+  void setUnit(const QString& unit) { unit_ = unit; }
+  /// The value with its unit: "500 mV" for ".5".
+  QString inWords() const;
   QColor accent() const { return accent_; }
   void setAccent(const QColor& accent);
   /// Removes its colour: a dimmed colour would be unreadable.
   void setPale(bool isPale);
 
+  /// Middle of the cap.
+  QPointF centre() const { return centre_; }
   /// Middle of the gap below the cap, between the first detent and the last.
   QPointF gap() const;
 
@@ -39,6 +51,8 @@ class KnobWidget : public QWidget {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void changeEvent(QEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
@@ -55,8 +69,15 @@ class KnobWidget : public QWidget {
   void paintTyped(QPainter& painter);
   /// The factor by which it is drawn larger than usual, captions included.
   qreal scale() const;
-  QPointF centre() const;
-  qreal radius() const;
+  QFont captionFont() const;
+  /// What it takes up around its centre, with a cap of that radius: all captions, whichever is
+  /// chosen. The room of a mark in the gap counts where `hasMark`.
+  QRectF extent(qreal radius, bool hasMark) const;
+  QRectF captionPlace(int detent, const QPointF& centre, qreal radius,
+                      const QFontMetricsF& metrics) const;
+  /// As large as it can be, in the middle of its room.
+  void takePlace();
+  qreal radius() const { return radius_; }
   /// Direction of a detent from the centre, in degrees counter-clockwise from three o'clock.
   qreal angleOf(int detent) const;
   QPointF pointAt(qreal angle, qreal distance) const;
@@ -64,16 +85,18 @@ class KnobWidget : public QWidget {
   qreal angleAt(const QPointF& position) const;
   int nearestDetent(const QPointF& position) const;
   bool hasCaption(int detent) const;
-  void turnTo(int detent);
   /// Colour of the mark at the value.
   QColor mark() const;
   void paintDetents(QPainter& painter);
   void paintCap(QPainter& painter);
 
   QStringList captions_{QString()};
+  QString unit_;
   QColor accent_{Qt::white};
   bool isPale_ = false;
   int value_ = 0;
+  QPointF centre_;
+  qreal radius_ = 0;
   /// The typed text, shown on the cap until Enter takes it or it is given up.
   QString typed_;
   WheelTravel wheel_;

@@ -4,6 +4,8 @@
 #include <QPainter>
 #include <QRadialGradient>
 
+#include "Accessible.h"
+
 namespace tracewell {
 
 LampWidget::LampWidget(QWidget* parent) : QWidget(parent) {
@@ -13,6 +15,12 @@ LampWidget::LampWidget(QWidget* parent) : QWidget(parent) {
 void LampWidget::setColour(const QColor& colour) {
   colour_ = colour;
   update();
+}
+
+void LampWidget::setState(const QString& state) {
+  if (state == state_) return;
+  state_ = state;
+  tellWords(*this);
 }
 
 void LampWidget::paintEvent(QPaintEvent*) {

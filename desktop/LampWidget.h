@@ -13,6 +13,9 @@ class LampWidget : public QWidget {
  public:
   explicit LampWidget(QWidget* parent = nullptr);
   void setColour(const QColor& colour);
+  /// What the colour stands for, in words.
+  void setState(const QString& state);
+  QString state() const { return state_; }
   QSize sizeHint() const override { return {24, 24}; }
 
  protected:
@@ -20,6 +23,7 @@ class LampWidget : public QWidget {
 
  private:
   QColor colour_;
+  QString state_;
 };
 
 }  // namespace tracewell

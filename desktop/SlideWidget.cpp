@@ -8,6 +8,8 @@
 #include <cmath>
 #include <utility>
 
+#include "Accessible.h"
+
 namespace tracewell {
 namespace {
 
@@ -34,8 +36,22 @@ void SlideWidget::setRange(double minimum, double maximum, double step) {
 }
 
 void SlideWidget::setValue(double value) {
+  if (value == value_) return;
   value_ = value;
   update();
+  tellValue(*this);
+  // Others follow by themselves.
+  if (words_.isEmpty()) tellWords(*this);
+}
+
+void SlideWidget::setInWords(const QString& words) {
+  if (words == words_) return;
+  words_ = words;
+  tellWords(*this);
+}
+
+QString SlideWidget::inWords() const {
+  return words_.isEmpty() ? QString::number(value_, 'f', step_ < 1 ? 2 : 0) : words_;
 }
 
 void SlideWidget::setAccent(const QColor& accent) {
@@ -130,7 +146,7 @@ void SlideWidget::paintEvent(QPaintEvent*) {
 void SlideWidget::paintNumber(QPainter& painter, double mark) {
   const QPointF at = pointAt(positionOf(mark), 24);
   painter.setPen(palette().color(QPalette::WindowText));
-  painter.drawText(QRectF(at.x(), at.y() - 8, numberWidth, 16), Qt::AlignLeft | Qt::AlignVCenter,
+  painter.drawText(QRectF(at.x(), at.y() - 12, numberWidth, 24), Qt::AlignLeft | Qt::AlignVCenter,
                    QString::number(mark));
 }
 

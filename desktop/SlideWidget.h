@@ -23,6 +23,14 @@ class SlideWidget : public QWidget {
   /// Emits nothing. Beyond the range the pointer rests at the end.
   void setValue(double value);
   double value() const { return value_; }
+  double minimum() const { return minimum_; }
+  double maximum() const { return maximum_; }
+  double step() const { return step_; }
+  /// How the value is written beside the slide; without it, as a number.
+  void setInWords(const QString& words);
+  QString inWords() const;
+  /// As the user does with a key: to the nearest step, and lets go.
+  void stepTo(double value);
   QColor accent() const { return accent_; }
   void setAccent(const QColor& accent);
   /// Removes its colour: a dimmed colour would be unreadable.
@@ -61,7 +69,6 @@ class SlideWidget : public QWidget {
   double valueAt(const QPointF& position) const;
   QPointF pointAt(qreal along, qreal across) const;
   void moveTo(double value);
-  void stepTo(double value);
   void letGo();
 
   double minimum_ = -1;
@@ -69,6 +76,7 @@ class SlideWidget : public QWidget {
   double step_ = 0.1;
   WheelTravel wheel_;
   double value_ = 0;
+  QString words_;
   QColor accent_{Qt::white};
   bool isPale_ = false;
   bool isNumbered_ = false;

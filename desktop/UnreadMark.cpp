@@ -78,9 +78,9 @@ void showPale(QWidget& widget, bool isPale) {
 void UnreadMark::show(QWidget& marked, bool isUnread) {
   auto* mark = marked.findChild<UnreadMark*>(QString(), Qt::FindDirectChildrenOnly);
   if (mark == nullptr && !isUnread) return;
-  marked.setAccessibleDescription(isUnread ? meaning() : QString());
   if (mark == nullptr) mark = new UnreadMark(marked);
   mark->setVisible(isUnread);
+  mark->describe();
   makeRoom(marked, isUnread);
   mark->toPlace();
 }
@@ -93,6 +93,21 @@ UnreadMark::UnreadMark(QWidget& marked) : QWidget(&marked) {
   sayInLanguage(*this);
   marked.installEventFilter(this);
   toPlace();
+}
+
+/// Beside what the marked widget says of itself without a description, its tip.
+void UnreadMark::describe() {
+  QWidget& marked = *parentWidget();
+  const QString own = marked.toolTip();
+  const QString mean = own.isEmpty() ? meaning() : own + QStringLiteral(". ") + meaning();
+  const QString description = isVisibleTo(&marked) ? mean : QString();
+  if (description != marked.accessibleDescription()) marked.setAccessibleDescription(description);
+}
+
+/// The tip has been translated before.
+void UnreadMark::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::LanguageChange) describe();
 }
 
 void UnreadMark::paintEvent(QPaintEvent*) {

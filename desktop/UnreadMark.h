@@ -19,11 +19,13 @@ class UnreadMark : public QWidget {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void changeEvent(QEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   explicit UnreadMark(QWidget& marked);
   void toPlace();
+  void describe();
 };
 
 /// Dims a widget whose value belongs to something that is gone, or shows it normally.

@@ -48,14 +48,14 @@ void StatusLine::tellAgain() {
   const auto isProgress = [](const Told& told) { return told.topic == progress; };
   const bool isAsking = std::any_of(told_.begin(), told_.end(), isProgress);
   std::string line;
-  bool warns = false;
+  label_.sentences.clear();
   for (const Told& told : told_) {
     if (isAsking && !isProgress(told) && told.topic != refused) continue;
     const std::string said = told.sentence(words_);
-    warns = warns || (!said.empty() && isWarning(told));
-    line += (line.empty() || said.empty() ? "" : "; ") + said;
+    if (said.empty()) continue;
+    label_.sentences.push_back({said, isWarning(told)});
+    line += (line.empty() ? "" : "; ") + said;
   }
-  label_.isWarning = warns;
   label_.caption = line;
 }
 

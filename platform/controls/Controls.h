@@ -31,6 +31,12 @@ class ValueLabel : public Control {
   Property<std::string> caption;
   /// Its text is a warning. The view makes it stand out from the next caption on.
   bool isWarning = false;
+  struct Sentence {
+    std::string text;
+    bool isWarning;
+  };
+  /// Those of the caption, where each has a weight of its own. Assigned before the caption.
+  std::vector<Sentence> sentences;
 };
 
 /// A titled box around other controls. Disabled, it takes them out of the user's reach.

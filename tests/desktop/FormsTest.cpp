@@ -112,9 +112,14 @@ TEST_F(FormsTest, WhatTheProgramSetsIsShown) {
   main.lblStatus.caption = "told";
   const auto sign = [this] { return find("lblStatus")->grab(QRect(0, 0, 26, 16)).toImage(); };
   const QImage plain = sign();
-  main.lblStatus.isWarning = true;
-  main.lblStatus.caption = "told again";
-  EXPECT_TRUE(sign() != plain);
+  // The first sentence is no warning, the second one is.
+  main.lblStatus.sentences = {{"told", false}, {"look", true}};
+  main.lblStatus.caption = "told; look";
+  EXPECT_TRUE(sign() == plain);
+  const QImage both = find("lblStatus")->grab().toImage();
+  main.lblStatus.sentences = {{"told", false}, {"look", false}};
+  main.lblStatus.notifyChanged();
+  EXPECT_TRUE(find("lblStatus")->grab().toImage() != both);
   EXPECT_EQ(find<QPlainTextEdit>("txtMsg")->toPlainText(), QStringLiteral("1,2\n"));
   EXPECT_TRUE(takeWire().empty());
 }

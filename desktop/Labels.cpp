@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Labels.h"
+
+#include <QVariant>
+
+#include "Accessible.h"
+#include "Controls.h"
+#include "ElidedLabel.h"
+#include "LampWidget.h"
+#include "ShownText.h"
+#include "TextGrowth.h"
+
+namespace tracewell {
+namespace {
+
+void tellLamp(const ValueLabel& control, const QLabel& label, const QWidget& form) {
+  const QVariant name = label.property("lamp");
+  auto* lamp = name.isValid() ? form.findChild<LampWidget*>(name.toString()) : nullptr;
+  if (lamp != nullptr) lamp->setState(shownText(control.caption(), roomOfLine));
+}
+
+/// A caption that nobody has told as sentences is one.
+std::vector<ElidedLabel::Sentence> shownSentences(const ValueLabel& control) {
+  std::vector<ElidedLabel::Sentence> shown;
+  for (const ValueLabel::Sentence& sentence : control.sentences)
+    shown.push_back({shownText(sentence.text, roomOfLine), sentence.isWarning});
+  if (shown.empty()) shown.push_back({shownText(control.caption(), roomOfLine), control.isWarning});
+  return shown;
+}
+
+}  // namespace
+
+int widestOf(const QLabel& label) {
+  const int em = pixelsOf(label);
+  const auto is = [&label](const char* kind) { return label.property(kind).toBool(); };
+  if (qobject_cast<const ElidedLabel*>(&label) != nullptr) return QWIDGETSIZE_MAX;
+  if (is("state")) return 35 * em;
+  return (is("age") ? 45 : 25) * em;
+}
+
+void showValue(const ValueLabel& control, QLabel& label, const QWidget& form) {
+  const QString before = label.text();
+  showInLabel(label, control.caption(), widestOf(label));
+  if (label.text() != before) tellName(label);
+  tellLamp(control, label, form);
+  auto* line = qobject_cast<ElidedLabel*>(&label);
+  if (line != nullptr && label.property("status").toBool())
+    line->setSentences(shownSentences(control));
+}
+
+}  // namespace tracewell

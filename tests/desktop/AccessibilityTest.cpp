@@ -1,0 +1,184 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <private/qguiapplication_p.h>
+#include <qpa/qplatformaccessibility.h>
+#include <qpa/qplatformintegration.h>
+#include <QAccessible>
+#include <QRadioButton>
+#include <set>
+
+#include "GraphView.h"
+#include "MainFormTest.h"
+#include "QtValues.h"
+
+namespace tracewell {
+namespace {
+
+/// With a reader that hears what it is told.
+class AccessibilityTest : public EveryFormTest {
+ protected:
+  AccessibilityTest() {
+    heard.clear();
+    setActive(true);
+    QAccessible::installUpdateHandler(hear);
+  }
+  ~AccessibilityTest() override {
+    QAccessible::installUpdateHandler(nullptr);
+    setActive(false);
+  }
+
+  /// Only a platform's own code may.
+  static void setActive(bool isActive) {
+    QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(isActive);
+  }
+
+  static void hear(QAccessibleEvent* event) {
+    const std::string name = fromQt(event->object()->objectName());
+    if (event->type() == QAccessible::ValueChanged)
+      heard.push_back(name + " = " +
+                      fromQt(static_cast<QAccessibleValueChangeEvent*>(event)->value().toString()));
+    if (event->type() == QAccessible::DescriptionChanged && !said(*event->object()).empty())
+      heard.push_back(name + ": " + said(*event->object()));
+  }
+  static QAccessibleInterface& reader(QObject& object) {
+    return *QAccessible::queryAccessibleInterface(&object);
+  }
+  static std::string said(QObject& object) {
+    return fromQt(reader(object).text(QAccessible::Value));
+  }
+
+  static inline Lines heard;
+};
+
+/// What is no more to a reader than a part of a window.
+bool isNothing(QAccessible::Role role) {
+  return role == QAccessible::Client || role == QAccessible::NoRole;
+}
+
+TEST_F(AccessibilityTest, EveryVisibleControlHasARoleAndANameWithWhatItShows) {
+  const std::map<std::string, QAccessible::Role> roles = {
+      {"knobChan1", QAccessible::Dial},         {"slideTime", QAccessible::Slider},
+      {"spConnect", QAccessible::Indicator},    {"graphDSO", QAccessible::Graphic},
+      {"opTime", QAccessible::RadioButton},     {"obProbe_1", QAccessible::RadioButton},
+      {"linePlot_0", QAccessible::Graphic},     {"lblStatus", QAccessible::StatusBar},
+      {"pictureAbout", QAccessible::Graphic},   {"slideDataBrightness", QAccessible::Slider},
+      {"lblMeasure_3", QAccessible::StaticText}};
+  std::size_t found = 0;
+  const auto expectRoles = [&](Window& window, QWidget& shown) {
+    for (Control* control : window.controls()) {
+      auto* widget = shown.findChild<QWidget*>(toQt(control->objectName()));
+      if (widget == nullptr || !control->visible() || dynamic_cast<MenuEntry*>(control)) continue;
+      EXPECT_FALSE(isNothing(reader(*widget).role())) << control->objectName();
+      EXPECT_FALSE(reader(*widget).text(QAccessible::Name).isEmpty()) << control->objectName();
+      const auto role = roles.find(control->objectName());
+      if (role == roles.end()) continue;
+      ++found;
+      EXPECT_EQ(reader(*widget).role(), role->second) << role->first;
+    }
+  };
+  expectRoles(main, *form);
+  forEachDialog(expectRoles);
+  EXPECT_EQ(found, roles.size());
+  main.lblMeasure(3).caption = "Vpp(1) 2.00 V";
+  EXPECT_EQ(reader(*find("lblMeasure_3")).text(QAccessible::Name),
+            QStringLiteral("Measurement 4: Vpp(1) 2.00 V"));
+}
+
+TEST_F(AccessibilityTest, WhatChangesIsTold) {
+  main.knobChan1.turn(7);
+  EXPECT_EQ(heard, (Lines{"knobChan1 = 7", "knobChan1: 500 mV"}));
+  for (const auto& [detent, text] : std::map<int, std::string>{
+           {0, "2 ns"}, {5, "100 ns"}, {9, "2 \u00b5s"}, {16, "500 \u00b5s"}, {28, "5 s"}}) {
+    main.knobTime.turn(detent);
+    EXPECT_EQ(said(*find("knobTime")), text);
+  }
+  heard.clear();
+  main.slideTime.drag(1.5);
+  EXPECT_EQ(heard, (Lines{"slideTime = 1.5", "slideTime: 1.50 Div"}));
+  heard.clear();
+  main.lblConnect.caption = "Stopped";
+  EXPECT_EQ(heard, Lines{"spConnect: Stopped"});
+  heard.clear();
+  GraphMarks marks;
+  marks.banner.text = "Stopped";
+  main.graphDSO.marks = [marks] { return marks; };
+  main.graphDSO.notifyChanged();
+  main.lblAge.caption = "CH1: live";
+  QApplication::processEvents();
+  main.graphDSO.notifyChanged();
+  QApplication::processEvents();
+  EXPECT_EQ(heard, Lines{"graphDSO: Stopped. CH1: live"});
+}
+
+TEST_F(AccessibilityTest, ReaderTurnsAKnobAsTheUserDoes) {
+  QAccessibleValueInterface* knob = reader(*find("knobTime")).valueInterface();
+  EXPECT_EQ(knob->maximumValue(), 28);
+  knob->setCurrentValue(18);
+  EXPECT_EQ(main.knobTime.value(), 18);
+  QAccessibleValueInterface* slide = reader(*find("slideTrig")).valueInterface();
+  slide->setCurrentValue(99);
+  EXPECT_EQ(main.slideTrig.value(), slide->maximumValue().toDouble());
+  EXPECT_FALSE(takeWire().empty());
+  EXPECT_EQ(takeWire(), Lines());
+}
+
+/// The mark adds to what the widget says of itself.
+TEST_F(AccessibilityTest, MarkKeepsTheDescription) {
+  main.cbMath.trust = [] { return Trust::unread; };
+  main.cbMath.notifyChanged();
+  EXPECT_EQ(reader(*find("cbMath")).text(QAccessible::Description),
+            QStringLiteral("Sum or difference of the channels. The instrument has not told this "
+                           "value"));
+}
+
+/// Of each group one can be reached with Tab, and the arrow keys go round it.
+TEST_F(AccessibilityTest, OptionsAreOneGroup) {
+  const auto tryOptions = [](Window& window, QWidget& shown) {
+    shown.show();
+    shown.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&shown));
+    std::map<std::string, std::vector<OptionButton*>> groups;
+    for (Control* control : window.controls())
+      if (auto* option = dynamic_cast<OptionButton*>(control))
+        groups[option->group()].push_back(option);
+    for (const auto& [name, options] : groups) {
+      SCOPED_TRACE(name);
+      const auto button = [&shown](const OptionButton* option) {
+        return shown.findChild<QRadioButton*>(toQt(option->objectName()));
+      };
+      const auto tabStops = [&options, &button] {
+        return std::ranges::count_if(options, [&button](const OptionButton* option) {
+          return (button(option)->focusPolicy() & Qt::TabFocus) != 0;
+        });
+      };
+      EXPECT_EQ(tabStops(), 1);
+      options[0]->select();
+      button(options[0])->setFocus(Qt::TabFocusReason);
+      std::set<std::string> selected = {options[0]->objectName()};
+      for (std::size_t i = 0; i < options.size(); ++i) {
+        const QWidget* before = shown.focusWidget();
+        QTest::keyClick(shown.focusWidget(), Qt::Key_Down);
+        if (shown.focusWidget() == before) QTest::keyClick(shown.focusWidget(), Qt::Key_Right);
+        const auto now = std::ranges::find_if(options, [](OptionButton* o) { return o->value(); });
+        ASSERT_NE(now, options.end());
+        EXPECT_EQ(shown.focusWidget(), button(*now));
+        selected.insert((*now)->objectName());
+      }
+      EXPECT_GE(selected.size(), 2u);
+      EXPECT_EQ(tabStops(), 1);
+    }
+  };
+  tryOptions(main, *form);
+  forEachDialog(tryOptions);
+  // A click that is refused leaves all as they were.
+  main.opTime.select();
+  main.opVoltage.enabled = false;
+  find<QRadioButton>("opVoltage")->setEnabled(true);
+  find<QRadioButton>("opVoltage")->click();
+  EXPECT_TRUE(find<QRadioButton>("opTime")->isChecked());
+  for (OptionButton* option : {&main.opOff, &main.opTime, &main.opVoltage})
+    option->value.setQuietly(false);
+  EXPECT_FALSE(find<QRadioButton>("opTime")->isChecked());
+}
+
+}  // namespace
+}  // namespace tracewell
