@@ -173,10 +173,11 @@ QAccessibleInterface* pictureInterface(QObject* object) {
 /// Asked for an object's class first, and then for those that it is derived from.
 QAccessibleInterface* makeInterface(const QString& className, QObject* object) {
   if (object == nullptr || object->metaObject()->className() != className) return nullptr;
+  // The Linux desktop calls an indicator "unknown".
   for (QAccessibleInterface* made :
        {interfaceOf<AccessibleDial, KnobWidget>(object, QAccessible::Dial),
         interfaceOf<AccessibleDial, SlideWidget>(object, QAccessible::Slider),
-        interfaceOf<AccessibleThing, LampWidget>(object, QAccessible::Indicator),
+        interfaceOf<AccessibleThing, LampWidget>(object, QAccessible::Graphic),
         interfaceOf<AccessibleThing, GraphView>(object, QAccessible::Graphic),
         labelInterface(object), pictureInterface(object)})
     if (made != nullptr) return made;

@@ -6,9 +6,8 @@
 
 namespace tracewell {
 
-/// A line of text that takes the room that it gets and ends in "…" where that is not enough; its
-/// tip is then the whole text. Where the text is told as sentences, each has a sign in front of it
-/// that says its weight.
+/// A line of text that ends in "…" if its room is too small; its tip is then the whole text. Where
+/// the text is told as sentences, a sign in front of each shows its weight.
 class ElidedLabel : public QLabel {
   Q_OBJECT
   Q_PROPERTY(QColor warningColour MEMBER warningColour_)

@@ -39,7 +39,7 @@ class KnobWidget : public QWidget {
 
   /// Middle of the cap.
   QPointF centre() const { return centre_; }
-  /// Middle of the room below the cap, between the first detent and the last.
+  /// Middle of the gap below the cap, between the first detent and the last.
   QPointF gap() const;
 
   QSize sizeHint() const override { return {168, 150}; }
@@ -85,7 +85,7 @@ class KnobWidget : public QWidget {
   qreal angleAt(const QPointF& position) const;
   int nearestDetent(const QPointF& position) const;
   bool hasCaption(int detent) const;
-  /// Of what marks the value.
+  /// Colour of the mark at the value.
   QColor mark() const;
   void paintDetents(QPainter& painter);
   void paintCap(QPainter& painter);
@@ -97,7 +97,7 @@ class KnobWidget : public QWidget {
   int value_ = 0;
   QPointF centre_;
   qreal radius_ = 0;
-  /// Shown on the cap until it is taken with Enter, or given up.
+  /// The typed text, shown on the cap until Enter takes it or it is given up.
   QString typed_;
   WheelTravel wheel_;
   /// State of a drag: its first detent, the last angle, and degrees turned to the right.

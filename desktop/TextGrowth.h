@@ -11,10 +11,10 @@ namespace tracewell {
 /// Height of a widget's font in pixels, however it was set.
 int pixelsOf(const QWidget& widget);
 
-/// What is read from afar is written larger in a larger window. A widget of a form says in its
-/// property "pixels" how large in a window of 1280 x 800 or less, and in "mostPixels" what it has
-/// room for. Everything else in "central" and in "column" grows more slowly, as far as no text is
-/// cut. The column keeps its measure: the graph takes the rest.
+/// Enlarges texts in a larger window. A widget's property "pixels" is its size in a window of
+/// 1280 x 800 or less; "mostPixels" is what it has room for. Other texts in "central" and "column"
+/// grow more slowly, as far as none is cut. The column of knobs keeps its width: the graph takes
+/// the rest.
 class TextGrowth : public QObject {
  public:
   /// Changes nothing in a form without such widgets.

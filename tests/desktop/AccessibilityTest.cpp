@@ -57,7 +57,7 @@ bool isNothing(QAccessible::Role role) {
 TEST_F(AccessibilityTest, EveryVisibleControlHasARoleAndANameWithWhatItShows) {
   const std::map<std::string, QAccessible::Role> roles = {
       {"knobChan1", QAccessible::Dial},         {"slideTime", QAccessible::Slider},
-      {"spConnect", QAccessible::Indicator},    {"graphDSO", QAccessible::Graphic},
+      {"spConnect", QAccessible::Graphic},      {"graphDSO", QAccessible::Graphic},
       {"opTime", QAccessible::RadioButton},     {"obProbe_1", QAccessible::RadioButton},
       {"linePlot_0", QAccessible::Graphic},     {"lblStatus", QAccessible::StatusBar},
       {"pictureAbout", QAccessible::Graphic},   {"slideDataBrightness", QAccessible::Slider},
