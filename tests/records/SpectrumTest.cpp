@@ -5,6 +5,7 @@
 #include <numbers>
 
 #include "Doubles.h"
+#include "WaveformRecord.h"
 
 namespace tracewell {
 namespace {
