@@ -104,6 +104,10 @@ RecorderGraph::RecorderGraph(QWidget* parent) : QCustomPlot(parent) {
   }
   badge_ = makeText(*this, Qt::AlignRight | Qt::AlignTop);
   placeInCorner(*badge_, 0.995, 0.01);
+  for (QCPItemText*& list : peakLists_) {
+    list = makeText(*this, Qt::AlignRight | Qt::AlignTop);
+    list->position->setType(QCPItemPosition::ptAbsolute);
+  }
   note_ = makeText(*this, Qt::AlignLeft | Qt::AlignBottom);
   placeInCorner(*note_, 0.005, 0.99);
 }
@@ -157,8 +161,8 @@ void RecorderGraph::showPicture(const RecorderPicture& picture, const RecorderCu
   }
   showCurves(picture);
   showXY(picture);
-  showLabels(picture);
   showCursors(cursors, texts);
+  showLabels(picture);
   note_->setColor(picture.mode == RecorderMode::spectrum ? RecorderLook::text : RecorderLook::gap);
   showNotes(picture.notes);
   replot(rpQueuedRefresh);
@@ -226,30 +230,50 @@ void RecorderGraph::showXY(const RecorderPicture& picture) {
   curve_->setData(scaledBy(curve.x, acrossFactor_), scaledBy(curve.y, upFactors_[1]));
 }
 
-/// Those of the highest peaks first; what would lie over another one is left out.
+/// Each peak has its number, and its line in the list of its channel.
 void RecorderGraph::showLabels(const RecorderPicture& picture) {
   for (QCPItemText* label : labels_) label->setVisible(false);
   const QFontMetrics metrics(font());
   std::vector<QRectF> taken;
-  std::size_t used = 0;
-  for (const auto& label : picture.labels) {
+  std::array<QStringList, 2> lists;
+  for (std::size_t i = 0; i < picture.labels.size(); ++i) {
+    const auto& label = picture.labels[i];
     const auto channel = static_cast<std::size_t>(label.channel - 1);
-    const QPointF at(label.x * acrossFactor_, label.y * upFactors_.at(channel));
-    const QString text = toQt(label.text);
-    const QSizeF size = metrics.size(0, text) + QSize(8, 4);
-    const QPointF place(xAxis->coordToPixel(at.x()), axisOf(label.channel).coordToPixel(at.y()));
-    const QRectF room = roomBeside(place, size, axisRect()->rect(), taken);
+    QStringList& list = lists.at(channel);
+    const QString number = QString::number(list.size() + 1);
+    list << number + QStringLiteral(":  ") +
+                toQt(label.text).replace(QLatin1Char('\n'), QStringLiteral("   "));
+    if (i == labels_.size()) labels_.push_back(makeText(*this, Qt::AlignLeft | Qt::AlignTop));
+    const QPointF place(xAxis->coordToPixel(label.x * acrossFactor_),
+                        axisOf(label.channel).coordToPixel(label.y * upFactors_.at(channel)));
+    const QRectF room = roomBeside(place, metrics.size(0, number), axisRect()->rect(), taken);
     if (room.isEmpty()) continue;
     taken.push_back(room);
-    if (used == labels_.size()) labels_.push_back(makeText(*this, Qt::AlignLeft | Qt::AlignTop));
-    QCPItemText& item = *labels_[used++];
-    item.position->setType(QCPItemPosition::ptAbsolute);
-    item.position->setCoords(room.topLeft());
+    labels_[i]->setPadding({});
+    labels_[i]->position->setType(QCPItemPosition::ptAbsolute);
+    labels_[i]->position->setCoords(room.topLeft());
+    labels_[i]->setFont(font());
+    labels_[i]->setColor(look_.channels.at(channel));
+    labels_[i]->setText(number);
+    labels_[i]->setVisible(true);
+  }
+  showPeakLists(lists);
+}
+
+/// At the right, where the badge of the cursors leaves room.
+void RecorderGraph::showPeakLists(const std::array<QStringList, 2>& lists) {
+  const int line = QFontMetrics(font()).lineSpacing();
+  const QRect inside = axisRect()->rect();
+  int top = inside.top() + 5 + (cursors_.kind == RecorderCursors::off ? 0 : 4 * line);
+  for (std::size_t i = 0; i < lists.size(); ++i) {
+    QCPItemText& item = *peakLists_.at(i);
+    item.setVisible(!lists.at(i).isEmpty());
+    item.setText(lists.at(i).join(QLatin1Char('\n')));
     item.setFont(font());
-    item.setColor(look_.channels.at(channel));
-    item.setText(text);
-    item.setTextAlignment(Qt::AlignCenter);
-    item.setVisible(true);
+    item.setColor(look_.channels.at(i));
+    item.setBrush(badge_->brush());
+    item.position->setCoords(inside.right() - 4, top);
+    top += static_cast<int>(lists.at(i).size()) * line + (lists.at(i).isEmpty() ? 0 : 8);
   }
 }
 

@@ -52,6 +52,7 @@ class RecorderGraph : public QCustomPlot {
   void showCurve(std::size_t index, const RecorderCurve& curve, QCPAxis& axis, int ages);
   void showXY(const RecorderPicture& picture);
   void showLabels(const RecorderPicture& picture);
+  void showPeakLists(const std::array<QStringList, 2>& lists);
   void showCursors(const RecorderCursors& cursors, const std::vector<std::string>& texts);
   void showNotes(const std::vector<std::string>& notes);
   QCPAxis& axisOf(int channel) const;
@@ -66,6 +67,7 @@ class RecorderGraph : public QCustomPlot {
   std::array<QCPItemText*, 2> cursorNames_{};
   QCPItemText* badge_ = nullptr;
   QCPItemText* note_ = nullptr;
+  std::array<QCPItemText*, 2> peakLists_{};
   RecorderCursors cursors_;
   std::optional<std::size_t> grabbed_;
   std::size_t active_ = 0;
