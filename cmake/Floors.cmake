@@ -1,9 +1,27 @@
 # The logic's targets, from the ground up: one folder each. A target sees the headers of its own folder
 # and of those that it stands on, and no others: an include that goes up or across does not compile.
+#
+# Where sources are compiled many at a time, all of them make one target, which reads the headers of the
+# floors once. The headers that a floor may see are told by the other builds then.
+if(CMAKE_UNITY_BUILD)
+  add_library(tracewell_logic STATIC)
+  set_target_properties(tracewell_logic PROPERTIES UNITY_BUILD_BATCH_SIZE 32)
+  target_link_libraries(tracewell_logic PRIVATE tracewell_warnings)
+endif()
 function(tracewell_floor NAME)
-  cmake_parse_arguments(PARSE_ARGV 1 FLOOR "" "" "SOURCES;SEES")
+  cmake_parse_arguments(PARSE_ARGV 1 FLOOR "" "" "SOURCES;SEES;DEFINES")
+  if(CMAKE_UNITY_BUILD)
+    add_library(tracewell_${NAME} INTERFACE)
+    list(TRANSFORM FLOOR_SOURCES PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/)
+    target_sources(tracewell_logic PRIVATE ${FLOOR_SOURCES})
+    target_include_directories(tracewell_logic PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
+    target_compile_definitions(tracewell_logic PUBLIC ${FLOOR_DEFINES})
+    target_link_libraries(tracewell_${NAME} INTERFACE tracewell_logic)
+    return()
+  endif()
   add_library(tracewell_${NAME} STATIC ${FLOOR_SOURCES})
   target_include_directories(tracewell_${NAME} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
+  target_compile_definitions(tracewell_${NAME} PUBLIC ${FLOOR_DEFINES})
   target_link_libraries(tracewell_${NAME} PUBLIC ${FLOOR_SEES} PRIVATE tracewell_warnings)
 endfunction()
 

@@ -30,7 +30,7 @@ constexpr qreal activeCursorWidth = 2;
 /// Share of its own colour that a trace keeps when what it shows is old.
 constexpr float oldShare = 0.5F;
 const QColor triggerColour(129, 212, 132);
-const QColor noteColour(255, 171, 64);
+const QColor cornerNoteColour(255, 171, 64);
 
 /// Ticks at whole divisions, five small ones between; no numbers.
 QSharedPointer<QCPAxisTicker> divisionTicker() {
@@ -92,7 +92,7 @@ GraphView::GraphView(QWidget* parent)
   }
   trigger_ = makeText(plot_, triggerColour, Qt::AlignRight | Qt::AlignVCenter);
   trigger_->setText(QStringLiteral("T\u25C0"));
-  note_ = makeText(plot_, noteColour, Qt::AlignRight | Qt::AlignBottom);
+  note_ = makeText(plot_, cornerNoteColour, Qt::AlignRight | Qt::AlignBottom);
   note_->setBrush(QColor(0, 0, 0, 170));
   note_->position->setType(QCPItemPosition::ptAxisRectRatio);
   note_->position->setCoords(0.995, 0.99);

@@ -12,7 +12,7 @@
 namespace tracewell {
 namespace {
 
-constexpr double unitsPerDivision = Graph::unitsPerDivision;
+constexpr double unitsToADivision = Graph::unitsPerDivision;
 
 /// Takes the next complete line off the front of `text`; false when there is none.
 bool takeLine(std::string_view& text, std::string_view& line) {
@@ -60,7 +60,7 @@ void repeatLast(std::vector<double>& points) {
 }
 
 double lifted(std::string_view text, const std::string& position) {
-  return sample(text) + checked(toDouble(position) * unitsPerDivision);
+  return sample(text) + checked(toDouble(position) * unitsToADivision);
 }
 
 }  // namespace

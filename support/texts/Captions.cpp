@@ -26,7 +26,7 @@ struct ControlLine {
   std::string caption;
 };
 
-std::string trimmed(std::string_view text) {
+std::string withoutBlanks(std::string_view text) {
   return std::string(trimBlanks(text));
 }
 
@@ -39,8 +39,8 @@ std::optional<SectionHeader> findHeader(const std::string& text, std::size_t fro
   const std::size_t end = text.find("\r\n", secondComma);
   if (secondComma == std::string::npos || end == std::string::npos) return std::nullopt;
   const std::string_view view = text;
-  return SectionHeader{start, end, "frm" + trimmed(view.substr(start + 2, comma - start - 2)),
-                       trimmed(view.substr(secondComma + 1, end - secondComma - 1))};
+  return SectionHeader{start, end, "frm" + withoutBlanks(view.substr(start + 2, comma - start - 2)),
+                       withoutBlanks(view.substr(secondComma + 1, end - secondComma - 1))};
 }
 
 /// Takes name and caption out of a control line; one without a comma leaves both as they were.
