@@ -6,6 +6,15 @@
 #include "ShownText.h"
 #include "Theme.h"
 
+#ifdef __SANITIZE_ADDRESS__
+/// After 30 seconds the font library reads its configuration anew, and loses parts of the one
+/// before.
+extern "C" const char* __lsan_default_suppressions();
+extern "C" const char* __lsan_default_suppressions() {
+  return "leak:libfontconfig\n";
+}
+#endif
+
 int main(int argumentCount, char** arguments) {
   QApplication application(argumentCount, arguments);
   tracewell::applyTheme(application);
