@@ -3,26 +3,32 @@
 #
 # Where sources are compiled many at a time, all of them make one target, which reads the headers of the
 # floors once. The headers that a floor may see are told by the other builds then.
+#
+# A floor that stands on a LIBRARY names where its HEADERS are.
 if(CMAKE_UNITY_BUILD)
   add_library(tracewell_logic STATIC)
   set_target_properties(tracewell_logic PROPERTIES UNITY_BUILD_BATCH_SIZE 32)
   target_link_libraries(tracewell_logic PRIVATE tracewell_warnings)
 endif()
 function(tracewell_floor NAME)
-  cmake_parse_arguments(PARSE_ARGV 1 FLOOR "" "" "SOURCES;SEES;DEFINES")
+  cmake_parse_arguments(PARSE_ARGV 1 FLOOR "" "" "SOURCES;SEES;DEFINES;LIBRARY;HEADERS")
   if(CMAKE_UNITY_BUILD)
     add_library(tracewell_${NAME} INTERFACE)
     list(TRANSFORM FLOOR_SOURCES PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/)
     target_sources(tracewell_logic PRIVATE ${FLOOR_SOURCES})
     target_include_directories(tracewell_logic PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
     target_compile_definitions(tracewell_logic PUBLIC ${FLOOR_DEFINES})
+    target_include_directories(tracewell_logic SYSTEM PRIVATE ${FLOOR_HEADERS})
+    target_link_libraries(tracewell_logic PRIVATE ${FLOOR_LIBRARY})
     target_link_libraries(tracewell_${NAME} INTERFACE tracewell_logic)
     return()
   endif()
   add_library(tracewell_${NAME} STATIC ${FLOOR_SOURCES})
   target_include_directories(tracewell_${NAME} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
   target_compile_definitions(tracewell_${NAME} PUBLIC ${FLOOR_DEFINES})
-  target_link_libraries(tracewell_${NAME} PUBLIC ${FLOOR_SEES} PRIVATE tracewell_warnings)
+  target_include_directories(tracewell_${NAME} SYSTEM PRIVATE ${FLOOR_HEADERS})
+  target_link_libraries(tracewell_${NAME} PUBLIC ${FLOOR_SEES}
+                        PRIVATE ${FLOOR_LIBRARY} tracewell_warnings)
 endfunction()
 
 add_subdirectory(platform/base)

@@ -269,6 +269,7 @@ void bind(Slide& control, QWidget& form) {
   QObject::connect(slide, &SlideWidget::dragged, slide,
                    [&control](double to) { control.drag(to); });
   QObject::connect(slide, &SlideWidget::released, slide, [&control] { control.release(); });
+  QObject::connect(slide, &SlideWidget::takenAway, slide, [&control] { control.takeAway(); });
 }
 
 void bind(Graph& control, QWidget& form) {

@@ -171,17 +171,12 @@ void SlideWidget::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void SlideWidget::mouseReleaseEvent(QMouseEvent* event) {
-  if (event->button() == Qt::LeftButton) letGo();
-}
-
-void SlideWidget::letGo() {
-  if (std::exchange(isDragged_, false)) emit released();
+  if (event->button() == Qt::LeftButton && std::exchange(isDragged_, false)) emit released();
 }
 
 /// A dialog that opens meanwhile gets the release of the button.
 bool SlideWidget::event(QEvent* event) {
-  if (event->type() == QEvent::WindowBlocked)
-    QMetaObject::invokeMethod(this, &SlideWidget::letGo, Qt::QueuedConnection);
+  if (event->type() == QEvent::WindowBlocked && std::exchange(isDragged_, false)) emit takenAway();
   return QWidget::event(event);
 }
 

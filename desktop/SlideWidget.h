@@ -49,6 +49,8 @@ class SlideWidget : public QWidget {
   void dragged(double to);
   /// The user has let go, or has moved it with a key or the wheel.
   void released();
+  /// A window that opened in the middle of a drag has it now; the user has chosen nothing.
+  void takenAway();
 
  protected:
   bool event(QEvent* event) override;
@@ -69,7 +71,6 @@ class SlideWidget : public QWidget {
   double valueAt(const QPointF& position) const;
   QPointF pointAt(qreal along, qreal across) const;
   void moveTo(double value);
-  void letGo();
 
   double minimum_ = -1;
   double maximum_ = 1;

@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QIcon>
 #include <QPalette>
+#include <QPixmap>
 
 #include "PanelStyle.h"
 
@@ -117,7 +118,8 @@ void applyTheme(QApplication& application, Theme chosen, const QPalette& desktop
 
 void applyTheme(QApplication& application, Theme chosen) {
   static const QPalette desktop = QApplication::palette();
-  QApplication::setWindowIcon(QIcon(QStringLiteral(":/tracewell.png")));
+  // With the format named, the toolkit does not load its readers of all others.
+  QApplication::setWindowIcon(QPixmap(QStringLiteral(":/tracewell.png"), "PNG"));
   applyTheme(application, chosen, desktop);
 }
 

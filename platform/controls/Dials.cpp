@@ -36,6 +36,11 @@ void Slide::drag(double to) {
   });
 }
 
+void Slide::takeAway() {
+  isHeld_ = false;
+  notifyChanged();
+}
+
 void Slide::release() {
   userDoes([this] {
     isHeld_ = false;

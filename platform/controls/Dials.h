@@ -46,6 +46,8 @@ class Slide : public CaptionedControl {
   Event<> mouseUp;
   void drag(double to);
   void release();
+  /// The drag has ended without the user's letting go: nothing is raised.
+  void takeAway();
   /// The user has dragged it and not let go.
   bool isHeld() const { return isHeld_; }
 

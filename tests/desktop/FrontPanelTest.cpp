@@ -59,7 +59,7 @@ TEST_F(FrontPanelTest, KnobTurnsWithTheCapAndStopsAtItsEnds) {
   takeWire();
   QTest::keyClick(&knob, Qt::Key_Up);
   wheel(knob, 5);
-  EXPECT_TRUE(takeWire().empty());
+  EXPECT_EQ(takeWire().size(), 1u);
   // The first caption of a knob stands at the lower left, outside the cap.
   QTest::mouseClick(&knob, Qt::LeftButton, {},
                     {knob.width() / 2 - knob.height() / 2 + 4, knob.height() - 6});
@@ -67,7 +67,7 @@ TEST_F(FrontPanelTest, KnobTurnsWithTheCapAndStopsAtItsEnds) {
   // A touchpad sends pieces of a notch.
   for (int i = 0; i < 3; ++i) wheel(*find("slideCH1"), 0.5);
   EXPECT_NEAR(main.slideCH1.value(), 0.1, 1e-9);
-  EXPECT_EQ(takeWire().size(), 1u);
+  EXPECT_TRUE(takeWire().empty());
   EXPECT_EQ(find<QLabel>("slideCH1_caption")->text(), toQt(main.slideCH1.caption()));
 }
 
@@ -247,7 +247,7 @@ TEST_F(FrontPanelTest, DialogThatOpensTakesASlideOutOfTheHand) {
   dialog.open();
   QApplication::processEvents();
   EXPECT_FALSE(main.slideCH1.isHeld());
-  EXPECT_EQ(takeWire().size(), 1u);
+  EXPECT_TRUE(takeWire().empty());
 }
 
 TEST_F(FrontPanelTest, LanguageInUseKeepsItsTickWhenItIsChosenAgain) {
