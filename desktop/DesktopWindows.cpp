@@ -67,8 +67,9 @@ class DesktopWindows::Form : public QObject {
     widget_->removeEventFilter(this);
     widget_->hide();
     // Possibly in the middle of one of its own events.
-    // What it still loses, as the focus, must not reach controls that may be gone by then.
-    for (QObject* part : widget_->findChildren<QObject*>()) part->disconnect();
+    // What it still loses, as the focus, must not reach controls that may be gone by then. That it
+    // is destroyed is said all the same: screen readers hold on to it until then.
+    for (QObject* part : widget_->findChildren<QObject*>()) part->blockSignals(true);
     widget_.release()->deleteLater();
   }
 
