@@ -11,6 +11,7 @@
 #include <QWheelEvent>
 
 #include "DesktopWindows.h"
+#include "KnobWidget.h"
 #include "MainFormTest.h"
 #include "Numbers.h"
 #include "Played.h"
@@ -47,8 +48,8 @@ void dragToEnd(QWidget& slide, bool isHigh) {
 using FrontPanelTest = MainFormTest;
 
 TEST_F(FrontPanelTest, KnobTurnsWithTheCapAndStopsAtItsEnds) {
-  QWidget& knob = *find("knobChan1");
-  const QPoint centre = knob.rect().center();
+  KnobWidget& knob = *find<KnobWidget>("knobChan1");
+  const QPoint centre = knob.centre().toPoint();
   const int reach = knob.height() / 10;
   drag(knob, centre - QPoint(reach, 0), centre - QPoint(0, reach));
   EXPECT_NEAR(main.knobChan1.value(), 3.3, 0.7);
