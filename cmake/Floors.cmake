@@ -4,26 +4,28 @@
 # Where sources are compiled many at a time, all of them make one target, which reads the headers of the
 # floors once. The headers that a floor may see are told by the other builds then.
 #
-# A floor that stands on a LIBRARY names where its HEADERS are.
+# A floor that stands on a LIBRARY names where its HEADERS are. One that is APART is a target of its own in
+# all builds, its sources one at a time.
 if(CMAKE_UNITY_BUILD)
   add_library(tracewell_logic STATIC)
   set_target_properties(tracewell_logic PROPERTIES UNITY_BUILD_BATCH_SIZE 32)
   target_link_libraries(tracewell_logic PRIVATE tracewell_warnings)
 endif()
 function(tracewell_floor NAME)
-  cmake_parse_arguments(PARSE_ARGV 1 FLOOR "" "" "SOURCES;SEES;DEFINES;LIBRARY;HEADERS")
-  if(CMAKE_UNITY_BUILD)
+  cmake_parse_arguments(PARSE_ARGV 1 FLOOR "APART" "" "SOURCES;SEES;DEFINES;LIBRARY;HEADERS")
+  if(CMAKE_UNITY_BUILD AND NOT FLOOR_APART)
     add_library(tracewell_${NAME} INTERFACE)
     list(TRANSFORM FLOOR_SOURCES PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/)
     target_sources(tracewell_logic PRIVATE ${FLOOR_SOURCES})
     target_include_directories(tracewell_logic PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
     target_compile_definitions(tracewell_logic PUBLIC ${FLOOR_DEFINES})
-    target_include_directories(tracewell_logic SYSTEM PRIVATE ${FLOOR_HEADERS})
-    target_link_libraries(tracewell_logic PRIVATE ${FLOOR_LIBRARY})
     target_link_libraries(tracewell_${NAME} INTERFACE tracewell_logic)
     return()
   endif()
   add_library(tracewell_${NAME} STATIC ${FLOOR_SOURCES})
+  if(FLOOR_APART)
+    set_target_properties(tracewell_${NAME} PROPERTIES UNITY_BUILD OFF)
+  endif()
   target_include_directories(tracewell_${NAME} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
   target_compile_definitions(tracewell_${NAME} PUBLIC ${FLOOR_DEFINES})
   target_include_directories(tracewell_${NAME} SYSTEM PRIVATE ${FLOOR_HEADERS})
