@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ButtonSigns.h"
 
+#include <QEvent>
 #include <QIcon>
 #include <QPainter>
 #include <QPainterPath>
@@ -31,11 +32,7 @@ void paintInstrument(QPainter& painter) {
   painter.drawEllipse(QPointF(12.2, 8), 1, 1);
 }
 
-}  // namespace
-
-void showSign(QPushButton& button) {
-  if (button.property("sign").toString() != QLatin1String("instrument")) return;
-  button.ensurePolished();
+void paintSign(QPushButton& button) {
   QPixmap picture(side, side);
   picture.fill(Qt::transparent);
   QPainter painter(&picture);
@@ -46,7 +43,31 @@ void showSign(QPushButton& button) {
   paintInstrument(painter);
   painter.end();
   button.setIcon(QIcon(picture));
+}
+
+/// Paints it anew in the colours of another theme.
+class SignOfTheme : public QObject {
+ public:
+  explicit SignOfTheme(QPushButton& button) : QObject(&button), button_(button) {
+    button.installEventFilter(this);
+  }
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() == QEvent::PaletteChange) paintSign(button_);
+    return false;
+  }
+
+ private:
+  QPushButton& button_;
+};
+
+}  // namespace
+
+void showSign(QPushButton& button) {
+  if (button.property("sign").toString() != QLatin1String("instrument")) return;
+  button.ensurePolished();
+  paintSign(button);
   button.setIconSize({shownSide, shownSide});
+  new SignOfTheme(button);
 }
 
 }  // namespace tracewell

@@ -72,6 +72,9 @@ TextGrowth::TextGrowth(QWidget& form)
 bool TextGrowth::eventFilter(QObject* watched, QEvent* event) {
   const bool isOfForm = watched == &form_;
   if (isOfForm && event->type() == QEvent::Resize) grow();
+  // A style sheet has fonts of its own; it reaches the parts of the form after the form.
+  if (isOfForm && event->type() == QEvent::StyleChange)
+    QMetaObject::invokeMethod(this, &TextGrowth::grow, Qt::QueuedConnection);
   if (isOfForm && event->type() == QEvent::FontChange) {
     limitColumn();
     growSlowly();

@@ -9,6 +9,7 @@
 #include <iomanip>
 #include <sstream>
 
+#include "Error.h"
 #include "Numbers.h"
 
 namespace tracewell {
@@ -29,9 +30,14 @@ int whole(const std::string& text, int lowest, int highest, const char* wanted) 
 
 int milliseconds(const std::string& text) {
   constexpr double longest = 86400;
-  if (!isNumeric(text) || toDouble(text) < 0 || toDouble(text) > longest)
-    throw BadValue{"seconds, at most a day"};
-  return static_cast<int>(std::lround(1000 * toDouble(text)));
+  double seconds = -1;
+  try {
+    seconds = toDouble(text);
+  } catch (const Error&) {
+    // No number, or larger than one can be.
+  }
+  if (seconds < 0 || seconds > longest) throw BadValue{"seconds, at most a day"};
+  return static_cast<int>(std::lround(1000 * seconds));
 }
 
 std::vector<int> channelsOf(const std::string& text) {

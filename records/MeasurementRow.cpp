@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "MeasurementRow.h"
 
+#include "Error.h"
 #include "Numbers.h"
 #include "SamplesCsv.h"
 #include "TrueNumbers.h"
@@ -13,6 +14,16 @@ bool MeasurementLimit::isPassed(const OwnMeasurements& values) const {
   return own && (isUpper ? *own > value : *own < value);
 }
 
+/// None for what is no number, or larger than one can be.
+static std::optional<double> numberWithUnit(std::string_view text, std::string_view unit) {
+  try {
+    const auto value = trueNumber(text, unit);
+    return value ? value : std::optional(toDouble(text));
+  } catch (const Error&) {
+    return std::nullopt;
+  }
+}
+
 std::optional<MeasurementLimit> limitOf(std::string_view text) {
   const std::size_t sign = text.find_first_of("<>");
   if (sign == std::string_view::npos) return std::nullopt;
@@ -20,8 +31,7 @@ std::optional<MeasurementLimit> limitOf(std::string_view text) {
   const std::string_view number = trimBlanks(text.substr(sign + 1));
   const auto quantity = quantityNamed(name);
   if (!quantity) return std::nullopt;
-  auto value = trueNumber(number, unitText(nameOf(*quantity).unit));
-  if (!value && isNumeric(number)) value = toDouble(number);
+  const auto value = numberWithUnit(number, unitText(nameOf(*quantity).unit));
   if (!value) return std::nullopt;
   std::string shown = std::string(name) + " " + text[sign] + " " + std::string(number);
   return MeasurementLimit{*quantity, text[sign] == '>', *value, std::move(shown)};

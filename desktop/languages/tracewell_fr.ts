@@ -60,10 +60,6 @@
         <translation>%1, %2 : balayages différents</translation>
     </message>
     <message>
-        <source>%1: %2 in its file</source>
-        <translation>%1 : %2 dans son fichier</translation>
-    </message>
-    <message>
         <source>%1: %2 of %3 settings not confirmed</source>
         <translation>%1 : %2 réglages sur %3 non confirmés</translation>
     </message>
@@ -94,6 +90,10 @@
     <message>
         <source>%1: live</source>
         <translation>%1 : en direct</translation>
+    </message>
+    <message>
+        <source>%1: made at %2</source>
+        <translation>%1 : enregistré à %2</translation>
     </message>
     <message>
         <source>%1: mean of %2 spectra, %3 from line to line</source>
@@ -366,6 +366,10 @@
     <message>
         <source>Amplitude: high level less low level</source>
         <translation>Amplitude : niveau haut moins niveau bas</translation>
+    </message>
+    <message>
+        <source>An error has stopped the acquisition</source>
+        <translation>Une erreur a arrêté l'acquisition</translation>
     </message>
     <message>
         <source>Answers without a line end: %1 in a minute</source>
@@ -1456,6 +1460,10 @@
         <translation>Les échelles ne sont pas connues : appuyez sur %1 pour les lire</translation>
     </message>
     <message>
+        <source>The scales are not known: press %1 to read them, then F5 to go on</source>
+        <translation>Les échelles ne sont pas connues : appuyez sur %1 pour les lire, puis F5 pour continuer</translation>
+    </message>
+    <message>
         <source>The scales may be those of another instrument: press %1 to read them</source>
         <translation>Les calibres sont peut-être ceux d'un autre instrument : appuyer sur %1 pour les lire</translation>
     </message>
@@ -1476,8 +1484,8 @@
         <translation>Ce port n'existe pas</translation>
     </message>
     <message>
-        <source>These traces came over the connection before</source>
-        <translation>Ces courbes viennent de la connexion précédente</translation>
+        <source>These traces are of an earlier connection</source>
+        <translation>Ces courbes viennent d'une connexion précédente</translation>
     </message>
     <message>
         <source>This record alone</source>

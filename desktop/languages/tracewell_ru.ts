@@ -60,10 +60,6 @@
         <translation>%1, %2: разные развёртки</translation>
     </message>
     <message>
-        <source>%1: %2 in its file</source>
-        <translation>%1: в файле %2</translation>
-    </message>
-    <message>
         <source>%1: %2 of %3 settings not confirmed</source>
         <translation>%1: не подтверждено настроек: %2 из %3</translation>
     </message>
@@ -94,6 +90,10 @@
     <message>
         <source>%1: live</source>
         <translation>%1: в реальном времени</translation>
+    </message>
+    <message>
+        <source>%1: made at %2</source>
+        <translation>%1: снято при %2</translation>
     </message>
     <message>
         <source>%1: mean of %2 spectra, %3 from line to line</source>
@@ -366,6 +366,10 @@
     <message>
         <source>Amplitude: high level less low level</source>
         <translation>Амплитуда: верхний уровень минус нижний</translation>
+    </message>
+    <message>
+        <source>An error has stopped the acquisition</source>
+        <translation>Сбор данных остановлен из-за ошибки</translation>
     </message>
     <message>
         <source>Answers without a line end: %1 in a minute</source>
@@ -1456,6 +1460,10 @@
         <translation>Масштабы неизвестны: нажмите %1, чтобы прочитать их</translation>
     </message>
     <message>
+        <source>The scales are not known: press %1 to read them, then F5 to go on</source>
+        <translation>Масштабы неизвестны: нажмите %1, чтобы прочитать их, затем F5, чтобы продолжить</translation>
+    </message>
+    <message>
         <source>The scales may be those of another instrument: press %1 to read them</source>
         <translation>Масштабы могут быть от другого прибора: нажмите «%1», чтобы прочитать их</translation>
     </message>
@@ -1476,7 +1484,7 @@
         <translation>Такого порта нет</translation>
     </message>
     <message>
-        <source>These traces came over the connection before</source>
+        <source>These traces are of an earlier connection</source>
         <translation>Эти осциллограммы получены по прежнему соединению</translation>
     </message>
     <message>

@@ -60,10 +60,6 @@
         <translation>%1、%2：不同次扫描</translation>
     </message>
     <message>
-        <source>%1: %2 in its file</source>
-        <translation>%1：文件中为 %2</translation>
-    </message>
-    <message>
         <source>%1: %2 of %3 settings not confirmed</source>
         <translation>%1：%3 项设置中有 %2 项未确认</translation>
     </message>
@@ -94,6 +90,10 @@
     <message>
         <source>%1: live</source>
         <translation>%1：实时</translation>
+    </message>
+    <message>
+        <source>%1: made at %2</source>
+        <translation>%1：记录时为 %2</translation>
     </message>
     <message>
         <source>%1: mean of %2 spectra, %3 from line to line</source>
@@ -366,6 +366,10 @@
     <message>
         <source>Amplitude: high level less low level</source>
         <translation>幅度：高电平减低电平</translation>
+    </message>
+    <message>
+        <source>An error has stopped the acquisition</source>
+        <translation>采集因错误而停止</translation>
     </message>
     <message>
         <source>Answers without a line end: %1 in a minute</source>
@@ -1456,6 +1460,10 @@
         <translation>刻度未知：按 %1 读取</translation>
     </message>
     <message>
+        <source>The scales are not known: press %1 to read them, then F5 to go on</source>
+        <translation>刻度未知：按 %1 读取，再按 F5 继续</translation>
+    </message>
+    <message>
         <source>The scales may be those of another instrument: press %1 to read them</source>
         <translation>档位可能属于另一台仪器：请按“%1”重新读取</translation>
     </message>
@@ -1476,7 +1484,7 @@
         <translation>没有这个端口</translation>
     </message>
     <message>
-        <source>These traces came over the connection before</source>
+        <source>These traces are of an earlier connection</source>
         <translation>这些波形来自之前的连接</translation>
     </message>
     <message>

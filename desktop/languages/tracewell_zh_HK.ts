@@ -60,10 +60,6 @@
         <translation>%1、%2：唔同次掃描</translation>
     </message>
     <message>
-        <source>%1: %2 in its file</source>
-        <translation>%1：檔案入面係 %2</translation>
-    </message>
-    <message>
         <source>%1: %2 of %3 settings not confirmed</source>
         <translation>%1：%3 項設定有 %2 項未確認</translation>
     </message>
@@ -94,6 +90,10 @@
     <message>
         <source>%1: live</source>
         <translation>%1：實時</translation>
+    </message>
+    <message>
+        <source>%1: made at %2</source>
+        <translation>%1：記錄嗰陣係 %2</translation>
     </message>
     <message>
         <source>%1: mean of %2 spectra, %3 from line to line</source>
@@ -366,6 +366,10 @@
     <message>
         <source>Amplitude: high level less low level</source>
         <translation>幅度：高電平減低電平</translation>
+    </message>
+    <message>
+        <source>An error has stopped the acquisition</source>
+        <translation>採集因為出錯而停咗</translation>
     </message>
     <message>
         <source>Answers without a line end: %1 in a minute</source>
@@ -1456,6 +1460,10 @@
         <translation>刻度未知：撳 %1 讀取</translation>
     </message>
     <message>
+        <source>The scales are not known: press %1 to read them, then F5 to go on</source>
+        <translation>刻度未知：撳 %1 讀取，再撳 F5 繼續</translation>
+    </message>
+    <message>
         <source>The scales may be those of another instrument: press %1 to read them</source>
         <translation>檔位可能係第部儀器嘅：撳「%1」再讀取</translation>
     </message>
@@ -1476,7 +1484,7 @@
         <translation>冇呢個連接埠</translation>
     </message>
     <message>
-        <source>These traces came over the connection before</source>
+        <source>These traces are of an earlier connection</source>
         <translation>呢啲波形嚟自之前嘅連線</translation>
     </message>
     <message>

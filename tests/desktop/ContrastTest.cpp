@@ -117,10 +117,14 @@ TEST_F(ContrastTest, EverythingCanBeReadInEveryTheme) {
       {Theme::light, blackOnWhite(), false},
       {Theme::dark, {}, true},
       {Theme::highContrast, {}, true}};
+  const auto sizeOfScale = [this] { return QFontInfo(find("lblChan1")->font()).pixelSize(); };
+  const int size = sizeOfScale();
   for (const auto& [theme, desktop, isDark] : themes) {
     SCOPED_TRACE(testing::Message() << static_cast<int>(theme) << isDark);
     applyTheme(*qApp, theme, desktop);
     EXPECT_EQ(form->palette().color(QPalette::Window).lightness() < 128, isDark);
+    QApplication::processEvents();
+    EXPECT_EQ(sizeOfScale(), size);
     for (const bool isStale : {true, false}) {
       SCOPED_TRACE(isStale ? "stale" : "known");
       for (Control* control : main.controls()) {

@@ -122,8 +122,8 @@ TEST(MeasurementRow, TimesHaveAZoneAndLimitsAreReadStrictly) {
   const int zone = (time[23] == '-' ? -1 : 1) * minutes(24);
   EXPECT_EQ((minutes(11) - zone + 2880) % 1440, 13 * 60 + 29) << time;
   EXPECT_DOUBLE_EQ(limitOf("freq <1.5 kHz").value().value, 1500);
-  for (const char* const text :
-       {"", "vpp", "vpp >", "vpp > x", "volts > 1", "vpp > 1 s", "vpp >> 1"})
+  for (const char* const text : {"", "vpp", "vpp >", "vpp > x", "volts > 1", "vpp > 1 s",
+                                 "vpp >> 1", "vpp > 1e999", "vpp > -1e400000 V"})
     EXPECT_FALSE(limitOf(text)) << text;
   EXPECT_EQ(quantitiesOf("vpp, freq").value().size(), 2U);
   EXPECT_FALSE(quantitiesOf("vpp,") || quantitiesOf(""));

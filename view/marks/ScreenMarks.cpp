@@ -50,7 +50,7 @@ void addReferenceName(std::vector<GraphMarks::Text>& names, const frmDSO& main, 
   if (!plot.isShown()) return;
   names.push_back({number, plot.scale().empty()
                                ? words.say("%1: scale not known", {plot.name()})
-                               : words.say("%1: %2 in its file", {plot.name(), plot.scale()})});
+                               : words.say("%1: made at %2", {plot.name(), plot.scale()})});
 }
 
 /// A phase between two sweeps means nothing.

@@ -25,19 +25,30 @@ bool isScaleMissing(const frmDSO& main, const Channel& channel) {
   return !hasVolts || !main.known.secondsPerDivision();
 }
 
+/// The button also stops what runs.
+std::string toRead(const frmDSO& main, const Words& words) {
+  return main.tmDSO.enabled()
+             ? words.say("The scales are not known: press %1 to read them, then F5 to go on",
+                         {main.cmdRS232.caption()})
+             : words.say("The scales are not known: press %1 to read them",
+                         {main.cmdRS232.caption()});
+}
+
 /// Empty unless the traces are not what they seem to be.
 std::string warning(const frmDSO& main, const Words& words) {
+  if (!main.tmDSO.enabled() && main.status.says(StatusLine::stoppedByError))
+    return words.say("An error has stopped the acquisition");
   if (const std::int64_t time = millisecondsWithoutRecord(main); time > 0)
     return words.say("No record for %1 s", {std::to_string(time / 1000)});
   if (firstTrace(main, [&](const Channel& channel) { return !isOfThisLine(main, channel); }))
-    return words.say("These traces came over the connection before");
+    return words.say("These traces are of an earlier connection");
   const auto isLate = [&](const Channel& channel) {
     return main.tmDSO.enabled() && isOld(main, channel);
   };
   if (const Channel* const late = firstTrace(main, isLate))
     return ageText(words, *late, main.services().clock.milliseconds());
   if (firstTrace(main, [&](const Channel& channel) { return isScaleMissing(main, channel); }))
-    return words.say("The scales are not known: press %1 to read them", {main.cmdRS232.caption()});
+    return toRead(main, words);
   return "";
 }
 
