@@ -60,6 +60,10 @@
         <translation>%1, %2 : balayages différents</translation>
     </message>
     <message>
+        <source>%1: %2 from line to line</source>
+        <translation>%1 : %2 de raie en raie</translation>
+    </message>
+    <message>
         <source>%1: %2 of %3 settings not confirmed</source>
         <translation>%1 : %2 réglages sur %3 non confirmés</translation>
     </message>
@@ -784,8 +788,8 @@
         <translation>Superposer une courbe enregistrée aux traces</translation>
     </message>
     <message>
-        <source>Lays the record over the live traces, as Load does</source>
-        <translation>Superpose l'enregistrement aux traces en direct, comme Charger</translation>
+        <source>Lays what is drawn over the live traces, as Load does</source>
+        <translation>Superpose ce qui est tracé aux courbes en direct, comme Charger</translation>
     </message>
     <message>
         <source>Let go</source>

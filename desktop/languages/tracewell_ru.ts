@@ -60,6 +60,10 @@
         <translation>%1, %2: разные развёртки</translation>
     </message>
     <message>
+        <source>%1: %2 from line to line</source>
+        <translation>%1: шаг линий %2</translation>
+    </message>
+    <message>
         <source>%1: %2 of %3 settings not confirmed</source>
         <translation>%1: не подтверждено настроек: %2 из %3</translation>
     </message>
@@ -784,8 +788,8 @@
         <translation>Наложить сохранённую осциллограмму</translation>
     </message>
     <message>
-        <source>Lays the record over the live traces, as Load does</source>
-        <translation>Накладывает запись на живые осциллограммы, как «Загрузить»</translation>
+        <source>Lays what is drawn over the live traces, as Load does</source>
+        <translation>Накладывает показанное на живые осциллограммы, как «Загрузить»</translation>
     </message>
     <message>
         <source>Let go</source>

@@ -60,6 +60,10 @@
         <translation>%1、%2：不同次扫描</translation>
     </message>
     <message>
+        <source>%1: %2 from line to line</source>
+        <translation>%1：谱线间隔 %2</translation>
+    </message>
+    <message>
         <source>%1: %2 of %3 settings not confirmed</source>
         <translation>%1：%3 项设置中有 %2 项未确认</translation>
     </message>
@@ -784,8 +788,8 @@
         <translation>将已保存的波形叠加到波形上</translation>
     </message>
     <message>
-        <source>Lays the record over the live traces, as Load does</source>
-        <translation>像“载入”一样把记录叠加在实时波形上</translation>
+        <source>Lays what is drawn over the live traces, as Load does</source>
+        <translation>将所绘波形叠加到实时波形上，如同加载</translation>
     </message>
     <message>
         <source>Let go</source>

@@ -60,6 +60,10 @@
         <translation>%1、%2：唔同次掃描</translation>
     </message>
     <message>
+        <source>%1: %2 from line to line</source>
+        <translation>%1：譜線間隔 %2</translation>
+    </message>
+    <message>
         <source>%1: %2 of %3 settings not confirmed</source>
         <translation>%1：%3 項設定有 %2 項未確認</translation>
     </message>
@@ -784,8 +788,8 @@
         <translation>將儲存咗嘅波形疊加上去</translation>
     </message>
     <message>
-        <source>Lays the record over the live traces, as Load does</source>
-        <translation>好似「載入」咁將記錄疊喺即時波形上面</translation>
+        <source>Lays what is drawn over the live traces, as Load does</source>
+        <translation>將畫咗嘅波形疊喺即時波形上面，好似載入噉</translation>
     </message>
     <message>
         <source>Let go</source>

@@ -91,7 +91,7 @@ QLayout* RecorderWindow::actionRow() {
   pin_ = addButton(*row, "pin");
   pins_ = new QComboBox(this);
   pins_->setObjectName(QStringLiteral("pins"));
-  pins_->setMinimumContentsLength(12);
+  pins_->setMinimumContentsLength(18);
   pins_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   row->addWidget(pins_);
   row->addStretch(1);
@@ -146,7 +146,7 @@ void RecorderWindow::sayTexts() {
     pins_->setAccessibleName(panelText("Pinned records"));
     pins_->setToolTip(panelText("Goes to a pinned record; it stays when others go"));
     showInPanel_->setText(panelText("Show in the panel"));
-    showInPanel_->setToolTip(panelText("Lays the record over the live traces, as Load does"));
+    showInPanel_->setToolTip(panelText("Lays what is drawn over the live traces, as Load does"));
     copy_->setText(panelText("Copy"));
     copy_->setToolTip(panelText("Copies the picture and its values for other programs (Ctrl+C)"));
     copy_->setShortcut(QKeySequence::Copy);
@@ -286,13 +286,13 @@ void RecorderWindow::pinOrLetGo() {
 }
 
 void RecorderWindow::showInPanel() {
-  const auto pointed = view_.selected();
-  if (!pointed) return;
   const RecordStore& store = recorder_.store();
-  const bool isShown =
-      showAsReference(recorder_.main(), store.facts(*pointed).channel, store.record(*pointed));
-  say(isShown ? panelText("It lies over the live traces now")
-              : panelText("No reference is free: remove one in the panel first"));
+  bool haveRoom = true;
+  for (const int channel : {1, 2})
+    if (const auto shown = view_.shownOf(channel); shown && haveRoom)
+      haveRoom = showAsReference(recorder_.main(), channel, store.record(*shown));
+  say(haveRoom ? panelText("It lies over the live traces now")
+               : panelText("No reference is free: remove one in the panel first"));
 }
 
 void RecorderWindow::copy() {

@@ -73,9 +73,11 @@ RecorderPicture spectrumPicture(const RecordStore& store, std::span<const DrawnR
           words.say("%1 has no spectrum: its scales are not known, or its record is cut", {name}));
       continue;
     }
-    picture.notes.push_back(words.say(
-        "%1: mean of %2 spectra, %3 from line to line",
-        {name, std::to_string(spectrum->records), numberWithUnit(spectrum->resolution, "Hz")}));
+    const std::string resolution = numberWithUnit(spectrum->resolution, "Hz");
+    picture.notes.push_back(spectrum->records == 1
+                                ? words.say("%1: %2 from line to line", {name, resolution})
+                                : words.say("%1: mean of %2 spectra, %3 from line to line",
+                                            {name, std::to_string(spectrum->records), resolution}));
     RecorderCurve curve{RecorderCurve::record, drawn.channel, 0, {}, {}};
     for (std::size_t bin = 0; bin < spectrum->voltsRms.size(); ++bin) {
       const double volts = spectrum->voltsRms[bin];
