@@ -85,6 +85,9 @@ class DayAtTheBench(SystemTestCase):
         program.focus(program.window)
         program.keys("F5")
         self.expect_lamp(program, "green")
+        # What is saved below was made at the scales of the autoset.
+        wait_for(lambda: program.place("frmDSO.lblAge").text.count("live") == 2, PATIENCE,
+                 "records of both channels")
 
         # Cursors.
         program.click("frmDSO.opTime")
