@@ -273,7 +273,13 @@ void bind(Slide& control, QWidget& form) {
 }
 
 void bind(Graph& control, QWidget& form) {
-  findObject<GraphView>(control, form)->bind(control);
+  auto* view = findObject<GraphView>(control, form);
+  view->bind(control);
+  // Empty of the controls that are hidden then, these would keep their share of the window.
+  for (const char* holder : {"column", "command"})
+    if (auto* widget = form.findChild<QWidget*>(QLatin1String(holder)))
+      QObject::connect(view, &GraphView::enlarged, widget,
+                       [widget](bool isEnlarged) { widget->setVisible(!isEnlarged); });
 }
 
 void bind(ListBox& control, QWidget& form) {
