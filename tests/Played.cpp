@@ -122,7 +122,7 @@ std::map<std::string, std::string> Played::shownBy(Window& window) {
   for (const int number : {1, 2})
     if (isTruthTold_ && main.graphDSO.plot(number).isPale())
       shown["old" + std::to_string(number)] = "";
-  for (int number = 0; number < SetupTable::firstRows; ++number)
+  for (int number = 0; number < main.gridMeasure.fileRows(); ++number)
     for (const std::string& value : row(number))
       shown["row" + std::to_string(number)] += "," + value;
   const LineSettings& line = port.settings;

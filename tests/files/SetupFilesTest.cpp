@@ -21,11 +21,16 @@ class SetupFilesTest : public testing::Test, protected Bench {
 
 /// What a later version keeps besides: a value in a row, and a row.
 TEST_F(SetupFilesTest, FilesOfEarlierVersionsAreTakenWholeAndGetWhatWasAdded) {
-  auto design = SetupTable::shippedDesign();
+  auto first = SetupTable::shippedDesign();
+  first.resize(SetupTable::firstRows);
+  for (DesignRow& row : first) row.added.clear();
+  auto design = first;
   design[SetupTable::display].added = {"new", "newer"};
   design.push_back({"Added", {}, {"7"}});
   const fs::path setup = folder.path() / "default.dso";
-  const std::string old = contentOf(setup);
+  table = SetupTable(first);
+  program.setupFiles.WriteSetupFile(file);
+  const std::string old = contentOf(file);
   const auto replaced = [](std::string text, const std::string& from, const std::string& to) {
     return text.replace(text.find(from), from.size(), to);
   };
