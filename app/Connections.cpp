@@ -100,7 +100,7 @@ void Tracewell::connectFiles() {
     try {
       setupFiles.mnbLoadSetup_Click();
     } catch (const Error&) {
-      // The rows in front of the error are new.
+      // The rows before the error are new.
       showDifferingLink(main);
       throw;
     }
@@ -125,7 +125,7 @@ void Tracewell::connectFiles() {
   main.mnbConf.click = [this] { report.mnbConf_Click(); };
 }
 
-/// What stands in the window in words of the panel's own.
+/// The texts of the window in the panel's own words.
 void Tracewell::sayAgain() {
   sayPortAgain(main);
   main.status.tellAgain();

@@ -35,8 +35,8 @@ Inquiry::~Inquiry() {
     main_.status.withdraw(StatusLine::progress);
 }
 
-/// Settings that are sent belong to the task that has begun with questions, and so does a single
-/// question behind them.
+/// Settings that are sent belong to the task that began with queries, and so does a single query
+/// after them.
 void Inquiry::withdrawEarlier() {
   main_.status.withdraw(StatusLine::happened);
   if (items_ == Of::settings) return;

@@ -14,7 +14,7 @@ void SettingsDialog::doubtAnswers() {
 }
 
 void SettingsDialog::edit(Fetching fetching, const Step& fill, const Step& send) {
-  // What it would send then is what was chosen the time before.
+  // Otherwise it would send what was chosen the time before.
   if (isVisible()) return;
   if (fetching == Fetching::stops) acquisition_.StopAcq();
   fill();

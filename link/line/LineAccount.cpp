@@ -5,7 +5,8 @@ namespace tracewell {
 namespace {
 
 constexpr int secondsKept = 60;
-/// Whoever wants records asks for the next one within so long; a longer break was none of waiting.
+/// An acquisition asks for its next record within this time; a longer break was not spent waiting.
+/// Milliseconds.
 constexpr int longestBreak = 5000;
 
 }  // namespace
