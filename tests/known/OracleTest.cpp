@@ -2,13 +2,25 @@
 #include <cstdlib>
 #include <iostream>
 
+#ifdef TRACEWELL_RECORDER
+#include "RecorderHeld.h"
+#else
 #include "TracesHeld.h"
+#endif
 
 namespace tracewell {
 namespace {
 
+#ifdef TRACEWELL_RECORDER
+using Held = RecorderHeld;
+#else
+struct Held : TracesHeld {
+  void lookAtRecorder() {}
+};
+#endif
+
 /// The whole program in the hands of somebody who knows the truth.
-class Oracle : public TracesHeld {
+class Oracle : public Held {
  public:
   explicit Oracle(unsigned seed) {
     history_.random.seed(seed);
@@ -27,6 +39,7 @@ class Oracle : public TracesHeld {
     if (oneIn(chances)) act();
     --depth_;
     look();
+    lookAtRecorder();
   }
 
   long looks = 0;
