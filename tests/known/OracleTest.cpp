@@ -264,6 +264,18 @@ class Oracle : public Held {
     if (!is->isStopped) is->sweep();
   }
 
+  /// Scales under which the signals can be measured, and time for some records; perhaps of one stop.
+  void recordForAWhile() {
+    busyUntil_ = late_ = lost_ = failing_ = 0;
+    if (!main.LinkOK) main.cmdRS232.press();
+    for (Channel& channel : main.channels) channel.knob.turn(5 + below(5));
+    main.knobTime.turn(14 + below(6));
+    if (!main.tmDSO.enabled()) main.cmdStart.press();
+    run(below(12000));
+    if (oneIn(2)) main.cmdRunStop.press();
+    run(6000);
+  }
+
   void listActs() {
     const Lines often = partsOf(
         "cmdStart cmdRS232 cmdRunStop cmdTest cmdChannel1 cmdChannel2 cmdTime cmdTrig cmdFMeasure "
@@ -292,6 +304,7 @@ class Oracle : public Held {
         {1, [this] { moveCursor(); }},
         {1, [this] { trouble(); }},
         {1, [this] { busyUntil_ = late_ = lost_ = failing_ = 0; }},
+        {2, [this] { recordForAWhile(); }},
         {3, [this] { replug(); }},
         {1,
          [this] {
