@@ -268,7 +268,11 @@ class Oracle : public Held {
   void recordForAWhile() {
     busyUntil_ = late_ = lost_ = failing_ = 0;
     if (!main.LinkOK) main.cmdRS232.press();
-    for (Channel& channel : main.channels) channel.knob.turn(5 + below(5));
+    main.cbMath.choose(3);
+    for (Channel& channel : main.channels) {
+      channel.knob.turn(5 + below(5));
+      if (!channel.display.isChecked()) channel.display.toggle();
+    }
     main.knobTime.turn(14 + below(6));
     if (!main.tmDSO.enabled()) main.cmdStart.press();
     run(below(12000));

@@ -202,7 +202,9 @@ class RecorderHeld : public RecordsHeld {
     if (quantity == riseTime || quantity == fallTime)
       return Truth{0.29517 * turn, std::max(sample, 0.015 * turn)};
     if (quantity != delay && quantity != phase) return std::nullopt;
-    expect(other == &sweep && sweep.frequency(0) == sweep.frequency(1), "phase: one sweep");
+    expect(other == &sweep, "phase: one sweep");
+    if (sweep.math != 0) return std::nullopt;
+    expect(sweep.frequency(0) == sweep.frequency(1), "phase: one period");
     double turns = sweep.turns(0) - sweep.turns(1);
     turns -= std::round(turns);
     if (std::fabs(turns) > 0.49) return std::nullopt;
