@@ -205,14 +205,15 @@ void KnownInstrument::doubtful(Setting setting, Doubt reason) {
   followed(setting);
 }
 
-/// Nothing is nothing in any scale. What is in doubt already passes it on.
+/// Nothing is nothing in any scale. What is in doubt already passes it on, and has changed once more:
+/// the value that is told next is not the one of before.
 void KnownInstrument::followed(Setting setting) {
   const auto dependent = dependentOn(setting);
   if (!dependent) return;
   if (isKnown(*dependent) && number(*dependent) != 0.0)
-    doubtful(*dependent, Doubt::mayHaveChanged);
-  else
-    followed(*dependent);
+    return doubtful(*dependent, Doubt::mayHaveChanged);
+  if (!isKnown(*dependent)) entry(*dependent).changedAt = ++now_;
+  followed(*dependent);
 }
 
 /// Of several questions in a line nobody knows which one is answered.
