@@ -205,8 +205,8 @@ void KnownInstrument::doubtful(Setting setting, Doubt reason) {
   followed(setting);
 }
 
-/// Nothing is nothing in any scale. What is in doubt already passes it on, and has changed once more:
-/// the value that is told next is not the one of before.
+/// Nothing is nothing in any scale. What is in doubt already passes it on, and has changed once
+/// more: the value that is told next is not the one of before.
 void KnownInstrument::followed(Setting setting) {
   const auto dependent = dependentOn(setting);
   if (!dependent) return;

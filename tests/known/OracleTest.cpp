@@ -16,6 +16,7 @@ using Held = RecorderHeld;
 #else
 struct Held : TracesHeld {
   void lookAtRecorder() {}
+  void lookBack() {}
 };
 #endif
 
@@ -264,7 +265,8 @@ class Oracle : public Held {
     if (!is->isStopped) is->sweep();
   }
 
-  /// Scales under which the signals can be measured, and time for some records; perhaps of one stop.
+  /// Scales under which the signals can be measured, and time for some records; perhaps of one
+  /// stop.
   void recordForAWhile() {
     busyUntil_ = late_ = lost_ = failing_ = 0;
     if (!main.LinkOK) main.cmdRS232.press();
@@ -337,6 +339,7 @@ TEST(Oracle, WhatIsShownWithoutAMarkIsTrue) {
   const int seed = numberFrom("TRACEWELL_ORACLE_SEED", 1);
   Oracle oracle(static_cast<unsigned>(seed));
   while (oracle.actions < total) oracle.act();
+  oracle.lookBack();
   std::cout << "seed " << seed << ": " << oracle.actions << " actions, " << oracle.looks
             << " looks\n";
   for (const auto& [cause, seen] : oracle.violations)
