@@ -205,14 +205,15 @@ void KnownInstrument::doubtful(Setting setting, Doubt reason) {
   followed(setting);
 }
 
-/// A position of zero is zero in any scale. One already in doubt passes the doubt on.
+/// A position of zero is zero in any scale. One already in doubt passes the doubt on, and has
+/// changed once more: the next value told is not the earlier one.
 void KnownInstrument::followed(Setting setting) {
   const auto dependent = dependentOn(setting);
   if (!dependent) return;
   if (isKnown(*dependent) && number(*dependent) != 0.0)
-    doubtful(*dependent, Doubt::mayHaveChanged);
-  else
-    followed(*dependent);
+    return doubtful(*dependent, Doubt::mayHaveChanged);
+  if (!isKnown(*dependent)) entry(*dependent).changedAt = ++now_;
+  followed(*dependent);
 }
 
 /// With several queries in a line, which one is answered is unknown.

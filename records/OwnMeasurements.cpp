@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 
 #include "Converter.h"
 #include "Edges.h"
@@ -25,9 +26,9 @@ struct Shape {
   RhythmResult repeats;
   double mean = 0;
   double meanSquare = 0;
+  double variance = 0;
   bool isFlat = false;
 
-  double variance() const { return std::max(0.0, meanSquare - mean * mean); }
   const std::optional<Rhythm>& rhythm() const { return repeats.rhythm; }
 };
 
@@ -64,17 +65,24 @@ void takeSine(const Samples& samples, Shape& shape) {
 
 Shape shapeOf(const Samples& samples) {
   Shape shape;
-  for (const double sample : samples) {
-    shape.mean += sample / static_cast<double>(samples.size());
-    shape.meanSquare += sample * sample / static_cast<double>(samples.size());
+  // In whole numbers, so that a level has no trace of AC.
+  constexpr auto count = static_cast<std::int64_t>(WaveformRecord::sampleCount);
+  std::int64_t sum = 0;
+  std::int64_t squares = 0;
+  for (const std::int64_t sample : samples) {
+    sum += sample;
+    squares += sample * sample;
   }
+  shape.mean = static_cast<double>(sum) / count;
+  shape.meanSquare = static_cast<double>(squares) / count;
+  shape.variance = static_cast<double>(count * squares - sum * sum) / (count * count);
   shape.levels = levelsOf(samples);
   const int peakToPeak = shape.levels.maximum - shape.levels.minimum;
   shape.isFlat = peakToPeak <= 2 * converter::step;
   if (shape.isFlat) return shape;
   findEdges(samples, shape);
   takeSine(samples, shape);
-  shape.isFlat = !shape.rhythm() && isNoise(samples, shape.variance(), peakToPeak);
+  shape.isFlat = !shape.rhythm() && isNoise(samples, shape.variance, peakToPeak);
   return shape;
 }
 
@@ -99,7 +107,7 @@ void measureHeights(const Shape& shape, OwnMeasurements& found) {
   found[peakToPeak] = unless(isClipped, levels.maximum - levels.minimum);
   found[mean] = unless(isClipped, shape.mean);
   found[rms] = unless(isClipped, std::sqrt(shape.meanSquare));
-  found[acRms] = unless(isClipped, std::sqrt(shape.variance()));
+  found[acRms] = unless(isClipped, std::sqrt(shape.variance));
   found[top] = level(shape, levels.isClippedAbove, levels.top, levels.maximum);
   found[base] = level(shape, levels.isClippedBelow, levels.base, levels.minimum);
   found[amplitude] = found[base].value ? found[top] : found[base];

@@ -16,7 +16,8 @@ RecordGap gapBetween(const RecordFacts& before, const RecordFacts& now) {
   gap.hasOtherScales = before.madeUnder.voltsPerDivision != now.madeUnder.voltsPerDivision ||
                        before.madeUnder.secondsPerDivision != now.madeUnder.secondsPerDivision ||
                        before.madeUnder.mathEntry != now.madeUnder.mathEntry;
-  gap.wasStopped = before.madeUnder.stop && before.madeUnder.stop != now.madeUnder.stop;
+  gap.wasStopped = before.line == now.line && before.madeUnder.stop &&
+                   before.madeUnder.stop != now.madeUnder.stop;
   gap.wasSilent = now.sweepAt - before.fetchedAt > RecordStore::longestPause;
   return gap;
 }

@@ -23,7 +23,7 @@ struct RecordGap {
   bool wasUnplugged = false;
   /// The scales are not those of before, or are known only of one of the two.
   bool hasOtherScales = false;
-  /// The instrument was stopped and ran again.
+  /// The instrument was stopped and ran again; what it did on another line nobody knows.
   bool wasStopped = false;
   /// Nothing was fetched for longer than RecordStore::longestPause.
   bool wasSilent = false;

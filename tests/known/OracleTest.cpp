@@ -2,13 +2,26 @@
 #include <cstdlib>
 #include <iostream>
 
+#ifdef TRACEWELL_RECORDER
+#include "RecorderHeld.h"
+#else
 #include "TracesHeld.h"
+#endif
 
 namespace tracewell {
 namespace {
 
+#ifdef TRACEWELL_RECORDER
+using Held = RecorderHeld;
+#else
+struct Held : TracesHeld {
+  void lookAtRecorder() {}
+  void lookBack() {}
+};
+#endif
+
 /// The whole program in the hands of somebody who knows the truth.
-class Oracle : public TracesHeld {
+class Oracle : public Held {
  public:
   explicit Oracle(unsigned seed) {
     history_.random.seed(seed);
@@ -27,6 +40,7 @@ class Oracle : public TracesHeld {
     if (oneIn(chances)) act();
     --depth_;
     look();
+    lookAtRecorder();
   }
 
   long looks = 0;
@@ -251,6 +265,23 @@ class Oracle : public TracesHeld {
     if (!is->isStopped) is->sweep();
   }
 
+  /// Scales under which the signals can be measured, and time for some records; perhaps of one
+  /// stop.
+  void recordForAWhile() {
+    busyUntil_ = late_ = lost_ = failing_ = 0;
+    if (!main.LinkOK) main.cmdRS232.press();
+    main.cbMath.choose(3);
+    for (Channel& channel : main.channels) {
+      channel.knob.turn(5 + below(5));
+      if (!channel.display.isChecked()) channel.display.toggle();
+    }
+    main.knobTime.turn(14 + below(6));
+    if (!main.tmDSO.enabled()) main.cmdStart.press();
+    run(below(12000));
+    if (oneIn(2)) main.cmdRunStop.press();
+    run(6000);
+  }
+
   void listActs() {
     const Lines often = partsOf(
         "cmdStart cmdRS232 cmdRunStop cmdTest cmdChannel1 cmdChannel2 cmdTime cmdTrig cmdFMeasure "
@@ -279,6 +310,7 @@ class Oracle : public TracesHeld {
         {1, [this] { moveCursor(); }},
         {1, [this] { trouble(); }},
         {1, [this] { busyUntil_ = late_ = lost_ = failing_ = 0; }},
+        {2, [this] { recordForAWhile(); }},
         {3, [this] { replug(); }},
         {1,
          [this] {
@@ -307,6 +339,7 @@ TEST(Oracle, WhatIsShownWithoutAMarkIsTrue) {
   const int seed = numberFrom("TRACEWELL_ORACLE_SEED", 1);
   Oracle oracle(static_cast<unsigned>(seed));
   while (oracle.actions < total) oracle.act();
+  oracle.lookBack();
   std::cout << "seed " << seed << ": " << oracle.actions << " actions, " << oracle.looks
             << " looks\n";
   for (const auto& [cause, seen] : oracle.violations)

@@ -24,6 +24,8 @@ struct TrueSweep {
   std::int64_t at = 0;
   /// By whoever turned the instrument's own knobs.
   bool isOfOwnPanel = false;
+  /// How often the instrument had been stopped before.
+  int stops = 0;
   /// How often each channel of it was sent.
   std::array<int, 2> sent{};
 
@@ -33,10 +35,15 @@ struct TrueSweep {
   double volts(std::size_t channel) const {
     return isMath(channel) ? std::nan("") : scales[channel];
   }
+  /// Hertz; in every other sweep both channels have the same.
+  double frequency(std::size_t channel) const {
+    return channel == 0 || number % 2 == 0 ? 1000 : 250;
+  }
+  /// Where the signal is at the trigger, in periods.
+  double turns(std::size_t channel) const { return (channel == 0 ? 0.37 : 0.11) * number; }
   double signal(std::size_t channel, int sample) const {
     const double time = (sample - 250) / 50.0 * seconds;
-    const double turns = channel == 0 ? 1000 * time + 0.37 * number : 250 * time + 0.11 * number;
-    return std::sin(2 * std::numbers::pi * turns);
+    return std::sin(2 * std::numbers::pi * (frequency(channel) * time + turns(channel)));
   }
   int counts(std::size_t channel, int sample) const {
     if (isMath(channel)) return static_cast<int>(30 * (signal(0, sample) + signal(1, sample)));

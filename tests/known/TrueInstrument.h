@@ -82,7 +82,7 @@ class TrueInstrument : public TrueTexts {
     const std::array scales = {channels[0].volts, channels[1].volts};
     sweep_ = history_.sweeps.size();
     history_.sweeps.push_back(
-        {static_cast<int>(sweep_), id, scales, seconds, math, now, isOfOwnPanel, {}});
+        {static_cast<int>(sweep_), id, scales, seconds, math, now, isOfOwnPanel, stops_, {}});
     hasChanged_ = false;
     if (mode == 0) level = history_.inTenths();
   }
@@ -125,7 +125,7 @@ class TrueInstrument : public TrueTexts {
     } else if (header == "STOP") {
       // It may sweep once more.
       if (!isStopped && isTriggered && below(2) == 0) sweep();
-      isStopped = true;
+      if (!std::exchange(isStopped, true)) ++stops_;
     } else if (header == "MEAS:SOUR") {
       measured_ = value == "2" ? 1 : 0;
     } else if (header == "AUT" || header == "*RST" || header == "SELF:TEST") {
@@ -174,6 +174,7 @@ class TrueInstrument : public TrueTexts {
 
   TrueHistory& history_;
   std::size_t sweep_ = 0;
+  int stops_ = 0;
   bool hasChanged_ = true;
   std::size_t measured_ = 0;
   /// What is answered as it was set.

@@ -58,7 +58,12 @@ TEST_F(RecordStoreTest, ASweepIsKeptOnceAndGapsAreTold) {
       {[&] { next.madeUnder.voltsPerDivision.reset(); }, {.hasOtherScales = true}},
       {[&] { next.madeUnder.stop = 5; }, {}},
       {[&] { next.madeUnder.stop.reset(); }, {.wasStopped = true}},
-      {[&] { ++next.line.openings; }, {.wasUnplugged = true}},
+      {[&] { next.madeUnder.stop = 6; }, {}},
+      {[&] {
+         ++next.line.openings;
+         next.madeUnder.stop.reset();
+       },
+       {.wasUnplugged = true}},
       {[&] {
          next.line = {34, 2};
        },
