@@ -40,16 +40,12 @@
         <translation>%1 en divisions : le calcul n'a pas de volts</translation>
     </message>
     <message>
-        <source>%1 records left out: their scales are not known</source>
-        <translation>%1 enregistrements omis : leurs échelles sont inconnues</translation>
+        <source>%1 records</source>
+        <translation>%1 enregistrements</translation>
     </message>
     <message>
-        <source>%1 rows lost</source>
-        <translation>%1 lignes perdues</translation>
-    </message>
-    <message>
-        <source>%1 rows wait: %2</source>
-        <translation>%1 lignes en attente : %2</translation>
+        <source>%1 rows</source>
+        <translation>lignes : %1</translation>
     </message>
     <message>
         <source>%1 was changed by another program, and that is kept as %2</source>
@@ -68,12 +64,16 @@
         <translation>%1 : %2 réglages sur %3 non confirmés</translation>
     </message>
     <message>
-        <source>%1: %2 records, %3 to %4</source>
-        <translation>%1 : %2 enregistrements, de %3 à %4</translation>
+        <source>%1: %2, %3 to %4</source>
+        <translation>%1 : %2, de %3 à %4</translation>
     </message>
     <message>
-        <source>%1: %2, %3 rows, %4</source>
-        <translation>%1 : %2, %3 lignes, %4</translation>
+        <source>%1: %2, %3, %4</source>
+        <translation>%1 : %2, %3, %4</translation>
+    </message>
+    <message>
+        <source>%1: earlier records under these scales: %2</source>
+        <translation>%1 : enregistrements antérieurs à ces échelles : %2</translation>
     </message>
     <message>
         <source>%1: given up</source>
@@ -116,10 +116,6 @@
         <translation>%1 : on ignore si l'enregistrement est à %2</translation>
     </message>
     <message>
-        <source>%1: only %2 earlier records under these scales</source>
-        <translation>%1 : seulement %2 enregistrements antérieurs à ces échelles</translation>
-    </message>
-    <message>
         <source>%1: question %2 of %3</source>
         <translation>%1 : question %2 sur %3</translation>
     </message>
@@ -150,6 +146,14 @@
     <message>
         <source>(%1 measured so far)</source>
         <translation>(%1 déjà mesurés)</translation>
+    </message>
+    <message>
+        <source>1 record</source>
+        <translation>1 enregistrement</translation>
+    </message>
+    <message>
+        <source>1 row</source>
+        <translation>1 ligne</translation>
     </message>
     <message>
         <source>100mV per division</source>
@@ -792,6 +796,10 @@
         <translation>Superpose ce qui est tracé aux courbes en direct, comme Charger</translation>
     </message>
     <message>
+        <source>Left out, with scales that are not known: %1</source>
+        <translation>Omis, car leurs échelles sont inconnues : %1</translation>
+    </message>
+    <message>
         <source>Let go</source>
         <translation>Libérer</translation>
     </message>
@@ -850,6 +858,10 @@
     <message>
         <source>Log</source>
         <translation>Journal</translation>
+    </message>
+    <message>
+        <source>Lost: %1</source>
+        <translation>Perdu : %1</translation>
     </message>
     <message>
         <source>Low level</source>
@@ -1272,6 +1284,10 @@
         <translation>Échantillons par enregistrement</translation>
     </message>
     <message>
+        <source>Save as a waveform set</source>
+        <translation>Sauvegarder comme forme d'onde</translation>
+    </message>
+    <message>
         <source>Save picture and data</source>
         <translation>Enregistrer l'image et les données</translation>
     </message>
@@ -1298,6 +1314,14 @@
     <message>
         <source>Saved waveforms</source>
         <translation>Courbes enregistrées</translation>
+    </message>
+    <message>
+        <source>Saves this record as a waveform set, which Load in the panel shows (Ctrl+S)</source>
+        <translation>Sauvegarde cet enregistrement comme forme d'onde, que le panneau peut charger (Ctrl+S)</translation>
+    </message>
+    <message>
+        <source>Save…</source>
+        <translation>Enregistrer…</translation>
     </message>
     <message>
         <source>Scales that are not the traces'</source>
@@ -1416,8 +1440,8 @@
         <translation>Le fichier de données</translation>
     </message>
     <message>
-        <source>The disk is full: %1 rows wait</source>
-        <translation>Le disque est plein : %1 lignes en attente</translation>
+        <source>The disk is full; waiting in memory: %1</source>
+        <translation>Le disque est plein ; en attente en mémoire : %1</translation>
     </message>
     <message>
         <source>The folder that is shown</source>
@@ -1446,6 +1470,10 @@
     <message>
         <source>The picture to save</source>
         <translation>L'image à enregistrer</translation>
+    </message>
+    <message>
+        <source>The picture's name must end in png, jpg, bmp, gif, pcx or tif</source>
+        <translation>Le nom de l'image doit finir par png, jpg, bmp, gif, pcx ou tif</translation>
     </message>
     <message>
         <source>The port in use</source>
@@ -1494,6 +1522,10 @@
     <message>
         <source>This record alone</source>
         <translation>Cet enregistrement seul</translation>
+    </message>
+    <message>
+        <source>This record is cut: a set needs a whole one</source>
+        <translation>Cet enregistrement est tronqué : il en faut un entier</translation>
     </message>
     <message>
         <source>This record may go with the others again</source>
@@ -1604,6 +1636,10 @@
         <translation>En attente de la réponse à %1</translation>
     </message>
     <message>
+        <source>Waiting in memory: %1. %2</source>
+        <translation>En attente en mémoire : %1. %2</translation>
+    </message>
+    <message>
         <source>What is drawn of the records</source>
         <translation>Ce qui est tracé des enregistrements</translation>
     </message>
@@ -1642,6 +1678,14 @@
     <message>
         <source>With the last %1</source>
         <translation>Avec les %1 derniers</translation>
+    </message>
+    <message>
+        <source>With the one before</source>
+        <translation>Avec le précédent</translation>
+    </message>
+    <message>
+        <source>Without CH%1, which is of another sweep</source>
+        <translation>Sans CH%1, qui est d'un autre balayage</translation>
     </message>
     <message>
         <source>Write the shown record to text.csv</source>

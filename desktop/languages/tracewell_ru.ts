@@ -40,16 +40,12 @@
         <translation>%1 в делениях: у математики нет вольт</translation>
     </message>
     <message>
-        <source>%1 records left out: their scales are not known</source>
-        <translation>Пропущено записей: %1, их масштабы неизвестны</translation>
+        <source>%1 records</source>
+        <translation>записей: %1</translation>
     </message>
     <message>
-        <source>%1 rows lost</source>
-        <translation>потеряно строк: %1</translation>
-    </message>
-    <message>
-        <source>%1 rows wait: %2</source>
-        <translation>Ожидает строк: %1. %2</translation>
+        <source>%1 rows</source>
+        <translation>строк: %1</translation>
     </message>
     <message>
         <source>%1 was changed by another program, and that is kept as %2</source>
@@ -68,12 +64,16 @@
         <translation>%1: не подтверждено настроек: %2 из %3</translation>
     </message>
     <message>
-        <source>%1: %2 records, %3 to %4</source>
-        <translation>%1: записей %2, с %3 до %4</translation>
+        <source>%1: %2, %3 to %4</source>
+        <translation>%1: %2, с %3 до %4</translation>
     </message>
     <message>
-        <source>%1: %2, %3 rows, %4</source>
-        <translation>%1: %2, строк %3, %4</translation>
+        <source>%1: %2, %3, %4</source>
+        <translation>%1: %2, %3, %4</translation>
+    </message>
+    <message>
+        <source>%1: earlier records under these scales: %2</source>
+        <translation>%1: прежних записей в этих масштабах: %2</translation>
     </message>
     <message>
         <source>%1: given up</source>
@@ -116,10 +116,6 @@
         <translation>%1: неизвестно, записано ли при %2</translation>
     </message>
     <message>
-        <source>%1: only %2 earlier records under these scales</source>
-        <translation>%1: прежних записей в этих масштабах только %2</translation>
-    </message>
-    <message>
         <source>%1: question %2 of %3</source>
         <translation>%1: запрос %2 из %3</translation>
     </message>
@@ -150,6 +146,14 @@
     <message>
         <source>(%1 measured so far)</source>
         <translation>(пока измерено %1)</translation>
+    </message>
+    <message>
+        <source>1 record</source>
+        <translation>1 запись</translation>
+    </message>
+    <message>
+        <source>1 row</source>
+        <translation>1 строка</translation>
     </message>
     <message>
         <source>100mV per division</source>
@@ -792,6 +796,10 @@
         <translation>Накладывает показанное на живые осциллограммы, как «Загрузить»</translation>
     </message>
     <message>
+        <source>Left out, with scales that are not known: %1</source>
+        <translation>Пропущено, так как масштабы неизвестны: %1</translation>
+    </message>
+    <message>
         <source>Let go</source>
         <translation>Отпустить</translation>
     </message>
@@ -850,6 +858,10 @@
     <message>
         <source>Log</source>
         <translation>Журнал</translation>
+    </message>
+    <message>
+        <source>Lost: %1</source>
+        <translation>Потеряно: %1</translation>
     </message>
     <message>
         <source>Low level</source>
@@ -1272,6 +1284,10 @@
         <translation>Число отсчётов в записи</translation>
     </message>
     <message>
+        <source>Save as a waveform set</source>
+        <translation>Сохранить как осциллограмму</translation>
+    </message>
+    <message>
         <source>Save picture and data</source>
         <translation>Сохранить рисунок и данные</translation>
     </message>
@@ -1298,6 +1314,14 @@
     <message>
         <source>Saved waveforms</source>
         <translation>Сохранённые осциллограммы</translation>
+    </message>
+    <message>
+        <source>Saves this record as a waveform set, which Load in the panel shows (Ctrl+S)</source>
+        <translation>Сохраняет эту запись как осциллограмму, которую может загрузить панель (Ctrl+S)</translation>
+    </message>
+    <message>
+        <source>Save…</source>
+        <translation>Сохранить…</translation>
     </message>
     <message>
         <source>Scales that are not the traces'</source>
@@ -1416,8 +1440,8 @@
         <translation>Файл данных</translation>
     </message>
     <message>
-        <source>The disk is full: %1 rows wait</source>
-        <translation>Диск заполнен: ожидает строк %1</translation>
+        <source>The disk is full; waiting in memory: %1</source>
+        <translation>Диск заполнен; ожидает в памяти: %1</translation>
     </message>
     <message>
         <source>The folder that is shown</source>
@@ -1446,6 +1470,10 @@
     <message>
         <source>The picture to save</source>
         <translation>Сохраняемый рисунок</translation>
+    </message>
+    <message>
+        <source>The picture's name must end in png, jpg, bmp, gif, pcx or tif</source>
+        <translation>Имя рисунка должно оканчиваться на png, jpg, bmp, gif, pcx или tif</translation>
     </message>
     <message>
         <source>The port in use</source>
@@ -1494,6 +1522,10 @@
     <message>
         <source>This record alone</source>
         <translation>Только эта запись</translation>
+    </message>
+    <message>
+        <source>This record is cut: a set needs a whole one</source>
+        <translation>Эта запись обрезана, а нужна целая</translation>
     </message>
     <message>
         <source>This record may go with the others again</source>
@@ -1604,6 +1636,10 @@
         <translation>Ожидание ответа на %1</translation>
     </message>
     <message>
+        <source>Waiting in memory: %1. %2</source>
+        <translation>Ожидает в памяти: %1. %2</translation>
+    </message>
+    <message>
         <source>What is drawn of the records</source>
         <translation>Что рисуется из записей</translation>
     </message>
@@ -1642,6 +1678,14 @@
     <message>
         <source>With the last %1</source>
         <translation>С последними: %1</translation>
+    </message>
+    <message>
+        <source>With the one before</source>
+        <translation>С предыдущей</translation>
+    </message>
+    <message>
+        <source>Without CH%1, which is of another sweep</source>
+        <translation>Без CH%1: другая развёртка</translation>
     </message>
     <message>
         <source>Write the shown record to text.csv</source>

@@ -5,6 +5,7 @@
 
 #include "Files.h"
 #include "Numbers.h"
+#include "RecorderWords.h"
 #include "WallTime.h"
 
 namespace tracewell {
@@ -78,14 +79,14 @@ std::string Recorder::logText(const Words& words) const {
   if (!log_) return "";
   const std::int64_t now = main_.services().clock.milliseconds();
   std::string text =
-      words.say("%1: %2, %3 rows, %4", {pathText(log_->path()), durationText(log_->duration(now)),
-                                        std::to_string(log_->rows()), sizeText(log_->bytes())});
+      words.say("%1: %2, %3, %4", {pathText(log_->path()), durationText(log_->duration(now)),
+                                   rowsText(words, log_->rows()), sizeText(log_->bytes())});
   if (!log_->trouble()) return text;
+  const std::string held = rowsText(words, log_->held());
   text += ". ";
-  text += log_->isDiskFull()
-              ? words.say("The disk is full: %1 rows wait", {std::to_string(log_->held())})
-              : words.say("%1 rows wait: %2", {std::to_string(log_->held()), *log_->trouble()});
-  if (log_->lost() > 0) text += ". " + words.say("%1 rows lost", {std::to_string(log_->lost())});
+  text += log_->isDiskFull() ? words.say("The disk is full; waiting in memory: %1", {held})
+                             : words.say("Waiting in memory: %1. %2", {held, *log_->trouble()});
+  if (log_->lost() > 0) text += ". " + words.say("Lost: %1", {rowsText(words, log_->lost())});
   return text;
 }
 
