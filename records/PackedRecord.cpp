@@ -6,14 +6,12 @@
 namespace tracewell {
 
 std::optional<PackedRecord> PackedRecord::of(std::string_view record) {
-  constexpr int widest = 0xFFF;
   if (record.size() != WaveformRecord::byteCount) return std::nullopt;
   const Samples samples = decodeSamples(record, 0);
-  const auto [lowest, highest] = std::ranges::minmax(samples);
-  if (highest - lowest > widest) return std::nullopt;
+  const int lowest = std::ranges::min(samples);
   PackedRecord packed;
   std::ranges::copy(record.substr(0, packed.header_.size()), packed.header_.begin());
-  packed.lowest_ = lowest;
+  packed.lowest_ = static_cast<std::int16_t>(lowest);
   auto out = packed.distances_.begin();
   for (std::size_t i = 0; i < samples.size(); i += 2) {
     const int first = samples[i] - lowest;
@@ -22,7 +20,7 @@ std::optional<PackedRecord> PackedRecord::of(std::string_view record) {
     *out++ = static_cast<std::uint8_t>(first >> 8 | (second & 0xF) << 4);
     *out++ = static_cast<std::uint8_t>(second >> 4);
   }
-  // Where a sample is missing its place has been taken by the one before.
+  // Not where a distance takes more bits, or a sample is missing and the one before has its place.
   return packed.bytes() == record ? std::optional(packed) : std::nullopt;
 }
 

@@ -51,9 +51,12 @@ TEST_F(RecordStoreTest, ComesBackToTheByteAndTakesNoMoreThanItMay) {
   const auto reaching = [](int lowest, int highest) {
     return makeRecord([=](int i) { return i % 3 ? lowest + i : highest; });
   };
-  const std::string records[] = {level(-32767),        reaching(-600, 3495),
-                                 reaching(-600, 3496), reaching(-32767, 9999),
-                                 reaching(-32768, 0),  level(9).substr(0, 77)};
+  const std::string records[] = {level(-32767),
+                                 reaching(-600, 3495),
+                                 reaching(-600, 3496),
+                                 reaching(-32767, 9999),
+                                 makeRecord([](int i) { return i == 9 ? -32768 : 5; }),
+                                 level(9).substr(0, 77)};
   const auto expectAll = [&](RecordStore::Number number) {
     for (const std::string& bytes : records) {
       EXPECT_EQ(store.record(number).bytes, bytes) << number;
