@@ -46,24 +46,19 @@ const RecordStore::Kept& RecordStore::at(Number number) const {
   return *kept;
 }
 
-RecordStore::Kept* RecordStore::newestKept(int channel) {
-  const auto newest = newestOf(channel);
-  return newest ? &slot(*newest) : nullptr;
-}
-
 std::optional<RecordStore::Number> RecordStore::keep(int channel, const ChannelRecord& record,
                                                      const Moment& moment) {
   if (record.bytes.empty()) return std::nullopt;
   const std::string_view bytes =
       std::string_view(record.bytes).substr(0, WaveformRecord::byteCount);
-  Kept* const before = newestKept(channel);
-  if (before != nullptr && before->facts.line == record.line &&
-      std::string_view(before->bytes.data(), before->length) == bytes) {
+  const auto newest = newestOf(channel);
+  RecordFacts* const before = newest ? &slot(*newest).facts : nullptr;
+  if (before != nullptr && before->line == record.line && bytesOf(*newest) == bytes) {
     // What it was made under stays what it was; behind which stop it is fetched may be new.
-    before->facts.madeUnder.stop = record.madeUnder.stop;
-    before->facts.fetchedAt = record.fetchedAt;
-    ++before->facts.fetches;
-    return newestOf(channel);
+    before->madeUnder.stop = record.madeUnder.stop;
+    before->fetchedAt = record.fetchedAt;
+    ++before->fetches;
+    return newest;
   }
   RecordFacts facts;
   facts.channel = channel;
@@ -76,33 +71,49 @@ std::optional<RecordStore::Number> RecordStore::keep(int channel, const ChannelR
   const auto [lowest, highest] = std::ranges::minmax(decodeSamples(bytes, 0));
   facts.lowest = lowest;
   facts.highest = highest;
-  if (before != nullptr) facts.gap = gapBetween(before->facts, facts);
+  if (before != nullptr) facts.gap = gapBetween(*before, facts);
   Kept& kept = slot(end_);
-  kept.facts = facts;
-  kept.length = static_cast<std::uint16_t>(bytes.size());
-  std::ranges::copy(bytes, kept.bytes.begin());
-  newest_.at(static_cast<std::size_t>(channel - 1)) = end_;
-  if (++end_ - first_ > static_cast<Number>(capacity)) ++first_;
+  kept = {facts, PackedRecord::of(bytes)};
+  if (!kept.packed) unpacked_.emplace(end_, bytes);
+  newest_.at(static_cast<std::size_t>(channel - 1)) = end_++;
+  forgetOldest();
   return end_ - 1;
 }
 
+void RecordStore::forgetOldest() {
+  first_ = std::max(first_, end_ - static_cast<Number>(capacity));
+  if (unpacked_.size() > mostUnpacked) first_ = std::max(first_, unpacked_.begin()->first + 1);
+  unpacked_.erase(unpacked_.begin(), unpacked_.lower_bound(first_));
+}
+
 std::size_t RecordStore::bytes() const {
-  return blocks_.size() * sizeof(*blocks_[0]) + pinned_.size() * sizeof(Pinned);
+  constexpr std::size_t ofUnpacked =
+      sizeof(decltype(unpacked_)::value_type) + WaveformRecord::byteCount;
+  return blocks_.size() * sizeof(*blocks_[0]) + unpacked_.size() * ofUnpacked +
+         pinned_.size() * sizeof(Pinned);
 }
 
 const RecordFacts& RecordStore::facts(Number number) const {
   return at(number).facts;
 }
 
-std::string_view RecordStore::bytesOf(Number number) const {
-  const Kept& kept = at(number);
-  return {kept.bytes.data(), kept.length};
+const std::string& RecordStore::unpacked(Number number) const {
+  return number >= first_ ? unpacked_.at(number) : pinned_.at(number).unpacked;
+}
+
+Samples RecordStore::samples(Number number) const {
+  const auto& packed = at(number).packed;
+  return packed ? packed->samples() : decodeSamples(unpacked(number), 0);
+}
+
+std::string RecordStore::bytesOf(Number number) const {
+  const auto& packed = at(number).packed;
+  return packed ? packed->bytes() : unpacked(number);
 }
 
 ChannelRecord RecordStore::record(Number number) const {
   const RecordFacts& known = facts(number);
-  return {std::string(bytesOf(number)), known.line, known.madeUnder, known.sweepAt,
-          known.fetchedAt};
+  return {bytesOf(number), known.line, known.madeUnder, known.sweepAt, known.fetchedAt};
 }
 
 /// One that has fallen out of the ring is none.
@@ -147,7 +158,8 @@ bool RecordStore::pin(Number number, std::string name) {
   }
   const Kept* const kept = find(number);
   if (kept == nullptr || pinned_.size() >= mostPinned) return false;
-  pinned_.emplace(number, Pinned{std::move(name), *kept});
+  const std::string bytes = kept->packed ? std::string() : unpacked(number);
+  pinned_.emplace(number, Pinned{std::move(name), *kept, bytes});
   return true;
 }
 

@@ -7,10 +7,10 @@
 #include <memory>
 #include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "ChannelRecord.h"
+#include "PackedRecord.h"
 #include "WaveformRecord.h"
 
 namespace tracewell {
@@ -56,7 +56,7 @@ struct RecordFacts {
 };
 
 /// The last records of both channels in their order, and those that have been pinned. Memory grows
-/// in blocks up to the capacity, 11 MB, and no further; what it costs to keep a record does not
+/// in blocks up to the capacity, 9 MB, and no further; what it costs to keep a record does not
 /// depend on how many there are.
 class RecordStore {
  public:
@@ -64,6 +64,9 @@ class RecordStore {
   /// Milliseconds; two channels at the lowest rate take less.
   static constexpr std::int64_t longestPause = 5000;
   static constexpr std::size_t mostPinned = 1000;
+  /// Of records that cannot be packed, which no converter makes, so many: those before the first of
+  /// more go.
+  static constexpr std::size_t mostUnpacked = 500;
   /// Counts the records from 0 on, for ever.
   using Number = std::int64_t;
 
@@ -84,10 +87,11 @@ class RecordStore {
   /// How much memory the records take.
   std::size_t bytes() const;
 
-  /// Raise "Subscript out of range" for one that is not kept. What they refer to lasts until the
-  /// next record is kept.
+  /// Raise "Subscript out of range" for one that is not kept. What facts() refers to lasts until
+  /// the next record is kept.
   const RecordFacts& facts(Number number) const;
-  std::string_view bytesOf(Number number) const;
+  /// Of one that is cut as decodeSamples has it.
+  Samples samples(Number number) const;
   /// For measurements, the graph and files.
   ChannelRecord record(Number number) const;
 
@@ -109,25 +113,29 @@ class RecordStore {
  private:
   struct Kept {
     RecordFacts facts;
-    std::uint16_t length = 0;
-    std::array<char, WaveformRecord::byteCount> bytes;
+    /// None for one that is in unpacked_, or beside a pinned one.
+    std::optional<PackedRecord> packed;
   };
   struct Pinned {
     std::string name;
     Kept kept;
+    std::string unpacked;
   };
   static constexpr std::size_t blockSize = 250;
 
   Kept& slot(Number number);
   const Kept* find(Number number) const;
   const Kept& at(Number number) const;
-  Kept* newestKept(int channel);
+  std::string bytesOf(Number number) const;
+  const std::string& unpacked(Number number) const;
+  void forgetOldest();
 
   /// A ring: number n is in place n % capacity.
   std::vector<std::unique_ptr<std::array<Kept, blockSize>>> blocks_;
   Number first_ = 0;
   Number end_ = 0;
   std::array<std::optional<Number>, 2> newest_;
+  std::map<Number, std::string> unpacked_;
   std::map<Number, Pinned> pinned_;
 };
 

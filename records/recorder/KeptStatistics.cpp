@@ -15,16 +15,15 @@ std::size_t placeOf(RecordStore::Number number) {
 }  // namespace
 
 bool KeptStatistics::work(int most) {
+  if (measured_.empty()) measured_.resize(RecordStore::capacity);
   next_ = std::max(next_, store_.first());
   for (; most > 0 && next_ < store_.end(); --most, ++next_) {
-    const std::size_t place = placeOf(next_);
-    if (place >= measured_.size()) measured_.resize(place + 1);
-    Measured& measured = measured_[place];
+    Measured& measured = measured_[placeOf(next_)];
     measured.channel = store_.facts(next_).channel;
     const OwnMeasurements values = measure(store_.record(next_));
     for (std::size_t i = 0; i < ofOneRecord; ++i)
-      measured.values.at(i) =
-          values[static_cast<Quantity>(i)].value.value_or(std::numeric_limits<double>::quiet_NaN());
+      measured.values.at(i) = static_cast<float>(values[static_cast<Quantity>(i)].value.value_or(
+          std::numeric_limits<double>::quiet_NaN()));
   }
   return next_ < store_.end();
 }
@@ -43,7 +42,7 @@ KeptStatistics::Result KeptStatistics::over(const Stretch& stretch, Quantity qua
     if (!isMeasured) continue;
     ++result.measured;
     if (index >= ofOneRecord) continue;
-    const double value = measured_[placeOf(number)].values.at(index);
+    const float value = measured_[placeOf(number)].values.at(index);
     if (!std::isnan(value)) result.values.add(OwnValue::of(value));
   }
   return result;

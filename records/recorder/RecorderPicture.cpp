@@ -89,7 +89,7 @@ class TraceCurves {
     const std::size_t count =
         choice.hasEnvelope || choice.hasMean || choice.isFading ? drawn.numbers.size() : 1;
     for (std::size_t i = 0; i < count; ++i)
-      records_.push_back(inDivisions(decodeSamples(store.bytesOf(drawn.numbers[i]), 0)));
+      records_.push_back(inDivisions(store.samples(drawn.numbers[i])));
     together_ = together(records_);
   }
 
@@ -191,7 +191,7 @@ RecorderPicture xyPicture(const RecordStore& store, std::span<const DrawnRecords
     const RecordStore::Number number = drawn.numbers[0];
     const auto volts = store.facts(number).madeUnder.voltsPerDivision;
     std::vector<double>& own = values.at(indexOf(drawn.channel));
-    own = inDivisions(decodeSamples(store.bytesOf(number), 0));
+    own = inDivisions(store.samples(number));
     const RecorderAxis axis = axisOf(volts, "V", divisionsNeeded({own, own, own}));
     picture.voltsPerDivision.at(indexOf(drawn.channel)) = volts;
     scaleBy(own, volts.value_or(1));

@@ -34,17 +34,50 @@ TEST_F(RecordStoreTest, TheLastOnesAreKeptAndThePinnedOnesBeyondThem) {
   for (int i = 1; i <= 10000; ++i) keep(1 + i % 2, i % 20000);
   EXPECT_EQ(store.size(), RecordStore::capacity);
   EXPECT_EQ(store.first(), 1);
-  EXPECT_EQ(store.bytesOf(0), level(7));
+  EXPECT_EQ(store.record(0).bytes, level(7));
   EXPECT_EQ(store.record(10000).bytes, level(10000));
   EXPECT_EQ(store.facts(10000).highest, 10001);
   EXPECT_EQ(store.firstSince(store.facts(4000).sweepAt - 1), 4000);
   const std::size_t whole = store.bytes();
   for (int i = 0; i < 1000; ++i) keep(1, i);
   EXPECT_EQ(store.bytes(), whole);
-  EXPECT_LT(whole, 12'000'000U);
   EXPECT_EQ(store.newestOf(2), 10000 - 1);
   store.letGo(0);
   EXPECT_THROW(store.facts(0), Error);
+}
+
+/// Packed or not; and whatever comes, all of it takes no more than 10 MB.
+TEST_F(RecordStoreTest, ComesBackToTheByteAndTakesNoMoreThanItMay) {
+  const auto reaching = [](int lowest, int highest) {
+    return makeRecord([=](int i) { return i % 3 ? lowest + i : highest; });
+  };
+  const std::string records[] = {level(-32767),
+                                 reaching(-600, 3495),
+                                 reaching(-600, 3496),
+                                 reaching(-32767, 9999),
+                                 makeRecord([](int i) { return i == 9 ? -32768 : 5; }),
+                                 level(9).substr(0, 77)};
+  const auto expectAll = [&](RecordStore::Number number) {
+    for (const std::string& bytes : records) {
+      EXPECT_EQ(store.record(number).bytes, bytes) << number;
+      EXPECT_EQ(store.samples(number++), decodeSamples(bytes, 0)) << number;
+    }
+  };
+  for (const std::string& bytes : records) {
+    next.bytes = bytes;
+    store.pin(*store.keep(1, next, {}), "pinned");
+  }
+  expectAll(0);
+  for (int i = 0; i < 10000; ++i) keep(1, i);
+  expectAll(0);
+  for (int i = 0; i < 700; ++i) {
+    next.bytes = reaching(i, 30000);
+    store.keep(2, next, {});
+  }
+  EXPECT_EQ(store.size(), RecordStore::mostUnpacked);
+  EXPECT_EQ(store.record(store.end() - 1).bytes, next.bytes);
+  for (RecordStore::Number number = 0; number < 6; ++number) store.letGo(number);
+  EXPECT_LT(store.bytes(), 10'000'000U);
 }
 
 TEST_F(RecordStoreTest, ASweepIsKeptOnceAndGapsAreTold) {
