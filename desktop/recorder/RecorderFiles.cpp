@@ -74,7 +74,7 @@ QString saveAsSet(Recorder& recorder, const RecorderView& view, const RecorderLo
   const auto format = pictureFormatOf(pathText(path));
   if (!format) return panelText("The picture's name must end in png, jpg, bmp, gif, pcx or tif");
   for (const auto& number : numbers)
-    if (number && recorder.store().bytesOf(*number).size() < WaveformRecord::byteCount)
+    if (number && recorder.store().record(*number).bytes.size() < WaveformRecord::byteCount)
       return panelText("This record is cut: a set needs a whole one");
   const Services& services = recorder.main().services();
   const WaveformSet set = setOfRecords(recorder.main(), recorder.store(), numbers, services.words);
