@@ -168,6 +168,7 @@ void RecordingRun::take(int channel, const ChannelRecord& record) {
 void RecordingRun::tellTrouble() {
   const std::string trouble = output_.trouble().value_or("");
   if (!trouble.empty() && trouble != trouble_) told_.message(trouble + "; rows are held");
+  if (trouble.empty() && !trouble_.empty()) told_.message("Rows are written again");
   trouble_ = trouble;
 }
 

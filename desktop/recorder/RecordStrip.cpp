@@ -103,7 +103,7 @@ void RecordStrip::paintPins(QPainter& painter, const std::vector<RecordTimeline:
     const int column = pins[first].column;
     while (end < pins.size() && pins[end].column < column + distance) ++end;
     painter.drawEllipse(QPointF(column + 0.5, topRoom / 2.0), 3.0, 3.0);
-    const int left = column + 6;
+    const int left = column + 8;
     const int room = (end < pins.size() ? pins[end].column - distance : width()) - left;
     const QString name = end - first == 1 ? shownText(pins[first].name, Room{.characters = 20})
                                           : QStringLiteral("×%1").arg(end - first);

@@ -73,6 +73,7 @@ void RecorderWindow::layOut() {
   states->addWidget(logState_, 1);
   for (ElidedLabel* label : {status_, logState_}) label->setProperty("status", true);
   status_->setObjectName(QStringLiteral("recorderStatus"));
+  status_->hide();
   logState_->setObjectName(QStringLiteral("logState"));
   rows->addLayout(states);
 }
@@ -265,6 +266,8 @@ void RecorderWindow::showLog() {
 void RecorderWindow::say(const QString& text) {
   status_->setText(text);
   status_->setToolTip(text);
+  // The state of the log has the room then.
+  status_->setVisible(!text.isEmpty());
 }
 
 void RecorderWindow::run(const std::function<void()>& act) {

@@ -298,8 +298,7 @@ TEST_F(RecorderTest, ARecordIsSavedAsTheSaveWindowSavesTheTrace) {
   RecorderView view(recorder.store(), words);
   WaveformSet set = setOfRecords(main, recorder.store(), view.saved(), words);
   EXPECT_TRUE(set.description.starts_with("as found; CH1 ")) << set.description;
-  EXPECT_TRUE(set.description.ends_with(", 500.0 mV/div, s/div not known, SIMULATED"))
-      << set.description;
+  EXPECT_NE(set.description.find(", 500.0 mV/div, "), std::string::npos) << set.description;
   set.description.clear();
   EXPECT_EQ(BuildCsvText(set), contentOf(folder.path() / "old.csv"));
   EXPECT_EQ(buildInfText(set, pathText(old)), contentOf(folder.path() / "old.inf"));
