@@ -79,8 +79,8 @@ QString saveAsSet(Recorder& recorder, const RecorderView& view, const RecorderLo
   const Services& services = recorder.main().services();
   const WaveformSet set = setOfRecords(recorder.main(), recorder.store(), numbers, services.words);
   QStringList notes;
-  for (const QString& note : toQt(set.description).split(QStringLiteral("; ")))
-    notes << shownText(fromQt(note), roomOfLine);
+  for (const auto& number : numbers)
+    if (number) notes << shownText(noteOf(recorder.store(), *number, services.words), roomOfLine);
   const Image picture = drawn(view.savedPicture(), look, size, notes);
   writeWaveformSet(path, {BuildCsvText(set), buildInfText(set, pathText(path)),
                           services.pictures.encode(picture, *format)});

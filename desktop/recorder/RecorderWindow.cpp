@@ -73,7 +73,9 @@ void RecorderWindow::layOut() {
   states->addWidget(logState_, 1);
   for (ElidedLabel* label : {status_, logState_}) label->setProperty("status", true);
   status_->setObjectName(QStringLiteral("recorderStatus"));
-  status_->hide();
+  // Each has the whole line while the other one is silent.
+  states->addStrut(status_->sizeHint().height());
+  for (ElidedLabel* label : {status_, logState_}) label->hide();
   logState_->setObjectName(QStringLiteral("logState"));
   rows->addLayout(states);
 }
@@ -261,12 +263,12 @@ void RecorderWindow::showLog() {
   logState_->setSentences(shown.isEmpty() ? std::vector<ElidedLabel::Sentence>()
                                           : std::vector<ElidedLabel::Sentence>{{shown, isTrouble}});
   logState_->setToolTip(logState_->text());
+  logState_->setVisible(!shown.isEmpty());
 }
 
 void RecorderWindow::say(const QString& text) {
   status_->setText(text);
   status_->setToolTip(text);
-  // The state of the log has the room then.
   status_->setVisible(!text.isEmpty());
 }
 

@@ -18,11 +18,14 @@ std::string pinNameOf(const RecordStore& store, RecordStore::Number number) {
   return "";
 }
 
-void add(std::string& text, const std::string& part) {
-  if (!part.empty()) text += (text.empty() ? "" : "; ") + part;
-}
-
 }  // namespace
+
+std::string noteOf(const RecordStore& store, RecordStore::Number number, const Words& words) {
+  const RecordFacts& facts = store.facts(number);
+  const std::string name = pinNameOf(store, number);
+  return name + (name.empty() ? "" : "; ") + channelName(facts.channel) + " " +
+         isoTime(facts.wallTime) + ", " + circumstances(words, facts);
+}
 
 WaveformSet setOfRecords(const frmDSO& main, const RecordStore& store, const RecordsOfSet& numbers,
                          const Words& words) {
@@ -32,10 +35,7 @@ WaveformSet setOfRecords(const frmDSO& main, const RecordStore& store, const Rec
     const auto number = numbers.at(channel.index());
     if (!number) continue;
     ChannelRecord record = store.record(*number);
-    const RecordFacts& facts = store.facts(*number);
-    add(set.description, pinNameOf(store, *number));
-    add(set.description, channelName(channel.number) + " " + isoTime(facts.wallTime) + ", " +
-                             circumstances(words, facts));
+    set.description += (set.description.empty() ? "" : "; ") + noteOf(store, *number, words);
     set.traces.at(channel.index()) = {std::move(record.bytes), channel.slide.value(),
                                       captionOfVolts(record.madeUnder.voltsPerDivision)};
   }

@@ -21,6 +21,9 @@ using RecordsOfSet = std::array<std::optional<RecordStore::Number>, 2>;
 WaveformSet setOfRecords(const frmDSO& main, const RecordStore& store, const RecordsOfSet& numbers,
                          const Words& words);
 
+/// "as found; CH1 2026-03-15T14:29:05.250+01:00, 500.0 mV/div, 1.000 ms/div"
+std::string noteOf(const RecordStore& store, RecordStore::Number number, const Words& words);
+
 /// "record-20260315-142905.png", by the time of the first of them.
 std::string nameOfSet(const RecordStore& store, const RecordsOfSet& numbers);
 
