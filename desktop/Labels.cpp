@@ -24,7 +24,7 @@ std::vector<ElidedLabel::Sentence> shownSentences(const ValueLabel& control) {
   std::vector<ElidedLabel::Sentence> shown;
   for (const ValueLabel::Sentence& sentence : control.sentences)
     shown.push_back({shownText(sentence.text, roomOfLine), sentence.isWarning});
-  if (shown.empty()) shown.push_back({shownText(control.caption(), roomOfLine), control.isWarning});
+  if (shown.empty()) shown.push_back({shownText(control.caption(), roomOfLine), false});
   return shown;
 }
 

@@ -3,6 +3,7 @@
 
 #include "Bench.h"
 #include "Files.h"
+#include "ShownTexts.h"
 
 namespace tracewell {
 
@@ -99,8 +100,8 @@ TEST_F(SetupFilesTest, WhatCouldNotBeTakenWholeIsKept) {
     // At the start, and when the user loads it; written by its whole path, and by its bare name.
     dialogs.pickedFile = i % 2 == 0 ? "default.dso" : setup;
     i % 2 == 0 ? program.setupFiles.ReadSetupFile(setup) : main.mnbLoadSetup.choose();
-    EXPECT_EQ(main.lblNotice.caption(),
-              "default.dso could not be read whole and will be kept as " + name);
+    EXPECT_EQ(textOf(main.lblNotice),
+              "! default.dso could not be read whole and will be kept as " + name);
     EXPECT_TRUE(main.lblNotice.visible());
     main.mnbSaveSetup.choose();
     EXPECT_FALSE(main.lblNotice.visible());
