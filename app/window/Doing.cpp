@@ -1,0 +1,10 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Doing.h"
+
+namespace tracewell {
+
+StatusLine::Sentence sayPaused(const Property<std::string>& caption) {
+  return [&caption](const Words& words) { return words.say("Traces paused for %1", {caption()}); };
+}
+
+}  // namespace tracewell
