@@ -71,7 +71,11 @@ void CommandExchange::noteAnswered(const std::string& query, const std::string& 
 }
 
 void CommandExchange::lookForDoubts() {
-  const LineReport::Doubt doubt = main_.services().port.report().doubt;
+  const LineReport report = main_.services().port.report();
+  const bool isLost = !report.failure.empty();
+  if (isLost && !std::exchange(isLossSeen_, isLost)) lineLost.raise();
+  isLossSeen_ = isLost;
+  const LineReport::Doubt& doubt = report.doubt;
   if (std::exchange(doubtsSeen_, doubt.times) == doubt.times) return;
   for (const Answer& answer : answers_)
     if (answer.at >= doubt.firstAnswerAt && answer.at <= doubt.lastAnswerAt + handingOver)

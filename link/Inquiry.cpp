@@ -59,6 +59,7 @@ void Inquiry::showMissed() {
 void Inquiry::next() {
   finishItem();
   ++item_;
+  missedBefore_ = missing_;
   showProgress();
 }
 
@@ -70,6 +71,13 @@ std::string Inquiry::progress(const Words& words) const {
   if (items_ == Of::oneQuestion) return words.say("Waiting for the answer to %1", {name_()});
   const std::string item = std::to_string(item_);
   const std::string count = std::to_string(count_);
+  if (missedBefore_ > 0) {
+    const std::string missing = std::to_string(missedBefore_);
+    return items_ == Of::questions ? words.say("%1: question %2 of %3, %4 not answered",
+                                               {name_(), item, count, missing})
+                                   : words.say("%1: setting %2 of %3, %4 not confirmed",
+                                               {name_(), item, count, missing});
+  }
   return items_ == Of::questions ? words.say("%1: question %2 of %3", {name_(), item, count})
                                  : words.say("%1: setting %2 of %3", {name_(), item, count});
 }

@@ -1,13 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "SettingsDialog.h"
 
+#include <optional>
 #include <utility>
+
+#include "Doing.h"
 
 namespace tracewell {
 
 SettingsDialog::SettingsDialog(std::string name, std::string captionText, frmDSO& main,
                                Acquisition& acquisition)
-    : Window(std::move(name), std::move(captionText), main.services()), acquisition_(acquisition) {}
+    : Window(std::move(name), std::move(captionText), main.services()),
+      main_(main),
+      acquisition_(acquisition) {}
 
 void SettingsDialog::doubtAnswers() {
   if (isVisible()) unanswered_.doubtAll();
@@ -16,9 +21,14 @@ void SettingsDialog::doubtAnswers() {
 void SettingsDialog::edit(Fetching fetching, const Step& fill, const Step& send) {
   // Otherwise it would send what was chosen the time before.
   if (isVisible()) return;
+  const auto say = fetching == Fetching::stops ? sayPaused : sayBusy;
+  std::optional<Doing> doing;
+  doing.emplace(main_, say(caption));
   if (fetching == Fetching::stops) acquisition_.StopAcq();
   fill();
+  if (fetching == Fetching::goesOn) doing.reset();
   showModal();
+  if (fetching == Fetching::goesOn) doing.emplace(main_, say(caption));
   if (outcome == Outcome::accepted) send();
   acquisition_.runAcquisition();
 }

@@ -10,7 +10,6 @@ namespace tracewell {
 frmAcq::frmAcq(frmDSO& main, CommandExchange& exchange, ErrorLog& errorLog,
                Acquisition& acquisition, Captions& captions)
     : SettingsDialog("frmAcq", "Acquisition", main, acquisition),
-      main_(main),
       exchange_(exchange),
       errorLog_(errorLog),
       captions_(captions) {

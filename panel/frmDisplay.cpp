@@ -23,7 +23,6 @@ constexpr int column(std::size_t value) {
 frmDisplay::frmDisplay(frmDSO& main, CommandExchange& exchange, ErrorLog& errorLog,
                        Acquisition& acquisition, SettingsBurst& burst)
     : SettingsDialog("frmDisplay", "Display Setup", main, acquisition),
-      main_(main),
       exchange_(exchange),
       errorLog_(errorLog),
       burst_(burst) {

@@ -10,10 +10,7 @@ namespace tracewell {
 
 frmTrig::frmTrig(frmDSO& main, CommandExchange& exchange, Acquisition& acquisition,
                  SettingsBurst& burst)
-    : SettingsDialog("frmTrig", "Trigger", main, acquisition),
-      main_(main),
-      exchange_(exchange),
-      burst_(burst) {
+    : SettingsDialog("frmTrig", "Trigger", main, acquisition), exchange_(exchange), burst_(burst) {
   cbTrig(0).items = {"1", "2", "EXT", "Line"};
   cbTrig(1).items = {"Auto Level", "Auto", "Normal", "Single"};
   cbTrig(2).items = {"+", "-"};

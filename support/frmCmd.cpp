@@ -34,7 +34,7 @@ frmCmd::frmCmd(frmDSO& main, ErrorLog& errorLog, Acquisition& acquisition, Comma
 }
 
 void frmCmd::cmdDSOcmd_Click() {
-  const Paused paused(main_, acquisition_);
+  const Paused paused(main_, acquisition_, caption);
   main_.refresh();
   showModal();
 }

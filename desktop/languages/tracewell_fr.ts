@@ -120,6 +120,10 @@
         <translation>%1 : question %2 sur %3</translation>
     </message>
     <message>
+        <source>%1: question %2 of %3, %4 not answered</source>
+        <translation>%1 : question %2 sur %3, %4 sans réponse</translation>
+    </message>
+    <message>
         <source>%1: recorded at %2, not at %3</source>
         <translation>%1 : enregistrée à %2, et non à %3</translation>
     </message>
@@ -132,12 +136,20 @@
         <translation>%1 : réglage %2 sur %3</translation>
     </message>
     <message>
+        <source>%1: setting %2 of %3, %4 not confirmed</source>
+        <translation>%1 : réglage %2 sur %3, %4 non confirmés</translation>
+    </message>
+    <message>
         <source>%1: unchanged for %2 min</source>
         <translation>%1 : inchangée depuis %2 min</translation>
     </message>
     <message>
         <source>%1: unchanged for %2 s</source>
         <translation>%1 : inchangée depuis %2 s</translation>
+    </message>
+    <message>
+        <source>%1: wait until the autoset is over</source>
+        <translation>%1 : attendez la fin du réglage automatique</translation>
     </message>
     <message>
         <source>%1: wait until the settings have been sent</source>
@@ -1024,6 +1036,10 @@
         <translation>Pas de réponse à %1</translation>
     </message>
     <message>
+        <source>No answer to the last %1 questions</source>
+        <translation>Pas de réponse aux %1 dernières questions</translation>
+    </message>
+    <message>
         <source>No cursors</source>
         <translation>Sans curseurs</translation>
     </message>
@@ -1436,6 +1452,14 @@
         <translation>Les colonnes du journal</translation>
     </message>
     <message>
+        <source>The connection is lost</source>
+        <translation>La liaison est perdue</translation>
+    </message>
+    <message>
+        <source>The connection is lost: %1</source>
+        <translation>La liaison est perdue : %1</translation>
+    </message>
+    <message>
         <source>The data file</source>
         <translation>Le fichier de données</translation>
     </message>
@@ -1454,6 +1478,10 @@
     <message>
         <source>The instrument is being read</source>
         <translation>Lecture de l'instrument en cours</translation>
+    </message>
+    <message>
+        <source>The instrument is busy: %1</source>
+        <translation>L'instrument est occupé : %1</translation>
     </message>
     <message>
         <source>The instrument is stopped: press %1</source>
@@ -1574,6 +1602,10 @@
     <message>
         <source>Traces</source>
         <translation>Traces</translation>
+    </message>
+    <message>
+        <source>Traces paused for %1</source>
+        <translation>Courbes en pause : %1</translation>
     </message>
     <message>
         <source>Traces: drag the cursors, or move them with the arrow keys; C changes the cursor. Double click or E: larger, Escape: back</source>

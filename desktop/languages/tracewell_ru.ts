@@ -120,6 +120,10 @@
         <translation>%1: запрос %2 из %3</translation>
     </message>
     <message>
+        <source>%1: question %2 of %3, %4 not answered</source>
+        <translation>%1: запрос %2 из %3, без ответа: %4</translation>
+    </message>
+    <message>
         <source>%1: recorded at %2, not at %3</source>
         <translation>%1: записано при %2, а не при %3</translation>
     </message>
@@ -132,12 +136,20 @@
         <translation>%1: настройка %2 из %3</translation>
     </message>
     <message>
+        <source>%1: setting %2 of %3, %4 not confirmed</source>
+        <translation>%1: настройка %2 из %3, не подтверждено: %4</translation>
+    </message>
+    <message>
         <source>%1: unchanged for %2 min</source>
         <translation>%1: без изменений %2 мин</translation>
     </message>
     <message>
         <source>%1: unchanged for %2 s</source>
         <translation>%1: без изменений %2 с</translation>
+    </message>
+    <message>
+        <source>%1: wait until the autoset is over</source>
+        <translation>%1: подождите, пока закончится автонастройка</translation>
     </message>
     <message>
         <source>%1: wait until the settings have been sent</source>
@@ -1024,6 +1036,10 @@
         <translation>Нет ответа на %1</translation>
     </message>
     <message>
+        <source>No answer to the last %1 questions</source>
+        <translation>Нет ответа на последние запросы: %1</translation>
+    </message>
+    <message>
         <source>No cursors</source>
         <translation>Без курсоров</translation>
     </message>
@@ -1436,6 +1452,14 @@
         <translation>Столбцы журнала</translation>
     </message>
     <message>
+        <source>The connection is lost</source>
+        <translation>Связь потеряна</translation>
+    </message>
+    <message>
+        <source>The connection is lost: %1</source>
+        <translation>Связь потеряна: %1</translation>
+    </message>
+    <message>
         <source>The data file</source>
         <translation>Файл данных</translation>
     </message>
@@ -1454,6 +1478,10 @@
     <message>
         <source>The instrument is being read</source>
         <translation>Идёт чтение прибора</translation>
+    </message>
+    <message>
+        <source>The instrument is busy: %1</source>
+        <translation>Прибор занят: %1</translation>
     </message>
     <message>
         <source>The instrument is stopped: press %1</source>
@@ -1574,6 +1602,10 @@
     <message>
         <source>Traces</source>
         <translation>Осциллограммы</translation>
+    </message>
+    <message>
+        <source>Traces paused for %1</source>
+        <translation>Кривые на паузе: %1</translation>
     </message>
     <message>
         <source>Traces: drag the cursors, or move them with the arrow keys; C changes the cursor. Double click or E: larger, Escape: back</source>

@@ -120,6 +120,10 @@
         <translation>%1：第 %2 个查询，共 %3 个</translation>
     </message>
     <message>
+        <source>%1: question %2 of %3, %4 not answered</source>
+        <translation>%1：第 %2 个查询，共 %3 个，%4 个无应答</translation>
+    </message>
+    <message>
         <source>%1: recorded at %2, not at %3</source>
         <translation>%1：在 %2 下记录，而非 %3</translation>
     </message>
@@ -132,12 +136,20 @@
         <translation>%1：第 %2 项设置，共 %3 项</translation>
     </message>
     <message>
+        <source>%1: setting %2 of %3, %4 not confirmed</source>
+        <translation>%1：第 %2 项设置，共 %3 项，%4 项未确认</translation>
+    </message>
+    <message>
         <source>%1: unchanged for %2 min</source>
         <translation>%1：%2 分钟未变</translation>
     </message>
     <message>
         <source>%1: unchanged for %2 s</source>
         <translation>%1：%2 秒未变</translation>
+    </message>
+    <message>
+        <source>%1: wait until the autoset is over</source>
+        <translation>%1：请等待自动设置结束</translation>
     </message>
     <message>
         <source>%1: wait until the settings have been sent</source>
@@ -1024,6 +1036,10 @@
         <translation>%1 无应答</translation>
     </message>
     <message>
+        <source>No answer to the last %1 questions</source>
+        <translation>最近 %1 个查询无应答</translation>
+    </message>
+    <message>
         <source>No cursors</source>
         <translation>无光标</translation>
     </message>
@@ -1436,6 +1452,14 @@
         <translation>日志的列</translation>
     </message>
     <message>
+        <source>The connection is lost</source>
+        <translation>连接已中断</translation>
+    </message>
+    <message>
+        <source>The connection is lost: %1</source>
+        <translation>连接已中断：%1</translation>
+    </message>
+    <message>
         <source>The data file</source>
         <translation>数据文件</translation>
     </message>
@@ -1454,6 +1478,10 @@
     <message>
         <source>The instrument is being read</source>
         <translation>正在读取仪器</translation>
+    </message>
+    <message>
+        <source>The instrument is busy: %1</source>
+        <translation>仪器正忙：%1</translation>
     </message>
     <message>
         <source>The instrument is stopped: press %1</source>
@@ -1574,6 +1602,10 @@
     <message>
         <source>Traces</source>
         <translation>波形</translation>
+    </message>
+    <message>
+        <source>Traces paused for %1</source>
+        <translation>曲线暂停：%1</translation>
     </message>
     <message>
         <source>Traces: drag the cursors, or move them with the arrow keys; C changes the cursor. Double click or E: larger, Escape: back</source>

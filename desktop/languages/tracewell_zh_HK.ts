@@ -120,6 +120,10 @@
         <translation>%1：第 %2 個查詢，共 %3 個</translation>
     </message>
     <message>
+        <source>%1: question %2 of %3, %4 not answered</source>
+        <translation>%1：第 %2 個查詢，共 %3 個，%4 個冇回應</translation>
+    </message>
+    <message>
         <source>%1: recorded at %2, not at %3</source>
         <translation>%1：用 %2 記錄，唔係 %3</translation>
     </message>
@@ -132,12 +136,20 @@
         <translation>%1：第 %2 項設定，共 %3 項</translation>
     </message>
     <message>
+        <source>%1: setting %2 of %3, %4 not confirmed</source>
+        <translation>%1：第 %2 項設定，共 %3 項，%4 項未確認</translation>
+    </message>
+    <message>
         <source>%1: unchanged for %2 min</source>
         <translation>%1：%2 分鐘無變化</translation>
     </message>
     <message>
         <source>%1: unchanged for %2 s</source>
         <translation>%1：%2 秒無變化</translation>
+    </message>
+    <message>
+        <source>%1: wait until the autoset is over</source>
+        <translation>%1：請等自動設定完成</translation>
     </message>
     <message>
         <source>%1: wait until the settings have been sent</source>
@@ -1024,6 +1036,10 @@
         <translation>%1 冇回應</translation>
     </message>
     <message>
+        <source>No answer to the last %1 questions</source>
+        <translation>最近 %1 個查詢冇回應</translation>
+    </message>
+    <message>
         <source>No cursors</source>
         <translation>冇游標</translation>
     </message>
@@ -1436,6 +1452,14 @@
         <translation>日誌嘅欄</translation>
     </message>
     <message>
+        <source>The connection is lost</source>
+        <translation>連線斷咗</translation>
+    </message>
+    <message>
+        <source>The connection is lost: %1</source>
+        <translation>連線斷咗：%1</translation>
+    </message>
+    <message>
         <source>The data file</source>
         <translation>數據檔案</translation>
     </message>
@@ -1454,6 +1478,10 @@
     <message>
         <source>The instrument is being read</source>
         <translation>讀取緊儀器</translation>
+    </message>
+    <message>
+        <source>The instrument is busy: %1</source>
+        <translation>儀器正忙：%1</translation>
     </message>
     <message>
         <source>The instrument is stopped: press %1</source>
@@ -1574,6 +1602,10 @@
     <message>
         <source>Traces</source>
         <translation>波形</translation>
+    </message>
+    <message>
+        <source>Traces paused for %1</source>
+        <translation>軌跡暫停：%1</translation>
     </message>
     <message>
         <source>Traces: drag the cursors, or move them with the arrow keys; C changes the cursor. Double click or E: larger, Escape: back</source>

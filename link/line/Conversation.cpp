@@ -38,6 +38,7 @@ void Conversation::use(const LineSettings& settings) {
     if (openSettings_.portNumber != settings.portNumber) forget();
     openSettings_ = settings;
     ++openings_;
+    account_.opened();
     channel_->readable = [this] { dispatcher_.dispatch([this] { arrived(); }); };
   }
   hear(take(0));
@@ -109,24 +110,25 @@ void Conversation::forget() {
   account_.beginAnew();
 }
 
-void Conversation::send(std::string_view bytes) {
+template <class Transfer>
+auto Conversation::transfer(Transfer use) {
   if (!channel_) throw closedError();
   try {
-    channel_->write(bytes);
-  } catch (const Error&) {
+    return use(*channel_);
+  } catch (const Error& error) {
+    account_.lost(error.description());
     close();
     throw;
   }
 }
 
+void Conversation::send(std::string_view bytes) {
+  transfer([bytes](ByteChannel& channel) { channel.write(bytes); });
+}
+
 std::string Conversation::take(std::int64_t timeOut) {
-  if (!channel_) throw closedError();
-  try {
-    return channel_->read(static_cast<int>(timeOut));
-  } catch (const Error&) {
-    close();
-    throw;
-  }
+  return transfer(
+      [timeOut](ByteChannel& channel) { return channel.read(static_cast<int>(timeOut)); });
 }
 
 /// Reads until `until`, or until the desktop's next turn is due.
@@ -355,6 +357,7 @@ void Conversation::leaveUnanswered() {
   state_ = State::draining;
   isQuestionOwed_ = true;
   ++unansweredInRow_;
+  account_.missedAnswer();
 }
 
 void Conversation::arrived() {
@@ -371,6 +374,7 @@ void Conversation::arrived() {
     if (dispatcher_.isOpen()) sendHeld();
   } catch (const Error&) {
     // The line is closed now. The next user of the port opens it again or is told the reason.
+    if (lost) lost();
   }
 }
 

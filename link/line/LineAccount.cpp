@@ -71,12 +71,14 @@ void LineAccount::wantedRecord(std::int64_t now) {
 
 void LineAccount::gaveRecord(std::int64_t now) {
   rest_.lastRecordAt = now;
+  rest_.unansweredInRow = 0;
   rest_.noRecordSince.reset();
 }
 
 void LineAccount::gaveAnswer(std::int64_t askedAt, std::int64_t now) {
   if (!answerAt_ || askedAt >= *answerAt_ + longestThought_) seriesFrom_ = now;
   answerAt_ = now;
+  rest_.unansweredInRow = 0;
 }
 
 }  // namespace tracewell

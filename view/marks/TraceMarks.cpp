@@ -25,6 +25,11 @@ Passed passedSince(std::int64_t then, std::int64_t now) {
   return {std::to_string(isInMinutes ? seconds / 60 : seconds), isInMinutes};
 }
 
+/// Since when nothing has kept the fetch from going on. What was missed before is no fault.
+std::int64_t fetchingSince(const frmDSO& main) {
+  return std::max(main.tmDSO.enabledAt(), main.doneAt);
+}
+
 bool isKnownAndSame(std::optional<double> made, std::optional<double> present) {
   return made && made == present;
 }
@@ -51,6 +56,11 @@ bool isOld(const frmDSO& main, const Channel& channel) {
   return now(main) - channel.record.fetchedAt > oldAfter * recordPeriod(main);
 }
 
+bool isLate(const frmDSO& main, const Channel& channel) {
+  return main.tmDSO.enabled() && isOld(main, channel) &&
+         now(main) - fetchingSince(main) > oldAfter * recordPeriod(main);
+}
+
 std::string ageText(const Words& words, const Channel& channel, std::int64_t now) {
   const std::string& name = channel.display.caption();
   const Passed passed = passedSince(channel.record.fetchedAt, now);
@@ -68,7 +78,7 @@ std::string unchangedText(const Words& words, const Channel& channel, std::int64
 std::int64_t millisecondsWithoutRecord(const frmDSO& main) {
   const std::optional<std::int64_t> since = main.services().port.report().noRecordSince;
   if (!main.tmDSO.enabled() || !since) return 0;
-  const std::int64_t passed = now(main) - *since;
+  const std::int64_t passed = now(main) - std::max(*since, fetchingSince(main));
   return passed > oldAfter * recordPeriod(main) ? passed : 0;
 }
 
