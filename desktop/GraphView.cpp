@@ -100,7 +100,9 @@ GraphView::GraphView(QWidget* parent)
   note_->setBrush(QColor(0, 0, 0, 170));
   note_->position->setType(QCPItemPosition::ptAxisRectRatio);
   note_->position->setCoords(0.995, 0.99);
-  overlay_ = new GraphOverlay(*plot_, *strip_);
+  overlay_ = new GraphOverlay(*plot_, *strip_, [this](double x, double y) {
+    return QPointF(plot_->xAxis->coordToPixel(x), plot_->yAxis->coordToPixel(y));
+  });
   takeFont();
 }
 

@@ -371,3 +371,6 @@ void RecorderGraph::focusOutEvent(QFocusEvent* event) {
 }
 
 }  // namespace tracewell
+
+// With the graph's own header, which is long, in no other source.
+#include "moc_RecorderGraph.cpp"

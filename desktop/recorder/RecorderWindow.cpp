@@ -13,6 +13,7 @@
 #include "QtImages.h"
 #include "QtValues.h"
 #include "RecorderFiles.h"
+#include "RecorderGraph.h"
 #include "RecorderWords.h"
 #include "ShownText.h"
 

@@ -11,7 +11,6 @@
 #include "Recorder.h"
 #include "RecorderBar.h"
 #include "RecorderCursors.h"
-#include "RecorderGraph.h"
 #include "RecorderLogBar.h"
 #include "RecorderTables.h"
 #include "RecorderView.h"
@@ -20,6 +19,7 @@
 namespace tracewell {
 
 class ElidedLabel;
+class RecorderGraph;
 
 /// The recorder's window: graph, strip of time, measurements, and what can be done with a record.
 /// It is not modal, and shows what RecorderView says.
