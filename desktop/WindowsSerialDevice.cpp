@@ -55,10 +55,9 @@ void set(DCB& line, const LineSettings& settings) {
     line.fRtsControl = RTS_CONTROL_ENABLE;
 }
 
-/// A reading ends with the first bytes, or with none after a day.
+/// A reading ends when it has as many bytes as were asked for.
 COMMTIMEOUTS timeOuts() {
-  constexpr DWORD day = 24 * 60 * 60 * 1000;
-  return {MAXDWORD, MAXDWORD, day, longestByte, longestWriting};
+  return {0, 0, 0, longestByte, longestWriting};
 }
 
 bool isTaken(DWORD error) {
@@ -132,9 +131,8 @@ void WindowsSerialDevice::beginReading() {
   if (isReading_ || !isFetching_ || hasFailed_ || port_ == INVALID_HANDLE_VALUE) return;
   isReading_ = true;
   ::ResetEvent(reading_->hEvent);
-  if (::ReadFile(port_, buffer_.data(), static_cast<DWORD>(buffer_.size()), nullptr,
-                 reading_.get()) != 0)
-    return;
+  // Its first byte ends it. Not every driver knows a reading that ends with any number of them.
+  if (::ReadFile(port_, buffer_.data(), 1, nullptr, reading_.get()) != 0) return;
   const DWORD error = ::GetLastError();
   if (error == ERROR_IO_PENDING) return;
   isReading_ = false;
@@ -147,16 +145,37 @@ bool WindowsSerialDevice::isReadingOver(int milliseconds) const {
 }
 
 bool WindowsSerialDevice::endReading() {
-  DWORD count = 0;
   isReading_ = false;
-  ::ResetEvent(reading_->hEvent);
-  if (::GetOverlappedResult(port_, reading_.get(), &count, FALSE) == 0) {
-    failWith(::GetLastError());
-    return false;
-  }
-  arrived_.append(buffer_.data(), static_cast<qsizetype>(count));
+  if (!takeRead() || !takeQueue()) return false;
   beginReading();
-  return count > 0;
+  return true;
+}
+
+bool WindowsSerialDevice::takeRead() {
+  DWORD count = 0;
+  const bool isDone = ::GetOverlappedResult(port_, reading_.get(), &count, TRUE) != 0;
+  if (isDone)
+    arrived_.append(buffer_.data(), static_cast<qsizetype>(count));
+  else
+    failWith(::GetLastError());
+  return isDone;
+}
+
+/// What is in the system's queue is had at once.
+bool WindowsSerialDevice::takeQueue() {
+  DWORD errors = 0;
+  COMSTAT state{};
+  while (::ClearCommError(port_, &errors, &state) != 0 && state.cbInQue > 0) {
+    const DWORD count = std::min<DWORD>(state.cbInQue, static_cast<DWORD>(buffer_.size()));
+    ::ResetEvent(reading_->hEvent);
+    if (::ReadFile(port_, buffer_.data(), count, nullptr, reading_.get()) == 0 &&
+        ::GetLastError() != ERROR_IO_PENDING) {
+      failWith(::GetLastError());
+      return false;
+    }
+    if (!takeRead()) return false;
+  }
+  return true;
 }
 
 bool WindowsSerialDevice::waitForReadyRead(int milliseconds) {

@@ -42,8 +42,10 @@ class WindowsSerialDevice : public QIODevice {
   bool configure(const LineSettings& settings);
   void beginReading();
   bool isReadingOver(int milliseconds) const;
-  /// Takes what the reading has brought; false if that was nothing.
+  /// Takes what has arrived; false if that failed.
   bool endReading();
+  bool takeRead();
+  bool takeQueue();
   bool endWriting();
   void failWith(unsigned long error);
 
