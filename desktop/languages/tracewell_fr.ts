@@ -1172,6 +1172,10 @@
         <translation>Image de la courbe choisie</translation>
     </message>
     <message>
+        <source>Pictures</source>
+        <translation>Images</translation>
+    </message>
+    <message>
         <source>Pin</source>
         <translation>Épingler</translation>
     </message>
@@ -1516,6 +1520,10 @@
         <translation>Le rapport</translation>
     </message>
     <message>
+        <source>The same sweep was fetched: %1</source>
+        <translation>Même balayage reçu : %1</translation>
+    </message>
+    <message>
         <source>The scales are not known: press %1 to read them</source>
         <translation>Les échelles ne sont pas connues : appuyez sur %1 pour les lire</translation>
     </message>
@@ -1746,10 +1754,6 @@
     <message>
         <source>clipped</source>
         <translation>écrêté</translation>
-    </message>
-    <message>
-        <source>fetched %1 times</source>
-        <translation>lu %1 fois</translation>
     </message>
     <message>
         <source>flat</source>

@@ -1172,6 +1172,10 @@
         <translation>Рисунок выбранной осциллограммы</translation>
     </message>
     <message>
+        <source>Pictures</source>
+        <translation>Рисунки</translation>
+    </message>
+    <message>
         <source>Pin</source>
         <translation>Закрепить</translation>
     </message>
@@ -1516,6 +1520,10 @@
         <translation>Отчёт</translation>
     </message>
     <message>
+        <source>The same sweep was fetched: %1</source>
+        <translation>Та же развёртка получена: %1</translation>
+    </message>
+    <message>
         <source>The scales are not known: press %1 to read them</source>
         <translation>Масштабы неизвестны: нажмите %1, чтобы прочитать их</translation>
     </message>
@@ -1746,10 +1754,6 @@
     <message>
         <source>clipped</source>
         <translation>обрезано</translation>
-    </message>
-    <message>
-        <source>fetched %1 times</source>
-        <translation>получено раз: %1</translation>
     </message>
     <message>
         <source>flat</source>

@@ -1172,6 +1172,10 @@
         <translation>所选波形的图片</translation>
     </message>
     <message>
+        <source>Pictures</source>
+        <translation>图片</translation>
+    </message>
+    <message>
         <source>Pin</source>
         <translation>固定</translation>
     </message>
@@ -1516,6 +1520,10 @@
         <translation>报告</translation>
     </message>
     <message>
+        <source>The same sweep was fetched: %1</source>
+        <translation>同一次扫描已读取：%1</translation>
+    </message>
+    <message>
         <source>The scales are not known: press %1 to read them</source>
         <translation>刻度未知：按 %1 读取</translation>
     </message>
@@ -1746,10 +1754,6 @@
     <message>
         <source>clipped</source>
         <translation>削波</translation>
-    </message>
-    <message>
-        <source>fetched %1 times</source>
-        <translation>已读取 %1 次</translation>
     </message>
     <message>
         <source>flat</source>

@@ -1172,6 +1172,10 @@
         <translation>揀選咗嘅波形嘅圖片</translation>
     </message>
     <message>
+        <source>Pictures</source>
+        <translation>圖片</translation>
+    </message>
+    <message>
         <source>Pin</source>
         <translation>釘住</translation>
     </message>
@@ -1516,6 +1520,10 @@
         <translation>報告</translation>
     </message>
     <message>
+        <source>The same sweep was fetched: %1</source>
+        <translation>同一次掃描讀取咗：%1</translation>
+    </message>
+    <message>
         <source>The scales are not known: press %1 to read them</source>
         <translation>刻度未知：撳 %1 讀取</translation>
     </message>
@@ -1746,10 +1754,6 @@
     <message>
         <source>clipped</source>
         <translation>削波</translation>
-    </message>
-    <message>
-        <source>fetched %1 times</source>
-        <translation>讀咗 %1 次</translation>
     </message>
     <message>
         <source>flat</source>

@@ -26,8 +26,8 @@ constexpr int columnWidth = 350;
 constexpr int measuredAtOnce = 20;
 constexpr int betweenMeasuring = 20;
 
-constexpr const char* pictureFilter =
-    "*.png *.jpg *.bmp *.gif *.pcx *.tif|*.jpg *.bmp *.gif *.pcx *.tif *.png";
+/// The last one is what a name without an ending gets.
+constexpr const char* pictureNames = "|*.jpg *.bmp *.gif *.pcx *.tif *.png";
 
 }  // namespace
 
@@ -337,7 +337,8 @@ void RecorderWindow::saveSet() {
   const Services& services = recorder_.main().services();
   const std::string name = nameOfSet(recorder_.store(), view_.saved());
   const std::filesystem::path path = services.dialogs.saveFile(
-      {services.programFolder, fromQt(panelText("Save as a waveform set")), name, pictureFilter});
+      {services.programFolder, fromQt(panelText("Save as a waveform set")), name,
+       fromQt(panelText("Pictures")) + pictureNames});
   // After Cancel it is the name that was offered.
   if (path != name) saveSetInto(path);
 }

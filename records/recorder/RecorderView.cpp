@@ -187,14 +187,19 @@ std::string RecorderView::title() const {
 
 std::vector<std::string> RecorderView::details() const {
   std::vector<std::string> lines;
+  std::string fetched;
   for (const int channel : {1, 2}) {
     const auto shown = shownOf(channel);
     if (!shown) continue;
     const RecordFacts& facts = store_.facts(*shown);
+    if (facts.fetches > 1)
+      fetched += (fetched.empty() ? "" : ", ") + channelName(channel) + " " +
+                 std::to_string(facts.fetches) + "×";
     lines.push_back(channelName(channel) + ": " + circumstances(words_, facts));
     if (const std::string gap = gapText(words_, facts.gap); !gap.empty())
       lines.push_back(words_.say("Before it: %1", {gap}));
   }
+  if (!fetched.empty()) lines.push_back(words_.say("The same sweep was fetched: %1", {fetched}));
   return lines;
 }
 

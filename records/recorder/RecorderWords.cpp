@@ -147,7 +147,6 @@ std::string circumstances(const Words& words, const RecordFacts& facts) {
     add(text, scaleText(words, facts.madeUnder.voltsPerDivision, "V"));
   add(text, scaleText(words, facts.madeUnder.secondsPerDivision, "s"));
   if (facts.isSimulated) add(text, words.say("SIMULATED"));
-  if (facts.fetches > 1) add(text, words.say("fetched %1 times", {std::to_string(facts.fetches)}));
   return text;
 }
 
