@@ -19,9 +19,9 @@ namespace tracewell {
 ///     -0.00249,0.14
 ///
 /// Time counts from the middle of the first record on, as in the graphs; each further record stands
-/// as much later as its sweep came, so that between records there is a leap. Records of one sweep share their rows. Others of
-/// two channels stand one behind the other, with the other channel's column empty: sigrok, which
-/// knows no empty cells, takes a single channel or a single sweep.
+/// as much later as its sweep came, so that between records there is a leap. Records of one sweep
+/// share their rows. Others of two channels stand one behind the other, with the other channel's
+/// column empty: sigrok, which knows no empty cells, takes a single channel or a single sweep.
 class SamplesTable {
  public:
   /// 1, 2 or both.

@@ -2,6 +2,7 @@
 #include "RecorderWindow.h"
 
 #include <QHBoxLayout>
+#include <QScreen>
 #include <QShortcut>
 #include <QVBoxLayout>
 
@@ -47,7 +48,8 @@ RecorderWindow::RecorderWindow(Recorder& recorder)
   sayTexts();
   connectParts();
   takeLook();
-  resize(1180, 760);
+  // With its frame, on a small screen.
+  resize(QSize(1180, 760).boundedTo(screen()->availableSize() - QSize(8, 40)));
   strip_->setFocus();
 }
 

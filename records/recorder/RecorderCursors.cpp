@@ -54,9 +54,13 @@ std::vector<std::string> cursorTexts(const RecorderCursors& cursors, const Recor
   const auto units = [&](double share) {
     return valueAt(axis, share) / *perDivision * Graph::unitsPerDivision;
   };
-  return isAcross && picture.mode == RecorderMode::trace
-             ? timeBadge(*perDivision, units(at[0]), units(at[1]))
-             : voltageBadge(*perDivision, 0.0, units(at[0]), units(at[1]));
+  if (isAcross && picture.mode == RecorderMode::trace)
+    return timeBadge(*perDivision, units(at[0]), units(at[1]));
+  std::vector<std::string> texts = voltageBadge(*perDivision, 0.0, units(at[0]), units(at[1]));
+  // Of two axes it is that of the channel pointed at.
+  if (picture.mode == RecorderMode::trace && own && other)
+    texts.insert(texts.begin(), channelName(channel));
+  return texts;
 }
 
 }  // namespace tracewell

@@ -190,6 +190,9 @@ TEST_F(RecorderViewTest, CursorsSayWhatTheAxesMean) {
   cursors.move(1, 0.5);
   EXPECT_EQ(cursorTexts(cursors, view.picture(), 1),
             (Texts{"P1 = 2.00 V", "P2 = 0 mV", "ΔV = 2.00 V"}));
+  keep(2, sineRecord(50));
+  EXPECT_EQ(cursorTexts(cursors, view.picture(), 2)[0], "CH2");
+  view.show(1);
   next.madeUnder = {};
   keepLevel(1, 9);
   EXPECT_EQ(cursorTexts(cursors, view.picture(), 1),
