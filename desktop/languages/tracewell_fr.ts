@@ -344,10 +344,6 @@
         <translation>Mode d'acquisition et moyennage</translation>
     </message>
     <message>
-        <source>Advanced trigger</source>
-        <translation>Déclenchement avancé</translation>
-    </message>
-    <message>
         <source>Advanced trigger: Delay</source>
         <translation>Déclenchement avancé : retard</translation>
     </message>

@@ -344,10 +344,6 @@
         <translation>Режим сбора и усреднение</translation>
     </message>
     <message>
-        <source>Advanced trigger</source>
-        <translation>Дополнительная синхронизация</translation>
-    </message>
-    <message>
         <source>Advanced trigger: Delay</source>
         <translation>Дополнительная синхронизация: задержка</translation>
     </message>

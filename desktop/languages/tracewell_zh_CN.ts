@@ -344,10 +344,6 @@
         <translation>采集方式与平均</translation>
     </message>
     <message>
-        <source>Advanced trigger</source>
-        <translation>高级触发</translation>
-    </message>
-    <message>
         <source>Advanced trigger: Delay</source>
         <translation>高级触发：延迟</translation>
     </message>

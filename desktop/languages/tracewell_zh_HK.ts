@@ -344,10 +344,6 @@
         <translation>擷取模式同平均</translation>
     </message>
     <message>
-        <source>Advanced trigger</source>
-        <translation>進階觸發</translation>
-    </message>
-    <message>
         <source>Advanced trigger: Delay</source>
         <translation>進階觸發：延遲</translation>
     </message>

@@ -12,8 +12,11 @@ from real_desktop import PATIENCE, PLUGINS, SystemTestCase, free_port, main, run
 
 class SystemTest(SystemTestCase):
     def choose_port(self, program, number):
+        traces = program.place("frmDSO.plot")
         program.keys("ctrl+r")
         program.focus(program.find("RS-232"))
+        # It leaves the traces in sight.
+        self.assertGreater(program.place("frmRS232.cbRS232_0").left, traces.left + traces.width)
         program.keys("Tab", "Tab", "Tab", "Tab", "ctrl+a")
         program.type(str(number))
         program.keys("Return")

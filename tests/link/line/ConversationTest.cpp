@@ -99,8 +99,7 @@ class LineScript : OnALine<PacedOpener> {
     tell("late", report.lateRecords, "");
     tell("endless", report.endlessReplies, " " + std::to_string(report.bytesOfEndlessReply));
     if (report.noRecordSince) text += " none since " + std::to_string(*report.noRecordSince);
-    if (report.unansweredInRow > 1)
-      text += " unanswered " + std::to_string(report.unansweredInRow);
+    if (report.unansweredInRow > 1) text += " unanswered " + std::to_string(report.unansweredInRow);
     if (!report.failure.empty()) text += " lost: " + report.failure;
     if (report.lastRecordAt) text += " last " + std::to_string(*report.lastRecordAt);
     if (report.doubt.times > 0)
