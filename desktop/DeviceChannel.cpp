@@ -64,6 +64,11 @@ void DeviceChannel::fail(const QString& reason) {
   announce();
 }
 
+void DeviceChannel::fetch() {
+  rest_ += device_->readAll();
+  if (!rest_.isEmpty()) announce();
+}
+
 /// Out of the event loop and once for many arrivals.
 void DeviceChannel::announce() {
   if (isAnnounced_ || isResting_) return;

@@ -29,6 +29,8 @@ class DeviceChannel : public ByteChannel {
 
   /// Call it when bytes have arrived.
   void announce();
+  /// Takes what has arrived out of the device, for the next read.
+  void fetch();
   /// Call it with the device's words when it has failed. Only the first failure counts: a device
   /// that is gone reports the same one endlessly until it is closed.
   void fail(const QString& reason);
@@ -45,7 +47,7 @@ class DeviceChannel : public ByteChannel {
   QString name_;
   std::unique_ptr<QIODevice> device_;
   QString failure_;
-  /// What had arrived when the device was found gone.
+  /// What was fetched and not read yet.
   QByteArray rest_;
   bool isAnnounced_ = false;
   QTimer resting_;

@@ -2,6 +2,7 @@
 #include "QtSerialChannel.h"
 
 #include <fcntl.h>
+#include <poll.h>
 #include <termios.h>
 #include <unistd.h>
 
@@ -37,6 +38,12 @@ void keepControlLinesOnClose(const QString& device) {
     tcsetattr(descriptor, TCSANOW, &attributes);
   }
   ::close(descriptor);
+}
+
+/// A device that was pulled out, and the far end of a pseudo-terminal that was closed, hang up.
+bool isThere(int descriptor) {
+  pollfd line{descriptor, POLLIN, 0};
+  return ::poll(&line, 1, 0) >= 0 && (line.revents & (POLLHUP | POLLERR | POLLNVAL)) == 0;
 }
 
 }  // namespace
@@ -81,6 +88,10 @@ void QtSerialChannel::open(const QString& device, const LineSettings& settings) 
 
 void QtSerialChannel::watch(QSerialPort::SerialPortError error) {
   if (error == QSerialPort::NoError || error == QSerialPort::TimeoutError) return;
+  // The library also calls it an error when the event loop has it read what was read meanwhile. It
+  // may have stopped listening then, until it is read from.
+  const bool isOfWriting = error == QSerialPort::WriteError;
+  if (!isOfWriting && port_.isOpen() && isThere(port_.handle())) return fetch();
   // The system's own words are often about something else.
   fail(QStringLiteral("the device is gone (%1)").arg(port_.errorString()));
 }

@@ -118,6 +118,28 @@ TEST_F(SerialLineTest, ClosingDoesNotHangUp) {
   ::close(line);
 }
 
+/// The event loop has seen bytes that are read before it says so: a read that brings nothing then.
+TEST_F(SerialLineTest, AWakeWithoutBytesIsNoLoss) {
+  const int end = ::posix_openpt(O_RDWR | O_NOCTTY);
+  ASSERT_TRUE(grantpt(end) == 0 && unlockpt(end) == 0);
+  QtSerialChannel channel(QString::fromLocal8Bit(::ptsname(end)), LineSettings());
+  std::string received;
+  for (int i = 0; i < 3; ++i) {
+    ASSERT_EQ(::write(end, "bytes\n", 6), 6);
+    QMetaObject::invokeMethod(
+        qApp, [&] { received += channel.read(1000); }, Qt::QueuedConnection);
+    QTest::qWait(20);
+  }
+  bool isAwake = false;
+  channel.readable = [&] { isAwake = true; };
+  ASSERT_EQ(::write(end, "last\n", 5), 5);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return isAwake; }));
+  received += channel.read(1000);
+  EXPECT_EQ(received, "bytes\nbytes\nbytes\nlast\n");
+  ::close(end);
+  EXPECT_TRUE(errorOf([&] { channel.read(2000); }).starts_with("57 "));
+}
+
 TEST_F(SerialLineTest, SecondOpenerIsRefusedWithAReason) {
   startInstrument({});
   port.prepare();
