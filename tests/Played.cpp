@@ -74,6 +74,8 @@ Played::Played() {
   };
   windows.opened = [this](Window& window) {
     note("<" + window.name() + newIn(window) + ">");
+    // What is behind it is painted, too.
+    main.graphDSO.notifyChanged();
     if (&window == &program.message) return;
     opened(window);
     if (window.isVisible()) note("open");
