@@ -76,21 +76,20 @@ std::optional<double> stateAmong(const Distances& distances, double noise) {
   constexpr double endOfTurn = 0.7;
   constexpr double reachOfWidth = 2;
   constexpr double spreadOfNoise = 3;
-  constexpr double densest = 2;
+  constexpr double densest = 1.5;
   const std::vector<double> density = smoothedHistogram(distances);
   const auto peak = static_cast<std::size_t>(std::ranges::max_element(density) - density.begin());
   const double width = outerWidth(density, peak);
   const double reach = std::max<double>(reachOfWidth * width, converter::step);
   const Cluster around = clusterAround(distances, static_cast<double>(peak), reach);
   const Cluster level = clusterAround(distances, around.mean, reach);
-  const bool isHigh = reach > heightOfLevel * std::ranges::max(distances);
-  if (level.share >= mostInLevel && !isHigh) return level.mean;
-  if (isSpreadEvenly(distances)) return std::nullopt;
+  const double height = std::ranges::max(distances);
   // Where noise does not spread them they lie closer than on a slope that is passed a few times.
   const bool isOfNoise = reach <= spreadOfNoise * noise + converter::step;
-  const double slope = 2 * reach / std::ranges::max(distances);
-  if (level.share >= someInLevel && (isOfNoise || level.share >= densest * slope))
-    return level.mean;
+  const bool isDense = isOfNoise || level.share >= densest * 2 * reach / height;
+  if (level.share >= mostInLevel && reach <= heightOfLevel * height && isDense) return level.mean;
+  if (isSpreadEvenly(distances)) return std::nullopt;
+  if (level.share >= someInLevel && isDense) return level.mean;
   // Where the signal only turns, it does so at its end, and more of it lies inwards than there.
   if (static_cast<double>(peak) < endOfTurn * std::ranges::max(distances)) return std::nullopt;
   return clusterAround(distances, static_cast<double>(peak), reach / reachOfWidth).mean;

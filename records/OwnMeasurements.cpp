@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <vector>
 
 #include "Converter.h"
 #include "Edges.h"
@@ -55,10 +56,16 @@ bool isNoise(const Samples& samples, double variance, double peakToPeak) {
 double noiseOf(const Samples& samples) {
   constexpr double ofConverter = 0.289 * converter::step;
   constexpr double deviationOfMedian = 1.4826;
-  std::array<int, WaveformRecord::sampleCount - 2> bends{};
-  for (std::size_t i = 0; i < bends.size(); ++i)
-    bends[i] = std::abs(samples[i] - 2 * samples[i + 1] + samples[i + 2]);
-  const auto middle = bends.begin() + bends.size() / 2;
+  const auto isClipped = [](int sample) {
+    return sample <= converter::lowest || sample >= converter::highest;
+  };
+  std::vector<int> bends;
+  bends.reserve(samples.size());
+  for (std::size_t i = 2; i < samples.size(); ++i)
+    if (!isClipped(samples[i - 2]) && !isClipped(samples[i - 1]) && !isClipped(samples[i]))
+      bends.push_back(std::abs(samples[i - 2] - 2 * samples[i - 1] + samples[i]));
+  if (bends.empty()) return ofConverter;
+  const auto middle = bends.begin() + static_cast<std::ptrdiff_t>(bends.size() / 2);
   std::ranges::nth_element(bends, middle);
   // A bend has the noise of three samples, that of the middle one twice.
   return std::max(ofConverter, deviationOfMedian * *middle / std::sqrt(6.0));

@@ -76,12 +76,12 @@ def edges(p, level_from, level_to):
     return sure, likely
 
 
-def period_error(p, sure):
-    """The standard error of the period that noise, the steps of the converter, and edges that are anywhere
-    between two samples leave; `sure` edges are seen."""
+def errors_of_edges(p, sure):
+    """The standard errors of the period and of the time between two edges that noise, the steps of the
+    converter, and edges that are anywhere between two samples leave; `sure` edges are seen."""
     units = numpy.hypot(0.98 * p["noise"], STEP / 12 ** 0.5)
     if p["shape"] == "sine":
-        return (24 / COUNT) ** 0.5 * units / p["amplitude"] / COUNT * p["period"] ** 2 / 2 / numpy.pi
+        return (24 / COUNT) ** 0.5 * units / p["amplitude"] / COUNT * p["period"] ** 2 / 2 / numpy.pi, 0
     times = {"rise": p["edge"], "fall": p["edge"]}
     if p["shape"] == "triangle":
         times = {"rise": p["duty"] * p["period"], "fall": (1 - p["duty"]) * p["period"]}
@@ -92,7 +92,8 @@ def period_error(p, sure):
         one = units * times[name] / 2 / p["amplitude"] / max(seen, 1) ** 0.5
         error += count * max(one, 12 ** -0.5 if seen < 1 else 0) ** 2
         squares += count * (count ** 2 - 1) / 12
-    return (error / sum(sure.values()) / squares) ** 0.5 if squares else numpy.inf
+    number = sum(sure.values())
+    return ((error / number / squares) ** 0.5, 2 * error ** 0.5 / number) if squares else (numpy.inf, numpy.inf)
 
 
 def truth(p):
@@ -111,13 +112,16 @@ def truth(p):
     maybe = lambda value: value if isinstance(value, str) else "~" + text(value)
     rhythm = lambda value: value if is_whole and not is_faint else maybe(value) if may_be_whole else "-"
     seen = min(p["offset"] + p["amplitude"], STEP * HIGHEST) - max(p["offset"] - p["amplitude"], STEP * LOWEST)
-    is_hidden = clipped and seen < 10 * p["noise"] + 4 * STEP
-    is_doubtful = is_hidden or 2.6 * period_error(p, sure) > max(0.5, 0.001 * p["period"])
+    is_hidden = clipped and seen < max(10 * p["noise"] + 4 * STEP, 0.5 * p["amplitude"])
+    period_error, shift_error = errors_of_edges(p, sure)
+    is_doubtful = is_hidden or 2.6 * period_error > max(0.5, 0.001 * p["period"])
     found["period"] = maybe(rhythm(p["period"])) if is_doubtful else rhythm(p["period"])
     is_even = p["shape"] == "triangle"
     # Half-way between the ends, which noise has moved.
     share = 0.5 - (samples.max() + samples.min() - 2 * p["offset"]) / 4 / p["amplitude"] if is_even else p["duty"]
-    found["duty"] = "-" if clipped else rhythm(100 * share)
+    found["duty"] = "-" if clipped else "?" if is_even and is_faint else rhythm(100 * share)
+    if 2.6 * shift_error > 1:
+        found["duty"] = maybe(found["duty"])
     # A pulse that is nearly all edges has no states.
     flat = [p["duty"] - p["edge"] / p["period"], 1 - p["duty"] - p["edge"] / p["period"]]
     has_states = p["shape"] != "pulse" or all(
@@ -133,14 +137,14 @@ def truth(p):
     unseen = "-" if clipped else "?"
     found["ampl"] = ends["top"] - ends["base"] if is_seen else unseen
     found["over"] = 100 * (samples.max() - ends["top"]) / found["ampl"] if is_seen else unseen
-    whole, any_of = edges(p, 0.05, 0.95)
+    whole, _ = edges(p, 0.05, 0.95)
     ramp = 0.4 * numpy.ptp(samples) / p["amplitude"]
     for name, part in (("rise", p["duty"]), ("fall", 1 - p["duty"])):
         share = {"sine": numpy.arcsin(0.8) / numpy.pi, "triangle": ramp * part}.get(p["shape"])
         time = 0.8 * p["edge"] if share is None else share * p["period"]
         found[name] = unseen
         if is_seen and whole[name] > 0:
-            is_noisy = (20 if is_even else 10) * p["noise"] > p["amplitude"]
+            is_noisy = (20 if is_even else 10) * p["noise"] > p["amplitude"] or p["amplitude"] < 5 * STEP
             found[name] = "?" if is_noisy or 1.5 <= time < 2.5 else "<" if time < 2 else time
     return found
 
