@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Prints the table of records.csv: parameters of 200 records, and what is true of each of them, in units
+"""Prints the table of records.csv: parameters of some 200 records, and what is true of each of them, in units
 and samples. Wants numpy and scipy; the arguments are a seed other than that of the table, and a count.
 
     tests/records/make_table.py > tests/records/records.csv
@@ -185,12 +185,23 @@ def text(value):
     return value if isinstance(value, str) else f"{value:.6g}"
 
 
+# Seeds and places of records that were measured wrongly once.
+OTHERS = {9001: (105, 176, 392, 419, 589), 9002: (45, 100, 287, 480)}
+
+
+def drawn(seed, count):
+    draw = random.Random(seed)
+    return [parameters(draw) for _ in range(count)]
+
+
 def main():
     seed = int(sys.argv[1]) if len(sys.argv) > 1 else 1
-    draw = random.Random(seed)
+    records = drawn(seed, int(sys.argv[2]) if len(sys.argv) > 2 else 200)
+    if len(sys.argv) == 1:
+        for other, places in OTHERS.items():
+            records += [drawn(other, place + 1)[place] for place in places]
     print(",".join([*PARAMETERS, *("true " + name for name in VALUES)]))
-    for _ in range(int(sys.argv[2]) if len(sys.argv) > 2 else 200):
-        p = parameters(draw)
+    for p in records:
         true = truth(p)
         print(",".join([str(p[name]) for name in PARAMETERS] + [text(true[name]) for name in VALUES]))
 
