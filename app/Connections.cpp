@@ -15,10 +15,11 @@ void Tracewell::connectLifecycle() {
   main.cmdClose.click = [this] { lifecycle.cmdClose_Click(); };
   main.mnbClose.click = [this] { lifecycle.cmdClose_Click(); };
   main.tmDSO.timer = [this] { acquisition.tmDSO_Timer(); };
-  main.tmStatus.timer = [this] {
-    exchange.lookForDoubts();
-    showLineNotice(main);
-    panelMarks.show();
+  main.tmStatus.timer = [this] { lookAtLine(); };
+  exchange.lineLost = [this] {
+    channelDialog.doubtAnswers();
+    trigger.doubtAnswers();
+    display.doubtAnswers();
   };
   main.answersDoubted = [this](std::int64_t first, std::int64_t last) {
     measurements.doubtAnswers(first, last);
@@ -32,7 +33,14 @@ void Tracewell::connectLifecycle() {
   main.tmTest.timer = [this] { lifecycle.tmTest_Timer(); };
 }
 
+void Tracewell::lookAtLine() {
+  exchange.lookForDoubts();
+  showLineNotice(main);
+  panelMarks.show();
+}
+
 void Tracewell::connectLink() {
+  main.services().port.lost = [this] { lookAtLine(); };
   main.services().port.dataReady = [this](const LineRecord& record) {
     acquisition.DataReady(record);
   };
@@ -75,6 +83,14 @@ void Tracewell::connectPanel() {
   main.cmdAutoset.click = [this] { autoset.cmdAutoset_Click(); };
 }
 
+/// What is measured meanwhile would be of no setting.
+std::function<void()> Tracewell::unlessAutoset(const CaptionedControl& control,
+                                               std::function<void()> routine) const {
+  return [this, &control, routine = std::move(routine)] {
+    if (!autoset.isUnderWay(control.caption)) routine();
+  };
+}
+
 void Tracewell::connectView() {
   main.opOff.click = [this] { cursors.opOff_Click(); };
   main.opTime.click = [this] { cursors.opTime_Click(); };
@@ -85,14 +101,18 @@ void Tracewell::connectView() {
   main.graphDSO.enlargeToggled = [this] { graphSize.ToggleGraphSize(); };
   main.cmdGraph.click = [this] { graphStyle.cmdGraph_Click(); };
   main.mnbGraph.click = [this] { graphStyle.cmdGraph_Click(); };
-  main.cmdVMeasure.click = [this] { measurements.cmdVMeasure_Click(); };
-  main.mnbVoltage.click = [this] { measurements.mnbVoltage_Click(); };
+  main.cmdVMeasure.click =
+      unlessAutoset(main.cmdVMeasure, [this] { measurements.cmdVMeasure_Click(); });
+  main.mnbVoltage.click =
+      unlessAutoset(main.mnbVoltage, [this] { measurements.mnbVoltage_Click(); });
   main.fmMeasure.copied = [this] { measurements.fmMeasure_Copied(); };
-  main.cmdFMeasure.click = [this] { measurements.cmdFMeasure_Click(); };
+  main.cmdFMeasure.click =
+      unlessAutoset(main.cmdFMeasure, [this] { measurements.cmdFMeasure_Click(); });
   main.cmdPrint.click = [this] { printing.cmdPrint_Click(); };
   main.mnbPrint.click = [this] { printing.cmdPrint_Click(); };
   main.mnbPrintSetup.click = [this] { printing.mnbPrintSetup_Click(); };
-  main.mnbFrequency.click = [this] { measurements.mnbFrequency_Click(); };
+  main.mnbFrequency.click =
+      unlessAutoset(main.mnbFrequency, [this] { measurements.mnbFrequency_Click(); });
 }
 
 void Tracewell::connectFiles() {
@@ -100,7 +120,7 @@ void Tracewell::connectFiles() {
     try {
       setupFiles.mnbLoadSetup_Click();
     } catch (const Error&) {
-      // The rows in front of the error are new.
+      // The rows before the error are new.
       showDifferingLink(main);
       throw;
     }
@@ -125,7 +145,7 @@ void Tracewell::connectFiles() {
   main.mnbConf.click = [this] { report.mnbConf_Click(); };
 }
 
-/// What stands in the window in words of the panel's own.
+/// The texts of the window in the panel's own words.
 void Tracewell::sayAgain() {
   sayPortAgain(main);
   main.status.tellAgain();

@@ -94,6 +94,9 @@ class Tracewell {
   void connectView();
   void connectFiles();
   void connectSupport();
+  void lookAtLine();
+  std::function<void()> unlessAutoset(const CaptionedControl& control,
+                                      std::function<void()> routine) const;
   void sayAgain();
 };
 

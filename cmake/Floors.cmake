@@ -5,7 +5,7 @@
 # floors once. The headers that a floor may see are told by the other builds then.
 #
 # A floor that stands on a LIBRARY names where its HEADERS are. One that is APART is a target of its own in
-# all builds, its sources one at a time.
+# all builds: its unnamed namespaces have names that others have, too.
 if(CMAKE_UNITY_BUILD)
   add_library(tracewell_logic STATIC)
   set_target_properties(tracewell_logic PROPERTIES UNITY_BUILD_BATCH_SIZE 32)
@@ -23,9 +23,6 @@ function(tracewell_floor NAME)
     return()
   endif()
   add_library(tracewell_${NAME} STATIC ${FLOOR_SOURCES})
-  if(FLOOR_APART)
-    set_target_properties(tracewell_${NAME} PROPERTIES UNITY_BUILD OFF)
-  endif()
   target_include_directories(tracewell_${NAME} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
   target_compile_definitions(tracewell_${NAME} PUBLIC ${FLOOR_DEFINES})
   target_include_directories(tracewell_${NAME} SYSTEM PRIVATE ${FLOOR_HEADERS})
@@ -42,6 +39,7 @@ add_subdirectory(files/setup)
 add_subdirectory(known)
 add_subdirectory(app/window)
 add_subdirectory(files/kept)
+add_subdirectory(files/sets)
 add_subdirectory(support/texts)
 add_subdirectory(support/log)
 add_subdirectory(view/marks)

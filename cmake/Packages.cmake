@@ -9,11 +9,11 @@ set(READ_FIRST ${PROJECT_SOURCE_DIR}/README.md ${PROJECT_SOURCE_DIR}/CONTRIBUTIN
                ${PROJECT_SOURCE_DIR}/SECURITY.md)
 set(DESKTOP_FILES ${PROJECT_SOURCE_DIR}/packaging/desktop)
 
-install(TARGETS ${PROGRAMS} COMPONENT system)
 set(PROGRAMS tracewell krm410-sim)
 if(TRACEWELL_RECORDER)
   list(APPEND PROGRAMS tracewell-record)
 endif()
+install(TARGETS ${PROGRAMS} COMPONENT system)
 # The program looks for its modules there, whatever the machine calls its folder of libraries.
 install(TARGETS ${MODULES} LIBRARY DESTINATION lib/tracewell COMPONENT system)
 install(FILES ${PROGRAM_FILES} DESTINATION ${CMAKE_INSTALL_DATADIR}/tracewell COMPONENT system)

@@ -11,6 +11,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
+#include <QPainter>
 #include <QPixmap>
 #include <QPlainTextEdit>
 #include <QProgressBar>
@@ -89,9 +90,13 @@ void bind(Frame& control, QWidget& form) {
   if (control.copied) new CopyGestures(*box, [&control] { control.copy(); });
 }
 
+/// Its edge shows the colour of the button's ground, too.
 QIcon swatch(const QColor& colour) {
   QPixmap picture(32, 16);
   picture.fill(colour);
+  QPainter painter(&picture);
+  painter.setPen(QColor(0x80, 0x88, 0x90));
+  painter.drawRect(picture.rect().adjusted(0, 0, -1, -1));
   return picture;
 }
 
@@ -273,7 +278,13 @@ void bind(Slide& control, QWidget& form) {
 }
 
 void bind(Graph& control, QWidget& form) {
-  findObject<GraphView>(control, form)->bind(control);
+  auto* view = findObject<GraphView>(control, form);
+  view->bind(control);
+  // Empty of the controls that are hidden then, these would keep their share of the window.
+  for (const char* holder : {"column", "command"})
+    if (auto* widget = form.findChild<QWidget*>(QLatin1String(holder)))
+      QObject::connect(view, &GraphView::enlarged, widget,
+                       [widget](bool isEnlarged) { widget->setVisible(!isEnlarged); });
 }
 
 void bind(ListBox& control, QWidget& form) {

@@ -11,6 +11,8 @@ class DesktopDisk : public Disk {
   std::error_code flush(std::FILE& file) override;
   void takeOwner(std::FILE& file, const std::filesystem::path& like) override;
   std::error_code flushFolder(const std::filesystem::path& folder) override;
+  std::error_code rename(const std::filesystem::path& from,
+                         const std::filesystem::path& to) override;
 };
 
 }  // namespace tracewell

@@ -7,7 +7,9 @@
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QRadioButton>
+#include <QScreen>
 #include <QShortcut>
+#include <algorithm>
 
 #include "Binder.h"
 #include "Control.h"
@@ -37,6 +39,20 @@ void focusFirst(QWidget& form) {
     if (isStop && next->isVisibleTo(&form) && next->focusProxy() == nullptr)
       return chosenLike(*next).setFocus(Qt::TabFocusReason);
   }
+}
+
+/// At the right, over the controls, which are out of reach meanwhile: the traces and what the
+/// banner says of them can be seen. Nothing of it leaves the screen.
+void placeBesideTraces(QDialog& dialog) {
+  const QWidget* const main = dialog.parentWidget();
+  if (main == nullptr || !main->isVisible()) return;
+  constexpr int margin = 12;
+  dialog.ensurePolished();
+  const QSize size = dialog.testAttribute(Qt::WA_Resized) ? dialog.size() : dialog.sizeHint();
+  const QRect room = main->geometry() & main->screen()->availableGeometry();
+  const int left = std::max(room.right() - margin - size.width(), room.left());
+  const int top = std::max(room.center().y() - size.height() / 2, room.top());
+  dialog.move(left, top);
 }
 
 }  // namespace
@@ -147,6 +163,7 @@ void DesktopWindows::use(Theme theme) {
 void DesktopWindows::showModal(Window& window) {
   QDialog& dialog = formOf(window).dialog();
   focusFirst(dialog);
+  placeBesideTraces(dialog);
   dialog.exec();
 }
 

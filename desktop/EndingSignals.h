@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QObject>
 #include <functional>
 #include <memory>
 
-class QSocketNotifier;
-
 namespace tracewell {
 
-/// Tells, on Unix, when one of the signals SIGTERM, SIGINT and SIGHUP has come. At most one of it
-/// may live. A signal that the program was started to ignore stays ignored.
+/// Tells when the program is told to end from outside: on Unix by one of the signals SIGTERM,
+/// SIGINT and SIGHUP, on Windows at its console. At most one of it may live. A signal that the
+/// program was started to ignore stays ignored.
 class EndingSignals {
  public:
   /// `end` is called once, out of the event loop.
@@ -19,8 +19,8 @@ class EndingSignals {
 
  private:
   std::function<void()> end_;
-  /// Turns a signal into an event; none where there are no signals.
-  std::unique_ptr<QSocketNotifier> arrival_;
+  /// Turns what has come into an event; none where nothing can come.
+  std::unique_ptr<QObject> arrival_;
 };
 
 }  // namespace tracewell

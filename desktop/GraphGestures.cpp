@@ -1,18 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "GraphGestures.h"
+
 #include <qcustomplot.h>
 
-#include <QHelpEvent>
+#include <QCoreApplication>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QMouseEvent>
 #include <cmath>
 
 #include "Graph.h"
-#include "GraphOverlay.h"
-#include "GraphView.h"
 #include "ScaleStrip.h"
 
-/// What the mouse and the keyboard do on the graph.
 namespace tracewell {
 namespace {
 
@@ -21,29 +19,39 @@ constexpr qreal grip = 6;
 
 }  // namespace
 
-QPointF GraphView::toUnits(const QPointF& position) const {
-  return {plot_->xAxis->pixelToCoord(position.x()), plot_->yAxis->pixelToCoord(position.y())};
+GraphGestures::GraphGestures(QCustomPlot& plot, ScaleStrip& strip, QObject* parent)
+    : QObject(parent), plot_(plot), strip_(strip) {
+  plot.installEventFilter(this);
 }
 
-std::optional<std::size_t> GraphView::cursorAt(const QPointF& position) const {
+void GraphGestures::setGraph(Graph* graph) {
+  graph_ = graph;
+  grabbed_ = nullptr;
+}
+
+QPointF GraphGestures::toUnits(const QPointF& position) const {
+  return {plot_.xAxis->pixelToCoord(position.x()), plot_.yAxis->pixelToCoord(position.y())};
+}
+
+std::optional<std::size_t> GraphGestures::cursorAt(const QPointF& position) const {
   if (graph_ == nullptr) return std::nullopt;
-  for (std::size_t i = 0; i < cursorItems_.size(); ++i) {
+  for (std::size_t i = 0; i < graph_->cursors().size(); ++i) {
     const Cursor& cursor = graph_->cursors()[i];
     const qreal distance = cursor.style() == CursorStyle::verticalLine
-                               ? position.x() - plot_->xAxis->coordToPixel(cursor.xPosition())
-                               : position.y() - plot_->yAxis->coordToPixel(cursor.yPosition());
+                               ? position.x() - plot_.xAxis->coordToPixel(cursor.xPosition())
+                               : position.y() - plot_.yAxis->coordToPixel(cursor.yPosition());
     if (cursor.visible() && std::fabs(distance) <= grip) return i;
   }
   return std::nullopt;
 }
 
-void GraphView::activate(std::size_t cursor) {
+void GraphGestures::activate(std::size_t cursor) {
   activeCursor_ = cursor;
-  markDirty();
+  emit activated();
 }
 
-void GraphView::takeHold(const QMouseEvent& event) {
-  setFocus(Qt::MouseFocusReason);
+void GraphGestures::takeHold(const QMouseEvent& event) {
+  plot_.parentWidget()->setFocus(Qt::MouseFocusReason);
   grabbed_ = nullptr;
   const std::optional<std::size_t> found = cursorAt(event.position());
   if (event.button() != Qt::LeftButton || !found) return;
@@ -51,12 +59,12 @@ void GraphView::takeHold(const QMouseEvent& event) {
   grabbed_ = &graph_->cursors()[*found];
 }
 
-void GraphView::dragTo(const QPointF& position) {
+void GraphGestures::dragTo(const QPointF& position) {
   const QPointF units = toUnits(position);
   graph_->dragCursor(*grabbed_, std::round(units.x()), std::round(units.y()));
 }
 
-void GraphView::follow(const QMouseEvent& event) {
+void GraphGestures::follow(const QMouseEvent& event) {
   pointer_ = event.position();
   showValues();
   // A box that came up during the drag has had the release.
@@ -67,33 +75,25 @@ void GraphView::follow(const QMouseEvent& event) {
     showPointerShape(event.position());
 }
 
-void GraphView::showValues() {
-  if (!pointer_ || graph_ == nullptr || !graph_->valuesAt) return strip_->setValues({});
+void GraphGestures::showValues() {
+  if (!pointer_ || graph_ == nullptr || !graph_->valuesAt) return strip_.setValues({});
   const QPointF units = toUnits(*pointer_);
-  strip_->setValues(graph_->valuesAt(units.x(), units.y()));
+  strip_.setValues(graph_->valuesAt(units.x(), units.y()));
 }
 
-/// The tip would cover what is looked at: it belongs to the line below.
-bool GraphView::event(QEvent* event) {
-  if (event->type() == QEvent::FontChange) takeFont();
-  const bool isTip = event->type() == QEvent::ToolTip;
-  if (isTip && !caption_->geometry().contains(static_cast<QHelpEvent*>(event)->pos())) return true;
-  return QWidget::event(event);
-}
-
-/// Which way a line can be moved shows where it can be taken.
-void GraphView::showPointerShape(const QPointF& position) {
+/// The shape tells which way a cursor can be dragged.
+void GraphGestures::showPointerShape(const QPointF& position) {
   const std::optional<std::size_t> found = cursorAt(position);
   if (!found)
-    plot_->setCursor(Qt::CrossCursor);
+    plot_.setCursor(Qt::CrossCursor);
   else if (graph_->cursors()[*found].style() == CursorStyle::verticalLine)
-    plot_->setCursor(Qt::SplitHCursor);
+    plot_.setCursor(Qt::SplitHCursor);
   else
-    plot_->setCursor(Qt::SplitVCursor);
+    plot_.setCursor(Qt::SplitVCursor);
 }
 
-/// The plot's own mouse handling knows nothing of cursors, so they are looked for first.
-bool GraphView::eventFilter(QObject* watched, QEvent* event) {
+/// The plot's own mouse handling knows nothing of cursors, so this looks for them first.
+bool GraphGestures::eventFilter(QObject* watched, QEvent* event) {
   switch (event->type()) {
     case QEvent::MouseButtonPress:
       takeHold(*static_cast<QMouseEvent*>(event));
@@ -108,64 +108,51 @@ bool GraphView::eventFilter(QObject* watched, QEvent* event) {
       if (graph_ != nullptr) graph_->toggleEnlarged();
       break;
     case QEvent::ContextMenu:
-      // The plot keeps what the mouse does to itself.
-      return QCoreApplication::sendEvent(this, event);
+      // The plot keeps mouse events to itself.
+      return QCoreApplication::sendEvent(plot_.parentWidget(), event);
     case QEvent::Leave:
       pointer_.reset();
       showValues();
       break;
-    case QEvent::Resize:
-      overlay_->setGeometry(plot_->rect());
-      markDirty();
-      break;
     default:
       break;
   }
-  return QWidget::eventFilter(watched, event);
+  return QObject::eventFilter(watched, event);
 }
 
-void GraphView::focusInEvent(QFocusEvent* event) {
-  overlay_->setFocusShown(true);
-  QWidget::focusInEvent(event);
+void GraphGestures::step(const QPointF& units) {
+  Cursor& cursor = graph_->cursors()[activeCursor_];
+  graph_->dragCursor(cursor, cursor.xPosition() + units.x(), cursor.yPosition() + units.y());
 }
 
-void GraphView::focusOutEvent(QFocusEvent* event) {
-  overlay_->setFocusShown(false);
-  QWidget::focusOutEvent(event);
-}
-
-void GraphView::keyPressEvent(QKeyEvent* event) {
-  if (graph_ == nullptr) return;
-  const double distance = event->modifiers() & Qt::ShiftModifier ? 10 : 1;
-  QPointF step;
-  switch (event->key()) {
+bool GraphGestures::press(const QKeyEvent& event) {
+  if (graph_ == nullptr) return true;
+  const double distance = event.modifiers() & Qt::ShiftModifier ? 10 : 1;
+  switch (event.key()) {
     case Qt::Key_Left:
-      step = {-distance, 0};
-      break;
+      step({-distance, 0});
+      return true;
     case Qt::Key_Right:
-      step = {distance, 0};
-      break;
+      step({distance, 0});
+      return true;
     case Qt::Key_Down:
-      step = {0, -distance};
-      break;
+      step({0, -distance});
+      return true;
     case Qt::Key_Up:
-      step = {0, distance};
-      break;
+      step({0, distance});
+      return true;
     case Qt::Key_E:
       graph_->toggleEnlarged();
-      return;
+      return true;
     case Qt::Key_Escape:
       if (graph_->enlarged()) graph_->toggleEnlarged();
-      return;
+      return true;
     case Qt::Key_C:
       activate(1 - activeCursor_);
-      return;
+      return true;
     default:
-      QWidget::keyPressEvent(event);
-      return;
+      return false;
   }
-  Cursor& cursor = graph_->cursors()[activeCursor_];
-  graph_->dragCursor(cursor, cursor.xPosition() + step.x(), cursor.yPosition() + step.y());
 }
 
 }  // namespace tracewell

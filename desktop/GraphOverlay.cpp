@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "GraphOverlay.h"
 
-#include <qcustomplot.h>
-
 #include <QPainter>
 #include <algorithm>
 
@@ -26,7 +24,7 @@ constexpr qreal flagWidth = 14;
 constexpr qreal tipShare = 0.43;
 constexpr qreal padding = 6;
 constexpr qreal gap = 14;
-constexpr qreal edge = 6;
+constexpr int edge = 6;
 /// Kept free at the right for the mark of the trigger level.
 constexpr qreal roomOfTrigger = 26;
 /// The badge leaves it to the names of the traces.
@@ -99,8 +97,9 @@ QString shown(const std::string& text) {
 
 }  // namespace
 
-GraphOverlay::GraphOverlay(QCustomPlot& plot, ScaleStrip& strip)
-    : QWidget(&plot), plot_(plot), strip_(strip) {
+GraphOverlay::GraphOverlay(QWidget& plot, ScaleStrip& strip,
+                           std::function<QPointF(double, double)> toPixels)
+    : QWidget(&plot), strip_(strip), toPixels_(std::move(toPixels)) {
   setObjectName(QStringLiteral("marks"));
   setAttribute(Qt::WA_TransparentForMouseEvents);
   setFocusPolicy(Qt::NoFocus);
@@ -143,7 +142,7 @@ QRectF GraphOverlay::flagPlace(const Side& side, const QList<QRectF>& taken) con
                isHere ? grown(flagWidth) : grown(flagLength));
   place.moveLeft(1);
   if (isHere)
-    place.moveTop(qBound(1.0, toPixels(0, side.height).y() - grown(flagWidth) / 2,
+    place.moveTop(qBound(1.0, toPixels_(0, side.height).y() - grown(flagWidth) / 2,
                          height() - 1.0 - grown(flagWidth)));
   else
     place.moveTop(side.direction == Side::above ? 1 : height() - 1 - grown(flagLength));
@@ -181,7 +180,7 @@ void GraphOverlay::paintNames(QPainter& painter, const Texts& names) const {
   std::vector<Name> placed;
   for (const GraphMarks::Text& name : names) {
     const Plot& plot = graph_->plot(name.plot);
-    const qreal top = toPixels(0, plot.y().back()).y() - rowHeight / 2;
+    const qreal top = toPixels_(0, plot.y().back()).y() - rowHeight / 2;
     placed.push_back({{name}, qBound(grown(roomOfCursors), top, height() - rowHeight)});
   }
   std::ranges::stable_sort(placed, {}, &Name::top);
@@ -192,7 +191,7 @@ void GraphOverlay::paintNames(QPainter& painter, const Texts& names) const {
   for (std::size_t i = 0; i < placed.size(); ++i) {
     const Texts& row = placed[i].row;
     const QSizeF size = sizeOf(row);
-    const qreal end = toPixels(graph_->plot(row[0].plot).x().back(), 0).x();
+    const qreal end = toPixels_(graph_->plot(row[0].plot).x().back(), 0).x();
     const qreal right = qMin(end, width() - grown(roomOfTrigger));
     paintRow(painter, row, {QPointF(right - size.width(), tops[i]), size});
   }
@@ -222,14 +221,14 @@ void GraphOverlay::paintBadge(QPainter& painter, const Texts& lines) const {
 QPointF GraphOverlay::badgePlace(const QSizeF& size) const {
   const Cursor& cur1 = graph_->cursor("cur1");
   const Cursor& cur2 = graph_->cursor("cur2");
-  const QPointF first = toPixels(cur1.xPosition(), cur1.yPosition());
-  const QPointF second = toPixels(cur2.xPosition(), cur2.yPosition());
+  const QPointF first = toPixels_(cur1.xPosition(), cur1.yPosition());
+  const QPointF second = toPixels_(cur2.xPosition(), cur2.yPosition());
   const qreal mostLeft = width() - grown(roomOfTrigger) - grown(roomOfNames) - size.width();
   const qreal mostTop = height() - grown(roomOfNote) - size.height();
   if (cur1.style() == CursorStyle::verticalLine) {
     qreal left = qMax(first.x(), second.x()) + grown(nearCursor);
     if (left > mostLeft) left = qMin(first.x(), second.x()) - grown(nearCursor) - size.width();
-    return {qBound(edge, left, mostLeft), grown(roomOfCursors)};
+    return {qBound<qreal>(edge, left, mostLeft), grown(roomOfCursors)};
   }
   qreal top = qMax(first.y(), second.y()) + grown(nearCursor);
   if (top > mostTop) top = qMin(first.y(), second.y()) - grown(nearCursor) - size.height();
@@ -272,10 +271,6 @@ QColor GraphOverlay::colourOf(int plot) const {
 
 qreal GraphOverlay::grown(qreal pixels) const {
   return pixels * pixelsOf(*this) / usualFont;
-}
-
-QPointF GraphOverlay::toPixels(double x, double y) const {
-  return {plot_.xAxis->coordToPixel(x), plot_.yAxis->coordToPixel(y)};
 }
 
 }  // namespace tracewell

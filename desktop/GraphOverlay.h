@@ -2,10 +2,9 @@
 #pragma once
 
 #include <QWidget>
+#include <functional>
 
 #include "GraphMarks.h"
-
-class QCustomPlot;
 
 namespace tracewell {
 
@@ -19,7 +18,8 @@ class GraphOverlay : public QWidget {
   Q_OBJECT
 
  public:
-  GraphOverlay(QCustomPlot& plot, ScaleStrip& strip);
+  /// Lies over the plot, in which units of the graph have the pixels that `toPixels` says.
+  GraphOverlay(QWidget& plot, ScaleStrip& strip, std::function<QPointF(double, double)> toPixels);
 
   /// Null for none. The graph lives as long as it is shown.
   void setGraph(const Graph* graph);
@@ -44,10 +44,9 @@ class GraphOverlay : public QWidget {
   QColor colourOf(int plot) const;
   /// Pixels that correspond to `pixels` with the usual font.
   qreal grown(qreal pixels) const;
-  QPointF toPixels(double x, double y) const;
 
-  QCustomPlot& plot_;
   ScaleStrip& strip_;
+  std::function<QPointF(double, double)> toPixels_;
   const Graph* graph_ = nullptr;
   bool isFocusShown_ = false;
 };

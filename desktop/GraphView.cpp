@@ -3,6 +3,7 @@
 
 #include <qcustomplot.h>
 
+#include <QHelpEvent>
 #include <QLabel>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -10,6 +11,7 @@
 #include "Accessible.h"
 #include "Graph.h"
 #include "GraphExchange.h"
+#include "GraphGestures.h"
 #include "GraphOverlay.h"
 #include "QtValues.h"
 #include "ScaleStrip.h"
@@ -61,7 +63,8 @@ GraphView::GraphView(QWidget* parent)
     : QWidget(parent),
       strip_(new ScaleStrip(this)),
       plot_(new QCustomPlot(this)),
-      caption_(new QLabel(this)) {
+      caption_(new QLabel(this)),
+      gestures_(new GraphGestures(*plot_, *strip_, this)) {
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);
@@ -75,6 +78,7 @@ GraphView::GraphView(QWidget* parent)
   setFocusPolicy(Qt::StrongFocus);
   plot_->setFocusPolicy(Qt::NoFocus);
   plot_->installEventFilter(this);
+  connect(gestures_, &GraphGestures::activated, this, &GraphView::markDirty);
   plot_->setNoAntialiasingOnDrag(true);
   plot_->setPlottingHints(QCP::phFastPolylines | QCP::phCacheLabels);
   plot_->setAntialiasedElements(QCP::aePlottables);
@@ -96,7 +100,9 @@ GraphView::GraphView(QWidget* parent)
   note_->setBrush(QColor(0, 0, 0, 170));
   note_->position->setType(QCPItemPosition::ptAxisRectRatio);
   note_->position->setCoords(0.995, 0.99);
-  overlay_ = new GraphOverlay(*plot_, *strip_);
+  overlay_ = new GraphOverlay(*plot_, *strip_, [this](double x, double y) {
+    return QPointF(plot_->xAxis->coordToPixel(x), plot_->yAxis->coordToPixel(y));
+  });
   takeFont();
 }
 
@@ -135,6 +141,7 @@ void GraphView::bind(Graph& graph) {
   graph_ = &graph;
   overlay_->setGraph(graph_);
   strip_->setGraph(graph_);
+  gestures_->setGraph(graph_);
   exchange_ = std::make_unique<GraphExchange>(*this, graph);
   graph.letGo = [this] { unbind(); };
   const auto dirty = [this] {
@@ -142,7 +149,7 @@ void GraphView::bind(Graph& graph) {
     markDirty();
   };
   graph.changed = [this, dirty] {
-    takeWindow();
+    emit enlarged(graph_->enlarged());
     dirty();
   };
   for (Axis& axis : graph.axes()) axis.changed = dirty;
@@ -154,13 +161,6 @@ void GraphView::bind(Graph& graph) {
     isDataNew_[i] = true;
   }
   markDirty();
-}
-
-/// What only holds controls that are hidden would keep its share all the same.
-void GraphView::takeWindow() {
-  for (const char* holder : {"column", "command"})
-    if (auto* widget = window()->findChild<QWidget*>(QLatin1String(holder)))
-      widget->setVisible(!graph_->enlarged());
 }
 
 void GraphView::takeFont() {
@@ -181,7 +181,7 @@ void GraphView::takeFont() {
 
 void GraphView::unbind() {
   Graph* const graph = std::exchange(graph_, nullptr);
-  grabbed_ = nullptr;
+  gestures_->setGraph(nullptr);
   exchange_.reset();
   overlay_->setGraph(nullptr);
   strip_->setGraph(nullptr);
@@ -195,6 +195,36 @@ void GraphView::unbind() {
   }
   // Last: it may be what is running.
   graph->letGo = {};
+}
+
+/// The tip would cover the traces: it belongs to the line below.
+bool GraphView::event(QEvent* event) {
+  if (event->type() == QEvent::FontChange) takeFont();
+  const bool isTip = event->type() == QEvent::ToolTip;
+  if (isTip && !caption_->geometry().contains(static_cast<QHelpEvent*>(event)->pos())) return true;
+  return QWidget::event(event);
+}
+
+bool GraphView::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Resize) {
+    overlay_->setGeometry(plot_->rect());
+    markDirty();
+  }
+  return QWidget::eventFilter(watched, event);
+}
+
+void GraphView::focusInEvent(QFocusEvent* event) {
+  overlay_->setFocusShown(true);
+  QWidget::focusInEvent(event);
+}
+
+void GraphView::focusOutEvent(QFocusEvent* event) {
+  overlay_->setFocusShown(false);
+  QWidget::focusOutEvent(event);
+}
+
+void GraphView::keyPressEvent(QKeyEvent* event) {
+  if (!gestures_->press(*event)) QWidget::keyPressEvent(event);
 }
 
 void GraphView::markDirty() {
@@ -240,7 +270,7 @@ void GraphView::replot() {
   }
   showCursors();
   showTriggerMarker();
-  showValues();
+  gestures_->showValues();
   note_->setText(shownText(graph_->note(), roomOfLine));
   note_->setVisible(!graph_->note().empty());
   plot_->replot(QCustomPlot::rpQueuedRefresh);
@@ -249,7 +279,7 @@ void GraphView::replot() {
 
 void GraphView::replotLive() {
   if (graph_ == nullptr) return;
-  showValues();
+  gestures_->showValues();
   for (std::size_t i = 0; i < liveTraces; ++i) {
     if (!isDataNew_[i]) continue;
     showTrace(graph_->plots()[i], *traces_[i], liveTraceWidth);
@@ -314,7 +344,7 @@ void GraphView::showCursors() {
     const Cursor& cursor = graph_->cursors()[i];
     CursorItems& items = cursorItems_[i];
     const bool isVertical = cursor.style() == CursorStyle::verticalLine;
-    const bool standsOut = i == activeCursor_ && !isForPicture_;
+    const bool standsOut = i == gestures_->activeCursor() && !isForPicture_;
     items.line->setPen(standsOut ? QPen(activeCursorColour, activeCursorWidth, Qt::DashLine)
                                  : QPen(cursorColour, 1, Qt::DashLine));
     items.name->setColor(standsOut ? activeCursorColour : cursorColour);

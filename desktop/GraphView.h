@@ -2,11 +2,9 @@
 #pragma once
 
 #include <QPixmap>
-#include <QPointF>
 #include <QWidget>
 #include <array>
 #include <memory>
-#include <optional>
 
 class QCustomPlot;
 class QCPGraph;
@@ -16,18 +14,19 @@ class QLabel;
 
 namespace tracewell {
 
-class Cursor;
 class Graph;
 class GraphExchange;
+class GraphGestures;
 class GraphOverlay;
 class Plot;
 class ScaleStrip;
 
 /// Draws a Graph: a graticule of 10 by 8 divisions that stays the same in every theme, traces,
-/// cursors and the trigger marker, the x axis's caption below. The user drags the cursors, or moves
-/// the active one with the arrow keys (Shift: ten times as far); C makes the other one active. A
-/// double click or E enlarges the view and restores it. An overlay and the strip above the plot
-/// show what is for the screen alone, and GraphExchange has to do with other programs.
+/// cursors and the trigger marker, the x axis's caption below. GraphGestures follows the mouse and
+/// the keys: the user drags the cursors, or moves the active one with the arrow keys (Shift: ten
+/// times as far); C makes the other one active. A double click or E enlarges the view and restores
+/// it. An overlay and the strip above the plot show what is for the screen alone, and GraphExchange
+/// serves other programs.
 ///
 /// Changes are painted once an event-loop turn, however many they are. Each live trace is kept as a
 /// picture of its own, so that a record has its own trace drawn and nothing else.
@@ -51,6 +50,10 @@ class GraphView : public QWidget {
   QSize sizeHint() const override { return {820, 540}; }
   QSize minimumSizeHint() const override { return {320, 240}; }
 
+ signals:
+  /// The view is enlarged now, or restored: what else is in the window makes room or comes back.
+  void enlarged(bool isEnlarged);
+
  protected:
   bool event(QEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -68,10 +71,7 @@ class GraphView : public QWidget {
   /// Of the graph nothing but the data of that trace has changed.
   void markPlotted(std::size_t trace);
   void paintSoon();
-  void takeWindow();
   void takeFont();
-  /// Of what is under the pointer.
-  void showValues();
   void replot();
   void replotLive();
   /// The data, if they are others than those that were drawn.
@@ -82,19 +82,12 @@ class GraphView : public QWidget {
   void showCursors();
   void showTriggerMarker();
   void makeGraticule();
-  /// The number of the cursor there, from 0.
-  std::optional<std::size_t> cursorAt(const QPointF& position) const;
-  void activate(std::size_t cursor);
-  void takeHold(const QMouseEvent& event);
-  void follow(const QMouseEvent& event);
-  void showPointerShape(const QPointF& position);
-  QPointF toUnits(const QPointF& position) const;
-  void dragTo(const QPointF& position);
 
   ScaleStrip* strip_;
   QCustomPlot* plot_;
   QLabel* caption_;
   GraphOverlay* overlay_ = nullptr;
+  GraphGestures* gestures_;
   std::array<QCPGraph*, 6> traces_{};
   std::array<bool, 6> isDataNew_{};
   std::array<CursorItems, 2> cursorItems_;
@@ -103,10 +96,6 @@ class GraphView : public QWidget {
   QCPItemText* note_ = nullptr;
   Graph* graph_ = nullptr;
   std::unique_ptr<GraphExchange> exchange_;
-  Cursor* grabbed_ = nullptr;
-  std::size_t activeCursor_ = 0;
-  /// Where the mouse is over the plot.
-  std::optional<QPointF> pointer_;
   bool isPaintDue_ = false;
   bool isDirty_ = false;
   bool isForPicture_ = false;

@@ -19,12 +19,18 @@ void tellLamp(const ValueLabel& control, const QLabel& label, const QWidget& for
   if (lamp != nullptr) lamp->setState(shownText(control.caption(), roomOfLine));
 }
 
+/// Those that look alike are told apart by the label in front of them.
+void tellExplained(const QLabel& label, const QWidget& form) {
+  for (const QString& name : label.property("explains").toString().split(QLatin1Char(' ')))
+    if (auto* part = form.findChild<QWidget*>(name)) part->setAccessibleDescription(label.text());
+}
+
 /// A caption that nobody has told as sentences is one.
 std::vector<ElidedLabel::Sentence> shownSentences(const ValueLabel& control) {
   std::vector<ElidedLabel::Sentence> shown;
   for (const ValueLabel::Sentence& sentence : control.sentences)
     shown.push_back({shownText(sentence.text, roomOfLine), sentence.isWarning});
-  if (shown.empty()) shown.push_back({shownText(control.caption(), roomOfLine), control.isWarning});
+  if (shown.empty()) shown.push_back({shownText(control.caption(), roomOfLine), false});
   return shown;
 }
 
@@ -43,6 +49,7 @@ void showValue(const ValueLabel& control, QLabel& label, const QWidget& form) {
   showInLabel(label, control.caption(), widestOf(label));
   if (label.text() != before) tellName(label);
   tellLamp(control, label, form);
+  if (label.property("explains").isValid()) tellExplained(label, form);
   auto* line = qobject_cast<ElidedLabel*>(&label);
   if (line != nullptr && label.property("status").toBool())
     line->setSentences(shownSentences(control));

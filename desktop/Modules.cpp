@@ -3,6 +3,7 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QJsonObject>
 #include <QPluginLoader>
 
 #include "QtValues.h"
@@ -21,9 +22,17 @@ QString placeOf(const QString& name) {
   return (QFileInfo::exists(installed) ? installed : own) + QLatin1Char('/') + name;
 }
 
+/// Of a module that is linked into the program; none otherwise.
+QObject* linkedModule(const QString& name) {
+  for (const QStaticPlugin& plugin : QPluginLoader::staticPlugins())
+    if (plugin.metaData().value(QStringLiteral("IID")).toString() == name) return plugin.instance();
+  return nullptr;
+}
+
 }  // namespace
 
 QObject& moduleObject(const QString& name, int errorNumber) {
+  if (QObject* const linked = linkedModule(name)) return *linked;
   QPluginLoader loader(placeOf(name));
   if (QObject* const object = loader.instance()) return *object;
   throw moduleError(errorNumber, name, loader.errorString());

@@ -6,7 +6,9 @@
 #include "Error.h"
 
 /// Parts of the program that lie in libraries of their own, with what they stand on: they are
-/// loaded when they are first needed, and the start is that much shorter.
+/// loaded when they are first needed, and the start is that much shorter. A program that has
+/// everything inside (TRACEWELL_MODULES_INSIDE) has them inside, too. The IID of its plug-in is
+/// the module's name.
 namespace tracewell {
 
 /// The object that the library of that name makes; it stays until the program ends. The library

@@ -51,7 +51,7 @@ class Socket : public QTcpSocket, public TcpSocket {
 
 class NetworkModule : public QObject, public Network {
   Q_OBJECT
-  Q_PLUGIN_METADATA(IID "tracewell.Network")
+  Q_PLUGIN_METADATA(IID "tracewell-network")
   Q_INTERFACES(tracewell::Network)
 
  public:

@@ -124,7 +124,7 @@ Image imageOf(Magick::Image picture) {
 
 class PictureModule : public QObject, public PictureCoder {
   Q_OBJECT
-  Q_PLUGIN_METADATA(IID "tracewell.PictureCoder")
+  Q_PLUGIN_METADATA(IID "tracewell-pictures")
   Q_INTERFACES(tracewell::PictureCoder)
 
  public:

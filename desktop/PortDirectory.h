@@ -19,12 +19,12 @@ namespace tracewell {
 
 /// What the port numbers mean on this machine.
 ///
-/// Number 0 is the built-in simulated instrument. On Windows n is COMn, always. Elsewhere 1 to 32
-/// are ttyS0 to ttyS31, 33 to 64 ttyUSB0 to ttyUSB31, 65 to 96 ttyACM0 to ttyACM31; a link "comN"
-/// in the program folder stands for number N whatever its range, and so does a file "comN" with the
-/// line "tcp://host:port", which means a serial device server. Once seen, it stands for that number
-/// until the program ends. A number does not become the usual device when a link goes, nor another
-/// server.
+/// Number 0 is the built-in simulated instrument. On Windows n is COMn. Elsewhere 1 to 32 are ttyS0
+/// to ttyS31, 33 to 64 ttyUSB0 to ttyUSB31, 65 to 96 ttyACM0 to ttyACM31. A link "comN" in the
+/// program folder stands for number N whatever its range, and so does a file "comN" with the line
+/// "tcp://host:port", which means a serial device server; on Windows from com10 on. Once seen, it
+/// stands for that number until the program ends. A number does not become the usual device when a
+/// link goes, nor another server.
 class PortDirectory : public ChannelOpener, public PortList {
  public:
   PortDirectory(std::filesystem::path programFolder, Clock& clock, StandBy& standBy);

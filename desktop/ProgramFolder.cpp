@@ -1,17 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ProgramFolder.h"
 
-#include <QCoreApplication>
-#include <QFileInfo>
-#include <QStandardPaths>
 #include <algorithm>
 #include <array>
-#include <cstdlib>
 
 #include "Error.h"
 #include "Files.h"
-#include "QtValues.h"
 #include "ShippedFiles.h"
+#include "SystemFolders.h"
 
 namespace tracewell {
 namespace {
@@ -37,43 +33,8 @@ bool holdsProgramFiles(const fs::path& folder) {
   return fs::exists(folder / "dso_la1.msg", ignored);
 }
 
-#ifdef __linux__
-
-/// As the system has it, whatever the bytes of its name.
-fs::path executableFolder() {
-  std::error_code failed;
-  const fs::path executable = fs::read_symlink("/proc/self/exe", failed);
-  return failed ? toPath(QCoreApplication::applicationDirPath()) : executable.parent_path();
-}
-
-/// Relative paths do not count there; they would mean another folder at each start.
-fs::path usersFolder() {
-  const auto folderIn = [](const char* name) {
-    const char* const value = std::getenv(name);
-    const fs::path path = value == nullptr ? "" : value;
-    return path.is_absolute() ? path : fs::path();
-  };
-  fs::path data = folderIn("XDG_DATA_HOME");
-  if (data.empty() && !folderIn("HOME").empty()) data = folderIn("HOME") / ".local" / "share";
-  if (data.empty())
-    data = toPath(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
-  return data / QCoreApplication::applicationName().toStdString();
-}
-
-#else
-
-fs::path executableFolder() {
-  return toPath(QCoreApplication::applicationDirPath());
-}
-
-fs::path usersFolder() {
-  return toPath(QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation));
-}
-
-#endif
-
 bool isPortable(const fs::path& own) {
-  return QFileInfo(toQt(own)).isWritable() && holdsProgramFiles(own);
+  return mayWriteInto(own) && holdsProgramFiles(own);
 }
 
 }  // namespace

@@ -1,15 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "QtSerialChannel.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
-
-#ifdef Q_OS_UNIX
 #include <fcntl.h>
 #include <termios.h>
 #include <unistd.h>
-#endif
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 
 namespace tracewell {
 namespace {
@@ -29,7 +27,6 @@ QSerialPort::Parity parityOf(std::int16_t code) {
 /// library opens the device, since it puts back at closing what it has found at opening. What fails
 /// here, opening reports.
 void keepControlLinesOnClose(const QString& device) {
-#ifdef Q_OS_UNIX
   const QString path = QDir(QStringLiteral("/dev")).absoluteFilePath(device);
   const int descriptor =
       ::open(QFile::encodeName(path).constData(), O_RDWR | O_NOCTTY | O_NONBLOCK);
@@ -40,9 +37,6 @@ void keepControlLinesOnClose(const QString& device) {
     tcsetattr(descriptor, TCSANOW, &attributes);
   }
   ::close(descriptor);
-#else
-  static_cast<void>(device);
-#endif
 }
 
 }  // namespace

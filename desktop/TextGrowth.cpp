@@ -7,6 +7,7 @@
 #include <QGroupBox>
 #include <QLayout>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QVariant>
 
 namespace tracewell {
@@ -25,12 +26,17 @@ qreal growthOf(const QSizeF& window) {
               qMin(window.width() / designedSize.width(), window.height() / designedSize.height()));
 }
 
-void setPixels(const std::vector<QWidget*>& widgets, int pixels) {
+/// A button in a larger window is higher than its text needs: it is what the hand looks for.
+constexpr qreal heightOfButton = 2.25;
+
+void setPixels(const std::vector<QWidget*>& widgets, int pixels, int usual) {
   for (QWidget* widget : widgets) {
     // With what the style sheet has made of it.
     QFont font = widget->font();
     font.setPixelSize(pixels);
     widget->setFont(font);
+    if (qobject_cast<QPushButton*>(widget) != nullptr)
+      widget->setMinimumHeight(pixels > usual ? qRound(heightOfButton * pixels) : 0);
   }
 }
 
@@ -105,10 +111,10 @@ void TextGrowth::growSlowly() {
   wanted_ = wanted;
   if (isUsual) return;
   grownFor_ = words();
-  setPixels(inColumn_, usual);
+  setPixels(inColumn_, usual, usual);
   for (const auto* widgets : {&beside_, &inColumn_}) {
     int pixels = wanted;
-    do setPixels(*widgets, pixels);
+    do setPixels(*widgets, pixels, usual);
     while (!fits() && --pixels >= usual);
   }
 }

@@ -1,19 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <QApplication>
-
 #include "DesktopDisk.h"
 #include "DesktopProgram.h"
 #include "KeptFiles.h"
 #include "ProgramFolder.h"
 #include "ShownText.h"
+#include "StartOptions.h"
 #include "Termination.h"
 
 int main(int argumentCount, char** arguments) {
-  QApplication application(argumentCount, arguments);
+  if (tracewell::isAnsweredWithoutWindow(argumentCount, arguments)) return EXIT_SUCCESS;
+  const std::unique_ptr<QApplication> application =
+      tracewell::makeApplication(argumentCount, arguments);
   QApplication::setApplicationName(QStringLiteral("tracewell"));
   // The main window itself says when the program ends.
   QApplication::setQuitOnLastWindowClosed(false);
-  tracewell::keepLabelsPlain(application);
+  tracewell::keepLabelsPlain(*application);
   tracewell::DesktopDisk disk;
   tracewell::useDisk(&disk);
 

@@ -22,20 +22,20 @@ std::string footnote(const frmDSO& main) {
 }  // namespace
 
 void WaveformButtons::cmdSave_Click() {
-  const Paused paused(main_, acquisition_);
+  const Paused paused(main_, acquisition_, saveWindow_.caption);
   saveWindow_.takePicture(picture());
   main_.refresh();
   saveWindow_.showModal();
 }
 
 void WaveformButtons::cmdLoad_Click() {
-  const Paused paused(main_, acquisition_);
+  const Paused paused(main_, acquisition_, loadWindow_.caption);
   main_.refresh();
   loadWindow_.showModal();
 }
 
 void WaveformButtons::cmdLoadCSV_Click() {
-  const Paused paused(main_, acquisition_);
+  const Paused paused(main_, acquisition_, main_.cmdLoadCSV.caption);
   const Services& services = main_.services();
   const std::filesystem::path path =
       services.dialogs.openFile({services.programFolder, "Load CSV file", "", "*.csv|*.csv"});
@@ -43,7 +43,7 @@ void WaveformButtons::cmdLoadCSV_Click() {
 }
 
 void WaveformButtons::graphDSO_FileDropped(const std::filesystem::path& path) {
-  const Paused paused(main_, acquisition_);
+  const Paused paused(main_, acquisition_, main_.cmdLoadCSV.caption);
   loadCSV(path);
 }
 

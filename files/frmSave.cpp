@@ -17,16 +17,15 @@ std::string timeStamp(const Clock& clock) {
   return digits;
 }
 
-/// Where it is without a folder of its own, the present one.
-std::string folderText(const std::filesystem::path& path) {
-  return pathText(std::filesystem::absolute(path).parent_path());
-}
-
-/// Without regard to case, which not every file system knows.
-bool isDataExtension(std::string extension) {
-  for (char& c : extension)
-    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-  return extension == ".csv" || extension == ".inf";
+/// The displayed channels, with the scales and positions that the window shows.
+WaveformSet shownSet(const frmDSO& main) {
+  WaveformSet set;
+  for (const Channel& channel : main.channels)
+    if (channel.display.isChecked())
+      set.traces.at(channel.index()) = {channel.record.bytes, channel.slide.value(),
+                                        channel.scale.caption()};
+  set.timePosition = main.slideTime.value();
+  return set;
 }
 
 }  // namespace
@@ -56,7 +55,7 @@ void frmSave::Form_Activate() {
   lblScales.caption = scalesNotOfTraces_ ? scalesNotOfTraces_(services().words) : "";
   lblScales.visible = static_cast<bool>(scalesNotOfTraces_);
   try {
-    txtDatFile.text = BuildCsvText(main_);
+    txtDatFile.text = BuildCsvText(shownSet(main_));
   } catch (const Error&) {
     txtDatFile.text = "";
   }
@@ -96,28 +95,21 @@ void frmSave::cmdOK_Click() {
 }
 
 void frmSave::saveSet(const std::filesystem::path& path) {
-  const std::string name = pathText(path);
-  const std::string base = withoutExtension(name);
+  WaveformSet set = shownSet(main_);
+  set.author = txtAuthor.text();
+  set.description = txtDes.text();
   const std::string csv = txtDatFile.text();
   const std::string picture = services().pictures.encode(pictureTemp.image(), pictureType_);
-  if (isDataExtension(name.substr(base.size())))
-    throw Error(pathAccess, "Tracewell", "A picture cannot have the name of its data: " + name);
-  txtDatFile.text = buildInfText(main_, name, txtAuthor.text(), txtDes.text());
+  txtDatFile.text = buildInfText(set, pathText(path));
   try {
-    checkReadable(pathOf(base + ".inf"), txtDatFile.text(), fileLimit::description);
-    writeWholeFiles({{pathOf(base + ".csv"), csv},
-                     {pathOf(base + ".inf"), txtDatFile.text()},
-                     {path, picture}});
+    writeWaveformSet(path, {csv, txtDatFile.text(), picture});
   } catch (const Error&) {
     // The window stays open, and its next OK begins with the data again.
     txtDatFile.text = csv;
     throw;
   }
-  const auto nameOf = [](const std::string& text) { return pathText(pathOf(text).filename()); };
-  main_.status.tell(StatusLine::happened, [=](const Words& words) {
-    return words.say("Saved %1, %2 and %3 in %4", {pathText(path.filename()), nameOf(base + ".csv"),
-                                                   nameOf(base + ".inf"), folderText(path)});
-  });
+  main_.status.tell(StatusLine::happened,
+                    [=](const Words& words) { return setWasSaved(words, path); });
   if (scalesNotOfTraces_) main_.status.tellToo(StatusLine::happened, scalesNotOfTraces_);
 }
 

@@ -25,7 +25,7 @@ bool isScale(Setting setting) {
   return setting == scale1 || setting == scale2 || setting == timeBase;
 }
 
-/// Of a scale command the caption that the instrument has for it.
+/// The instrument's caption for the value of a scale command.
 std::optional<std::string> captionOf(Setting scale, std::string_view argument) {
   const auto find = [&](const auto& values, const auto& texts) -> std::optional<std::string> {
     const auto found = std::ranges::find(values, argument);
@@ -69,7 +69,7 @@ void KnownInstrument::notSent(std::string_view line) {
   tell();
 }
 
-/// What is sent locks, and what may have been sent may have.
+/// A sent command locks the instrument's panel; one that may have been sent may have locked it.
 void KnownInstrument::lockUncertain() {
   if (number(lock) != 1.0) doubtful(lock, Doubt::mayHaveChanged);
 }
@@ -79,7 +79,7 @@ void KnownInstrument::requested() {
   tell();
 }
 
-/// Whatever is sent locks the instrument's own panel.
+/// Any command locks the instrument's own panel.
 void KnownInstrument::obey(const WirePart& command, bool isTrusted) {
   takeSent(lock, {1.0, ""});
   if (command.isQuery) return;
@@ -95,7 +95,7 @@ void KnownInstrument::obey(const WirePart& command, bool isTrusted) {
   takeSent(setting, *value);
 }
 
-/// What it may be now counts where it makes a difference to records.
+/// A possible change counts wherever it makes a difference to records.
 void KnownInstrument::leaveOpen(Setting setting, const WirePart& command) {
   doubtful(setting, Doubt::mayHaveChanged);
   if (setting == math) mathMayBeOn_ = true;
@@ -139,7 +139,7 @@ std::optional<KnownInstrument::Value> KnownInstrument::sentValue(Setting setting
   return value ? std::optional(Value{value, ""}) : std::nullopt;
 }
 
-/// Offsets in whatever form the panel makes a position of.
+/// Accepts an offset in any form that the panel makes a position of.
 std::optional<KnownInstrument::Value> KnownInstrument::toldValue(Setting setting,
                                                                  std::string_view reply) const {
   reply = trimBlanks(reply);
@@ -205,8 +205,8 @@ void KnownInstrument::doubtful(Setting setting, Doubt reason) {
   followed(setting);
 }
 
-/// Nothing is nothing in any scale. What is in doubt already passes it on, and has changed once
-/// more: the value that is told next is not the one of before.
+/// A position of zero is zero in any scale. One already in doubt passes the doubt on, and has
+/// changed once more: the next value told is not the earlier one.
 void KnownInstrument::followed(Setting setting) {
   const auto dependent = dependentOn(setting);
   if (!dependent) return;
@@ -216,7 +216,7 @@ void KnownInstrument::followed(Setting setting) {
   followed(*dependent);
 }
 
-/// Of several questions in a line nobody knows which one is answered.
+/// With several queries in a line, which one is answered is unknown.
 void KnownInstrument::answered(std::string_view query, std::string_view reply) {
   takeSent(lock, {1.0, ""});
   const std::vector<WirePart> parts = wireParts(query);
@@ -231,7 +231,7 @@ void KnownInstrument::answered(std::string_view query, std::string_view reply) {
       asked.line = presentLine();
       continue;
     }
-    // When it has become another one is not known: what was asked for before may be of either.
+    // The moment of the change is unknown: an earlier query may have asked either instrument.
     const bool wasTold = asked.line == presentLine() && (asked.number || !asked.caption.empty());
     const bool isOther =
         wasTold && (asked.number != value->number || asked.caption != value->caption);
@@ -249,7 +249,7 @@ void KnownInstrument::notAnswered(std::string_view query) {
     const std::optional<Setting> setting = askedBy(part);
     if (!setting) continue;
     entry(*setting).line = presentLine();
-    // That it may have changed before stays true.
+    // An earlier possible change remains possible.
     const Doubt before = entry(*setting).doubt;
     if (before != Doubt::mayHaveChanged && before != Doubt::notSent)
       entry(*setting).doubt = Doubt::noAnswer;
@@ -259,7 +259,7 @@ void KnownInstrument::notAnswered(std::string_view query) {
 
 void KnownInstrument::reading() {
   for (const Setting setting : {scale1, scale2, timeBase, position1, position2}) {
-    // The values of another instrument are no longer of account.
+    // The values of another instrument no longer matter.
     if (entry(setting).line != presentLine()) {
       entry(setting) = Entry();
       entry(setting).changedAt = ++now_;
@@ -270,7 +270,7 @@ void KnownInstrument::reading() {
   tell();
 }
 
-/// An instrument that is stopped has one sweep, not two.
+/// A stopped instrument keeps one sweep, not two.
 void KnownInstrument::swept(int channel, Moment requested) {
   if (isStopped() || requested < changedAt(running)) return;
   Swept& last = swept_[static_cast<std::size_t>(channel - 1)];
@@ -292,8 +292,8 @@ Doubt KnownInstrument::doubt(Setting setting) const {
   return isMoving ? Doubt::mayHaveChanged : asked.doubt;
 }
 
-/// In one of its modes the instrument finds its level by itself. That one is not expected before
-/// it is heard of.
+/// In one of its modes the instrument finds the trigger level by itself. The panel does not expect
+/// that level before it has been read.
 bool KnownInstrument::mayMoveLevel() const {
   const Entry& mode = entry(triggerMode);
   if (mode.doubt == Doubt::neverRead || !isOnPortOf(mode)) return false;
@@ -341,14 +341,14 @@ bool KnownInstrument::isStopped() const {
   return number(running) == stoppedState;
 }
 
-/// It was, on this port, and has not been told to run since.
+/// True if it was stopped on this port and has not been told to run since.
 bool KnownInstrument::mayBeStopped() const {
   const Entry& told = entry(running);
   return !isKnown(running) && isOnPortOf(told) && told.number == stoppedState;
 }
 
-/// What has been changed since the last sweep that is known of may not be in it yet; where it may
-/// have been stopped before, that stop counts, too.
+/// A change since the last known sweep may not be in that sweep yet. If the instrument may have
+/// been stopped earlier, that stop counts too.
 void KnownInstrument::stop() {
   for (const int channel : {1, 2}) {
     MadeUnder& frozen = atStop_[static_cast<std::size_t>(channel - 1)];
@@ -369,8 +369,8 @@ MadeUnder KnownInstrument::settingsAt(int channel, Moment moment) const {
   return made;
 }
 
-/// Since when a sweep that is new is sure to be: one that sweeps freely has swept behind the
-/// request, one that waits for its trigger since the sweep before.
+/// The moment since when a new sweep is certain: a free-running instrument has swept after the
+/// request, one that waits for its trigger after the sweep before.
 KnownInstrument::Moment KnownInstrument::sweptSince(int channel) const {
   const Entry& mode = entry(triggerMode);
   const bool waits = isOnPortOf(mode) && mode.number >= normalMode;

@@ -13,7 +13,7 @@ bool isQuery(const std::string& command) {
   return command.ends_with('?');
 }
 
-/// A question in the middle of a line is answered, too, and is not read.
+/// The instrument also answers a query in the middle of a line; that reply is not read.
 SerialPort::Reply replyTo(const std::string& command) {
   return command.find('?') == std::string::npos ? SerialPort::Reply::none
                                                 : SerialPort::Reply::unread;
@@ -40,7 +40,7 @@ std::string CommandExchange::SendDSOCmd(const std::string& command) {
   return reply;
 }
 
-/// A line that ends as a query may hold commands, too; that it went out is sure with its answer.
+/// A line that ends in a query may hold commands too. Its reply proves that it was sent.
 std::string CommandExchange::sendTyped(const std::string& line) {
   std::string reply = transfer(line);
   if (wasSent_)
@@ -55,7 +55,7 @@ std::string CommandExchange::transfer(const std::string& command) {
   return isQuery(command) ? ask(command) : send(command, repeatLimit);
 }
 
-/// What has not left the program changes nothing, but what is shown is no longer what is known.
+/// A line that never left the program changes nothing, but the panel no longer shows what is known.
 void CommandExchange::noteFailed(const std::string& line) {
   if (hasBegun_)
     main_.known.notSent(line);
@@ -71,7 +71,11 @@ void CommandExchange::noteAnswered(const std::string& query, const std::string& 
 }
 
 void CommandExchange::lookForDoubts() {
-  const LineReport::Doubt doubt = main_.services().port.report().doubt;
+  const LineReport report = main_.services().port.report();
+  const bool isLost = !report.failure.empty();
+  if (isLost && !std::exchange(isLossSeen_, isLost)) lineLost.raise();
+  isLossSeen_ = isLost;
+  const LineReport::Doubt& doubt = report.doubt;
   if (std::exchange(doubtsSeen_, doubt.times) == doubt.times) return;
   for (const Answer& answer : answers_)
     if (answer.at >= doubt.firstAnswerAt && answer.at <= doubt.lastAnswerAt + handingOver)
@@ -101,7 +105,7 @@ std::string CommandExchange::send(const std::string& command, int repeatsLeft) {
       send(command, repeatsLeft - 1);
     else
       errorLog_.ErrLog(error, "SendDSOCmd : ");
-    // Also where the repeated query had a reply, which is not used.
+    // Even if the repeated query had a reply, which is not used.
     noteAnswer(command, false);
     return "";
   }
@@ -132,10 +136,10 @@ void CommandExchange::prepare() {
 }
 
 std::string CommandExchange::query(const std::string& command) {
-  // Until it is answered it may have gone out or not.
+  // Until its reply arrives, the line may have been sent or not.
   main_.known.notSent(command);
   const std::string line = main_.services().port.query(command + "\r\n", readTimeOut);
-  // Before anything is painted: the line's own moment.
+  // Before anything is painted, so that this is the moment of the line itself.
   answeredAt_ = main_.services().clock.milliseconds();
   return replyValue(line);
 }

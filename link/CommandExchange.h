@@ -41,8 +41,11 @@ class CommandExchange {
   /// When the last answer came, on Clock's scale.
   std::int64_t answeredAt() const { return answeredAt_; }
 
-  /// Takes back the answers that the line has come to doubt since the last call.
+  /// Takes back the answers that the line has come to doubt since the last call, and tells of a
+  /// line that has failed.
   void lookForDoubts();
+  /// There may be another instrument on it when it is open again.
+  Event<> lineLost;
 
   /// Releases the instrument's own panel if a command has locked it. Logs its failure.
   void LoadSetup();
@@ -74,6 +77,7 @@ class CommandExchange {
   std::deque<Answer> answers_;
   std::int64_t answeredAt_ = 0;
   int doubtsSeen_ = 0;
+  bool isLossSeen_ = false;
   bool wasSent_ = false;
   /// Some of the last line may have gone out.
   bool hasBegun_ = false;

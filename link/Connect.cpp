@@ -52,7 +52,7 @@ void Connect::showAcquisition() {
   }
 }
 
-/// Nothing that went well before counts: a port that cannot be opened leaves the link as it was.
+/// Earlier successes do not count: a port that cannot be opened leaves the link as it was.
 void Connect::readInstrument() {
   main_.LinkOK = false;
   instrument_.InitDSO();

@@ -35,8 +35,8 @@ Inquiry::~Inquiry() {
     main_.status.withdraw(StatusLine::progress);
 }
 
-/// Settings that are sent belong to the task that has begun with questions, and so does a single
-/// question behind them.
+/// Settings that are sent belong to the task that began with queries, and so does a single query
+/// after them.
 void Inquiry::withdrawEarlier() {
   main_.status.withdraw(StatusLine::happened);
   if (items_ == Of::settings) return;
@@ -59,6 +59,7 @@ void Inquiry::showMissed() {
 void Inquiry::next() {
   finishItem();
   ++item_;
+  missedBefore_ = missing_;
   showProgress();
 }
 
@@ -70,6 +71,13 @@ std::string Inquiry::progress(const Words& words) const {
   if (items_ == Of::oneQuestion) return words.say("Waiting for the answer to %1", {name_()});
   const std::string item = std::to_string(item_);
   const std::string count = std::to_string(count_);
+  if (missedBefore_ > 0) {
+    const std::string missing = std::to_string(missedBefore_);
+    return items_ == Of::questions ? words.say("%1: question %2 of %3, %4 not answered",
+                                               {name_(), item, count, missing})
+                                   : words.say("%1: setting %2 of %3, %4 not confirmed",
+                                               {name_(), item, count, missing});
+  }
   return items_ == Of::questions ? words.say("%1: question %2 of %3", {name_(), item, count})
                                  : words.say("%1: setting %2 of %3", {name_(), item, count});
 }

@@ -70,6 +70,8 @@ class Inquiry {
   int count_;
   int item_ = 0;
   int missing_ = 0;
+  /// Of the items before the present one.
+  int missedBefore_ = 0;
   bool isMissing_ = false;
   Inquiry* outer_;
 };

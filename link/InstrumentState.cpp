@@ -76,8 +76,8 @@ void InstrumentState::showScale(ScaleKnob kind, ValueLabel& label, Knob& knob) {
   if (step) knob.value = *step;
 }
 
-/// Without the read-out of the cursors, which a knob refreshes as its last act: not all of its
-/// scales may be known yet, and reading the instrument goes on.
+/// Leaves out the cursors' read-out, which a knob refreshes last: its scales may not all be known
+/// yet, and reading the instrument has not ended.
 void InstrumentState::showScaleOnly(ScaleKnob kind, ValueLabel& label, Knob& knob) {
   try {
     showScale(kind, label, knob);
@@ -85,13 +85,13 @@ void InstrumentState::showScaleOnly(ScaleKnob kind, ValueLabel& label, Knob& kno
   }
 }
 
-/// A second reply counts as it stands.
+/// Takes a second reply as it stands.
 std::string InstrumentState::scaleReply(const std::string& query) {
   std::string reply = trimmed(exchange_.SendDSOCmd(query));
   return reply.empty() ? exchange_.SendDSOCmd(query) : reply;
 }
 
-/// The second reply where the first is empty.
+/// Takes the second reply if the first is empty.
 std::string InstrumentState::positionReply(const std::string& query) {
   std::string reply = trimmed(exchange_.SendDSOCmd(query));
   return reply.empty() ? trimmed(exchange_.SendDSOCmd(query)) : reply;

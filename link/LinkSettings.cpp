@@ -62,7 +62,7 @@ void applyLinkSettings(frmDSO& main) {
   try {
     settings = linkSettings(main.gridMeasure);
   } catch (const Error&) {
-    // The port's stay, and the notice says so.
+    // The port keeps its settings, and the notice says so.
   }
   showPort(main, settings.portNumber);
   showDifferingLink(main);

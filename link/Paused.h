@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Acquisition.h"
+#include "Doing.h"
 
 namespace tracewell {
 
@@ -9,7 +10,9 @@ namespace tracewell {
 /// unlike a SettingsDialog. What the user has had done before is no longer said.
 class Paused {
  public:
-  Paused(frmDSO& main, Acquisition& acquisition) : main_(main), acquisition_(acquisition) {
+  /// The banner calls it by `caption`.
+  Paused(frmDSO& main, Acquisition& acquisition, const Property<std::string>& caption)
+      : main_(main), acquisition_(acquisition), pause_(main, sayPaused(caption)) {
     main.status.withdraw(StatusLine::happened);
     acquisition_.StopAcq();
   }
@@ -21,6 +24,7 @@ class Paused {
  private:
   const frmDSO& main_;
   Acquisition& acquisition_;
+  Doing pause_;
 };
 
 }  // namespace tracewell

@@ -12,7 +12,7 @@ void SettingsBurst::writeAndVerify(const Property<std::string>& caption,
   const Sending sending(*this, row);
   const ShortTimeOut shortTimeOut(main_.state, exchange_);
   main_.txtMsg.text = "";
-  // A setup that is loaded meanwhile is of the next time.
+  // A setup that is loaded during the burst counts for the next one.
   const SetupTable chosen = main_.gridMeasure;
   const int count = static_cast<int>(stems.size());
   Inquiry inquiry(exchange_.inquiries(), caption, Inquiry::Of::settings, count - first);

@@ -36,7 +36,7 @@ ShortTimeOut::ShortTimeOut(const ModuleState& state, CommandExchange& exchange, 
 
 ShortTimeOut::~ShortTimeOut() {
   try {
-    // Anew: a channel may have been switched on or off meanwhile.
+    // Counted again: a channel may have been switched on or off in the meantime.
     exchange_.readTimeOut = ReplyTimeout(state_);
   } catch (const Error&) {
     exchange_.readTimeOut = normal_;
@@ -48,7 +48,7 @@ void Delay(frmDSO& main, std::int32_t milliseconds) {
   const StandBy& standBy = main.services().standBy;
   const std::int32_t start = tickCount(clock);
   do {
-    // Nothing runs inside a burst that has been given up: it would find no answers either.
+    // Nothing runs inside a burst that was given up: it would find no replies either.
     if (standBy.isGivenUp()) return;
     clock.pumpEvents();
     main.services().gate.mustBeOpen();

@@ -26,7 +26,7 @@ void frmRS232::mnbRS232_Click() {
   showModal();
 }
 
-/// Anew at each opening: ports come and go with their cables.
+/// Listed again at each opening: ports come and go with their cables.
 void frmRS232::listPorts() {
   std::vector<std::string> numbers;
   for (const PortList::Entry& port : services().ports.ports())

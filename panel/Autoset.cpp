@@ -26,12 +26,25 @@ void Autoset::cmdAutoset_Click() {
     Delay(main_, duration);
     instrument_.InitDSO();
     acquisition_.ResumeAcq();
-    message_.hide();
+    hideMessage();
     message_.refresh();
   } catch (const Error& error) {
-    message_.hide();
+    hideMessage();
     errorLog_.ErrLog(error, "cmdAutoset_Click : ");
   }
+}
+
+void Autoset::hideMessage() {
+  message_.hide();
+  main_.status.withdraw(StatusLine::refused);
+}
+
+bool Autoset::isUnderWay(const Property<std::string>& caption) const {
+  if (!message_.isVisible()) return false;
+  main_.status.tell(StatusLine::refused, [&caption](const Words& words) {
+    return words.say("%1: wait until the autoset is over", {caption()});
+  });
+  return true;
 }
 
 }  // namespace tracewell

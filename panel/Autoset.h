@@ -17,8 +17,12 @@ class Autoset {
           InstrumentState& instrument, frmMsg& message);
 
   void cmdAutoset_Click();
+  /// Whether the instrument is at it. Then the status line says that `caption` has to wait.
+  bool isUnderWay(const Property<std::string>& caption) const;
 
  private:
+  void hideMessage();
+
   frmDSO& main_;
   CommandExchange& exchange_;
   ErrorLog& errorLog_;

@@ -27,6 +27,7 @@ class SettingsDialog : public Window {
   /// not. An error ends it there and leaves the fetch as it stands, unlike Paused.
   void edit(Fetching fetching, const Step& fill, const Step& send);
 
+  frmDSO& main_;
   Unanswered unanswered_;
 
  private:

@@ -36,7 +36,7 @@ void TimeControls::slideTime_PointerValueCommitted() {
 
 void TimeControls::slideTrig_PointerValueChanged() {
   showSlideValue(main_, main_.slideTrig);
-  // Its marker follows the hand.
+  // The marker follows the slide while it is dragged.
   main_.marksDue.raise();
 }
 

@@ -10,11 +10,10 @@ namespace tracewell {
 frmAcq::frmAcq(frmDSO& main, CommandExchange& exchange, ErrorLog& errorLog,
                Acquisition& acquisition, Captions& captions)
     : SettingsDialog("frmAcq", "Acquisition", main, acquisition),
-      main_(main),
       exchange_(exchange),
       errorLog_(errorLog),
       captions_(captions) {
-  // Set at loading only: after an OK a later Cancel sends the row again.
+  // Set at loading only: a Cancel after an OK sends the row again.
   formLoad = [this] { outcome = Outcome::cancelled; };
   cbMode.click = [this] { cbMode_Click(); };
   cmdOK.click = [this] { cmdOK_Click(); };

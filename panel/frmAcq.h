@@ -37,7 +37,6 @@ class frmAcq : public SettingsDialog {
   void cmdOK_Click();
   void cmdCancel_Click();
 
-  frmDSO& main_;
   CommandExchange& exchange_;
   ErrorLog& errorLog_;
   Captions& captions_;

@@ -22,7 +22,6 @@ int rowOf(const Channel& channel) {
 frmChannel::frmChannel(frmDSO& main, CommandExchange& exchange, ErrorLog& errorLog,
                        Acquisition& acquisition, SettingsBurst& burst, InstrumentState& instrument)
     : SettingsDialog("frmChannel", "Channel", main, acquisition),
-      main_(main),
       exchange_(exchange),
       errorLog_(errorLog),
       burst_(burst),
@@ -59,12 +58,12 @@ void frmChannel::readSettings(const Channel& channel) {
   const WaitingNotice notice(main_);
   Inquiry inquiry(exchange_.inquiries(), channel.menuEntry.caption, Inquiry::Of::questions, 5);
   setupRow_ = rowOf(channel);
+  caption = channel.menuEntry.caption();
   int place = 0;
   for (const std::string_view query : channelQueries(channel.number)) {
     inquiry.next();
     show(place++, exchange_.SendDSOCmd(std::string(query) + "?"));
   }
-  caption = channel.menuEntry.caption();
 }
 
 void frmChannel::show(int place, const std::string& reply) {

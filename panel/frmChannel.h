@@ -40,7 +40,6 @@ class frmChannel : public SettingsDialog {
   void cmdCancel_Click();
   void keepSelected(ControlArray<OptionButton>& options, int column);
 
-  frmDSO& main_;
   CommandExchange& exchange_;
   ErrorLog& errorLog_;
   SettingsBurst& burst_;

@@ -23,7 +23,6 @@ constexpr int column(std::size_t value) {
 frmDisplay::frmDisplay(frmDSO& main, CommandExchange& exchange, ErrorLog& errorLog,
                        Acquisition& acquisition, SettingsBurst& burst)
     : SettingsDialog("frmDisplay", "Display Setup", main, acquisition),
-      main_(main),
       exchange_(exchange),
       errorLog_(errorLog),
       burst_(burst) {
@@ -62,7 +61,7 @@ void frmDisplay::readSettings() {
   (isDot ? obDot : obVector).value = true;
 }
 
-/// The instrument's number, or the stored one where it gave none.
+/// The instrument's number, or the stored one if it gave none.
 void frmDisplay::readBrightness(Slide& slide, std::size_t setting) {
   const std::string reply = exchange_.SendDSOCmd(std::string(BrightQuery[setting]) + "?");
   slide.value = toDouble(
@@ -70,8 +69,8 @@ void frmDisplay::readBrightness(Slide& slide, std::size_t setting) {
   unanswered_.note(slide, isNumeric(reply));
 }
 
-/// One attempt each, unlike the channel and trigger settings: what the instrument has made of it
-/// is read and left as it is.
+/// One attempt each, unlike the channel and trigger settings: the panel reads what the instrument
+/// made of it and leaves it.
 void frmDisplay::sendBrightness() {
   main_.refresh();
   const SettingsBurst::Sending sending(burst_, SetupTable::display);

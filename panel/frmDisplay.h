@@ -35,7 +35,6 @@ class frmDisplay : public SettingsDialog {
   void cmdOK_Click();
   void cmdCancel_Click();
 
-  frmDSO& main_;
   CommandExchange& exchange_;
   ErrorLog& errorLog_;
   SettingsBurst& burst_;

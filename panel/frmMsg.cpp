@@ -7,7 +7,7 @@ namespace tracewell {
 
 frmMsg::frmMsg(frmDSO& main) : Window("frmMsg", "Message", main.services()) {
   tmMsg_.timer = [this] { tmMsg_Timer(); };
-  // It goes when the instrument is done, and not before.
+  // The notice closes when the instrument is done, and not before.
   formClose = [] {};
 }
 

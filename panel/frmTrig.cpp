@@ -10,10 +10,7 @@ namespace tracewell {
 
 frmTrig::frmTrig(frmDSO& main, CommandExchange& exchange, Acquisition& acquisition,
                  SettingsBurst& burst)
-    : SettingsDialog("frmTrig", "Trigger", main, acquisition),
-      main_(main),
-      exchange_(exchange),
-      burst_(burst) {
+    : SettingsDialog("frmTrig", "Trigger", main, acquisition), exchange_(exchange), burst_(burst) {
   cbTrig(0).items = {"1", "2", "EXT", "Line"};
   cbTrig(1).items = {"Auto Level", "Auto", "Normal", "Single"};
   cbTrig(2).items = {"+", "-"};
@@ -58,7 +55,7 @@ void frmTrig::sendSettings() {
     burst_.writeAndVerify(fmAdv.caption, TrigAdvQuery, SetupTable::advancedTrigger, 0);
 }
 
-/// Setting a box runs its click, so the instrument's values go into the table, too.
+/// Setting a box runs its click, so the instrument's values go into the table too.
 void frmTrig::readSettings() {
   Inquiry inquiry(exchange_.inquiries(), caption, Inquiry::Of::questions, cbTrig.size());
   for (int i = 0; i < cbTrig.size(); ++i) {
@@ -90,7 +87,7 @@ void frmTrig::readAdvancedSettings() {
   }
 }
 
-/// Nobody has been asked, so none of them lacks an answer.
+/// No query was sent, so none lacks a reply.
 void frmTrig::showStoredAdvancedSettings() {
   int column = SetupTable::firstValue;
   for (ComboBox& box : cbTrigAdv) {
@@ -103,7 +100,7 @@ void frmTrig::showStoredAdvancedSettings() {
   }
 }
 
-/// The instrument's number, or the stored one where it gave none.
+/// The instrument's number, or the stored one if it gave none.
 std::int16_t frmTrig::indexOf(const std::string& reply, int row, int value) const {
   return isNumeric(reply) ? toInt16(reply)
                           : main_.gridMeasure.number(row, SetupTable::columnOf(value));

@@ -43,7 +43,6 @@ class frmTrig : public SettingsDialog {
   void cbTrig_Click(int box);
   void cmdOK_Click();
 
-  frmDSO& main_;
   CommandExchange& exchange_;
   SettingsBurst& burst_;
   /// After OK the advanced settings are sent, too. Any click but that of the mode box ends it.

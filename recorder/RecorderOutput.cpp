@@ -21,8 +21,10 @@ void print(std::string_view text) {
 
 }  // namespace
 
-RecorderOutput::RecorderOutput(const RecorderOptions& options, std::int64_t now)
-    : options_(options), samples_(options.channels) {
+RecorderOutput::RecorderOutput(const RecorderOptions& options)
+    : options_(options), samples_(options.channels) {}
+
+void RecorderOutput::begin(std::int64_t now) {
   if (options_.csv == standardOutput)
     print(options_.columns.heading());
   else if (options_.csv)

@@ -19,8 +19,9 @@ namespace tracewell {
 /// Where records go: rows of measurements and samples, into files or to the standard output.
 class RecorderOutput {
  public:
+  explicit RecorderOutput(const RecorderOptions& options);
   /// Begins the files. Raises what writing them raises.
-  RecorderOutput(const RecorderOptions& options, std::int64_t now);
+  void begin(std::int64_t now);
 
   /// Raises diskFull when the standard output or the file of samples takes no more; a log holds
   /// what its disk does not take.

@@ -23,6 +23,7 @@ RecordingRun::RecordingRun(const RecorderOptions& options, RecorderOutput& outpu
   port_.dataReady = [this](const LineRecord& record) { arrived(record); };
 }
 
+/// Files are begun when there is something to write into them.
 void RecordingRun::begin() {
   try {
     port_.prepare();
@@ -30,6 +31,12 @@ void RecordingRun::begin() {
   } catch (const Error& error) {
     told_.message(error.description());
     return end(error.number() == portReadTimeOut ? RecorderEnd::noAnswer : RecorderEnd::noLine);
+  }
+  try {
+    output_.begin(clock_.milliseconds());
+  } catch (const Error& error) {
+    told_.message(error.description());
+    return end(RecorderEnd::notWritten);
   }
   turn();
 }
@@ -161,6 +168,7 @@ void RecordingRun::take(int channel, const ChannelRecord& record) {
 void RecordingRun::tellTrouble() {
   const std::string trouble = output_.trouble().value_or("");
   if (!trouble.empty() && trouble != trouble_) told_.message(trouble + "; rows are held");
+  if (trouble.empty() && !trouble_.empty()) told_.message("Rows are written again");
   trouble_ = trouble;
 }
 

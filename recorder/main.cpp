@@ -90,15 +90,9 @@ int record(const RecorderOptions& options) {
   EventDispatcher dispatcher(gate, dialogs);
   PortDirectory ports(folderOfPorts(), clock, standBy);
   LinePort port(ports, clock, gate, dispatcher, standBy);
-  std::optional<RecorderOutput> output;
-  try {
-    output.emplace(options, clock.milliseconds());
-  } catch (const Error& error) {
-    console.say(error.description());
-    return exitStatus(RecorderEnd::notWritten);
-  }
+  RecorderOutput output(options);
   int status = exitStatus(RecorderEnd::done);
-  RecordingRun recorder(options, *output, port, clock, dispatcher,
+  RecordingRun recorder(options, output, port, clock, dispatcher,
                         {[&](const std::string& text) { console.say(text); },
                          [&](const std::string& text) { console.progress(text); },
                          [&](RecorderEnd end) {

@@ -10,14 +10,16 @@ namespace tracewell {
 namespace {
 
 constexpr double unitsPerDivision = 50;
+/// The middle of the screen, from which time counts in the graphs, too.
+constexpr double middle = WaveformRecord::sampleCount / 2.0;
 /// More than a sample of 16 bits and a scale of three digits have between them.
 constexpr int digitsOfVolts = 7;
 
 /// As many as tell two samples apart, however long after the first record they are.
-int digitsOfTime(double begin, double step) {
+int digitsOfTime(double at, double step) {
   constexpr int most = 17;
   constexpr int behind = 3;
-  const double steps = begin / step + WaveformRecord::sampleCount;
+  const double steps = at / step + WaveformRecord::sampleCount;
   return std::min(most, static_cast<int>(std::ceil(std::log10(steps))) + behind);
 }
 
@@ -55,12 +57,12 @@ std::string SamplesTable::rows(const ChannelRecord* first, const ChannelRecord* 
     if (records[i] != nullptr) samples[i] = decodeSamples(records[i]->bytes, 0);
   const ChannelRecord& leading = first != nullptr ? *first : *second;
   if (!begunAt_) begunAt_ = leading.sweepAt;
-  const double begin = static_cast<double>(leading.sweepAt - *begunAt_) * 1e-3;
+  const double at = static_cast<double>(leading.sweepAt - *begunAt_) * 1e-3;
   const double step = *leading.madeUnder.secondsPerDivision / unitsPerDivision;
-  const int digits = digitsOfTime(begin, step);
+  const int digits = digitsOfTime(at, step);
   std::string text;
   for (std::size_t i = 0; i < WaveformRecord::sampleCount; ++i) {
-    text += shortNumberText(begin + static_cast<double>(i) * step, digits);
+    text += shortNumberText(at + (static_cast<double>(i) - middle) * step, digits);
     for (const int channel : channels_) {
       const auto index = static_cast<std::size_t>(channel - 1);
       text += ",";

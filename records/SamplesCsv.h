@@ -15,13 +15,13 @@ namespace tracewell {
 /// Records as a table of text, for pandas, a spreadsheet, and PulseView or sigrok-cli:
 ///
 ///     Time (s),CH1 (V)
-///     0,0.12
-///     1e-05,0.14
+///     -0.0025,0.12
+///     -0.00249,0.14
 ///
-/// Time counts from the first sample of the first record on; each record begins when its sweep
-/// came, so that between records there is a leap. Records of one sweep share their rows. Others of
-/// two channels stand one behind the other, with the other channel's column empty: sigrok, which
-/// knows no empty cells, takes a single channel or a single sweep.
+/// Time counts from the middle of the first record on, as in the graphs; each further record stands
+/// as much later as its sweep came, so that between records there is a leap. Records of one sweep
+/// share their rows. Others of two channels stand one behind the other, with the other channel's
+/// column empty: sigrok, which knows no empty cells, takes a single channel or a single sweep.
 class SamplesTable {
  public:
   /// 1, 2 or both.

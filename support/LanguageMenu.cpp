@@ -19,12 +19,12 @@ void LanguageMenu::mnbLA_Click(int language) {
   showStateAgain();
 }
 
-/// As far as that is possible: the old files may have gone, too.
+/// As far as possible: the old files may be gone too.
 void LanguageMenu::goBackTo(const std::string& number) {
   try {
     load(number);
   } catch (const Error&) {
-    // The error of the new language is the one to tell.
+    // The user is told the error of the new language.
   }
 }
 
@@ -34,7 +34,7 @@ void LanguageMenu::load(const std::string& number) {
   LoadMessages(main_);
 }
 
-/// Where the caption file has put the words of the form.
+/// After the caption file has set the texts of the form.
 void LanguageMenu::showStateAgain() {
   showMessagesAgain(main_);
   showSlideValuesAgain(main_);

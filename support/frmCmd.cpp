@@ -9,7 +9,7 @@
 namespace tracewell {
 namespace {
 
-/// A query passes as it is; of a command's parameter only a whole number that is not negative.
+/// Accepts any query, and a command whose parameter is a whole number of zero or more.
 bool isInRange(const std::string& command) {
   const std::size_t blank = command.find(' ');
   if (command.ends_with('?') || blank == std::string::npos) return true;
@@ -34,13 +34,13 @@ frmCmd::frmCmd(frmDSO& main, ErrorLog& errorLog, Acquisition& acquisition, Comma
 }
 
 void frmCmd::cmdDSOcmd_Click() {
-  const Paused paused(main_, acquisition_);
+  const Paused paused(main_, acquisition_, caption);
   main_.refresh();
   showModal();
 }
 
-/// A command list that cannot be used is logged, and the console opens with what could be read: a
-/// command can be typed all the same.
+/// Logs a command list that cannot be used, and opens the console with what could be read: the user
+/// can still type a command.
 void frmCmd::Form_Load() {
   try {
     readCommands();

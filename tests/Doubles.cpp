@@ -143,7 +143,7 @@ void forgetPeak() {
 }  // namespace
 
 void expectCheap(const std::function<void()>& action, double seconds, long megabytes) {
-#ifdef __SANITIZE_ADDRESS__
+#ifdef TRACEWELL_SANITIZED
   seconds *= 10;
   megabytes *= 10;
 #endif

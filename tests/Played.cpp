@@ -48,6 +48,9 @@ Played::Played() {
   program.start();
   // As after the first exchange of any dialog.
   program.exchange.readTimeOut = ReplyTimeout(main.state);
+  for (Window* window : program.otherWindows()) paint(*window);
+  paint(main);
+  watchGraph();
   for (Window* window : program.otherWindows()) newIn(*window);
   newIn(main);
   port.told = dialogs.told = printer.told = [this](const std::string& event) { note(event); };
@@ -83,6 +86,30 @@ Played::Played() {
   watchNotice();
 }
 
+void Played::paint(Window& window) {
+  for (Control* control : window.controls()) {
+    control->changed = [control] {
+      control->painted = control->trust ? control->trust() : Trust::holds;
+    };
+    control->changed();
+  }
+}
+
+void Played::watchGraph() {
+  Graph& graph = main.graphDSO;
+  const auto watch = [&graph](std::function<void()>& changed, auto& part) {
+    changed = [&graph, &part, shown = changed] {
+      if (shown) shown();
+      if constexpr (requires { part.isPaintedPale; }) part.isPaintedPale = part.isPale();
+      graph.paintedMarks = graph.marks();
+    };
+  };
+  for (Plot& plot : graph.plots()) watch(plot.changed, plot), watch(plot.plotted, plot);
+  for (Axis& axis : graph.axes()) watch(axis.changed, axis);
+  for (Cursor& cursor : graph.cursors()) watch(cursor.changed, cursor);
+  watch(graph.changed, graph);
+}
+
 void Played::watchNotice() {
   main.lblTest.changed = [this, shown = main.lblTest.changed, wasVisible = false]() mutable {
     if (shown) shown();
@@ -112,17 +139,17 @@ std::map<std::string, std::string> Played::shownBy(Window& window) {
   shown["ChanCount"] = std::to_string(main.state.ChanCount);
   showParts(main.graphDSO, shown);
   if (isTruthTold_) {
-    const GraphMarks marks = main.graphDSO.marks();
+    const GraphMarks& marks = main.graphDSO.paintedMarks;
     shown["marks"] = textOf(marks);
     shown["banner"] = (marks.banner.isWarning ? "! " : "") + marks.banner.text;
     for (const GraphMarks::Text& value : main.graphDSO.valuesAt(50, 50))
       shown["pointer"] += value.text + " ";
   }
-  if (isTruthTold_ && main.graphDSO.axis("XAxis").isPale()) shown["XAxis"] += " pale";
+  if (isTruthTold_ && main.graphDSO.axis("XAxis").isPaintedPale) shown["XAxis"] += " pale";
   for (const int number : {1, 2})
-    if (isTruthTold_ && main.graphDSO.plot(number).isPale())
+    if (isTruthTold_ && main.graphDSO.plot(number).isPaintedPale)
       shown["old" + std::to_string(number)] = "";
-  for (int number = 0; number < SetupTable::firstRows; ++number)
+  for (int number = 0; number < main.gridMeasure.fileRows(); ++number)
     for (const std::string& value : row(number))
       shown["row" + std::to_string(number)] += "," + value;
   const LineSettings& line = port.settings;

@@ -20,8 +20,10 @@ class Played : public Bench {
   void useGraph(Graph& graph, const std::string& value);
   virtual void use(Control& control, const std::string& value);
   /// How its user sees that it is marked.
-  virtual bool looksUnread(const Control& control) const { return control.isUnread(); }
-  virtual bool looksStale(const Control& control) const { return control.isStale(); }
+  virtual bool looksUnread(const Control& control) const {
+    return control.painted == Trust::unread;
+  }
+  virtual bool looksStale(const Control& control) const { return control.painted == Trust::stale; }
   virtual void close(Window& window) { window.close(); }
   /// A modal window that opens, and windows that go.
   virtual void opened(Window& window) { playIn(window); }
@@ -31,8 +33,12 @@ class Played : public Bench {
   void playIn(Window& window);
   /// Writes down when "Waiting" shows; again when a view has been bound to it.
   void watchNotice();
+  /// Marks stand as they were painted last: a change that no view is told of does not show. Again
+  /// likewise.
+  void watchGraph();
 
  private:
+  void paint(Window& window);
   void playNext(Window& window);
   void step(Window& window, const std::string& text);
   void connect();

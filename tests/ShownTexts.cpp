@@ -40,7 +40,12 @@ std::string textOf(const Control& control) {
     return textOf(*button->backColour());
   if (auto* slide = as<Slide>(control)) return numberText(slide->value()) + " " + slide->caption();
   if (auto* captioned = as<CaptionedControl>(control)) return captioned->caption();
-  if (auto* label = as<ValueLabel>(control)) return label->caption();
+  if (auto* label = as<ValueLabel>(control)) {
+    std::string text = label->caption();
+    for (const ValueLabel::Sentence& sentence : label->sentences)
+      if (sentence.isWarning) text.insert(text.find(sentence.text), "! ");
+    return text;
+  }
   if (auto* button = as<ValueButton>(control)) return button->caption();
   if (auto* box = as<ComboBox>(control))
     return std::to_string(box->listIndex()) + " " + box->text();

@@ -7,7 +7,7 @@
 
 namespace tracewell {
 
-/// Names what the instrument is busy with instead of records, as long as it lives.
+/// Says what the instrument is busy with instead of records, as long as it lives.
 class Doing {
  public:
   Doing(frmDSO& main, StatusLine::Sentence sentence)
@@ -16,6 +16,7 @@ class Doing {
   }
   ~Doing() {
     main_.doing = std::move(outer_);
+    main_.doneAt = main_.services().clock.milliseconds();
     main_.marksDue.raise();
   }
   Doing(const Doing&) = delete;
@@ -24,5 +25,10 @@ class Doing {
   frmDSO& main_;
   StatusLine::Sentence outer_;
 };
+
+/// The traces stand still for a dialog of that caption, which outlives the sentence.
+StatusLine::Sentence sayPaused(const Property<std::string>& caption);
+/// The instrument answers a dialog of that caption; records may come in between.
+StatusLine::Sentence sayBusy(const Property<std::string>& caption);
 
 }  // namespace tracewell

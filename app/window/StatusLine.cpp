@@ -38,7 +38,7 @@ bool StatusLine::isOver(const Told& told) const {
   return isOfAMoment && clock_.milliseconds() - told.since > missedIsSaid;
 }
 
-/// Something is not as it looks; the others say what is being done, or has been.
+/// A warning says that something is not as it looks; the others say what is being or has been done.
 bool StatusLine::isWarning(const Told& told) {
   return told.topic != progress && told.topic != refused && told.topic != happened;
 }

@@ -10,7 +10,6 @@ frmDSO::frmDSO(Services& services)
       }) {
   lblTest.visible = false;
   cmdNewErrors.visible = false;
-  lblNotice.isWarning = true;
   opOff.value.setQuietly(true);
   cbCurChan.listIndex.setQuietly(0);
   cbCurChan.text = "1";

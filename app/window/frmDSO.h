@@ -155,6 +155,8 @@ class frmDSO : public Window {
   /// What the instrument is busy with instead of records, if with anything. Kept by
   /// app/window/Doing.h.
   StatusLine::Sentence doing;
+  /// When it was last over, on Clock's scale.
+  std::int64_t doneAt = 0;
   /// What stands beside the values, marks and ages, is to be looked at anew.
   Event<> marksDue;
   /// The record of a channel, 1 or 2, has come; the channel holds it.

@@ -40,16 +40,12 @@
         <translation>%1 en divisions : le calcul n'a pas de volts</translation>
     </message>
     <message>
-        <source>%1 records left out: their scales are not known</source>
-        <translation>%1 enregistrements omis : leurs échelles sont inconnues</translation>
+        <source>%1 records</source>
+        <translation>%1 enregistrements</translation>
     </message>
     <message>
-        <source>%1 rows lost</source>
-        <translation>%1 lignes perdues</translation>
-    </message>
-    <message>
-        <source>%1 rows wait: %2</source>
-        <translation>%1 lignes en attente : %2</translation>
+        <source>%1 rows</source>
+        <translation>lignes : %1</translation>
     </message>
     <message>
         <source>%1 was changed by another program, and that is kept as %2</source>
@@ -68,12 +64,16 @@
         <translation>%1 : %2 réglages sur %3 non confirmés</translation>
     </message>
     <message>
-        <source>%1: %2 records, %3 to %4</source>
-        <translation>%1 : %2 enregistrements, de %3 à %4</translation>
+        <source>%1: %2, %3 to %4</source>
+        <translation>%1 : %2, de %3 à %4</translation>
     </message>
     <message>
-        <source>%1: %2, %3 rows, %4</source>
-        <translation>%1 : %2, %3 lignes, %4</translation>
+        <source>%1: %2, %3, %4</source>
+        <translation>%1 : %2, %3, %4</translation>
+    </message>
+    <message>
+        <source>%1: earlier records under these scales: %2</source>
+        <translation>%1 : enregistrements antérieurs à ces échelles : %2</translation>
     </message>
     <message>
         <source>%1: given up</source>
@@ -116,12 +116,12 @@
         <translation>%1 : on ignore si l'enregistrement est à %2</translation>
     </message>
     <message>
-        <source>%1: only %2 earlier records under these scales</source>
-        <translation>%1 : seulement %2 enregistrements antérieurs à ces échelles</translation>
-    </message>
-    <message>
         <source>%1: question %2 of %3</source>
         <translation>%1 : question %2 sur %3</translation>
+    </message>
+    <message>
+        <source>%1: question %2 of %3, %4 not answered</source>
+        <translation>%1 : question %2 sur %3, %4 sans réponse</translation>
     </message>
     <message>
         <source>%1: recorded at %2, not at %3</source>
@@ -136,6 +136,10 @@
         <translation>%1 : réglage %2 sur %3</translation>
     </message>
     <message>
+        <source>%1: setting %2 of %3, %4 not confirmed</source>
+        <translation>%1 : réglage %2 sur %3, %4 non confirmés</translation>
+    </message>
+    <message>
         <source>%1: unchanged for %2 min</source>
         <translation>%1 : inchangée depuis %2 min</translation>
     </message>
@@ -144,12 +148,24 @@
         <translation>%1 : inchangée depuis %2 s</translation>
     </message>
     <message>
+        <source>%1: wait until the autoset is over</source>
+        <translation>%1 : attendez la fin du réglage automatique</translation>
+    </message>
+    <message>
         <source>%1: wait until the settings have been sent</source>
         <translation>%1 : attendez que les réglages soient envoyés</translation>
     </message>
     <message>
         <source>(%1 measured so far)</source>
         <translation>(%1 déjà mesurés)</translation>
+    </message>
+    <message>
+        <source>1 record</source>
+        <translation>1 enregistrement</translation>
+    </message>
+    <message>
+        <source>1 row</source>
+        <translation>1 ligne</translation>
     </message>
     <message>
         <source>100mV per division</source>
@@ -326,10 +342,6 @@
     <message>
         <source>Acquisition mode and averaging</source>
         <translation>Mode d'acquisition et moyennage</translation>
-    </message>
-    <message>
-        <source>Advanced trigger</source>
-        <translation>Déclenchement avancé</translation>
     </message>
     <message>
         <source>Advanced trigger: Delay</source>
@@ -792,6 +804,10 @@
         <translation>Superpose ce qui est tracé aux courbes en direct, comme Charger</translation>
     </message>
     <message>
+        <source>Left out, with scales that are not known: %1</source>
+        <translation>Omis, car leurs échelles sont inconnues : %1</translation>
+    </message>
+    <message>
         <source>Let go</source>
         <translation>Libérer</translation>
     </message>
@@ -850,6 +866,10 @@
     <message>
         <source>Log</source>
         <translation>Journal</translation>
+    </message>
+    <message>
+        <source>Lost: %1</source>
+        <translation>Perdu : %1</translation>
     </message>
     <message>
         <source>Low level</source>
@@ -1012,6 +1032,10 @@
         <translation>Pas de réponse à %1</translation>
     </message>
     <message>
+        <source>No answer to the last %1 questions</source>
+        <translation>Pas de réponse aux %1 dernières questions</translation>
+    </message>
+    <message>
         <source>No cursors</source>
         <translation>Sans curseurs</translation>
     </message>
@@ -1144,6 +1168,10 @@
         <translation>Image de la courbe choisie</translation>
     </message>
     <message>
+        <source>Pictures</source>
+        <translation>Images</translation>
+    </message>
+    <message>
         <source>Pin</source>
         <translation>Épingler</translation>
     </message>
@@ -1272,6 +1300,10 @@
         <translation>Échantillons par enregistrement</translation>
     </message>
     <message>
+        <source>Save as a waveform set</source>
+        <translation>Sauvegarder comme forme d'onde</translation>
+    </message>
+    <message>
         <source>Save picture and data</source>
         <translation>Enregistrer l'image et les données</translation>
     </message>
@@ -1298,6 +1330,14 @@
     <message>
         <source>Saved waveforms</source>
         <translation>Courbes enregistrées</translation>
+    </message>
+    <message>
+        <source>Saves this record as a waveform set, which Load in the panel shows (Ctrl+S)</source>
+        <translation>Sauvegarde cet enregistrement comme forme d'onde, que le panneau peut charger (Ctrl+S)</translation>
+    </message>
+    <message>
+        <source>Save…</source>
+        <translation>Enregistrer…</translation>
     </message>
     <message>
         <source>Scales that are not the traces'</source>
@@ -1412,12 +1452,20 @@
         <translation>Les colonnes du journal</translation>
     </message>
     <message>
+        <source>The connection is lost</source>
+        <translation>La liaison est perdue</translation>
+    </message>
+    <message>
+        <source>The connection is lost: %1</source>
+        <translation>La liaison est perdue : %1</translation>
+    </message>
+    <message>
         <source>The data file</source>
         <translation>Le fichier de données</translation>
     </message>
     <message>
-        <source>The disk is full: %1 rows wait</source>
-        <translation>Le disque est plein : %1 lignes en attente</translation>
+        <source>The disk is full; waiting in memory: %1</source>
+        <translation>Le disque est plein ; en attente en mémoire : %1</translation>
     </message>
     <message>
         <source>The folder that is shown</source>
@@ -1430,6 +1478,10 @@
     <message>
         <source>The instrument is being read</source>
         <translation>Lecture de l'instrument en cours</translation>
+    </message>
+    <message>
+        <source>The instrument is busy: %1</source>
+        <translation>L'instrument est occupé : %1</translation>
     </message>
     <message>
         <source>The instrument is stopped: press %1</source>
@@ -1448,6 +1500,10 @@
         <translation>L'image à enregistrer</translation>
     </message>
     <message>
+        <source>The picture's name must end in png, jpg, bmp, gif, pcx or tif</source>
+        <translation>Le nom de l'image doit finir par png, jpg, bmp, gif, pcx ou tif</translation>
+    </message>
+    <message>
         <source>The port in use</source>
         <translation>Le port utilisé</translation>
     </message>
@@ -1458,6 +1514,10 @@
     <message>
         <source>The report</source>
         <translation>Le rapport</translation>
+    </message>
+    <message>
+        <source>The same sweep was fetched: %1</source>
+        <translation>Même balayage reçu : %1</translation>
     </message>
     <message>
         <source>The scales are not known: press %1 to read them</source>
@@ -1494,6 +1554,10 @@
     <message>
         <source>This record alone</source>
         <translation>Cet enregistrement seul</translation>
+    </message>
+    <message>
+        <source>This record is cut: a set needs a whole one</source>
+        <translation>Cet enregistrement est tronqué : il en faut un entier</translation>
     </message>
     <message>
         <source>This record may go with the others again</source>
@@ -1542,6 +1606,10 @@
     <message>
         <source>Traces</source>
         <translation>Traces</translation>
+    </message>
+    <message>
+        <source>Traces paused for %1</source>
+        <translation>Courbes en pause : %1</translation>
     </message>
     <message>
         <source>Traces: drag the cursors, or move them with the arrow keys; C changes the cursor. Double click or E: larger, Escape: back</source>
@@ -1604,6 +1672,10 @@
         <translation>En attente de la réponse à %1</translation>
     </message>
     <message>
+        <source>Waiting in memory: %1. %2</source>
+        <translation>En attente en mémoire : %1. %2</translation>
+    </message>
+    <message>
         <source>What is drawn of the records</source>
         <translation>Ce qui est tracé des enregistrements</translation>
     </message>
@@ -1644,6 +1716,14 @@
         <translation>Avec les %1 derniers</translation>
     </message>
     <message>
+        <source>With the one before</source>
+        <translation>Avec le précédent</translation>
+    </message>
+    <message>
+        <source>Without CH%1, which is of another sweep</source>
+        <translation>Sans CH%1, qui est d'un autre balayage</translation>
+    </message>
+    <message>
         <source>Write the shown record to text.csv</source>
         <translation>Écrire l'enregistrement affiché dans text.csv</translation>
     </message>
@@ -1670,10 +1750,6 @@
     <message>
         <source>clipped</source>
         <translation>écrêté</translation>
-    </message>
-    <message>
-        <source>fetched %1 times</source>
-        <translation>lu %1 fois</translation>
     </message>
     <message>
         <source>flat</source>

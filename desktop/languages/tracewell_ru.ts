@@ -40,16 +40,12 @@
         <translation>%1 в делениях: у математики нет вольт</translation>
     </message>
     <message>
-        <source>%1 records left out: their scales are not known</source>
-        <translation>Пропущено записей: %1, их масштабы неизвестны</translation>
+        <source>%1 records</source>
+        <translation>записей: %1</translation>
     </message>
     <message>
-        <source>%1 rows lost</source>
-        <translation>потеряно строк: %1</translation>
-    </message>
-    <message>
-        <source>%1 rows wait: %2</source>
-        <translation>Ожидает строк: %1. %2</translation>
+        <source>%1 rows</source>
+        <translation>строк: %1</translation>
     </message>
     <message>
         <source>%1 was changed by another program, and that is kept as %2</source>
@@ -68,12 +64,16 @@
         <translation>%1: не подтверждено настроек: %2 из %3</translation>
     </message>
     <message>
-        <source>%1: %2 records, %3 to %4</source>
-        <translation>%1: записей %2, с %3 до %4</translation>
+        <source>%1: %2, %3 to %4</source>
+        <translation>%1: %2, с %3 до %4</translation>
     </message>
     <message>
-        <source>%1: %2, %3 rows, %4</source>
-        <translation>%1: %2, строк %3, %4</translation>
+        <source>%1: %2, %3, %4</source>
+        <translation>%1: %2, %3, %4</translation>
+    </message>
+    <message>
+        <source>%1: earlier records under these scales: %2</source>
+        <translation>%1: прежних записей в этих масштабах: %2</translation>
     </message>
     <message>
         <source>%1: given up</source>
@@ -116,12 +116,12 @@
         <translation>%1: неизвестно, записано ли при %2</translation>
     </message>
     <message>
-        <source>%1: only %2 earlier records under these scales</source>
-        <translation>%1: прежних записей в этих масштабах только %2</translation>
-    </message>
-    <message>
         <source>%1: question %2 of %3</source>
         <translation>%1: запрос %2 из %3</translation>
+    </message>
+    <message>
+        <source>%1: question %2 of %3, %4 not answered</source>
+        <translation>%1: запрос %2 из %3, без ответа: %4</translation>
     </message>
     <message>
         <source>%1: recorded at %2, not at %3</source>
@@ -136,6 +136,10 @@
         <translation>%1: настройка %2 из %3</translation>
     </message>
     <message>
+        <source>%1: setting %2 of %3, %4 not confirmed</source>
+        <translation>%1: настройка %2 из %3, не подтверждено: %4</translation>
+    </message>
+    <message>
         <source>%1: unchanged for %2 min</source>
         <translation>%1: без изменений %2 мин</translation>
     </message>
@@ -144,12 +148,24 @@
         <translation>%1: без изменений %2 с</translation>
     </message>
     <message>
+        <source>%1: wait until the autoset is over</source>
+        <translation>%1: подождите, пока закончится автонастройка</translation>
+    </message>
+    <message>
         <source>%1: wait until the settings have been sent</source>
         <translation>%1: подождите, пока параметры будут отправлены</translation>
     </message>
     <message>
         <source>(%1 measured so far)</source>
         <translation>(пока измерено %1)</translation>
+    </message>
+    <message>
+        <source>1 record</source>
+        <translation>1 запись</translation>
+    </message>
+    <message>
+        <source>1 row</source>
+        <translation>1 строка</translation>
     </message>
     <message>
         <source>100mV per division</source>
@@ -326,10 +342,6 @@
     <message>
         <source>Acquisition mode and averaging</source>
         <translation>Режим сбора и усреднение</translation>
-    </message>
-    <message>
-        <source>Advanced trigger</source>
-        <translation>Дополнительная синхронизация</translation>
     </message>
     <message>
         <source>Advanced trigger: Delay</source>
@@ -792,6 +804,10 @@
         <translation>Накладывает показанное на живые осциллограммы, как «Загрузить»</translation>
     </message>
     <message>
+        <source>Left out, with scales that are not known: %1</source>
+        <translation>Пропущено, так как масштабы неизвестны: %1</translation>
+    </message>
+    <message>
         <source>Let go</source>
         <translation>Отпустить</translation>
     </message>
@@ -850,6 +866,10 @@
     <message>
         <source>Log</source>
         <translation>Журнал</translation>
+    </message>
+    <message>
+        <source>Lost: %1</source>
+        <translation>Потеряно: %1</translation>
     </message>
     <message>
         <source>Low level</source>
@@ -1012,6 +1032,10 @@
         <translation>Нет ответа на %1</translation>
     </message>
     <message>
+        <source>No answer to the last %1 questions</source>
+        <translation>Нет ответа на последние запросы: %1</translation>
+    </message>
+    <message>
         <source>No cursors</source>
         <translation>Без курсоров</translation>
     </message>
@@ -1144,6 +1168,10 @@
         <translation>Рисунок выбранной осциллограммы</translation>
     </message>
     <message>
+        <source>Pictures</source>
+        <translation>Рисунки</translation>
+    </message>
+    <message>
         <source>Pin</source>
         <translation>Закрепить</translation>
     </message>
@@ -1272,6 +1300,10 @@
         <translation>Число отсчётов в записи</translation>
     </message>
     <message>
+        <source>Save as a waveform set</source>
+        <translation>Сохранить как осциллограмму</translation>
+    </message>
+    <message>
         <source>Save picture and data</source>
         <translation>Сохранить рисунок и данные</translation>
     </message>
@@ -1298,6 +1330,14 @@
     <message>
         <source>Saved waveforms</source>
         <translation>Сохранённые осциллограммы</translation>
+    </message>
+    <message>
+        <source>Saves this record as a waveform set, which Load in the panel shows (Ctrl+S)</source>
+        <translation>Сохраняет эту запись как осциллограмму, которую может загрузить панель (Ctrl+S)</translation>
+    </message>
+    <message>
+        <source>Save…</source>
+        <translation>Сохранить…</translation>
     </message>
     <message>
         <source>Scales that are not the traces'</source>
@@ -1412,12 +1452,20 @@
         <translation>Столбцы журнала</translation>
     </message>
     <message>
+        <source>The connection is lost</source>
+        <translation>Связь потеряна</translation>
+    </message>
+    <message>
+        <source>The connection is lost: %1</source>
+        <translation>Связь потеряна: %1</translation>
+    </message>
+    <message>
         <source>The data file</source>
         <translation>Файл данных</translation>
     </message>
     <message>
-        <source>The disk is full: %1 rows wait</source>
-        <translation>Диск заполнен: ожидает строк %1</translation>
+        <source>The disk is full; waiting in memory: %1</source>
+        <translation>Диск заполнен; ожидает в памяти: %1</translation>
     </message>
     <message>
         <source>The folder that is shown</source>
@@ -1430,6 +1478,10 @@
     <message>
         <source>The instrument is being read</source>
         <translation>Идёт чтение прибора</translation>
+    </message>
+    <message>
+        <source>The instrument is busy: %1</source>
+        <translation>Прибор занят: %1</translation>
     </message>
     <message>
         <source>The instrument is stopped: press %1</source>
@@ -1448,6 +1500,10 @@
         <translation>Сохраняемый рисунок</translation>
     </message>
     <message>
+        <source>The picture's name must end in png, jpg, bmp, gif, pcx or tif</source>
+        <translation>Имя рисунка должно оканчиваться на png, jpg, bmp, gif, pcx или tif</translation>
+    </message>
+    <message>
         <source>The port in use</source>
         <translation>Используемый порт</translation>
     </message>
@@ -1458,6 +1514,10 @@
     <message>
         <source>The report</source>
         <translation>Отчёт</translation>
+    </message>
+    <message>
+        <source>The same sweep was fetched: %1</source>
+        <translation>Та же развёртка получена: %1</translation>
     </message>
     <message>
         <source>The scales are not known: press %1 to read them</source>
@@ -1494,6 +1554,10 @@
     <message>
         <source>This record alone</source>
         <translation>Только эта запись</translation>
+    </message>
+    <message>
+        <source>This record is cut: a set needs a whole one</source>
+        <translation>Эта запись обрезана, а нужна целая</translation>
     </message>
     <message>
         <source>This record may go with the others again</source>
@@ -1542,6 +1606,10 @@
     <message>
         <source>Traces</source>
         <translation>Осциллограммы</translation>
+    </message>
+    <message>
+        <source>Traces paused for %1</source>
+        <translation>Кривые на паузе: %1</translation>
     </message>
     <message>
         <source>Traces: drag the cursors, or move them with the arrow keys; C changes the cursor. Double click or E: larger, Escape: back</source>
@@ -1604,6 +1672,10 @@
         <translation>Ожидание ответа на %1</translation>
     </message>
     <message>
+        <source>Waiting in memory: %1. %2</source>
+        <translation>Ожидает в памяти: %1. %2</translation>
+    </message>
+    <message>
         <source>What is drawn of the records</source>
         <translation>Что рисуется из записей</translation>
     </message>
@@ -1644,6 +1716,14 @@
         <translation>С последними: %1</translation>
     </message>
     <message>
+        <source>With the one before</source>
+        <translation>С предыдущей</translation>
+    </message>
+    <message>
+        <source>Without CH%1, which is of another sweep</source>
+        <translation>Без CH%1: другая развёртка</translation>
+    </message>
+    <message>
         <source>Write the shown record to text.csv</source>
         <translation>Записать показанную запись в text.csv</translation>
     </message>
@@ -1670,10 +1750,6 @@
     <message>
         <source>clipped</source>
         <translation>обрезано</translation>
-    </message>
-    <message>
-        <source>fetched %1 times</source>
-        <translation>получено раз: %1</translation>
     </message>
     <message>
         <source>flat</source>

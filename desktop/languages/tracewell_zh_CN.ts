@@ -40,16 +40,12 @@
         <translation>%1 以格为单位：数学运算没有伏特值</translation>
     </message>
     <message>
-        <source>%1 records left out: their scales are not known</source>
-        <translation>略过 %1 条记录：刻度未知</translation>
+        <source>%1 records</source>
+        <translation>%1 条记录</translation>
     </message>
     <message>
-        <source>%1 rows lost</source>
-        <translation>丢失 %1 行</translation>
-    </message>
-    <message>
-        <source>%1 rows wait: %2</source>
-        <translation>%1 行等待写入：%2</translation>
+        <source>%1 rows</source>
+        <translation>%1 行</translation>
     </message>
     <message>
         <source>%1 was changed by another program, and that is kept as %2</source>
@@ -68,12 +64,16 @@
         <translation>%1：%3 项设置中有 %2 项未确认</translation>
     </message>
     <message>
-        <source>%1: %2 records, %3 to %4</source>
-        <translation>%1：%2 条记录，%3 至 %4</translation>
+        <source>%1: %2, %3 to %4</source>
+        <translation>%1：%2，%3 至 %4</translation>
     </message>
     <message>
-        <source>%1: %2, %3 rows, %4</source>
-        <translation>%1：%2，%3 行，%4</translation>
+        <source>%1: %2, %3, %4</source>
+        <translation>%1：%2，%3，%4</translation>
+    </message>
+    <message>
+        <source>%1: earlier records under these scales: %2</source>
+        <translation>%1：此刻度下更早的记录：%2 条</translation>
     </message>
     <message>
         <source>%1: given up</source>
@@ -116,12 +116,12 @@
         <translation>%1：不知是否在 %2 下记录</translation>
     </message>
     <message>
-        <source>%1: only %2 earlier records under these scales</source>
-        <translation>%1：此刻度下只有 %2 条更早的记录</translation>
-    </message>
-    <message>
         <source>%1: question %2 of %3</source>
         <translation>%1：第 %2 个查询，共 %3 个</translation>
+    </message>
+    <message>
+        <source>%1: question %2 of %3, %4 not answered</source>
+        <translation>%1：第 %2 个查询，共 %3 个，%4 个无应答</translation>
     </message>
     <message>
         <source>%1: recorded at %2, not at %3</source>
@@ -136,6 +136,10 @@
         <translation>%1：第 %2 项设置，共 %3 项</translation>
     </message>
     <message>
+        <source>%1: setting %2 of %3, %4 not confirmed</source>
+        <translation>%1：第 %2 项设置，共 %3 项，%4 项未确认</translation>
+    </message>
+    <message>
         <source>%1: unchanged for %2 min</source>
         <translation>%1：%2 分钟未变</translation>
     </message>
@@ -144,12 +148,24 @@
         <translation>%1：%2 秒未变</translation>
     </message>
     <message>
+        <source>%1: wait until the autoset is over</source>
+        <translation>%1：请等待自动设置结束</translation>
+    </message>
+    <message>
         <source>%1: wait until the settings have been sent</source>
         <translation>%1：请等待设置发送完毕</translation>
     </message>
     <message>
         <source>(%1 measured so far)</source>
         <translation>（已测量 %1 条）</translation>
+    </message>
+    <message>
+        <source>1 record</source>
+        <translation>1 条记录</translation>
+    </message>
+    <message>
+        <source>1 row</source>
+        <translation>1 行</translation>
     </message>
     <message>
         <source>100mV per division</source>
@@ -326,10 +342,6 @@
     <message>
         <source>Acquisition mode and averaging</source>
         <translation>采集方式与平均</translation>
-    </message>
-    <message>
-        <source>Advanced trigger</source>
-        <translation>高级触发</translation>
     </message>
     <message>
         <source>Advanced trigger: Delay</source>
@@ -792,6 +804,10 @@
         <translation>将所绘波形叠加到实时波形上，如同加载</translation>
     </message>
     <message>
+        <source>Left out, with scales that are not known: %1</source>
+        <translation>因刻度未知而略过：%1</translation>
+    </message>
+    <message>
         <source>Let go</source>
         <translation>取消固定</translation>
     </message>
@@ -850,6 +866,10 @@
     <message>
         <source>Log</source>
         <translation>日志</translation>
+    </message>
+    <message>
+        <source>Lost: %1</source>
+        <translation>丢失：%1</translation>
     </message>
     <message>
         <source>Low level</source>
@@ -1012,6 +1032,10 @@
         <translation>%1 无应答</translation>
     </message>
     <message>
+        <source>No answer to the last %1 questions</source>
+        <translation>最近 %1 个查询无应答</translation>
+    </message>
+    <message>
         <source>No cursors</source>
         <translation>无光标</translation>
     </message>
@@ -1144,6 +1168,10 @@
         <translation>所选波形的图片</translation>
     </message>
     <message>
+        <source>Pictures</source>
+        <translation>图片</translation>
+    </message>
+    <message>
         <source>Pin</source>
         <translation>固定</translation>
     </message>
@@ -1272,6 +1300,10 @@
         <translation>每个记录的采样数</translation>
     </message>
     <message>
+        <source>Save as a waveform set</source>
+        <translation>另存为波形文件组</translation>
+    </message>
+    <message>
         <source>Save picture and data</source>
         <translation>保存图片与数据</translation>
     </message>
@@ -1298,6 +1330,14 @@
     <message>
         <source>Saved waveforms</source>
         <translation>已保存的波形</translation>
+    </message>
+    <message>
+        <source>Saves this record as a waveform set, which Load in the panel shows (Ctrl+S)</source>
+        <translation>将此记录另存为波形，可在面板中读取 (Ctrl+S)</translation>
+    </message>
+    <message>
+        <source>Save…</source>
+        <translation>保存…</translation>
     </message>
     <message>
         <source>Scales that are not the traces'</source>
@@ -1412,12 +1452,20 @@
         <translation>日志的列</translation>
     </message>
     <message>
+        <source>The connection is lost</source>
+        <translation>连接已中断</translation>
+    </message>
+    <message>
+        <source>The connection is lost: %1</source>
+        <translation>连接已中断：%1</translation>
+    </message>
+    <message>
         <source>The data file</source>
         <translation>数据文件</translation>
     </message>
     <message>
-        <source>The disk is full: %1 rows wait</source>
-        <translation>磁盘已满：%1 行等待写入</translation>
+        <source>The disk is full; waiting in memory: %1</source>
+        <translation>磁盘已满；在内存中等待写入：%1</translation>
     </message>
     <message>
         <source>The folder that is shown</source>
@@ -1430,6 +1478,10 @@
     <message>
         <source>The instrument is being read</source>
         <translation>正在读取仪器</translation>
+    </message>
+    <message>
+        <source>The instrument is busy: %1</source>
+        <translation>仪器正忙：%1</translation>
     </message>
     <message>
         <source>The instrument is stopped: press %1</source>
@@ -1448,6 +1500,10 @@
         <translation>要保存的图片</translation>
     </message>
     <message>
+        <source>The picture's name must end in png, jpg, bmp, gif, pcx or tif</source>
+        <translation>图片名称须以 png、jpg、bmp、gif、pcx 或 tif 结尾</translation>
+    </message>
+    <message>
         <source>The port in use</source>
         <translation>正在使用的端口</translation>
     </message>
@@ -1458,6 +1514,10 @@
     <message>
         <source>The report</source>
         <translation>报告</translation>
+    </message>
+    <message>
+        <source>The same sweep was fetched: %1</source>
+        <translation>同一次扫描已读取：%1</translation>
     </message>
     <message>
         <source>The scales are not known: press %1 to read them</source>
@@ -1494,6 +1554,10 @@
     <message>
         <source>This record alone</source>
         <translation>仅此记录</translation>
+    </message>
+    <message>
+        <source>This record is cut: a set needs a whole one</source>
+        <translation>此记录不完整：需要完整的记录</translation>
     </message>
     <message>
         <source>This record may go with the others again</source>
@@ -1542,6 +1606,10 @@
     <message>
         <source>Traces</source>
         <translation>波形</translation>
+    </message>
+    <message>
+        <source>Traces paused for %1</source>
+        <translation>曲线暂停：%1</translation>
     </message>
     <message>
         <source>Traces: drag the cursors, or move them with the arrow keys; C changes the cursor. Double click or E: larger, Escape: back</source>
@@ -1604,6 +1672,10 @@
         <translation>正在等待 %1 的应答</translation>
     </message>
     <message>
+        <source>Waiting in memory: %1. %2</source>
+        <translation>在内存中等待写入：%1。%2</translation>
+    </message>
+    <message>
         <source>What is drawn of the records</source>
         <translation>记录的绘制内容</translation>
     </message>
@@ -1644,6 +1716,14 @@
         <translation>连同最近 %1 条</translation>
     </message>
     <message>
+        <source>With the one before</source>
+        <translation>连同前一条</translation>
+    </message>
+    <message>
+        <source>Without CH%1, which is of another sweep</source>
+        <translation>不含 CH%1：属于另一次扫描</translation>
+    </message>
+    <message>
         <source>Write the shown record to text.csv</source>
         <translation>将显示的记录写入 text.csv</translation>
     </message>
@@ -1670,10 +1750,6 @@
     <message>
         <source>clipped</source>
         <translation>削波</translation>
-    </message>
-    <message>
-        <source>fetched %1 times</source>
-        <translation>已读取 %1 次</translation>
     </message>
     <message>
         <source>flat</source>

@@ -40,16 +40,12 @@
         <translation>%1 以格為單位：數學運算冇伏特值</translation>
     </message>
     <message>
-        <source>%1 records left out: their scales are not known</source>
-        <translation>略過 %1 條記錄：刻度未知</translation>
+        <source>%1 records</source>
+        <translation>%1 條記錄</translation>
     </message>
     <message>
-        <source>%1 rows lost</source>
-        <translation>遺失 %1 行</translation>
-    </message>
-    <message>
-        <source>%1 rows wait: %2</source>
-        <translation>%1 行等待寫入：%2</translation>
+        <source>%1 rows</source>
+        <translation>%1 行</translation>
     </message>
     <message>
         <source>%1 was changed by another program, and that is kept as %2</source>
@@ -68,12 +64,16 @@
         <translation>%1：%3 項設定有 %2 項未確認</translation>
     </message>
     <message>
-        <source>%1: %2 records, %3 to %4</source>
-        <translation>%1：%2 條記錄，%3 至 %4</translation>
+        <source>%1: %2, %3 to %4</source>
+        <translation>%1：%2，%3 至 %4</translation>
     </message>
     <message>
-        <source>%1: %2, %3 rows, %4</source>
-        <translation>%1：%2，%3 行，%4</translation>
+        <source>%1: %2, %3, %4</source>
+        <translation>%1：%2，%3，%4</translation>
+    </message>
+    <message>
+        <source>%1: earlier records under these scales: %2</source>
+        <translation>%1：呢個刻度下更早嘅記錄：%2 條</translation>
     </message>
     <message>
         <source>%1: given up</source>
@@ -116,12 +116,12 @@
         <translation>%1：唔知係咪用 %2 記錄</translation>
     </message>
     <message>
-        <source>%1: only %2 earlier records under these scales</source>
-        <translation>%1：呢個刻度下只有 %2 條更早嘅記錄</translation>
-    </message>
-    <message>
         <source>%1: question %2 of %3</source>
         <translation>%1：第 %2 個查詢，共 %3 個</translation>
+    </message>
+    <message>
+        <source>%1: question %2 of %3, %4 not answered</source>
+        <translation>%1：第 %2 個查詢，共 %3 個，%4 個冇回應</translation>
     </message>
     <message>
         <source>%1: recorded at %2, not at %3</source>
@@ -136,6 +136,10 @@
         <translation>%1：第 %2 項設定，共 %3 項</translation>
     </message>
     <message>
+        <source>%1: setting %2 of %3, %4 not confirmed</source>
+        <translation>%1：第 %2 項設定，共 %3 項，%4 項未確認</translation>
+    </message>
+    <message>
         <source>%1: unchanged for %2 min</source>
         <translation>%1：%2 分鐘無變化</translation>
     </message>
@@ -144,12 +148,24 @@
         <translation>%1：%2 秒無變化</translation>
     </message>
     <message>
+        <source>%1: wait until the autoset is over</source>
+        <translation>%1：請等自動設定完成</translation>
+    </message>
+    <message>
         <source>%1: wait until the settings have been sent</source>
         <translation>%1：請等設定傳送完</translation>
     </message>
     <message>
         <source>(%1 measured so far)</source>
         <translation>（已測量 %1 條）</translation>
+    </message>
+    <message>
+        <source>1 record</source>
+        <translation>1 條記錄</translation>
+    </message>
+    <message>
+        <source>1 row</source>
+        <translation>1 行</translation>
     </message>
     <message>
         <source>100mV per division</source>
@@ -326,10 +342,6 @@
     <message>
         <source>Acquisition mode and averaging</source>
         <translation>擷取模式同平均</translation>
-    </message>
-    <message>
-        <source>Advanced trigger</source>
-        <translation>進階觸發</translation>
     </message>
     <message>
         <source>Advanced trigger: Delay</source>
@@ -792,6 +804,10 @@
         <translation>將畫咗嘅波形疊喺即時波形上面，好似載入噉</translation>
     </message>
     <message>
+        <source>Left out, with scales that are not known: %1</source>
+        <translation>因為刻度未知而略過：%1</translation>
+    </message>
+    <message>
         <source>Let go</source>
         <translation>取消釘住</translation>
     </message>
@@ -850,6 +866,10 @@
     <message>
         <source>Log</source>
         <translation>日誌</translation>
+    </message>
+    <message>
+        <source>Lost: %1</source>
+        <translation>遺失：%1</translation>
     </message>
     <message>
         <source>Low level</source>
@@ -1012,6 +1032,10 @@
         <translation>%1 冇回應</translation>
     </message>
     <message>
+        <source>No answer to the last %1 questions</source>
+        <translation>最近 %1 個查詢冇回應</translation>
+    </message>
+    <message>
         <source>No cursors</source>
         <translation>冇游標</translation>
     </message>
@@ -1144,6 +1168,10 @@
         <translation>揀選咗嘅波形嘅圖片</translation>
     </message>
     <message>
+        <source>Pictures</source>
+        <translation>圖片</translation>
+    </message>
+    <message>
         <source>Pin</source>
         <translation>釘住</translation>
     </message>
@@ -1272,6 +1300,10 @@
         <translation>每個記錄嘅取樣數目</translation>
     </message>
     <message>
+        <source>Save as a waveform set</source>
+        <translation>另存做波形檔案組</translation>
+    </message>
+    <message>
         <source>Save picture and data</source>
         <translation>儲存圖片同數據</translation>
     </message>
@@ -1298,6 +1330,14 @@
     <message>
         <source>Saved waveforms</source>
         <translation>儲存咗嘅波形</translation>
+    </message>
+    <message>
+        <source>Saves this record as a waveform set, which Load in the panel shows (Ctrl+S)</source>
+        <translation>將呢條記錄另存做波形，可以喺面板載入 (Ctrl+S)</translation>
+    </message>
+    <message>
+        <source>Save…</source>
+        <translation>儲存…</translation>
     </message>
     <message>
         <source>Scales that are not the traces'</source>
@@ -1412,12 +1452,20 @@
         <translation>日誌嘅欄</translation>
     </message>
     <message>
+        <source>The connection is lost</source>
+        <translation>連線斷咗</translation>
+    </message>
+    <message>
+        <source>The connection is lost: %1</source>
+        <translation>連線斷咗：%1</translation>
+    </message>
+    <message>
         <source>The data file</source>
         <translation>數據檔案</translation>
     </message>
     <message>
-        <source>The disk is full: %1 rows wait</source>
-        <translation>磁碟滿咗：%1 行等待寫入</translation>
+        <source>The disk is full; waiting in memory: %1</source>
+        <translation>磁碟滿咗；喺記憶體等待寫入：%1</translation>
     </message>
     <message>
         <source>The folder that is shown</source>
@@ -1430,6 +1478,10 @@
     <message>
         <source>The instrument is being read</source>
         <translation>讀取緊儀器</translation>
+    </message>
+    <message>
+        <source>The instrument is busy: %1</source>
+        <translation>儀器正忙：%1</translation>
     </message>
     <message>
         <source>The instrument is stopped: press %1</source>
@@ -1448,6 +1500,10 @@
         <translation>要儲存嘅圖片</translation>
     </message>
     <message>
+        <source>The picture's name must end in png, jpg, bmp, gif, pcx or tif</source>
+        <translation>圖片個名要以 png、jpg、bmp、gif、pcx 或者 tif 結尾</translation>
+    </message>
+    <message>
         <source>The port in use</source>
         <translation>用緊嘅連接埠</translation>
     </message>
@@ -1458,6 +1514,10 @@
     <message>
         <source>The report</source>
         <translation>報告</translation>
+    </message>
+    <message>
+        <source>The same sweep was fetched: %1</source>
+        <translation>同一次掃描讀取咗：%1</translation>
     </message>
     <message>
         <source>The scales are not known: press %1 to read them</source>
@@ -1494,6 +1554,10 @@
     <message>
         <source>This record alone</source>
         <translation>淨係呢條記錄</translation>
+    </message>
+    <message>
+        <source>This record is cut: a set needs a whole one</source>
+        <translation>呢條記錄唔完整：要一條完整嘅</translation>
     </message>
     <message>
         <source>This record may go with the others again</source>
@@ -1542,6 +1606,10 @@
     <message>
         <source>Traces</source>
         <translation>波形</translation>
+    </message>
+    <message>
+        <source>Traces paused for %1</source>
+        <translation>軌跡暫停：%1</translation>
     </message>
     <message>
         <source>Traces: drag the cursors, or move them with the arrow keys; C changes the cursor. Double click or E: larger, Escape: back</source>
@@ -1604,6 +1672,10 @@
         <translation>等緊 %1 嘅回應</translation>
     </message>
     <message>
+        <source>Waiting in memory: %1. %2</source>
+        <translation>喺記憶體等待寫入：%1。%2</translation>
+    </message>
+    <message>
         <source>What is drawn of the records</source>
         <translation>記錄嘅繪製內容</translation>
     </message>
@@ -1644,6 +1716,14 @@
         <translation>連埋最近 %1 條</translation>
     </message>
     <message>
+        <source>With the one before</source>
+        <translation>連埋前一條</translation>
+    </message>
+    <message>
+        <source>Without CH%1, which is of another sweep</source>
+        <translation>唔包 CH%1：屬於另一次掃描</translation>
+    </message>
+    <message>
         <source>Write the shown record to text.csv</source>
         <translation>將顯示緊嘅記錄寫入 text.csv</translation>
     </message>
@@ -1670,10 +1750,6 @@
     <message>
         <source>clipped</source>
         <translation>削波</translation>
-    </message>
-    <message>
-        <source>fetched %1 times</source>
-        <translation>讀咗 %1 次</translation>
     </message>
     <message>
         <source>flat</source>

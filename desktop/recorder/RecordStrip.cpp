@@ -89,13 +89,27 @@ void RecordStrip::paintMarks(QPainter& painter, const RecordTimeline::Picture& p
     const int x = gap.column - picture.barWidth / 2 - 2;
     painter.drawLine(x, lanes.top(), x, lanes.bottom());
   }
+  paintPins(painter, picture.pins);
+}
+
+/// Those that would touch share a dot, with their number; a name has the room up to the next dot.
+void RecordStrip::paintPins(QPainter& painter, const std::vector<RecordTimeline::Place>& pins) {
+  constexpr int distance = 8;
+  constexpr int leastName = 24;
   painter.setRenderHint(QPainter::Antialiasing);
-  for (const auto& pin : picture.pins) {
-    painter.setPen(RecorderLook::text);
-    painter.setBrush(RecorderLook::text);
-    painter.drawEllipse(QPointF(pin.column + 0.5, topRoom / 2.0), 3.0, 3.0);
-    painter.drawText(QPoint(pin.column + 6, topRoom - 3),
-                     shownText(pin.name, Room{.characters = 20}));
+  painter.setPen(RecorderLook::text);
+  painter.setBrush(RecorderLook::text);
+  for (std::size_t first = 0, end = 0; first < pins.size(); first = end) {
+    const int column = pins[first].column;
+    while (end < pins.size() && pins[end].column < column + distance) ++end;
+    painter.drawEllipse(QPointF(column + 0.5, topRoom / 2.0), 3.0, 3.0);
+    const int left = column + 8;
+    const int room = (end < pins.size() ? pins[end].column - distance : width()) - left;
+    const QString name = end - first == 1 ? shownText(pins[first].name, Room{.characters = 20})
+                                          : QStringLiteral("×%1").arg(end - first);
+    if (room < std::min(leastName, painter.fontMetrics().horizontalAdvance(name))) continue;
+    painter.drawText(QPoint(left, topRoom - 3),
+                     painter.fontMetrics().elidedText(name, Qt::ElideRight, room));
   }
   painter.setRenderHint(QPainter::Antialiasing, false);
 }

@@ -41,6 +41,7 @@ class RecordStrip : public QWidget {
   QRect lane(int channel) const;
   void paintLane(QPainter& painter, const RecordTimeline::Picture& picture, int channel);
   void paintMarks(QPainter& painter, const RecordTimeline::Picture& picture);
+  void paintPins(QPainter& painter, const std::vector<RecordTimeline::Place>& pins);
   void paintTimes(QPainter& painter, const RecordTimeline::Picture& picture);
   void paintSelected(QPainter& painter);
 

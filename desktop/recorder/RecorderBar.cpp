@@ -83,8 +83,9 @@ void RecorderBar::sayTexts() {
     mode_->setAccessibleName(panelText("Drawn as"));
     QStringList counts;
     for (const int count : behindCounts)
-      counts << (count == 0 ? panelText("This record alone")
-                            : panelText("With the last %1").arg(count));
+      counts << (count == 0   ? panelText("This record alone")
+                 : count == 1 ? panelText("With the one before")
+                              : panelText("With the last %1").arg(count));
     setEntries(*behind_, counts);
     behind_->setToolTip(panelText(
         "How many records before this one belong to the picture; a spectrum is their mean"));

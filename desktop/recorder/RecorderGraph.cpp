@@ -148,6 +148,10 @@ void RecorderGraph::showPicture(const RecorderPicture& picture, const RecorderCu
   acrossFactor_ =
       showAxis(*xAxis, picture.x, across, isXY ? look_.channels[0] : QColor(RecorderLook::text))
           .factor;
+  // An axis on which nothing is drawn has no numbers.
+  xAxis->setTickLabels(!picture.x.unit.empty());
+  yAxis->setTickLabels(picture.y[0] || picture.y[1]);
+  yAxis->setLabel(QString());
   yAxis2->setTickLabels(hasOwnAxes_);
   yAxis2->setLabel(QString());
   const bool isShared = picture.mode == RecorderMode::spectrum && picture.y[0] && picture.y[1];
@@ -176,7 +180,8 @@ RecorderGraph::Scale RecorderGraph::showAxis(QCPAxis& axis, const RecorderAxis& 
   ticker->setTickStep(shown.step * factor);
   axis.setNumberPrecision(decimalsOf(shown.step * factor));
   axis.setRange(shown.low * factor, shown.high * factor);
-  axis.setLabel(QStringLiteral("%1 (%2)").arg(name, toQt(std::string(prefix.text) + shown.unit)));
+  const QString unit = toQt(std::string(prefix.text) + shown.unit);
+  axis.setLabel(shown.unit.empty() ? QString() : QStringLiteral("%1 (%2)").arg(name, unit));
   axis.setLabelColor(colour);
   axis.setTickLabelColor(colour);
   return {factor};
@@ -371,3 +376,6 @@ void RecorderGraph::focusOutEvent(QFocusEvent* event) {
 }
 
 }  // namespace tracewell
+
+// With the graph's own header, which is long, in no other source.
+#include "moc_RecorderGraph.cpp"

@@ -41,7 +41,7 @@ class TickMenu : public QMenu {
 RecorderLogBar::RecorderLogBar(Recorder& recorder, QWidget* parent)
     : QWidget(parent),
       recorder_(recorder),
-      quantities_(new QToolButton(this)),
+      quantities_(new QPushButton(this)),
       limits_(new QLineEdit(this)),
       pins_(new QCheckBox(this)),
       rings_(new QCheckBox(this)),
@@ -53,8 +53,6 @@ RecorderLogBar::RecorderLogBar(Recorder& recorder, QWidget* parent)
   auto* const menu = new TickMenu(quantities_);
   quantities_->setObjectName(QStringLiteral("logQuantities"));
   quantities_->setMenu(menu);
-  quantities_->setPopupMode(QToolButton::InstantPopup);
-  quantities_->setFocusPolicy(Qt::StrongFocus);
   for (const QuantityName& name : quantityNames) {
     QAction* const entry = menu->addAction(QString());
     entry->setCheckable(true);

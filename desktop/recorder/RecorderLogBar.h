@@ -5,7 +5,6 @@
 #include <QCheckBox>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QToolButton>
 #include <QWidget>
 #include <vector>
 
@@ -39,7 +38,7 @@ class RecorderLogBar : public QWidget {
 
   Recorder& recorder_;
   SaidTexts texts_;
-  QToolButton* quantities_;
+  QPushButton* quantities_;
   std::vector<QAction*> entries_;
   QLineEdit* limits_;
   QCheckBox* pins_;

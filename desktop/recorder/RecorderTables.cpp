@@ -113,8 +113,11 @@ void RecorderTables::showMeasurements() {
   std::vector<int> channels;
   for (const int channel : {1, 2})
     if (view_.shownOf(channel)) channels.push_back(channel);
+  values_->setVisible(!channels.empty());
+  if (channels.empty()) return;
   const auto lines = view_.measurements();
   const QSignalBlocker blocker(values_);
+  const int columns = values_->columnCount();
   setColumns(*values_, panelText("Measurement"), channels);
   setRows(*values_, static_cast<int>(lines.size()));
   for (int row = 0; row < values_->rowCount(); ++row) {
@@ -134,6 +137,8 @@ void RecorderTables::showMeasurements() {
   }
   if (values_->currentRow() < 0 && values_->rowCount() > 0)
     values_->setCurrentCell(static_cast<int>(Quantity::peakToPeak), 0);
+  // A column that is new belongs to the line that is chosen, too.
+  if (columns != values_->columnCount()) values_->selectRow(values_->currentRow());
 }
 
 void RecorderTables::showStatistics() {

@@ -2,7 +2,8 @@
 #include "RecorderWindow.h"
 
 #include <QHBoxLayout>
-#include <QSaveFile>
+#include <QScreen>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 #include "DesktopWords.h"
@@ -12,6 +13,8 @@
 #include "PanelReference.h"
 #include "QtImages.h"
 #include "QtValues.h"
+#include "RecorderFiles.h"
+#include "RecorderGraph.h"
 #include "RecorderWords.h"
 #include "ShownText.h"
 
@@ -23,6 +26,9 @@ constexpr int columnWidth = 350;
 /// the panel goes on meanwhile. Milliseconds.
 constexpr int measuredAtOnce = 20;
 constexpr int betweenMeasuring = 20;
+
+/// The last one is what a name without an ending gets.
+constexpr const char* pictureNames = "|*.jpg *.bmp *.gif *.pcx *.tif *.png";
 
 }  // namespace
 
@@ -42,7 +48,8 @@ RecorderWindow::RecorderWindow(Recorder& recorder)
   sayTexts();
   connectParts();
   takeLook();
-  resize(1180, 760);
+  // With its frame, on a small screen.
+  resize(QSize(1180, 760).boundedTo(screen()->availableSize() - QSize(8, 40)));
   strip_->setFocus();
 }
 
@@ -69,6 +76,9 @@ void RecorderWindow::layOut() {
   states->addWidget(logState_, 1);
   for (ElidedLabel* label : {status_, logState_}) label->setProperty("status", true);
   status_->setObjectName(QStringLiteral("recorderStatus"));
+  // Each has the whole line while the other one is silent.
+  states->addStrut(status_->sizeHint().height());
+  for (ElidedLabel* label : {status_, logState_}) label->hide();
   logState_->setObjectName(QStringLiteral("logState"));
   rows->addLayout(states);
 }
@@ -97,6 +107,7 @@ QLayout* RecorderWindow::actionRow() {
   row->addStretch(1);
   showInPanel_ = addButton(*row, "showInPanel");
   copy_ = addButton(*row, "copy");
+  save_ = addButton(*row, "save");
   export_ = addButton(*row, "export");
   log_ = addButton(*row, "log");
   log_->setCheckable(true);
@@ -121,6 +132,7 @@ void RecorderWindow::connectParts() {
   });
   connect(showInPanel_, &QPushButton::clicked, this, [this] { run([this] { showInPanel(); }); });
   connect(copy_, &QPushButton::clicked, this, [this] { run([this] { copy(); }); });
+  connect(save_, &QPushButton::clicked, this, [this] { run([this] { saveSet(); }); });
   connect(export_, &QPushButton::clicked, this, [this] { run([this] { exportCsv(); }); });
   connect(log_, &QPushButton::toggled, logBar_, &QWidget::setVisible);
   connect(logBar_, &RecorderLogBar::said, this, &RecorderWindow::say);
@@ -130,6 +142,8 @@ void RecorderWindow::connectParts() {
     if (isVisible()) showLog();
   });
   everySecond_.start(1000);
+  // The key that opens it closes it, too.
+  connect(new QShortcut(Qt::Key_F9, this), &QShortcut::activated, this, &QWidget::close);
 }
 
 void RecorderWindow::sayTexts() {
@@ -150,6 +164,10 @@ void RecorderWindow::sayTexts() {
     copy_->setText(panelText("Copy"));
     copy_->setToolTip(panelText("Copies the picture and its values for other programs (Ctrl+C)"));
     copy_->setShortcut(QKeySequence::Copy);
+    save_->setText(panelText("Save…"));
+    save_->setToolTip(
+        panelText("Saves this record as a waveform set, which Load in the panel shows (Ctrl+S)"));
+    save_->setShortcut(QKeySequence::Save);
     export_->setText(panelText("Export…"));
     export_->setToolTip(panelText(
         "Writes the marked stretch, else this record, as CSV in volts and seconds (Ctrl+E)"));
@@ -160,14 +178,17 @@ void RecorderWindow::sayTexts() {
   });
 }
 
+RecorderLook RecorderWindow::look() const {
+  const frmDSO& main = recorder_.main();
+  return {toQt(main.graphDSO.plotAreaColour()),
+          toQt(main.graphDSO.axis("XAxis").gridColour()),
+          {toQt(main.channels[0].plot.lineColour()), toQt(main.channels[1].plot.lineColour())}};
+}
+
 void RecorderWindow::takeLook() {
-  frmDSO& main = recorder_.main();
-  const RecorderLook look{
-      toQt(main.graphDSO.plotAreaColour()),
-      toQt(main.graphDSO.axis("XAxis").gridColour()),
-      {toQt(main.channels[0].plot.lineColour()), toQt(main.channels[1].plot.lineColour())}};
-  graph_->setLook(look);
-  strip_->setLook(look);
+  const RecorderLook now = look();
+  graph_->setLook(now);
+  strip_->setLook(now);
 }
 
 void RecorderWindow::recordKept() {
@@ -202,7 +223,7 @@ void RecorderWindow::showAll() {
   tables_->showState();
   showPins();
   showLog();
-  for (QPushButton* button : {pin_, showInPanel_, copy_, export_})
+  for (QPushButton* button : {pin_, showInPanel_, copy_, save_, export_})
     button->setEnabled(pointed.has_value());
   measuring_.start(betweenMeasuring);
 }
@@ -245,11 +266,13 @@ void RecorderWindow::showLog() {
   logState_->setSentences(shown.isEmpty() ? std::vector<ElidedLabel::Sentence>()
                                           : std::vector<ElidedLabel::Sentence>{{shown, isTrouble}});
   logState_->setToolTip(logState_->text());
+  logState_->setVisible(!shown.isEmpty());
 }
 
 void RecorderWindow::say(const QString& text) {
   status_->setText(text);
   status_->setToolTip(text);
+  status_->setVisible(!text.isEmpty());
 }
 
 void RecorderWindow::run(const std::function<void()>& act) {
@@ -309,25 +332,21 @@ void RecorderWindow::exportCsv() {
 }
 
 void RecorderWindow::exportInto(const std::filesystem::path& path) {
-  QSaveFile file(toQt(path));
-  const auto refuse = [&] {
-    throw Error(pathAccess, "Tracewell", pathText(path) + ": " + fromQt(file.errorString()));
-  };
-  if (!file.open(QIODevice::WriteOnly)) refuse();
-  const SamplesCsvResult result =
-      writeSamples(recorder_.store(), view_.exported(), [&file](std::string_view text) {
-        file.write(text.data(), static_cast<qint64>(text.size()));
-      });
-  if (result.records == 0) {
-    file.cancelWriting();
-    return say(panelText("Nothing to export: the scales of these records are not known"));
-  }
-  if (!file.commit()) refuse();
-  QString text = panelText("Saved %1").arg(shownText(pathText(path), roomOfLine));
-  if (result.leftOut > 0)
-    text += QStringLiteral(". ") +
-            panelText("%1 records left out: their scales are not known").arg(result.leftOut);
-  say(text);
+  say(exportRecords(recorder_, view_, path));
+}
+
+void RecorderWindow::saveSet() {
+  const Services& services = recorder_.main().services();
+  const std::string name = nameOfSet(recorder_.store(), view_.saved());
+  const std::filesystem::path path = services.dialogs.saveFile(
+      {services.programFolder, fromQt(panelText("Save as a waveform set")), name,
+       fromQt(panelText("Pictures")) + pictureNames});
+  // After Cancel it is the name that was offered.
+  if (path != name) saveSetInto(path);
+}
+
+void RecorderWindow::saveSetInto(const std::filesystem::path& path) {
+  say(saveAsSet(recorder_, view_, look(), graph_->size(), path));
 }
 
 void RecorderWindow::changeEvent(QEvent* event) {
@@ -345,13 +364,6 @@ void RecorderWindow::changeEvent(QEvent* event) {
 void RecorderWindow::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
   showSoon();
-}
-
-void RecorderWindow::keyPressEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Escape)
-    close();
-  else
-    QWidget::keyPressEvent(event);
 }
 
 }  // namespace tracewell

@@ -11,7 +11,6 @@
 #include "Recorder.h"
 #include "RecorderBar.h"
 #include "RecorderCursors.h"
-#include "RecorderGraph.h"
 #include "RecorderLogBar.h"
 #include "RecorderTables.h"
 #include "RecorderView.h"
@@ -20,6 +19,7 @@
 namespace tracewell {
 
 class ElidedLabel;
+class RecorderGraph;
 
 /// The recorder's window: graph, strip of time, measurements, and what can be done with a record.
 /// It is not modal, and shows what RecorderView says.
@@ -34,11 +34,12 @@ class RecorderWindow : public QWidget {
   RecorderView& view() { return view_; }
   /// The records that are marked, or the one pointed at, into a file. Raises pathAccess.
   void exportInto(const std::filesystem::path& path);
+  /// The record pointed at, as a waveform set; the path is the picture's. Raises pathAccess.
+  void saveSetInto(const std::filesystem::path& path);
 
  protected:
   void changeEvent(QEvent* event) override;
   void showEvent(QShowEvent* event) override;
-  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   void layOut();
@@ -46,6 +47,7 @@ class RecorderWindow : public QWidget {
   QPushButton* addButton(QLayout& row, const char* name);
   void connectParts();
   void sayTexts();
+  RecorderLook look() const;
   void takeLook();
   /// All that shows has changed; painted once an event-loop turn.
   void showSoon();
@@ -61,6 +63,7 @@ class RecorderWindow : public QWidget {
   void showInPanel();
   void copy();
   void exportCsv();
+  void saveSet();
 
   Recorder& recorder_;
   RecorderView view_;
@@ -75,6 +78,7 @@ class RecorderWindow : public QWidget {
   QComboBox* pins_ = nullptr;
   QPushButton* showInPanel_ = nullptr;
   QPushButton* copy_ = nullptr;
+  QPushButton* save_ = nullptr;
   QPushButton* export_ = nullptr;
   QPushButton* log_ = nullptr;
   RecorderLogBar* logBar_;

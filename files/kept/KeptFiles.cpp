@@ -45,9 +45,13 @@ bool isWrittenUnasked(const frmDSO& main, const fs::path& path) {
 
 void showFilesToKeep(frmDSO& main) {
   std::string text;
-  for (const fs::path& path : main.filesToKeep)
-    if (isWrittenUnasked(main, path))
-      text += (text.empty() ? "" : "; ") + notice(main.services().words, path);
+  main.lblNotice.sentences.clear();
+  for (const fs::path& path : main.filesToKeep) {
+    if (!isWrittenUnasked(main, path)) continue;
+    const std::string said = notice(main.services().words, path);
+    main.lblNotice.sentences.push_back({said, true});
+    text += (text.empty() ? "" : "; ") + said;
+  }
   main.lblNotice.visible = !text.empty();
   main.lblNotice.caption = text;
 }

@@ -16,7 +16,7 @@ Error closedError() {
   return {deviceError, "RS232", "The port is not open"};
 }
 
-/// What may stand between lines without meaning anything. A line end is the end of something.
+/// Bytes that mean nothing between lines. A line end is not one of them: it ends something.
 bool isBlank(char byte) {
   return byte == '\r' || byte == ' ' || byte == '\0';
 }
@@ -38,6 +38,7 @@ void Conversation::use(const LineSettings& settings) {
     if (openSettings_.portNumber != settings.portNumber) forget();
     openSettings_ = settings;
     ++openings_;
+    account_.opened();
     channel_->readable = [this] { dispatcher_.dispatch([this] { arrived(); }); };
   }
   hear(take(0));
@@ -61,7 +62,7 @@ std::string Conversation::ask(std::string_view query, int timeOut) {
   try {
     std::string reply = awaitReply(askedAt_ + timeOut);
     unanswered_ = 0;
-    // What was asked before it has been answered, or never will be.
+    // Earlier queries have been answered by now, or never will be.
     if (!isQuestionOwed_) owedBytes_ = 0;
     state_ = State::idle;
     account_.gaveAnswer(askedAt_, clock_.milliseconds());
@@ -87,7 +88,7 @@ void Conversation::abandon() {
   held_.clear();
 }
 
-/// What is owed may still come when the line is opened again.
+/// Outstanding bytes may still arrive after the line is opened again.
 void Conversation::close() {
   channel_.reset();
   whole_.reset();
@@ -99,7 +100,7 @@ void Conversation::close() {
   if (state_ != State::idle) state_ = State::draining;
 }
 
-/// Another instrument owes nothing.
+/// Another instrument has nothing outstanding.
 void Conversation::forget() {
   state_ = State::idle;
   unanswered_ = 0;
@@ -109,27 +110,28 @@ void Conversation::forget() {
   account_.beginAnew();
 }
 
-void Conversation::send(std::string_view bytes) {
+template <class Transfer>
+auto Conversation::transfer(Transfer use) {
   if (!channel_) throw closedError();
   try {
-    channel_->write(bytes);
-  } catch (const Error&) {
+    return use(*channel_);
+  } catch (const Error& error) {
+    account_.lost(error.description());
     close();
     throw;
   }
+}
+
+void Conversation::send(std::string_view bytes) {
+  transfer([bytes](ByteChannel& channel) { channel.write(bytes); });
 }
 
 std::string Conversation::take(std::int64_t timeOut) {
-  if (!channel_) throw closedError();
-  try {
-    return channel_->read(static_cast<int>(timeOut));
-  } catch (const Error&) {
-    close();
-    throw;
-  }
+  return transfer(
+      [timeOut](ByteChannel& channel) { return channel.read(static_cast<int>(timeOut)); });
 }
 
-/// What comes before `until`, or before it is time for the next turn of the desktop.
+/// Reads until `until`, or until the desktop's next turn is due.
 std::string Conversation::listen(std::int64_t until) {
   standBy_.turn();
   if (standBy_.isGivenUp()) throw timeOutError();
@@ -137,9 +139,9 @@ std::string Conversation::listen(std::int64_t until) {
   return take(std::clamp<std::int64_t>(left, 0, StandBy::longestGap));
 }
 
-/// Whose the bytes are depends on the state alone. Those of a reply are heard by awaitReply.
+/// The state alone decides what the bytes belong to. awaitReply reads those of a reply itself.
 void Conversation::hear(const std::string& bytes) {
-  // A record may have come while nobody looked, so the clock alone does not end it.
+  // A record may have arrived unread, so the clock alone does not end the wait for it.
   if (bytes.empty() || state_ == State::draining) review();
   if (bytes.empty()) return;
   if (state_ == State::recordAwaited)
@@ -164,20 +166,22 @@ void Conversation::hearRecord(const std::string& bytes) {
   hearBehindRecord(behind);
 }
 
-/// Where more follows, a late answer may have stood in front, and all be shifted.
+/// If more bytes follow, a late reply may have come first and shifted the whole record.
 void Conversation::hearBehindRecord(std::string_view bytes) {
   if (!std::ranges::all_of(bytes, [](char byte) { return isBlank(byte) || byte == '\n'; }))
     hearLines(bytes, askedAt_);
 }
 
-/// It may be the one that was given up before. As many as were owed still are: this one, or those.
+/// The record may be an earlier one that was given up. The outstanding count stays the same: either
+/// this record is outstanding, or the earlier one.
 void Conversation::refuseRecord(std::string_view behind) {
   account_.heardLateRecord(clock_.milliseconds());
   state_ = State::draining;
   isOwedComing_ = true;
   drainTime_ = recordDrain;
   if (isWanted_) {
-    // Otherwise a channel that always answers would stand back for one that never does.
+    // Asked first again. Otherwise a channel that always answers would wait for one that never
+    // does.
     std::erase_if(held_,
                   [this](const LineRecord& held) { return held.channel == record_.channel; });
     record_.bytes.clear();
@@ -186,7 +190,8 @@ void Conversation::refuseRecord(std::string_view behind) {
   if (!behind.empty()) hearOwed(behind);
 }
 
-/// Nine tenths of what is missing, over and over: the last bytes are heard as they come.
+/// Rests for nine tenths of the time that the missing bytes take, repeatedly, so that the last
+/// bytes are read as they arrive.
 void Conversation::restUntilMoreHasCome() {
   constexpr int notWorthIt = 4;
   const double missing = openSettings_.timeOf(record_.count - record_.bytes.size());
@@ -194,8 +199,8 @@ void Conversation::restUntilMoreHasCome() {
   if (time > notWorthIt) channel_->rest(time);
 }
 
-/// Lines that nobody waits for. Each is one that is owed; what goes beyond that is stray, and so is
-/// a line right behind another: both may be halves of one.
+/// Lines that no query waits for. Each one settles an outstanding reply; any beyond that are stray.
+/// A line right behind another is stray too, since both may be halves of one.
 void Conversation::hearLines(std::string_view bytes, std::int64_t since) {
   const std::int64_t now = clock_.milliseconds();
   state_ = State::draining;
@@ -213,13 +218,13 @@ void Conversation::hearLines(std::string_view bytes, std::int64_t since) {
   account_.heardUnasked(unasked, since, now);
 }
 
-/// Bytes that nobody waits for are those of the records that are owed, then lines.
+/// Bytes that no query waits for belong to outstanding records first, then to lines.
 void Conversation::hearOwed(std::string_view bytes) {
   if (state_ == State::idle && owedBytes_ == 0 && isBlank(bytes)) return;
   hearLines(bytes.substr(payWith(bytes)), clock_.milliseconds());
 }
 
-/// How many of the bytes are those of records.
+/// Takes outstanding records off the front of the bytes. Returns how many bytes these had.
 std::size_t Conversation::payWith(std::string_view bytes) {
   const std::size_t paid = std::min(owedBytes_, bytes.size());
   if (paid == 0) return 0;
@@ -237,7 +242,7 @@ void Conversation::owe() {
   isOwedComing_ = false;
 }
 
-/// When the line may be trusted again if nothing more is heard.
+/// When the line can be trusted again if nothing more arrives.
 std::int64_t Conversation::trustedAt() const {
   const std::int64_t quietSince = std::max(askedAt_, heardAt_);
   if (state_ == State::recordAwaited) return quietSince + longestThought;
@@ -246,14 +251,14 @@ std::int64_t Conversation::trustedAt() const {
   return quietSince + (isAllThere ? settling : drainTime_);
 }
 
-/// What has been quiet for long enough is over.
+/// Ends whatever has been quiet for long enough.
 void Conversation::review() {
   const std::int64_t now = clock_.milliseconds();
   const bool isUnderWay = state_ != State::idle && state_ != State::replyAwaited;
   if (!isUnderWay || now < trustedAt()) return;
   if (state_ == State::recordAwaited) {
     account_.gaveUpRecord(record_.bytes.size(), record_.count, now);
-    // A few bytes may have been the late answer to something else.
+    // A few bytes may have been the late reply to something else.
     if (2 * record_.bytes.size() < record_.count) owe();
   }
   if (state_ == State::recordHeard && isWanted_) whole_ = std::move(record_);
@@ -263,7 +268,7 @@ void Conversation::review() {
     isOwedComing_ = false;
     isQuestionOwed_ = false;
   }
-  // What was asked while the record came is answered behind it.
+  // A query sent while the record arrived is answered after it.
   const bool isMoreOwed = state_ == State::recordHeard && unanswered_ > 0;
   state_ = isMoreOwed ? State::draining : State::idle;
   if (isMoreOwed) return;
@@ -283,12 +288,12 @@ void Conversation::makeReadyToAsk(int timeOut) {
   drainTime_ = std::max(timeOut + drainMargin, longestThought);
   review();
   if (state_ == State::recordAwaited || state_ == State::recordHeard) finishRecord();
-  // It has answered, or there was a pause as long as a drain: it gets another chance.
+  // The instrument has replied, or a pause was as long as a drain: it gets another chance.
   if (state_ == State::idle) unansweredInRow_ = 0;
   if (!isSilent()) drain(timeOut);
 }
 
-/// However its bytes trickle.
+/// Waits for the rest of the record, however slowly its bytes trickle, up to a deadline.
 void Conversation::finishRecord() {
   const double left = openSettings_.timeOf(record_.count - record_.bytes.size());
   const auto longest = static_cast<std::int64_t>(std::ceil(2 * left)) + restMargin;
@@ -300,7 +305,7 @@ void Conversation::finishRecord() {
     hear(listen(std::min(deadline, trustedAt())));
 }
 
-/// A line that does not come to rest is not asked.
+/// Raises the time-out error, and sends no query, if the line does not come to rest.
 void Conversation::drain(int timeOut) {
   const int longest = isRestless_ ? timeOut : 2 * drainTime_;
   const std::int64_t deadline = clock_.milliseconds() + longest;
@@ -331,8 +336,8 @@ std::string Conversation::awaitReply(std::int64_t deadline) {
   }
 }
 
-/// A line is the answer if no other answer is owed and nothing follows it: half of a damaged reply
-/// is none. While a record is owed, what is as long as one has it in front.
+/// A line is the reply if no other reply is outstanding and nothing follows it: half of a damaged
+/// reply is not one. While a record is outstanding, bytes as long as a record begin with it.
 std::string Conversation::onlyLine(std::string received, std::size_t length) {
   const std::int64_t until = clock_.milliseconds() + settlingTime();
   const bool hasRecord = owedBytes_ > 0 && length >= record_.count;
@@ -352,13 +357,14 @@ void Conversation::leaveUnanswered() {
   state_ = State::draining;
   isQuestionOwed_ = true;
   ++unansweredInRow_;
+  account_.missedAnswer();
 }
 
 void Conversation::arrived() {
   if (!channel_) return;
   try {
     hear(take(0));
-    // Nobody waits for these: what comes without end must not keep the processor busy.
+    // No query waits for these bytes: an endless stream must not keep the processor busy.
     if (state_ == State::draining) channel_->rest(StandBy::longestGap);
     if (whole_) {
       const LineRecord record = *std::exchange(whole_, std::nullopt);
@@ -367,7 +373,8 @@ void Conversation::arrived() {
     }
     if (dispatcher_.isOpen()) sendHeld();
   } catch (const Error&) {
-    // Closed now. Whoever uses the port next opens it again or is told the reason.
+    // The line is closed now. The next user of the port opens it again or is told the reason.
+    if (lost) lost();
   }
 }
 
@@ -383,7 +390,7 @@ void Conversation::sendHeld() {
   state_ = State::recordAwaited;
 }
 
-/// Within so long after the last byte of an answer, what belongs to it has come.
+/// How long after its last byte a reply is sure to be complete. Milliseconds.
 int Conversation::settlingTime() const {
   return settling + static_cast<int>(std::ceil(openSettings_.timeOf(2)));
 }

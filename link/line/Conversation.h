@@ -92,6 +92,8 @@ class Conversation {
 
   /// Called from the event loop with each whole record.
   std::function<void(const LineRecord&)> delivered;
+  /// Called from the event loop when the line has failed while nobody used it.
+  std::function<void()> lost;
 
  private:
   /// What is pending, and so whose the next bytes are.
@@ -108,6 +110,8 @@ class Conversation {
 
   void close();
   void forget();
+  template <class Transfer>
+  auto transfer(Transfer use);
   void send(std::string_view bytes);
   std::string take(std::int64_t timeOut);
   std::string listen(std::int64_t until);

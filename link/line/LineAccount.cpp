@@ -5,7 +5,8 @@ namespace tracewell {
 namespace {
 
 constexpr int secondsKept = 60;
-/// Whoever wants records asks for the next one within so long; a longer break was none of waiting.
+/// An acquisition asks for its next record within this time; a longer break was not spent waiting.
+/// Milliseconds.
 constexpr int longestBreak = 5000;
 
 }  // namespace
@@ -70,12 +71,14 @@ void LineAccount::wantedRecord(std::int64_t now) {
 
 void LineAccount::gaveRecord(std::int64_t now) {
   rest_.lastRecordAt = now;
+  rest_.unansweredInRow = 0;
   rest_.noRecordSince.reset();
 }
 
 void LineAccount::gaveAnswer(std::int64_t askedAt, std::int64_t now) {
   if (!answerAt_ || askedAt >= *answerAt_ + longestThought_) seriesFrom_ = now;
   answerAt_ = now;
+  rest_.unansweredInRow = 0;
 }
 
 }  // namespace tracewell

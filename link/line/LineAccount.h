@@ -17,6 +17,12 @@ class LineAccount {
   LineReport report(std::int64_t now) const;
   /// Another instrument is on the line.
   void beginAnew();
+  /// The line has failed; it has been opened again.
+  void lost(const std::string& reason) { rest_.failure = reason; }
+  void opened() {
+    rest_.failure.clear();
+    rest_.unansweredInRow = 0;
+  }
 
   /// `bytes` unasked bytes were heard, the first of them at `since` at the earliest.
   void heardUnasked(int bytes, std::int64_t since, std::int64_t now);
@@ -26,6 +32,7 @@ class LineAccount {
   /// A record is wanted; repeated while the acquisition runs.
   void wantedRecord(std::int64_t now);
   void gaveRecord(std::int64_t now);
+  void missedAnswer() { ++rest_.unansweredInRow; }
   /// The reply to a query sent at `askedAt` is returned.
   void gaveAnswer(std::int64_t askedAt, std::int64_t now);
 

@@ -9,6 +9,7 @@ LinePort::LinePort(ChannelOpener& opener, Clock& clock, Gate& gate,
   conversation_.delivered = [this, &dispatcher](const LineRecord& record) {
     dispatcher.dispatch([&] { dataReady.raise(record); });
   };
+  conversation_.lost = [this, &dispatcher] { dispatcher.dispatch([this] { lost.raise(); }); };
 }
 
 void LinePort::command(std::string_view line, Reply reply) {

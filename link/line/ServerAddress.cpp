@@ -20,7 +20,7 @@ std::string_view trimmed(std::string_view text) {
   return text.substr(0, text.find_last_not_of(blanks) + 1);
 }
 
-/// Nothing but visible ASCII: a name of another alphabet is written the way that name servers know.
+/// Visible ASCII only: a name in another alphabet is written in the form that name servers know.
 bool isHost(std::string_view text) {
   const auto isNamePart = [](char c) { return c > ' ' && c < '\x7F' && c != '/' && c != '@'; };
   return !text.empty() && std::ranges::all_of(text, isNamePart);

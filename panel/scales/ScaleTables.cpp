@@ -78,7 +78,7 @@ std::string_view captionNumber(std::string_view caption) {
 }
 
 char captionPrefix(std::string_view caption) {
-  // Of a single character the last two are that one.
+  // The last two of a single character are that one.
   if (caption.empty()) return ' ';
   return caption.size() == 1 ? caption[0] : caption[caption.size() - 2];
 }

@@ -8,7 +8,7 @@
 
 namespace tracewell {
 
-/// Powers of ten are exact only upwards.
+/// Only positive powers of ten are exact.
 double scaled(double value, int exponent) {
   return exponent < 0 ? value / std::pow(10, -exponent) : value * std::pow(10, exponent);
 }

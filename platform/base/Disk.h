@@ -8,7 +8,7 @@
 namespace tracewell {
 
 /// What the standard library cannot do: wait until the disk holds what was written, and give files
-/// away. Implemented by desktop/DesktopDisk.
+/// away. Implemented by desktop/DesktopDisk, in UnixDisk.cpp and WindowsDisk.cpp.
 class Disk {
  public:
   virtual ~Disk() = default;
@@ -21,6 +21,13 @@ class Disk {
   virtual void takeOwner(std::FILE& file, const std::filesystem::path& like) = 0;
   /// Flushes the names in a folder. No error if the file system cannot do that.
   virtual std::error_code flushFolder(const std::filesystem::path& folder) = 0;
+  /// Gives the file the name of another, which goes. Whatever happens there is one of the two.
+  virtual std::error_code rename(const std::filesystem::path& from,
+                                 const std::filesystem::path& to) {
+    std::error_code failed;
+    std::filesystem::rename(from, to, failed);
+    return failed;
+  }
 };
 
 /// The disk under every file that is written from now on; the caller's, null for none. The process

@@ -22,6 +22,13 @@ struct CloseFile {
 };
 using OpenFile = std::unique_ptr<std::FILE, CloseFile>;
 
+std::error_code renamed(const fs::path& from, const fs::path& to) {
+  std::error_code failed;
+  if (usedDisk != nullptr) return usedDisk->rename(from, to);
+  fs::rename(from, to, failed);
+  return failed;
+}
+
 /// The file that `path` means, which is a regular one, or a place where nothing is.
 fs::path replaceableTarget(const fs::path& path) {
   std::error_code failed;
@@ -109,9 +116,7 @@ class Replacement {
   }
 
   void takeName() {
-    std::error_code failed;
-    fs::rename(beside_, target_, failed);
-    check(failed, pathAccess, "Cannot replace");
+    check(renamed(beside_, target_), pathAccess, "Cannot replace");
     isDone_ = true;
   }
 
@@ -131,7 +136,7 @@ class Replacement {
   std::string goBack() {
     std::error_code failed;
     if (!old_.empty())
-      fs::rename(old_, target_, failed);
+      failed = renamed(old_, target_);
     else if (isDone_)
       fs::remove(target_, failed);
     if (!failed) return "";

@@ -29,10 +29,9 @@ class ValueLabel : public Control {
   ValueLabel(Window& owner, std::string_view name, int index)
       : ValueLabel(owner, name, "", index) {}
   Property<std::string> caption;
-  /// Its text is a warning. The view makes it stand out from the next caption on.
-  bool isWarning = false;
   struct Sentence {
     std::string text;
+    /// The view makes it stand out.
     bool isWarning;
   };
   /// Those of the caption, where each has a weight of its own. Assigned before the caption.

@@ -8,7 +8,9 @@ Timer::Timer(Window& owner, int interval)
               [this](bool isNew) {
                 if (!isNew) return;
                 running_.reset();
-                if (enabled()) start();
+                if (!enabled()) return;
+                enabledAt_ = services_.clock.milliseconds();
+                start();
               }),
       services_(owner.services()),
       interval_(interval) {}

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstdint>
 #include <memory>
 
 #include "Property.h"
@@ -19,12 +20,16 @@ class Timer : public Observable {
   Property<bool> enabled;
   Event<> timer;
 
+  /// When it was last enabled, on Clock's scale.
+  std::int64_t enabledAt() const { return enabledAt_; }
+
  private:
   void start();
   void tick();
 
   Services& services_;
   int interval_;
+  std::int64_t enabledAt_ = 0;
   // A call that is still due when the timer has been disabled or is gone finds this replaced.
   std::shared_ptr<const int> running_;
 };

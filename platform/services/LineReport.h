@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <string>
 
 namespace tracewell {
 
@@ -16,6 +17,11 @@ struct LineReport {
     /// When it happened last, however long ago.
     std::optional<std::int64_t> lastAt;
   };
+
+  /// Why the line is gone that was open, in the port's words, until it is open again.
+  std::string failure;
+  /// Queries in a row that went unanswered, with no record since.
+  int unansweredInRow = 0;
 
   /// Unasked bytes: they belong to no query or request. Blanks do not count.
   Tally unaskedBytes;

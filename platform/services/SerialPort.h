@@ -20,7 +20,7 @@ namespace tracewell {
 /// Every operation may raise an Error; a missing reply raises number 30312 (portReadTimeOut), so
 /// that a silent instrument can be told from a broken line. While a query waits no handler runs,
 /// the window stays alive, and ProgramEnded is thrown out of it when the end has been asked for.
-/// Only dataReady arrives out of the event loop.
+/// Only dataReady and lost arrive out of the event loop.
 class SerialPort {
  public:
   static constexpr int defaultReadTimeOut = 2000;
@@ -71,6 +71,8 @@ class SerialPort {
   virtual void abandon() = 0;
 
   Event<const LineRecord&> dataReady;
+  /// The line has failed while nobody used it; the report says why.
+  Event<> lost;
 
  private:
   virtual void prepareLine() = 0;

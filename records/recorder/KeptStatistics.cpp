@@ -37,7 +37,8 @@ KeptStatistics::Result KeptStatistics::over(const Stretch& stretch, Quantity qua
     const int channel =
         isMeasured ? measured_[placeOf(number)].channel : store_.facts(number).channel;
     if (channel != stretch.channel) continue;
-    ++result.records;
+    if (result.records++ == 0) result.first = number;
+    result.last = number;
     if (!isMeasured) continue;
     ++result.measured;
     if (index >= ofOneRecord) continue;

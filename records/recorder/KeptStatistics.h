@@ -24,6 +24,9 @@ class KeptStatistics {
     /// Records that are in the stretch, and how many of them have been measured.
     std::size_t records = 0;
     std::size_t measured = 0;
+    /// Of those records; 0 where there are none.
+    RecordStore::Number first = 0;
+    RecordStore::Number last = 0;
   };
   /// Of one channel, stretch.channel. Phase and delay, of two records, are not counted.
   Result over(const Stretch& stretch, Quantity quantity) const;

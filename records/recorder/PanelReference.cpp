@@ -8,16 +8,12 @@
 #include "WaveformRecord.h"
 
 namespace tracewell {
-namespace {
 
-/// As the instrument writes it.
 std::string captionOfVolts(std::optional<double> perDivision) {
   const auto* const found = std::ranges::find_if(
       VoltDivText, [&](std::string_view text) { return trueScale(text, "V") == perDivision; });
   return perDivision && found != VoltDivText.end() ? std::string(*found) : "";
 }
-
-}  // namespace
 
 bool showAsReference(frmDSO& main, int channel, const ChannelRecord& record) {
   int number = ScopeGraph::firstReference;

@@ -5,6 +5,7 @@
 
 #include "Files.h"
 #include "Numbers.h"
+#include "RecorderWords.h"
 #include "WallTime.h"
 
 namespace tracewell {
@@ -59,7 +60,7 @@ void Recorder::write(RecordStore::Number number) {
   log_->append(facts.wallTime, facts.channel, own, main_.services().clock.milliseconds());
   const std::string passed = log_->columns().passed(own);
   if (passed.empty()) return;
-  if (atLimit_.pins) store_.pin(number, passed);
+  if (atLimit_.pins) isOutOfPins_ = !store_.pin(number, passed);
   if (atLimit_.rings && ring) ring();
 }
 
@@ -67,6 +68,7 @@ void Recorder::startLog(const std::filesystem::path& path, MeasurementColumns co
                         AtLimit atLimit) {
   log_.reset();
   atLimit_ = atLimit;
+  isOutOfPins_ = false;
   log_.emplace(path, std::move(columns), main_.services().clock.milliseconds());
 }
 
@@ -77,15 +79,24 @@ void Recorder::tick() {
 std::string Recorder::logText(const Words& words) const {
   if (!log_) return "";
   const std::int64_t now = main_.services().clock.milliseconds();
-  std::string text =
-      words.say("%1: %2, %3 rows, %4", {pathText(log_->path()), durationText(log_->duration(now)),
-                                        std::to_string(log_->rows()), sizeText(log_->bytes())});
-  if (!log_->trouble()) return text;
-  text += ". ";
-  text += log_->isDiskFull()
-              ? words.say("The disk is full: %1 rows wait", {std::to_string(log_->held())})
-              : words.say("%1 rows wait: %2", {std::to_string(log_->held()), *log_->trouble()});
-  if (log_->lost() > 0) text += ". " + words.say("%1 rows lost", {std::to_string(log_->lost())});
+  const std::string trouble = troubleText(words);
+  return trouble + (trouble.empty() ? "" : ". ") +
+         words.say("%1: %2, %3, %4", {pathText(log_->path()), durationText(log_->duration(now)),
+                                      rowsText(words, log_->rows()), sizeText(log_->bytes())});
+}
+
+std::string Recorder::troubleText(const Words& words) const {
+  std::string text;
+  const auto add = [&text](const std::string& sentence) {
+    text += (text.empty() ? "" : ". ") + sentence;
+  };
+  const std::string held = rowsText(words, log_->held());
+  if (log_->isDiskFull())
+    add(words.say("The disk is full; waiting in memory: %1", {held}));
+  else if (log_->trouble())
+    add(words.say("Waiting in memory: %1. %2", {held, *log_->trouble()}));
+  if (log_->lost() > 0) add(words.say("Lost: %1", {rowsText(words, log_->lost())}));
+  if (isOutOfPins_) add(words.say("No more records can be pinned"));
   return text;
 }
 

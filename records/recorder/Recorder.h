@@ -42,17 +42,20 @@ class Recorder {
   /// A limit has been passed that is to ring.
   std::function<void()> ring;
 
-  /// "2 h 05 min, 6,250 rows, 410 kB", and what is wrong; empty without a log.
+  /// What is wrong, and "/home/user/log.csv: 2:05:09, 6250 rows, 410.2 kB"; empty without a log.
   std::string logText(const Words& words) const;
 
  private:
   void keep(int channel);
   void write(RecordStore::Number number);
+  std::string troubleText(const Words& words) const;
 
   frmDSO& main_;
   RecordStore store_;
   std::optional<MeasurementLog> log_;
   AtLimit atLimit_;
+  /// One that was beyond a limit could not be pinned.
+  bool isOutOfPins_ = false;
 };
 
 }  // namespace tracewell

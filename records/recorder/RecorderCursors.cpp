@@ -2,6 +2,7 @@
 #include "RecorderCursors.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "Graph.h"
 #include "Numbers.h"
@@ -22,10 +23,12 @@ std::string plainText(double value, const std::string& unit) {
 
 std::vector<std::string> plainTexts(const RecorderAxis& axis, const std::array<double, 2>& at,
                                     const std::string& difference) {
+  const bool isMagnitude = difference.starts_with('|');
   const double one = valueAt(axis, at[0]);
   const double other = valueAt(axis, at[1]);
   return {"P1 = " + plainText(one, axis.unit), "P2 = " + plainText(other, axis.unit),
-          difference + " = " + plainText(one - other, axis.unit)};
+          difference + " = " +
+              plainText(isMagnitude ? std::fabs(one - other) : one - other, axis.unit)};
 }
 
 }  // namespace
@@ -42,7 +45,7 @@ std::vector<std::string> cursorTexts(const RecorderCursors& cursors, const Recor
   const auto& other = picture.y.at(static_cast<std::size_t>(2 - channel));
   const RecorderAxis& axis = isAcross ? picture.x : own ? *own : *other;
   const auto& at = cursors.at();
-  if (picture.mode == RecorderMode::spectrum) return plainTexts(axis, at, isAcross ? "Δf" : "Δ");
+  if (picture.mode == RecorderMode::spectrum) return plainTexts(axis, at, isAcross ? "|Δf|" : "Δ");
   const auto perDivision =
       isAcross && picture.mode == RecorderMode::trace
           ? picture.secondsPerDivision
@@ -51,9 +54,13 @@ std::vector<std::string> cursorTexts(const RecorderCursors& cursors, const Recor
   const auto units = [&](double share) {
     return valueAt(axis, share) / *perDivision * Graph::unitsPerDivision;
   };
-  return isAcross && picture.mode == RecorderMode::trace
-             ? timeBadge(*perDivision, units(at[0]), units(at[1]))
-             : voltageBadge(*perDivision, 0.0, units(at[0]), units(at[1]));
+  if (isAcross && picture.mode == RecorderMode::trace)
+    return timeBadge(*perDivision, units(at[0]), units(at[1]));
+  std::vector<std::string> texts = voltageBadge(*perDivision, 0.0, units(at[0]), units(at[1]));
+  // Of two axes it is that of the channel pointed at.
+  if (picture.mode == RecorderMode::trace && own && other)
+    texts.insert(texts.begin(), channelName(channel));
+  return texts;
 }
 
 }  // namespace tracewell

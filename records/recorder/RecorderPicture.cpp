@@ -140,7 +140,7 @@ void noteBehind(RecorderPicture& picture, std::span<const DrawnRecords> channels
     const auto wanted = static_cast<std::size_t>(choice.behind);
     if (drawn.numbers.size() - 1 < wanted)
       picture.notes.push_back(
-          words.say("%1: only %2 earlier records under these scales",
+          words.say("%1: earlier records under these scales: %2",
                     {channelName(drawn.channel), std::to_string(drawn.numbers.size() - 1)}));
   }
 }

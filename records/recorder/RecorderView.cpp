@@ -113,34 +113,53 @@ Stretch RecorderView::stretch() const {
 Stretch RecorderView::exported() const {
   const auto pointed = selected();
   if (marked_ || !pointed) return stretch();
-  const auto partner = channel_ == 0 ? store_.partnerOf(*pointed) : std::nullopt;
-  if (!partner) return {*pointed, *pointed + 1, store_.facts(*pointed).channel};
-  const auto [low, high] = std::minmax(*pointed, *partner);
+  const auto [one, two] = saved();
+  if (!one || !two) return {*pointed, *pointed + 1, store_.facts(*pointed).channel};
+  const auto [low, high] = std::minmax(*one, *two);
   return {low, high + 1, 0};
 }
 
-std::vector<RecordStore::Number> RecorderView::drawnOf(int channel) const {
-  std::vector<Number> numbers;
-  const auto newest = shownOf(channel);
-  if (!newest) return numbers;
-  numbers.push_back(*newest);
+RecordsOfSet RecorderView::saved() const {
+  RecordsOfSet numbers;
+  const auto pointed = selected();
+  if (!pointed) return numbers;
+  const bool isFirst = store_.facts(*pointed).channel == 1;
+  numbers.at(isFirst ? 0 : 1) = pointed;
+  if (channel_ == 0) numbers.at(isFirst ? 1 : 0) = store_.partnerOf(*pointed);
+  return numbers;
+}
+
+std::vector<RecordStore::Number> RecorderView::drawnOf(Number newest) const {
+  std::vector<Number> numbers = {newest};
+  const int channel = store_.facts(newest).channel;
   const auto wanted = static_cast<std::size_t>(choice.behind) + 1;
-  for (Number other = std::min(*newest, store_.end()) - 1;
+  for (Number other = std::min(newest, store_.end()) - 1;
        other >= store_.first() && numbers.size() < wanted; --other) {
     const RecordFacts& facts = store_.facts(other);
     if (facts.channel != channel) continue;
     // Behind it another stretch begins.
-    if (!isUnderSameScales(facts, store_.facts(*newest))) break;
+    if (!isUnderSameScales(facts, store_.facts(newest))) break;
     numbers.push_back(other);
   }
   return numbers;
 }
 
-RecorderPicture RecorderView::picture() const {
+std::vector<DrawnRecords> RecorderView::drawn() const {
   std::vector<DrawnRecords> channels;
   for (const int channel : {1, 2})
-    if (auto numbers = drawnOf(channel); !numbers.empty())
-      channels.push_back({channel, std::move(numbers)});
+    if (const auto newest = shownOf(channel)) channels.push_back({channel, drawnOf(*newest)});
+  return channels;
+}
+
+RecorderPicture RecorderView::savedPicture() const {
+  std::vector<DrawnRecords> channels;
+  for (const auto& number : saved())
+    if (number) channels.push_back({store_.facts(*number).channel, drawnOf(*number)});
+  return tracePicture(store_, channels, choice, words_);
+}
+
+RecorderPicture RecorderView::picture() const {
+  const std::vector<DrawnRecords> channels = drawn();
   RecorderPicture picture;
   picture.mode = choice.mode;
   if (channels.empty()) return picture;
@@ -168,14 +187,19 @@ std::string RecorderView::title() const {
 
 std::vector<std::string> RecorderView::details() const {
   std::vector<std::string> lines;
+  std::string fetched;
   for (const int channel : {1, 2}) {
     const auto shown = shownOf(channel);
     if (!shown) continue;
     const RecordFacts& facts = store_.facts(*shown);
+    if (facts.fetches > 1)
+      fetched += (fetched.empty() ? "" : ", ") + channelName(channel) + " " +
+                 std::to_string(facts.fetches) + "×";
     lines.push_back(channelName(channel) + ": " + circumstances(words_, facts));
     if (const std::string gap = gapText(words_, facts.gap); !gap.empty())
       lines.push_back(words_.say("Before it: %1", {gap}));
   }
+  if (!fetched.empty()) lines.push_back(words_.say("The same sweep was fetched: %1", {fetched}));
   return lines;
 }
 
@@ -211,10 +235,12 @@ std::string RecorderView::statisticsTitle(int channel) const {
   part.channel = channel;
   const auto result = statistics_.over(part, Quantity::maximum);
   if (result.records == 0) return "";
-  std::string text = words_.say("%1: %2 records, %3 to %4",
-                                {channelName(channel), number(result.records),
-                                 timeOfDay(store_.facts(part.first).wallTime, false),
-                                 timeOfDay(store_.facts(part.end - 1).wallTime, false)});
+  const auto time = [this](Number number) {
+    return timeOfDay(store_.facts(number).wallTime, false);
+  };
+  std::string text =
+      words_.say("%1: %2, %3 to %4", {channelName(channel), recordsText(words_, result.records),
+                                      time(result.first), time(result.last)});
   if (result.measured < result.records)
     text += " " + words_.say("(%1 measured so far)", {number(result.measured)});
   return text;

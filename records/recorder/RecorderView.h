@@ -10,6 +10,7 @@
 #include "RecordStore.h"
 #include "RecordTimeline.h"
 #include "RecorderPicture.h"
+#include "SavedRecords.h"
 #include "Words.h"
 
 namespace tracewell {
@@ -55,10 +56,15 @@ class RecorderView {
   /// What is marked, or else the record pointed at and what is drawn of the other channel's.
   Stretch exported() const;
 
+  /// The record pointed at and, where both channels are shown, the other's of the same sweep.
+  RecordsOfSet saved() const;
+
   // What is drawn
 
   RecorderChoice choice;
   RecorderPicture picture() const;
+  /// What is saved as a trace, with what is drawn behind it.
+  RecorderPicture savedPicture() const;
   RecordTimeline timeline;
 
   // What is said
@@ -88,7 +94,8 @@ class RecorderView {
 
  private:
   bool isShown(int channel) const { return channel_ == 0 || channel_ == channel; }
-  std::vector<Number> drawnOf(int channel) const;
+  std::vector<Number> drawnOf(Number newest) const;
+  std::vector<DrawnRecords> drawn() const;
 
   const RecordStore& store_;
   const Words& words_;

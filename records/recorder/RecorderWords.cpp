@@ -122,6 +122,14 @@ std::string valueText(const Words& words, const OwnValue& value, QuantityUnit un
   return reasonOf(words, value.reason);
 }
 
+std::string recordsText(const Words& words, std::size_t count) {
+  return count == 1 ? words.say("1 record") : words.say("%1 records", {std::to_string(count)});
+}
+
+std::string rowsText(const Words& words, std::uintmax_t count) {
+  return count == 1 ? words.say("1 row") : words.say("%1 rows", {std::to_string(count)});
+}
+
 std::string channelName(int channel) {
   return "CH" + std::to_string(channel);
 }
@@ -139,7 +147,6 @@ std::string circumstances(const Words& words, const RecordFacts& facts) {
     add(text, scaleText(words, facts.madeUnder.voltsPerDivision, "V"));
   add(text, scaleText(words, facts.madeUnder.secondsPerDivision, "s"));
   if (facts.isSimulated) add(text, words.say("SIMULATED"));
-  if (facts.fetches > 1) add(text, words.say("fetched %1 times", {std::to_string(facts.fetches)}));
   return text;
 }
 

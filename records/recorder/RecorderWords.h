@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <string>
 
 #include "OwnMeasurements.h"
@@ -19,6 +21,12 @@ std::string valueText(const Words& words, const OwnValue& value, QuantityUnit un
 
 /// The same for a value that there is: prefixes from "n" to "G" for volts, seconds and hertz.
 std::string numberWithUnit(double value, std::string_view unit);
+
+/// "1 record", "312 records"
+std::string recordsText(const Words& words, std::size_t count);
+
+/// "1 row", "312 rows"
+std::string rowsText(const Words& words, std::uintmax_t count);
 
 /// "CH1"
 std::string channelName(int channel);

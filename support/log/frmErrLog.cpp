@@ -64,6 +64,7 @@ void frmErrLog::showNewLines(int count) {
 
 void frmErrLog::cmdClear_Click() {
   txtErrLog.text = "";
+  isCleared_ = true;
 }
 
 void frmErrLog::cmdClose_Click() {
@@ -83,11 +84,11 @@ bool frmErrLog::isAsKnown() const {
   }
 }
 
-/// Behind what is there now comes what this run has added. Where the user has cleared the log,
-/// which was meant for what it showed, what is there is kept aside.
+/// Puts the lines of this run behind those that the file has now. A cleared log stays so: the user
+/// meant the lines that it showed, and the file with the others is kept aside.
 void frmErrLog::joinWhatOthersWrote() {
   const std::string text = txtErrLog.text();
-  if (!text.starts_with(known_)) {
+  if (isCleared_ || !text.starts_with(known_)) {
     noteFileToKeep(main_, path());
     main_.status.tell(StatusLine::happened, changedMeanwhile(path(), nameAside(path())));
     return;
@@ -95,6 +96,7 @@ void frmErrLog::joinWhatOthersWrote() {
   const std::string added = text.substr(known_.size());
   readLog();
   txtErrLog.text = known_ + added;
+  if (known_.empty()) return;
   main_.status.tell(StatusLine::happened, [](const Words& words) {
     return words.say("%1 has lines of another program too; they are in the log now",
                      {errorLogFile});
@@ -106,6 +108,7 @@ void frmErrLog::write() {
   writeWholeFile(path(), txtErrLog.text());
   known_ = txtErrLog.text();
   knownSize_ = known_.size();
+  isCleared_ = false;
 }
 
 }  // namespace tracewell

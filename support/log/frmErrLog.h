@@ -38,6 +38,8 @@ class frmErrLog : public Window {
   /// What the box had of the file when that was last read or written, and the file's size then.
   std::string known_;
   std::uintmax_t knownSize_ = 0;
+  /// The user has cleared the log since the file was last read or written.
+  bool isCleared_ = false;
 };
 
 }  // namespace tracewell

@@ -145,8 +145,8 @@ TEST_F(AccessibilityTest, OptionsAreOneGroup) {
       const auto button = [&shown](const OptionButton* option) {
         return shown.findChild<QRadioButton*>(toQt(option->objectName()));
       };
-      const auto tabStops = [&options, &button] {
-        return std::ranges::count_if(options, [&button](const OptionButton* option) {
+      const auto tabStops = [&button, &all = options] {
+        return std::ranges::count_if(all, [&button](const OptionButton* option) {
           return (button(option)->focusPolicy() & Qt::TabFocus) != 0;
         });
       };

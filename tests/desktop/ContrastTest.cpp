@@ -105,6 +105,7 @@ QPalette blackOnWhite() {
 
 TEST_F(ContrastTest, EverythingCanBeReadInEveryTheme) {
   main.lblStatus.caption = "Saved";
+  main.lblNotice.sentences = {{"kept aside", true}};
   main.lblNotice.caption = "kept aside";
   main.lblNotice.visible = true;
   main.lblAge.caption = "CH1: live";

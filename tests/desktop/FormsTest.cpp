@@ -12,6 +12,7 @@
 #include <QTreeWidget>
 #include <algorithm>
 #include <ctime>
+#include <set>
 
 #include "DesktopProgram.h"
 #include "DesktopWindows.h"
@@ -25,12 +26,21 @@ namespace {
 
 using FormsTest = EveryFormTest;
 
+/// With the groups that it stands in.
+QString heardOf(QAccessibleInterface* reader) {
+  QString heard = reader->text(QAccessible::Description);
+  for (; reader != nullptr; reader = reader->parent())
+    heard += QStringLiteral(" / ") + reader->text(QAccessible::Name);
+  return heard;
+}
+
 /// What a screen reader says of a control: its caption in the chosen language, or a name of its
-/// own.
+/// own. No two that the user comes to are said alike.
 TEST_F(FormsTest, EveryFormHasAWindowAndEveryControlWithANameForScreenReaders) {
   main.mnbLA3.choose();
   Lines names;
   const auto expectNames = [&names](Window& window, QWidget& form) {
+    std::set<QString> heard;
     names.push_back(window.name());
     for (Control* control : window.controls()) {
       EXPECT_TRUE(control->changed) << control->objectName();
@@ -40,9 +50,13 @@ TEST_F(FormsTest, EveryFormHasAWindowAndEveryControlWithANameForScreenReaders) {
       QAccessibleInterface* reader = QAccessible::queryAccessibleInterface(widget);
       EXPECT_TRUE(reader != nullptr && !reader->text(QAccessible::Name).isEmpty())
           << control->objectName();
+      const bool isStop = (widget->focusPolicy() & Qt::TabFocus) != 0;
+      EXPECT_TRUE(!isStop || heard.insert(heardOf(reader)).second) << control->objectName();
     }
   };
   expectNames(main, *form);
+  for (ValueLabel& plot : program.graphStyle.lblPlot)
+    plot.caption = "Load" + std::to_string(plot.index());
   forEachDialog(expectNames);
   std::ranges::sort(names);
   EXPECT_EQ(names, formNames());

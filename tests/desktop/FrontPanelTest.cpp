@@ -104,6 +104,7 @@ class Hands : public Played {
   explicit Hands(bool areOnKeys) : areOnKeys_(areOnKeys) {
     desktop_.show(main);
     watchNotice();
+    watchGraph();
   }
 
  private:

@@ -175,8 +175,8 @@ TEST(PictureFormatsTest, WhatMakesNoPictureCostsNothing) {
   for (const auto& [format, place, more, refusal] : cases) {
     SCOPED_TRACE(testing::Message() << format << " with " << more.size());
     const std::string file = encodePicture(slopes(), format).insert(place, more);
-    expectCheap([&] {
-      if (*refusal != '\0') return expectRefused(path, file, refusal);
+    expectCheap([&, refused = refusal] {
+      if (*refused != '\0') return expectRefused(path, file, refused);
       writeWholeFile(toPath(path), file);
       EXPECT_LE(fault(loadPicture(toPath(path)).pixels), 8);
     });
@@ -207,7 +207,7 @@ TEST(PictureFormatsTest, TagsOfATiffAndLinesOfAPcxHaveMeasure) {
   writeWholeFile(toPath(path), withEntries(resources, data));
   expectCheap([&] { EXPECT_EQ(fault(loadPicture(toPath(path)).pixels), 0); });
   std::string tile;
-  for (const std::size_t tag : {322, 323})
+  for (const std::size_t tag : {322U, 323U})
     tile += little(tag, 2) + little(4, 2) + little(1, 4) + little(16000, 4);
   expectRefused(path, withEntries(tile, ""), "Tiles too large");
 

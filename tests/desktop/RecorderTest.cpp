@@ -13,6 +13,7 @@
 #include "DesktopRecorder.h"
 #include "MainFormTest.h"
 #include "QtValues.h"
+#include "RecorderGraph.h"
 #include "RecorderWindow.h"
 
 namespace tracewell {
@@ -82,6 +83,20 @@ TEST_F(RecorderWindowTest, KeepsFollowsStepsPinsShowsLogsAndExports) {
   const Plot& reference = desktop.program.main.graphDSO.plot(ScopeGraph::firstReference);
   EXPECT_TRUE(reference.isShown());
 
+  // What is saved can be loaded, and lies where the record lies already.
+  window->saveSetInto(folder.path() / "set.png");
+  frmLoad& load = desktop.program.loadWindow;
+  load.load();
+  load.formActivate.raise();
+  load.fileCSV.choose(static_cast<int>(std::ranges::find(load.fileCSV.items(), "set.csv") -
+                                       load.fileCSV.items().begin()));
+  EXPECT_EQ(load.pictureCSV.image().width, find<RecorderGraph>("recorderGraph").width());
+  load.cmdOK.press();
+  const Plot& loaded = desktop.program.main.graphDSO.plot(ScopeGraph::firstReference + 1);
+  EXPECT_TRUE(loaded.isShown());
+  EXPECT_EQ(loaded.y(), reference.y());
+  EXPECT_EQ(loaded.scale(), reference.scale());
+
   choose("mode", 2);
   const auto picture = view.picture();
   ASSERT_FALSE(picture.labels.empty());
@@ -103,6 +118,8 @@ TEST_F(RecorderWindowTest, KeepsFollowsStepsPinsShowsLogsAndExports) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return view.isFollowing(); }, 2000));
   // The log goes on while the window is closed.
   QTest::keyClick(&strip, Qt::Key_Escape);
+  EXPECT_TRUE(window->isVisible());
+  QTest::keyClick(&strip, Qt::Key_F9);
   EXPECT_FALSE(window->isVisible());
   waitForRecords(store.end() + 2);
   recorder().recorder().stopLog();

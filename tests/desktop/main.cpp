@@ -6,7 +6,7 @@
 #include "ShownText.h"
 #include "Theme.h"
 
-#ifdef __SANITIZE_ADDRESS__
+#ifdef TRACEWELL_SANITIZED
 /// After 30 seconds the font library reads its configuration anew, and loses parts of the one
 /// before.
 extern "C" const char* __lsan_default_suppressions();

@@ -3,6 +3,7 @@
 
 #include "Bench.h"
 #include "Files.h"
+#include "ShownTexts.h"
 
 namespace tracewell {
 
@@ -21,11 +22,16 @@ class SetupFilesTest : public testing::Test, protected Bench {
 
 /// What a later version keeps besides: a value in a row, and a row.
 TEST_F(SetupFilesTest, FilesOfEarlierVersionsAreTakenWholeAndGetWhatWasAdded) {
-  auto design = SetupTable::shippedDesign();
+  auto first = SetupTable::shippedDesign();
+  first.resize(SetupTable::firstRows);
+  for (DesignRow& row : first) row.added.clear();
+  auto design = first;
   design[SetupTable::display].added = {"new", "newer"};
   design.push_back({"Added", {}, {"7"}});
   const fs::path setup = folder.path() / "default.dso";
-  const std::string old = contentOf(setup);
+  table = SetupTable(first);
+  program.setupFiles.WriteSetupFile(file);
+  const std::string old = contentOf(file);
   const auto replaced = [](std::string text, const std::string& from, const std::string& to) {
     return text.replace(text.find(from), from.size(), to);
   };
@@ -94,8 +100,8 @@ TEST_F(SetupFilesTest, WhatCouldNotBeTakenWholeIsKept) {
     // At the start, and when the user loads it; written by its whole path, and by its bare name.
     dialogs.pickedFile = i % 2 == 0 ? "default.dso" : setup;
     i % 2 == 0 ? program.setupFiles.ReadSetupFile(setup) : main.mnbLoadSetup.choose();
-    EXPECT_EQ(main.lblNotice.caption(),
-              "default.dso could not be read whole and will be kept as " + name);
+    EXPECT_EQ(textOf(main.lblNotice),
+              "! default.dso could not be read whole and will be kept as " + name);
     EXPECT_TRUE(main.lblNotice.visible());
     main.mnbSaveSetup.choose();
     EXPECT_FALSE(main.lblNotice.visible());

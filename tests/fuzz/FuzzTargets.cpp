@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "FuzzTargets.h"
+
 #include "Bench.h"
 #include "CommandFile.h"
 #include "Messages.h"
@@ -92,6 +94,11 @@ void reply(const std::string& bytes) {
   line.port.prepare();
   if (line.port.query("*IDN?\r\n", 100).find('\n') == std::string::npos) std::abort();
 }
+
+const std::map<std::string, void (*)(const std::string&)> fuzzTargets = {
+    {"captions", captions}, {"commands", commands}, {"data", data},   {"description", description},
+    {"messages", messages}, {"record", record},     {"reply", reply}, {"report", report},
+    {"setup", setup}};
 
 /// What one input has left behind in the program is gone before the next one.
 void forgetTraces() {

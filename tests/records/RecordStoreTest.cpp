@@ -118,11 +118,12 @@ TEST_F(RecordStoreTest, RecordsOfOneStopArePartnersAndShareRowsOfTheTable) {
   keep(2, 200);
   EXPECT_EQ(store.size(), 2U);
   EXPECT_EQ(store.partnerOf(0), 1);
-  EXPECT_TRUE(csv(0).starts_with("Time (s),CH1 (V),CH2 (V)\n0,1,2\n2e-05,1.01,2.01\n")) << csv(0);
+  EXPECT_TRUE(csv(0).starts_with("Time (s),CH1 (V),CH2 (V)\n-0.005,1,2\n-0.00498,1.01,2.01\n"))
+      << csv(0);
   next.madeUnder = {};
   keep(2, 300);
   SamplesCsvResult result;
-  EXPECT_TRUE(csv(2, &result).starts_with("Time (s),CH2 (V)\n0,2\n"));
+  EXPECT_TRUE(csv(2, &result).starts_with("Time (s),CH2 (V)\n-0.005,2\n"));
   EXPECT_EQ(result.records, 1U);
   EXPECT_EQ(result.leftOut, 1U);
   next.madeUnder = {0.5, 1e-3, std::nullopt, std::nullopt};

@@ -10,6 +10,7 @@
 #include "Recorder.h"
 #include "RecorderCursors.h"
 #include "RecorderWords.h"
+#include "SavedRecords.h"
 
 namespace tracewell {
 namespace {
@@ -137,8 +138,7 @@ TEST_F(RecorderViewTest, RecordsBehindAreThoseOfTheSameScales) {
     EXPECT_EQ(picture.curves[i].kind, std::get<0>(expected[i])) << i;
     EXPECT_NEAR(picture.curves[i].y[0], std::get<1>(expected[i]), 1e-9) << i;
   }
-  EXPECT_EQ(picture.notes,
-            std::vector<std::string>{"CH1: only 2 earlier records under these scales"});
+  EXPECT_EQ(picture.notes, std::vector<std::string>{"CH1: earlier records under these scales: 2"});
 }
 
 TEST_F(RecorderViewTest, TwoRecordsAreComparedOnlyWhereTheyAreOfOneSweep) {
@@ -190,6 +190,9 @@ TEST_F(RecorderViewTest, CursorsSayWhatTheAxesMean) {
   cursors.move(1, 0.5);
   EXPECT_EQ(cursorTexts(cursors, view.picture(), 1),
             (Texts{"P1 = 2.00 V", "P2 = 0 mV", "ΔV = 2.00 V"}));
+  keep(2, sineRecord(50));
+  EXPECT_EQ(cursorTexts(cursors, view.picture(), 2)[0], "CH2");
+  view.show(1);
   next.madeUnder = {};
   keepLevel(1, 9);
   EXPECT_EQ(cursorTexts(cursors, view.picture(), 1),
@@ -200,6 +203,8 @@ TEST_F(RecorderViewTest, StatisticsAreThoseOfTheStretch) {
   for (const int level : {0, 50, 100, 150, 200}) keepLevel(1, level);
   keepLevel(2, 200);
   EXPECT_TRUE(view.measureMore(3));
+  // From the channel's own first record on, which came 7.2 s behind the epoch.
+  EXPECT_NE(view.statisticsTitle(2).find(":07 to "), std::string::npos) << view.statisticsTitle(2);
   EXPECT_TRUE(view.statisticsTitle(1).ends_with("(3 measured so far)")) << view.statisticsTitle(1);
   EXPECT_FALSE(view.measureMore(10));
   const auto mean = [&](Quantity quantity) { return view.statistics(quantity, 1)[1].value; };
@@ -277,6 +282,30 @@ TEST_F(RecorderTest, ARecordTakesTheFirstReferenceThatIsFree) {
   EXPECT_TRUE(showAsReference(main, 1, record));
   EXPECT_TRUE(showAsReference(main, 1, record));
   EXPECT_FALSE(showAsReference(main, 1, record));
+}
+
+TEST_F(RecorderTest, ARecordIsSavedAsTheSaveWindowSavesTheTrace) {
+  main.known.reading();
+  main.known.answered(":CHAN1:SCAL?", "500.0 mV");
+  main.lblChan1.caption = "500.0 mV";
+  main.slideCH1.value = 0.4;
+  main.slideTime.value = -1.5;
+  arrive(sineRecord());
+  const auto old = folder.path() / "old.jpg";
+  windows.user["frmSave"] = [&] {
+    dialogs.pickedFile = old;
+    program.saveWindow.cmdOK.press();
+  };
+  main.cmdSave.press();
+  ASSERT_TRUE(recorder.store().pin(0, "as found"));
+  RecorderView view(recorder.store(), words);
+  WaveformSet set = setOfRecords(main, recorder.store(), view.saved(), words);
+  EXPECT_TRUE(set.description.starts_with("as found; CH1 ")) << set.description;
+  EXPECT_NE(set.description.find(", 500.0 mV/div, "), std::string::npos) << set.description;
+  set.description.clear();
+  EXPECT_EQ(BuildCsvText(set), contentOf(folder.path() / "old.csv"));
+  EXPECT_EQ(buildInfText(set, pathText(old)), contentOf(folder.path() / "old.inf"));
+  EXPECT_EQ(view.savedPicture().curves.size(), 1U);
 }
 
 }  // namespace tracewell

@@ -42,8 +42,9 @@ TEST(Spectrum, SinesHaveTheirFrequencyAndHeight) {
                             {SpectrumWindow::hann, 33.3, 0.5, 0.002},
                             {SpectrumWindow::flatTop, 20.4, 2, 0.003}};
   for (const auto& [window, cycles, frequencyWithin, heightWithin] : cases) {
-    const ChannelRecord record = recordOf(
-        [&](double i) { return 1000 + 5000 * sineAt(cycles, i) + 500 * sineAt(3 * cycles, i); });
+    const ChannelRecord record = recordOf([wave = cycles](double i) {
+      return 1000 + 5000 * sineAt(wave, i) + 500 * sineAt(3 * wave, i);
+    });
     const auto spectrum = spectrumOf({&record, 1}, window);
     const auto peaks = peaksOf(spectrum.value(), 2);
     ASSERT_EQ(peaks.size(), 2U);

@@ -7,6 +7,7 @@ Called with the two programs.
 
 import csv
 import io
+import json
 import os
 import pathlib
 import pty
@@ -82,6 +83,36 @@ class RecorderTest(unittest.TestCase):
         self.assertEqual(status, 4)
         self.assertIn("samples.csv", said)
 
+    def test_sigrok_and_pandas_read_the_files(self):
+        self.instrument()
+        names = ("--samples", "samples.csv", "--csv", "log.csv")
+        self.assertEqual(self.record("--count", "1", "--measure", "max,freq", *names)[0], 0)
+
+        def said_by(*command):
+            said = subprocess.run(command, cwd=self.folder, capture_output=True, text=True, check=True)
+            self.assertEqual(said.stderr, "")
+            return said.stdout
+
+        # The system's own Python is the one that has the system's pandas.
+        table, highest, zone = json.loads(said_by("/usr/bin/python3", "-c", """
+import json, pandas
+table = pandas.read_csv("samples.csv")
+log = pandas.read_csv("log.csv", parse_dates=["time"])
+print(json.dumps([table.to_dict("list"), log["max (V)"][0], str(log["time"].dtype)]))
+"""))
+        self.assertEqual(list(table), ["Time (s)", "CH1 (V)"])
+        times, volts = table.values()
+        self.assertEqual((len(times), times[250]), (500, 0))
+        self.assertAlmostEqual(times[499] + times[1], 0, places=12)
+        self.assertAlmostEqual(highest, max(volts))
+        self.assertIn("+01:00", zone.replace("pytz.FixedOffset(60)", "+01:00"))
+        read = said_by("sigrok-cli", "-i", "samples.csv", "-I", "csv:column_formats=t,a", "-O", "csv:time=true")
+        rows = [line.split(",") for line in read.splitlines() if line[:1].isdigit()]
+        self.assertIn(f"samplerate: {round(1 / (times[1] - times[0]))}\n", read)
+        self.assertEqual(len(rows), 500)
+        for row, value in zip(rows, volts):
+            self.assertAlmostEqual(float(row[1]), value, places=3)
+
     def test_a_signal_ends_it_and_releases_the_panel(self):
         """On an instrument of which every line is seen."""
         end, far = pty.openpty()
@@ -112,10 +143,12 @@ class RecorderTest(unittest.TestCase):
             self.assertEqual(lines[-1], b":SYST:UNL")
 
     def test_what_is_wrong_shows_in_the_status(self):
-        self.assertEqual(self.record()[0], 2)
+        files = ("--csv", "log.csv", "--samples", "samples.csv")
+        self.assertEqual(self.record(*files)[0], 2)
         self.assertEqual(self.record("--count", "none")[0], 1)
         simulator = self.instrument("--fault", "SILENT 1")
-        self.assertEqual(self.record()[0], 3)
+        self.assertEqual(self.record(*files)[0], 3)
+        self.assertEqual(list(self.folder.glob("*.csv")), [], "files without anything in them")
         simulator.stdin.write("OFF\nCUT 500\n")
         simulator.stdin.flush()
         time.sleep(0.5)

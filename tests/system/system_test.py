@@ -12,8 +12,11 @@ from real_desktop import PATIENCE, PLUGINS, SystemTestCase, free_port, main, run
 
 class SystemTest(SystemTestCase):
     def choose_port(self, program, number):
+        traces = program.place("frmDSO.plot")
         program.keys("ctrl+r")
         program.focus(program.find("RS-232"))
+        # It leaves the traces in sight.
+        self.assertGreater(program.place("frmRS232.cbRS232_0").left, traces.left + traces.width)
         program.keys("Tab", "Tab", "Tab", "Tab", "ctrl+a")
         program.type(str(number))
         program.keys("Return")
@@ -146,6 +149,18 @@ class SystemTest(SystemTestCase):
         program.focus(program.find("Tracewell"))
         program.keys("Return")
         self.assertEqual(program.process.wait(PATIENCE), 1)
+
+    def test_start_without_a_display_says_so(self):
+        program = self.make_program(0)
+        bare = {name: value for name, value in os.environ.items()
+                if name not in ("DISPLAY", "WAYLAND_DISPLAY")}
+        cases = ((["--version"], 0, "tracewell "), (["--help"], 0, "--version"),
+                 ([], 1, "no window can be shown here"))
+        for words, status, said in cases:
+            ended = subprocess.run([*program.command(), *words], env=bare, timeout=PATIENCE,
+                                   capture_output=True, text=True)
+            self.assertEqual(ended.returncode, status, words)
+            self.assertIn(said, ended.stdout + ended.stderr)
 
     def test_end_of_the_session_saves_the_setup(self):
         program = self.make_program(0)

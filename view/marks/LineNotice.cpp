@@ -22,6 +22,9 @@ std::string lineTrouble(const frmDSO& main, const Words& words) {
   const auto times = [](const LineReport::Tally& tally) {
     return std::to_string(tally.inLastMinute);
   };
+  // What has stopped the acquisition says why itself.
+  if (!report.failure.empty() && !main.status.says(StatusLine::stoppedByError))
+    say(words.say("The connection is lost: %1", {report.failure}));
   if (report.unaskedBytes.inLastMinute > 0)
     say(words.say("Bytes that nobody asked for: %1 in a minute", {times(report.unaskedBytes)}));
   if (isLasting(report.shortRecords, report, main.services().clock.milliseconds()))

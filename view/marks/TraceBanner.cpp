@@ -34,6 +34,17 @@ std::string toRead(const frmDSO& main, const Words& words) {
                          {main.cmdRS232.caption()});
 }
 
+/// Nothing else counts while the instrument cannot be reached.
+std::string outOfReach(const frmDSO& main, const Words& words) {
+  constexpr int manyQuestions = 2;
+  const LineReport report = main.services().port.report();
+  if (!report.failure.empty()) return words.say("The connection is lost");
+  return report.unansweredInRow >= manyQuestions
+             ? words.say("No answer to the last %1 questions",
+                         {std::to_string(report.unansweredInRow)})
+             : "";
+}
+
 /// Empty unless the traces are not what they seem to be.
 std::string warning(const frmDSO& main, const Words& words) {
   if (!main.tmDSO.enabled() && main.status.says(StatusLine::stoppedByError))
@@ -42,10 +53,8 @@ std::string warning(const frmDSO& main, const Words& words) {
     return words.say("No record for %1 s", {std::to_string(time / 1000)});
   if (firstTrace(main, [&](const Channel& channel) { return !isOfThisLine(main, channel); }))
     return words.say("These traces are of an earlier connection");
-  const auto isLate = [&](const Channel& channel) {
-    return main.tmDSO.enabled() && isOld(main, channel);
-  };
-  if (const Channel* const late = firstTrace(main, isLate))
+  const auto isLateNow = [&](const Channel& channel) { return isLate(main, channel); };
+  if (const Channel* const late = firstTrace(main, isLateNow))
     return ageText(words, *late, main.services().clock.milliseconds());
   if (firstTrace(main, [&](const Channel& channel) { return isScaleMissing(main, channel); }))
     return toRead(main, words);
@@ -63,9 +72,10 @@ std::string notice(const frmDSO& main, const Words& words) {
   if (main.known.isStopped())
     return words.say("The instrument is stopped: press %1", {main.cmdRunStop.caption()});
   const std::int64_t now = main.services().clock.milliseconds();
-  const Channel* const still = firstTrace(main, [now](const Channel& channel) {
+  const Channel* const still = firstTrace(main, [&](const Channel& channel) {
     const ChannelRecord& record = channel.record;
-    return record.fetchedAt != record.sweepAt && now - record.sweepAt >= longUnchanged;
+    return record.fetchedAt != record.sweepAt && now - record.sweepAt >= longUnchanged &&
+           !isOld(main, channel);
   });
   return still != nullptr ? unchangedText(words, *still, now) : "";
 }
@@ -74,6 +84,7 @@ std::string notice(const frmDSO& main, const Words& words) {
 
 GraphMarks::Banner traceBanner(const frmDSO& main) {
   const Words& words = main.services().words;
+  if (std::string text = outOfReach(main, words); !text.empty()) return {std::move(text), true};
   if (main.doing) return {main.doing(words), false};
   if (std::string text = warning(main, words); !text.empty()) return {std::move(text), true};
   return {notice(main, words), false};

@@ -13,6 +13,23 @@ std::int64_t now(const frmDSO& main) {
   return main.services().clock.milliseconds();
 }
 
+/// Whole seconds, from two minutes on whole minutes.
+struct Passed {
+  std::string number;
+  bool isInMinutes;
+};
+
+Passed passedSince(std::int64_t then, std::int64_t now) {
+  const std::int64_t seconds = (now - then) / 1000;
+  const bool isInMinutes = seconds >= 120;
+  return {std::to_string(isInMinutes ? seconds / 60 : seconds), isInMinutes};
+}
+
+/// Since when nothing has kept the fetch from going on. What was missed before is no fault.
+std::int64_t fetchingSince(const frmDSO& main) {
+  return std::max(main.tmDSO.enabledAt(), main.doneAt);
+}
+
 bool isKnownAndSame(std::optional<double> made, std::optional<double> present) {
   return made && made == present;
 }
@@ -39,26 +56,29 @@ bool isOld(const frmDSO& main, const Channel& channel) {
   return now(main) - channel.record.fetchedAt > oldAfter * recordPeriod(main);
 }
 
+bool isLate(const frmDSO& main, const Channel& channel) {
+  return main.tmDSO.enabled() && isOld(main, channel) &&
+         now(main) - fetchingSince(main) > oldAfter * recordPeriod(main);
+}
+
 std::string ageText(const Words& words, const Channel& channel, std::int64_t now) {
   const std::string& name = channel.display.caption();
-  const std::int64_t seconds = (now - channel.record.fetchedAt) / 1000;
-  return seconds < 120
-             ? words.say("%1: last record %2 s ago", {name, std::to_string(seconds)})
-             : words.say("%1: last record %2 min ago", {name, std::to_string(seconds / 60)});
+  const Passed passed = passedSince(channel.record.fetchedAt, now);
+  return passed.isInMinutes ? words.say("%1: last record %2 min ago", {name, passed.number})
+                            : words.say("%1: last record %2 s ago", {name, passed.number});
 }
 
 std::string unchangedText(const Words& words, const Channel& channel, std::int64_t now) {
   const std::string& name = channel.display.caption();
-  const std::int64_t seconds = (now - channel.record.sweepAt) / 1000;
-  return seconds < 120
-             ? words.say("%1: unchanged for %2 s", {name, std::to_string(seconds)})
-             : words.say("%1: unchanged for %2 min", {name, std::to_string(seconds / 60)});
+  const Passed passed = passedSince(channel.record.sweepAt, now);
+  return passed.isInMinutes ? words.say("%1: unchanged for %2 min", {name, passed.number})
+                            : words.say("%1: unchanged for %2 s", {name, passed.number});
 }
 
 std::int64_t millisecondsWithoutRecord(const frmDSO& main) {
   const std::optional<std::int64_t> since = main.services().port.report().noRecordSince;
   if (!main.tmDSO.enabled() || !since) return 0;
-  const std::int64_t passed = now(main) - *since;
+  const std::int64_t passed = now(main) - std::max(*since, fetchingSince(main));
   return passed > oldAfter * recordPeriod(main) ? passed : 0;
 }
 

@@ -32,6 +32,10 @@ bool isOfThisLine(const frmDSO& main, const Channel& channel);
 /// Milliseconds without a record while records are requested; 0 while that is normal.
 std::int64_t millisecondsWithoutRecord(const frmDSO& main);
 
+/// The channel's record is older than the time that another one should take, and the fetch has gone
+/// on for as long.
+bool isLate(const frmDSO& main, const Channel& channel);
+
 /// The channel's record is older than the time that another one should take.
 bool isOld(const frmDSO& main, const Channel& channel);
 

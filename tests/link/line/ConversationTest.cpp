@@ -21,6 +21,7 @@ class LineScript : OnALine<PacedOpener> {
       note("> " + line);
       return answer(line);
     };
+    port.lost = [this] { note("lost"); };
     port.dataReady = [this](const LineRecord& record) {
       const std::string channel = std::to_string(record.channel);
       const auto own = std::ranges::count(record.bytes, channel.at(0));
@@ -98,6 +99,8 @@ class LineScript : OnALine<PacedOpener> {
     tell("late", report.lateRecords, "");
     tell("endless", report.endlessReplies, " " + std::to_string(report.bytesOfEndlessReply));
     if (report.noRecordSince) text += " none since " + std::to_string(*report.noRecordSince);
+    if (report.unansweredInRow > 1) text += " unanswered " + std::to_string(report.unansweredInRow);
+    if (!report.failure.empty()) text += " lost: " + report.failure;
     if (report.lastRecordAt) text += " last " + std::to_string(*report.lastRecordAt);
     if (report.doubt.times > 0)
       text += " doubt " + std::to_string(report.doubt.times) + " of " +

@@ -132,7 +132,7 @@ TEST_F(FilesTest, SetThatCannotBeWholeIsAsItWas) {
 /// The last sizes are those of whole blocks of reading.
 TEST_F(FilesTest, LimitIsExact) {
   const fs::path file = folder.path() / "file";
-  for (const std::uintmax_t size : {1, 100, 65535, 65536, 65537, 131072}) {
+  for (const std::uintmax_t size : {1U, 100U, 65535U, 65536U, 65537U, 131072U}) {
     std::string text(size, 'a');
     text.back() = 'z';
     writeWholeFile(file, text);

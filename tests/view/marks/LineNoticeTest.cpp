@@ -57,4 +57,28 @@ TEST_F(LineNoticeTest, SaysWhatIsWrongOnTheLineAsLongAsItIs) {
   EXPECT_EQ(main.graphDSO.marks().banner.text, "");
 }
 
+/// The dialog has stopped the fetch, so no record is missed.
+TEST_F(LineNoticeTest, SaysOverAnOpenDialogThatNobodyIsThere) {
+  port.answerLikeAnInstrument();
+  port.answer(":TRIG:SOUR?", {"1\n"});
+  const auto banner = [this] { return main.graphDSO.marks().banner.text; };
+  windows.user["frmTrig"] = [&] {
+    const ComboBox& source = program.trigger.cbTrig(0);
+    EXPECT_EQ(banner(), "Traces paused for Trigger");
+    EXPECT_FALSE(source.isUnread());
+    port.lineReport.failure = "no such device";
+    port.lost.raise();
+    EXPECT_EQ(banner(), "The connection is lost");
+    EXPECT_EQ(main.lblStatus.caption().substr(0, 38), "The connection is lost: no such device");
+    EXPECT_TRUE(source.isUnread());
+    port.lineReport = {};
+    port.lineReport.unansweredInRow = 3;
+    clock.run(1000);
+    EXPECT_EQ(banner(), "No answer to the last 3 questions");
+    port.lineReport = {};
+  };
+  main.cmdTrig.press();
+  EXPECT_EQ(banner(), "");
+}
+
 }  // namespace tracewell

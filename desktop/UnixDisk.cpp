@@ -1,15 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "DesktopDisk.h"
-
-#include <cerrno>
-
-#ifdef _WIN32
-#include <io.h>
-#else
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
-#endif
+
+#include <cerrno>
+
+#include "DesktopDisk.h"
 
 namespace tracewell {
 namespace {
@@ -19,22 +15,6 @@ std::error_code lastError() {
 }
 
 }  // namespace
-
-#ifdef _WIN32
-
-std::error_code DesktopDisk::flush(std::FILE& file) {
-  return ::_commit(::_fileno(&file)) == 0 ? std::error_code() : lastError();
-}
-
-/// A new file belongs there to whom its folder says.
-void DesktopDisk::takeOwner(std::FILE&, const std::filesystem::path&) {}
-
-/// A folder is no file there; the system keeps its names in a journal.
-std::error_code DesktopDisk::flushFolder(const std::filesystem::path&) {
-  return {};
-}
-
-#else
 
 std::error_code DesktopDisk::flush(std::FILE& file) {
   return ::fsync(::fileno(&file)) == 0 ? std::error_code() : lastError();
@@ -56,6 +36,9 @@ std::error_code DesktopDisk::flushFolder(const std::filesystem::path& folder) {
   return failure;
 }
 
-#endif
+std::error_code DesktopDisk::rename(const std::filesystem::path& from,
+                                    const std::filesystem::path& to) {
+  return Disk::rename(from, to);
+}
 
 }  // namespace tracewell

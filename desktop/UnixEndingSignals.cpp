@@ -1,21 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "EndingSignals.h"
-
-#include <QSocketNotifier>
-#include <utility>
-
-#ifdef Q_OS_UNIX
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <QSocketNotifier>
 #include <array>
 #include <cerrno>
 #include <csignal>
-#endif
+#include <utility>
+
+#include "EndingSignals.h"
 
 namespace tracewell {
-
-#ifdef Q_OS_UNIX
 namespace {
 
 constexpr std::array<int, 3> endingSignals = {SIGTERM, SIGINT, SIGHUP};
@@ -45,16 +40,16 @@ void signalled(int) {
 }
 
 }  // namespace
-#endif
 
-#ifdef Q_OS_UNIX
 EndingSignals::EndingSignals(std::function<void()> end) : end_(std::move(end)) {
   if (!openPipe()) return;
-  arrival_ = std::make_unique<QSocketNotifier>(signalPipe[0], QSocketNotifier::Read);
-  QObject::connect(arrival_.get(), &QSocketNotifier::activated, arrival_.get(), [this] {
-    arrival_->setEnabled(false);
-    end_();
-  });
+  auto arrival = std::make_unique<QSocketNotifier>(signalPipe[0], QSocketNotifier::Read);
+  QObject::connect(arrival.get(), &QSocketNotifier::activated, arrival.get(),
+                   [this, notifier = arrival.get()] {
+                     notifier->setEnabled(false);
+                     end_();
+                   });
+  arrival_ = std::move(arrival);
   for (const int number : endingSignals)
     if (!isIgnored(number)) std::signal(number, signalled);
 }
@@ -66,10 +61,5 @@ EndingSignals::~EndingSignals() {
   arrival_.reset();
   for (int& end : signalPipe) ::close(std::exchange(end, -1));
 }
-#else
-EndingSignals::EndingSignals(std::function<void()> end) : end_(std::move(end)) {}
-
-EndingSignals::~EndingSignals() = default;
-#endif
 
 }  // namespace tracewell
