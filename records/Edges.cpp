@@ -3,7 +3,10 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 #include <span>
+
+#include "Converter.h"
 
 namespace tracewell {
 namespace {
@@ -86,12 +89,21 @@ std::optional<double> reachedByLine(const Way& way, double level, std::size_t fi
   return isInside ? std::optional(middle + fromMiddle) : std::nullopt;
 }
 
-double middleOf(const Way& way, const Span& span) {
+struct Middle {
+  double at;
+  double error;
+};
+/// `noise` is a share of the way.
+Middle middleOf(const Way& way, const Span& span, double noise) {
+  // Of a time that is anywhere between two samples.
+  constexpr double errorBetween = 0.289;
+  const auto length = static_cast<double>(span.last - span.first);
+  const double ofNoise = noise * length / (way.at(span.last) - way.at(span.first));
   const auto fitted = reachedByLine(way, 0.5, span.first + 1, span.last - 1);
-  if (fitted) return *fitted;
+  if (fitted) return {*fitted, ofNoise / std::sqrt(length - 1)};
   std::size_t i = span.first;
   while (!way.reaches(0.5, i)) ++i;
-  return way.reachedAt(0.5, i);
+  return {way.reachedAt(0.5, i), std::max(ofNoise, length > 1 ? 0 : errorBetween)};
 }
 
 /// When a limit of the duration is reached. Where noise carries a slow edge over it more than once
@@ -157,6 +169,28 @@ struct Line {
   double first(double period) const { return meanInstant - meanIndex * period; }
 };
 
+/// The standard error of an edge: as each of them has it, or as they miss their times.
+double errorOf(const std::vector<Edge>& edges, double misses) {
+  // Of fewer the misses tell nothing: period and two instants have been fitted to them.
+  constexpr std::size_t fewest = 6;
+  constexpr double fitted = 3;
+  double squares = 0;
+  for (const Edge& edge : edges) squares += edge.error * edge.error;
+  const auto count = static_cast<double>(edges.size());
+  const double own = squares / count;
+  if (edges.size() < fewest) return std::sqrt(own);
+  return std::sqrt(std::max(own, misses / (count - fitted)));
+}
+
+double squaredMisses(std::span<const double> instants, double first, double period) {
+  double sum = 0;
+  for (std::size_t i = 0; i < instants.size(); ++i) {
+    const double miss = instants[i] - first - static_cast<double>(i) * period;
+    sum += miss * miss;
+  }
+  return sum;
+}
+
 double largestMiss(std::span<const double> instants, double first, double period) {
   double largest = 0;
   for (std::size_t i = 0; i < instants.size(); ++i)
@@ -166,16 +200,21 @@ double largestMiss(std::span<const double> instants, double first, double period
 
 }  // namespace
 
-std::vector<Edge> edgesOf(const Samples& samples, const Levels& levels) {
+std::vector<Edge> edgesOf(const Samples& samples, const Levels& levels, double noise) {
   if (levels.height() <= 0) return {};
+  // Where a signal has no states its ends are the levels, whatever noise has made of them.
+  const double ofLevels = levels.base && levels.top ? 0.289 * converter::step : 0;
   const std::vector<Span> spans = spansOf(samples, levels);
   std::vector<Edge> edges;
   for (std::size_t i = 0; i < spans.size(); ++i) {
     const Way way(samples, levels, spans[i].isRising);
     const std::size_t begin = i == 0 ? 0 : spans[i - 1].last;
     const std::size_t end = i + 1 == spans.size() ? samples.size() - 1 : spans[i + 1].first;
-    edges.push_back(
-        {spans[i].isRising, middleOf(way, spans[i]), durationOf(way, spans[i], begin, end)});
+    const double slowness = static_cast<double>(spans[i].last - spans[i].first) /
+                            (way.at(spans[i].last) - way.at(spans[i].first)) / levels.height();
+    const Middle middle = middleOf(way, spans[i], noise / levels.height());
+    edges.push_back({spans[i].isRising, middle.at, middle.error, slowness * ofLevels,
+                     durationOf(way, spans[i], begin, end)});
   }
   return edges;
 }
@@ -190,7 +229,15 @@ RhythmResult rhythmOf(const std::vector<Edge>& edges) {
   const Line up(rising);
   const Line down(falling);
   const double period = (up.products + down.products) / (up.squares + down.squares);
-  Rhythm rhythm{period, std::nullopt, std::nullopt};
+  const double error = errorOf(edges, squaredMisses(rising, up.first(period), period) +
+                                          squaredMisses(falling, down.first(period), period));
+  // The middle moves with both levels, to the one side for edges that rise, to the other for
+  // others.
+  double ofLevels = 0;
+  for (const Edge& edge : edges)
+    ofLevels += std::numbers::sqrt2 * edge.ofLevels / static_cast<double>(edges.size());
+  Rhythm rhythm{period, error / std::sqrt(up.squares + down.squares), std::nullopt, std::nullopt,
+                std::hypot(error * std::sqrt(4 / static_cast<double>(edges.size())), ofLevels)};
   if (!rising.empty()) rhythm.rising = up.first(period);
   if (!falling.empty()) rhythm.falling = down.first(period);
   const double missed = std::max(largestMiss(rising, up.first(period), period),

@@ -53,6 +53,8 @@ Terms fit(const Samples& samples, std::size_t terms, const Basis& basis) {
 
 bool isSine(const Samples& samples, double period) {
   constexpr double mostOfHarmonic = 0.05;
+  // The steps of the converter make some of their own.
+  constexpr double ofSteps = 0.15 * converter::step;
   // What is faster than half the rate of the samples looks like something slower.
   const auto below = static_cast<std::size_t>(std::max(0.0, std::ceil(period / 2) - 1));
   const std::size_t harmonics = std::min(mostHarmonics, below);
@@ -70,13 +72,14 @@ bool isSine(const Samples& samples, double period) {
   });
   const double fundamental = std::hypot(found[1], found[2]);
   for (std::size_t term = 3; term < terms; term += 2)
-    if (!(std::hypot(found[term], found[term + 1]) <= mostOfHarmonic * fundamental)) return false;
+    if (!(std::hypot(found[term], found[term + 1]) <= mostOfHarmonic * fundamental + ofSteps))
+      return false;
   return true;
 }
 
 /// Of samples that are seen: what hides the others has harmonics of its own. The sine must pass
 /// near all of them, end where they end, and be hidden where they are not, but for noise.
-bool isPartOfSine(const Samples& samples, const Sine& sine) {
+bool isPartOfSine(const Samples& samples, const Sine& sine, double itsNoise) {
   constexpr double mostBeside = 0.04;
   constexpr double noise = 4 * converter::step;
   double squares = 0;
@@ -98,14 +101,22 @@ bool isPartOfSine(const Samples& samples, const Sine& sine) {
     return !counts(static_cast<int>(seen)) ||
            (beyond < converter::step && beyond > -noise - mostBeside * sine.amplitude);
   };
-  return squares <= count * std::pow(mostBeside * sine.amplitude, 2) &&
+  return squares <= count * (std::pow(mostBeside * sine.amplitude, 2) + itsNoise * itsNoise) &&
          endsAt(minimum, sine.offset - sine.amplitude) &&
          endsAt(maximum, sine.offset + sine.amplitude);
 }
 
+/// The least that is possible with white noise (Cramer and Rao), for the part that is seen.
+double periodError(const Samples& samples, const Sine& sine, double noise) {
+  const auto count = static_cast<double>(std::ranges::count_if(samples, counts));
+  const double ofAngle =
+      std::sqrt(24 / count) * noise / (sine.amplitude * static_cast<double>(samples.size()));
+  return ofAngle * sine.period * sine.period / turn;
+}
+
 }  // namespace
 
-std::optional<Sine> sineOf(const Samples& samples, double period) {
+std::optional<Sine> sineOf(const Samples& samples, double period, double noise) {
   constexpr int rounds = 5;
   constexpr double mostMoved = 0.05;
   const bool isWhole = std::ranges::all_of(samples, counts);
@@ -123,11 +134,12 @@ std::optional<Sine> sineOf(const Samples& samples, double period) {
     });
     frequency += found[3];
   }
-  Sine sine{found[0], std::hypot(found[1], found[2]), turn / frequency, 0};
+  Sine sine{found[0], std::hypot(found[1], found[2]), turn / frequency, 0, 0};
   const bool isNear = std::fabs(sine.period - period) <= mostMoved * period;
   if (!isNear || !std::isfinite(sine.amplitude)) return std::nullopt;
+  sine.error = periodError(samples, sine, noise);
   sine.rising = std::atan2(-found[1], found[2]) / frequency;
-  return isWhole || isPartOfSine(samples, sine) ? std::optional(sine) : std::nullopt;
+  return isWhole || isPartOfSine(samples, sine, noise) ? std::optional(sine) : std::nullopt;
 }
 
 }  // namespace tracewell

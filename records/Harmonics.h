@@ -10,8 +10,9 @@ namespace tracewell {
 struct Sine {
   double offset = 0;
   double amplitude = 0;
-  /// Samples.
+  /// Samples, and its standard error.
   double period = 0;
+  double error = 0;
   /// When it rises through its offset; samples.
   double rising = 0;
 };
@@ -19,6 +20,7 @@ struct Sine {
 /// The sine that fits the record best, if the record is a sine of about that period: none where a
 /// harmonic has more than a few percent of it. By least squares with the period unknown (the
 /// four-parameter fit of IEEE Std 1057); samples at an edge of the converter do not count.
-std::optional<Sine> sineOf(const Samples& samples, double period);
+/// `noise` is its standard deviation, in units.
+std::optional<Sine> sineOf(const Samples& samples, double period, double noise);
 
 }  // namespace tracewell

@@ -68,43 +68,48 @@ bool isSpreadEvenly(Distances distances) {
 }
 
 /// The distance of the state: the mean of the samples around the peak of the histogram.
-std::optional<double> stateAmong(const Distances& distances) {
+std::optional<double> stateAmong(const Distances& distances, double noise) {
   // Of the half's samples, and of its height: so many of them so close are a state, whatever else.
   constexpr double mostInLevel = 0.6;
   constexpr double heightOfLevel = 0.3;
   constexpr double someInLevel = 0.4;
   constexpr double endOfTurn = 0.7;
   constexpr double reachOfWidth = 2;
+  constexpr double spreadOfNoise = 3;
+  constexpr double densest = 1.5;
   const std::vector<double> density = smoothedHistogram(distances);
   const auto peak = static_cast<std::size_t>(std::ranges::max_element(density) - density.begin());
   const double width = outerWidth(density, peak);
   const double reach = std::max<double>(reachOfWidth * width, converter::step);
   const Cluster around = clusterAround(distances, static_cast<double>(peak), reach);
   const Cluster level = clusterAround(distances, around.mean, reach);
-  const bool isHigh = reach > heightOfLevel * std::ranges::max(distances);
-  if (level.share >= mostInLevel && !isHigh) return level.mean;
+  const double height = std::ranges::max(distances);
+  // Where noise does not spread them they lie closer than on a slope that is passed a few times.
+  const bool isOfNoise = reach <= spreadOfNoise * noise + converter::step;
+  const bool isDense = isOfNoise || level.share >= densest * 2 * reach / height;
+  if (level.share >= mostInLevel && reach <= heightOfLevel * height && isDense) return level.mean;
   if (isSpreadEvenly(distances)) return std::nullopt;
-  if (level.share >= someInLevel) return level.mean;
+  if (level.share >= someInLevel && isDense) return level.mean;
   // Where the signal only turns, it does so at its end, and more of it lies inwards than there.
   if (static_cast<double>(peak) < endOfTurn * std::ranges::max(distances)) return std::nullopt;
   return clusterAround(distances, static_cast<double>(peak), reach / reachOfWidth).mean;
 }
 
 /// Of the half above the middle, or with `sign` -1 below it; distances count in half units.
-std::optional<double> state(const Samples& samples, double middle, int sign) {
+std::optional<double> state(const Samples& samples, double middle, int sign, double noise) {
   const int origin = static_cast<int>(sign > 0 ? std::ceil(middle) : std::floor(middle));
   Distances distances;
   distances.reserve(samples.size());
   for (const int sample : samples)
     if (sign * (sample - origin) >= 0) distances.push_back(sign * (sample - origin));
   if (distances.empty()) return std::nullopt;
-  const auto distance = stateAmong(distances);
+  const auto distance = stateAmong(distances, noise);
   return distance ? std::optional(origin + sign * *distance) : std::nullopt;
 }
 
 }  // namespace
 
-Levels levelsOf(const Samples& samples) {
+Levels levelsOf(const Samples& samples, double noise) {
   const auto [minimum, maximum] = std::ranges::minmax(samples);
   Levels levels;
   levels.minimum = minimum;
@@ -112,8 +117,8 @@ Levels levelsOf(const Samples& samples) {
   levels.isClippedBelow = minimum <= converter::lowest;
   levels.isClippedAbove = maximum >= converter::highest;
   const double middle = (minimum + maximum) / 2.0;
-  if (!levels.isClippedBelow) levels.base = state(samples, middle, -1);
-  if (!levels.isClippedAbove) levels.top = state(samples, middle, 1);
+  if (!levels.isClippedBelow) levels.base = state(samples, middle, -1, noise);
+  if (!levels.isClippedAbove) levels.top = state(samples, middle, 1, noise);
   return levels;
 }
 

@@ -27,6 +27,7 @@ struct Levels {
   double height() const { return high() - low(); }
 };
 
-Levels levelsOf(const Samples& samples);
+/// `noise` is its standard deviation, in units.
+Levels levelsOf(const Samples& samples, double noise);
 
 }  // namespace tracewell

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <vector>
 
 #include "Converter.h"
 #include "Edges.h"
@@ -18,6 +19,8 @@ constexpr double samplesPerDivision = 50;
 /// Of an edge and of a period: less cannot be told from less still.
 constexpr double fewestOfEdge = 2;
 constexpr double fewestOfPeriod = 4;
+/// Of the height of an edge: in less 10 % and 90 % are within a step of the ends.
+constexpr double leastOfEdge = 8 * converter::step;
 
 /// What a record shows, from which all quantities follow.
 struct Shape {
@@ -27,6 +30,8 @@ struct Shape {
   double mean = 0;
   double meanSquare = 0;
   double variance = 0;
+  /// Standard deviation.
+  double noise = 0;
   bool isFlat = false;
 
   const std::optional<Rhythm>& rhythm() const { return repeats.rhythm; }
@@ -46,21 +51,45 @@ bool isNoise(const Samples& samples, double variance, double peakToPeak) {
          peakToPeak < widestOfNoise * std::sqrt(variance);
 }
 
+/// How far samples lie beside the straight line through their neighbours; few edges do not count.
+/// It cannot be less than what the converter makes.
+double noiseOf(const Samples& samples) {
+  constexpr double ofConverter = 0.289 * converter::step;
+  constexpr double deviationOfMedian = 1.4826;
+  const auto isClipped = [](int sample) {
+    return sample <= converter::lowest || sample >= converter::highest;
+  };
+  std::vector<int> bends;
+  bends.reserve(samples.size());
+  for (std::size_t i = 2; i < samples.size(); ++i)
+    if (!isClipped(samples[i - 2]) && !isClipped(samples[i - 1]) && !isClipped(samples[i]))
+      bends.push_back(std::abs(samples[i - 2] - 2 * samples[i - 1] + samples[i]));
+  if (bends.empty()) return ofConverter;
+  const auto middle = bends.begin() + static_cast<std::ptrdiff_t>(bends.size() / 2);
+  std::ranges::nth_element(bends, middle);
+  // A bend has the noise of three samples, that of the middle one twice.
+  return std::max(ofConverter, deviationOfMedian * *middle / std::sqrt(6.0));
+}
+
 void findEdges(const Samples& samples, Shape& shape) {
-  shape.edges = edgesOf(samples, shape.levels);
+  shape.edges = edgesOf(samples, shape.levels, shape.noise);
   shape.repeats = rhythmOf(shape.edges);
 }
 
 /// The ends of a sine, and its period, are known better by all of its samples than by a few.
 void takeSine(const Samples& samples, Shape& shape) {
   if (!shape.rhythm()) return;
-  const auto sine = sineOf(samples, shape.rhythm()->period);
+  const auto sine = sineOf(samples, shape.rhythm()->period, shape.noise);
   if (!sine) return;
   Levels& levels = shape.levels;
   if (!levels.isClippedAbove) levels.top = sine->offset + sine->amplitude;
   if (!levels.isClippedBelow) levels.base = sine->offset - sine->amplitude;
   findEdges(samples, shape);
-  shape.repeats.rhythm = {sine->period, sine->rising, sine->rising + sine->period / 2};
+  shape.repeats.rhythm = {sine->period, sine->error, sine->rising, sine->rising + sine->period / 2,
+                          0};
+  constexpr double shareOfEdge = 0.29517;
+  for (Edge& edge : shape.edges)
+    if (edge.duration) edge.duration = shareOfEdge * sine->period;
 }
 
 Shape shapeOf(const Samples& samples) {
@@ -76,7 +105,8 @@ Shape shapeOf(const Samples& samples) {
   shape.mean = static_cast<double>(sum) / count;
   shape.meanSquare = static_cast<double>(squares) / count;
   shape.variance = static_cast<double>(count * squares - sum * sum) / (count * count);
-  shape.levels = levelsOf(samples);
+  shape.noise = noiseOf(samples);
+  shape.levels = levelsOf(samples, shape.noise);
   const int peakToPeak = shape.levels.maximum - shape.levels.minimum;
   shape.isFlat = peakToPeak <= 2 * converter::step;
   if (shape.isFlat) return shape;
@@ -118,11 +148,16 @@ void measureHeights(const Shape& shape, OwnMeasurements& found) {
   found[overshoot] = OwnValue::of(100 * (levels.maximum - *found[top].value) / height);
 }
 
-NoValue whyNoPeriod(const Shape& shape) {
+NoValue whyNoRhythm(const Shape& shape) {
   if (shape.isFlat) return NoValue::flat;
   if (shape.repeats.isIrregular) return NoValue::irregular;
   if (!shape.rhythm()) return NoValue::lessThanPeriod;
   return shape.rhythm()->period < fewestOfPeriod ? NoValue::tooFewSamples : NoValue::none;
+}
+
+bool isCertain(double error, double allowed) {
+  constexpr double errorsOff = 2;
+  return errorsOff * error <= allowed;
 }
 
 double dutyOf(const Rhythm& rhythm) {
@@ -130,19 +165,27 @@ double dutyOf(const Rhythm& rhythm) {
   return 100 * (share - std::floor(share));
 }
 
-/// When the period is to be seen also in a signal that is clipped, but not where half-way is.
+/// The period is to be seen also in a signal that is clipped, but not where half-way is. What
+/// neither edges nor samples tell to 0.1 % or half a sample, duty to a sample, is not told.
 void measureRhythm(const Shape& shape, OwnMeasurements& found) {
-  const NoValue reason = whyNoPeriod(shape);
+  const NoValue reason = whyNoRhythm(shape);
   found[period] = found[frequency] = found[duty] = OwnValue::no(reason);
   if (reason != NoValue::none) return;
-  found[period] = OwnValue::of(shape.rhythm()->period);
-  found[frequency] = OwnValue::of(1 / shape.rhythm()->period);
-  found[duty] = shape.levels.isClipped() ? OwnValue::no(NoValue::clipped)
-                                         : OwnValue::of(dutyOf(*shape.rhythm()));
+  const Rhythm& rhythm = *shape.rhythm();
+  const bool isPeriodCertain = isCertain(rhythm.error, std::max(0.5, 0.001 * rhythm.period));
+  const auto unlessIn = [](bool isDoubtful, double value) {
+    return isDoubtful ? OwnValue::no(NoValue::tooFewSamples) : OwnValue::of(value);
+  };
+  found[period] = unlessIn(!isPeriodCertain, rhythm.period);
+  found[frequency] = unlessIn(!isPeriodCertain, 1 / rhythm.period);
+  found[duty] = shape.levels.isClipped()
+                    ? OwnValue::no(NoValue::clipped)
+                    : unlessIn(!isCertain(rhythm.shiftError, 1), dutyOf(rhythm));
 }
 
 OwnValue edgeTime(const Shape& shape, bool isRising, const OwnValue& height) {
   if (!height.value) return height;
+  if (*height.value < leastOfEdge) return OwnValue::no(NoValue::tooFewSamples);
   Statistics durations;
   for (const Edge& edge : shape.edges)
     if (edge.isRising == isRising && edge.duration) durations.add(OwnValue::of(*edge.duration));
@@ -205,7 +248,7 @@ OwnMeasurements noneBecause(NoValue reason) {
 NoValue whyNoDelay(const Shape& first, const Shape& second) {
   constexpr double mostDifference = 0.02;
   for (const Shape* shape : {&first, &second}) {
-    const NoValue reason = whyNoPeriod(*shape);
+    const NoValue reason = whyNoRhythm(*shape);
     if (reason != NoValue::none) return reason;
     if (shape->levels.isClipped()) return NoValue::clipped;
     if (!shape->rhythm()->rising) return NoValue::lessThanPeriod;

@@ -22,7 +22,8 @@
 /// - amplitude: top - base. overshoot: (maximum - top) / amplitude.
 /// - period: of the instants at which the signal is half-way between base and top, by least squares
 ///   over all of them; frequency: its inverse; duty: the share of the period from half-way up to
-///   half-way down.
+///   half-way down. Not told where two standard errors of it, by noise and by edges that are faster
+///   than the samples, are more than 0.1 % and half a sample; duty: more than a sample.
 /// - riseTime, fallTime: from 10 % to 90 % of the amplitude, the mean of all whole edges.
 /// - delay: from a rising half-way instant of the first record to the nearest of the second; phase:
 ///   that as a part of the period, from -180 to 180 degrees, positive where the second is later.
@@ -81,7 +82,8 @@ enum class NoValue {
   lessThanPeriod,
   /// Edges come, but not after equal times.
   irregular,
-  /// Of an edge or a period; what could be measured is in OwnValue::below or above.
+  /// Of an edge or a period, or of a height in steps: they do not tell the value. What could be
+  /// measured is in OwnValue::below.
   tooFewSamples,
   /// The two records are not known to be of one sweep.
   otherSweep,

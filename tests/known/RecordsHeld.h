@@ -52,8 +52,8 @@ class RecordsHeld : public TracesHeld {
            "gap: instrument");
     expect(gap.wasSilent == (now - before.fetchedAt > 5000), "gap: silence");
     const bool wasKnown = std::exchange(isKnown_.at(placeOf(facts)), isKnown(facts.madeUnder));
-    const bool isOther = earlier.volts(placeOf(facts)) != sweep.volts(placeOf(facts)) ||
-                         earlier.seconds != sweep.seconds;
+    const bool isOther = !isNear(earlier.volts(placeOf(facts)), sweep.volts(placeOf(facts))) ||
+                         !isNear(earlier.seconds, sweep.seconds);
     const bool isOfOwnPanel = earlier.isOfOwnPanel || sweep.isOfOwnPanel;
     if (wasKnown && isKnown(facts.madeUnder) && !isOfOwnPanel)
       expect(gap.hasOtherScales == isOther, "gap: scales");

@@ -33,7 +33,7 @@ TEST(OwnMeasurements, AgreeWithTheTableOrHaveNoValueWhereNoneIsDefined) {
   const char* const other = std::getenv("TRACEWELL_RECORDS");
   const auto rows = readRecordRows(
       other != nullptr ? other : std::string(scriptFolder) + "/../records/records.csv");
-  ASSERT_EQ(rows.size(), 200U);
+  ASSERT_GE(rows.size(), 200U);
   std::map<std::string_view, std::pair<double, int>> worst;
   for (std::size_t i = 0; i < rows.size(); ++i) {
     const OwnMeasurements found = measureSamples(syntheticRecord(rows[i]));
@@ -48,9 +48,10 @@ TEST(OwnMeasurements, AgreeWithTheTableOrHaveNoValueWhereNoneIsDefined) {
         EXPECT_EQ(own.below.has_value(), cell->second == "<") << what;
         continue;
       }
-      EXPECT_TRUE(own.value) << what;
+      const bool mayBeNone = cell->second.starts_with("~");
+      EXPECT_TRUE(own.value || mayBeNone) << what;
       if (!own.value) continue;
-      const double truth = std::stod(cell->second);
+      const double truth = std::stod(cell->second.substr(mayBeNone ? 1 : 0));
       const double limit = allowed(name, truth, std::stod(rows[i].at("period")),
                                    2 * std::stod(rows[i].at("amplitude")));
       EXPECT_NEAR(*own.value, truth, limit) << what;

@@ -85,11 +85,11 @@ Samples syntheticRecord(const RecordRow& row) {
   Samples samples{};
   for (std::size_t i = 0; i < samples.size(); ++i) {
     const double turns = static_cast<double>(i) / period + number("phase");
-    const double rise = fraction(turns + 0.25);
-    const double value = shape == "sine"    ? std::sin(turn * turns)
-                         : shape == "pulse" ? pulse.at(turns)
-                         : rise < 0.5       ? 4 * rise - 1
-                                            : 3 - 4 * rise;
+    const double ramp = fraction(turns + pulse.duty / 2);
+    const double value = shape == "sine"     ? std::sin(turn * turns)
+                         : shape == "pulse"  ? pulse.at(turns)
+                         : ramp < pulse.duty ? 2 * ramp / pulse.duty - 1
+                                             : 1 - 2 * (ramp - pulse.duty) / (1 - pulse.duty);
     const double units =
         number("offset") + number("amplitude") * value + number("noise") * noise.next();
     const double steps = std::clamp(std::nearbyint(units / converter::step), -128.0, 127.0);
