@@ -3,6 +3,7 @@
 #include "LineNotice.h"
 #include "LinkSettings.h"
 #include "PortNotice.h"
+#include "TraceMarks.h"
 #include "Tracewell.h"
 
 /// Which routine answers which control of the main window. A dialog joins its own controls to its
@@ -19,6 +20,7 @@ void Tracewell::connectLifecycle() {
     exchange.lookForDoubts();
     showLineNotice(main);
     panelMarks.show();
+    main.tmStatus.setInterval(changeInterval(main));
   };
   main.answersDoubted = [this](std::int64_t first, std::int64_t last) {
     measurements.doubtAnswers(first, last);

@@ -19,6 +19,9 @@ class Timer : public Observable {
   Property<bool> enabled;
   Event<> timer;
 
+  /// In milliseconds; another one than before counts from now on.
+  void setInterval(int interval);
+
  private:
   void start();
   void tick();

@@ -18,7 +18,7 @@ std::string pinNameOf(const RecordStore& store, RecordStore::Number number) {
   return "";
 }
 
-void add(std::string& text, const std::string& part) {
+void describe(std::string& text, const std::string& part) {
   if (!part.empty()) text += (text.empty() ? "" : "; ") + part;
 }
 
@@ -33,9 +33,9 @@ WaveformSet setOfRecords(const frmDSO& main, const RecordStore& store, const Rec
     if (!number) continue;
     ChannelRecord record = store.record(*number);
     const RecordFacts& facts = store.facts(*number);
-    add(set.description, pinNameOf(store, *number));
-    add(set.description, channelName(channel.number) + " " + isoTime(facts.wallTime) + ", " +
-                             circumstances(words, facts));
+    describe(set.description, pinNameOf(store, *number));
+    describe(set.description, channelName(channel.number) + " " + isoTime(facts.wallTime) + ", " +
+                                  circumstances(words, facts));
     set.traces.at(channel.index()) = {std::move(record.bytes), channel.slide.value(),
                                       captionOfVolts(record.madeUnder.voltsPerDivision)};
   }

@@ -13,6 +13,7 @@
 #include "DesktopRecorder.h"
 #include "MainFormTest.h"
 #include "QtValues.h"
+#include "RecorderGraph.h"
 #include "RecorderWindow.h"
 
 namespace tracewell {
