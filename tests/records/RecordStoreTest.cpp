@@ -118,7 +118,8 @@ TEST_F(RecordStoreTest, RecordsOfOneStopArePartnersAndShareRowsOfTheTable) {
   keep(2, 200);
   EXPECT_EQ(store.size(), 2U);
   EXPECT_EQ(store.partnerOf(0), 1);
-  EXPECT_TRUE(csv(0).starts_with("Time (s),CH1 (V),CH2 (V)\n-0.005,1,2\n-0.00498,1.01,2.01\n")) << csv(0);
+  EXPECT_TRUE(csv(0).starts_with("Time (s),CH1 (V),CH2 (V)\n-0.005,1,2\n-0.00498,1.01,2.01\n"))
+      << csv(0);
   next.madeUnder = {};
   keep(2, 300);
   SamplesCsvResult result;
