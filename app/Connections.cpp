@@ -3,6 +3,7 @@
 #include "LineNotice.h"
 #include "LinkSettings.h"
 #include "PortNotice.h"
+#include "TraceMarks.h"
 #include "Tracewell.h"
 
 /// Which routine answers which control of the main window. A dialog joins its own controls to its
@@ -37,6 +38,7 @@ void Tracewell::lookAtLine() {
   exchange.lookForDoubts();
   showLineNotice(main);
   panelMarks.show();
+  main.tmStatus.setInterval(changeInterval(main));
 }
 
 void Tracewell::connectLink() {

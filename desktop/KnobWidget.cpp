@@ -129,13 +129,23 @@ QFont KnobWidget::captionFont() const {
 QRectF KnobWidget::extent(qreal radius, bool hasMark) const {
   QRectF extent(-radius, -radius, 2 * radius, 2 * radius);
   if (hasMark) extent.setBottom(radius + roomOfMark);
-  const QFontMetricsF metrics(captionFont());
-  for (int detent = 0; detent <= lastDetent(); ++detent)
-    extent |= captionPlace(detent, {}, radius, metrics);
+  for (int detent = 0; detent <= lastDetent(); ++detent) extent |= captionPlace(detent, {}, radius);
   return extent;
 }
 
+void KnobWidget::measureCaptions() {
+  const QFont font = captionFont();
+  if (measured_ == captions_ && measuredFont_ == font) return;
+  measured_ = captions_;
+  measuredFont_ = font;
+  const QFontMetricsF metrics(font);
+  captionSizes_.clear();
+  for (const QString& caption : captions_)
+    captionSizes_ << metrics.size(Qt::TextSingleLine, caption);
+}
+
 void KnobWidget::takePlace() {
+  measureCaptions();
   // What the captions take up beside the cap depends on its size hardly at all.
   radius_ = 0;
   for (int round = 0; round < 3; ++round) {
@@ -162,9 +172,8 @@ QPointF KnobWidget::pointAt(qreal angle, qreal distance) const {
 }
 
 /// As far from its detent on every side, however long it is.
-QRectF KnobWidget::captionPlace(int detent, const QPointF& centre, qreal radius,
-                                const QFontMetricsF& metrics) const {
-  const QSizeF room = metrics.size(Qt::TextSingleLine, captions_[detent]);
+QRectF KnobWidget::captionPlace(int detent, const QPointF& centre, qreal radius) const {
+  const QSizeF room = captionSizes_[detent];
   const QPointF outward = directionOf(angleOf(detent));
   const QPointF half(room.width() / 2, room.height() / 2);
   const QPointF at = centre + outward * (radius + 11 * scale()) +
@@ -230,8 +239,8 @@ void KnobWidget::paintTyped(QPainter& painter) {
 }
 
 void KnobWidget::paintDetents(QPainter& painter) {
+  measureCaptions();
   painter.setFont(captionFont());
-  const QFontMetricsF metrics(painter.font());
   for (int detent = 0; detent < captions_.size(); ++detent) {
     const bool isChosen = detent == value_;
     painter.setPen(
@@ -242,8 +251,7 @@ void KnobWidget::paintDetents(QPainter& painter) {
     const bool isCrowded =
         captions_.size() > mostCaptions && !isChosen && qAbs(detent - value_) < 2;
     if (!hasCaption(detent) || isCrowded) continue;
-    painter.drawText(captionPlace(detent, centre(), radius(), metrics), Qt::AlignCenter,
-                     captions_[detent]);
+    painter.drawText(captionPlace(detent, centre(), radius()), Qt::AlignCenter, captions_[detent]);
   }
 }
 

@@ -2,7 +2,8 @@
 #pragma once
 
 #include <QColor>
-#include <QFontMetricsF>
+#include <QFont>
+#include <QList>
 #include <QStringList>
 #include <QWidget>
 
@@ -73,8 +74,9 @@ class KnobWidget : public QWidget {
   /// What it takes up around its centre, with a cap of that radius: all captions, whichever is
   /// chosen. The room of a mark in the gap counts where `hasMark`.
   QRectF extent(qreal radius, bool hasMark) const;
-  QRectF captionPlace(int detent, const QPointF& centre, qreal radius,
-                      const QFontMetricsF& metrics) const;
+  QRectF captionPlace(int detent, const QPointF& centre, qreal radius) const;
+  /// Of the captions in their font, measured when that or they have changed.
+  void measureCaptions();
   /// As large as it can be, in the middle of its room.
   void takePlace();
   qreal radius() const { return radius_; }
@@ -91,6 +93,9 @@ class KnobWidget : public QWidget {
   void paintCap(QPainter& painter);
 
   QStringList captions_{QString()};
+  QStringList measured_;
+  QFont measuredFont_;
+  QList<QSizeF> captionSizes_;
   QString unit_;
   QColor accent_{Qt::white};
   bool isPale_ = false;

@@ -92,6 +92,10 @@
         <translation>%1 : dernier enregistrement il y a %2 s</translation>
     </message>
     <message>
+        <source>%1: last record over %2 s ago</source>
+        <translation>%1 : dernier enregistrement il y a plus de %2 s</translation>
+    </message>
+    <message>
         <source>%1: live</source>
         <translation>%1 : en direct</translation>
     </message>

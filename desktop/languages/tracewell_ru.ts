@@ -92,6 +92,10 @@
         <translation>%1: последняя запись %2 с назад</translation>
     </message>
     <message>
+        <source>%1: last record over %2 s ago</source>
+        <translation>%1: последняя запись более %2 с назад</translation>
+    </message>
+    <message>
         <source>%1: live</source>
         <translation>%1: в реальном времени</translation>
     </message>

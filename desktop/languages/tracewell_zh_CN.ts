@@ -92,6 +92,10 @@
         <translation>%1：最近记录在 %2 秒前</translation>
     </message>
     <message>
+        <source>%1: last record over %2 s ago</source>
+        <translation>%1：最近记录在 %2 秒多以前</translation>
+    </message>
+    <message>
         <source>%1: live</source>
         <translation>%1：实时</translation>
     </message>

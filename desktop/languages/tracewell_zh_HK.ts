@@ -92,6 +92,10 @@
         <translation>%1：最近嘅記錄係 %2 秒前</translation>
     </message>
     <message>
+        <source>%1: last record over %2 s ago</source>
+        <translation>%1：最近嘅記錄係 %2 秒幾之前</translation>
+    </message>
+    <message>
         <source>%1: live</source>
         <translation>%1：實時</translation>
     </message>

@@ -15,7 +15,6 @@ DesktopRecorder::DesktopRecorder(frmDSO& main) : recorder_(main) {
     if (window_) window_->recordKept();
   };
   connect(&everySecond_, &QTimer::timeout, this, [this] { recorder_.tick(); });
-  everySecond_.start(1000);
 }
 
 DesktopRecorder::~DesktopRecorder() = default;
@@ -34,6 +33,7 @@ void DesktopRecorder::addTo(QWidget& form) {
 
 RecorderWindow& DesktopRecorder::open() {
   if (!window_) window_ = std::make_unique<RecorderWindow>(recorder_);
+  if (!everySecond_.isActive()) everySecond_.start(1000);
   window_->show();
   window_->raise();
   window_->activateWindow();

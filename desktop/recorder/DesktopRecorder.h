@@ -31,7 +31,7 @@ class DesktopRecorder : public QObject {
 
  private:
   Recorder recorder_;
-  /// For the log, which goes on while the window is closed.
+  /// For the log, which begins in the window and goes on while that is closed.
   QTimer everySecond_;
   std::unique_ptr<RecorderWindow> window_;
 };

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Timer.h"
 
+#include <utility>
+
 namespace tracewell {
 
 Timer::Timer(Window& owner, int interval)
@@ -14,6 +16,10 @@ Timer::Timer(Window& owner, int interval)
               }),
       services_(owner.services()),
       interval_(interval) {}
+
+void Timer::setInterval(int interval) {
+  if (std::exchange(interval_, interval) != interval && enabled()) start();
+}
 
 void Timer::start() {
   running_ = std::make_shared<const int>(interval_);

@@ -22,6 +22,8 @@ class Timer : public Observable {
 
   /// When it was last enabled, on Clock's scale.
   std::int64_t enabledAt() const { return enabledAt_; }
+  /// In milliseconds; another one than before counts from now on.
+  void setInterval(int interval);
 
  private:
   void start();

@@ -100,7 +100,7 @@ class RecorderGraphHeld : public RecordsHeld {
     const double volts = perDivision(axis, keptSweep(view.shownOf(channel).value()).volts(place));
     for (const auto kind : {RecorderCursors::across, RecorderCursors::up}) {
       cursors.kind = kind;
-      for (const std::size_t one : {0, 1}) cursors.move(one, below(101) / 100.0);
+      for (const std::size_t one : {0U, 1U}) cursors.move(one, below(101) / 100.0);
       const auto& at = cursors.at();
       const bool isAcross = kind == RecorderCursors::across;
       const double scale = isAcross ? seconds : volts;

@@ -8,6 +8,11 @@ namespace {
 
 /// A trace is old after so many periods without a record.
 constexpr int oldAfter = 3;
+/// Longer is counted in minutes. Milliseconds.
+constexpr std::int64_t countedInSeconds = 120000;
+/// Of a trace that is left as it is only the tens of seconds are counted from then on.
+/// Milliseconds.
+constexpr std::int64_t countedExactly = 10000;
 
 std::int64_t now(const frmDSO& main) {
   return main.services().clock.milliseconds();
@@ -21,7 +26,7 @@ struct Passed {
 
 Passed passedSince(std::int64_t then, std::int64_t now) {
   const std::int64_t seconds = (now - then) / 1000;
-  const bool isInMinutes = seconds >= 120;
+  const bool isInMinutes = now - then >= countedInSeconds;
   return {std::to_string(isInMinutes ? seconds / 60 : seconds), isInMinutes};
 }
 
@@ -34,11 +39,20 @@ bool isKnownAndSame(std::optional<double> made, std::optional<double> present) {
   return made && made == present;
 }
 
+/// Each change wakes the program and the screen.
+std::string restingAge(const Words& words, const Channel& channel, std::int64_t now) {
+  const std::int64_t age = now - channel.record.fetchedAt;
+  if (age < countedExactly || age >= countedInSeconds) return ageText(words, channel, now);
+  return words.say("%1: last record over %2 s ago",
+                   {channel.display.caption(), std::to_string(age / countedExactly * 10)});
+}
+
 std::string traceAge(const frmDSO& main, const Channel& channel) {
   const Words& words = main.services().words;
   const std::string& name = channel.display.caption();
   if (!isOfThisLine(main, channel)) return words.say("%1: no record yet", {name});
-  if (isOld(main, channel) || !main.tmDSO.enabled()) return ageText(words, channel, now(main));
+  if (!main.tmDSO.enabled()) return restingAge(words, channel, now(main));
+  if (isOld(main, channel)) return ageText(words, channel, now(main));
   if (channel.record.sweepAt != channel.record.fetchedAt)
     return unchangedText(words, channel, now(main));
   // Nothing live comes of an instrument that was stopped.
@@ -66,6 +80,13 @@ std::string ageText(const Words& words, const Channel& channel, std::int64_t now
   const Passed passed = passedSince(channel.record.fetchedAt, now);
   return passed.isInMinutes ? words.say("%1: last record %2 min ago", {name, passed.number})
                             : words.say("%1: last record %2 s ago", {name, passed.number});
+}
+
+int changeInterval(const frmDSO& main) {
+  const auto hasJustCome = [&main](const Channel& channel) {
+    return channel.isDisplayed && now(main) - channel.record.fetchedAt < countedExactly;
+  };
+  return main.tmDSO.enabled() || std::ranges::any_of(main.channels, hasJustCome) ? 1000 : 2000;
 }
 
 std::string unchangedText(const Words& words, const Channel& channel, std::int64_t now) {

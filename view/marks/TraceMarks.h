@@ -42,6 +42,10 @@ bool isOld(const frmDSO& main, const Channel& channel);
 /// Says when the channel's record arrived; `now` in milliseconds of Clock.
 std::string ageText(const Words& words, const Channel& channel, std::int64_t now);
 
+/// Milliseconds until the panel has other things to say of the traces: a second while records are
+/// requested or the last ones have just come, more later.
+int changeInterval(const frmDSO& main);
+
 /// Says how long the channel's record has been the same; `now` in milliseconds of Clock.
 std::string unchangedText(const Words& words, const Channel& channel, std::int64_t now);
 
