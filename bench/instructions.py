@@ -113,7 +113,7 @@ def idle(program):
     counting = wake_ups(program)
     program.load(120)
     return [("wake-ups a second before Connect", before),
-            ("wake-ups a second after a stop, while the ages of the traces count seconds", counting),
+            ("wake-ups a second after a stop, while the ages of the traces count tens of seconds", counting),
             ("wake-ups a second later, when they count minutes", wake_ups(program))]
 
 
