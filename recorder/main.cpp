@@ -1,15 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// tracewell-record: records without a window.
+#include <unistd.h>
+
 #include <QCoreApplication>
 #include <csignal>
 #include <cstdio>
 #include <iostream>
-
-#ifdef _WIN32
-#include <io.h>
-#else
-#include <unistd.h>
-#endif
 
 #include "DesktopClock.h"
 #include "DesktopDisk.h"
@@ -25,11 +21,7 @@ namespace {
 using namespace tracewell;
 
 bool isTerminal(std::FILE* file) {
-#ifdef _WIN32
-  return ::_isatty(::_fileno(file)) != 0;
-#else
   return ::isatty(::fileno(file)) != 0;
-#endif
 }
 
 /// What is said on the standard error: messages, and on a terminal how it goes.

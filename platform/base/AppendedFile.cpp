@@ -5,21 +5,11 @@
 
 #include "Disk.h"
 #include "FileError.h"
+#include "SystemFiles.h"
 
 namespace tracewell {
-namespace {
 
 namespace fs = std::filesystem;
-
-std::FILE* openToAppend(const fs::path& path) {
-#ifdef _WIN32
-  return ::_wfopen(path.c_str(), L"ab");
-#else
-  return std::fopen(path.c_str(), "ab");
-#endif
-}
-
-}  // namespace
 
 AppendedFile::AppendedFile(fs::path path) : path_(std::move(path)) {
   std::error_code failed;

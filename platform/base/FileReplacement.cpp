@@ -9,6 +9,7 @@
 #include "Disk.h"
 #include "FileError.h"
 #include "Files.h"
+#include "SystemFiles.h"
 
 namespace tracewell {
 namespace {
@@ -44,17 +45,7 @@ fs::path replaceableTarget(const fs::path& path) {
 
 /// A new file, or none with the reason in errno.
 OpenFile createExclusively(const fs::path& path) {
-#ifdef _WIN32
-  // The oldest C library there does not know the mode "x".
-  std::error_code ignored;
-  if (fs::exists(fs::symlink_status(path, ignored))) {
-    errno = EEXIST;
-    return nullptr;
-  }
-  return OpenFile(::_wfopen(path.c_str(), L"wb"));
-#else
-  return OpenFile(std::fopen(path.c_str(), "wbx"));
-#endif
+  return OpenFile(openNewFile(path));
 }
 
 /// A second name, not a link by a name, which would lead to whatever is written there next.
