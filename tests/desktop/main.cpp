@@ -2,9 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QTextStream>
 
-#include "Drawn.h"
 #include "ShownText.h"
 #include "Theme.h"
 
@@ -21,10 +19,6 @@ int main(int argumentCount, char** arguments) {
   QApplication application(argumentCount, arguments);
   tracewell::applyTheme(application);
   tracewell::keepLabelsPlain(application);
-  if (application.arguments().contains(QStringLiteral("--drawn"))) {
-    QTextStream(stdout) << tracewell::allDrawings().join(QLatin1Char('\n')) << "\n";
-    return 0;
-  }
   testing::InitGoogleTest(&argumentCount, arguments);
   return RUN_ALL_TESTS();
 }
