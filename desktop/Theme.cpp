@@ -119,7 +119,7 @@ void applyTheme(QApplication& application, Theme chosen, const QPalette& desktop
 void applyTheme(QApplication& application, Theme chosen) {
   static const QPalette desktop = QApplication::palette();
   // With the format named, the toolkit does not load its readers of all others.
-  QApplication::setWindowIcon(QPixmap(QStringLiteral(":/tracewell.png"), "PNG"));
+  QApplication::setWindowIcon(QPixmap(QStringLiteral(":/window-icon.png"), "PNG"));
   applyTheme(application, chosen, desktop);
 }
 

@@ -102,7 +102,9 @@ void Played::watchGraph() {
   const auto watch = [&graph](std::function<void()>& changed, auto& part) {
     changed = [&graph, &part, shown = changed] {
       if (shown) shown();
-      if constexpr (requires { part.isPaintedPale; }) part.isPaintedPale = part.isPale();
+      // Named for every part, as only some of them can be pale.
+      [[maybe_unused]] auto& painted = part;
+      if constexpr (requires { painted.isPaintedPale; }) painted.isPaintedPale = painted.isPale();
       graph.paintedMarks = graph.marks();
     };
   };
