@@ -27,10 +27,8 @@ std::vector<std::string> drives() {
 
 bool isPictureType(const std::string& picturePath) {
   constexpr std::array<std::string_view, 6> types = {"jpg", "bmp", "pcx", "tif", "png", "gif"};
-  constexpr std::size_t typeLength = 3;
-  if (picturePath.size() < typeLength) return false;
-  return std::ranges::find(types, picturePath.substr(picturePath.size() - typeLength)) !=
-         types.end();
+  return std::ranges::any_of(types,
+                             [&](std::string_view type) { return picturePath.ends_with(type); });
 }
 
 /// Beside a data file whose name has capitals, as another system writes it, the description's may

@@ -11,7 +11,6 @@ frmDSO::frmDSO(Services& services)
   lblTest.visible = false;
   cmdNewErrors.visible = false;
   opOff.value.setQuietly(true);
-  cbCurChan.listIndex.setQuietly(0);
   cbCurChan.text = "1";
   cbCh1.value.setQuietly(1);
   cbMath.text = "Off";
