@@ -187,15 +187,13 @@ qreal KnobWidget::angleAt(const QPointF& position) const {
 }
 
 int KnobWidget::nearestDetent(const QPointF& position) const {
+  const qreal angle = angleAt(position);
+  const auto distanceOf = [&](int detent) {
+    return std::fabs(std::remainder(angle - angleOf(detent), 360));
+  };
   int nearest = 0;
-  qreal smallest = 360;
-  for (int detent = 0; detent < captions_.size(); ++detent) {
-    const qreal distance = std::fabs(std::remainder(angleAt(position) - angleOf(detent), 360));
-    if (distance < smallest) {
-      smallest = distance;
-      nearest = detent;
-    }
-  }
+  for (int detent = 1; detent <= lastDetent(); ++detent)
+    if (distanceOf(detent) < distanceOf(nearest)) nearest = detent;
   return nearest;
 }
 
