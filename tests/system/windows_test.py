@@ -1,7 +1,9 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The packed Windows program under Wine, on a screen and a COM port: windows_test.py PACKAGE KRM410_SIM
-SCREENSHOTS. Of what is on the screen only colours are looked at; the screenshots are for people."""
+SCREENSHOTS WINDOWS_TESTS PICTURE_FILES, of which the last are the folders of the tests that are built for
+Windows and for here. Of what is on the screen only colours are looked at; the screenshots are for
+people."""
 
 import os
 import pathlib
@@ -14,7 +16,7 @@ import unittest
 import zipfile
 
 PACKAGE, SIMULATOR = (os.path.abspath(argument) for argument in sys.argv[1:3])
-SCREENSHOTS = pathlib.Path(sys.argv[3]).resolve()
+SCREENSHOTS, WINDOWS_TESTS, OWN_TESTS = (pathlib.Path(argument).resolve() for argument in sys.argv[3:6])
 from real_desktop import HEIGHT, PATIENCE, WIDTH, Instrument, Place, Screen, resident_kilobytes, run, wait_for
 
 PORT = 7
@@ -155,6 +157,51 @@ class WindowsTest(unittest.TestCase):
         self.close()
         self.assertIn(b",None,%d\r\n" % PORT, self.setup_file.read_bytes())
         instrument.stop()
+
+    def test_end_of_the_session_saves_the_setup(self):
+        self.start(0)
+        self.setup_file.unlink()
+        # Whoever has been asked is ended then.
+        self.windows.run("wineboot", "--end-session")
+        self.process.wait(PATIENCE)
+        self.assertIn(b",None,0\r\n", self.setup_file.read_bytes())
+
+
+class PartsTest(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.windows = Windows()
+
+    @classmethod
+    def tearDownClass(cls):
+        cls.windows.remove()
+
+    def test_line_and_files(self):
+        instrument = Instrument(self.windows.device)
+        os.environ["TRACEWELL_TEST_PORT"] = str(PORT)
+        tests = subprocess.run([WINE, WINDOWS_TESTS / "windows_tests.exe"], stdout=subprocess.PIPE,
+                               stderr=subprocess.DEVNULL)
+        print(tests.stdout.decode(errors="replace"))
+        self.assertEqual(tests.returncode, 0)
+        instrument.stop()
+
+    def test_pictures_are_those_of_the_other_system(self):
+        own, windows = self.windows.folder / "own", self.windows.program
+        own.mkdir()
+        subprocess.run([OWN_TESTS / "picture_files", own], check=True)
+        subprocess.run([WINE, WINDOWS_TESTS / "picture_files.exe"], cwd=windows, check=True,
+                       stderr=subprocess.DEVNULL)
+        names = sorted(file.name for file in own.iterdir())
+        self.assertEqual(len(names), 9)
+        for name in names:
+            content = [(folder / name).read_bytes() for folder in (own, windows)]
+            if name.endswith("tif"):
+                # One byte between the parts of the file means nothing, and is what it happens to be.
+                content = [run("identify", "-format", "%# %m %C %z", str(folder / name)) for folder in (own, windows)]
+            self.assertEqual(*content, name)
+            if not name.endswith("wmf"):
+                self.assertIn("301x97" if name[-3:] not in ("ico", "cur") else "256x82",
+                              run("identify", str(windows / name)))
 
 
 unittest.main(argv=sys.argv[:1], verbosity=2)
