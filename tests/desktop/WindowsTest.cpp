@@ -58,7 +58,7 @@ TEST_F(WindowsLineTest, PortIsListedAndAnswersInAllItsSettings) {
       ASSERT_FALSE(part.empty()) << answer;
       answer += part;
     }
-    EXPECT_EQ(answer, "KRM-410 SIMULATED\r\n");
+    EXPECT_EQ(answer, "KRM-410 SIMULATED\n");
   }
 }
 

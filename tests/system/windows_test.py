@@ -1,7 +1,9 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The packed Windows program under Wine, on a screen and a COM port: windows_test.py PACKAGE KRM410_SIM
-SCREENSHOTS. Of what is on the screen only colours are looked at; the screenshots are for people."""
+SCREENSHOTS WINDOWS_TESTS PICTURE_FILES, of which the last are the folders of the tests that are built for
+Windows and for here. Of what is on the screen only colours are looked at; the screenshots are for
+people."""
 
 import os
 import pathlib
@@ -14,10 +16,12 @@ import unittest
 import zipfile
 
 PACKAGE, SIMULATOR = (os.path.abspath(argument) for argument in sys.argv[1:3])
-SCREENSHOTS = pathlib.Path(sys.argv[3]).resolve()
-from real_desktop import HEIGHT, PATIENCE, WIDTH, Instrument, Screen, resident_kilobytes, run, wait_for
+SCREENSHOTS, WINDOWS_TESTS, OWN_TESTS = (pathlib.Path(argument).resolve() for argument in sys.argv[3:6])
+from real_desktop import HEIGHT, PATIENCE, WIDTH, Instrument, Place, Screen, resident_kilobytes, run, wait_for
 
 PORT = 7
+# Without the strip of scales above it, and without the mark of the channel.
+PLOT = Place(40, 130, 760, 300, "")
 WINE = shutil.which("wine64") or "/usr/lib/wine/wine64"
 SERVER = shutil.which("wineserver") or "/usr/lib/wine/wineserver64"
 
@@ -99,18 +103,16 @@ class WindowsTest(unittest.TestCase):
         run("import", "-window", "root", str(SCREENSHOTS / f"{name}.png"))
 
     def trace(self):
-        """Where the screen shows the colour of channel 1."""
-        pixels = self.screen.pixels()
-        return {at for at in range(0, len(pixels), 3)
-                if pixels[at] > 170 and 120 < pixels[at + 1] < pixels[at] and pixels[at] - pixels[at + 2] > 90}
+        """Where the plot shows the colour of channel 1. The window is as large as the screen."""
+        return {position for position, (red, green, blue) in self.screen.within(PLOT)
+                if red > 170 and 120 < green < red and red - blue > 90}
 
     def expect_live_trace(self):
-        idle = len(self.quiet)
-        first = wait_for(lambda: len(trace := self.trace()) > idle + 300 and trace, PATIENCE, "a trace")
-        wait_for(lambda: self.trace() != first, PATIENCE, "a second frame")
+        first = wait_for(lambda: len(trace := self.trace()) > 300 and trace, PATIENCE, "a trace")
+        wait_for(lambda: len(trace := self.trace()) > 300 and trace != first, PATIENCE, "a second frame")
 
     def connect(self):
-        self.quiet = self.trace()
+        self.assertEqual(len(self.trace()), 0)
         self.keys("F5")
         self.expect_live_trace()
 
@@ -148,12 +150,58 @@ class WindowsTest(unittest.TestCase):
         self.shot("unplugged")
         instrument.stop()
         instrument = Instrument(self.windows.device)
-        self.quiet = set()
-        self.keys("F5")
+        # The button RS-232, which connects anew.
+        run("xdotool", "mousemove", "132", "72", "click", "1")
         self.expect_live_trace()
+        self.shot("plugged-in-again")
         self.close()
         self.assertIn(b",None,%d\r\n" % PORT, self.setup_file.read_bytes())
         instrument.stop()
+
+    def test_end_of_the_session_saves_the_setup(self):
+        self.start(0)
+        self.setup_file.unlink()
+        # Whoever has been asked is ended then.
+        self.windows.run("wineboot", "--end-session")
+        self.process.wait(PATIENCE)
+        self.assertIn(b",None,0\r\n", self.setup_file.read_bytes())
+
+
+class PartsTest(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.windows = Windows()
+
+    @classmethod
+    def tearDownClass(cls):
+        cls.windows.remove()
+
+    def test_line_and_files(self):
+        instrument = Instrument(self.windows.device)
+        os.environ["TRACEWELL_TEST_PORT"] = str(PORT)
+        tests = subprocess.run([WINE, WINDOWS_TESTS / "windows_tests.exe"], stdout=subprocess.PIPE,
+                               stderr=subprocess.DEVNULL)
+        print(tests.stdout.decode(errors="replace"))
+        self.assertEqual(tests.returncode, 0)
+        instrument.stop()
+
+    def test_pictures_are_those_of_the_other_system(self):
+        own, windows = self.windows.folder / "own", self.windows.program
+        own.mkdir()
+        subprocess.run([OWN_TESTS / "picture_files", own], check=True)
+        subprocess.run([WINE, WINDOWS_TESTS / "picture_files.exe"], cwd=windows, check=True,
+                       stderr=subprocess.DEVNULL)
+        names = sorted(file.name for file in own.iterdir())
+        self.assertEqual(len(names), 9)
+        for name in names:
+            content = [(folder / name).read_bytes() for folder in (own, windows)]
+            if name.endswith("tif"):
+                # One byte between the parts of the file means nothing, and is what it happens to be.
+                content = [run("identify", "-format", "%# %m %C %z", str(folder / name)) for folder in (own, windows)]
+            self.assertEqual(*content, name)
+            if not name.endswith("wmf"):
+                self.assertIn("301x97" if name[-3:] not in ("ico", "cur") else "256x82",
+                              run("identify", str(windows / name)))
 
 
 unittest.main(argv=sys.argv[:1], verbosity=2)
