@@ -28,8 +28,13 @@ const UnitPrefix& prefixOf(const RecorderAxis& axis) {
   return *fitting;
 }
 
+/// As many as every multiple of the step needs: one for 2.5.
 int decimalsOf(double step) {
-  return std::clamp(static_cast<int>(std::ceil(-std::log10(step) - 1e-9)), 0, 6);
+  constexpr int most = 6;
+  int decimals = 0;
+  for (; decimals < most; ++decimals, step *= 10)
+    if (std::fabs(step - std::round(step)) < 1e-6 * step) break;
+  return decimals;
 }
 
 QVector<double> scaledBy(const std::vector<double>& values, double factor) {

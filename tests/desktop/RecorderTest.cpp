@@ -60,6 +60,18 @@ class RecorderWindowTest : public testing::Test {
   RecorderWindow* window = nullptr;
 };
 
+/// Whatever scale an instrument has: 2.5, 5.0, 7.5, and not 3, 5, 8.
+TEST(RecorderGraphTest, NumbersOfAnAxisAreThoseOfItsLines) {
+  RecorderGraph graph(nullptr);
+  const std::tuple<double, int> cases[] = {{2.5, 1}, {0.25, 2}, {0.002, 0}, {1.25, 2}, {20, 0}};
+  for (const auto& [step, decimals] : cases) {
+    RecorderPicture picture;
+    picture.y[0] = {"V", -4 * step, 4 * step, step};
+    graph.showPicture(picture, {}, {});
+    EXPECT_EQ(graph.yAxis->numberPrecision(), decimals) << step;
+  }
+}
+
 TEST_F(RecorderWindowTest, KeepsFollowsStepsPinsShowsLogsAndExports) {
   const RecordStore& store = recorder().recorder().store();
   RecorderView& view = window->view();
