@@ -151,7 +151,7 @@ class WindowsTest(unittest.TestCase):
         instrument.stop()
         instrument = Instrument(self.windows.device)
         # The button RS-232, which connects anew.
-        run("xdotool", "mousemove", "132", "72", "click", "1")
+        run("xdotool", "mousemove", "--window", self.window, "132", "72", "click", "1")
         self.expect_live_trace()
         self.shot("plugged-in-again")
         self.close()
