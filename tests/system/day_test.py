@@ -65,6 +65,7 @@ class DayAtTheBench(SystemTestCase):
         self.opened("ctrl+t", "Trigger")
         program.keys("Return")
         program.closed("Trigger")
+        wait_for(lambda: "Trigger" not in program.place("frmDSO.lblStatus").text, PATIENCE, "the settings sent")
         self.expect_live_trace(program)
 
         # Autoset shows a notice for ten seconds and brings the traces back.

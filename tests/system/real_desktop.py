@@ -384,15 +384,17 @@ class SystemTestCase(unittest.TestCase):
         return server
 
     def trace(self, program):
-        """Where the plot, without the strip of scales above it, shows the colour of channel 1."""
+        """Where the plot shows the colour of channel 1. The strip of scales above it has that colour, too, and
+        the banner at its lower edge one that is close to it."""
+        plot = program.place("frmDSO.plot")
         return {position for position, (red, green, blue)
-                in self.screen.within(program.place("frmDSO.plot"))
+                in self.screen.within(plot._replace(height=plot.height * 4 // 5))
                 if red > 170 and 120 < green < red and red - blue > 90}
 
     def expect_live_trace(self, program):
         first = wait_for(lambda: len(trace := self.trace(program)) > 300 and trace, PATIENCE,
                          "a trace")
-        wait_for(lambda: self.trace(program) != first, PATIENCE, "a second frame")
+        wait_for(lambda: len(trace := self.trace(program)) > 300 and trace != first, PATIENCE, "a second frame")
 
     def lamp(self, program):
         counts = {"blue": 0, "green": 0, "red": 0}
