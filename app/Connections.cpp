@@ -118,16 +118,8 @@ void Tracewell::connectView() {
 }
 
 void Tracewell::connectFiles() {
-  main.mnbLoadSetup.click = [this] {
-    try {
-      setupFiles.mnbLoadSetup_Click();
-    } catch (const Error&) {
-      // The rows before the error are new.
-      showDifferingLink(main);
-      throw;
-    }
-    showDifferingLink(main);
-  };
+  setupFiles.tableRead = [this] { showDifferingLink(main); };
+  main.mnbLoadSetup.click = [this] { setupFiles.mnbLoadSetup_Click(); };
   main.mnbSaveSetup.click = [this] { setupFiles.mnbSaveSetup_Click(); };
   main.cmdSave.click = [this] { waveformButtons.cmdSave_Click(); };
   main.mnbSaveWaveform.click = [this] { waveformButtons.cmdSave_Click(); };

@@ -14,7 +14,7 @@ DesktopProgram::DesktopProgram(const std::filesystem::path& programFolder)
       services{clock,   dialogs,  gate,    dispatcher, standBy, port,         ports,
                windows, pictures, printer, clipboard,  words,   programFolder} {
   windows.manualRefused = [this](const QString& file) {
-    program.main.status.tell(StatusLine::happened, [file = fromQt(file)](const Words& said) {
+    program.main.status.tell(StatusLine::failed, [file = fromQt(file)](const Words& said) {
       return said.say("No program here shows the manual. It is %1", {file});
     });
   };

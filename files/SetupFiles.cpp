@@ -92,6 +92,7 @@ void SetupFiles::noteWhatWasTaken(const std::filesystem::path& path, const Count
     forgetFileToKeep(main_, path);
   else
     noteFileToKeep(main_, path);
+  if (tableRead) tableRead();
 }
 
 /// Whether writing the table, as far as the version of the file knew it, would give the same bytes.
@@ -162,10 +163,19 @@ void SetupFiles::mnbLoadSetup_Click() {
   Services& services = main_.services();
   const std::filesystem::path path = services.dialogs.openFile(dialogDSO(services.programFolder));
   const bool hasLines = loadFile(path);
-  main_.status.tell(StatusLine::happened, [path, hasLines](const Words& words) {
-    return hasLines ? words.say("Setup loaded from %1", {pathText(path)})
-                    : words.say("%1 holds no setup", {pathText(path)});
-  });
+  if (!hasLines) {
+    main_.status.tell(StatusLine::failed, [path](const Words& words) {
+      return words.say("%1 holds no setup", {pathText(path)});
+    });
+  } else if (isToBeKept(main_, path)) {
+    main_.status.tell(StatusLine::failed, [path](const Words& words) {
+      return words.say("%1 was not loaded whole", {pathText(path)});
+    });
+  } else {
+    main_.status.tell(StatusLine::happened, [path](const Words& words) {
+      return words.say("Setup loaded from %1", {pathText(path)});
+    });
+  }
 }
 
 void SetupFiles::mnbSaveSetup_Click() {

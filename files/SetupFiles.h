@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -28,6 +29,9 @@ class SetupFiles {
   /// pathAccess for a text that could not be read again, and the file system's reason; the old file
   /// is whole then.
   StatusLine::Sentence WriteSetupFile(const std::filesystem::path& path);
+
+  /// Called when a file has been read into the table, also as far as an error.
+  std::function<void()> tableRead;
 
   void mnbLoadSetup_Click();
   void mnbSaveSetup_Click();

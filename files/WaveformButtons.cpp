@@ -54,7 +54,8 @@ void WaveformButtons::loadCSV(const std::filesystem::path& path) {
   load1.plotXvsY(main_.XIndex, points);
   load1.scale = "";
   load1.visible = true;
-  main_.status.tell(StatusLine::happened, [path, isEmpty = points.empty()](const Words& words) {
+  const bool isEmpty = points.empty();
+  main_.status.tell(isEmpty ? StatusLine::failed : StatusLine::happened, [=](const Words& words) {
     return isEmpty ? words.say("%1 has no data", {pathText(path)})
                    : words.say("Loaded %1", {pathText(path)});
   });

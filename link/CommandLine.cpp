@@ -19,7 +19,7 @@ void CommandLine::cmdTest_Click() {
 
 bool CommandLine::isOneCommand(const std::string& text) const {
   if (text.find_first_of("\r\n") == std::string::npos) return true;
-  main_.status.tell(StatusLine::happened, [](const Words& words) {
+  main_.status.tell(StatusLine::failed, [](const Words& words) {
     return words.say("Not sent: the text has more than one line");
   });
   return false;

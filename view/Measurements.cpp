@@ -77,6 +77,7 @@ void Measurements::cmdVMeasure_Click() {
 }
 
 void Measurements::chooseAndMeasure() {
+  const Doing pause(main_, sayPaused(selection_.caption));
   acquisition_.StopAcq();
   selection_.showFlags();
   selection_.showModal();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "PagePrinting.h"
 
+#include "Doing.h"
 #include "WrittenScales.h"
 
 namespace tracewell {
@@ -15,6 +16,7 @@ constexpr std::size_t firstChannelName = 10;
 
 void PagePrinting::cmdPrint_Click() {
   try {
+    const Doing pause(main_, sayPaused(main_.cmdPrint.caption));
     acquisition_.StopAcq();
     main_.services().printer.printPage(page());
     if (const StatusLine::Sentence others = scalesNotOfTraces(main_))

@@ -8,6 +8,7 @@ namespace tracewell {
 
 void StatusLine::tell(Topic topic, Sentence sentence) {
   remove(topic);
+  if (topic == failed) remove(happened);
   told_.insert(told_.begin(), {topic, std::move(sentence), clock_.milliseconds()});
   tellAgain();
 }
@@ -30,7 +31,10 @@ bool StatusLine::says(Topic topic) const {
 }
 
 void StatusLine::remove(Topic topic) {
-  std::erase_if(told_, [topic](const Told& told) { return told.topic == topic; });
+  const bool isOfUser = topic == happened;
+  std::erase_if(told_, [=](const Told& told) {
+    return told.topic == topic || (isOfUser && told.topic == failed);
+  });
 }
 
 bool StatusLine::isOver(const Told& told) const {

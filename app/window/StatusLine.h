@@ -35,8 +35,11 @@ class StatusLine {
     lineTrouble,
     /// An error has ended the acquisition.
     stoppedByError,
-    /// What the user has had done last.
-    happened
+    /// Nothing is written to the program's folder.
+    nothingKept,
+    /// What the user has had done last, or wanted to and it did not come about: one of the two.
+    happened,
+    failed
   };
   /// Said in the language in force, again in each that follows; empty: there is nothing to say.
   using Sentence = std::function<std::string(const Words&)>;

@@ -52,6 +52,10 @@
         <translation>%1 a été modifié par un autre programme ; cette version est conservée sous %2</translation>
     </message>
     <message>
+        <source>%1 was not loaded whole</source>
+        <translation>%1 n'a pas été chargé en entier</translation>
+    </message>
+    <message>
         <source>%1, %2: different sweeps</source>
         <translation>%1, %2 : balayages différents</translation>
     </message>

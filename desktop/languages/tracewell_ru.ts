@@ -52,6 +52,10 @@
         <translation>Файл %1 изменён другой программой; тот вариант сохранён как %2</translation>
     </message>
     <message>
+        <source>%1 was not loaded whole</source>
+        <translation>%1 загружен не полностью</translation>
+    </message>
+    <message>
         <source>%1, %2: different sweeps</source>
         <translation>%1, %2: разные развёртки</translation>
     </message>

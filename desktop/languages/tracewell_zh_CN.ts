@@ -52,6 +52,10 @@
         <translation>%1 已被另一个程序修改，该版本保留为 %2</translation>
     </message>
     <message>
+        <source>%1 was not loaded whole</source>
+        <translation>%1 未能完整加载</translation>
+    </message>
+    <message>
         <source>%1, %2: different sweeps</source>
         <translation>%1、%2：不同次扫描</translation>
     </message>

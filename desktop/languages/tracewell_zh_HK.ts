@@ -52,6 +52,10 @@
         <translation>%1 俾另一個程式改過，嗰個版本會保留做 %2</translation>
     </message>
     <message>
+        <source>%1 was not loaded whole</source>
+        <translation>%1 未能完整載入</translation>
+    </message>
+    <message>
         <source>%1, %2: different sweeps</source>
         <translation>%1、%2：唔同次掃描</translation>
     </message>

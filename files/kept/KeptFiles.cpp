@@ -56,6 +56,10 @@ void showFilesToKeep(frmDSO& main) {
   main.lblNotice.caption = text;
 }
 
+bool isToBeKept(frmDSO& main, const fs::path& path) {
+  return findNoted(main, path) != main.filesToKeep.end();
+}
+
 void noteFileToKeep(frmDSO& main, const fs::path& path) {
   if (findNoted(main, path) == main.filesToKeep.end()) main.filesToKeep.push_back(wholePath(path));
   showFilesToKeep(main);
@@ -91,7 +95,7 @@ void tellOfFolder(frmDSO& main, const std::vector<std::string>& newFiles,
                        {names});
     });
   if (!failure.empty())
-    main.status.tell(StatusLine::happened, [failure](const Words& words) {
+    main.status.tell(StatusLine::nothingKept, [failure](const Words& words) {
       return words.say("Nothing will be kept. %1", {failure});
     });
 }

@@ -16,6 +16,7 @@ constexpr const char* setupFile = "default.dso";
 constexpr const char* errorLogFile = "dso.err";
 
 void noteFileToKeep(frmDSO& main, const std::filesystem::path& path);
+bool isToBeKept(frmDSO& main, const std::filesystem::path& path);
 
 /// It was taken whole, or is of no account any more.
 void forgetFileToKeep(frmDSO& main, const std::filesystem::path& path);
