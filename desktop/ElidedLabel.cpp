@@ -10,13 +10,14 @@
 namespace tracewell {
 
 ElidedLabel::ElidedLabel(QWidget* parent) : QLabel(parent) {
-  setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
   setTextFormat(Qt::PlainText);
 }
 
 void ElidedLabel::setSentences(const std::vector<Sentence>& sentences) {
   if (sentences == sentences_) return;
   sentences_ = sentences;
+  updateGeometry();
   update();
 }
 

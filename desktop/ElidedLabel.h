@@ -20,8 +20,9 @@ class ElidedLabel : public QLabel {
   };
 
   explicit ElidedLabel(QWidget* parent = nullptr);
-  QSize sizeHint() const override { return {0, QLabel::sizeHint().height()}; }
-  QSize minimumSizeHint() const override { return sizeHint(); }
+  /// Labels in one row share its room by what they have to say.
+  QSize sizeHint() const override { return {neededWidth(), QLabel::sizeHint().height()}; }
+  QSize minimumSizeHint() const override { return {0, QLabel::sizeHint().height()}; }
   /// Together they are the label's text. They are painted from the left, the first one before the
   /// others.
   void setSentences(const std::vector<Sentence>& sentences);

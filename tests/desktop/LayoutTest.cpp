@@ -42,6 +42,16 @@ bool isShortened(const QWidget& form) {
   });
 }
 
+/// Beside a status line that says nothing a notice has the whole row.
+TEST_F(LayoutTest, ANoticeIsNotCutWhileTheRowHasRoom) {
+  form->resize(1280, 800);
+  auto* notice = find<QLabel>("lblNotice");
+  main.lblNotice.caption = std::string(100, 'x') + "default.dso.bad";
+  main.lblNotice.visible = true;
+  QApplication::processEvents();
+  EXPECT_GT(notice->width(), notice->fontMetrics().horizontalAdvance(notice->text()));
+}
+
 TEST_F(LayoutTest, EveryWindowFitsASmallScreenInEveryLanguageWithNothingCut) {
   for (MenuEntry* language :
        {&main.mnbLA1, &main.mnbLA2, &main.mnbLA3, &main.mnbLA4, &main.mnbLA5}) {
