@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "RecorderGraph.h"
 
+#include <qcustomplot.h>
+
+#include <QVBoxLayout>
 #include <cmath>
 
 #include "DesktopWords.h"
@@ -82,13 +85,18 @@ QString lines(const std::vector<std::string>& texts) {
 
 }  // namespace
 
-RecorderGraph::RecorderGraph(QWidget* parent) : QCustomPlot(parent) {
+RecorderGraph::RecorderGraph(QWidget* parent) : QWidget(parent), plot_(*new QCustomPlot) {
   setObjectName(QStringLiteral("recorderGraph"));
   setFocusPolicy(Qt::StrongFocus);
-  setPlottingHints(QCP::phFastPolylines | QCP::phCacheLabels);
-  setAutoAddPlottableToLegend(false);
-  axisRect()->setupFullAxesBox();
-  for (QCPAxis* axis : axisRect()->axes()) {
+  setMouseTracking(true);
+  auto* const layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(&plot_);
+  plot_.setAttribute(Qt::WA_TransparentForMouseEvents);
+  plot_.setPlottingHints(QCP::phFastPolylines | QCP::phCacheLabels);
+  plot_.setAutoAddPlottableToLegend(false);
+  plot_.axisRect()->setupFullAxesBox();
+  for (QCPAxis* axis : plot_.axisRect()->axes()) {
     axis->setTicker(QSharedPointer<QCPAxisTickerFixed>::create());
     axis->setNumberFormat(QStringLiteral("f"));
     axis->setSubTicks(false);
@@ -96,32 +104,32 @@ RecorderGraph::RecorderGraph(QWidget* parent) : QCustomPlot(parent) {
     axis->setLabelPadding(2);
   }
   // Axes stay as they are when those beside them take a range.
-  disconnect(xAxis, nullptr, xAxis2, nullptr);
-  disconnect(yAxis, nullptr, yAxis2, nullptr);
-  curve_ = new QCPCurve(xAxis, yAxis);
+  disconnect(plot_.xAxis, nullptr, plot_.xAxis2, nullptr);
+  disconnect(plot_.yAxis, nullptr, plot_.yAxis2, nullptr);
+  curve_ = new QCPCurve(plot_.xAxis, plot_.yAxis);
   for (std::size_t i = 0; i < cursorLines_.size(); ++i) {
-    cursorLines_[i] = new QCPItemLine(this);
+    cursorLines_[i] = new QCPItemLine(&plot_);
     for (QCPItemPosition* end : {cursorLines_[i]->start, cursorLines_[i]->end})
       end->setType(QCPItemPosition::ptAxisRectRatio);
-    cursorNames_[i] = makeText(*this, Qt::AlignLeft | Qt::AlignTop);
+    cursorNames_[i] = makeText(plot_, Qt::AlignLeft | Qt::AlignTop);
     cursorNames_[i]->position->setType(QCPItemPosition::ptAxisRectRatio);
     cursorNames_[i]->setText(QStringLiteral("P%1").arg(i + 1));
   }
-  badge_ = makeText(*this, Qt::AlignRight | Qt::AlignTop);
+  badge_ = makeText(plot_, Qt::AlignRight | Qt::AlignTop);
   placeInCorner(*badge_, 0.995, 0.01);
   for (QCPItemText*& list : peakLists_) {
-    list = makeText(*this, Qt::AlignRight | Qt::AlignTop);
+    list = makeText(plot_, Qt::AlignRight | Qt::AlignTop);
     list->position->setType(QCPItemPosition::ptAbsolute);
   }
-  note_ = makeText(*this, Qt::AlignLeft | Qt::AlignBottom);
+  note_ = makeText(plot_, Qt::AlignLeft | Qt::AlignBottom);
   placeInCorner(*note_, 0.005, 0.99);
 }
 
 void RecorderGraph::setLook(const RecorderLook& look) {
   look_ = look;
-  setBackground(look.ground);
+  plot_.setBackground(look.ground);
   QFont small = font();
-  for (QCPAxis* axis : axisRect()->axes()) {
+  for (QCPAxis* axis : plot_.axisRect()->axes()) {
     axis->setBasePen(hasFocus() ? QPen(palette().color(QPalette::Highlight), 2) : QPen(look.grid));
     axis->setTickPen(QPen(look.grid));
     axis->setTickLabelFont(small);
@@ -139,8 +147,12 @@ void RecorderGraph::setLook(const RecorderLook& look) {
   note_->setColor(RecorderLook::gap);
 }
 
+QPixmap RecorderGraph::picture() const {
+  return plot_.toPixmap(width(), height());
+}
+
 QCPAxis& RecorderGraph::axisOf(int channel) const {
-  return channel == 2 && hasOwnAxes_ ? *yAxis2 : *yAxis;
+  return channel == 2 && hasOwnAxes_ ? *plot_.yAxis2 : *plot_.yAxis;
 }
 
 void RecorderGraph::showPicture(const RecorderPicture& picture, const RecorderCursors& cursors,
@@ -150,15 +162,15 @@ void RecorderGraph::showPicture(const RecorderPicture& picture, const RecorderCu
   const QString across = picture.mode == RecorderMode::spectrum ? panelText("Frequency")
                          : isXY                                 ? QStringLiteral("CH1")
                                                                 : panelText("Time");
-  acrossFactor_ =
-      showAxis(*xAxis, picture.x, across, isXY ? look_.channels[0] : QColor(RecorderLook::text))
-          .factor;
+  acrossFactor_ = showAxis(*plot_.xAxis, picture.x, across,
+                           isXY ? look_.channels[0] : QColor(RecorderLook::text))
+                      .factor;
   // An axis on which nothing is drawn has no numbers.
-  xAxis->setTickLabels(!picture.x.unit.empty());
-  yAxis->setTickLabels(picture.y[0] || picture.y[1]);
-  yAxis->setLabel(QString());
-  yAxis2->setTickLabels(hasOwnAxes_);
-  yAxis2->setLabel(QString());
+  plot_.xAxis->setTickLabels(!picture.x.unit.empty());
+  plot_.yAxis->setTickLabels(picture.y[0] || picture.y[1]);
+  plot_.yAxis->setLabel(QString());
+  plot_.yAxis2->setTickLabels(hasOwnAxes_);
+  plot_.yAxis2->setLabel(QString());
   const bool isShared = picture.mode == RecorderMode::spectrum && picture.y[0] && picture.y[1];
   for (std::size_t i = 0; i < picture.y.size(); ++i) {
     if (!picture.y.at(i)) continue;
@@ -174,7 +186,7 @@ void RecorderGraph::showPicture(const RecorderPicture& picture, const RecorderCu
   showLabels(picture);
   note_->setColor(picture.mode == RecorderMode::spectrum ? RecorderLook::text : RecorderLook::gap);
   showNotes(picture.notes);
-  replot(rpQueuedRefresh);
+  plot_.replot(QCustomPlot::rpQueuedRefresh);
 }
 
 RecorderGraph::Scale RecorderGraph::showAxis(QCPAxis& axis, const RecorderAxis& shown,
@@ -197,7 +209,7 @@ void RecorderGraph::showCurves(const RecorderPicture& picture) {
   for (const RecorderCurve& curve : picture.curves) ages = std::max(ages, curve.age);
   const bool isXY = picture.mode == RecorderMode::xy;
   const std::size_t count = isXY ? 0 : picture.curves.size();
-  while (graphs_.size() < count) graphs_.push_back(addGraph());
+  while (graphs_.size() < count) graphs_.push_back(plot_.addGraph());
   for (std::size_t i = 0; i < count; ++i)
     showCurve(i, picture.curves[i], axisOf(picture.curves[i].channel), ages);
   for (std::size_t i = 0; i < graphs_.size(); ++i) graphs_[i]->setVisible(i < count);
@@ -253,10 +265,10 @@ void RecorderGraph::showLabels(const RecorderPicture& picture) {
     const QString number = QString::number(list.size() + 1);
     list << number + QStringLiteral(":  ") +
                 toQt(label.text).replace(QLatin1Char('\n'), QStringLiteral("   "));
-    if (i == labels_.size()) labels_.push_back(makeText(*this, Qt::AlignLeft | Qt::AlignTop));
-    const QPointF place(xAxis->coordToPixel(label.x * acrossFactor_),
+    if (i == labels_.size()) labels_.push_back(makeText(plot_, Qt::AlignLeft | Qt::AlignTop));
+    const QPointF place(plot_.xAxis->coordToPixel(label.x * acrossFactor_),
                         axisOf(label.channel).coordToPixel(label.y * upFactors_.at(channel)));
-    const QRectF room = roomBeside(place, metrics.size(0, number), axisRect()->rect(), taken);
+    const QRectF room = roomBeside(place, metrics.size(0, number), plot_.axisRect()->rect(), taken);
     if (room.isEmpty()) continue;
     taken.push_back(room);
     labels_[i]->setPadding({});
@@ -273,7 +285,7 @@ void RecorderGraph::showLabels(const RecorderPicture& picture) {
 /// At the right, where the badge of the cursors leaves room.
 void RecorderGraph::showPeakLists(const std::array<QStringList, 2>& lists) {
   const int line = QFontMetrics(font()).lineSpacing();
-  const QRect inside = axisRect()->rect();
+  const QRect inside = plot_.axisRect()->rect();
   int top = inside.top() + 5 + (cursors_.kind == RecorderCursors::off ? 0 : 4 * line);
   for (std::size_t i = 0; i < lists.size(); ++i) {
     QCPItemText& item = *peakLists_.at(i);
@@ -314,7 +326,7 @@ void RecorderGraph::showNotes(const std::vector<std::string>& notes) {
 }
 
 double RecorderGraph::shareAt(const QPointF& place) const {
-  const QRect inside = axisRect()->rect();
+  const QRect inside = plot_.axisRect()->rect();
   return cursors_.kind == RecorderCursors::across
              ? (place.x() - inside.left()) / std::max(1, inside.width())
              : (inside.bottom() - place.y()) / std::max(1, inside.height());
@@ -322,7 +334,7 @@ double RecorderGraph::shareAt(const QPointF& place) const {
 
 std::optional<std::size_t> RecorderGraph::cursorAt(const QPointF& place) const {
   if (cursors_.kind == RecorderCursors::off) return std::nullopt;
-  const QRect inside = axisRect()->rect();
+  const QRect inside = plot_.axisRect()->rect();
   const int length = cursors_.kind == RecorderCursors::across ? inside.width() : inside.height();
   const auto distance = [&](std::size_t cursor) {
     return std::fabs(cursors_.at().at(cursor) - shareAt(place)) * length;
@@ -369,18 +381,15 @@ void RecorderGraph::keyPressEvent(QKeyEvent* event) {
 
 /// The focus shows by a frame and at the active cursor.
 void RecorderGraph::focusInEvent(QFocusEvent* event) {
-  QCustomPlot::focusInEvent(event);
+  QWidget::focusInEvent(event);
   setLook(look_);
   emit cursorMoved(active_, cursors_.at().at(active_));
 }
 
 void RecorderGraph::focusOutEvent(QFocusEvent* event) {
-  QCustomPlot::focusOutEvent(event);
+  QWidget::focusOutEvent(event);
   setLook(look_);
   emit cursorMoved(active_, cursors_.at().at(active_));
 }
 
 }  // namespace tracewell
-
-// With the graph's own header, which is long, in no other source.
-#include "moc_RecorderGraph.cpp"

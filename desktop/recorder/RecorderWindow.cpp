@@ -2,6 +2,7 @@
 #include "RecorderWindow.h"
 
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QScreen>
 #include <QShortcut>
 #include <QVBoxLayout>
@@ -320,7 +321,7 @@ void RecorderWindow::showInPanel() {
 
 void RecorderWindow::copy() {
   const std::string table = tableOf(view_.picture());
-  recorder_.main().services().clipboard.put(table, fromQt(graph_->toPixmap().toImage()));
+  recorder_.main().services().clipboard.put(table, fromQt(graph_->picture().toImage()));
   say(panelText("Copied"));
 }
 
