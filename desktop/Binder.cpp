@@ -90,9 +90,11 @@ void bind(Frame& control, QWidget& form) {
   if (control.copied) new CopyGestures(*box, [&control] { control.copy(); });
 }
 
+constexpr QSize swatchSize(28, 14);
+
 /// Its edge shows the colour of the button's ground, too.
 QIcon swatch(const QColor& colour) {
-  QPixmap picture(32, 16);
+  QPixmap picture(swatchSize);
   picture.fill(colour);
   QPainter painter(&picture);
   painter.setPen(QColor(0x80, 0x88, 0x90));
@@ -109,7 +111,10 @@ void bind(Button& control, QWidget& form) {
     button->setText(shownCaption(control.caption()));
     button->setShortcut(shortcut);
     button->setEnabled(control.enabled() && control.click);
-    if (const auto colour = control.backColour()) button->setIcon(swatch(toQt(*colour)));
+    const auto colour = control.backColour();
+    if (!colour) return;
+    button->setIconSize(swatchSize);
+    button->setIcon(swatch(toQt(*colour)));
   });
   QObject::connect(button, &QPushButton::clicked, button, [&control] { control.press(); });
 }

@@ -66,4 +66,10 @@ void PanelStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
   if (control == CC_ComboBox) outline(*painter, *option);
 }
 
+void PanelStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                             const QWidget* widget) const {
+  QProxyStyle::drawControl(element, option, painter, widget);
+  if (element == CE_ScrollBarSlider) outline(*painter, *option);
+}
+
 }  // namespace tracewell

@@ -1128,6 +1128,10 @@
         <translation>Numéro du port ; 0 : instrument simulé</translation>
     </message>
     <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
         <source>Of the stretch that is marked, else of all records</source>
         <translation>De la plage marquée, sinon de tous les enregistrements</translation>
     </message>

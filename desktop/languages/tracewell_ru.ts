@@ -1128,6 +1128,10 @@
         <translation>Номер порта; 0 означает имитатор прибора</translation>
     </message>
     <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
         <source>Of the stretch that is marked, else of all records</source>
         <translation>По выделенному участку, иначе по всем записям</translation>
     </message>

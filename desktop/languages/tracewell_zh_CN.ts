@@ -1128,6 +1128,10 @@
         <translation>端口号；0 为仿真仪器</translation>
     </message>
     <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
         <source>Of the stretch that is marked, else of all records</source>
         <translation>所标区段的统计，未标时为全部记录</translation>
     </message>

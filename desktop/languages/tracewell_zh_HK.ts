@@ -1128,6 +1128,10 @@
         <translation>連接埠編號；0 係仿真儀器</translation>
     </message>
     <message>
+        <source>OK</source>
+        <translation>確定</translation>
+    </message>
+    <message>
         <source>Of the stretch that is marked, else of all records</source>
         <translation>所標區段嘅統計，未標就係全部記錄</translation>
     </message>
