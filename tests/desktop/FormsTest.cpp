@@ -154,6 +154,19 @@ TEST_F(FormsTest, CursorsFollowTheMouseAndTheArrowKeys) {
   QTest::keyClick(view, Qt::Key_Left, Qt::ShiftModifier);
   EXPECT_EQ(cur1.xPosition(), before - 10);
   EXPECT_TRUE(main.graphDSO.axis("XAxis").caption().starts_with("P1 = "));
+  // The marker of the trigger level stays where the instrument has it, and no key moves it.
+  Cursor& marker = main.graphDSO.cursor("Triger");
+  marker.style = CursorStyle::marker;
+  marker.yPosition = -100;
+  marker.visible = true;
+  const QPoint onMarker = centre + QPoint(-plot->width() / 4, plot->height() / 4);
+  QTest::mousePress(plot, Qt::LeftButton, {}, onMarker);
+  QTest::mouseMove(plot, onMarker + QPoint(0, 30));
+  QTest::mouseRelease(plot, Qt::LeftButton, {}, onMarker + QPoint(0, 30));
+  ASSERT_EQ(marker.yPosition(), -100);
+  QTest::keyClick(view, Qt::Key_C);
+  QTest::keyClick(view, Qt::Key_Right);
+  EXPECT_EQ(main.graphDSO.cursor("cur2").xPosition(), 51);
 }
 
 TEST_F(FormsTest, PicturesOfTheGraphShowNothingThatIsForTheScreen) {
