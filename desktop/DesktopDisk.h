@@ -13,6 +13,7 @@ class DesktopDisk : public Disk {
   std::error_code flushFolder(const std::filesystem::path& folder) override;
   std::error_code rename(const std::filesystem::path& from,
                          const std::filesystem::path& to) override;
+  std::vector<std::string> drives() override;
 };
 
 }  // namespace tracewell

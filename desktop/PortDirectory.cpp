@@ -60,7 +60,7 @@ std::string PortDirectory::deviceOf(std::int16_t number) {
   } catch (const Error&) {
     // Opening it says what is wrong with it.
   }
-  return fromQt(systemDevice(number));
+  return fromQt(nameOfSystemPort(systemDevice(number)));
 }
 
 PortList::State PortDirectory::stateOf(std::int16_t number) {

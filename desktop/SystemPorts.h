@@ -21,6 +21,10 @@ bool mayHavePortFile(int number);
 
 QSet<QString> presentSystemPorts();
 
+/// What the system calls the device, such as "USB Serial Port (COM3)"; `device` where it has no
+/// name for it.
+QString nameOfSystemPort(const QString& device);
+
 /// Looks without opening it, which would move its control lines. False where that does not show.
 bool isOpenElsewhere(const std::filesystem::path& device);
 

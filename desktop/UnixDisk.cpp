@@ -41,4 +41,8 @@ std::error_code DesktopDisk::rename(const std::filesystem::path& from,
   return Disk::rename(from, to);
 }
 
+std::vector<std::string> DesktopDisk::drives() {
+  return Disk::drives();
+}
+
 }  // namespace tracewell

@@ -51,6 +51,10 @@ QSet<QString> presentSystemPorts() {
   return names;
 }
 
+QString nameOfSystemPort(const QString& device) {
+  return device;
+}
+
 /// The processes of other users do not show.
 bool isOpenElsewhere(const fs::path& device) {
   std::error_code ignored;

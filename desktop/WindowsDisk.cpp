@@ -7,6 +7,13 @@
 #include "DesktopDisk.h"
 
 namespace tracewell {
+namespace {
+
+/// A drive without a disk in it is an error as any other, and no box of the system's.
+[[maybe_unused]] const UINT modeBefore =
+    ::SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX);
+
+}  // namespace
 
 std::error_code DesktopDisk::flush(std::FILE& file) {
   if (::_commit(::_fileno(&file)) == 0) return {};
@@ -36,6 +43,14 @@ std::error_code DesktopDisk::rename(const std::filesystem::path& from,
     ::Sleep(pause);
   }
   return {static_cast<int>(error), std::system_category()};
+}
+
+std::vector<std::string> DesktopDisk::drives() {
+  std::vector<std::string> found;
+  const DWORD letters = ::GetLogicalDrives();
+  for (char letter = 'A'; letter <= 'Z'; ++letter)
+    if (((letters >> (letter - 'A')) & 1) != 0) found.push_back(std::string(1, letter) + ":\\");
+  return found;
 }
 
 }  // namespace tracewell

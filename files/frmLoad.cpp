@@ -5,6 +5,7 @@
 #include <array>
 
 #include "DataFolder.h"
+#include "Disk.h"
 #include "Files.h"
 #include "WaveformSetReader.h"
 
@@ -12,18 +13,6 @@ namespace tracewell {
 namespace {
 
 namespace fs = std::filesystem;
-
-/// Letters where the system has them, the one root where it has not.
-std::vector<std::string> drives() {
-  std::vector<std::string> found;
-  std::error_code ignored;
-  for (char letter = 'A'; letter <= 'Z'; ++letter) {
-    const std::string drive = std::string(1, letter) + ":\\";
-    if (fs::path(drive).is_absolute() && fs::exists(drive, ignored)) found.push_back(drive);
-  }
-  if (found.empty()) found.emplace_back("/");
-  return found;
-}
 
 bool isPictureType(const std::string& picturePath) {
   constexpr std::array<std::string_view, 6> types = {"jpg", "bmp", "pcx", "tif", "png", "gif"};
@@ -61,7 +50,8 @@ void frmLoad::Form_Load() {
 
 /// Anew at each opening: sets may have been saved meanwhile, and folders may have gone.
 void frmLoad::Form_Activate() {
-  driveCSV.items = drives();
+  driveCSV.items = diskInUse() != nullptr ? diskInUse()->drives()
+                                          : std::vector<std::string>{pathText(folder_.root_path())};
   try {
     showFolder(folder_);
   } catch (const Error&) {

@@ -1,10 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// tracewell-record: records without a window.
-#include <unistd.h>
-
 #include <QCoreApplication>
-#include <csignal>
-#include <cstdio>
 #include <iostream>
 
 #include "DesktopClock.h"
@@ -14,15 +10,12 @@
 #include "PortDirectory.h"
 #include "ProgramFolder.h"
 #include "RecordingRun.h"
+#include "SystemConsole.h"
 #include "WallTime.h"
 
 namespace {
 
 using namespace tracewell;
-
-bool isTerminal(std::FILE* file) {
-  return ::isatty(::fileno(file)) != 0;
-}
 
 /// What is said on the standard error: messages, and on a terminal how it goes.
 class Console {
@@ -102,15 +95,12 @@ int record(const RecorderOptions& options) {
 }  // namespace
 
 int main(int argumentCount, char** arguments) {
-#ifdef SIGPIPE
-  // A pipe that nobody reads any longer is an error of writing.
-  std::signal(SIGPIPE, SIG_IGN);
-#endif
+  prepareConsole();
   QCoreApplication application(argumentCount, arguments);
   QCoreApplication::setApplicationName(QStringLiteral("tracewell"));
   try {
     const RecorderOptions options =
-        recorderOptions({arguments + 1, arguments + argumentCount}, wallTimeNow());
+        recorderOptions(wordsOf(argumentCount, arguments), wallTimeNow());
     if (options.wantsHelp) std::cout << recorderHelp();
     if (options.wantsVersion) std::cout << "tracewell-record " << TRACEWELL_VERSION << "\n";
     return options.wantsHelp || options.wantsVersion ? EXIT_SUCCESS : record(options);

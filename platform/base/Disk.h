@@ -3,12 +3,14 @@
 
 #include <cstdio>
 #include <filesystem>
+#include <string>
 #include <system_error>
+#include <vector>
 
 namespace tracewell {
 
-/// What the standard library cannot do: wait until the disk holds what was written, and give files
-/// away. Implemented by desktop/DesktopDisk, in UnixDisk.cpp and WindowsDisk.cpp.
+/// What the standard library cannot do: wait until the disk holds what was written, give files
+/// away, and list drives. Implemented by desktop/DesktopDisk, in UnixDisk.cpp and WindowsDisk.cpp.
 class Disk {
  public:
   virtual ~Disk() = default;
@@ -28,6 +30,9 @@ class Disk {
     std::filesystem::rename(from, to, failed);
     return failed;
   }
+  /// Letters where the system has them, the one root where it has not. Asks none of them, since a
+  /// drive of the network may be away.
+  virtual std::vector<std::string> drives() { return {"/"}; }
 };
 
 /// The disk under every file that is written from now on; the caller's, null for none. The process

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <cerrno>
+#include <fcntl.h>
+#include <io.h>
+#include <sys/stat.h>
 
 #include "SystemFiles.h"
 
@@ -7,12 +9,9 @@ namespace tracewell {
 
 /// The oldest C library there does not know the mode "x".
 std::FILE* openNewFile(const std::filesystem::path& path) {
-  std::error_code ignored;
-  if (std::filesystem::exists(std::filesystem::symlink_status(path, ignored))) {
-    errno = EEXIST;
-    return nullptr;
-  }
-  return ::_wfopen(path.c_str(), L"wb");
+  const int file =
+      ::_wopen(path.c_str(), _O_WRONLY | _O_CREAT | _O_EXCL | _O_BINARY, _S_IREAD | _S_IWRITE);
+  return file < 0 ? nullptr : ::_fdopen(file, "wb");
 }
 
 std::FILE* openToAppend(const std::filesystem::path& path) {

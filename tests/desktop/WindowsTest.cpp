@@ -6,6 +6,7 @@
 
 #include "DesktopDisk.h"
 #include "DeviceLineTest.h"
+#include "SystemFiles.h"
 #include "SystemFolders.h"
 #include "SystemPorts.h"
 #include "WindowsSerialChannel.h"
@@ -48,6 +49,9 @@ class WindowsLineTest : public DeviceLineTest {
 TEST_F(WindowsLineTest, PortIsListedAndAnswersInAllItsSettings) {
   EXPECT_TRUE(presentSystemPorts().contains(device));
   EXPECT_FALSE(presentSystemPorts().contains(systemPortOf(77)));
+  EXPECT_EQ(nameOfSystemPort(device), QStringLiteral("Prüfplatz (%1)").arg(device));
+  EXPECT_EQ(nameOfSystemPort(systemPortOf(78)), "COM78: Bench");
+  EXPECT_EQ(nameOfSystemPort(systemPortOf(77)), "COM77");
   EXPECT_THROW(WindowsSerialChannel(systemPortOf(77), LineSettings()), Error);
   for (const std::int16_t stopBits : {std::int16_t{0}, std::int16_t{2}}) {
     const auto channel = open({.stopBits = stopBits});
@@ -98,6 +102,9 @@ TEST(WindowsFiles, FileOfAnyNameIsReplacedWhole) {
     writeWholeFile(path, content);
     EXPECT_EQ(readWholeFile(path, 100), content);
   }
+  EXPECT_EQ(openNewFile(path), nullptr);
+  EXPECT_EQ(errno, EEXIST);
+  EXPECT_EQ(std::ranges::count(disk.drives(), pathText(folder.path().root_path())), 1);
   EXPECT_TRUE(mayWriteInto(folder.path()));
   EXPECT_FALSE(mayWriteInto(folder.path() / "none"));
   useDisk(nullptr);
