@@ -72,8 +72,8 @@ void ElidedLabel::paintEvent(QPaintEvent*) {
 
 /// The whole text, where it is not to be seen.
 bool ElidedLabel::event(QEvent* event) {
-  const bool isElided = neededWidth() > contentsRect().width();
-  if (event->type() != QEvent::ToolTip || !isElided) return QLabel::event(event);
+  const bool isTip = event->type() == QEvent::ToolTip;
+  if (!isTip || neededWidth() <= contentsRect().width()) return QLabel::event(event);
   QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text(), this);
   return true;
 }

@@ -26,8 +26,9 @@ class Doing {
   StatusLine::Sentence outer_;
 };
 
-/// The traces stand still for a dialog of that caption, which outlives the sentence.
-StatusLine::Sentence sayPaused(const Property<std::string>& caption);
+/// The traces stand still for a dialog of that caption, which outlives the sentence. Empty if they
+/// stand still already.
+StatusLine::Sentence sayPaused(const frmDSO& main, const Property<std::string>& caption);
 /// The instrument answers a dialog of that caption; records may come in between.
 StatusLine::Sentence sayBusy(const Property<std::string>& caption);
 

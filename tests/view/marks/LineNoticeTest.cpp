@@ -57,14 +57,15 @@ TEST_F(LineNoticeTest, SaysWhatIsWrongOnTheLineAsLongAsItIs) {
   EXPECT_EQ(main.graphDSO.marks().banner.text, "");
 }
 
-/// The dialog has stopped the fetch, so no record is missed.
+/// The dialog has stopped the fetch, so no record is missed. What stood still is not paused by it.
 TEST_F(LineNoticeTest, SaysOverAnOpenDialogThatNobodyIsThere) {
   port.answerLikeAnInstrument();
   port.answer(":TRIG:SOUR?", {"1\n"});
   const auto banner = [this] { return main.graphDSO.marks().banner.text; };
+  bool isRunning = false;
   windows.user["frmTrig"] = [&] {
     const ComboBox& source = program.trigger.cbTrig(0);
-    EXPECT_EQ(banner(), "Traces paused for Trigger");
+    EXPECT_EQ(banner(), isRunning ? "Traces paused for Trigger" : "");
     EXPECT_FALSE(source.isUnread());
     port.lineReport.failure = "no such device";
     port.lost.raise();
@@ -77,8 +78,11 @@ TEST_F(LineNoticeTest, SaysOverAnOpenDialogThatNobodyIsThere) {
     EXPECT_EQ(banner(), "No answer to the last 3 questions");
     port.lineReport = {};
   };
-  main.cmdTrig.press();
-  EXPECT_EQ(banner(), "");
+  for (const bool runs : {true, false}) {
+    main.tmDSO.enabled = isRunning = runs;
+    main.cmdTrig.press();
+    EXPECT_EQ(banner(), "");
+  }
 }
 
 }  // namespace tracewell
