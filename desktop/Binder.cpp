@@ -202,7 +202,7 @@ void bind(ComboBox& control, QWidget& form) {
   box->setInsertPolicy(QComboBox::NoInsert);
   // What is typed is meant: "3" is not the beginning of port 33.
   box->setCompleter(nullptr);
-  keepEditingKeys(*box->lineEdit());
+  keepEditingKeys(*box);
   if (box->property("opensMore").toBool()) takeOnKeys(*box, control);
   QObject::connect(box->lineEdit(), &QLineEdit::textEdited, box,
                    [&control](const QString& typed) { control.edit(fromQt(typed)); });

@@ -218,7 +218,8 @@ TEST_F(FormsTest, FocusChoosesNothing) {
   });
 }
 
-/// What "Average" opens is to be seen before the dialog goes; the next Enter is the dialog's.
+/// What "Average" opens is to be seen before the dialog goes; the next Enter is the dialog's. Keys go
+/// to the box, which has the focus, and not to the line in it.
 TEST_F(FormsTest, EnterOnATypedModeTakesItAndNoMore) {
   const auto dialog = makeForm("frmAcq", nullptr);
   frmAcq& window = program.acquire;
@@ -228,13 +229,13 @@ TEST_F(FormsTest, EnterOnATypedModeTakesItAndNoMore) {
   dialog->show();
   auto* mode = dialog->findChild<QComboBox*>(QStringLiteral("cbMode"));
   mode->lineEdit()->selectAll();
-  QTest::keyClicks(mode->lineEdit(), QStringLiteral("Average"));
+  QTest::keyClicks(mode, QStringLiteral("Average"));
   EXPECT_NE(window.cbMode.text(), "Average");
-  QTest::keyClick(mode->lineEdit(), Qt::Key_Return);
+  QTest::keyClick(mode, Qt::Key_Return);
   EXPECT_EQ(window.cbMode.text(), "Average");
   EXPECT_TRUE(window.cbAverage.visible());
   EXPECT_EQ(presses, 0);
-  QTest::keyClick(mode->lineEdit(), Qt::Key_Return);
+  QTest::keyClick(mode, Qt::Key_Return);
   EXPECT_EQ(presses, 1);
   // Tab goes to what the text has opened.
   dialog->activateWindow();
@@ -242,8 +243,8 @@ TEST_F(FormsTest, EnterOnATypedModeTakesItAndNoMore) {
   for (const char* name : {"Sample", "Average"}) {
     mode->setFocus();
     mode->lineEdit()->selectAll();
-    QTest::keyClicks(mode->lineEdit(), QLatin1String(name));
-    QTest::keyClick(mode->lineEdit(), Qt::Key_Tab);
+    QTest::keyClicks(mode, QLatin1String(name));
+    QTest::keyClick(mode, Qt::Key_Tab);
     EXPECT_EQ(window.cbMode.text(), name);
   }
   EXPECT_EQ(dialog->focusWidget()->objectName(), QStringLiteral("cbAverage"));

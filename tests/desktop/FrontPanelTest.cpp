@@ -233,9 +233,10 @@ class Hands : public Played {
     EXPECT_TRUE(QTest::qWaitForWindowActive(line.window()));
     line.setFocus();
     line.selectAll();
-    QTest::keyClick(&line, Qt::Key_Backspace);
-    QTest::keyClicks(&line, toQt(text));
-    QTest::keyClick(&line, end);
+    QWidget* const focused = line.window()->focusWidget();
+    QTest::keyClick(focused, Qt::Key_Backspace);
+    QTest::keyClicks(focused, toQt(text));
+    QTest::keyClick(focused, end);
   }
 
   bool areOnKeys_;
