@@ -6,18 +6,16 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
-#include <QIcon>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
-#include <QPainter>
-#include <QPixmap>
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
+#include <QTimer>
 #include <QTreeWidget>
 
 #include "ButtonSigns.h"
@@ -90,18 +88,6 @@ void bind(Frame& control, QWidget& form) {
   if (control.copied) new CopyGestures(*box, [&control] { control.copy(); });
 }
 
-constexpr QSize swatchSize(28, 14);
-
-/// Its edge shows the colour of the button's ground, too.
-QIcon swatch(const QColor& colour) {
-  QPixmap picture(swatchSize);
-  picture.fill(colour);
-  QPainter painter(&picture);
-  painter.setPen(QColor(0x80, 0x88, 0x90));
-  painter.drawRect(picture.rect().adjusted(0, 0, -1, -1));
-  return picture;
-}
-
 /// A button that nothing answers yet is out of reach rather than dead.
 void bind(Button& control, QWidget& form) {
   auto* button = findObject<QPushButton>(control, form);
@@ -111,10 +97,7 @@ void bind(Button& control, QWidget& form) {
     button->setText(shownCaption(control.caption()));
     button->setShortcut(shortcut);
     button->setEnabled(control.enabled() && control.click);
-    const auto colour = control.backColour();
-    if (!colour) return;
-    button->setIconSize(swatchSize);
-    button->setIcon(swatch(toQt(*colour)));
+    if (const auto colour = control.backColour()) showSwatch(*button, toQt(*colour));
   });
   QObject::connect(button, &QPushButton::clicked, button, [&control] { control.press(); });
 }
@@ -212,12 +195,20 @@ void bind(ComboBox& control, QWidget& form) {
   });
 }
 
+/// The last line is in sight once the box has its size.
+void showNewest(QPlainTextEdit& log) {
+  log.moveCursor(QTextCursor::End);
+  log.moveCursor(QTextCursor::StartOfLine);
+  QTimer::singleShot(0, &log, &QPlainTextEdit::ensureCursorVisible);
+}
+
 void bind(TextBox& control, QWidget& form) {
   if (auto* area = form.findChild<QPlainTextEdit*>(toQt(control.objectName()))) {
     showWith(control, area, [&control, area] {
       const bool isLog = area->property("newest").toBool();
       const QString text = (isLog ? shownEnd : shownText)(control.text(), roomOfPage);
       if (area->toPlainText() != text) area->setPlainText(text);
+      if (isLog) showNewest(*area);
     });
     new WholeTextCopy(*area);
     return;

@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
+#include <QScrollBar>
 #include <QTest>
 #include <QTimer>
 #include <QTreeWidget>
@@ -218,8 +219,21 @@ TEST_F(FormsTest, FocusChoosesNothing) {
   });
 }
 
-/// What "Average" opens is to be seen before the dialog goes; the next Enter is the dialog's. Keys go
-/// to the box, which has the focus, and not to the line in it.
+TEST_F(FormsTest, ErrorLogOpensAtItsNewestLine) {
+  std::string lines;
+  for (int i = 0; i < 200; ++i) lines += "line " + std::to_string(i) + "\r\n";
+  program.errLog.txtErrLog.text = lines;
+  bound(program.errLog, [](Window&, QWidget& dialog) {
+    dialog.show();
+    QApplication::processEvents();
+    const QScrollBar* bar = dialog.findChild<QPlainTextEdit*>()->verticalScrollBar();
+    EXPECT_GT(bar->maximum(), 0);
+    EXPECT_EQ(bar->value(), bar->maximum());
+  });
+}
+
+/// What "Average" opens is to be seen before the dialog goes; the next Enter is the dialog's. Keys
+/// go to the box, which has the focus, and not to the line in it.
 TEST_F(FormsTest, EnterOnATypedModeTakesItAndNoMore) {
   const auto dialog = makeForm("frmAcq", nullptr);
   frmAcq& window = program.acquire;
