@@ -20,14 +20,15 @@ inline std::string fromQt(const QString& text) {
   return text.toStdString();
 }
 
+/// Qt separates by "/" on every system.
 inline QString toQt(const std::filesystem::path& path) {
-  const std::u8string text = path.u8string();
+  const std::u8string text = path.generic_u8string();
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
 inline std::filesystem::path toPath(const QString& text) {
   const QByteArray bytes = text.toUtf8();
-  return std::u8string(bytes.begin(), bytes.end());
+  return std::filesystem::path(std::u8string(bytes.begin(), bytes.end())).make_preferred();
 }
 
 inline QColor toQt(const Colour& colour) {

@@ -5,8 +5,10 @@ SCREENSHOTS WINDOWS_TESTS PICTURE_FILES, of which the last are the folders of th
 Windows and for here. Of what is on the screen only colours are looked at; the screenshots are for
 people."""
 
+import csv
 import os
 import pathlib
+import re
 import shutil
 import subprocess
 import sys
@@ -17,154 +19,283 @@ import zipfile
 
 PACKAGE, SIMULATOR = (os.path.abspath(argument) for argument in sys.argv[1:3])
 SCREENSHOTS, WINDOWS_TESTS, OWN_TESTS = (pathlib.Path(argument).resolve() for argument in sys.argv[3:6])
-from real_desktop import HEIGHT, PATIENCE, WIDTH, Instrument, Place, Screen, resident_kilobytes, run, wait_for
+from real_desktop import (HEIGHT, PATIENCE, WIDTH, Instrument, Place, Program, SystemTestCase, resident_kilobytes,
+                          run, wait_for)
 
 PORT = 7
-# Without the strip of scales above it, and without the mark of the channel.
-PLOT = Place(40, 130, 760, 300, "")
+PLACE = "Messung \u00dcn\u00eft\u00e9 \u6d4b"
 WINE = shutil.which("wine64") or "/usr/lib/wine/wine64"
 SERVER = shutil.which("wineserver") or "/usr/lib/wine/wineserver64"
+ADAPTERS = r"HKLM\System\CurrentControlSet\Enum\ROOT\PORTS"
+FORMATS = ["wmf", "bmp", "gif", "Ico", "cur", "pcx", "tif", "png", "jpg"]
+NOBODY = 65534
+# On the screen, in a window as large as that; of the save window in the middle of it. The plot is without
+# the strip of scales and the mark of the channel.
+PLACES = {
+    "frmDSO.plot": Place(40, 130, 760, 320, ""),
+    "frmDSO.cmdRS232": Place(107, 60, 50, 24, ""),
+    **{f"frmSave.opFiletype_{i}": Place(882 + 121 * (i % 3), 179 + 28 * (i // 3), 14, 14, "") for i in range(9)},
+    "frmSave.cmdOK": Place(1096, 655, 70, 24, ""),
+}
 
 
 class Windows:
     """A Windows of its own, with the package unpacked in a folder whose name is not plain."""
 
-    def __init__(self):
+    def __init__(self, user=None):
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="tracewell-windows-"))
         self.device = self.folder / "device"
-        os.environ |= {"WINEPREFIX": str(self.folder / "wine"), "WINEDEBUG": "-all",
-                       "WINEDLLOVERRIDES": "mscoree=;mshtml="}
+        # Who may do everything is no test of what may not be done.
+        self.as_user = []
+        if user is not None and os.geteuid() == 0:
+            os.chown(self.folder, user, user)
+            self.as_user = ["setpriv", f"--reuid={user}", f"--regid={user}", "--clear-groups"]
+        self.environment = {**os.environ, "HOME": str(self.folder), "WINEPREFIX": str(self.folder / "wine"),
+                            "WINEDEBUG": "-all", "WINEDLLOVERRIDES": "mscoree=;mshtml="}
         self.run("wineboot", "--init")
-        self.run("reg", "add", r"HKLM\Software\Wine\Ports", "/v", f"COM{PORT}", "/d", str(self.device))
+        self.add(r"HKLM\Software\Wine\Ports", f"COM{PORT}", self.device)
+        for key, port, name in (("0000", PORT, "Pr\u00fcfplatz (COM7)"), ("0001", 78, "Bench")):
+            self.add(rf"{ADAPTERS}\{key}", "ClassGUID", "{4d36e978-e325-11ce-bfc1-08002be10318}")
+            self.add(rf"{ADAPTERS}\{key}", "FriendlyName", name)
+            self.add(rf"{ADAPTERS}\{key}\Device Parameters", "PortName", f"COM{port}")
         # The list of ports is made at its start.
         self.stop()
-        place = self.folder / "wine/drive_c/Mesures \u00e9t\u00e9 \u6ce2\u5f62"
+        place = self.folder / "wine/drive_c" / PLACE
         zipfile.ZipFile(PACKAGE).extractall(place)
         self.program = next(place.iterdir())
 
-    def run(self, *command):
+    def add(self, key, value, text):
+        self.run("reg", "add", key, "/v", value, "/d", str(text), "/f")
+
+    def run(self, *command, **others):
         # Its server tells its life when it loses a line, and the line is a terminal.
-        subprocess.run([WINE, *command], check=True, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        others = {"stdout": subprocess.DEVNULL, "stderr": subprocess.DEVNULL, **others}
+        return subprocess.run([*self.as_user, WINE, *command], env=self.environment, check=True, **others)
 
     def stop(self):
-        subprocess.run([SERVER, "--kill"], stderr=subprocess.DEVNULL)
-        subprocess.run([SERVER, "--wait"], stderr=subprocess.DEVNULL)
+        for how in ("--kill", "--wait"):
+            subprocess.run([*self.as_user, SERVER, how], env=self.environment, stderr=subprocess.DEVNULL)
 
     def remove(self):
         self.stop()
         shutil.rmtree(self.folder)
 
 
-class WindowsTest(unittest.TestCase):
+class WindowsProgram(Program):
+    """The program in a Windows. Nothing there says where its objects are."""
+
+    def __init__(self, windows, port):
+        self.windows_of_it = windows
+        self.folder = windows.program
+        self.setup = self.folder / "default.dso"
+        self.environment = windows.environment
+        self.process = None
+        text = self.setup.read_bytes()
+        self.setup.write_bytes(re.sub(rb",None,\d+\r\n", b",None,%d\r\n" % port, text))
+
+    def start(self):
+        begun = time.monotonic()
+        self.process = subprocess.Popen([*self.windows_of_it.as_user, WINE, "tracewell.exe"], cwd=self.folder,
+                                        env=self.environment, stdout=subprocess.DEVNULL,
+                                        stderr=subprocess.DEVNULL)
+        self.window = None
+        self.window = self.find("Tracewell")
+        self.took = time.monotonic() - begun
+        run("xdotool", "windowmove", self.window, "0", "0", "windowsize", self.window, str(WIDTH), str(HEIGHT))
+        self.focus(self.window)
+
+    def keys(self, *names):
+        run("xdotool", "key", "--delay", "100", *names)
+
+    def type(self, text):
+        run("xdotool", "type", "--delay", "50", text)
+
+    def shown(self, name):
+        return PLACES[name]
+
+    def opened(self, shortcut, title):
+        self.focus(self.window)
+        self.keys(shortcut)
+        window = self.find(title)
+        self.focus(window)
+        return window
+
+    def answer(self, title, text, besides=None):
+        """In a dialog of the system's."""
+        self.focus(self.find(title, besides))
+        self.keys("ctrl+a")
+        self.type(text)
+        self.keys("Return")
+
+    def remove(self):
+        if self.process and self.process.poll() is None:
+            self.process.kill()
+            self.process.wait()
+
+
+class WindowsTest(SystemTestCase):
     @classmethod
     def setUpClass(cls):
-        cls.screen = Screen()
+        super().setUpClass()
         cls.windows = Windows()
         SCREENSHOTS.mkdir(parents=True, exist_ok=True)
 
     @classmethod
     def tearDownClass(cls):
         cls.windows.remove()
-        cls.screen.stop()
+        super().tearDownClass()
 
-    def tearDown(self):
-        if self.process.poll() is None:
-            self.process.kill()
-            self.process.wait()
+    def started(self, port, windows=None):
+        program = WindowsProgram(windows or self.windows, port)
+        self.addCleanup(program.remove)
+        program.start()
+        return program
 
-    def start(self, port):
-        self.setup_file = self.windows.program / "default.dso"
-        text = self.setup_file.read_bytes()
-        for number in (0, PORT):
-            text = text.replace(b",None,%d\r\n" % number, b",None,%d\r\n" % port)
-        self.setup_file.write_bytes(text)
-        begun = time.monotonic()
-        self.process = subprocess.Popen([WINE, "tracewell.exe"], cwd=self.windows.program,
-                                        stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        self.window = self.find("Tracewell")
-        self.took = time.monotonic() - begun
-        run("xdotool", "windowmove", self.window, "0", "0", "windowsize", self.window, str(WIDTH), str(HEIGHT))
-        self.focus(self.window)
-
-    def find(self, title, besides=()):
-        def found():
-            windows = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", f"^{title}$"],
-                                     capture_output=True, text=True).stdout.split()
-            return [window for window in windows if window not in besides]
-        return wait_for(found, PATIENCE, f"the window {title}")[0]
-
-    def focus(self, window):
-        run("xdotool", "windowfocus", "--sync", window)
-
-    def keys(self, *names):
-        run("xdotool", "key", "--delay", "100", *names)
+    def instrument(self):
+        instrument = Instrument(self.windows.device)
+        self.addCleanup(instrument.stop)
+        return instrument
 
     def shot(self, name):
         run("import", "-window", "root", str(SCREENSHOTS / f"{name}.png"))
 
-    def trace(self):
-        """Where the plot shows the colour of channel 1. The window is as large as the screen."""
-        return {position for position, (red, green, blue) in self.screen.within(PLOT)
-                if red > 170 and 120 < green < red and red - blue > 90}
+    def connect(self, program):
+        self.assertEqual(len(self.trace(program)), 0)
+        program.keys("F5")
+        self.expect_live_trace(program)
 
-    def expect_live_trace(self):
-        first = wait_for(lambda: len(trace := self.trace()) > 300 and trace, PATIENCE, "a trace")
-        wait_for(lambda: len(trace := self.trace()) > 300 and trace != first, PATIENCE, "a second frame")
-
-    def connect(self):
-        self.assertEqual(len(self.trace()), 0)
-        self.keys("F5")
-        self.expect_live_trace()
-
-    def close(self):
-        self.focus(self.window)
-        self.keys("ctrl+q")
-        self.focus(self.find("Tracewell", [self.window]))
-        self.keys("Return")
-        self.assertEqual(self.process.wait(PATIENCE), 0)
+    def close(self, program):
+        program.close()
+        self.assertEqual(program.process.returncode, 0)
 
     def test_simulated_instrument_shows_live_traces(self):
-        self.start(0)
-        self.connect()
+        program = self.started(0)
+        self.connect(program)
         self.shot("simulated")
-        print(f"first window after {self.took:.1f} s, "
-              f"{resident_kilobytes(self.process.pid) / 1024:.0f} MiB resident")
-        self.setup_file.unlink()
-        self.close()
-        self.assertIn(b",None,0\r\n", self.setup_file.read_bytes())
+        print(f"first window after {program.took:.1f} s, "
+              f"{resident_kilobytes(program.process.pid) / 1024:.0f} MiB resident")
+        program.setup.unlink()
+        self.close(program)
+        self.assertIn(b",None,0\r\n", program.setup.read_bytes())
 
     def test_com_port_is_used_lost_and_used_again(self):
-        instrument = Instrument(self.windows.device)
-        self.start(PORT)
-        self.connect()
+        instrument = self.instrument()
+        program = self.started(PORT)
+        self.connect(program)
+        program.opened("ctrl+r", "RS-232")
         self.shot("com7")
+        program.keys("Escape")
         instrument.fault("HANGUP 700")
         wait_for(lambda: instrument.process.poll() is not None, PATIENCE, "the hang-up")
 
         def stands_still():
-            before = self.trace()
+            before = self.trace(program)
             time.sleep(3)
-            return self.trace() == before
+            return self.trace(program) == before
 
         wait_for(stands_still, PATIENCE, "the end of the traces")
         self.shot("unplugged")
-        instrument.stop()
-        instrument = Instrument(self.windows.device)
-        # The button RS-232, which connects anew.
-        run("xdotool", "mousemove", "--window", self.window, "132", "72", "click", "1")
-        self.expect_live_trace()
-        self.shot("plugged-in-again")
-        self.close()
-        self.assertIn(b",None,%d\r\n" % PORT, self.setup_file.read_bytes())
-        instrument.stop()
+        self.instrument()
+        program.focus(program.window)
+        program.click("frmDSO.cmdRS232")
+        self.expect_live_trace(program)
+        self.close(program)
+        self.assertIn(b",None,%d\r\n" % PORT, program.setup.read_bytes())
 
     def test_end_of_the_session_saves_the_setup(self):
-        self.start(0)
-        self.setup_file.unlink()
+        program = self.started(0)
+        program.setup.unlink()
         # Whoever has been asked is ended then.
         self.windows.run("wineboot", "--end-session")
-        self.process.wait(PATIENCE)
-        self.assertIn(b",None,0\r\n", self.setup_file.read_bytes())
+        program.process.wait(PATIENCE)
+        self.assertIn(b",None,0\r\n", program.setup.read_bytes())
+
+    def test_files_are_saved_and_loaded_by_the_dialogs(self):
+        program = self.started(0)
+        self.connect(program)
+        for number, extension in enumerate(FORMATS):
+            window = program.opened("ctrl+w", "Save")
+            program.click(f"frmSave.opFiletype_{number}")
+            program.click("frmSave.cmdOK")
+            program.answer("Save", "set_" + extension, window)
+            file = program.folder / f"set_{extension}.{extension}"
+            wait_for(file.exists, PATIENCE, str(file))
+            program.closed("Save")
+            if extension != "wmf":
+                run("identify", str(file))
+            self.assertEqual(file.with_suffix(".csv").read_bytes().count(b"\r\n"), 501)
+            self.assertEqual(file.with_suffix(".inf").read_text().split("\n")[0], rf"C:\{PLACE}"
+                             rf"\{program.folder.name}\{file.name}")
+        # By keys, behind the icon's set, whose picture cannot be shown.
+        program.opened("ctrl+l", "Load Waveform")
+        program.keys("Tab", "Tab", "Down")
+        self.shot("load")
+        program.keys("Tab", "Tab", "Tab", "Tab", "space")
+        program.closed("Load Waveform")
+        self.shot("loaded")
+
+        program.focus(program.window)
+        program.keys("ctrl+s")
+        program.answer("Load DSO Setup file", "bench")
+        kept = program.folder / "bench.dso"
+        wait_for(kept.exists, PATIENCE, str(kept))
+        kept.write_bytes(kept.read_bytes().replace(b",None,0\r\n", b",None,9\r\n"))
+        program.keys("ctrl+o")
+        program.answer("Load DSO Setup file", "bench.dso")
+        program.closed("Load DSO Setup file")
+        self.shot("other-setup")
+        self.close(program)
+        self.assertIn(b",None,9\r\n", program.setup.read_bytes())
+
+    def test_two_at_once(self):
+        self.instrument()
+        first = self.started(0)
+        self.connect(first)
+        second = self.started(PORT)
+        program_of_both = second
+        self.connect(program_of_both)
+        self.shot("two")
+        self.close(second)
+        first.focus(first.window)
+        self.expect_live_trace(first)
+        self.close(first)
+
+    def test_chinese(self):
+        program = WindowsProgram(self.windows, 0)
+        text = program.setup.read_bytes()
+        program.setup.write_bytes(text.replace(b"Language,1,1", b"Language,1,2"))
+        self.addCleanup(program.setup.write_bytes, text)
+        self.addCleanup(program.remove)
+        program.start()
+        self.connect(program)
+        self.shot("chinese")
+        self.close(program)
+
+    def test_recorder_without_a_window(self):
+        self.instrument()
+        options = ["--port", str(PORT), "--channels", "1,2", "--count", "2", "--measure", "vpp,freq"]
+        to = self.windows.program
+        for name in ("\u00fcn \u6d4b.csv", "-"):
+            ended = self.windows.run("tracewell-record.exe", *options, "--csv", name, cwd=to, stdout=subprocess.PIPE)
+            written = ended.stdout if name == "-" else (to / name).read_bytes()
+            self.assertEqual(written.count(b"\r\n"), 5)
+            self.assertNotIn(b"\r\r", written)
+            rows = list(csv.DictReader(written.decode().splitlines()))
+            self.assertEqual([row["channel"] for row in rows], ["1", "2", "1", "2"])
+            self.assertAlmostEqual(float(rows[0]["freq (Hz)"]), 1000, delta=2)
+
+    def test_program_folder_that_cannot_be_written(self):
+        windows = Windows(NOBODY)
+        self.addCleanup(windows.remove)
+        before = sorted(windows.program.rglob("*"))
+        windows.program.chmod(0o555)
+        program = self.started(0, windows)
+        self.connect(program)
+        self.close(program)
+        self.assertEqual(sorted(windows.program.rglob("*")), before)
+        kept = list(windows.folder.glob("wine/drive_c/users/*/AppData/Local/tracewell/default.dso"))
+        self.assertEqual(len(kept), 1)
+        self.assertIn(b",None,0\r\n", kept[0].read_bytes())
 
 
 class PartsTest(unittest.TestCase):
@@ -178,19 +309,15 @@ class PartsTest(unittest.TestCase):
 
     def test_line_and_files(self):
         instrument = Instrument(self.windows.device)
-        os.environ["TRACEWELL_TEST_PORT"] = str(PORT)
-        tests = subprocess.run([WINE, WINDOWS_TESTS / "windows_tests.exe"], stdout=subprocess.PIPE,
-                               stderr=subprocess.DEVNULL)
-        print(tests.stdout.decode(errors="replace"))
-        self.assertEqual(tests.returncode, 0)
+        self.windows.environment["TRACEWELL_TEST_PORT"] = str(PORT)
+        self.windows.run(WINDOWS_TESTS / "windows_tests.exe", stdout=None)
         instrument.stop()
 
     def test_pictures_are_those_of_the_other_system(self):
         own, windows = self.windows.folder / "own", self.windows.program
         own.mkdir()
         subprocess.run([OWN_TESTS / "picture_files", own], check=True)
-        subprocess.run([WINE, WINDOWS_TESTS / "picture_files.exe"], cwd=windows, check=True,
-                       stderr=subprocess.DEVNULL)
+        self.windows.run(WINDOWS_TESTS / "picture_files.exe", cwd=windows)
         names = sorted(file.name for file in own.iterdir())
         self.assertEqual(len(names), 9)
         for name in names:
@@ -204,4 +331,4 @@ class PartsTest(unittest.TestCase):
                               run("identify", str(windows / name)))
 
 
-unittest.main(argv=sys.argv[:1], verbosity=2)
+unittest.main(argv=[sys.argv[0], *sys.argv[6:]], verbosity=2)
