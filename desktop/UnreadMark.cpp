@@ -21,6 +21,8 @@ namespace tracewell {
 namespace {
 
 constexpr int side = 13;
+/// Between words and mark.
+constexpr int gap = 3;
 /// As pale as text can be and still be read; on a button less so than on a panel.
 constexpr qreal paleOpacity = 0.7;
 constexpr qreal paleButtonOpacity = 0.9;
@@ -40,12 +42,22 @@ void makeRoom(QLabel& label, bool isMarked) {
   if (font.letterSpacing() != label.font().letterSpacing()) label.setFont(font);
 }
 
+/// Between the mark and the end of a button, which may be round.
+int edgeOf(const QPushButton& button) {
+  return button.property("lock").toBool() ? 6 : 3;
+}
+
 /// Beside the text, and in the same place when it is there again.
 void makeRoom(QWidget& marked, bool isMarked) {
   if (auto* line = qobject_cast<QLineEdit*>(&marked))
     line->setTextMargins(0, 0, isMarked ? UnreadMark::room : 0, 0);
-  else if (qobject_cast<QAbstractButton*>(&marked) != nullptr ||
-           qobject_cast<QComboBox*>(&marked) != nullptr)
+  else if (auto* button = qobject_cast<QPushButton*>(&marked)) {
+    // Its words stay in the middle.
+    constexpr int padding = 7;
+    const int behind = side + edgeOf(*button) + gap;
+    button->setMinimumWidth(button->sizeHint().width() + 2 * (behind - padding));
+  } else if (qobject_cast<QAbstractButton*>(&marked) != nullptr ||
+             qobject_cast<QComboBox*>(&marked) != nullptr)
     marked.setMinimumWidth(marked.sizeHint().width() + UnreadMark::room);
 }
 
@@ -139,8 +151,8 @@ void UnreadMark::toPlace() {
     move(knob->gap().toPoint() - rect().center());
   else if (qobject_cast<const QComboBox*>(&marked) != nullptr)
     move(right - arrow, middle);
-  else if (qobject_cast<const QPushButton*>(&marked) != nullptr)
-    move(right - frame, middle);
+  else if (const auto* button = qobject_cast<const QPushButton*>(&marked))
+    move(right - edgeOf(*button), middle);
   else if (qobject_cast<const QAbstractButton*>(&marked) != nullptr)
     move(std::min(right, marked.sizeHint().width() + 2), middle);
   else if (auto* label = qobject_cast<QLabel*>(&marked)) {
