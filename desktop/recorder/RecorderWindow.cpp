@@ -22,7 +22,7 @@
 namespace tracewell {
 namespace {
 
-constexpr int columnWidth = 350;
+constexpr int tablesWidth = 350;
 /// So many records are measured for the statistics at a time, and so long nothing is in between:
 /// the panel goes on meanwhile. Milliseconds.
 constexpr int measuredAtOnce = 20;
@@ -66,7 +66,7 @@ void RecorderWindow::layOut() {
   drawn->addWidget(graph_, 1);
   drawn->addWidget(strip_);
   middle->addLayout(drawn, 1);
-  tables_->setFixedWidth(columnWidth);
+  tables_->setFixedWidth(tablesWidth);
   middle->addWidget(tables_);
   rows->addLayout(middle, 1);
   rows->addLayout(actionRow());
