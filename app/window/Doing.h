@@ -7,11 +7,12 @@
 
 namespace tracewell {
 
-/// Says what the instrument is busy with instead of records, as long as it lives.
+/// Says what the instrument is busy with instead of records, as long as it lives. An empty sentence
+/// leaves what is said already.
 class Doing {
  public:
-  Doing(frmDSO& main, StatusLine::Sentence sentence)
-      : main_(main), outer_(std::exchange(main.doing, std::move(sentence))) {
+  Doing(frmDSO& main, StatusLine::Sentence sentence) : main_(main), outer_(main.doing) {
+    if (sentence) main.doing = std::move(sentence);
     main.marksDue.raise();
   }
   ~Doing() {
