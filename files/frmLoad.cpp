@@ -152,7 +152,8 @@ void frmLoad::drawSet(const LoadedWaveforms& set) {
 }
 
 void frmLoad::sayWhatIsShown(std::size_t drawn, bool hasRoom) {
-  main_.status.tell(StatusLine::happened, [=, this, path = dataPath_](const Words& words) {
+  const bool isDone = hasRoom && drawn > 0;
+  main_.status.tell(isDone ? StatusLine::happened : StatusLine::failed, [=, this, path = dataPath_](const Words& words) {
     if (!hasRoom)
       return words.say("No room for all of %1: press %2 first", {path, main_.cmdRemove.caption()});
     return drawn == 0 ? words.say("%1 has no record of what was chosen", {path})
