@@ -294,6 +294,9 @@ void bind(ListBox& control, QWidget& form) {
       list->addItems(items);
     }
     list->setCurrentRow(control.chosen());
+    // As when the focus comes: keys go on from the first entry.
+    if (list->currentRow() < 0 && list->hasFocus())
+      list->setCurrentRow(0, QItemSelectionModel::NoUpdate);
   });
   QObject::connect(list, &QListWidget::itemClicked, list,
                    [&control, list] { control.choose(list->currentRow()); });

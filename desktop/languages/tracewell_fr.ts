@@ -56,6 +56,10 @@
         <translation>%1 n'a pas été chargé en entier</translation>
     </message>
     <message>
+        <source>%1 was not loaded: %2</source>
+        <translation>%1 n'a pas été chargé : %2</translation>
+    </message>
+    <message>
         <source>%1, %2: different sweeps</source>
         <translation>%1, %2 : balayages différents</translation>
     </message>

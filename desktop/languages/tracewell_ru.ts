@@ -56,6 +56,10 @@
         <translation>%1 загружен не полностью</translation>
     </message>
     <message>
+        <source>%1 was not loaded: %2</source>
+        <translation>%1 не загружен: %2</translation>
+    </message>
+    <message>
         <source>%1, %2: different sweeps</source>
         <translation>%1, %2: разные развёртки</translation>
     </message>

@@ -56,6 +56,10 @@
         <translation>%1 未能完整加载</translation>
     </message>
     <message>
+        <source>%1 was not loaded: %2</source>
+        <translation>未能载入 %1：%2</translation>
+    </message>
+    <message>
         <source>%1, %2: different sweeps</source>
         <translation>%1、%2：不同次扫描</translation>
     </message>

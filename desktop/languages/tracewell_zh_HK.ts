@@ -56,6 +56,10 @@
         <translation>%1 未能完整載入</translation>
     </message>
     <message>
+        <source>%1 was not loaded: %2</source>
+        <translation>未能載入 %1：%2</translation>
+    </message>
+    <message>
         <source>%1, %2: different sweeps</source>
         <translation>%1、%2：唔同次掃描</translation>
     </message>

@@ -3,6 +3,7 @@
 
 #include <qcustomplot.h>
 
+#include <QFontDatabase>
 #include <QVBoxLayout>
 #include <cmath>
 
@@ -61,13 +62,18 @@ void placeInCorner(QCPItemText& text, double x, double y) {
   text.position->setCoords(x, y);
 }
 
-/// Above the place, else at its right or left, where there is nothing yet; empty if nowhere.
+/// Above the place, else at its sides, else higher, where there is nothing yet; empty if nowhere.
 QRectF roomBeside(const QPointF& place, const QSizeF& size, const QRectF& inside,
                   const std::vector<QRectF>& taken) {
   constexpr qreal gap = 5;
   const QPointF corners[] = {{-size.width() / 2, -size.height() - gap},
                              {gap, -size.height() / 2},
-                             {-size.width() - gap, -size.height() / 2}};
+                             {-size.width() - gap, -size.height() / 2},
+                             {gap, -size.height() - gap},
+                             {-size.width() - gap, -size.height() - gap},
+                             {-size.width() / 2, -2 * size.height() - gap},
+                             {gap, gap},
+                             {-size.width() - gap, gap}};
   for (const QPointF& corner : corners) {
     const QRectF room(place + corner, size);
     const bool isFree =
@@ -263,8 +269,8 @@ void RecorderGraph::showLabels(const RecorderPicture& picture) {
     const auto channel = static_cast<std::size_t>(label.channel - 1);
     QStringList& list = lists.at(channel);
     const QString number = QString::number(list.size() + 1);
-    list << number + QStringLiteral(":  ") +
-                toQt(label.text).replace(QLatin1Char('\n'), QStringLiteral("   "));
+    const QStringList said = toQt(label.text).split(QLatin1Char('\n'));
+    list << QStringLiteral("%1: %2 %3").arg(number).arg(said.value(0), 9).arg(said.value(1), 10);
     if (i == labels_.size()) labels_.push_back(makeText(plot_, Qt::AlignLeft | Qt::AlignTop));
     const QPointF place(plot_.xAxis->coordToPixel(label.x * acrossFactor_),
                         axisOf(label.channel).coordToPixel(label.y * upFactors_.at(channel)));
@@ -282,16 +288,18 @@ void RecorderGraph::showLabels(const RecorderPicture& picture) {
   showPeakLists(lists);
 }
 
-/// At the right, where the badge of the cursors leaves room.
+/// At the right, where the badge of the cursors leaves room; digits below each other.
 void RecorderGraph::showPeakLists(const std::array<QStringList, 2>& lists) {
-  const int line = QFontMetrics(font()).lineSpacing();
+  QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+  fixed.setPixelSize(QFontInfo(font()).pixelSize());
+  const int line = QFontMetrics(fixed).lineSpacing();
   const QRect inside = plot_.axisRect()->rect();
   int top = inside.top() + 5 + (cursors_.kind == RecorderCursors::off ? 0 : 4 * line);
   for (std::size_t i = 0; i < lists.size(); ++i) {
     QCPItemText& item = *peakLists_.at(i);
     item.setVisible(!lists.at(i).isEmpty());
     item.setText(lists.at(i).join(QLatin1Char('\n')));
-    item.setFont(font());
+    item.setFont(fixed);
     item.setColor(look_.channels.at(i));
     item.setBrush(badge_->brush());
     item.position->setCoords(inside.right() - 4, top);

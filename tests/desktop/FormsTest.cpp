@@ -338,6 +338,11 @@ TEST_F(FormsTest, ListKeepsTheEntryThatTheProgramGoesBackTo) {
     QTest::keyClick(folders, Qt::Key_Return);
     EXPECT_EQ(opened, 1);
     EXPECT_EQ(window.dirCSV.chosenText(), "a");
+    dialog.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    window.dirCSV.items = {"..", "b", "c"};
+    QTest::keyClick(folders, Qt::Key_End);
+    EXPECT_EQ(window.dirCSV.chosenText(), "c");
   });
 }
 
