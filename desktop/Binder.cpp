@@ -266,6 +266,7 @@ void bind(Slide& control, QWidget& form) {
     showPale(*caption, control.isStale());
     // On the groove it would cover a place of the handle.
     UnreadMark::show(*caption, control.isUnread());
+    describeUnread(*slide, control.isUnread());
   });
   QObject::connect(slide, &SlideWidget::dragged, slide,
                    [&control](double to) { control.drag(to); });

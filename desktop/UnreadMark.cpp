@@ -87,6 +87,14 @@ void showPale(QWidget& widget, bool isPale) {
   widget.setGraphicsEffect(effect);
 }
 
+/// Beside what it says of itself without a description, its tip.
+void describeUnread(QWidget& widget, bool isUnread) {
+  const QString own = widget.toolTip();
+  const QString mean = own.isEmpty() ? meaning() : own + QStringLiteral(". ") + meaning();
+  const QString description = isUnread ? mean : QString();
+  if (description != widget.accessibleDescription()) widget.setAccessibleDescription(description);
+}
+
 void UnreadMark::show(QWidget& marked, bool isUnread) {
   auto* mark = marked.findChild<UnreadMark*>(QString(), Qt::FindDirectChildrenOnly);
   if (mark == nullptr && !isUnread) return;
@@ -107,13 +115,9 @@ UnreadMark::UnreadMark(QWidget& marked) : QWidget(&marked) {
   toPlace();
 }
 
-/// Beside what the marked widget says of itself without a description, its tip.
 void UnreadMark::describe() {
   QWidget& marked = *parentWidget();
-  const QString own = marked.toolTip();
-  const QString mean = own.isEmpty() ? meaning() : own + QStringLiteral(". ") + meaning();
-  const QString description = isVisibleTo(&marked) ? mean : QString();
-  if (description != marked.accessibleDescription()) marked.setAccessibleDescription(description);
+  describeUnread(marked, isVisibleTo(&marked));
 }
 
 /// The tip has been translated before.

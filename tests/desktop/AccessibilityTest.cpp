@@ -128,6 +128,12 @@ TEST_F(AccessibilityTest, MarkKeepsTheDescription) {
   EXPECT_EQ(reader(*find("cbMath")).text(QAccessible::Description),
             QStringLiteral("Sum or difference of the channels. The instrument has not told this "
                            "value"));
+  // The mark of a slide stands on its caption, which gets no focus.
+  main.slideTrig.trust = [] { return Trust::unread; };
+  main.slideTrig.notifyChanged();
+  EXPECT_TRUE(reader(*find("slideTrig"))
+                  .text(QAccessible::Description)
+                  .endsWith(QStringLiteral("The instrument has not told this value")));
 }
 
 /// Of each group one can be reached with Tab, and the arrow keys go round it.
