@@ -1236,6 +1236,10 @@
         <translation>Enregistreur</translation>
     </message>
     <message>
+        <source>Recorder's log: %1</source>
+        <translation>Journal de l'enregistreur : %1</translation>
+    </message>
+    <message>
         <source>Records along time</source>
         <translation>Enregistrements dans le temps</translation>
     </message>
@@ -1430,10 +1434,6 @@
     <message>
         <source>Stop the log</source>
         <translation>Arrêter le journal</translation>
-    </message>
-    <message>
-        <source>Stopped</source>
-        <translation>Arrêté</translation>
     </message>
     <message>
         <source>Stopped: press %1 to go on</source>

@@ -1236,6 +1236,10 @@
         <translation>Регистратор</translation>
     </message>
     <message>
+        <source>Recorder's log: %1</source>
+        <translation>Журнал регистратора: %1</translation>
+    </message>
+    <message>
         <source>Records along time</source>
         <translation>Записи по времени</translation>
     </message>
@@ -1430,10 +1434,6 @@
     <message>
         <source>Stop the log</source>
         <translation>Остановить журнал</translation>
-    </message>
-    <message>
-        <source>Stopped</source>
-        <translation>Остановлено</translation>
     </message>
     <message>
         <source>Stopped: press %1 to go on</source>

@@ -1236,6 +1236,10 @@
         <translation>记录仪</translation>
     </message>
     <message>
+        <source>Recorder's log: %1</source>
+        <translation>记录仪日志：%1</translation>
+    </message>
+    <message>
         <source>Records along time</source>
         <translation>按时间排列的记录</translation>
     </message>
@@ -1430,10 +1434,6 @@
     <message>
         <source>Stop the log</source>
         <translation>停止日志</translation>
-    </message>
-    <message>
-        <source>Stopped</source>
-        <translation>已停止</translation>
     </message>
     <message>
         <source>Stopped: press %1 to go on</source>

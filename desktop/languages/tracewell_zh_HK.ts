@@ -1236,6 +1236,10 @@
         <translation>記錄儀</translation>
     </message>
     <message>
+        <source>Recorder's log: %1</source>
+        <translation>記錄儀日誌：%1</translation>
+    </message>
+    <message>
         <source>Records along time</source>
         <translation>按時間排列嘅記錄</translation>
     </message>
@@ -1430,10 +1434,6 @@
     <message>
         <source>Stop the log</source>
         <translation>停止日誌</translation>
-    </message>
-    <message>
-        <source>Stopped</source>
-        <translation>停咗</translation>
     </message>
     <message>
         <source>Stopped: press %1 to go on</source>

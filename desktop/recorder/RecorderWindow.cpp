@@ -354,6 +354,8 @@ void RecorderWindow::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
   if (event->type() == QEvent::LanguageChange) {
     texts_.sayAgain();
+    // What it says of the past cannot be said again.
+    say({});
     bar_->sayAgain();
     tables_->sayAgain();
     logBar_->sayAgain();
