@@ -300,6 +300,10 @@ TEST_F(DrawingTest, ScalesStandAboveThePlotAndTheNoteInItsCorner) {
   marks.scales = {{1, std::string(100, 'W')}};
   graph.notifyChanged();
   EXPECT_FALSE(showsScales(1270));
+  QEvent leave(QEvent::Leave);
+  QApplication::sendEvent(view.findChild<QWidget*>(QStringLiteral("plot")), &leave);
+  QApplication::processEvents();
+  EXPECT_TRUE(seen(view, strip, ground).find(colourOf(1)).isValid());
 }
 
 TEST_F(DrawingTest, BadgeStandsBesideTheCursors) {
