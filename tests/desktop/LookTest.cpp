@@ -141,23 +141,21 @@ TEST_F(KnobLookTest, AClickBesideTheCapChoosesAndTheCapIsOnlyTakenHoldOf) {
   EXPECT_EQ(seen(knob).find(Qt::yellow).center(), ring.center());
 }
 
-/// In the middle of the cap, in another colour where it is no value, no more than one has.
-TEST_F(KnobLookTest, WhatIsTypedStandsOnTheCapUntilItIsTakenOrGivenUp) {
-  std::vector<int> widths;
-  for (int i = 0; i < 12; ++i) {
-    QTest::keyClick(&knob, i < 6 ? Qt::Key_7 : Qt::Key_X);
+/// In the middle of the cap, in another colour where it is no value.
+TEST_F(KnobLookTest, WhatIsTypedStandsOnTheCapUntilItIsGivenUp) {
+  const QColor isNone(0xe5, 0x53, 0x45);
+  for (const auto& [key, colour] :
+       {std::pair(Qt::Key_7, QColor(Qt::yellow)), {Qt::Key_X, isNone}}) {
+    QTest::keyClick(&knob, key);
     paint({300, 280}, 1);
-    const QRect frame = picture.find(i < 6 ? QColor(Qt::yellow) : QColor(0xe5, 0x53, 0x45));
-    expectNear(frame.center(), knob.centre(), 2);
+    const QRect frame = picture.find(colour);
     const QRect text = picture.find(Qt::blue, frame);
+    expectNear(frame.center(), knob.centre(), 2);
     expectNear(text.center(), frame.center(), 3);
-    EXPECT_TRUE(frame.adjusted(3, 3, -3, -3).contains(text));
-    widths.push_back(text.width());
+    EXPECT_TRUE(text.width() > 4 && frame.height() < 40 && frame.width() > 4 * text.width());
   }
-  for (std::size_t i = 1; i < widths.size(); ++i)
-    EXPECT_EQ(widths[i] > widths[i - 1] + 3, i < 9) << i;
   QTest::keyClick(&knob, Qt::Key_Escape);
-  EXPECT_TRUE(seen(knob).find(Qt::yellow).isEmpty());
+  EXPECT_TRUE(seen(knob).find(isNone).isEmpty());
 }
 
 class SlideLookTest : public LookTest, public testing::WithParamInterface<Qt::Orientation> {
@@ -268,13 +266,11 @@ TEST_F(LookTest, LampIsARoundLightInTheMiddle) {
   expectNear(disc.center(), {44, 29}, 1);
   EXPECT_NEAR(disc.width(), disc.height(), 1);
   EXPECT_TRUE(disc.height() > 52 && disc.height() < 60);
-  int before = 255;
-  for (const int out : {-5, 0, 8, 16, 22}) {
-    const int light = picture.picture.pixelColor(disc.center() + QPoint(out, out)).green();
-    EXPECT_LT(light, before);
-    before = light;
-  }
-  EXPECT_LT(before, 30);
+  const auto light = [&](int out) {
+    return picture.picture.pixelColor(disc.center() + QPoint(out, out)).green();
+  };
+  EXPECT_TRUE(light(-5) > light(0) && light(0) > light(8) && light(8) > light(16) &&
+              light(22) < 30);
 }
 
 /// In a square of 64 pixels, in the colour of the button's words.
@@ -355,12 +351,11 @@ TEST_F(LookTest, FramesSurroundWhatTheyBelongTo) {
   focus(window);
   const QRect ofTick = indicator(tick, QStyle::SE_CheckBoxIndicator);
   const QRect ofOption = indicator(option, QStyle::SE_RadioButtonIndicator);
-  for (QWidget* widget : widgets) {
+  const std::pair<QWidget*, QRect> frames[] = {{&tick, ofTick},          {&option, ofOption},
+                                               {&button, button.rect()}, {&line, line.rect()},
+                                               {&box, box.rect()},       {&bare, {}}};
+  for (const auto& [widget, frame] : frames) {
     SCOPED_TRACE(widget->metaObject()->className());
-    const QRect frame = widget == &tick     ? ofTick
-                        : widget == &option ? ofOption
-                        : widget == &bare   ? QRect()
-                                            : widget->rect();
     window.setFocus();
     EXPECT_EQ(seen(*widget).find(Qt::green), frame);
     widget->setFocus();

@@ -65,8 +65,7 @@ TEST_F(RecordStripTest, EachRecordStandsAtItsTimeFromItsLowestToItsHighestValue)
   const QRect two = barOf(wide, Qt::blue);
   // Channel 1 above channel 2, each in half of the height between pins and times.
   EXPECT_TRUE(one.top() < 18 && one.bottom() < two.top() && two.bottom() > 118);
-  EXPECT_NEAR(one.height(), two.height(), 1);
-  EXPECT_LT(two.top() - one.bottom(), 6);
+  EXPECT_TRUE(one.height() == two.height() && two.top() < one.bottom() + 6);
   EXPECT_NEAR(barOf(beyond, Qt::red).height(), one.height(), 2);
   for (const auto& [bar, lane, middle] :
        {std::tuple(barOf(low, Qt::red), one, 0.79), {barOf(high, Qt::blue), two, 0.21}}) {
@@ -75,10 +74,8 @@ TEST_F(RecordStripTest, EachRecordStandsAtItsTimeFromItsLowestToItsHighestValue)
   }
   EXPECT_LE(std::abs(one.center().x() - columnOf(whole)), 1);
   const Regions picture = seen(strip);
-  for (const QRect& lane : {one, two}) {
-    const QRect zero = picture.find(stripLook.grid, {0, lane.center().y() - 2, 1000, 5});
-    EXPECT_GT(zero.width(), 985);
-  }
+  for (const int zero : {one.center().y(), two.center().y()})
+    EXPECT_GT(picture.find(stripLook.grid, {0, zero - 2, 1000, 5}).width(), 985);
   view.show(1);
   EXPECT_GT(barOf(whole, Qt::red).height(), 100);
   EXPECT_TRUE(seen(strip).find(Qt::blue).isEmpty());
@@ -203,29 +200,17 @@ TEST_F(RecorderPartsTest, BarOffersWhatSuitsWhatIsDrawn) {
     bar.findChild<QComboBox*>(QLatin1String(name))->setCurrentIndex(entry);
   };
   const auto tick = [&](const char* name) {
-    auto& box = *bar.findChild<QCheckBox*>(QLatin1String(name));
-    box.click();
-    return box.isEnabled();
+    bar.findChild<QCheckBox*>(QLatin1String(name))->click();
+    return bar.findChild<QCheckBox*>(QLatin1String(name))->isEnabled();
   };
-  /// What is there, of boxes with their entries.
   const auto shown = [&] {
     QStringList names;
-    for (const QWidget* part : bar.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+    for (const QWidget* part : bar.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
       if (part->isVisibleTo(&bar)) names << part->objectName();
-      if (const auto* box = qobject_cast<const QComboBox*>(part); box && box->isVisibleTo(&bar))
-        for (int i = 0; i < box->count(); ++i) names.last() += '|' + box->itemText(i);
-    }
-    return fromQt(names.join(QLatin1Char('\n')));
+    return fromQt(names.join(QLatin1Char(' ')));
   };
-  const QSignalSpy chosen(&bar, &RecorderBar::chosen);
   const RecorderChoice& choice = view.choice;
-  const std::string first = "follow\nchannel|Both channels|CH1|CH2\nmode|Trace|X-Y" +
-                            std::string(hasSpectra() ? "|Spectrum" : "");
-  const std::string behind =
-      "\nbehind|This record alone|With the one before|With the last 5|With the last 20|With the "
-      "last 100";
-  const std::string last = "\ncursors|No cursors|Cursors across|Cursors up";
-  EXPECT_EQ(shown(), first + behind + "\nfading\nenvelope\nmean" + last);
+  EXPECT_EQ(shown(), "follow channel mode behind fading envelope mean cursors");
   EXPECT_FALSE(tick("mean"));
   choose("behind", 3);
   EXPECT_TRUE(tick("fading") && tick("envelope") && tick("mean"));
@@ -233,18 +218,15 @@ TEST_F(RecorderPartsTest, BarOffersWhatSuitsWhatIsDrawn) {
   choose("channel", 2);
   choose("mode", 1);
   choose("cursors", 2);
-  EXPECT_TRUE(view.channel() == 2 && choice.mode == RecorderMode::xy &&
-              cursors.kind == RecorderCursors::up);
-  EXPECT_EQ(shown(), first + last);
-  if (hasSpectra()) {
-    choose("mode", 2);
-    choose("window", 1);
-    choose("level", 1);
-    EXPECT_EQ(shown(), first + behind + "\nwindow|Hann|Flat top|No window\nlevel|dBV|V RMS" + last);
-    EXPECT_TRUE(choice.window == SpectrumShape::flatTop && !choice.isInDecibels);
-  }
+  EXPECT_TRUE(view.channel() == 2 && cursors.kind == RecorderCursors::up);
+  EXPECT_EQ(shown(), "follow channel mode cursors");
   EXPECT_TRUE(tick("follow") && !view.isFollowing());
-  EXPECT_EQ(chosen.size(), hasSpectra() ? 11 : 8);
+  if (!hasSpectra()) return;
+  choose("mode", 2);
+  choose("window", 1);
+  choose("level", 1);
+  EXPECT_EQ(shown(), "follow channel mode behind window level cursors");
+  EXPECT_TRUE(choice.window == SpectrumShape::flatTop && !choice.isInDecibels);
 }
 
 TEST_F(RecorderPartsTest, TablesSayWhatIsMeasured) {
