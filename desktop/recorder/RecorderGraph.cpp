@@ -129,6 +129,8 @@ RecorderGraph::RecorderGraph(QWidget* parent) : QWidget(parent), plot_(*new QCus
   }
   note_ = makeText(plot_, Qt::AlignLeft | Qt::AlignBottom);
   placeInCorner(*note_, 0.005, 0.99);
+  // Only then it is known where on the screen a peak is.
+  connect(&plot_, &QCustomPlot::afterLayout, this, &RecorderGraph::showLabels);
 }
 
 void RecorderGraph::setLook(const RecorderLook& look) {
@@ -189,7 +191,7 @@ void RecorderGraph::showPicture(const RecorderPicture& picture, const RecorderCu
   showCurves(picture);
   showXY(picture);
   showCursors(cursors, texts);
-  showLabels(picture);
+  peaks_ = picture.labels;
   note_->setColor(picture.mode == RecorderMode::spectrum ? RecorderLook::text : RecorderLook::gap);
   showNotes(picture.notes);
   plot_.replot(QCustomPlot::rpQueuedRefresh);
@@ -259,13 +261,13 @@ void RecorderGraph::showXY(const RecorderPicture& picture) {
 }
 
 /// Each peak has its number, and its line in the list of its channel.
-void RecorderGraph::showLabels(const RecorderPicture& picture) {
+void RecorderGraph::showLabels() {
   for (QCPItemText* label : labels_) label->setVisible(false);
   const QFontMetrics metrics(font());
   std::vector<QRectF> taken;
   std::array<QStringList, 2> lists;
-  for (std::size_t i = 0; i < picture.labels.size(); ++i) {
-    const auto& label = picture.labels[i];
+  for (std::size_t i = 0; i < peaks_.size(); ++i) {
+    const auto& label = peaks_[i];
     const auto channel = static_cast<std::size_t>(label.channel - 1);
     QStringList& list = lists.at(channel);
     const QString number = QString::number(list.size() + 1);

@@ -61,7 +61,7 @@ class RecorderGraph : public QWidget {
   void showCurves(const RecorderPicture& picture);
   void showCurve(std::size_t index, const RecorderCurve& curve, QCPAxis& axis, int ages);
   void showXY(const RecorderPicture& picture);
-  void showLabels(const RecorderPicture& picture);
+  void showLabels();
   void showPeakLists(const std::array<QStringList, 2>& lists);
   void showCursors(const RecorderCursors& cursors, const std::vector<std::string>& texts);
   void showNotes(const std::vector<std::string>& notes);
@@ -74,6 +74,7 @@ class RecorderGraph : public QWidget {
   RecorderLook look_;
   std::vector<QCPGraph*> graphs_;
   QCPCurve* curve_ = nullptr;
+  std::vector<RecorderPicture::Label> peaks_;
   std::vector<QCPItemText*> labels_;
   std::array<QCPItemLine*, 2> cursorLines_{};
   std::array<QCPItemText*, 2> cursorNames_{};

@@ -151,7 +151,6 @@ void RecorderWindow::sayTexts() {
   texts_.add([this] {
     setWindowTitle(panelText("Recorder") + QStringLiteral(" - Tracewell"));
     graph_->setAccessibleName(panelText("Graph of the record"));
-    graph_->setToolTip(QString());
     strip_->setAccessibleName(panelText("Records along time"));
     strip_->setToolTip(
         panelText("Click or drag: a record. Shift + drag: a stretch. Wheel: zoom. Arrow keys, Page "

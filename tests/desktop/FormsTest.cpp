@@ -124,17 +124,12 @@ TEST_F(FormsTest, WhatTheProgramSetsIsShown) {
   EXPECT_EQ(find<QLabel>("lblConnect")->text(), QStringLiteral("Stopped & idle"));
   EXPECT_EQ(find<QAbstractButton>("cmdStart")->text(), QStringLiteral("Run && stop"));
   EXPECT_TRUE(find<QAbstractButton>("cbCh2")->isChecked());
-  main.lblStatus.caption = "told";
-  const auto sign = [this] { return find("lblStatus")->grab(QRect(0, 0, 26, 16)).toImage(); };
-  const QImage plain = sign();
-  // The first sentence is no warning, the second one is.
-  main.lblStatus.sentences = {{"told", false}, {"look", true}};
-  main.lblStatus.caption = "told; look";
-  EXPECT_TRUE(sign() == plain);
-  const QImage both = find("lblStatus")->grab().toImage();
-  main.lblStatus.sentences = {{"told", false}, {"look", false}};
-  main.lblStatus.notifyChanged();
-  EXPECT_TRUE(find("lblStatus")->grab().toImage() != both);
+  const auto look = [this](bool isWarning) {
+    main.lblStatus.sentences = {{"told", isWarning}};
+    main.lblStatus.notifyChanged();
+    return find("lblStatus")->grab().toImage();
+  };
+  EXPECT_TRUE(look(true) != look(false));
   EXPECT_EQ(find<QPlainTextEdit>("txtMsg")->toPlainText(), QStringLiteral("1,2\n"));
   EXPECT_TRUE(takeWire().empty());
 }
@@ -154,6 +149,42 @@ TEST_F(FormsTest, CursorsFollowTheMouseAndTheArrowKeys) {
   const double before = cur1.xPosition();
   QTest::keyClick(view, Qt::Key_Left, Qt::ShiftModifier);
   EXPECT_EQ(cur1.xPosition(), before - 10);
+  // Up and down move level lines, C changes to the other one.
+  main.opVoltage.select();
+  const Cursor& cur2 = main.graphDSO.cursor("cur2");
+  double wanted = cur1.yPosition();
+  for (const auto& [key, way] :
+       {std::pair(Qt::Key_Up, 1), {Qt::Key_Down, -1}, {Qt::Key_Down, -1}}) {
+    QTest::keyClick(view, key);
+    EXPECT_EQ(cur1.yPosition(), wanted += way);
+  }
+  for (const Cursor* active : {&cur2, &std::as_const(cur1)}) {
+    QTest::keyClick(view, Qt::Key_C);
+    const double from = active->yPosition();
+    QTest::keyClick(view, Qt::Key_Up, Qt::ShiftModifier);
+    EXPECT_EQ(active->yPosition(), from + 10);
+  }
+  // Six pixels away it can still be taken hold of.
+  for (const int away : {6, 8}) {
+    const double from = cur1.yPosition();
+    const QPoint hold(20, qRound(1 + (200 - from) / 400 * (plot->height() - 2)) - away);
+    QTest::mousePress(plot, Qt::LeftButton, {}, hold);
+    QTest::mouseMove(plot, {20, plot->height() / 4});
+    EXPECT_EQ(cur1.yPosition() != from, away == 6);
+    QTest::mouseRelease(plot, Qt::LeftButton, {}, {20, plot->height() / 4});
+    QTest::mouseMove(plot, {20, plot->height() / 5});
+    EXPECT_TRUE(away == 6 ? std::fabs(cur1.yPosition() - 100) < 3 : cur1.yPosition() == from);
+  }
+  // E, Escape and a double click.
+  const std::tuple<std::function<void()>, bool> sizes[] = {
+      {[&] { QTest::keyClick(view, Qt::Key_E); }, true},
+      {[&] { QTest::keyClick(view, Qt::Key_Escape); }, false},
+      {[&] { QTest::keyClick(view, Qt::Key_Escape); }, false},
+      {[&] { QTest::mouseDClick(plot, Qt::LeftButton); }, true}};
+  for (const auto& [act, isEnlarged] : sizes) {
+    act();
+    EXPECT_EQ(main.graphDSO.enlarged(), isEnlarged);
+  }
   EXPECT_TRUE(main.graphDSO.axis("XAxis").caption().starts_with("P1 = "));
   // The marker of the trigger level stays where the instrument has it, and no key moves it.
   Cursor& marker = main.graphDSO.cursor("Triger");
