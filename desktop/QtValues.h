@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QColor>
+#include <QDir>
 #include <QString>
 #include <filesystem>
 #include <string>
@@ -27,8 +28,8 @@ inline QString toQt(const std::filesystem::path& path) {
 }
 
 inline std::filesystem::path toPath(const QString& text) {
-  const QByteArray bytes = text.toUtf8();
-  return std::filesystem::path(std::u8string(bytes.begin(), bytes.end())).make_preferred();
+  const QByteArray bytes = QDir::toNativeSeparators(text).toUtf8();
+  return std::u8string(bytes.begin(), bytes.end());
 }
 
 inline QColor toQt(const Colour& colour) {

@@ -26,7 +26,19 @@ PORT = 7
 PLACE = "Messung \u00dcn\u00eft\u00e9 \u6d4b"
 WINE = shutil.which("wine64") or "/usr/lib/wine/wine64"
 SERVER = shutil.which("wineserver") or "/usr/lib/wine/wineserver64"
-ADAPTERS = r"HKLM\System\CurrentControlSet\Enum\ROOT\PORTS"
+BUILTIN = pathlib.Path("/usr/lib/x86_64-linux-gnu/wine/x86_64-windows")
+# As little as a printer must say of itself.
+PRINTER = """*PPD-Adobe: "4.3"
+*LanguageLevel: "3"
+*DefaultPageSize: A4
+*PageSize A4/A4: "<</PageSize[595 842]/ImagingBBox null>>setpagedevice"
+*DefaultImageableArea: A4
+*ImageableArea A4/A4: "18 18 577 824"
+*DefaultPaperDimension: A4
+*PaperDimension A4/A4: "595 842"
+*DefaultFont: Courier
+*Font Courier: Standard "(002.004S)" Standard ROM
+"""
 FORMATS = ["wmf", "bmp", "gif", "Ico", "cur", "pcx", "tif", "png", "jpg"]
 NOBODY = 65534
 # On the screen, in a window as large as that; of the save window in the middle of it. The plot is without
@@ -34,7 +46,7 @@ NOBODY = 65534
 PLACES = {
     "frmDSO.plot": Place(40, 130, 760, 320, ""),
     "frmDSO.cmdRS232": Place(107, 60, 50, 24, ""),
-    **{f"frmSave.opFiletype_{i}": Place(882 + 121 * (i % 3), 179 + 28 * (i // 3), 14, 14, "") for i in range(9)},
+    **{f"frmSave.opFiletype_{i}": Place(882 + 121 * (i % 3), 177 + 25 * (i // 3), 14, 14, "") for i in range(9)},
     "frmSave.cmdOK": Place(1096, 655, 70, 24, ""),
 }
 
@@ -44,7 +56,7 @@ class Windows:
 
     def __init__(self, user=None):
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="tracewell-windows-"))
-        self.device = self.folder / "device"
+        self.device, self.page = self.folder / "device", self.folder / "page.ps"
         # Who may do everything is no test of what may not be done.
         self.as_user = []
         if user is not None and os.geteuid() == 0:
@@ -53,19 +65,47 @@ class Windows:
         self.environment = {**os.environ, "HOME": str(self.folder), "WINEPREFIX": str(self.folder / "wine"),
                             "WINEDEBUG": "-all", "WINEDLLOVERRIDES": "mscoree=;mshtml="}
         self.run("wineboot", "--init")
-        self.add(r"HKLM\Software\Wine\Ports", f"COM{PORT}", self.device)
-        for key, port, name in (("0000", PORT, "Pr\u00fcfplatz (COM7)"), ("0001", 78, "Bench")):
-            self.add(rf"{ADAPTERS}\{key}", "ClassGUID", "{4d36e978-e325-11ce-bfc1-08002be10318}")
-            self.add(rf"{ADAPTERS}\{key}", "FriendlyName", name)
-            self.add(rf"{ADAPTERS}\{key}\Device Parameters", "PortName", f"COM{port}")
+        drivers = self.folder / "wine/drive_c/windows/system32/spool/drivers/x64/3"
+        drivers.mkdir(parents=True, exist_ok=True)
+        shutil.copy(BUILTIN / "wineps.drv", drivers)
+        (drivers / "bench.ppd").write_text(PRINTER)
+        settings = self.folder / "settings.reg"
+        settings.write_text(self.settings(), encoding="utf-16")
+        self.run("reg", "import", settings)
         # The list of ports is made at its start.
         self.stop()
         place = self.folder / "wine/drive_c" / PLACE
         zipfile.ZipFile(PACKAGE).extractall(place)
         self.program = next(place.iterdir())
 
-    def add(self, key, value, text):
-        self.run("reg", "add", key, "/v", value, "/d", str(text), "/f")
+    def settings(self):
+        """A COM port, two adapters, a printer that prints into a file, a font for those of Windows."""
+        adapters = r"HKEY_LOCAL_MACHINE\System\CurrentControlSet\Enum\ROOT\PORTS"
+        printing = r"HKEY_LOCAL_MACHINE\System\CurrentControlSet\Control\Print"
+        users = r"HKEY_CURRENT_USER\Software\Microsoft\Windows NT\CurrentVersion"
+        ports = "{4d36e978-e325-11ce-bfc1-08002be10318}"
+        page = f"wineps.drv,{self.page}"
+        keys = {
+            r"HKEY_LOCAL_MACHINE\Software\Wine\Ports": {f"COM{PORT}": self.device},
+            rf"{adapters}\0": {"ClassGUID": ports, "FriendlyName": f"Pr\u00fcfplatz (COM{PORT})"},
+            rf"{adapters}\0\Device Parameters": {"PortName": f"COM{PORT}"},
+            rf"{adapters}\1": {"ClassGUID": ports, "FriendlyName": "Bench"},
+            rf"{adapters}\1\Device Parameters": {"PortName": "COM78"},
+            rf"{printing}\Environments\Windows x64\Drivers\Version-3\PS":
+                {"Driver": "wineps.drv", "Configuration File": "wineps.drv", "Data File": "bench.ppd"},
+            rf"{printing}\Printers\Bench":
+                {"Name": "Bench", "Printer Driver": "PS", "Port": self.page, "Print Processor": "winprint",
+                 "Datatype": "RAW", "Share Name": "", "Location": "", "Description": "", "Parameters": "",
+                 "Separator File": ""},
+            rf"{users}\Windows": {"Device": f"Bench,{page}"},
+            rf"{users}\Devices": {"Bench": page},
+            r"HKEY_CURRENT_USER\Software\Wine\Fonts\Replacements":
+                dict.fromkeys(["Segoe UI", "Tahoma", "MS Shell Dlg", "MS Shell Dlg 2"], "DejaVu Sans"),
+        }
+        lines = ["Windows Registry Editor Version 5.00"]
+        for key, values in keys.items():
+            lines += ["", f"[{key}]", *(f'"{name}"="{value}"' for name, value in values.items())]
+        return "\r\n".join([*lines, ""])
 
     def run(self, *command, **others):
         # Its server tells its life when it loses a line, and the line is a terminal.
@@ -232,6 +272,8 @@ class WindowsTest(SystemTestCase):
         self.shot("load")
         program.keys("Tab", "Tab", "Tab", "Tab", "space")
         program.closed("Load Waveform")
+        wait_for(lambda: any(red < 150 and green < 100 and blue > 200 for _, (red, green, blue)
+                             in self.screen.within(PLACES["frmDSO.plot"])), PATIENCE, "the loaded trace")
         self.shot("loaded")
 
         program.focus(program.window)
@@ -243,22 +285,41 @@ class WindowsTest(SystemTestCase):
         program.keys("ctrl+o")
         program.answer("Load DSO Setup file", "bench.dso")
         program.closed("Load DSO Setup file")
-        self.shot("other-setup")
         self.close(program)
         self.assertIn(b",None,9\r\n", program.setup.read_bytes())
+
+    def test_print(self):
+        program = self.started(0)
+        self.connect(program)
+        program.keys("ctrl+p")
+        page = self.windows.page
+        wait_for(lambda: page.exists() and b"%%EOF" in page.read_bytes(), PATIENCE, "the page")
+        content = page.read_bytes()
+        self.assertIn(b"%%Orientation: Landscape", content)
+        self.assertEqual(content.count(b"showpage"), 1)
+        self.assertGreater(content.count(b"lineto"), 500)
+        self.close(program)
 
     def test_two_at_once(self):
         self.instrument()
         first = self.started(0)
         self.connect(first)
         second = self.started(PORT)
-        program_of_both = second
-        self.connect(program_of_both)
+        self.connect(second)
         self.shot("two")
         self.close(second)
         first.focus(first.window)
         self.expect_live_trace(first)
-        self.close(first)
+        first.keys("ctrl+q")
+        first.focus(first.find("Tracewell"))
+        first.keys("Return")
+        kept = first.folder / "default.dso.bad"
+        wait_for(kept.exists, PATIENCE, "what the other one has kept")
+        first.focus(first.find("Tracewell"))
+        first.keys("Return")
+        self.assertEqual(first.process.wait(PATIENCE), 0)
+        self.assertIn(b",None,%d\r\n" % PORT, kept.read_bytes())
+        self.assertIn(b",None,0\r\n", first.setup.read_bytes())
 
     def test_chinese(self):
         program = WindowsProgram(self.windows, 0)
@@ -278,8 +339,7 @@ class WindowsTest(SystemTestCase):
         for name in ("\u00fcn \u6d4b.csv", "-"):
             ended = self.windows.run("tracewell-record.exe", *options, "--csv", name, cwd=to, stdout=subprocess.PIPE)
             written = ended.stdout if name == "-" else (to / name).read_bytes()
-            self.assertEqual(written.count(b"\r\n"), 5)
-            self.assertNotIn(b"\r\r", written)
+            self.assertEqual((written.count(b"\n"), written.count(b"\r")), (5, 0))
             rows = list(csv.DictReader(written.decode().splitlines()))
             self.assertEqual([row["channel"] for row in rows], ["1", "2", "1", "2"])
             self.assertAlmostEqual(float(rows[0]["freq (Hz)"]), 1000, delta=2)
