@@ -62,7 +62,7 @@ void placeInCorner(QCPItemText& text, double x, double y) {
   text.position->setCoords(x, y);
 }
 
-/// Above the place, else at its sides, else higher, where there is nothing yet; empty if nowhere.
+/// Above the place, else beside it, higher or lower, where there is nothing yet; empty if nowhere.
 QRectF roomBeside(const QPointF& place, const QSizeF& size, const QRectF& inside,
                   const std::vector<QRectF>& taken) {
   constexpr qreal gap = 5;
@@ -73,7 +73,8 @@ QRectF roomBeside(const QPointF& place, const QSizeF& size, const QRectF& inside
                              {-size.width() - gap, -size.height() - gap},
                              {-size.width() / 2, -2 * size.height() - gap},
                              {gap, gap},
-                             {-size.width() - gap, gap}};
+                             {-size.width() - gap, gap},
+                             {gap, size.height() + gap}};
   for (const QPointF& corner : corners) {
     const QRectF room(place + corner, size);
     const bool isFree =
