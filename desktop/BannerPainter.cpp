@@ -9,7 +9,7 @@ namespace {
 
 /// In heights of the letters.
 constexpr qreal signSize = 1.15;
-constexpr qreal padding = 0.6;
+constexpr qreal bannerPadding = 0.6;
 
 }  // namespace
 
@@ -37,7 +37,7 @@ void paintWeightSign(QPainter& painter, const QRectF& place, bool isWarning, con
 void paintBanner(QPainter& painter, const QRectF& room, const GraphMarks::Banner& banner,
                  const BannerColours& colours) {
   const QFontMetricsF metrics(painter.font());
-  const qreal gap = metrics.ascent() * padding;
+  const qreal gap = metrics.ascent() * bannerPadding;
   const qreal side = metrics.ascent() * signSize;
   const qreal taken = side + 3 * gap;
   const QString text =

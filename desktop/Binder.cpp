@@ -6,18 +6,16 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
-#include <QIcon>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
-#include <QPainter>
-#include <QPixmap>
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
+#include <QTimer>
 #include <QTreeWidget>
 
 #include "ButtonSigns.h"
@@ -90,16 +88,6 @@ void bind(Frame& control, QWidget& form) {
   if (control.copied) new CopyGestures(*box, [&control] { control.copy(); });
 }
 
-/// Its edge shows the colour of the button's ground, too.
-QIcon swatch(const QColor& colour) {
-  QPixmap picture(32, 16);
-  picture.fill(colour);
-  QPainter painter(&picture);
-  painter.setPen(QColor(0x80, 0x88, 0x90));
-  painter.drawRect(picture.rect().adjusted(0, 0, -1, -1));
-  return picture;
-}
-
 /// A button that nothing answers yet is out of reach rather than dead.
 void bind(Button& control, QWidget& form) {
   auto* button = findObject<QPushButton>(control, form);
@@ -109,7 +97,7 @@ void bind(Button& control, QWidget& form) {
     button->setText(shownCaption(control.caption()));
     button->setShortcut(shortcut);
     button->setEnabled(control.enabled() && control.click);
-    if (const auto colour = control.backColour()) button->setIcon(swatch(toQt(*colour)));
+    if (const auto colour = control.backColour()) showSwatch(*button, toQt(*colour));
   });
   QObject::connect(button, &QPushButton::clicked, button, [&control] { control.press(); });
 }
@@ -197,7 +185,7 @@ void bind(ComboBox& control, QWidget& form) {
   box->setInsertPolicy(QComboBox::NoInsert);
   // What is typed is meant: "3" is not the beginning of port 33.
   box->setCompleter(nullptr);
-  keepEditingKeys(*box->lineEdit());
+  keepEditingKeys(*box);
   if (box->property("opensMore").toBool()) takeOnKeys(*box, control);
   QObject::connect(box->lineEdit(), &QLineEdit::textEdited, box,
                    [&control](const QString& typed) { control.edit(fromQt(typed)); });
@@ -207,12 +195,20 @@ void bind(ComboBox& control, QWidget& form) {
   });
 }
 
+/// The last line is in sight once the box has its size.
+void showNewest(QPlainTextEdit& log) {
+  log.moveCursor(QTextCursor::End);
+  log.moveCursor(QTextCursor::StartOfLine);
+  QTimer::singleShot(0, &log, &QPlainTextEdit::ensureCursorVisible);
+}
+
 void bind(TextBox& control, QWidget& form) {
   if (auto* area = form.findChild<QPlainTextEdit*>(toQt(control.objectName()))) {
     showWith(control, area, [&control, area] {
       const bool isLog = area->property("newest").toBool();
       const QString text = (isLog ? shownEnd : shownText)(control.text(), roomOfPage);
       if (area->toPlainText() != text) area->setPlainText(text);
+      if (isLog) showNewest(*area);
     });
     new WholeTextCopy(*area);
     return;
@@ -270,6 +266,7 @@ void bind(Slide& control, QWidget& form) {
     showPale(*caption, control.isStale());
     // On the groove it would cover a place of the handle.
     UnreadMark::show(*caption, control.isUnread());
+    describeUnread(*slide, control.isUnread());
   });
   QObject::connect(slide, &SlideWidget::dragged, slide,
                    [&control](double to) { control.drag(to); });
@@ -298,6 +295,9 @@ void bind(ListBox& control, QWidget& form) {
       list->addItems(items);
     }
     list->setCurrentRow(control.chosen());
+    // As when the focus comes: keys go on from the first entry.
+    if (list->currentRow() < 0 && list->hasFocus())
+      list->setCurrentRow(0, QItemSelectionModel::NoUpdate);
   });
   QObject::connect(list, &QListWidget::itemClicked, list,
                    [&control, list] { control.choose(list->currentRow()); });

@@ -70,4 +70,16 @@ void showSign(QPushButton& button) {
   new SignOfTheme(button);
 }
 
+void showSwatch(QPushButton& button, const QColor& colour) {
+  constexpr QSize size(28, 14);
+  QPixmap picture(size);
+  picture.fill(colour);
+  QPainter painter(&picture);
+  painter.setPen(QColor(0x80, 0x88, 0x90));
+  painter.drawRect(picture.rect().adjusted(0, 0, -1, -1));
+  painter.end();
+  button.setIconSize(size);
+  button.setIcon(picture);
+}
+
 }  // namespace tracewell

@@ -10,4 +10,7 @@ namespace tracewell {
 /// the instrument itself.
 void showSign(QPushButton& button);
 
+/// A patch of the colour, with an edge that shows where it is that of the button's ground, too.
+void showSwatch(QPushButton& button, const QColor& colour);
+
 }  // namespace tracewell

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ElidedLabel.h"
 
+#include <QApplication>
 #include <QHelpEvent>
 #include <QPainter>
 #include <QToolTip>
@@ -38,6 +39,27 @@ int ElidedLabel::neededWidth() const {
   return width;
 }
 
+/// Letters of a fixed width take the most room.
+QFont ElidedLabel::fontThatFits() const {
+  constexpr int leastStretch = 70;
+  const int room = contentsRect().width();
+  if (!property("cell").toBool() || neededWidth() <= room) return font();
+  QFont narrow = QApplication::font();
+  narrow.setPixelSize(QFontInfo(font()).pixelSize());
+  // Letters of whole pixels do not become narrower by just what they should.
+  for (int stretch = 100; stretch >= leastStretch; stretch -= 6) {
+    narrow.setStretch(stretch);
+    if (QFontMetrics(narrow).horizontalAdvance(text()) <= room) break;
+  }
+  return narrow;
+}
+
+bool ElidedLabel::isCut() const {
+  const int room = contentsRect().width();
+  if (!sentences_.empty()) return neededWidth() > room;
+  return QFontMetrics(fontThatFits()).horizontalAdvance(text()) > room;
+}
+
 QRect ElidedLabel::paintSentence(QPainter& painter, const Sentence& sentence, QRect room) const {
   const qreal side = fontMetrics().ascent() * 1.15;
   // Of a sentence a few letters at least.
@@ -61,7 +83,8 @@ void ElidedLabel::paintEvent(QPaintEvent*) {
   drawFrame(&painter);
   QRect room = contentsRect();
   if (sentences_.empty()) {
-    const QString line = fontMetrics().elidedText(text(), Qt::ElideRight, room.width());
+    painter.setFont(fontThatFits());
+    const QString line = painter.fontMetrics().elidedText(text(), Qt::ElideRight, room.width());
     painter.drawText(room, static_cast<int>(alignment()) | Qt::TextSingleLine, line);
   }
   for (const Sentence& sentence : sentences_) {
@@ -72,8 +95,7 @@ void ElidedLabel::paintEvent(QPaintEvent*) {
 
 /// The whole text, where it is not to be seen.
 bool ElidedLabel::event(QEvent* event) {
-  const bool isElided = neededWidth() > contentsRect().width();
-  if (event->type() != QEvent::ToolTip || !isElided) return QLabel::event(event);
+  if (event->type() != QEvent::ToolTip || !isCut()) return QLabel::event(event);
   QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text(), this);
   return true;
 }

@@ -7,7 +7,8 @@
 namespace tracewell {
 
 /// A line of text that ends in "…" if its room is too small; its tip is then the whole text. Where
-/// the text is told as sentences, a sign in front of each shows its weight.
+/// the text is told as sentences, a sign in front of each shows its weight. The cell of a table has
+/// narrower letters before it is cut: a value without its unit is worse than none.
 class ElidedLabel : public QLabel {
   Q_OBJECT
   Q_PROPERTY(QColor warningColour MEMBER warningColour_)
@@ -26,6 +27,8 @@ class ElidedLabel : public QLabel {
   /// Together they are the label's text. They are painted from the left, the first one before the
   /// others.
   void setSentences(const std::vector<Sentence>& sentences);
+  /// Something of it is not to be seen.
+  bool isCut() const;
 
  protected:
   bool event(QEvent* event) override;
@@ -35,6 +38,7 @@ class ElidedLabel : public QLabel {
   int signWidth() const;
   int gapWidth() const;
   int neededWidth() const;
+  QFont fontThatFits() const;
   /// Returns what is left of the room; none where the sentence was cut.
   QRect paintSentence(QPainter& painter, const Sentence& sentence, QRect room) const;
 

@@ -72,7 +72,7 @@ void onEnter(QObject* watched, const std::function<void()>& action) {
 }
 
 void takeOnKeys(QComboBox& box, const ComboBox& control) {
-  new EventWatch(box.lineEdit(), [&box, &control](const QEvent& event) {
+  new EventWatch(&box, [&box, &control](const QEvent& event) {
     if (event.type() != QEvent::KeyPress) return false;
     const int key = static_cast<const QKeyEvent&>(event).key();
     const bool isEnter = key == Qt::Key_Return || key == Qt::Key_Enter;
@@ -84,7 +84,7 @@ void takeOnKeys(QComboBox& box, const ComboBox& control) {
   });
 }
 
-void keepEditingKeys(QLineEdit& line) {
+void keepEditingKeys(QWidget& line) {
   new EventWatch(&line, [](QEvent& event) {
     if (event.type() != QEvent::ShortcutOverride) return false;
     const auto& key = static_cast<QKeyEvent&>(event);

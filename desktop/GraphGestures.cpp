@@ -40,7 +40,8 @@ std::optional<std::size_t> GraphGestures::cursorAt(const QPointF& position) cons
     const qreal distance = cursor.style() == CursorStyle::verticalLine
                                ? position.x() - plot_.xAxis->coordToPixel(cursor.xPosition())
                                : position.y() - plot_.yAxis->coordToPixel(cursor.yPosition());
-    if (cursor.visible() && std::fabs(distance) <= grip) return i;
+    const bool isForUser = cursor.visible() && cursor.style() != CursorStyle::marker;
+    if (isForUser && std::fabs(distance) <= grip) return i;
   }
   return std::nullopt;
 }

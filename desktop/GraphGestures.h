@@ -49,7 +49,7 @@ class GraphGestures : public QObject {
   void dragTo(const QPointF& position);
   void step(const QPointF& units);
   void showPointerShape(const QPointF& position);
-  /// The number of the cursor there, from 0.
+  /// The number of the cursor there, from 0; the marker of the trigger level is none.
   std::optional<std::size_t> cursorAt(const QPointF& position) const;
   QPointF toUnits(const QPointF& position) const;
 

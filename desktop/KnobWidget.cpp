@@ -2,17 +2,15 @@
 #include "KnobWidget.h"
 
 #include <QKeyEvent>
-#include <QMap>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QRadialGradient>
-#include <QRegularExpression>
 #include <QWheelEvent>
 #include <cmath>
 #include <numbers>
-#include <optional>
 
 #include "Accessible.h"
+#include "KnobValues.h"
 #include "TextGrowth.h"
 
 namespace tracewell {
@@ -26,40 +24,12 @@ constexpr int mostCaptions = 12;
 /// Of the captions: pixels, and of the size of the panel's text.
 constexpr int leastPixels = 9;
 constexpr qreal captionShare = 0.78;
+/// Around what is typed as long as it is no value.
+const QColor noValue(0xe5, 0x53, 0x45);
 /// Below the cap.
 constexpr qreal roomOfMark = 18;
-/// Longer is no value.
-constexpr int mostTyped = 6;
-
-/// A number and what stands behind it: "20m", ".5", "1V". What is no prefix is the unit.
-struct Value {
-  double number = 0;
-  /// A power of ten; none where nothing says so.
-  std::optional<int> exponent;
-};
-
-Value valueOf(const QString& text) {
-  static const QRegularExpression form(QStringLiteral("^([0-9]*\\.?[0-9]*)(.*)$"));
-  static const QMap<QString, int> exponents = {{QStringLiteral("n"), -9},
-                                               {QStringLiteral("u"), -6},
-                                               {QStringLiteral("m"), -3},
-                                               {QStringLiteral("v"), 0},
-                                               {QStringLiteral("s"), 0}};
-  const QRegularExpressionMatch parts = form.match(text.toLower());
-  Value value;
-  value.number = parts.captured(1).toDouble();
-  const auto unit = exponents.constFind(parts.captured(2).left(1));
-  if (unit != exponents.cend()) value.exponent = *unit;
-  return value;
-}
-
-/// Decades between two values, where the second may stand for any thousandth part if it names no
-/// unit.
-double distanceOf(const Value& detent, const Value& typed) {
-  const double decades =
-      std::log10(detent.number) + detent.exponent.value_or(0) - std::log10(typed.number);
-  return std::fabs(typed.exponent ? decades - *typed.exponent : std::remainder(decades, 3));
-}
+/// Longer is no value: "100.00 mV".
+constexpr int mostTyped = 9;
 
 /// A point at that angle, at a distance of 1.
 QPointF directionOf(qreal angle) {
@@ -90,7 +60,7 @@ void KnobWidget::setValue(double value) {
 }
 
 QString KnobWidget::inWords() const {
-  const Value value = valueOf(captions_[value_]);
+  const KnobValue value = captionValue(captions_[value_]);
   if (unit_.isEmpty() || value.number <= 0) return captions_[value_];
   static const QStringList prefixes = {QStringLiteral("n"), QStringLiteral("\u00b5"),
                                        QStringLiteral("m"), QString()};
@@ -227,9 +197,12 @@ void KnobWidget::paintTyped(QPainter& painter) {
   QFont bold = font();
   bold.setBold(true);
   painter.setFont(bold);
-  const QSizeF size(radius() * 1.5, painter.fontMetrics().height() + 6);
+  const QFontMetrics metrics = painter.fontMetrics();
+  const qreal width = qMax(radius() * 1.5, metrics.horizontalAdvance(typed_) + 10.0);
+  const QSizeF size(width, metrics.height() + 6);
   const QRectF place(centre() - QPointF(size.width(), size.height()) / 2, size);
-  painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+  const bool isValue = typedValue(typed_, unit_).has_value();
+  painter.setPen(QPen(isValue ? palette().color(QPalette::Highlight) : noValue, 2));
   painter.setBrush(palette().color(QPalette::Base));
   painter.drawRoundedRect(place, 3, 3);
   painter.setPen(palette().color(QPalette::Text));
@@ -299,38 +272,24 @@ void KnobWidget::setTyped(const QString& typed) {
   update();
 }
 
-int KnobWidget::typedDetent() const {
-  const Value typed = valueOf(typed_);
-  // Rounding must not decide which of two equal ones is nearer.
-  constexpr double same = 1e-6;
-  int nearest = value_;
-  double smallest = distanceOf(valueOf(captions_[value_]), typed);
-  for (int detent = 0; detent < captions_.size(); ++detent) {
-    const double distance = distanceOf(valueOf(captions_[detent]), typed);
-    const bool isSame = std::fabs(distance - smallest) < same;
-    const bool isCloser = isSame && qAbs(detent - value_) < qAbs(nearest - value_);
-    if (distance < smallest - same || isCloser) nearest = detent;
-    smallest = qMin(smallest, distance);
-  }
-  return nearest;
-}
-
 bool KnobWidget::takeTyped(const QKeyEvent& event) {
   const QString text = event.text();
   const bool isEmpty = typed_.isEmpty();
-  const bool isDigit = text.size() == 1 && (text[0].isDigit() || text[0] == QLatin1Char('.'));
-  const bool isUnit =
-      !isEmpty && text.size() == 1 && QStringLiteral("numsvNUMSV").contains(text[0]);
-  if (isDigit || isUnit) {
+  const bool isBeginning =
+      text.size() == 1 && (text[0].isDigit() || QStringLiteral(".,-").contains(text[0]));
+  const bool isMore = !isEmpty && text.size() == 1 && text[0].isPrint();
+  if (isBeginning || isMore) {
     if (typed_.size() < mostTyped) setTyped(typed_ + text);
     return true;
   }
   if (isEmpty) return false;
+  const auto typed = typedValue(typed_, unit_);
   switch (event.key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-      if (valueOf(typed_).number > 0) turnTo(typedDetent());
+      if (!typed) return true;
       setTyped({});
+      turnTo(nearestCaption(captions_, *typed, value_));
       return true;
     case Qt::Key_Escape:
       setTyped({});

@@ -64,9 +64,6 @@ class KnobWidget : public QWidget {
   /// Takes a key of a typed value. False for any other key.
   bool takeTyped(const QKeyEvent& event);
   void setTyped(const QString& typed);
-  /// The detent nearest to the typed value; of several that read the same, the one nearest to the
-  /// present.
-  int typedDetent() const;
   void paintTyped(QPainter& painter);
   /// The factor by which it is drawn larger than usual, captions included.
   qreal scale() const;
@@ -102,7 +99,8 @@ class KnobWidget : public QWidget {
   int value_ = 0;
   QPointF centre_;
   qreal radius_ = 0;
-  /// The typed text, shown on the cap until Enter takes it or it is given up.
+  /// The typed text, shown on the cap until Enter takes it or it is given up. Enter leaves it where
+  /// it is no value.
   QString typed_;
   WheelTravel wheel_;
   /// State of a drag: its first detent, the last angle, and degrees turned to the right.

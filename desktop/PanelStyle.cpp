@@ -66,4 +66,16 @@ void PanelStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
   if (control == CC_ComboBox) outline(*painter, *option);
 }
 
+int PanelStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                          QStyleHintReturn* more) const {
+  if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+  return QProxyStyle::styleHint(hint, option, widget, more);
+}
+
+void PanelStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                             const QWidget* widget) const {
+  QProxyStyle::drawControl(element, option, painter, widget);
+  if (element == CE_ScrollBarSlider) outline(*painter, *option);
+}
+
 }  // namespace tracewell

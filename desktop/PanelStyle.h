@@ -6,7 +6,7 @@
 namespace tracewell {
 
 /// Fusion, whose outlines are shades of the window's colour and vanish on a dark panel: boxes that
-/// can be ticked, chosen, typed into and pressed are outlined in the palette's Mid.
+/// can be ticked, chosen, typed into, pressed and scrolled with are outlined in the palette's Mid.
 class PanelStyle : public QProxyStyle {
   Q_OBJECT
 
@@ -17,6 +17,11 @@ class PanelStyle : public QProxyStyle {
                      const QWidget* widget) const override;
   void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                           QPainter* painter, const QWidget* widget) const override;
+  /// Buttons of boxes have no icons, as all others.
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* more) const override;
+  void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                   const QWidget* widget) const override;
 };
 
 }  // namespace tracewell

@@ -90,10 +90,10 @@ void QtSerialChannel::watch(QSerialPort::SerialPortError error) {
   if (error == QSerialPort::NoError || error == QSerialPort::TimeoutError) return;
   // The library also calls it an error when the event loop has it read what was read meanwhile. It
   // may have stopped listening then, until it is read from.
-  const bool isOfWriting = error == QSerialPort::WriteError;
-  if (!isOfWriting && port_.isOpen() && isThere(port_.handle())) return fetch();
-  // The system's own words are often about something else.
-  fail(QStringLiteral("the device is gone (%1)").arg(port_.errorString()));
+  const bool isPresent = port_.isOpen() && isThere(port_.handle());
+  if (isPresent && error != QSerialPort::WriteError) return fetch();
+  // The system's own words for what is gone are about something else.
+  fail(isPresent ? port_.errorString() : QStringLiteral("the device is gone"));
 }
 
 }  // namespace tracewell

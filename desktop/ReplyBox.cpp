@@ -17,10 +17,9 @@ class ReplyBox::Rows : public QPlainTextDocumentLayout {
       : QPlainTextDocumentLayout(&document), box_(box) {}
 
   QRectF blockBoundingRect(const QTextBlock& block) const override {
-    if (isAllWanted() || block.layout()->lineCount() > 0)
-      return QPlainTextDocumentLayout::blockBoundingRect(block);
     QTextBlock paragraph = block;
-    layOut(paragraph);
+    if (block.layout()->lineCount() == 0 && (!isAllWanted() || isOfNumbers(block.text())))
+      layOut(paragraph, isAllWanted() ? endless : box_.viewport()->height());
     return QPlainTextDocumentLayout::blockBoundingRect(block);
   }
 
@@ -31,11 +30,13 @@ class ReplyBox::Rows : public QPlainTextDocumentLayout {
     for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
       if (isWhole(block)) continue;
       block.clearLayout();
-      QPlainTextDocumentLayout::blockBoundingRect(block);
+      layOut(block, endless);
     }
   }
 
  private:
+  static constexpr qreal endless = 1e9;
+
   /// A screen reader may ask for the place of any character.
   bool isAllWanted() const { return box_.hasFocus() || QAccessible::isActive(); }
 
@@ -49,19 +50,28 @@ class ReplyBox::Rows : public QPlainTextDocumentLayout {
     return block.layout()->lineCount() == 0 || laidOut(block) >= block.length() - 1;
   }
 
-  void layOut(QTextBlock& block) const {
+  /// A row more than fill that height says that the text goes on.
+  void layOut(QTextBlock& block, qreal height) const {
     const qreal margin = document()->documentMargin();
+    const qreal width = box_.viewport()->width() - 2 * margin;
+    const QString text = block.text();
+    const bool hasNumbers = isOfNumbers(text);
+    const int columns = columnsOf(width);
+    QTextOption option = document()->defaultTextOption();
+    if (hasNumbers) option.setWrapMode(QTextOption::WrapAnywhere);
     QTextLayout& rows = *block.layout();
-    rows.setTextOption(wrappingOf(block));
+    rows.setTextOption(option);
     // Else the letters are measured anew for the cursor, and once more to be painted.
     rows.setCacheEnabled(true);
     rows.beginLayout();
-    // The row behind the last one that can be seen says that the text goes on.
-    for (qreal y = 0; y <= box_.viewport()->height();) {
+    for (qreal y = 0; y <= height;) {
       QTextLine row = rows.createLine();
       if (!row.isValid()) break;
       row.setLeadingIncluded(true);
-      row.setLineWidth(box_.viewport()->width() - 2 * margin);
+      if (hasNumbers)
+        row.setNumColumns(wholeNumbers(text, row.textStart(), columns), width);
+      else
+        row.setLineWidth(width);
       row.setPosition(QPointF(margin, y));
       y += row.height();
     }
@@ -69,17 +79,24 @@ class ReplyBox::Rows : public QPlainTextDocumentLayout {
     count(block);
   }
 
-  /// Numbers with commas between them are one word, whose end would be looked for at each row.
-  QTextOption wrappingOf(const QTextBlock& block) const {
-    QTextOption option = document()->defaultTextOption();
-    const auto isOfNumber = [](QChar character) {
+  /// Numbers with commas between them are one word to the toolkit, which breaks it anywhere.
+  static bool isOfNumbers(const QString& text) {
+    return std::ranges::all_of(text, [](QChar character) {
       return (character >= '0' && character <= '9') || character == ',' || character == '-';
-    };
-    const QString text = block.text();
-    if (option.wrapMode() == QTextOption::WrapAtWordBoundaryOrAnywhere &&
-        std::ranges::all_of(text, isOfNumber))
-      option.setWrapMode(QTextOption::WrapAnywhere);
-    return option;
+    });
+  }
+
+  /// Letters of a fixed width side by side.
+  int columnsOf(qreal width) const {
+    const qreal letter = QFontMetricsF(document()->defaultFont()).horizontalAdvance('0');
+    return std::max(1, static_cast<int>(width / letter));
+  }
+
+  /// How many letters from there on end in a comma and are not more than `columns`.
+  static int wholeNumbers(const QString& text, int start, int columns) {
+    if (start + columns >= text.size()) return columns;
+    const qsizetype comma = text.lastIndexOf(QLatin1Char(','), start + columns - 1);
+    return comma < start ? columns : static_cast<int>(comma) - start + 1;
   }
 
   void count(QTextBlock& block) const {

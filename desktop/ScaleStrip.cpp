@@ -12,7 +12,7 @@ namespace {
 
 /// In heights of the font.
 constexpr qreal lineHeight = 1.75;
-constexpr qreal padding = 0.7;
+constexpr qreal stripPadding = 0.7;
 constexpr qreal gapOfScales = 1.6;
 constexpr qreal gapOfValues = 1;
 /// The values change all the time and are looked at from near.
@@ -77,7 +77,7 @@ void ScaleStrip::paintEvent(QPaintEvent*) {
   if (graph_ == nullptr) return;
   QPainter painter(this);
   painter.fillRect(rect(), toQt(graph_->plotAreaColour()));
-  const qreal edge = font().pixelSize() * padding;
+  const qreal edge = font().pixelSize() * stripPadding;
   const QFont small = valueFont(font());
   const qreal ofScales = widthOf(scales_, font());
   const qreal ofValues = widthOf(values_, small);

@@ -21,6 +21,8 @@ namespace tracewell {
 namespace {
 
 constexpr int side = 13;
+/// Between words and mark.
+constexpr int gap = 3;
 /// As pale as text can be and still be read; on a button less so than on a panel.
 constexpr qreal paleOpacity = 0.7;
 constexpr qreal paleButtonOpacity = 0.9;
@@ -40,12 +42,22 @@ void makeRoom(QLabel& label, bool isMarked) {
   if (font.letterSpacing() != label.font().letterSpacing()) label.setFont(font);
 }
 
+/// Between the mark and the end of a button, which may be round.
+int edgeOf(const QPushButton& button) {
+  return button.property("lock").toBool() ? 6 : 3;
+}
+
 /// Beside the text, and in the same place when it is there again.
 void makeRoom(QWidget& marked, bool isMarked) {
   if (auto* line = qobject_cast<QLineEdit*>(&marked))
     line->setTextMargins(0, 0, isMarked ? UnreadMark::room : 0, 0);
-  else if (qobject_cast<QAbstractButton*>(&marked) != nullptr ||
-           qobject_cast<QComboBox*>(&marked) != nullptr)
+  else if (auto* button = qobject_cast<QPushButton*>(&marked)) {
+    // Its words stay in the middle.
+    constexpr int padding = 7;
+    const int behind = side + edgeOf(*button) + gap;
+    button->setMinimumWidth(button->sizeHint().width() + 2 * (behind - padding));
+  } else if (qobject_cast<QAbstractButton*>(&marked) != nullptr ||
+             qobject_cast<QComboBox*>(&marked) != nullptr)
     marked.setMinimumWidth(marked.sizeHint().width() + UnreadMark::room);
 }
 
@@ -75,6 +87,14 @@ void showPale(QWidget& widget, bool isPale) {
   widget.setGraphicsEffect(effect);
 }
 
+/// Beside what it says of itself without a description, its tip.
+void describeUnread(QWidget& widget, bool isUnread) {
+  const QString own = widget.toolTip();
+  const QString mean = own.isEmpty() ? meaning() : own + QStringLiteral(". ") + meaning();
+  const QString description = isUnread ? mean : QString();
+  if (description != widget.accessibleDescription()) widget.setAccessibleDescription(description);
+}
+
 void UnreadMark::show(QWidget& marked, bool isUnread) {
   auto* mark = marked.findChild<UnreadMark*>(QString(), Qt::FindDirectChildrenOnly);
   if (mark == nullptr && !isUnread) return;
@@ -95,13 +115,9 @@ UnreadMark::UnreadMark(QWidget& marked) : QWidget(&marked) {
   toPlace();
 }
 
-/// Beside what the marked widget says of itself without a description, its tip.
 void UnreadMark::describe() {
   QWidget& marked = *parentWidget();
-  const QString own = marked.toolTip();
-  const QString mean = own.isEmpty() ? meaning() : own + QStringLiteral(". ") + meaning();
-  const QString description = isVisibleTo(&marked) ? mean : QString();
-  if (description != marked.accessibleDescription()) marked.setAccessibleDescription(description);
+  describeUnread(marked, isVisibleTo(&marked));
 }
 
 /// The tip has been translated before.
@@ -139,8 +155,8 @@ void UnreadMark::toPlace() {
     move(knob->gap().toPoint() - rect().center());
   else if (qobject_cast<const QComboBox*>(&marked) != nullptr)
     move(right - arrow, middle);
-  else if (qobject_cast<const QPushButton*>(&marked) != nullptr)
-    move(right - frame, middle);
+  else if (const auto* button = qobject_cast<const QPushButton*>(&marked))
+    move(right - edgeOf(*button), middle);
   else if (qobject_cast<const QAbstractButton*>(&marked) != nullptr)
     move(std::min(right, marked.sizeHint().width() + 2), middle);
   else if (auto* label = qobject_cast<QLabel*>(&marked)) {

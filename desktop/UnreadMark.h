@@ -28,6 +28,9 @@ class UnreadMark : public QWidget {
   void describe();
 };
 
+/// Has screen readers say what the mark says, where that stands on another widget.
+void describeUnread(QWidget& widget, bool isUnread);
+
 /// Dims a widget whose value belongs to something that is gone, or shows it normally.
 void showPale(QWidget& widget, bool isPale);
 

@@ -124,8 +124,12 @@ void frmLoad::cmdOK_Click() {
   try {
     drawSet(readWaveforms(readWaveformFile(pathOf(dataPath_)), channel1Value_, channel2Value_));
     hide();
-  } catch (const Error&) {
-    // Says nothing, and the window stays for another choice.
+  } catch (const Error& error) {
+    // Without a box: the window stays for another choice.
+    main_.status.tell(StatusLine::failed,
+                      [path = dataPath_, reason = error.description()](const Words& words) {
+                        return words.say("%1 was not loaded: %2", {path, reason});
+                      });
   }
 }
 
@@ -152,7 +156,9 @@ void frmLoad::drawSet(const LoadedWaveforms& set) {
 }
 
 void frmLoad::sayWhatIsShown(std::size_t drawn, bool hasRoom) {
-  main_.status.tell(StatusLine::happened, [=, this, path = dataPath_](const Words& words) {
+  const bool isDone = hasRoom && drawn > 0;
+  main_.status.tell(isDone ? StatusLine::happened : StatusLine::failed, [=, this, path = dataPath_](
+                                                                            const Words& words) {
     if (!hasRoom)
       return words.say("No room for all of %1: press %2 first", {path, main_.cmdRemove.caption()});
     return drawn == 0 ? words.say("%1 has no record of what was chosen", {path})

@@ -28,6 +28,8 @@ Inquiry::Inquiry(Inquiries& all, const std::string& question)
 Inquiry::~Inquiry() {
   finishItem();
   all_.current_ = outer_;
+  // Nor is there an answer to what is left out because of that.
+  if (missing_ > 0 && items_ == Of::questions) missing_ = count_ - answered_;
   if (missing_ > 0) showMissed();
   if (outer_ != nullptr)
     outer_->showProgress();
@@ -64,7 +66,9 @@ void Inquiry::next() {
 }
 
 void Inquiry::finishItem() {
-  if (std::exchange(isMissing_, false)) ++missing_;
+  const std::optional<bool> isAnswered = std::exchange(isAnswered_, std::nullopt);
+  if (!isAnswered) return;
+  ++(*isAnswered ? answered_ : missing_);
 }
 
 std::string Inquiry::progress(const Words& words) const {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "StandBy.h"
@@ -48,7 +49,7 @@ class Inquiry {
   /// The next item begins.
   void next();
   /// How an exchange for the present item ended; of several the last one counts.
-  void note(bool isAnswered) { isMissing_ = !isAnswered; }
+  void note(bool isAnswered) { isAnswered_ = isAnswered; }
   /// The user does not want to wait any longer.
   bool isGivenUp() const { return waits_.isGivenUp(); }
 
@@ -72,7 +73,9 @@ class Inquiry {
   int missing_ = 0;
   /// Of the items before the present one.
   int missedBefore_ = 0;
-  bool isMissing_ = false;
+  int answered_ = 0;
+  /// None where nothing of the present item has been asked.
+  std::optional<bool> isAnswered_;
   Inquiry* outer_;
 };
 

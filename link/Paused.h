@@ -12,7 +12,7 @@ class Paused {
  public:
   /// The banner calls it by `caption`.
   Paused(frmDSO& main, Acquisition& acquisition, const Property<std::string>& caption)
-      : main_(main), acquisition_(acquisition), pause_(main, sayPaused(caption)) {
+      : main_(main), acquisition_(acquisition), pause_(main, sayPaused(main, caption)) {
     main.status.withdraw(StatusLine::happened);
     acquisition_.StopAcq();
   }

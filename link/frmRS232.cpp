@@ -34,12 +34,12 @@ void frmRS232::listPorts() {
   cbRS232(portValue).items = numbers;
 }
 
-/// No device for a text that is no port number; OK is where that is an error.
+/// OK is where a text that is no port number is an error.
 void frmRS232::showDevice(const std::string& typed) {
   try {
     lblDevice.caption = deviceAndState(toInt16(typed));
   } catch (const Error&) {
-    lblDevice.caption = "";
+    lblDevice.caption = typed.empty() ? "" : services().words.say("There is no such port");
   }
 }
 

@@ -21,14 +21,13 @@ void SettingsDialog::doubtAnswers() {
 void SettingsDialog::edit(Fetching fetching, const Step& fill, const Step& send) {
   // Otherwise it would send what was chosen the time before.
   if (isVisible()) return;
-  const auto say = fetching == Fetching::stops ? sayPaused : sayBusy;
   std::optional<Doing> doing;
-  doing.emplace(main_, say(caption));
+  doing.emplace(main_, fetching == Fetching::stops ? sayPaused(main_, caption) : sayBusy(caption));
   if (fetching == Fetching::stops) acquisition_.StopAcq();
   fill();
   if (fetching == Fetching::goesOn) doing.reset();
   showModal();
-  if (fetching == Fetching::goesOn) doing.emplace(main_, say(caption));
+  if (fetching == Fetching::goesOn) doing.emplace(main_, sayBusy(caption));
   if (outcome == Outcome::accepted) send();
   acquisition_.runAcquisition();
 }

@@ -10,6 +10,7 @@ frmAbout::frmAbout(frmDSO& main) : Window("frmAbout", "About Tracewell", main.se
 
 void frmAbout::mnbAbout_Click() {
   caption = services().words.say("About Tracewell");
+  cmdOK.caption = services().words.say("OK");
   showModal();
 }
 

@@ -32,6 +32,14 @@ inline std::string contentOf(const std::filesystem::path& path) {
 /// Number and description; empty where there was none.
 std::string errorOf(const std::function<void()>& action);
 
+/// Trials have fewer steps where a sanitizer makes each of them slow; the optimised build goes all
+/// of them.
+#ifdef TRACEWELL_SANITIZED
+inline constexpr int stepsShare = 4;
+#else
+inline constexpr int stepsShare = 1;
+#endif
+
 /// Processor time, which a busy machine does not stretch, and memory at its peak; a sanitizer is
 /// allowed ten times as much.
 void expectCheap(const std::function<void()>& action, double seconds = 1, long megabytes = 200);

@@ -77,7 +77,7 @@ void Measurements::cmdVMeasure_Click() {
 }
 
 void Measurements::chooseAndMeasure() {
-  const Doing pause(main_, sayPaused(selection_.caption));
+  const Doing pause(main_, sayPaused(main_, selection_.caption));
   acquisition_.StopAcq();
   selection_.showFlags();
   selection_.showModal();

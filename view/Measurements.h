@@ -21,7 +21,7 @@ class Measurements {
   Measurements(frmDSO& main, CommandExchange& exchange, ErrorLog& errorLog,
                Acquisition& acquisition, frmVMeasure& selection, frmFMeasure& quickSelection);
 
-  /// While a measurement is under way none of the three does anything.
+  /// While a measurement is under way no other one begins.
   ///
   /// Stops the acquisition, has the user choose, measures, and leaves the acquisition stopped. Logs
   /// its failure, as the next one does.

@@ -16,7 +16,7 @@ constexpr std::size_t firstChannelName = 10;
 
 void PagePrinting::cmdPrint_Click() {
   try {
-    const Doing pause(main_, sayPaused(main_.cmdPrint.caption));
+    const Doing pause(main_, sayPaused(main_, main_.cmdPrint.caption));
     acquisition_.StopAcq();
     main_.services().printer.printPage(page());
     if (const StatusLine::Sentence others = scalesNotOfTraces(main_))

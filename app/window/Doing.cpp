@@ -3,7 +3,8 @@
 
 namespace tracewell {
 
-StatusLine::Sentence sayPaused(const Property<std::string>& caption) {
+StatusLine::Sentence sayPaused(const frmDSO& main, const Property<std::string>& caption) {
+  if (!main.tmDSO.enabled()) return {};
   return [&caption](const Words& words) { return words.say("Traces paused for %1", {caption()}); };
 }
 

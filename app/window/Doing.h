@@ -7,11 +7,12 @@
 
 namespace tracewell {
 
-/// Says what the instrument is busy with instead of records, as long as it lives.
+/// Says what the instrument is busy with instead of records, as long as it lives. An empty sentence
+/// leaves what is said already.
 class Doing {
  public:
-  Doing(frmDSO& main, StatusLine::Sentence sentence)
-      : main_(main), outer_(std::exchange(main.doing, std::move(sentence))) {
+  Doing(frmDSO& main, StatusLine::Sentence sentence) : main_(main), outer_(main.doing) {
+    if (sentence) main.doing = std::move(sentence);
     main.marksDue.raise();
   }
   ~Doing() {
@@ -26,8 +27,9 @@ class Doing {
   StatusLine::Sentence outer_;
 };
 
-/// The traces stand still for a dialog of that caption, which outlives the sentence.
-StatusLine::Sentence sayPaused(const Property<std::string>& caption);
+/// The traces stand still for a dialog of that caption, which outlives the sentence. Empty if they
+/// stand still already.
+StatusLine::Sentence sayPaused(const frmDSO& main, const Property<std::string>& caption);
 /// The instrument answers a dialog of that caption; records may come in between.
 StatusLine::Sentence sayBusy(const Property<std::string>& caption);
 

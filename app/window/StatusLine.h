@@ -37,6 +37,8 @@ class StatusLine {
     stoppedByError,
     /// Nothing is written to the program's folder.
     nothingKept,
+    /// Rows of the recorder's log wait, or are lost.
+    logTrouble,
     /// What the user has had done last, or wanted to and it did not come about: one of the two.
     happened,
     failed

@@ -134,7 +134,7 @@ class frmDSO : public Window {
   Button cmdClose{*this, "cmdClose", "Close"};
 
   ModuleState state;
-  /// The last exchange succeeded; false after a read time-out.
+  /// The last exchange succeeded, or failed otherwise than by a read time-out after one that did.
   bool LinkOK = false;
   /// A first connect has read the instrument.
   bool Initialised = false;

@@ -56,6 +56,10 @@
         <translation>%1 n'a pas été chargé en entier</translation>
     </message>
     <message>
+        <source>%1 was not loaded: %2</source>
+        <translation>%1 n'a pas été chargé : %2</translation>
+    </message>
+    <message>
         <source>%1, %2: different sweeps</source>
         <translation>%1, %2 : balayages différents</translation>
     </message>
@@ -1128,6 +1132,10 @@
         <translation>Numéro du port ; 0 : instrument simulé</translation>
     </message>
     <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
         <source>Of the stretch that is marked, else of all records</source>
         <translation>De la plage marquée, sinon de tous les enregistrements</translation>
     </message>
@@ -1226,6 +1234,10 @@
     <message>
         <source>Recorder</source>
         <translation>Enregistreur</translation>
+    </message>
+    <message>
+        <source>Recorder's log: %1</source>
+        <translation>Journal de l'enregistreur : %1</translation>
     </message>
     <message>
         <source>Records along time</source>
@@ -1422,10 +1434,6 @@
     <message>
         <source>Stop the log</source>
         <translation>Arrêter le journal</translation>
-    </message>
-    <message>
-        <source>Stopped</source>
-        <translation>Arrêté</translation>
     </message>
     <message>
         <source>Stopped: press %1 to go on</source>

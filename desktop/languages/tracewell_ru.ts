@@ -56,6 +56,10 @@
         <translation>%1 загружен не полностью</translation>
     </message>
     <message>
+        <source>%1 was not loaded: %2</source>
+        <translation>%1 не загружен: %2</translation>
+    </message>
+    <message>
         <source>%1, %2: different sweeps</source>
         <translation>%1, %2: разные развёртки</translation>
     </message>
@@ -1128,6 +1132,10 @@
         <translation>Номер порта; 0 означает имитатор прибора</translation>
     </message>
     <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
         <source>Of the stretch that is marked, else of all records</source>
         <translation>По выделенному участку, иначе по всем записям</translation>
     </message>
@@ -1226,6 +1234,10 @@
     <message>
         <source>Recorder</source>
         <translation>Регистратор</translation>
+    </message>
+    <message>
+        <source>Recorder's log: %1</source>
+        <translation>Журнал регистратора: %1</translation>
     </message>
     <message>
         <source>Records along time</source>
@@ -1422,10 +1434,6 @@
     <message>
         <source>Stop the log</source>
         <translation>Остановить журнал</translation>
-    </message>
-    <message>
-        <source>Stopped</source>
-        <translation>Остановлено</translation>
     </message>
     <message>
         <source>Stopped: press %1 to go on</source>

@@ -56,6 +56,10 @@
         <translation>%1 未能完整加载</translation>
     </message>
     <message>
+        <source>%1 was not loaded: %2</source>
+        <translation>未能载入 %1：%2</translation>
+    </message>
+    <message>
         <source>%1, %2: different sweeps</source>
         <translation>%1、%2：不同次扫描</translation>
     </message>
@@ -1128,6 +1132,10 @@
         <translation>端口号；0 为仿真仪器</translation>
     </message>
     <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
         <source>Of the stretch that is marked, else of all records</source>
         <translation>所标区段的统计，未标时为全部记录</translation>
     </message>
@@ -1226,6 +1234,10 @@
     <message>
         <source>Recorder</source>
         <translation>记录仪</translation>
+    </message>
+    <message>
+        <source>Recorder's log: %1</source>
+        <translation>记录仪日志：%1</translation>
     </message>
     <message>
         <source>Records along time</source>
@@ -1422,10 +1434,6 @@
     <message>
         <source>Stop the log</source>
         <translation>停止日志</translation>
-    </message>
-    <message>
-        <source>Stopped</source>
-        <translation>已停止</translation>
     </message>
     <message>
         <source>Stopped: press %1 to go on</source>

@@ -56,6 +56,10 @@
         <translation>%1 未能完整載入</translation>
     </message>
     <message>
+        <source>%1 was not loaded: %2</source>
+        <translation>未能載入 %1：%2</translation>
+    </message>
+    <message>
         <source>%1, %2: different sweeps</source>
         <translation>%1、%2：唔同次掃描</translation>
     </message>
@@ -1128,6 +1132,10 @@
         <translation>連接埠編號；0 係仿真儀器</translation>
     </message>
     <message>
+        <source>OK</source>
+        <translation>確定</translation>
+    </message>
+    <message>
         <source>Of the stretch that is marked, else of all records</source>
         <translation>所標區段嘅統計，未標就係全部記錄</translation>
     </message>
@@ -1226,6 +1234,10 @@
     <message>
         <source>Recorder</source>
         <translation>記錄儀</translation>
+    </message>
+    <message>
+        <source>Recorder's log: %1</source>
+        <translation>記錄儀日誌：%1</translation>
     </message>
     <message>
         <source>Records along time</source>
@@ -1422,10 +1434,6 @@
     <message>
         <source>Stop the log</source>
         <translation>停止日誌</translation>
-    </message>
-    <message>
-        <source>Stopped</source>
-        <translation>停咗</translation>
     </message>
     <message>
         <source>Stopped: press %1 to go on</source>

@@ -26,7 +26,7 @@ Image drawn(const RecorderPicture& picture, const RecorderLook& look, const QSiz
   graph.resize(size);
   graph.setLook(look);
   graph.showPicture(picture, {}, {});
-  const QImage shown = graph.toPixmap(size.width(), size.height()).toImage();
+  const QImage shown = graph.picture().toImage();
   const int line = QFontMetrics(graph.font()).lineSpacing();
   constexpr int margin = 6;
   const int below = static_cast<int>(notes.size()) * line + 2 * margin;

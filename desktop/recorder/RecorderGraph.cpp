@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "RecorderGraph.h"
 
+#include <qcustomplot.h>
+
+#include <QFontDatabase>
+#include <QVBoxLayout>
 #include <cmath>
 
 #include "DesktopWords.h"
@@ -58,13 +62,19 @@ void placeInCorner(QCPItemText& text, double x, double y) {
   text.position->setCoords(x, y);
 }
 
-/// Above the place, else at its right or left, where there is nothing yet; empty if nowhere.
+/// Above the place, else beside it, higher or lower, where there is nothing yet; empty if nowhere.
 QRectF roomBeside(const QPointF& place, const QSizeF& size, const QRectF& inside,
                   const std::vector<QRectF>& taken) {
   constexpr qreal gap = 5;
   const QPointF corners[] = {{-size.width() / 2, -size.height() - gap},
                              {gap, -size.height() / 2},
-                             {-size.width() - gap, -size.height() / 2}};
+                             {-size.width() - gap, -size.height() / 2},
+                             {gap, -size.height() - gap},
+                             {-size.width() - gap, -size.height() - gap},
+                             {-size.width() / 2, -2 * size.height() - gap},
+                             {gap, gap},
+                             {-size.width() - gap, gap},
+                             {gap, size.height() + gap}};
   for (const QPointF& corner : corners) {
     const QRectF room(place + corner, size);
     const bool isFree =
@@ -82,13 +92,18 @@ QString lines(const std::vector<std::string>& texts) {
 
 }  // namespace
 
-RecorderGraph::RecorderGraph(QWidget* parent) : QCustomPlot(parent) {
+RecorderGraph::RecorderGraph(QWidget* parent) : QWidget(parent), plot_(*new QCustomPlot) {
   setObjectName(QStringLiteral("recorderGraph"));
   setFocusPolicy(Qt::StrongFocus);
-  setPlottingHints(QCP::phFastPolylines | QCP::phCacheLabels);
-  setAutoAddPlottableToLegend(false);
-  axisRect()->setupFullAxesBox();
-  for (QCPAxis* axis : axisRect()->axes()) {
+  setMouseTracking(true);
+  auto* const layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(&plot_);
+  plot_.setAttribute(Qt::WA_TransparentForMouseEvents);
+  plot_.setPlottingHints(QCP::phFastPolylines | QCP::phCacheLabels);
+  plot_.setAutoAddPlottableToLegend(false);
+  plot_.axisRect()->setupFullAxesBox();
+  for (QCPAxis* axis : plot_.axisRect()->axes()) {
     axis->setTicker(QSharedPointer<QCPAxisTickerFixed>::create());
     axis->setNumberFormat(QStringLiteral("f"));
     axis->setSubTicks(false);
@@ -96,32 +111,34 @@ RecorderGraph::RecorderGraph(QWidget* parent) : QCustomPlot(parent) {
     axis->setLabelPadding(2);
   }
   // Axes stay as they are when those beside them take a range.
-  disconnect(xAxis, nullptr, xAxis2, nullptr);
-  disconnect(yAxis, nullptr, yAxis2, nullptr);
-  curve_ = new QCPCurve(xAxis, yAxis);
+  disconnect(plot_.xAxis, nullptr, plot_.xAxis2, nullptr);
+  disconnect(plot_.yAxis, nullptr, plot_.yAxis2, nullptr);
+  curve_ = new QCPCurve(plot_.xAxis, plot_.yAxis);
   for (std::size_t i = 0; i < cursorLines_.size(); ++i) {
-    cursorLines_[i] = new QCPItemLine(this);
+    cursorLines_[i] = new QCPItemLine(&plot_);
     for (QCPItemPosition* end : {cursorLines_[i]->start, cursorLines_[i]->end})
       end->setType(QCPItemPosition::ptAxisRectRatio);
-    cursorNames_[i] = makeText(*this, Qt::AlignLeft | Qt::AlignTop);
+    cursorNames_[i] = makeText(plot_, Qt::AlignLeft | Qt::AlignTop);
     cursorNames_[i]->position->setType(QCPItemPosition::ptAxisRectRatio);
     cursorNames_[i]->setText(QStringLiteral("P%1").arg(i + 1));
   }
-  badge_ = makeText(*this, Qt::AlignRight | Qt::AlignTop);
+  badge_ = makeText(plot_, Qt::AlignRight | Qt::AlignTop);
   placeInCorner(*badge_, 0.995, 0.01);
   for (QCPItemText*& list : peakLists_) {
-    list = makeText(*this, Qt::AlignRight | Qt::AlignTop);
+    list = makeText(plot_, Qt::AlignRight | Qt::AlignTop);
     list->position->setType(QCPItemPosition::ptAbsolute);
   }
-  note_ = makeText(*this, Qt::AlignLeft | Qt::AlignBottom);
+  note_ = makeText(plot_, Qt::AlignLeft | Qt::AlignBottom);
   placeInCorner(*note_, 0.005, 0.99);
+  // Only then it is known where on the screen a peak is.
+  connect(&plot_, &QCustomPlot::afterLayout, this, &RecorderGraph::showLabels);
 }
 
 void RecorderGraph::setLook(const RecorderLook& look) {
   look_ = look;
-  setBackground(look.ground);
+  plot_.setBackground(look.ground);
   QFont small = font();
-  for (QCPAxis* axis : axisRect()->axes()) {
+  for (QCPAxis* axis : plot_.axisRect()->axes()) {
     axis->setBasePen(hasFocus() ? QPen(palette().color(QPalette::Highlight), 2) : QPen(look.grid));
     axis->setTickPen(QPen(look.grid));
     axis->setTickLabelFont(small);
@@ -139,8 +156,12 @@ void RecorderGraph::setLook(const RecorderLook& look) {
   note_->setColor(RecorderLook::gap);
 }
 
+QPixmap RecorderGraph::picture() const {
+  return plot_.toPixmap(width(), height());
+}
+
 QCPAxis& RecorderGraph::axisOf(int channel) const {
-  return channel == 2 && hasOwnAxes_ ? *yAxis2 : *yAxis;
+  return channel == 2 && hasOwnAxes_ ? *plot_.yAxis2 : *plot_.yAxis;
 }
 
 void RecorderGraph::showPicture(const RecorderPicture& picture, const RecorderCursors& cursors,
@@ -150,15 +171,15 @@ void RecorderGraph::showPicture(const RecorderPicture& picture, const RecorderCu
   const QString across = picture.mode == RecorderMode::spectrum ? panelText("Frequency")
                          : isXY                                 ? QStringLiteral("CH1")
                                                                 : panelText("Time");
-  acrossFactor_ =
-      showAxis(*xAxis, picture.x, across, isXY ? look_.channels[0] : QColor(RecorderLook::text))
-          .factor;
+  acrossFactor_ = showAxis(*plot_.xAxis, picture.x, across,
+                           isXY ? look_.channels[0] : QColor(RecorderLook::text))
+                      .factor;
   // An axis on which nothing is drawn has no numbers.
-  xAxis->setTickLabels(!picture.x.unit.empty());
-  yAxis->setTickLabels(picture.y[0] || picture.y[1]);
-  yAxis->setLabel(QString());
-  yAxis2->setTickLabels(hasOwnAxes_);
-  yAxis2->setLabel(QString());
+  plot_.xAxis->setTickLabels(!picture.x.unit.empty());
+  plot_.yAxis->setTickLabels(picture.y[0] || picture.y[1]);
+  plot_.yAxis->setLabel(QString());
+  plot_.yAxis2->setTickLabels(hasOwnAxes_);
+  plot_.yAxis2->setLabel(QString());
   const bool isShared = picture.mode == RecorderMode::spectrum && picture.y[0] && picture.y[1];
   for (std::size_t i = 0; i < picture.y.size(); ++i) {
     if (!picture.y.at(i)) continue;
@@ -171,10 +192,10 @@ void RecorderGraph::showPicture(const RecorderPicture& picture, const RecorderCu
   showCurves(picture);
   showXY(picture);
   showCursors(cursors, texts);
-  showLabels(picture);
+  peaks_ = picture.labels;
   note_->setColor(picture.mode == RecorderMode::spectrum ? RecorderLook::text : RecorderLook::gap);
   showNotes(picture.notes);
-  replot(rpQueuedRefresh);
+  plot_.replot(QCustomPlot::rpQueuedRefresh);
 }
 
 RecorderGraph::Scale RecorderGraph::showAxis(QCPAxis& axis, const RecorderAxis& shown,
@@ -197,7 +218,7 @@ void RecorderGraph::showCurves(const RecorderPicture& picture) {
   for (const RecorderCurve& curve : picture.curves) ages = std::max(ages, curve.age);
   const bool isXY = picture.mode == RecorderMode::xy;
   const std::size_t count = isXY ? 0 : picture.curves.size();
-  while (graphs_.size() < count) graphs_.push_back(addGraph());
+  while (graphs_.size() < count) graphs_.push_back(plot_.addGraph());
   for (std::size_t i = 0; i < count; ++i)
     showCurve(i, picture.curves[i], axisOf(picture.curves[i].channel), ages);
   for (std::size_t i = 0; i < graphs_.size(); ++i) graphs_[i]->setVisible(i < count);
@@ -241,22 +262,22 @@ void RecorderGraph::showXY(const RecorderPicture& picture) {
 }
 
 /// Each peak has its number, and its line in the list of its channel.
-void RecorderGraph::showLabels(const RecorderPicture& picture) {
+void RecorderGraph::showLabels() {
   for (QCPItemText* label : labels_) label->setVisible(false);
   const QFontMetrics metrics(font());
   std::vector<QRectF> taken;
   std::array<QStringList, 2> lists;
-  for (std::size_t i = 0; i < picture.labels.size(); ++i) {
-    const auto& label = picture.labels[i];
+  for (std::size_t i = 0; i < peaks_.size(); ++i) {
+    const auto& label = peaks_[i];
     const auto channel = static_cast<std::size_t>(label.channel - 1);
     QStringList& list = lists.at(channel);
     const QString number = QString::number(list.size() + 1);
-    list << number + QStringLiteral(":  ") +
-                toQt(label.text).replace(QLatin1Char('\n'), QStringLiteral("   "));
-    if (i == labels_.size()) labels_.push_back(makeText(*this, Qt::AlignLeft | Qt::AlignTop));
-    const QPointF place(xAxis->coordToPixel(label.x * acrossFactor_),
+    const QStringList said = toQt(label.text).split(QLatin1Char('\n'));
+    list << QStringLiteral("%1: %2 %3").arg(number).arg(said.value(0), 9).arg(said.value(1), 10);
+    if (i == labels_.size()) labels_.push_back(makeText(plot_, Qt::AlignLeft | Qt::AlignTop));
+    const QPointF place(plot_.xAxis->coordToPixel(label.x * acrossFactor_),
                         axisOf(label.channel).coordToPixel(label.y * upFactors_.at(channel)));
-    const QRectF room = roomBeside(place, metrics.size(0, number), axisRect()->rect(), taken);
+    const QRectF room = roomBeside(place, metrics.size(0, number), plot_.axisRect()->rect(), taken);
     if (room.isEmpty()) continue;
     taken.push_back(room);
     labels_[i]->setPadding({});
@@ -270,16 +291,18 @@ void RecorderGraph::showLabels(const RecorderPicture& picture) {
   showPeakLists(lists);
 }
 
-/// At the right, where the badge of the cursors leaves room.
+/// At the right, where the badge of the cursors leaves room; digits below each other.
 void RecorderGraph::showPeakLists(const std::array<QStringList, 2>& lists) {
-  const int line = QFontMetrics(font()).lineSpacing();
-  const QRect inside = axisRect()->rect();
+  QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+  fixed.setPixelSize(QFontInfo(font()).pixelSize());
+  const int line = QFontMetrics(fixed).lineSpacing();
+  const QRect inside = plot_.axisRect()->rect();
   int top = inside.top() + 5 + (cursors_.kind == RecorderCursors::off ? 0 : 4 * line);
   for (std::size_t i = 0; i < lists.size(); ++i) {
     QCPItemText& item = *peakLists_.at(i);
     item.setVisible(!lists.at(i).isEmpty());
     item.setText(lists.at(i).join(QLatin1Char('\n')));
-    item.setFont(font());
+    item.setFont(fixed);
     item.setColor(look_.channels.at(i));
     item.setBrush(badge_->brush());
     item.position->setCoords(inside.right() - 4, top);
@@ -314,7 +337,7 @@ void RecorderGraph::showNotes(const std::vector<std::string>& notes) {
 }
 
 double RecorderGraph::shareAt(const QPointF& place) const {
-  const QRect inside = axisRect()->rect();
+  const QRect inside = plot_.axisRect()->rect();
   return cursors_.kind == RecorderCursors::across
              ? (place.x() - inside.left()) / std::max(1, inside.width())
              : (inside.bottom() - place.y()) / std::max(1, inside.height());
@@ -322,7 +345,7 @@ double RecorderGraph::shareAt(const QPointF& place) const {
 
 std::optional<std::size_t> RecorderGraph::cursorAt(const QPointF& place) const {
   if (cursors_.kind == RecorderCursors::off) return std::nullopt;
-  const QRect inside = axisRect()->rect();
+  const QRect inside = plot_.axisRect()->rect();
   const int length = cursors_.kind == RecorderCursors::across ? inside.width() : inside.height();
   const auto distance = [&](std::size_t cursor) {
     return std::fabs(cursors_.at().at(cursor) - shareAt(place)) * length;
@@ -369,18 +392,15 @@ void RecorderGraph::keyPressEvent(QKeyEvent* event) {
 
 /// The focus shows by a frame and at the active cursor.
 void RecorderGraph::focusInEvent(QFocusEvent* event) {
-  QCustomPlot::focusInEvent(event);
+  QWidget::focusInEvent(event);
   setLook(look_);
   emit cursorMoved(active_, cursors_.at().at(active_));
 }
 
 void RecorderGraph::focusOutEvent(QFocusEvent* event) {
-  QCustomPlot::focusOutEvent(event);
+  QWidget::focusOutEvent(event);
   setLook(look_);
   emit cursorMoved(active_, cursors_.at().at(active_));
 }
 
 }  // namespace tracewell
-
-// With the graph's own header, which is long, in no other source.
-#include "moc_RecorderGraph.cpp"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <qcustomplot.h>
-
+#include <QPixmap>
+#include <QWidget>
 #include <array>
 #include <optional>
 #include <string>
@@ -12,12 +12,19 @@
 #include "RecorderLook.h"
 #include "RecorderPicture.h"
 
+class QCPAxis;
+class QCPCurve;
+class QCPGraph;
+class QCPItemLine;
+class QCPItemText;
+class QCustomPlot;
+
 namespace tracewell {
 
 /// Draws what the recorder shows: a grid with units, the axis of channel 1 at the left and that of
 /// channel 2 at the right. The cursors are dragged, or moved with the arrow keys (Shift: ten times
 /// as far); C makes the other one active.
-class RecorderGraph : public QCustomPlot {
+class RecorderGraph : public QWidget {
   Q_OBJECT
 
  public:
@@ -26,6 +33,9 @@ class RecorderGraph : public QCustomPlot {
   void setLook(const RecorderLook& look);
   void showPicture(const RecorderPicture& picture, const RecorderCursors& cursors,
                    const std::vector<std::string>& texts);
+
+  /// What is shown, at its own size on the screen.
+  QPixmap picture() const;
 
   QSize minimumSizeHint() const override { return {320, 200}; }
 
@@ -51,7 +61,7 @@ class RecorderGraph : public QCustomPlot {
   void showCurves(const RecorderPicture& picture);
   void showCurve(std::size_t index, const RecorderCurve& curve, QCPAxis& axis, int ages);
   void showXY(const RecorderPicture& picture);
-  void showLabels(const RecorderPicture& picture);
+  void showLabels();
   void showPeakLists(const std::array<QStringList, 2>& lists);
   void showCursors(const RecorderCursors& cursors, const std::vector<std::string>& texts);
   void showNotes(const std::vector<std::string>& notes);
@@ -59,9 +69,12 @@ class RecorderGraph : public QCustomPlot {
   double shareAt(const QPointF& place) const;
   std::optional<std::size_t> cursorAt(const QPointF& place) const;
 
+  /// Passes the mouse on.
+  QCustomPlot& plot_;
   RecorderLook look_;
   std::vector<QCPGraph*> graphs_;
   QCPCurve* curve_ = nullptr;
+  std::vector<RecorderPicture::Label> peaks_;
   std::vector<QCPItemText*> labels_;
   std::array<QCPItemLine*, 2> cursorLines_{};
   std::array<QCPItemText*, 2> cursorNames_{};

@@ -2,6 +2,7 @@
 #include "RecorderWindow.h"
 
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QScreen>
 #include <QShortcut>
 #include <QVBoxLayout>
@@ -21,7 +22,7 @@
 namespace tracewell {
 namespace {
 
-constexpr int columnWidth = 350;
+constexpr int tablesWidth = 350;
 /// So many records are measured for the statistics at a time, and so long nothing is in between:
 /// the panel goes on meanwhile. Milliseconds.
 constexpr int measuredAtOnce = 20;
@@ -65,7 +66,7 @@ void RecorderWindow::layOut() {
   drawn->addWidget(graph_, 1);
   drawn->addWidget(strip_);
   middle->addLayout(drawn, 1);
-  tables_->setFixedWidth(columnWidth);
+  tables_->setFixedWidth(tablesWidth);
   middle->addWidget(tables_);
   rows->addLayout(middle, 1);
   rows->addLayout(actionRow());
@@ -150,7 +151,6 @@ void RecorderWindow::sayTexts() {
   texts_.add([this] {
     setWindowTitle(panelText("Recorder") + QStringLiteral(" - Tracewell"));
     graph_->setAccessibleName(panelText("Graph of the record"));
-    graph_->setToolTip(QString());
     strip_->setAccessibleName(panelText("Records along time"));
     strip_->setToolTip(
         panelText("Click or drag: a record. Shift + drag: a stretch. Wheel: zoom. Arrow keys, Page "
@@ -320,7 +320,7 @@ void RecorderWindow::showInPanel() {
 
 void RecorderWindow::copy() {
   const std::string table = tableOf(view_.picture());
-  recorder_.main().services().clipboard.put(table, fromQt(graph_->toPixmap().toImage()));
+  recorder_.main().services().clipboard.put(table, fromQt(graph_->picture().toImage()));
   say(panelText("Copied"));
 }
 
@@ -353,6 +353,8 @@ void RecorderWindow::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
   if (event->type() == QEvent::LanguageChange) {
     texts_.sayAgain();
+    // What it says of the past cannot be said again.
+    say({});
     bar_->sayAgain();
     tables_->sayAgain();
     logBar_->sayAgain();

@@ -312,6 +312,7 @@ void Conversation::drain(int timeOut) {
   while (state_ != State::idle) {
     if (clock_.milliseconds() >= deadline) {
       isRestless_ = true;
+      account_.missedAnswer();
       throw timeOutError();
     }
     hear(listen(std::min(deadline, trustedAt())));

@@ -30,8 +30,8 @@ struct LineSettings {
 };
 
 /// An open line that carries bytes both ways and knows nothing of their meaning. Implemented by
-/// desktop/QtSerialChannel, desktop/QtTcpChannel, simulator/SimulatedChannel, and
-/// tests/PacedChannel.
+/// desktop/QtSerialChannel, desktop/WindowsSerialChannel, desktop/QtTcpChannel,
+/// simulator/SimulatedChannel, and tests/PacedChannel.
 ///
 /// All calls are made on the one thread. A channel that has failed stays failed: every later call
 /// raises again, and its owner drops it. Destroying it closes the line and leaves DTR and RTS as

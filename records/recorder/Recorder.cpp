@@ -36,6 +36,7 @@ Recorder::Recorder(frmDSO& main) : main_(main) {
 
 Recorder::~Recorder() {
   main_.recordKept = Event<int>::Handler();
+  main_.status.withdraw(StatusLine::logTrouble);
 }
 
 void Recorder::keep(int channel) {
@@ -74,6 +75,25 @@ void Recorder::startLog(const std::filesystem::path& path, MeasurementColumns co
 
 void Recorder::tick() {
   if (log_) log_->tick(main_.services().clock.milliseconds());
+  sayTrouble();
+}
+
+/// In the panel, since the recorder's window may be closed.
+void Recorder::sayTrouble() {
+  const auto sentence = [this](const Words& words) {
+    return words.say("Recorder's log: %1", {troubleText(words)});
+  };
+  const bool isTroubled = log_ && !troubleText(main_.services().words).empty();
+  if (isTroubled == main_.status.says(StatusLine::logTrouble)) return;
+  if (isTroubled)
+    main_.status.tell(StatusLine::logTrouble, sentence);
+  else
+    main_.status.withdraw(StatusLine::logTrouble);
+}
+
+void Recorder::stopLog() {
+  log_.reset();
+  sayTrouble();
 }
 
 std::string Recorder::logText(const Words& words) const {
@@ -87,6 +107,7 @@ std::string Recorder::logText(const Words& words) const {
 
 std::string Recorder::troubleText(const Words& words) const {
   std::string text;
+  if (!log_) return text;
   const auto add = [&text](const std::string& sentence) {
     text += (text.empty() ? "" : ". ") + sentence;
   };

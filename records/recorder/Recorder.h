@@ -35,7 +35,7 @@ class Recorder {
   /// Begins a log, in place of another. Raises pathAccess.
   void startLog(const std::filesystem::path& path, MeasurementColumns columns, AtLimit atLimit);
   /// Writes what is held.
-  void stopLog() { log_.reset(); }
+  void stopLog();
   const MeasurementLog* log() const { return log_ ? &*log_ : nullptr; }
   /// Once a second while there is a log.
   void tick();
@@ -48,6 +48,8 @@ class Recorder {
  private:
   void keep(int channel);
   void write(RecordStore::Number number);
+  void sayTrouble();
+  /// Empty without a log.
   std::string troubleText(const Words& words) const;
 
   frmDSO& main_;

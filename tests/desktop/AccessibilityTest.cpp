@@ -87,7 +87,7 @@ TEST_F(AccessibilityTest, WhatChangesIsTold) {
   main.knobChan1.turn(7);
   EXPECT_EQ(heard, (Lines{"knobChan1 = 7", "knobChan1: 500 mV"}));
   for (const auto& [detent, text] : std::map<int, std::string>{
-           {0, "2 ns"}, {5, "100 ns"}, {9, "2 \u00b5s"}, {16, "500 \u00b5s"}, {28, "5 s"}}) {
+           {0, "2 ns"}, {5, "100 ns"}, {8, "1 \u00b5s"}, {16, "500 \u00b5s"}, {28, "5 s"}}) {
     main.knobTime.turn(detent);
     EXPECT_EQ(said(*find("knobTime")), text);
   }
@@ -128,6 +128,12 @@ TEST_F(AccessibilityTest, MarkKeepsTheDescription) {
   EXPECT_EQ(reader(*find("cbMath")).text(QAccessible::Description),
             QStringLiteral("Sum or difference of the channels. The instrument has not told this "
                            "value"));
+  // The mark of a slide stands on its caption, which gets no focus.
+  main.slideTrig.trust = [] { return Trust::unread; };
+  main.slideTrig.notifyChanged();
+  EXPECT_TRUE(reader(*find("slideTrig"))
+                  .text(QAccessible::Description)
+                  .endsWith(QStringLiteral("The instrument has not told this value")));
 }
 
 /// Of each group one can be reached with Tab, and the arrow keys go round it.

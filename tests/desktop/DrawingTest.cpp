@@ -1,31 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <QDebug>
+#include <QLabel>
 #include <QPainter>
 
 #include "GraphView.h"
 #include "MainFormTest.h"
 #include "QtValues.h"
+#include "Regions.h"
 
 namespace tracewell {
 namespace {
-
-/// How much of a colour a pixel has that lies between it and the ground; none if it does not.
-double shareOf(QColor colour, QColor ground, QColor pixel) {
-  const auto parts = [](QColor of) { return std::array{of.red(), of.green(), of.blue()}; };
-  double along = 0;
-  double whole = 0;
-  for (std::size_t i = 0; i < 3; ++i) {
-    const int most = parts(colour)[i] - parts(ground)[i];
-    along += most * (parts(pixel)[i] - parts(ground)[i]);
-    whole += most * most;
-  }
-  const double share = along / whole;
-  for (std::size_t i = 0; i < 3; ++i) {
-    const int most = parts(colour)[i] - parts(ground)[i];
-    if (std::abs(parts(pixel)[i] - parts(ground)[i] - share * most) > 20) return 0;
-  }
-  return share;
-}
 
 /// The graph as it is on the screen, held against graph units.
 class DrawingTest : public MainFormTest {
@@ -50,7 +34,7 @@ class DrawingTest : public MainFormTest {
 
   void paint() {
     QTest::qWait(1);
-    picture = view.grab(area.geometry()).toImage();
+    picture = seen(view, area.geometry(), ground);
   }
 
   /// Ten divisions across and eight up, a margin of one pixel around them.
@@ -64,16 +48,9 @@ class DrawingTest : public MainFormTest {
     return place.intersected(area.rect());
   }
 
-  /// What encloses the pixels that have as much of that colour.
-  QRect find(QColor colour, QRect where = {}, double share = 0.4) const {
-    QRect found;
-    if (!where.isValid()) where = area.rect();
-    for (int y = where.top(); y <= where.bottom(); ++y)
-      for (int x = where.left(); x <= where.right(); ++x)
-        if (picture.pixel(x, y) != ground.rgb() &&
-            shareOf(colour, ground, picture.pixelColor(x, y)) > share)
-          found |= QRect(x, y, 1, 1);
-    return found;
+  QRect find(QColor colour) const { return picture.find(colour); }
+  QRect find(QColor colour, const QRect& where, double share = 0.4) const {
+    return picture.find(colour, where, share);
   }
   QColor colourOf(int plot) const { return toQt(graph.plot(plot).lineColour()); }
 
@@ -84,6 +61,15 @@ class DrawingTest : public MainFormTest {
     EXPECT_TRUE(wanted.adjusted(-4, -4, 4, 4).contains(found) &&
                 found.adjusted(-4, -4, 4, 4).contains(wanted))
         << fromQt(QDebug::toString(found) + " instead of " + QDebug::toString(wanted));
+  }
+
+  /// A text has ground of its own, in a frame that leaves some room around it.
+  void expectFrame(const QRect& text) const {
+    const QColor mark(0xe6, 0xeb, 0xef);
+    const QRect frame = find(mark, text.adjusted(-9, -9, 9, 9), 0.2);
+    EXPECT_TRUE(frame.contains(text.adjusted(-3, -2, 3, 2)));
+    EXPECT_TRUE(text.adjusted(-8, -8, 8, 8).contains(frame));
+    EXPECT_TRUE(find(mark, frame, 0.4).isEmpty());
   }
 
   /// Whether the last sign of the text there is a 1, the one that has a stem from top to bottom.
@@ -104,7 +90,7 @@ class DrawingTest : public MainFormTest {
   const QColor ground = toQt(graph.plotAreaColour());
   const QWidget& area = *view.findChild<QWidget*>(QStringLiteral("plot"));
   GraphMarks marks;
-  QImage picture;
+  Regions picture;
 };
 
 TEST_F(DrawingTest, TracesLieWhereTheirPointsAre) {
@@ -126,6 +112,46 @@ TEST_F(DrawingTest, TracesLieWhereTheirPointsAre) {
     expectAt(colourOf(number), 50, -60 * number, at(200, 0).x() - at(-100, 0).x(), 5);
     expectAt(colourOf(3), -50, 20, at(100, 0).x() - at(-200, 0).x(), 5);
   }
+}
+
+TEST_F(DrawingTest, GridHasTenByEightDivisionsWithFiveTicksEach) {
+  const QColor grid(0, 100, 0);
+  for (Axis& axis : graph.axes()) axis.gridColour = fromQt(grid);
+  paint();
+  const auto expectLines = [&](const QRect& line, int count) {
+    const auto runs = picture.runs(grid, line, 0.7);
+    ASSERT_EQ(runs.size(), count);
+    for (int i = 0; i < count; ++i) {
+      const QPoint place = at(-200 + 50 * i, 150 - 50 * i);
+      EXPECT_NEAR(runs[i].first, count == 9 ? place.x() : place.y(), 1);
+      EXPECT_LT(runs[i].second - runs[i].first, 2);
+    }
+  };
+  expectLines({at(-245, 180), at(245, 180)}, 9);
+  expectLines({at(-230, 195), at(-230, -195)}, 7);
+  // The middle lines, which are brighter, have ticks.
+  const QPoint middle = at(0, 0);
+  const QRect across(5, middle.y() - 2, area.width() - 10, 1);
+  EXPECT_EQ(picture.runs(grid, across, 0.12).size(), 49);
+  const QRect down(middle.x() - 2, 5, 1, area.height() - 10);
+  EXPECT_EQ(picture.runs(grid, down, 0.12).size(), 39);
+  EXPECT_GT(find(grid, {middle.x() - 1, 0, 3, area.height()}, 1.2).height(), area.height() - 9);
+  EXPECT_TRUE(find(grid, {at(-50, 0).x(), 5, 1, 20}, 1.2).isEmpty());
+}
+
+TEST_F(DrawingTest, OldTracesArePaleOnTheScreenAlone) {
+  draw(1, {{-200, 0}, {200, 0}});
+  const auto strength = [&] {
+    paint();
+    double most = 0;
+    for (const QPoint& pixel : picture.pixels(colourOf(1), area.rect(), 0.1))
+      most = std::max(most, picture.shareOf(colourOf(1).rgb(), picture.picture.pixel(pixel)));
+    return most;
+  };
+  const double usual = strength();
+  graph.plot(1).pale = [] { return true; };
+  graph.plot(1).notifyChanged();
+  EXPECT_NEAR(strength() / usual, 0.5, 0.05);
 }
 
 TEST_F(DrawingTest, TriggerMarkPointsAtItsLevelAndStaysInside) {
@@ -180,6 +206,7 @@ TEST_F(DrawingTest, NamesAndFlagsStandAtTheHeightsOfTheirTraces) {
     const QRect found = find(colourOf(number));
     EXPECT_NEAR(found.center().y(), at(0, height).y(), 4);
     EXPECT_NEAR(found.right(), at(200, 0).x(), 12);
+    expectFrame(found);
   }
   // Names stay on the screen, clear of its first and last row, and clear of each other.
   for (const double height : {0, 300, -300}) {
@@ -214,6 +241,25 @@ TEST_F(DrawingTest, NamesAndFlagsStandAtTheHeightsOfTheirTraces) {
   }
 }
 
+/// One that would cover another stands beside it.
+TEST_F(DrawingTest, FlagsNameTheirTracesAndCoverNoOther) {
+  using Side = GraphMarks::Side;
+  for (const auto direction : {Side::here, Side::above, Side::below}) {
+    marks.sides = {{1, direction, 50, "1"}, {2, direction, 45, "2"}};
+    view.update();
+    paint();
+    const QRect one = find(colourOf(1));
+    const QRect two = find(colourOf(2));
+    EXPECT_TRUE(one.left() < 4 && two.left() > one.right() && two.left() < one.right() + 6);
+    EXPECT_NEAR(one.height(), two.height(), 1);
+    EXPECT_EQ(one.width() > one.height(), direction == Side::here);
+    EXPECT_TRUE(area.rect().contains(one | two));
+    // A black digit in its middle.
+    const QRect digit = one.adjusted(3, 3, -6, -3);
+    EXPECT_GT(digit.width() * digit.height() - picture.pixels(colourOf(1), digit, 0.8).size(), 8);
+  }
+}
+
 TEST_F(DrawingTest, ScalesStandAboveThePlotAndTheNoteInItsCorner) {
   const QColor noteColour(255, 171, 64);
   marks.scales = {{1, "WW"}, {2, "WW"}};
@@ -225,7 +271,7 @@ TEST_F(DrawingTest, ScalesStandAboveThePlotAndTheNoteInItsCorner) {
     EXPECT_NEAR(note.right(), area.width() - 5, 6);
     EXPECT_NEAR(note.bottom(), area.height() - 8, 8);
     const QRect strip(0, 0, area.width(), area.y());
-    picture = view.grab(strip).toImage();
+    picture = seen(view, strip, ground);
     const QRect one = find(colourOf(1), strip);
     const QRect two = find(colourOf(2), strip);
     EXPECT_LT(one.right() + 9, two.left());
@@ -240,20 +286,34 @@ TEST_F(DrawingTest, ScalesStandAboveThePlotAndTheNoteInItsCorner) {
     QTest::mouseMove(view.findChild<QWidget*>(QStringLiteral("plot")), {50, 50});
     QApplication::processEvents();
     const QRect strip(0, 0, area.width(), area.y());
-    picture = view.grab(strip).toImage();
+    picture = seen(view, strip, ground);
     EXPECT_TRUE(find(QColor(0xe6, 0xeb, 0xef), strip).isValid());
     return find(colourOf(1), strip).isValid();
   };
   EXPECT_TRUE(showsScales(1280));
+  // What is above, the plot and the line below fill the view.
+  const QWidget& caption = *view.findChild<QLabel*>(QString(), Qt::FindDirectChildrenOnly);
+  const QRect strip(0, 0, area.width(), area.y());
+  EXPECT_EQ(view.findChild<QWidget*>(QStringLiteral("scales"))->geometry(), strip);
+  EXPECT_EQ(caption.geometry().united(strip), view.rect());
+  EXPECT_EQ(area.geometry().bottom() + 1, caption.y());
   marks.scales = {{1, std::string(100, 'W')}};
   graph.notifyChanged();
   EXPECT_FALSE(showsScales(1270));
+  QEvent leave(QEvent::Leave);
+  QApplication::sendEvent(view.findChild<QWidget*>(QStringLiteral("plot")), &leave);
+  QApplication::processEvents();
+  EXPECT_TRUE(seen(view, strip, ground).find(colourOf(1)).isValid());
 }
 
 TEST_F(DrawingTest, BadgeStandsBesideTheCursors) {
   marks.badge = {{1, "WWWW"}, {2, "WWWW"}};
-  const std::tuple<CursorStyle, double, double> cases[] = {{CursorStyle::verticalLine, -150, 20},
-                                                           {CursorStyle::horizontalLine, 40, -30}};
+  // Behind the right or the lower one, where there is room.
+  const std::tuple<CursorStyle, double, double> cases[] = {
+      {CursorStyle::verticalLine, -150, 20},
+      {CursorStyle::verticalLine, 60, 220},
+      {CursorStyle::horizontalLine, 40, -30},
+      {CursorStyle::horizontalLine, -60, -180}};
   for (const auto& [style, first, second] : cases) {
     for (const char* name : {"cur1", "cur2"}) {
       Cursor& cursor = graph.cursor(name);
@@ -266,10 +326,15 @@ TEST_F(DrawingTest, BadgeStandsBesideTheCursors) {
     const QRect one = find(colourOf(1));
     const QRect two = find(colourOf(2));
     EXPECT_GT(two.top(), one.bottom());
+    EXPECT_LT(two.top(), one.bottom() + 12);
+    expectFrame(one | two);
+    EXPECT_EQ(one.left(), two.left());
     if (style == CursorStyle::verticalLine)
-      EXPECT_NEAR(one.left(), at(second, 0).x() + 16, 4);
+      EXPECT_NEAR(first < 0 ? one.left() - at(second, 0).x() : at(first, 0).x() - one.right(), 16,
+                  4);
     else
-      EXPECT_NEAR(one.top(), at(0, second).y() + 16, 6);
+      EXPECT_NEAR(first > 0 ? one.top() - at(0, second).y() : at(0, first).y() - two.bottom(), 16,
+                  6);
   }
 }
 

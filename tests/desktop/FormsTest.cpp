@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
+#include <QScrollBar>
 #include <QTest>
 #include <QTimer>
 #include <QTreeWidget>
@@ -123,17 +124,12 @@ TEST_F(FormsTest, WhatTheProgramSetsIsShown) {
   EXPECT_EQ(find<QLabel>("lblConnect")->text(), QStringLiteral("Stopped & idle"));
   EXPECT_EQ(find<QAbstractButton>("cmdStart")->text(), QStringLiteral("Run && stop"));
   EXPECT_TRUE(find<QAbstractButton>("cbCh2")->isChecked());
-  main.lblStatus.caption = "told";
-  const auto sign = [this] { return find("lblStatus")->grab(QRect(0, 0, 26, 16)).toImage(); };
-  const QImage plain = sign();
-  // The first sentence is no warning, the second one is.
-  main.lblStatus.sentences = {{"told", false}, {"look", true}};
-  main.lblStatus.caption = "told; look";
-  EXPECT_TRUE(sign() == plain);
-  const QImage both = find("lblStatus")->grab().toImage();
-  main.lblStatus.sentences = {{"told", false}, {"look", false}};
-  main.lblStatus.notifyChanged();
-  EXPECT_TRUE(find("lblStatus")->grab().toImage() != both);
+  const auto look = [this](bool isWarning) {
+    main.lblStatus.sentences = {{"told", isWarning}};
+    main.lblStatus.notifyChanged();
+    return find("lblStatus")->grab().toImage();
+  };
+  EXPECT_TRUE(look(true) != look(false));
   EXPECT_EQ(find<QPlainTextEdit>("txtMsg")->toPlainText(), QStringLiteral("1,2\n"));
   EXPECT_TRUE(takeWire().empty());
 }
@@ -153,7 +149,56 @@ TEST_F(FormsTest, CursorsFollowTheMouseAndTheArrowKeys) {
   const double before = cur1.xPosition();
   QTest::keyClick(view, Qt::Key_Left, Qt::ShiftModifier);
   EXPECT_EQ(cur1.xPosition(), before - 10);
+  // Up and down move level lines, C changes to the other one.
+  main.opVoltage.select();
+  const Cursor& cur2 = main.graphDSO.cursor("cur2");
+  double wanted = cur1.yPosition();
+  for (const auto& [key, way] :
+       {std::pair(Qt::Key_Up, 1), {Qt::Key_Down, -1}, {Qt::Key_Down, -1}}) {
+    QTest::keyClick(view, key);
+    EXPECT_EQ(cur1.yPosition(), wanted += way);
+  }
+  for (const Cursor* active : {&cur2, &std::as_const(cur1)}) {
+    QTest::keyClick(view, Qt::Key_C);
+    const double from = active->yPosition();
+    QTest::keyClick(view, Qt::Key_Up, Qt::ShiftModifier);
+    EXPECT_EQ(active->yPosition(), from + 10);
+  }
+  // Six pixels away it can still be taken hold of.
+  for (const int away : {6, 8}) {
+    const double from = cur1.yPosition();
+    const QPoint hold(20, qRound(1 + (200 - from) / 400 * (plot->height() - 2)) - away);
+    QTest::mousePress(plot, Qt::LeftButton, {}, hold);
+    QTest::mouseMove(plot, {20, plot->height() / 4});
+    EXPECT_EQ(cur1.yPosition() != from, away == 6);
+    QTest::mouseRelease(plot, Qt::LeftButton, {}, {20, plot->height() / 4});
+    QTest::mouseMove(plot, {20, plot->height() / 5});
+    EXPECT_TRUE(away == 6 ? std::fabs(cur1.yPosition() - 100) < 3 : cur1.yPosition() == from);
+  }
+  // E, Escape and a double click.
+  const std::tuple<std::function<void()>, bool> sizes[] = {
+      {[&] { QTest::keyClick(view, Qt::Key_E); }, true},
+      {[&] { QTest::keyClick(view, Qt::Key_Escape); }, false},
+      {[&] { QTest::keyClick(view, Qt::Key_Escape); }, false},
+      {[&] { QTest::mouseDClick(plot, Qt::LeftButton); }, true}};
+  for (const auto& [act, isEnlarged] : sizes) {
+    act();
+    EXPECT_EQ(main.graphDSO.enlarged(), isEnlarged);
+  }
   EXPECT_TRUE(main.graphDSO.axis("XAxis").caption().starts_with("P1 = "));
+  // The marker of the trigger level stays where the instrument has it, and no key moves it.
+  Cursor& marker = main.graphDSO.cursor("Triger");
+  marker.style = CursorStyle::marker;
+  marker.yPosition = -100;
+  marker.visible = true;
+  const QPoint onMarker = centre + QPoint(-plot->width() / 4, plot->height() / 4);
+  QTest::mousePress(plot, Qt::LeftButton, {}, onMarker);
+  QTest::mouseMove(plot, onMarker + QPoint(0, 30));
+  QTest::mouseRelease(plot, Qt::LeftButton, {}, onMarker + QPoint(0, 30));
+  ASSERT_EQ(marker.yPosition(), -100);
+  QTest::keyClick(view, Qt::Key_C);
+  QTest::keyClick(view, Qt::Key_Right);
+  EXPECT_EQ(main.graphDSO.cursor("cur2").xPosition(), 51);
 }
 
 TEST_F(FormsTest, PicturesOfTheGraphShowNothingThatIsForTheScreen) {
@@ -205,7 +250,21 @@ TEST_F(FormsTest, FocusChoosesNothing) {
   });
 }
 
-/// What "Average" opens is to be seen before the dialog goes; the next Enter is the dialog's.
+TEST_F(FormsTest, ErrorLogOpensAtItsNewestLine) {
+  std::string lines;
+  for (int i = 0; i < 200; ++i) lines += "line " + std::to_string(i) + "\r\n";
+  program.errLog.txtErrLog.text = lines;
+  bound(program.errLog, [](Window&, QWidget& dialog) {
+    dialog.show();
+    QApplication::processEvents();
+    const QScrollBar* bar = dialog.findChild<QPlainTextEdit*>()->verticalScrollBar();
+    EXPECT_GT(bar->maximum(), 0);
+    EXPECT_EQ(bar->value(), bar->maximum());
+  });
+}
+
+/// What "Average" opens is to be seen before the dialog goes; the next Enter is the dialog's. Keys
+/// go to the box, which has the focus, and not to the line in it.
 TEST_F(FormsTest, EnterOnATypedModeTakesItAndNoMore) {
   const auto dialog = makeForm("frmAcq", nullptr);
   frmAcq& window = program.acquire;
@@ -215,13 +274,13 @@ TEST_F(FormsTest, EnterOnATypedModeTakesItAndNoMore) {
   dialog->show();
   auto* mode = dialog->findChild<QComboBox*>(QStringLiteral("cbMode"));
   mode->lineEdit()->selectAll();
-  QTest::keyClicks(mode->lineEdit(), QStringLiteral("Average"));
+  QTest::keyClicks(mode, QStringLiteral("Average"));
   EXPECT_NE(window.cbMode.text(), "Average");
-  QTest::keyClick(mode->lineEdit(), Qt::Key_Return);
+  QTest::keyClick(mode, Qt::Key_Return);
   EXPECT_EQ(window.cbMode.text(), "Average");
   EXPECT_TRUE(window.cbAverage.visible());
   EXPECT_EQ(presses, 0);
-  QTest::keyClick(mode->lineEdit(), Qt::Key_Return);
+  QTest::keyClick(mode, Qt::Key_Return);
   EXPECT_EQ(presses, 1);
   // Tab goes to what the text has opened.
   dialog->activateWindow();
@@ -229,8 +288,8 @@ TEST_F(FormsTest, EnterOnATypedModeTakesItAndNoMore) {
   for (const char* name : {"Sample", "Average"}) {
     mode->setFocus();
     mode->lineEdit()->selectAll();
-    QTest::keyClicks(mode->lineEdit(), QLatin1String(name));
-    QTest::keyClick(mode->lineEdit(), Qt::Key_Tab);
+    QTest::keyClicks(mode, QLatin1String(name));
+    QTest::keyClick(mode, Qt::Key_Tab);
     EXPECT_EQ(window.cbMode.text(), name);
   }
   EXPECT_EQ(dialog->focusWidget()->objectName(), QStringLiteral("cbAverage"));
@@ -310,6 +369,11 @@ TEST_F(FormsTest, ListKeepsTheEntryThatTheProgramGoesBackTo) {
     QTest::keyClick(folders, Qt::Key_Return);
     EXPECT_EQ(opened, 1);
     EXPECT_EQ(window.dirCSV.chosenText(), "a");
+    dialog.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    window.dirCSV.items = {"..", "b", "c"};
+    QTest::keyClick(folders, Qt::Key_End);
+    EXPECT_EQ(window.dirCSV.chosenText(), "c");
   });
 }
 

@@ -74,11 +74,29 @@ TEST_F(FrontPanelTest, KnobTurnsWithTheCapAndStopsAtItsEnds) {
 TEST_F(FrontPanelTest, KnobTakesATypedValue) {
   const std::tuple<const char*, int, const char*, int> cases[] = {
       // From a detent, what is typed, to a detent.
-      {"knobChan1", 0, "500m", 7}, {"knobChan1", 0, ".5V", 7}, {"knobChan1", 0, "500", 7},
-      {"knobChan1", 8, "2", 9},    {"knobChan1", 4, "2", 0},   {"knobChan1", 3, "300m", 6},
-      {"knobTime", 16, "20", 12},  {"knobTime", 3, "20", 3},   {"knobTime", 16, "20N", 3},
-      {"knobTime", 5, "99s", 28},  {"knobTime", 28, "0", 28},  {"knobTime", 28, "..", 28},
+      {"knobChan1", 0, "500m", 7},
+      {"knobChan1", 0, ".5V", 7},
+      {"knobChan1", 0, "500", 7},
+      {"knobChan1", 8, "2", 9},
+      {"knobChan1", 4, "2", 0},
+      {"knobChan1", 3, "300m", 6},
+      {"knobTime", 16, "20", 12},
+      {"knobTime", 3, "20", 3},
+      {"knobTime", 16, "20N", 3},
+      {"knobTime", 5, "99s", 28},
+      {"knobTime", 28, "0", 28},
+      {"knobTime", 28, "..", 28},
       {"knobTime", 9, ".5m", 16},
+      {"knobChan1", 3, "0,5", 7},
+      {"knobChan1", 3, "1.8 V", 9},
+      // No scale reads so.
+      {"knobChan1", 5, "0.0001", 0},
+      {"knobChan1", 5, "999999", 10},
+      // No value.
+      {"knobChan1", 5, "-5", 5},
+      {"knobChan1", 5, "2e1", 5},
+      {"knobChan1", 5, "5s", 5},
+      {"knobChan1", 5, "1,5,", 5},
   };
   for (const auto& [name, from, typed, wanted] : cases) {
     SCOPED_TRACE(testing::Message() << name << " " << typed);
@@ -88,6 +106,7 @@ TEST_F(FrontPanelTest, KnobTakesATypedValue) {
     EXPECT_EQ(knob.value(), from);
     QTest::keyClick(find(name), Qt::Key_Return);
     EXPECT_EQ(knob.value(), wanted);
+    QTest::keyClick(find(name), Qt::Key_Escape);
   }
   for (const Qt::Key givesUp : {Qt::Key_Escape, Qt::Key_Backspace}) {
     QTest::keyClick(find("knobTime"), Qt::Key_1);
@@ -214,9 +233,10 @@ class Hands : public Played {
     EXPECT_TRUE(QTest::qWaitForWindowActive(line.window()));
     line.setFocus();
     line.selectAll();
-    QTest::keyClick(&line, Qt::Key_Backspace);
-    QTest::keyClicks(&line, toQt(text));
-    QTest::keyClick(&line, end);
+    QWidget* const focused = line.window()->focusWidget();
+    QTest::keyClick(focused, Qt::Key_Backspace);
+    QTest::keyClicks(focused, toQt(text));
+    QTest::keyClick(focused, end);
   }
 
   bool areOnKeys_;

@@ -5,6 +5,7 @@
 #include <QScrollArea>
 #include <algorithm>
 
+#include "ElidedLabel.h"
 #include "MainFormTest.h"
 #include "QtValues.h"
 #include "TextGrowth.h"
@@ -28,6 +29,10 @@ Lines cutTexts(QWidget& form) {
                          : label != nullptr ? label->text()
                          : box != nullptr   ? box->title()
                                             : QString();
+    if (const auto* line = qobject_cast<const ElidedLabel*>(widget)) {
+      if (line->isCut()) cut.push_back(fromQt(text));
+      continue;
+    }
     const int needed =
         qMax(widget->minimumSizeHint().width(),
              widget->fontMetrics().horizontalAdvance(text) + (box != nullptr ? 18 : 0));
@@ -53,6 +58,9 @@ TEST_F(LayoutTest, ANoticeIsNotCutWhileTheRowHasRoom) {
 }
 
 TEST_F(LayoutTest, EveryWindowFitsASmallScreenInEveryLanguageWithNothingCut) {
+  // As long as results are.
+  for (ValueLabel& result : main.lblMeasure)
+    result.caption = result.index() % 2 == 0 ? "Duty Cycle(2): 50.00 %" : "-Width(1) : -500.0 ms";
   for (MenuEntry* language :
        {&main.mnbLA1, &main.mnbLA2, &main.mnbLA3, &main.mnbLA4, &main.mnbLA5}) {
     language->choose();

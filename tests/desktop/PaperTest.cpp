@@ -7,6 +7,7 @@
 #include "DesktopProgram.h"
 #include "QtImages.h"
 #include "QtValues.h"
+#include "Regions.h"
 
 namespace tracewell {
 
@@ -30,7 +31,7 @@ TEST_F(PaperTest, TracesLieUprightOnTheGridOfAPageThatLiesAcross) {
   page.title = "Tracewell  2026-03-15";
   page.captions = {"Volts/Div voie 1 500.0 mV", "SEC/Div 500.0 us"};
   const std::tuple<int, double, double, double> levels[] = {
-      {1, -250, 250, 150}, {2, -250, 250, -50}, {3, 100, 200, 75}};
+      {1, -250, 250, 160}, {2, -250, 250, -60}, {3, 100, 200, 75}};
   for (const auto& [number, from, to, level] : levels)
     page.traces.push_back({number, "Chan" + std::to_string(number), {from, to}, {level, level}});
   printer.printToFile(path);
@@ -54,6 +55,16 @@ TEST_F(PaperTest, TracesLieUprightOnTheGridOfAPageThatLiesAcross) {
   const auto isBlack = [](QColor ink) { return ink.lightness() < 100 && ink.saturation() < 20; };
   const auto [top, bottom] = reach(false, picture.width() * 3 / 5, isBlack);
   const auto [left, right] = reach(true, (top + bottom) / 3, isBlack);
+  const Regions lines = {picture.convertToFormat(QImage::Format_RGB32), Qt::white};
+  const auto expectLines = [&lines](const QRect& across, int divisions) {
+    const auto found = lines.runs(Qt::black, across, 0.02);
+    ASSERT_EQ(found.size(), divisions + 1);
+    for (int i = 0; i <= divisions; ++i)
+      EXPECT_NEAR(found[i].first,
+                  found[0].first + (found.last().first - found[0].first) * i / divisions, 2);
+  };
+  expectLines({left - 2, top + (bottom - top) * 9 / 20, right - left + 5, 1}, 10);
+  expectLines({left + (right - left) * 11 / 20, top - 2, 1, bottom - top + 5}, 8);
   const QColor inks[] = {{0x9a, 0x5b, 0x00}, {0x00, 0x4f, 0x87}, {0x1d, 0x6b, 0x2a}};
   for (const auto& [number, from, to, level] : levels) {
     SCOPED_TRACE(number);
@@ -72,6 +83,15 @@ TEST_F(PaperTest, TracesLieUprightOnTheGridOfAPageThatLiesAcross) {
     EXPECT_NEAR(first, left + (right - left) * (from + 250) / 500, 4);
     // The last dash may end before the trace.
     EXPECT_NEAR(last, left + (right - left) * (to + 250) / 500, number == 3 ? 20 : 4);
+    // Below the grid each is explained, one after the other.
+    const double unit = (right - left) / 280.0;
+    QRect key;
+    for (int y = bottom + 3; y < picture.height(); ++y)
+      for (int x = left; x <= right; ++x)
+        if (isInk(picture.pixelColor(x, y))) key |= QRect(x, y, 1, 1);
+    EXPECT_NEAR(key.left(), left + 40 * unit * (number - 1), 3);
+    EXPECT_TRUE(key.right() > key.left() + 14 * unit && key.right() < key.left() + 38 * unit);
+    EXPECT_LT(key.bottom(), bottom + 9 * unit);
   }
 }
 

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QTableWidget>
 #include <fstream>
 
@@ -60,18 +62,6 @@ class RecorderWindowTest : public testing::Test {
   RecorderWindow* window = nullptr;
 };
 
-/// Whatever scale an instrument has: 2.5, 5.0, 7.5, and not 3, 5, 8.
-TEST(RecorderGraphTest, NumbersOfAnAxisAreThoseOfItsLines) {
-  RecorderGraph graph(nullptr);
-  const std::tuple<double, int> cases[] = {{2.5, 1}, {0.25, 2}, {0.002, 0}, {1.25, 2}, {20, 0}};
-  for (const auto& [step, decimals] : cases) {
-    RecorderPicture picture;
-    picture.y[0] = {"V", -4 * step, 4 * step, step};
-    graph.showPicture(picture, {}, {});
-    EXPECT_EQ(graph.yAxis->numberPrecision(), decimals) << step;
-  }
-}
-
 TEST_F(RecorderWindowTest, KeepsFollowsStepsPinsShowsLogsAndExports) {
   const RecordStore& store = recorder().recorder().store();
   RecorderView& view = window->view();
@@ -90,8 +80,33 @@ TEST_F(RecorderWindowTest, KeepsFollowsStepsPinsShowsLogsAndExports) {
   find<QPushButton>("pin").click();
   ASSERT_EQ(store.pinned().size(), 1U);
   EXPECT_EQ(find<QComboBox>("pins").itemText(1), QStringLiteral("as <b>found</b>"));
+  const auto said = [&] {
+    QApplication::processEvents();
+    return fromQt(find<QLabel>("recorderStatus").text());
+  };
+  const auto pinSays = [&](const char* typed) {
+    find<QLineEdit>("pinName").setText(QLatin1String(typed));
+    said();
+    return fromQt(find<QPushButton>("pin").text());
+  };
+  EXPECT_EQ(pinSays(""), "Let go");
+  EXPECT_EQ(find<QComboBox>("pins").currentIndex(), 1);
+  EXPECT_EQ(find<QComboBox>("pins").itemText(0), QStringLiteral("Pinned: 1"));
+  EXPECT_EQ(pinSays("other"), "Rename");
+  find<QPushButton>("pin").click();
+  EXPECT_EQ(store.pinned().at(0).second, "other");
+  EXPECT_EQ(pinSays(""), "Let go");
+  find<QPushButton>("pin").click();
+  EXPECT_TRUE(store.pinned().empty());
+  EXPECT_EQ(pinSays(""), "Pin");
+  EXPECT_EQ(find<QComboBox>("pins").itemText(0), QStringLiteral("Nothing pinned"));
+  EXPECT_FALSE(find<QComboBox>("pins").isEnabled());
 
+  find<QPushButton>("copy").click();
+  EXPECT_EQ(said(), "Copied");
+  EXPECT_TRUE(QGuiApplication::clipboard()->text().startsWith("Time (s)\tCH1 (V)"));
   find<QPushButton>("showInPanel").click();
+  EXPECT_EQ(said(), "It lies over the live traces now");
   const Plot& reference = desktop.program.main.graphDSO.plot(ScopeGraph::firstReference);
   EXPECT_TRUE(reference.isShown());
 
@@ -124,8 +139,25 @@ TEST_F(RecorderWindowTest, KeepsFollowsStepsPinsShowsLogsAndExports) {
   };
   const auto exported = view.exported();
   EXPECT_EQ(lines("part.csv"), 1 + 500 * (exported.end - exported.first));
+  EXPECT_EQ(said(), "Saved " + (folder.path() / "part.csv").string());
 
-  find<RecorderLogBar>("logBar").startInto(folder.path() / "log.csv");
+  auto& bar = find<RecorderLogBar>("logBar");
+  find<QPushButton>("log").click();
+  EXPECT_TRUE(bar.isVisible());
+  Lines logged;
+  for (const QAction* entry : bar.findChild<QMenu*>()->actions())
+    if (entry->isChecked()) logged.push_back(fromQt(entry->text()));
+  EXPECT_EQ(logged, (Lines{"Peak to peak  (vpp)", "RMS  (rms)", "Frequency  (freq)"}));
+  for (const char* limits : {"vpp > 1 V; high", "; vpp > 9 V ;"}) {
+    find<QLineEdit>("logLimits").setText(QLatin1String(limits));
+    EXPECT_EQ(recorder().recorder().log(), nullptr);
+    bar.startInto(folder.path() / "log.csv");
+    EXPECT_EQ(said().substr(0, 18), *limits == ';' ? "" : "Not a limit: high.");
+  }
+  EXPECT_EQ(find<QPushButton>("logStart").text(), QStringLiteral("Stop the log"));
+  for (const char* part : {"logQuantities", "logLimits", "logPins", "logRings"})
+    EXPECT_FALSE(find<QWidget>(part).isEnabled());
+  EXPECT_TRUE(find<QLabel>("logState").text().contains(QLatin1String("log.csv")));
   QTest::keyClick(window, Qt::Key_F);
   EXPECT_TRUE(QTest::qWaitFor([&] { return view.isFollowing(); }, 2000));
   // The log goes on while the window is closed.
@@ -134,7 +166,9 @@ TEST_F(RecorderWindowTest, KeepsFollowsStepsPinsShowsLogsAndExports) {
   QTest::keyClick(&strip, Qt::Key_F9);
   EXPECT_FALSE(window->isVisible());
   waitForRecords(store.end() + 2);
-  recorder().recorder().stopLog();
+  find<QPushButton>("logStart").click();
+  EXPECT_EQ(said(), "The log has ended");
+  EXPECT_EQ(recorder().recorder().log(), nullptr);
   EXPECT_GE(lines("log.csv"), 3);
   entry()->trigger();
   EXPECT_TRUE(window->isVisible());
@@ -142,6 +176,19 @@ TEST_F(RecorderWindowTest, KeepsFollowsStepsPinsShowsLogsAndExports) {
 }
 
 TEST_F(RecorderWindowTest, FitsASmallScreenInEveryLanguage) {
+  // What is said with words, of whatever kind of widget.
+  const auto said = [this] {
+    QStringList texts;
+    for (const QObject* part : window->findChildren<QObject*>()) {
+      for (const char* kind : {"text", "toolTip", "accessibleName", "placeholderText"})
+        texts << part->property(kind).toString();
+      if (const auto* box = qobject_cast<const QComboBox*>(part))
+        for (int i = 0; i < box->count(); ++i) texts << box->itemText(i);
+    }
+    texts << window->windowTitle().section(QLatin1Char(' '), 0, 0);
+    return texts.filter(QRegularExpression(QStringLiteral("[a-z]{3}")));
+  };
+  const QStringList english = said();
   for (int language = 1; language <= 5; ++language) {
     desktop.program.languageMenu.mnbLA_Click(static_cast<std::int16_t>(language));
     find<QPushButton>("log").setChecked(true);
@@ -150,6 +197,16 @@ TEST_F(RecorderWindowTest, FitsASmallScreenInEveryLanguage) {
       EXPECT_LE(window->minimumSizeHint().width(), 1024) << language << mode;
       EXPECT_LE(window->minimumSizeHint().height(), 700 - 40) << language << mode;
     }
+    for (const auto& [button, keys] : {std::pair("copy", "Ctrl+C"),
+                                       {"save", "Ctrl+S"},
+                                       {"export", "Ctrl+E"},
+                                       {"log", "Ctrl+L"},
+                                       {"follow", "F"}})
+      EXPECT_EQ(find<QAbstractButton>(button).shortcut(), QKeySequence(QLatin1String(keys)));
+    for (const QString& text : said())
+      EXPECT_TRUE(language == 1 || language == 3 || text.startsWith(QLatin1String("vpp >")) ||
+                  !english.contains(text))
+          << language << fromQt(text);
     for (const auto* const button : window->findChildren<QPushButton*>()) {
       const bool fits = !button->isVisible() || button->width() >= button->sizeHint().width();
       EXPECT_TRUE(fits) << language << fromQt(button->text());
@@ -159,6 +216,9 @@ TEST_F(RecorderWindowTest, FitsASmallScreenInEveryLanguage) {
       const bool isNamed =
           !part->accessibleName().isEmpty() || !part->property("text").toString().isEmpty();
       EXPECT_TRUE(!isStop || isNamed) << fromQt(part->objectName());
+      const bool isTipped = qobject_cast<const QAbstractButton*>(part) != nullptr ||
+                            qobject_cast<const QComboBox*>(part) != nullptr;
+      EXPECT_TRUE(!isStop || !isTipped || !part->toolTip().isEmpty()) << fromQt(part->objectName());
     }
   }
 }

@@ -30,13 +30,56 @@ static std::string difference(QPlainTextEdit& box, QPlainTextEdit& other) {
   return told.str();
 }
 
-/// Beside an ordinary box, which lays out every row.
-TEST(ReplyBoxTest, ShowsAndGivesWhatAnOrdinaryBoxDoes) {
+/// As many whole numbers in a row as have room side by side.
+static QStringList rowsOf(const QString& numbers, const QPlainTextEdit& box) {
+  const qreal room = box.viewport()->width() - 2 * box.document()->documentMargin();
+  const qreal letter = QFontMetricsF(box.font()).horizontalAdvance('0');
+  QStringList rows(1);
+  for (const QString& number : numbers.chopped(1).split(QLatin1Char(','))) {
+    const auto longer = static_cast<double>(rows.last().size() + number.size() + 1);
+    if (longer * letter > room) rows << QString();
+    rows.last() += number + QLatin1Char(',');
+  }
+  return rows;
+}
+
+static void takeFocus(QWidget& widget) {
+  QFocusEvent in(QEvent::FocusIn);
+  QApplication::sendEvent(&widget, &in);
+}
+
+TEST(ReplyBoxTest, RowsOfARecordEndBehindACommaAndShowAsWhenAllAreLaidOut) {
   QString record;
   for (int i = 0; i < 500; ++i) record += QString::number(i * 37 % 250 - 125) + ",";
+  QWidget window;
+  ReplyBox box(&window);
+  ReplyBox whole(&window);
+  for (ReplyBox* one : {&box, &whole}) {
+    one->setReadOnly(true);
+    one->resize(500, 90);
+  }
+  window.show();
+  for (const QString& shown : {record, record + "\n" + record}) {
+    for (ReplyBox* one : {&box, &whole}) one->setPlainText(shown);
+    takeFocus(whole);
+    EXPECT_EQ(difference(box, whole), "");
+    for (const int row : {3, 24, 0}) {
+      for (ReplyBox* one : {&box, &whole}) one->verticalScrollBar()->setValue(row);
+      EXPECT_EQ(difference(box, whole), "") << row;
+    }
+    const QTextLayout& layout = *box.document()->begin().layout();
+    QStringList rows;
+    for (int i = 0; i < layout.lineCount(); ++i)
+      rows << record.mid(layout.lineAt(i).textStart(), layout.lineAt(i).textLength());
+    EXPECT_EQ(rows, rowsOf(record, box));
+  }
+}
+
+/// Beside an ordinary box, which lays out every row.
+TEST(ReplyBoxTest, ShowsAndGivesWhatAnOrdinaryBoxDoes) {
   QString words;
   for (int i = 0; i < 300; ++i) words += QString(i % 7 + 1, QLatin1Char('w')) + " ";
-  for (const QString& text : {record + "\n", record, words + "\nlast\n", QString("1,2\n")}) {
+  for (const QString& text : {words + "\nlast\n", words, QString("1,2\n")}) {
     QWidget window;
     ReplyBox box(&window);
     QPlainTextEdit ordinary(&window);

@@ -335,7 +335,7 @@ int numberFrom(const char* variable, int otherwise) {
 /// TRACEWELL_ORACLE_ACTIONS makes the trial longer, TRACEWELL_ORACLE_SEED repeats one. Of each
 /// cause the first look is told.
 TEST(Oracle, WhatIsShownWithoutAMarkIsTrue) {
-  const int total = numberFrom("TRACEWELL_ORACLE_ACTIONS", 6000);
+  const int total = numberFrom("TRACEWELL_ORACLE_ACTIONS", 6000 / stepsShare);
   const int seed = numberFrom("TRACEWELL_ORACLE_SEED", 1);
   Oracle oracle(static_cast<unsigned>(seed));
   while (oracle.actions < total) oracle.act();

@@ -271,6 +271,21 @@ TEST_F(RecorderTest, KeepsWhatThePanelFetchesAndLogsEachSweepOnce) {
   EXPECT_TRUE(takeWire().empty());
 }
 
+/// Its window may be closed.
+TEST_F(RecorderTest, ThePanelSaysThatRowsOfTheLogWait) {
+  const auto path = folder.path() / "log.csv";
+  recorder.startLog(path, {{Quantity::period}, {}}, {});
+  std::filesystem::remove(path);
+  std::filesystem::create_directory(path);
+  arrive(sineRecord());
+  clock.run(2000);
+  recorder.tick();
+  EXPECT_EQ(main.lblStatus.caption().find("Recorder's log: Waiting in memory: 1 row. "), 0U)
+      << main.lblStatus.caption();
+  recorder.stopLog();
+  EXPECT_EQ(main.lblStatus.caption(), "");
+}
+
 TEST_F(RecorderTest, ARecordTakesTheFirstReferenceThatIsFree) {
   main.graphDSO.plot(3).visible = true;
   main.channels[0].drawnShift = 25;

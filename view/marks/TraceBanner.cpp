@@ -65,9 +65,9 @@ std::string notice(const frmDSO& main, const Words& words) {
   const bool hasTraces = firstTrace(main, [](const Channel&) { return true; }) != nullptr;
   if (!main.tmDSO.enabled()) {
     if (!hasTraces) return "";
-    return main.shownMessages.cmdStart == startMessage
-               ? words.say("Stopped: press %1 to go on", {main.cmdStart.caption()})
-               : words.say("Stopped");
+    // The button may read "Stop" still; its key starts all the same.
+    const bool readsStart = main.shownMessages.cmdStart == startMessage;
+    return words.say("Stopped: press %1 to go on", {readsStart ? main.cmdStart.caption() : "F5"});
   }
   if (main.known.isStopped())
     return words.say("The instrument is stopped: press %1", {main.cmdRunStop.caption()});

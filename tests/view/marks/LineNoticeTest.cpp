@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Bench.h"
+#include "Doing.h"
 
 namespace tracewell {
 
@@ -57,14 +58,16 @@ TEST_F(LineNoticeTest, SaysWhatIsWrongOnTheLineAsLongAsItIs) {
   EXPECT_EQ(main.graphDSO.marks().banner.text, "");
 }
 
-/// The dialog has stopped the fetch, so no record is missed.
+/// The dialog has stopped the fetch, so no record is missed. What stood still is not paused by it,
+/// but by what was said before.
 TEST_F(LineNoticeTest, SaysOverAnOpenDialogThatNobodyIsThere) {
   port.answerLikeAnInstrument();
   port.answer(":TRIG:SOUR?", {"1\n"});
   const auto banner = [this] { return main.graphDSO.marks().banner.text; };
+  std::string expected;
   windows.user["frmTrig"] = [&] {
     const ComboBox& source = program.trigger.cbTrig(0);
-    EXPECT_EQ(banner(), "Traces paused for Trigger");
+    EXPECT_EQ(banner(), expected);
     EXPECT_FALSE(source.isUnread());
     port.lineReport.failure = "no such device";
     port.lost.raise();
@@ -76,9 +79,19 @@ TEST_F(LineNoticeTest, SaysOverAnOpenDialogThatNobodyIsThere) {
     clock.run(1000);
     EXPECT_EQ(banner(), "No answer to the last 3 questions");
     port.lineReport = {};
+    program.trigger.cmdCancel.press();
   };
-  main.cmdTrig.press();
-  EXPECT_EQ(banner(), "");
+  for (const bool runs : {true, false}) {
+    for (const bool isMeasuring : {false, true}) {
+      const std::string outer = isMeasuring ? "Measuring" : "";
+      std::optional<Doing> doing;
+      if (isMeasuring) doing.emplace(main, [&](const Words&) { return outer; });
+      main.tmDSO.enabled = runs;
+      expected = runs ? "Traces paused for Trigger" : outer;
+      main.cmdTrig.press();
+      EXPECT_EQ(banner(), outer);
+    }
+  }
 }
 
 }  // namespace tracewell
