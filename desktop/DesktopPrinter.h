@@ -28,7 +28,7 @@ class DesktopPrinter : public Printer {
   void finished();
   void turnPaper(QPageLayout::Orientation orientation);
   template <class Paint>
-  void paint(Paint paintPage);
+  bool paint(Paint paintPage);
 
   std::optional<QPrinter> printer_;
   bool isSetUp_ = false;

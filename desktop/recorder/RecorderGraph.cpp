@@ -62,24 +62,29 @@ void placeInCorner(QCPItemText& text, double x, double y) {
   text.position->setCoords(x, y);
 }
 
-/// Above the place, else beside it, higher or lower, where there is nothing yet; empty if nowhere.
+/// Above the place, else beside it, ever farther away, where there is nothing yet; empty if
+/// nowhere.
 QRectF roomBeside(const QPointF& place, const QSizeF& size, const QRectF& inside,
                   const std::vector<QRectF>& taken) {
   constexpr qreal gap = 5;
-  const QPointF corners[] = {{-size.width() / 2, -size.height() - gap},
-                             {gap, -size.height() / 2},
-                             {-size.width() - gap, -size.height() / 2},
-                             {gap, -size.height() - gap},
-                             {-size.width() - gap, -size.height() - gap},
-                             {-size.width() / 2, -2 * size.height() - gap},
-                             {gap, gap},
-                             {-size.width() - gap, gap},
-                             {gap, size.height() + gap}};
-  for (const QPointF& corner : corners) {
-    const QRectF room(place + corner, size);
-    const bool isFree =
-        std::ranges::none_of(taken, [&](const QRectF& other) { return other.intersects(room); });
-    if (isFree && inside.contains(room)) return room;
+  constexpr int rings = 4;
+  for (int ring = 0; ring < rings; ++ring) {
+    const qreal away = gap + ring * size.height();
+    const qreal left = -size.width() - away;
+    const qreal above = -size.height() - away;
+    const QPointF corners[] = {{-size.width() / 2, above},
+                               {away, -size.height() / 2},
+                               {left, -size.height() / 2},
+                               {away, above},
+                               {left, above},
+                               {away, away},
+                               {left, away}};
+    for (const QPointF& corner : corners) {
+      const QRectF room(place + corner, size);
+      const bool isFree =
+          std::ranges::none_of(taken, [&](const QRectF& other) { return other.intersects(room); });
+      if (isFree && inside.contains(room)) return room;
+    }
   }
   return {};
 }
@@ -151,6 +156,7 @@ void RecorderGraph::setLook(const RecorderLook& look) {
     text->setFont(small);
     text->setBrush(ground);
   }
+  for (QCPItemText* name : cursorNames_) name->setBrush(ground);
   badge_->setPen(QPen(look.grid));
   badge_->setColor(RecorderLook::cursor);
   note_->setColor(RecorderLook::gap);
