@@ -139,6 +139,15 @@ TEST_F(DrawingTest, GridHasTenByEightDivisionsWithFiveTicksEach) {
   EXPECT_TRUE(find(grid, {at(-50, 0).x(), 5, 1, 20}, 1.2).isEmpty());
 }
 
+TEST_F(DrawingTest, FocusIsAFrameAroundThePlot) {
+  QFocusEvent focus(QEvent::FocusIn);
+  QApplication::sendEvent(&view, &focus);
+  paint();
+  const QColor colour = view.palette().color(QPalette::Highlight);
+  EXPECT_EQ(find(colour), area.rect());
+  EXPECT_TRUE(find(colour, area.rect().adjusted(3, 3, -3, -3)).isEmpty());
+}
+
 TEST_F(DrawingTest, OldTracesArePaleOnTheScreenAlone) {
   draw(1, {{-200, 0}, {200, 0}});
   const auto strength = [&] {
