@@ -8,6 +8,7 @@
 #include <cmath>
 
 #include "DesktopWords.h"
+#include "FreePlace.h"
 #include "QtValues.h"
 #include "RecorderWords.h"
 #include "TrueNumbers.h"
@@ -60,33 +61,6 @@ QCPItemText* makeText(QCustomPlot& plot, Qt::Alignment alignment) {
 void placeInCorner(QCPItemText& text, double x, double y) {
   text.position->setType(QCPItemPosition::ptAxisRectRatio);
   text.position->setCoords(x, y);
-}
-
-/// Above the place, else beside it, ever farther away, where there is nothing yet; empty if
-/// nowhere.
-QRectF roomBeside(const QPointF& place, const QSizeF& size, const QRectF& inside,
-                  const std::vector<QRectF>& taken) {
-  constexpr qreal gap = 5;
-  constexpr int rings = 4;
-  for (int ring = 0; ring < rings; ++ring) {
-    const qreal away = gap + ring * size.height();
-    const qreal left = -size.width() - away;
-    const qreal above = -size.height() - away;
-    const QPointF corners[] = {{-size.width() / 2, above},
-                               {away, -size.height() / 2},
-                               {left, -size.height() / 2},
-                               {away, above},
-                               {left, above},
-                               {away, away},
-                               {left, away}};
-    for (const QPointF& corner : corners) {
-      const QRectF room(place + corner, size);
-      const bool isFree =
-          std::ranges::none_of(taken, [&](const QRectF& other) { return other.intersects(room); });
-      if (isFree && inside.contains(room)) return room;
-    }
-  }
-  return {};
 }
 
 QString lines(const std::vector<std::string>& texts) {
