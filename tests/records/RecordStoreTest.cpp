@@ -80,35 +80,6 @@ TEST_F(RecordStoreTest, ComesBackToTheByteAndTakesNoMoreThanItMay) {
   EXPECT_LT(store.bytes(), 10'000'000U);
 }
 
-TEST_F(RecordStoreTest, ASweepIsKeptOnceAndGapsAreTold) {
-  keep(1, 1);
-  EXPECT_EQ(keep(2, 1), 1);
-  EXPECT_EQ(keep(1, 1), 0);
-  EXPECT_EQ(store.facts(0).fetches, 2);
-  using Change = std::function<void()>;
-  const std::pair<Change, RecordGap> cases[] = {
-      {[] {}, {}},
-      {[&] { next.madeUnder.voltsPerDivision.reset(); }, {.hasOtherScales = true}},
-      {[&] { next.madeUnder.stop = 5; }, {}},
-      {[&] { next.madeUnder.stop.reset(); }, {.wasStopped = true}},
-      {[&] { next.madeUnder.stop = 6; }, {}},
-      {[&] {
-         ++next.line.openings;
-         next.madeUnder.stop.reset();
-       },
-       {.wasUnplugged = true}},
-      {[&] {
-         next.line = {34, 2};
-       },
-       {.isAnotherInstrument = true}},
-      {[&] { next.fetchedAt += 5000; }, {.wasSilent = true}}};
-  int value = 10;
-  for (const auto& [change, gap] : cases) {
-    change();
-    EXPECT_EQ(store.facts(keep(1, ++value)).gap, gap) << value;
-  }
-}
-
 TEST_F(RecordStoreTest, RecordsOfOneStopArePartnersAndShareRowsOfTheTable) {
   keep(1, 100);
   keep(2, 200);
