@@ -80,6 +80,19 @@ TEST_F(RecordStoreTest, ComesBackToTheByteAndTakesNoMoreThanItMay) {
   EXPECT_LT(store.bytes(), 10'000'000U);
 }
 
+TEST_F(RecordStoreTest, WhatLiesBeforeARecordIsTold) {
+  keep(1, 1);
+  next.madeUnder.mathEntry = 1;
+  EXPECT_EQ(store.facts(keep(1, 2)).gap, RecordGap{.hasOtherScales = true});
+  next.madeUnder.stop = 5;
+  keep(1, 3);
+  next.madeUnder.stop.reset();
+  EXPECT_EQ(store.facts(keep(1, 4)).gap, RecordGap{.wasStopped = true});
+  // The same bytes once more, of a line that has been opened anew.
+  ++next.line.openings;
+  EXPECT_EQ(store.facts(keep(1, 4)).gap, RecordGap{.wasUnplugged = true});
+}
+
 TEST_F(RecordStoreTest, RecordsOfOneStopArePartnersAndShareRowsOfTheTable) {
   keep(1, 100);
   keep(2, 200);

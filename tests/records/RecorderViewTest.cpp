@@ -8,6 +8,7 @@
 #include "MeasurementRow.h"
 #include "PanelReference.h"
 #include "Recorder.h"
+#include "RecorderCursors.h"
 #include "RecorderWords.h"
 #include "SavedRecords.h"
 
@@ -155,6 +156,16 @@ TEST_F(RecorderViewTest, TwoRecordsAreComparedOnlyWhereTheyAreOfOneSweep) {
   EXPECT_NEAR(view.picture().curves[0].x[6], 0.9, 0.01);
   EXPECT_NE(value(Quantity::phase, 1), "not of one sweep");
   EXPECT_EQ(view.exported().end - view.exported().first, 2);
+}
+
+TEST_F(RecorderViewTest, CursorsSayWhoseVoltsTheyAre) {
+  for (const int channel : {1, 2}) keep(channel, sineRecord(100 / channel));
+  RecorderCursors cursors;
+  EXPECT_EQ(cursorTexts(cursors, view.picture(), 2), Lines());
+  cursors.kind = RecorderCursors::up;
+  cursors.move(0, 2);
+  EXPECT_EQ(cursorTexts(cursors, view.picture(), 2).at(0), "CH2");
+  EXPECT_EQ(cursorTexts(cursors, view.picture(), 2).at(1), "P1 = 2.00 V");
 }
 
 TEST_F(RecorderViewTest, StatisticsAreThoseOfTheStretch) {
