@@ -178,6 +178,23 @@ TEST_F(RecorderViewTest, StatisticsAreThoseOfTheStretch) {
   EXPECT_EQ(view.statistics(Quantity::minimum, 1)[1].value, "1.750 V");
 }
 
+TEST_F(RecorderViewTest, TheStripShowsWhatIsPointedAt) {
+  RecordTimeline& line = view.timeline;
+  EXPECT_FALSE(line.at(0.5, 0));
+  for (int i = 0; i < 120; ++i) keepLevel(1 + i % 2, i);
+  const auto shareOf = [&](RecordStore::Number number) {
+    return line.columnOf(number, 400) / 400.0;
+  };
+  for (const RecordStore::Number number : {0, 31, 119})
+    EXPECT_EQ(line.at(shareOf(number) + 0.9 / 400, store.facts(number).channel), number);
+  line.zoom(0.05, 0);
+  EXPECT_EQ(line.at(0, 0), 0);
+  line.reveal(119);
+  EXPECT_TRUE(shareOf(119) > 0 && shareOf(119) < 1);
+  line.zoom(1000, 0.5);
+  EXPECT_TRUE(line.showsAll());
+}
+
 class RecorderTest : public ProgramTest {
  protected:
   Recorder recorder{main};
