@@ -148,11 +148,14 @@ TEST_F(AccessibilityTest, ReaderTurnsAKnobAsTheUserDoes) {
 
 /// The mark adds to what the widget says of itself.
 TEST_F(AccessibilityTest, MarkKeepsTheDescription) {
-  main.cbMath.trust = [] { return Trust::unread; };
-  main.cbMath.notifyChanged();
-  EXPECT_EQ(reader(*find("cbMath")).text(QAccessible::Description),
-            QStringLiteral("Sum or difference of the channels. The instrument has not told this "
-                           "value"));
+  const QString own = QStringLiteral("Sum or difference of the channels");
+  for (const auto& [trust, said] :
+       {std::pair(Trust::unread, own + ". The instrument has not told this value"),
+        {Trust::holds, own}}) {
+    main.cbMath.trust = [told = trust] { return told; };
+    main.cbMath.notifyChanged();
+    EXPECT_EQ(reader(*find("cbMath")).text(QAccessible::Description), said);
+  }
   // The mark of a slide stands on its caption, which gets no focus.
   main.slideTrig.trust = [] { return Trust::unread; };
   main.slideTrig.notifyChanged();

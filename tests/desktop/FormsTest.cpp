@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <QAbstractButton>
 #include <QAction>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
@@ -73,7 +75,11 @@ TEST_F(FormsTest, LanguageChangesInAnInstant) {
   EXPECT_LT(std::clock() - start, CLOCKS_PER_SEC / 5);
 }
 
-TEST_F(FormsTest, AWarningIsMarked) {
+TEST_F(FormsTest, WhatTheProgramSetsIsShown) {
+  main.lblConnect.caption = "Stopped & idle";
+  main.cbCh2.value.setQuietly(1);
+  EXPECT_EQ(find<QLabel>("lblConnect")->text(), QStringLiteral("Stopped & idle"));
+  EXPECT_TRUE(find<QAbstractButton>("cbCh2")->isChecked());
   const auto look = [this](bool isWarning) {
     main.lblStatus.sentences = {{"told", isWarning}};
     main.lblStatus.notifyChanged();
