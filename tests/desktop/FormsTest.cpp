@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <QAbstractButton>
-#include <QAccessible>
 #include <QAction>
 #include <QComboBox>
 #include <QLabel>
@@ -11,9 +10,7 @@
 #include <QTest>
 #include <QTimer>
 #include <QTreeWidget>
-#include <algorithm>
 #include <ctime>
-#include <set>
 
 #include "DesktopProgram.h"
 #include "DesktopWindows.h"
@@ -26,44 +23,6 @@ namespace tracewell {
 namespace {
 
 using FormsTest = EveryFormTest;
-
-/// With the groups that it stands in.
-QString heardOf(QAccessibleInterface* reader) {
-  QString heard = reader->text(QAccessible::Description);
-  for (; reader != nullptr; reader = reader->parent())
-    heard += QStringLiteral(" / ") + reader->text(QAccessible::Name);
-  return heard;
-}
-
-/// What a screen reader says of a control: its caption in the chosen language, or a name of its
-/// own. No two that the user comes to are said alike.
-TEST_F(FormsTest, EveryFormHasAWindowAndEveryControlWithANameForScreenReaders) {
-  main.mnbLA3.choose();
-  Lines names;
-  const auto expectNames = [&names](Window& window, QWidget& form) {
-    std::set<QString> heard;
-    names.push_back(window.name());
-    for (Control* control : window.controls()) {
-      EXPECT_TRUE(control->changed) << control->objectName();
-      auto* widget = form.findChild<QWidget*>(toQt(control->objectName()));
-      const bool isMenu = dynamic_cast<MenuEntry*>(control) != nullptr;
-      if (isMenu) continue;  // Menus and their entries are their texts.
-      QAccessibleInterface* reader = QAccessible::queryAccessibleInterface(widget);
-      EXPECT_TRUE(reader != nullptr && !reader->text(QAccessible::Name).isEmpty())
-          << control->objectName();
-      const bool isStop = (widget->focusPolicy() & Qt::TabFocus) != 0;
-      EXPECT_TRUE(!isStop || heard.insert(heardOf(reader)).second) << control->objectName();
-    }
-  };
-  expectNames(main, *form);
-  for (ValueLabel& plot : program.graphStyle.lblPlot)
-    plot.caption = "Load" + std::to_string(plot.index());
-  forEachDialog(expectNames);
-  std::ranges::sort(names);
-  EXPECT_EQ(names, formNames());
-  QAccessibleInterface* close = QAccessible::queryAccessibleInterface(find("cmdClose"));
-  EXPECT_EQ(close->text(QAccessible::Name), QStringLiteral("Fermer"));
-}
 
 TEST(DesktopWords, FollowTheLanguageInEveryWindowAndLeaveWhatIsShown) {
   const ProgramFolderCopy folder;
@@ -118,11 +77,8 @@ TEST_F(FormsTest, LanguageChangesInAnInstant) {
 
 TEST_F(FormsTest, WhatTheProgramSetsIsShown) {
   main.lblConnect.caption = "Stopped & idle";
-  main.cmdStart.caption = "Run & stop";
   main.cbCh2.value.setQuietly(1);
-  main.txtMsg.text = "1,2\r\n";
   EXPECT_EQ(find<QLabel>("lblConnect")->text(), QStringLiteral("Stopped & idle"));
-  EXPECT_EQ(find<QAbstractButton>("cmdStart")->text(), QStringLiteral("Run && stop"));
   EXPECT_TRUE(find<QAbstractButton>("cbCh2")->isChecked());
   const auto look = [this](bool isWarning) {
     main.lblStatus.sentences = {{"told", isWarning}};
@@ -130,8 +86,6 @@ TEST_F(FormsTest, WhatTheProgramSetsIsShown) {
     return find("lblStatus")->grab().toImage();
   };
   EXPECT_TRUE(look(true) != look(false));
-  EXPECT_EQ(find<QPlainTextEdit>("txtMsg")->toPlainText(), QStringLiteral("1,2\n"));
-  EXPECT_TRUE(takeWire().empty());
 }
 
 TEST_F(FormsTest, CursorsFollowTheMouseAndTheArrowKeys) {
@@ -142,9 +96,7 @@ TEST_F(FormsTest, CursorsFollowTheMouseAndTheArrowKeys) {
   QApplication::processEvents();
   Cursor& cur1 = main.graphDSO.cursor("cur1");
   const QPoint centre = plot->rect().center();
-  QTest::mousePress(plot, Qt::LeftButton, {}, centre);
-  QTest::mouseMove(plot, centre + QPoint(plot->width() / 10, 0));
-  QTest::mouseRelease(plot, Qt::LeftButton, {}, centre + QPoint(plot->width() / 10, 0));
+  drag(*plot, centre, centre + QPoint(plot->width() / 10, 0));
   EXPECT_NEAR(cur1.xPosition(), 50, 2);
   const double before = cur1.xPosition();
   QTest::keyClick(view, Qt::Key_Left, Qt::ShiftModifier);
@@ -192,9 +144,7 @@ TEST_F(FormsTest, CursorsFollowTheMouseAndTheArrowKeys) {
   marker.yPosition = -100;
   marker.visible = true;
   const QPoint onMarker = centre + QPoint(-plot->width() / 4, plot->height() / 4);
-  QTest::mousePress(plot, Qt::LeftButton, {}, onMarker);
-  QTest::mouseMove(plot, onMarker + QPoint(0, 30));
-  QTest::mouseRelease(plot, Qt::LeftButton, {}, onMarker + QPoint(0, 30));
+  drag(*plot, onMarker, onMarker + QPoint(0, 30));
   ASSERT_EQ(marker.yPosition(), -100);
   QTest::keyClick(view, Qt::Key_C);
   QTest::keyClick(view, Qt::Key_Right);
@@ -307,20 +257,6 @@ TEST_F(FormsTest, DialogBeginsWithItsFirstBoxAtEachOpening) {
     });
     screen.showModal(program.rs232);
   }
-}
-
-TEST_F(FormsTest, UnreadValueIsMarkedForEyesAndScreenReaders) {
-  main.known.typed(":TIM:SCAL 1");
-  QWidget* knob = find("knobTime");
-  const auto description = [knob] {
-    return QAccessible::queryAccessibleInterface(knob)->text(QAccessible::Description);
-  };
-  const QString marked = description();
-  const QRect mark = knob->findChild<QWidget*>()->geometry();
-  EXPECT_TRUE(knob->rect().contains(mark));
-  EXPECT_LT(qAbs(mark.center().x() - knob->rect().center().x()), 3);
-  main.known.answered(":TIM:SCAL?", "2.000 ns");
-  EXPECT_NE(marked, description());
 }
 
 /// The shortcuts of the menu work there, too, but for those that edit the line.

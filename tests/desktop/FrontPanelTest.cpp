@@ -29,12 +29,6 @@ void wheel(QWidget& widget, double notches) {
   QApplication::sendEvent(&widget, &event);
 }
 
-void drag(QWidget& widget, QPoint from, QPoint to) {
-  QTest::mousePress(&widget, Qt::LeftButton, {}, from);
-  QTest::mouseMove(&widget, to);
-  QTest::mouseRelease(&widget, Qt::LeftButton, {}, to);
-}
-
 /// Takes hold of a slide somewhere and lets go at an end of it.
 void dragToEnd(QWidget& slide, bool isHigh) {
   const bool isVertical = slide.height() > slide.width();

@@ -14,6 +14,12 @@
 
 namespace tracewell {
 
+inline void drag(QWidget& widget, QPoint from, QPoint to) {
+  QTest::mousePress(&widget, Qt::LeftButton, {}, from);
+  QTest::mouseMove(&widget, to);
+  QTest::mouseRelease(&widget, Qt::LeftButton, {}, to);
+}
+
 /// Real widgets bound to the whole program on a scripted port.
 class MainFormTest : public ProgramTest {
  protected:

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "FuzzTargets.h"
+/// What reads bytes from outside, under libFuzzer: the program runs the target that it is called
+/// by, fuzz_setup the setup.
+#include <cstdio>
 
 #include "Bench.h"
 #include "CommandFile.h"
@@ -8,8 +10,6 @@
 #include "WaveformRecord.h"
 #include "WaveformSetReader.h"
 
-/// One function per kind of bytes that come from outside. An Error is an answer; anything else that
-/// leaves one of them is a fault.
 namespace tracewell {
 namespace {
 
@@ -29,8 +29,6 @@ std::filesystem::path file(const char* name, const std::string& bytes) {
   writeWholeFile(path, bytes);
   return path;
 }
-
-}  // namespace
 
 void captions(const std::string& bytes) {
   file("dso_la1.cap", bytes);
@@ -95,15 +93,36 @@ void reply(const std::string& bytes) {
   if (line.port.query("*IDN?\r\n", 100).find('\n') == std::string::npos) std::abort();
 }
 
-const std::map<std::string, void (*)(const std::string&)> fuzzTargets = {
+const std::map<std::string, void (*)(const std::string&)> targets = {
     {"captions", captions}, {"commands", commands}, {"data", data},   {"description", description},
     {"messages", messages}, {"record", record},     {"reply", reply}, {"report", report},
     {"setup", setup}};
 
-/// What one input has left behind in the program is gone before the next one.
-void forgetTraces() {
-  bench().program.errLog.txtErrLog.text = "";
-  bench().dialogs.runTimeErrors.clear();
+void (*target)(const std::string& bytes) = nullptr;
+
+}  // namespace
+}  // namespace tracewell
+
+extern "C" int LLVMFuzzerInitialize(int*, char*** arguments) {
+  const std::string name = **arguments;
+  const auto found = tracewell::targets.find(name.substr(name.rfind('_') + 1));
+  if (found == tracewell::targets.end()) {
+    std::fputs("Call it by the name of a target, as fuzz_setup.\n", stderr);
+    std::exit(EXIT_FAILURE);
+  }
+  tracewell::target = found->second;
+  return 0;
 }
 
-}  // namespace tracewell
+/// An Error is an answer; anything else that leaves a target is a fault.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
+  try {
+    tracewell::target(std::string(bytes, bytes + size));
+  } catch (const tracewell::Error&) {
+    // Refused with a reason.
+  }
+  // What one input has left behind in the program is gone before the next one.
+  tracewell::bench().program.errLog.txtErrLog.text = "";
+  tracewell::bench().dialogs.runTimeErrors.clear();
+  return 0;
+}

@@ -101,13 +101,10 @@ class RecorderHeld : public RecorderGraphHeld {
     using enum Quantity;
     const double unit = sweep.volts(place) / 50;
     std::array<double, 500> volts{};
-    double sum = 0, squares = 0, aside = 0;
+    double sum = 0, squares = 0;
     for (int i = 0; i < 500; ++i)
       sum += volts.at(static_cast<std::size_t>(i)) = unit * sweep.counts(place, i);
-    for (const double one : volts) {
-      squares += one * one / 500;
-      aside += (one - sum / 500) * (one - sum / 500) / 500;
-    }
+    for (const double one : volts) squares += one * one / 500;
     const auto [lowest, highest] = std::ranges::minmax(volts);
     const auto exactly = [](double value) { return Truth{value, 1e-3 * std::fabs(value)}; };
     if (quantity == maximum) return exactly(highest);
@@ -115,19 +112,11 @@ class RecorderHeld : public RecorderGraphHeld {
     if (quantity == peakToPeak) return exactly(highest - lowest);
     if (quantity == mean) return Truth{sum / 500, 1e-3 * std::fabs(sum / 500) + 1e-9 * unit};
     if (quantity == rms) return exactly(std::sqrt(squares));
-    if (quantity == acRms) return Truth{std::sqrt(aside), 1e-3 * std::sqrt(aside) + 1e-9 * unit};
     const double sample = sweep.seconds / 50;
     const double turn = 1 / sweep.frequency(place);
     if (!isPlain(sweep, place)) return std::nullopt;
-    const double within = std::max(sample / 2, 1e-3 * turn);
-    if (quantity == top) return Truth{1, 3 * unit};
-    if (quantity == base) return Truth{-1, 3 * unit};
     if (quantity == amplitude) return Truth{2, 3 * unit};
-    if (quantity == period) return Truth{turn, within};
-    if (quantity == frequency) return Truth{1 / turn, within / turn / turn};
-    if (quantity == duty) return Truth{50, 100 * sample / turn};
-    if (quantity == riseTime || quantity == fallTime)
-      return Truth{0.29517 * turn, std::max(sample, 0.015 * turn)};
+    if (quantity == period) return Truth{turn, std::max(sample / 2, 1e-3 * turn)};
     if (quantity != delay && quantity != phase) return std::nullopt;
     expect(other == &sweep, "phase: one sweep");
     if (sweep.math != 0) return std::nullopt;

@@ -158,90 +158,39 @@ TEST_F(RecorderViewTest, TwoRecordsAreComparedOnlyWhereTheyAreOfOneSweep) {
   EXPECT_EQ(view.exported().end - view.exported().first, 2);
 }
 
-TEST_F(RecorderViewTest, TheSpectrumNamesItsPeak) {
-  if (!hasSpectra()) GTEST_SKIP();
-  keep(1, sineRecord());
-  view.choice.mode = RecorderMode::spectrum;
-  for (const auto& [isInDecibels, text] :
-       {std::pair(true, "1.000 kHz\n-3.0"), std::pair(false, "1.000 kHz\n70")}) {
-    view.choice.isInDecibels = isInDecibels;
-    const RecorderPicture picture = view.picture();
-    ASSERT_FALSE(picture.labels.empty());
-    EXPECT_TRUE(picture.labels[0].text.starts_with(text)) << picture.labels[0].text;
-    EXPECT_NEAR(picture.x.high, 12500, 1);
-  }
-  next.madeUnder.voltsPerDivision.reset();
-  keepLevel(1, 3);
-  EXPECT_TRUE(view.picture().curves.empty());
-}
-
-TEST_F(RecorderViewTest, CursorsSayWhatTheAxesMean) {
-  keep(1, sineRecord());
+TEST_F(RecorderViewTest, CursorsSayWhoseVoltsTheyAre) {
+  for (const int channel : {1, 2}) keep(channel, sineRecord(100 / channel));
   RecorderCursors cursors;
-  using Texts = std::vector<std::string>;
-  EXPECT_TRUE(cursorTexts(cursors, view.picture(), 1).empty());
-  cursors.kind = RecorderCursors::across;
-  cursors.move(0, 0.25);
-  cursors.move(1, 0.75);
-  EXPECT_EQ(cursorTexts(cursors, view.picture(), 1),
-            (Texts{"|Δt| = 10.00 ms", "1/|Δt| = 100.0 Hz"}));
+  EXPECT_EQ(cursorTexts(cursors, view.picture(), 2), Lines());
   cursors.kind = RecorderCursors::up;
   cursors.move(0, 2);
-  cursors.move(1, 0.5);
-  EXPECT_EQ(cursorTexts(cursors, view.picture(), 1),
-            (Texts{"P1 = 2.00 V", "P2 = 0 mV", "ΔV = 2.00 V"}));
-  keep(2, sineRecord(50));
-  EXPECT_EQ(cursorTexts(cursors, view.picture(), 2)[0], "CH2");
-  view.show(1);
-  next.madeUnder = {};
-  keepLevel(1, 9);
-  EXPECT_EQ(cursorTexts(cursors, view.picture(), 1),
-            (Texts{"P1 = 4.00 div", "P2 = 0.00 div", "Δ = 4.00 div"}));
+  EXPECT_EQ(cursorTexts(cursors, view.picture(), 2).at(0), "CH2");
+  EXPECT_EQ(cursorTexts(cursors, view.picture(), 2).at(1), "P1 = 2.00 V");
 }
 
 TEST_F(RecorderViewTest, StatisticsAreThoseOfTheStretch) {
   for (const int level : {0, 50, 100, 150, 200}) keepLevel(1, level);
   keepLevel(2, 200);
-  EXPECT_TRUE(view.measureMore(3));
   // From the channel's own first record on, which came 7.2 s behind the epoch.
   EXPECT_NE(view.statisticsTitle(2).find(":07 to "), std::string::npos) << view.statisticsTitle(2);
-  EXPECT_TRUE(view.statisticsTitle(1).ends_with("(3 measured so far)")) << view.statisticsTitle(1);
-  EXPECT_FALSE(view.measureMore(10));
-  const auto mean = [&](Quantity quantity) { return view.statistics(quantity, 1)[1].value; };
-  EXPECT_EQ(mean(Quantity::minimum), "1.000 V");
-  EXPECT_EQ(mean(Quantity::frequency), "");
+  while (view.measureMore(3)) continue;
   view.mark(4, 3);
-  EXPECT_EQ(mean(Quantity::minimum), "1.750 V");
-  EXPECT_EQ(view.statistics(Quantity::minimum, 1)[0].value, "2");
+  EXPECT_EQ(view.statistics(Quantity::minimum, 1)[1].value, "1.750 V");
 }
 
-TEST_F(RecorderViewTest, TheStripShowsEveryRecordAtItsTime) {
-  constexpr int width = 400;
+TEST_F(RecorderViewTest, TheStripShowsWhatIsPointedAt) {
   RecordTimeline& line = view.timeline;
   EXPECT_FALSE(line.at(0.5, 0));
-  for (int i = 0; i < 60; ++i) keepLevel(1, i);
-  next.fetchedAt += 60000;
-  for (int i = 0; i < 60; ++i) keepLevel(1 + i % 2, 100 + i);
-  ASSERT_TRUE(store.pin(30, "odd"));
-  const auto picture = line.picture(width);
-  ASSERT_EQ(picture.gaps.size(), 1U);
-  EXPECT_EQ(picture.gaps[0].number, 60);
-  ASSERT_EQ(picture.pins.size(), 1U);
-  EXPECT_EQ(picture.pins[0].column, line.columnOf(30, width));
-  for (const RecordStore::Number number : {0, 31, 59, 119}) {
-    const int column = line.columnOf(number, width);
-    EXPECT_TRUE(picture.columns.at(static_cast<std::size_t>(store.facts(number).channel - 1))
-                    .at(static_cast<std::size_t>(column))
-                    .isAny)
-        << number;
-    EXPECT_EQ(line.at((column + 0.9) / width, store.facts(number).channel), number);
-  }
-  for (int i = 0; i < 10; ++i) line.zoom(0.5, 0);
-  EXPECT_FALSE(line.showsAll());
+  for (int i = 0; i < 120; ++i) keepLevel(1 + i % 2, i);
+  const auto shareOf = [&](RecordStore::Number number) {
+    return line.columnOf(number, 400) / 400.0;
+  };
+  for (const RecordStore::Number number : {0, 31, 119})
+    EXPECT_EQ(line.at(shareOf(number) + 0.9 / 400, store.facts(number).channel), number);
+  line.zoom(0.05, 0);
   EXPECT_EQ(line.at(0, 0), 0);
   line.reveal(119);
-  EXPECT_GT(line.columnOf(119, width), 0);
-  EXPECT_LT(line.columnOf(119, width), width);
+  EXPECT_TRUE(shareOf(119) > 0 && shareOf(119) < 1);
   line.zoom(1000, 0.5);
   EXPECT_TRUE(line.showsAll());
 }

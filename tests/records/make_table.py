@@ -7,7 +7,8 @@ and samples. Wants numpy and scipy; the arguments are a seed other than that of 
     tests/records/make_table.py 77 2000 > other.csv
 
 Of a value that is not defined the table has "-", of an edge that is too fast "<". What may be told or not
-has "~" in front of what it must be then, or is "?" where that is a matter of taste.
+has "~" in front of what it must be then, or is "?" where that is a matter of taste. The last column has the
+samples as the converter gives them, two hexadecimal digits each: 80 is 0.
 """
 
 import random
@@ -56,6 +57,10 @@ def clean(p, samples):
 def record(p):
     units = clean(p, numpy.arange(COUNT)) + p["noise"] * noise(p["seed"])
     return STEP * numpy.clip(numpy.round(units / STEP), LOWEST, HIGHEST)
+
+
+def digits(samples):
+    return "".join(f"{int(sample) // STEP - LOWEST:02x}" for sample in samples)
 
 
 def edges(p, level_from, level_to):
@@ -200,10 +205,11 @@ def main():
     if len(sys.argv) == 1:
         for other, places in OTHERS.items():
             records += [drawn(other, place + 1)[place] for place in places]
-    print(",".join([*PARAMETERS, *("true " + name for name in VALUES)]))
+    print(",".join([*PARAMETERS, *("true " + name for name in VALUES), "samples"]))
     for p in records:
         true = truth(p)
-        print(",".join([str(p[name]) for name in PARAMETERS] + [text(true[name]) for name in VALUES]))
+        told = [str(p[name]) for name in PARAMETERS] + [text(true[name]) for name in VALUES]
+        print(",".join(told + [digits(record(p))]))
 
 
 main()
