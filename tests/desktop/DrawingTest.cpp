@@ -217,6 +217,12 @@ TEST_F(DrawingTest, NamesAndFlagsStandAtTheHeightsOfTheirTraces) {
     EXPECT_NEAR(found.right(), at(200, 0).x(), 12);
     expectFrame(found);
   }
+  // That of a trace which ends at the left is whole.
+  const int width = find(colourOf(1)).width();
+  draw(1, {{-250, 120}, {-245, 120}});
+  graph.plot(1).visible = false;
+  paint();
+  EXPECT_NEAR(find(colourOf(1)).width(), width, 1);
   // Names stay on the screen, clear of its first and last row, and clear of each other.
   for (const double height : {0, 300, -300}) {
     for (const int number : {1, 2}) {
