@@ -12,6 +12,7 @@ PictureWidget::PictureWidget(QWidget* parent) : QWidget(parent) {
 
 void PictureWidget::setPicture(const QImage& picture) {
   picture_ = picture;
+  reduced_ = {};
   update();
 }
 
@@ -27,7 +28,13 @@ void PictureWidget::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::SmoothPixmapTransform);
   painter.fillRect(rect(), palette().color(QPalette::AlternateBase));
-  if (!picture_.isNull()) painter.drawImage(target(), picture_);
+  if (picture_.isNull()) return;
+  const QSize size = (target().size() * devicePixelRatioF()).toSize();
+  if (size.width() >= picture_.width()) return painter.drawImage(target(), picture_);
+  // The painter would take single points of it, and lines would be gone.
+  if (reduced_.size() != size)
+    reduced_ = picture_.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+  painter.drawImage(target(), reduced_);
 }
 
 void PictureWidget::mousePressEvent(QMouseEvent* event) {

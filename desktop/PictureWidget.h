@@ -26,6 +26,8 @@ class PictureWidget : public QWidget {
  private:
   QRectF target() const;
   QImage picture_;
+  /// The picture made as small as its place is; kept, since that takes long.
+  QImage reduced_;
 };
 
 }  // namespace tracewell

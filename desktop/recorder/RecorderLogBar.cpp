@@ -78,6 +78,7 @@ RecorderLogBar::RecorderLogBar(Recorder& recorder, QWidget* parent)
     sayTexts();
   });
   connect(start_, &QPushButton::clicked, this, [this] { toggle(); });
+  connect(limits_, &QLineEdit::textEdited, this, [this] { emit said({}); });
 }
 
 void RecorderLogBar::sayTexts() {

@@ -17,8 +17,13 @@ double valueAt(const RecorderAxis& axis, double share) {
 }
 
 std::string plainText(double value, const std::string& unit) {
-  return unit == "div" || unit == "dBV" ? formatTwoDecimals(value) + " " + unit
-                                        : numberWithUnit(value, unit);
+  return unit == "div" || unit.starts_with("dB") ? formatTwoDecimals(value) + " " + unit
+                                                 : numberWithUnit(value, unit);
+}
+
+/// Two levels over 1 V are so many dB apart.
+std::string unitOfDifference(const std::string& unit) {
+  return unit == "dBV" ? "dB" : unit;
 }
 
 std::vector<std::string> plainTexts(const RecorderAxis& axis, const std::array<double, 2>& at,
@@ -28,7 +33,8 @@ std::vector<std::string> plainTexts(const RecorderAxis& axis, const std::array<d
   const double other = valueAt(axis, at[1]);
   return {"P1 = " + plainText(one, axis.unit), "P2 = " + plainText(other, axis.unit),
           difference + " = " +
-              plainText(isMagnitude ? std::fabs(one - other) : one - other, axis.unit)};
+              plainText(isMagnitude ? std::fabs(one - other) : one - other,
+                        unitOfDifference(axis.unit))};
 }
 
 }  // namespace

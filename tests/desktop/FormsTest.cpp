@@ -16,6 +16,7 @@
 #include "DesktopWindows.h"
 #include "GraphView.h"
 #include "MainFormTest.h"
+#include "PictureWidget.h"
 #include "QtValues.h"
 #include "Theme.h"
 
@@ -198,6 +199,17 @@ TEST_F(FormsTest, FocusChoosesNothing) {
     QTest::keyClick(tree, Qt::Key_Home);
     EXPECT_EQ(program.console.txtCmd.text(), " Channel 1");
   });
+}
+
+TEST(PictureWidget, NoLineIsLostInASmallRoom) {
+  QImage grid(2000, 200, QImage::Format_RGB32);
+  for (int x = 0; x < grid.width(); ++x)
+    for (int y = 0; y < grid.height(); ++y) grid.setPixel(x, y, x % 10 == 0 ? 0 : 0xffffff);
+  PictureWidget widget;
+  widget.resize(200, 100);
+  widget.setPicture(grid);
+  const QImage shown = widget.grab().toImage();
+  for (int x = 0; x < 200; ++x) EXPECT_NEAR(qGray(shown.pixel(x, 50)), 230, 40) << x;
 }
 
 TEST_F(FormsTest, ErrorLogOpensAtItsNewestLine) {

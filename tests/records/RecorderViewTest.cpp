@@ -166,6 +166,15 @@ TEST_F(RecorderViewTest, CursorsSayWhoseVoltsTheyAre) {
   cursors.move(0, 2);
   EXPECT_EQ(cursorTexts(cursors, view.picture(), 2).at(0), "CH2");
   EXPECT_EQ(cursorTexts(cursors, view.picture(), 2).at(1), "P1 = 2.00 V");
+  // Levels are over one volt, their difference is not.
+  RecorderPicture levels;
+  levels.mode = RecorderMode::spectrum;
+  levels.curves.resize(1);
+  levels.y[0] = {"dBV", -100, 0, 10};
+  cursors.kind = RecorderCursors::up;
+  cursors.at() = {0.75, 0.5};
+  EXPECT_EQ(cursorTexts(cursors, levels, 1),
+            (Lines{"P1 = -25.00 dBV", "P2 = -50.00 dBV", "Δ = 25.00 dB"}));
 }
 
 TEST_F(RecorderViewTest, StatisticsAreThoseOfTheStretch) {

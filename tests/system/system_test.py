@@ -20,6 +20,8 @@ class SystemTest(SystemTestCase):
         program.keys("Tab", "Tab", "Tab", "Tab", "ctrl+a")
         program.type(str(number))
         program.keys("Return")
+        # Keys for the panel are nobody's while it closes.
+        program.closed("RS-232")
         program.focus(program.window)
 
     def test_newcomer_presses_connect(self):
