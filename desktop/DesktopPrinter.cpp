@@ -66,8 +66,8 @@ void DesktopPrinter::turnPaper(QPageLayout::Orientation orientation) {
 }
 
 template <class Paint>
-void DesktopPrinter::paint(Paint paintPage) {
-  if (!isReady()) return;
+bool DesktopPrinter::paint(Paint paintPage) {
+  if (!isReady()) return false;
   QPainter painter;
   if (!painter.begin(&printer()))
     throw printError(QStringLiteral("Cannot print to %1")
@@ -77,11 +77,12 @@ void DesktopPrinter::paint(Paint paintPage) {
             QRectF(QPointF(0, 0), QSizeF(printer().pageRect(QPrinter::DevicePixel).size())));
   if (!painter.end()) throw printError(QStringLiteral("Printing has failed"));
   finished();
+  return true;
 }
 
-void DesktopPrinter::printImage(const Image& image) {
+bool DesktopPrinter::printImage(const Image& image) {
   turnPaper(QPageLayout::Landscape);
-  paint([&](QPainter& painter, const QRectF& paper) {
+  return paint([&](QPainter& painter, const QRectF& paper) {
     const QImage picture = toQt(image);
     QSizeF size = picture.size();
     size.scale(paper.size(), Qt::KeepAspectRatio);
@@ -89,8 +90,8 @@ void DesktopPrinter::printImage(const Image& image) {
   });
 }
 
-void DesktopPrinter::printText(const std::string& text) {
-  if (!isReady()) return;
+bool DesktopPrinter::printText(const std::string& text) {
+  if (!isReady()) return false;
   turnPaper(QPageLayout::Portrait);
   QTextDocument document;
   QFont font(QStringLiteral("monospace"));
@@ -102,11 +103,12 @@ void DesktopPrinter::printText(const std::string& text) {
   if (printer().printerState() == QPrinter::Error)
     throw printError(QStringLiteral("Printing has failed"));
   finished();
+  return true;
 }
 
-void DesktopPrinter::printPage(const GraphPage& page) {
+bool DesktopPrinter::printPage(const GraphPage& page) {
   turnPaper(QPageLayout::Landscape);
-  paint([&](QPainter& painter, const QRectF& paper) { paintOnPaper(page, painter, paper); });
+  return paint([&](QPainter& painter, const QRectF& paper) { paintOnPaper(page, painter, paper); });
 }
 
 }  // namespace tracewell

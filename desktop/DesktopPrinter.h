@@ -13,9 +13,9 @@ namespace tracewell {
 class DesktopPrinter : public Printer {
  public:
   void setUp() override;
-  void printImage(const Image& image) override;
-  void printText(const std::string& text) override;
-  void printPage(const GraphPage& page) override;
+  bool printImage(const Image& image) override;
+  bool printText(const std::string& text) override;
+  bool printPage(const GraphPage& page) override;
 
   /// Prints everything to this PDF file from now on; each print replaces the one before.
   void printToFile(const QString& path);
@@ -28,7 +28,7 @@ class DesktopPrinter : public Printer {
   void finished();
   void turnPaper(QPageLayout::Orientation orientation);
   template <class Paint>
-  void paint(Paint paintPage);
+  bool paint(Paint paintPage);
 
   std::optional<QPrinter> printer_;
   bool isSetUp_ = false;

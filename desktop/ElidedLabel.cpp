@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ElidedLabel.h"
 
-#include <QApplication>
 #include <QHelpEvent>
 #include <QPainter>
 #include <QToolTip>
+#include <algorithm>
 
 #include "BannerPainter.h"
 
@@ -39,18 +39,24 @@ int ElidedLabel::neededWidth() const {
   return width;
 }
 
-/// Letters of a fixed width take the most room.
+/// By the longest result and the narrowest column, so that all cells look the same.
 QFont ElidedLabel::fontThatFits() const {
-  constexpr int leastStretch = 70;
-  const int room = contentsRect().width();
-  if (!property("cell").toBool() || neededWidth() <= room) return font();
-  QFont narrow = QApplication::font();
-  narrow.setPixelSize(QFontInfo(font()).pixelSize());
+  if (text().isEmpty() || !property("cell").toBool()) return font();
+  static const QString longest = QStringLiteral("Duty Cycle(2): 50.00 %");
+  constexpr int leastStretch = 65;
+  int room = contentsRect().width();
+  for (const ElidedLabel* cell :
+       parentWidget()->findChildren<ElidedLabel*>(QString(), Qt::FindDirectChildrenOnly))
+    room = std::min(room, cell->contentsRect().width());
+  const auto hasRoom = [room](const QFont& letters) {
+    return QFontMetrics(letters).horizontalAdvance(longest) <= room;
+  };
+  if (hasRoom(font())) return font();
+  QFont narrow = font();
+  narrow.setPixelSize(QFontInfo(font()).pixelSize() - 1);
   // Letters of whole pixels do not become narrower by just what they should.
-  for (int stretch = 100; stretch >= leastStretch; stretch -= 6) {
+  for (int stretch = 100; stretch >= leastStretch && !hasRoom(narrow); stretch -= 5)
     narrow.setStretch(stretch);
-    if (QFontMetrics(narrow).horizontalAdvance(text()) <= room) break;
-  }
   return narrow;
 }
 

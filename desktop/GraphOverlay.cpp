@@ -170,7 +170,7 @@ void GraphOverlay::paintSides(QPainter& painter, const std::vector<Side>& sides)
   painter.restore();
 }
 
-/// At the right ends of their traces, which may be anywhere, one above the other.
+/// At the right ends of their traces, which may be anywhere, one above the other; whole.
 void GraphOverlay::paintNames(QPainter& painter, const Texts& names) const {
   struct Name {
     Texts row;
@@ -193,7 +193,7 @@ void GraphOverlay::paintNames(QPainter& painter, const Texts& names) const {
     const QSizeF size = sizeOf(row);
     const qreal end = toPixels_(graph_->plot(row[0].plot).x().back(), 0).x();
     const qreal right = qMin(end, width() - grown(roomOfTrigger));
-    paintRow(painter, row, {QPointF(right - size.width(), tops[i]), size});
+    paintRow(painter, row, {QPointF(qMax(right - size.width(), 0.0), tops[i]), size});
   }
 }
 

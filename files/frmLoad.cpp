@@ -126,11 +126,17 @@ void frmLoad::cmdOK_Click() {
     hide();
   } catch (const Error& error) {
     // Without a box: the window stays for another choice.
-    main_.status.tell(StatusLine::failed,
-                      [path = dataPath_, reason = error.description()](const Words& words) {
-                        return words.say("%1 was not loaded: %2", {path, reason});
-                      });
+    sayWhyNot(error);
   }
+}
+
+void frmLoad::sayWhyNot(const Error& error) {
+  main_.status.tell(StatusLine::failed, [error, path = dataPath_](const Words& words) {
+    const std::string reason = error.number() == subscriptOutOfRange
+                                   ? words.say("more than 500 lines of data")
+                                   : error.description();
+    return words.say("%1 was not loaded: %2", {path, reason});
+  });
 }
 
 /// Into the first reference plot that is free and, for the second channel, the one behind it.

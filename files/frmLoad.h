@@ -40,6 +40,7 @@ class frmLoad : public Window {
   void fileCSV_Click();
   void cmdOK_Click();
   void drawSet(const LoadedWaveforms& set);
+  void sayWhyNot(const Error& error);
   void sayWhatIsShown(std::size_t drawn, bool hasRoom);
 
   frmDSO& main_;

@@ -2,6 +2,7 @@
 #include "frmSave.h"
 
 #include "Files.h"
+#include "Printing.h"
 #include "WaveformSetWriter.h"
 #include "WrittenScales.h"
 
@@ -39,7 +40,10 @@ frmSave::frmSave(frmDSO& main) : Window("frmSave", "Save", main.services()), mai
   pictureTemp.clicked = [this](int x, int y) { pictureTemp_Click(x, y); };
   cmdUndo.click = [this] { cmdUndo_Click(); };
   cmdReload.click = [this] { cmdReload_Click(); };
-  cmdPrint.click = [this] { services().printer.printImage(pictureTemp.image()); };
+  cmdPrint.click = [this] {
+    printAndSay(main_,
+                [this](Printer& printer) { return printer.printImage(pictureTemp.image()); });
+  };
   cmdOK.click = [this] { cmdOK_Click(); };
   cmdCancel.click = [this] { hide(); };
 }

@@ -2,6 +2,7 @@
 #include "frmSetup.h"
 
 #include "Files.h"
+#include "Printing.h"
 
 namespace tracewell {
 namespace {
@@ -38,7 +39,9 @@ frmSetup::frmSetup(frmDSO& main)
   formActivate = [this] { Form_Activate(); };
   cmdOK.click = [this] { hide(); };
   cmdSave.click = [this] { cmdSave_Click(); };
-  cmdPrint.click = [this] { services().printer.printText(txtSetup.text()); };
+  cmdPrint.click = [this] {
+    printAndSay(main_, [this](Printer& printer) { return printer.printText(txtSetup.text()); });
+  };
 }
 
 void frmSetup::mnbConf_Click() {

@@ -35,13 +35,14 @@ Image RecordingPictures::withText(const Image& image, const std::string& text, i
           image.pixels + "|" + text + "@" + std::to_string(x) + "," + std::to_string(y)};
 }
 
-void RecordingPrinter::printPage(const GraphPage& page) {
+bool RecordingPrinter::printPage(const GraphPage& page) {
   std::string text = "page " + page.title;
   for (const std::string& caption : page.captions) text += "|" + caption;
   for (const GraphPage::Trace& trace : page.traces)
     text += "|" + std::to_string(trace.number) + " " + trace.name;
   told.raise(text);
   if (isOutOfPaper) throw Error(deviceError, "Printer", "Out of paper");
+  return true;
 }
 
 void ScriptedWindows::showModal(Window& window) {

@@ -114,13 +114,16 @@ class RecordingPrinter : public Printer {
   /// All of it, as it happens.
   Event<const std::string&> told;
 
-  void setUp() override { print("set up"); }
-  void printImage(const Image& image) override { print(image.pixels); }
-  void printText(const std::string& text) override { print(text); }
-  void printPage(const GraphPage& page) override;
+  void setUp() override { told.raise("print set up"); }
+  bool printImage(const Image& image) override { return print(image.pixels); }
+  bool printText(const std::string& text) override { return print(text); }
+  bool printPage(const GraphPage& page) override;
 
  private:
-  void print(const std::string& text) { told.raise("print " + text.substr(0, 40)); }
+  bool print(const std::string& text) {
+    told.raise("print " + text.substr(0, 40));
+    return true;
+  }
 };
 
 /// A screen on which a script plays the user of each modal window.

@@ -2,6 +2,7 @@
 #include "PagePrinting.h"
 
 #include "Doing.h"
+#include "Printing.h"
 #include "WrittenScales.h"
 
 namespace tracewell {
@@ -18,9 +19,9 @@ void PagePrinting::cmdPrint_Click() {
   try {
     const Doing pause(main_, sayPaused(main_, main_.cmdPrint.caption));
     acquisition_.StopAcq();
-    main_.services().printer.printPage(page());
+    printAndSay(main_, [this](Printer& printer) { return printer.printPage(page()); });
     if (const StatusLine::Sentence others = scalesNotOfTraces(main_))
-      main_.status.tell(StatusLine::happened, others);
+      main_.status.tellToo(StatusLine::happened, others);
   } catch (const Error& error) {
     errorLog_.ErrLog(error, "cmdPrint_Click : ");
   }

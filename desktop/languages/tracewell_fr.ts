@@ -1220,6 +1220,10 @@
         <translation>Imprimer le rapport</translation>
     </message>
     <message>
+        <source>Printed</source>
+        <translation>Imprimé</translation>
+    </message>
+    <message>
         <source>RMS</source>
         <translation>Efficace</translation>
     </message>
@@ -1786,6 +1790,10 @@
     <message>
         <source>math, which has no volts</source>
         <translation>calcul, sans volts</translation>
+    </message>
+    <message>
+        <source>more than 500 lines of data</source>
+        <translation>plus de 500 lignes de données</translation>
     </message>
     <message>
         <source>not answered</source>

@@ -1220,6 +1220,10 @@
         <translation>Напечатать отчёт</translation>
     </message>
     <message>
+        <source>Printed</source>
+        <translation>Напечатано</translation>
+    </message>
+    <message>
         <source>RMS</source>
         <translation>СКЗ</translation>
     </message>
@@ -1786,6 +1790,10 @@
     <message>
         <source>math, which has no volts</source>
         <translation>математика, без вольт</translation>
+    </message>
+    <message>
+        <source>more than 500 lines of data</source>
+        <translation>более 500 строк данных</translation>
     </message>
     <message>
         <source>not answered</source>

@@ -1220,6 +1220,10 @@
         <translation>打印报告</translation>
     </message>
     <message>
+        <source>Printed</source>
+        <translation>已打印</translation>
+    </message>
+    <message>
         <source>RMS</source>
         <translation>有效值</translation>
     </message>
@@ -1786,6 +1790,10 @@
     <message>
         <source>math, which has no volts</source>
         <translation>数学运算，无伏特值</translation>
+    </message>
+    <message>
+        <source>more than 500 lines of data</source>
+        <translation>数据超过 500 行</translation>
     </message>
     <message>
         <source>not answered</source>

@@ -8,6 +8,7 @@
 #include <cmath>
 
 #include "DesktopWords.h"
+#include "FreePlace.h"
 #include "QtValues.h"
 #include "RecorderWords.h"
 #include "TrueNumbers.h"
@@ -60,27 +61,6 @@ QCPItemText* makeText(QCustomPlot& plot, Qt::Alignment alignment) {
 void placeInCorner(QCPItemText& text, double x, double y) {
   text.position->setType(QCPItemPosition::ptAxisRectRatio);
   text.position->setCoords(x, y);
-}
-
-/// Above the place, else at its sides, else higher, where there is nothing yet; empty if nowhere.
-QRectF roomBeside(const QPointF& place, const QSizeF& size, const QRectF& inside,
-                  const std::vector<QRectF>& taken) {
-  constexpr qreal gap = 5;
-  const QPointF corners[] = {{-size.width() / 2, -size.height() - gap},
-                             {gap, -size.height() / 2},
-                             {-size.width() - gap, -size.height() / 2},
-                             {gap, -size.height() - gap},
-                             {-size.width() - gap, -size.height() - gap},
-                             {-size.width() / 2, -2 * size.height() - gap},
-                             {gap, gap},
-                             {-size.width() - gap, gap}};
-  for (const QPointF& corner : corners) {
-    const QRectF room(place + corner, size);
-    const bool isFree =
-        std::ranges::none_of(taken, [&](const QRectF& other) { return other.intersects(room); });
-    if (isFree && inside.contains(room)) return room;
-  }
-  return {};
 }
 
 QString lines(const std::vector<std::string>& texts) {
@@ -150,6 +130,7 @@ void RecorderGraph::setLook(const RecorderLook& look) {
     text->setFont(small);
     text->setBrush(ground);
   }
+  for (QCPItemText* name : cursorNames_) name->setBrush(ground);
   badge_->setPen(QPen(look.grid));
   badge_->setColor(RecorderLook::cursor);
   note_->setColor(RecorderLook::gap);

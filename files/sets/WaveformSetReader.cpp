@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "WaveformSetReader.h"
 
+#include <optional>
 #include <string_view>
 
 #include "Error.h"
@@ -59,8 +60,20 @@ void repeatLast(std::vector<double>& points) {
   points.push_back(points.empty() ? 0 : points.back());
 }
 
-double lifted(std::string_view text, const std::string& position) {
-  return sample(text) + checked(toDouble(position) * unitsToADivision);
+/// What a trace at that position is lifted by; none for one that is not there.
+std::optional<double> liftOf(const std::string& position) {
+  if (position == notSaved) return std::nullopt;
+  try {
+    return checked(toDouble(position) * unitsToADivision);
+  } catch (const Error& error) {
+    throw Error(error.number(), error.source(),
+                error.description() + " in the description: " + position);
+  }
+}
+
+double lifted(std::string_view text, const std::optional<double>& lift) {
+  if (!lift) throw typeMismatchError();
+  return sample(text) + *lift;
 }
 
 }  // namespace
@@ -88,6 +101,8 @@ LoadedWaveforms readWaveforms(const std::string& csvText, const std::string& pos
                               const std::string& position2) {
   LoadedWaveforms loaded;
   const bool hasOnlyChannel1 = position2 == notSaved;
+  const std::optional<double> lift1 = liftOf(position1);
+  const std::optional<double> lift2 = liftOf(position2);
   bool hasTwoColumns = false;
   forEachDataLine(csvText, [&](std::string_view line) {
     hasTwoColumns = hasTwoColumns || line.find(',') != std::string_view::npos;
@@ -96,12 +111,11 @@ LoadedWaveforms readWaveforms(const std::string& csvText, const std::string& pos
     const std::size_t comma = line.find(',');
     const bool hasBoth = comma != std::string_view::npos;
     if (hasBoth || hasOnlyChannel1)
-      loaded.channel1.push_back(lifted(line.substr(0, comma), position1));
+      loaded.channel1.push_back(lifted(line.substr(0, comma), lift1));
     else if (hasTwoColumns)
       repeatLast(loaded.channel1);
     if (hasBoth || !hasOnlyChannel1)
-      loaded.channel2.push_back(
-          toInt16(lifted(hasBoth ? line.substr(comma + 1) : line, position2)));
+      loaded.channel2.push_back(toInt16(lifted(hasBoth ? line.substr(comma + 1) : line, lift2)));
     else if (hasTwoColumns)
       repeatLast(loaded.channel2);
   });

@@ -28,16 +28,16 @@ struct GraphPage {
 /// desktop/DesktopPrinter, and by tests/RecordingPrinter.
 ///
 /// Each print is a document of its own. A user who has no printer is asked to choose one; declining
-/// prints nothing. Raises an error with the reason when printing fails.
+/// prints nothing, and is told by false. Raises an error with the reason when printing fails.
 class Printer {
  public:
   virtual ~Printer() = default;
 
   /// Lets the user choose printer and paper.
   virtual void setUp() = 0;
-  virtual void printImage(const Image& image) = 0;
-  virtual void printText(const std::string& text) = 0;
-  virtual void printPage(const GraphPage& page) = 0;
+  virtual bool printImage(const Image& image) = 0;
+  virtual bool printText(const std::string& text) = 0;
+  virtual bool printPage(const GraphPage& page) = 0;
 };
 
 }  // namespace tracewell

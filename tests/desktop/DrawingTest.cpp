@@ -139,6 +139,15 @@ TEST_F(DrawingTest, GridHasTenByEightDivisionsWithFiveTicksEach) {
   EXPECT_TRUE(find(grid, {at(-50, 0).x(), 5, 1, 20}, 1.2).isEmpty());
 }
 
+TEST_F(DrawingTest, FocusIsAFrameAroundThePlot) {
+  QFocusEvent focus(QEvent::FocusIn);
+  QApplication::sendEvent(&view, &focus);
+  paint();
+  const QColor colour = view.palette().color(QPalette::Highlight);
+  EXPECT_EQ(find(colour), area.rect());
+  EXPECT_TRUE(find(colour, area.rect().adjusted(3, 3, -3, -3)).isEmpty());
+}
+
 TEST_F(DrawingTest, OldTracesArePaleOnTheScreenAlone) {
   draw(1, {{-200, 0}, {200, 0}});
   const auto strength = [&] {
@@ -208,6 +217,12 @@ TEST_F(DrawingTest, NamesAndFlagsStandAtTheHeightsOfTheirTraces) {
     EXPECT_NEAR(found.right(), at(200, 0).x(), 12);
     expectFrame(found);
   }
+  // That of a trace which ends at the left is whole.
+  const int width = find(colourOf(1)).width();
+  draw(1, {{-250, 120}, {-245, 120}});
+  graph.plot(1).visible = false;
+  paint();
+  EXPECT_NEAR(find(colourOf(1)).width(), width, 1);
   // Names stay on the screen, clear of its first and last row, and clear of each other.
   for (const double height : {0, 300, -300}) {
     for (const int number : {1, 2}) {

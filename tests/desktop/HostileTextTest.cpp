@@ -230,6 +230,7 @@ TEST(ShownText, WhatIsLeftOfATextWhereThereIsLittleRoom) {
        "a\uFFFD\uFFFD\uFFFDb"},
       {"\xFF\xC3", {9}, "\uFFFD\uFFFD"},
       {"\U0001F600\u202E\U000E0041", {9}, "\U0001F600\uFFFD\uFFFD"},
+      {"\uFFFC\uFDD0\u2028\u2029", {9}, "\uFFFD\uFFFD\uFFFD\uFFFD"},
       {"", {9}, ""}};
   for (const auto& [text, room, shown] : cases) EXPECT_EQ(fromQt(shownText(text, room)), shown);
   EXPECT_EQ(fromQt(shownText("a\tb", roomOfPage)), "a\tb");

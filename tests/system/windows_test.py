@@ -154,10 +154,17 @@ class WindowsProgram(Program):
         return PLACES[name]
 
     def opened(self, shortcut, title):
+        """The window of the panel, once it stands there painted."""
         self.focus(self.window)
         self.keys(shortcut)
         window = self.find(title)
         self.focus(window)
+
+        def picture():
+            return subprocess.run(["import", "-window", window, "-depth", "8", "rgb:-"], check=True,
+                                  capture_output=True).stdout
+
+        wait_for(lambda: len(set(now := picture())) > 9 and picture() == now, PATIENCE, f"{title} to be painted")
         return window
 
     def answer(self, title, text, besides=None):
@@ -225,6 +232,7 @@ class WindowsTest(SystemTestCase):
         program.opened("ctrl+r", "RS-232")
         self.shot("com7")
         program.keys("Escape")
+        program.closed("RS-232")
         instrument.fault("HANGUP 700")
         wait_for(lambda: instrument.process.poll() is not None, PATIENCE, "the hang-up")
 
@@ -293,8 +301,7 @@ class WindowsTest(SystemTestCase):
         self.connect(program)
         program.keys("ctrl+p")
         page = self.windows.page
-        wait_for(lambda: page.exists() and b"%%EOF" in page.read_bytes(), PATIENCE, "the page")
-        content = page.read_bytes()
+        content = wait_for(lambda: page.exists() and b"%%EOF" in (now := page.read_bytes()) and now, PATIENCE, "a page")
         self.assertIn(b"%%Orientation: Landscape", content)
         self.assertEqual(content.count(b"showpage"), 1)
         self.assertGreater(content.count(b"lineto"), 500)
@@ -368,10 +375,9 @@ class PartsTest(unittest.TestCase):
         cls.windows.remove()
 
     def test_line_and_files(self):
-        instrument = Instrument(self.windows.device)
+        self.addCleanup(Instrument(self.windows.device).stop)
         self.windows.environment["TRACEWELL_TEST_PORT"] = str(PORT)
         self.windows.run(WINDOWS_TESTS / "windows_tests.exe", stdout=None)
-        instrument.stop()
 
     def test_pictures_are_those_of_the_other_system(self):
         own, windows = self.windows.folder / "own", self.windows.program
