@@ -12,6 +12,7 @@
 
 #include "Clipboard.h"
 #include "Dialogs.h"
+#include "Disk.h"
 #include "Files.h"
 #include "Pictures.h"
 #include "Printer.h"
@@ -39,6 +40,23 @@ inline constexpr int stepsShare = 4;
 #else
 inline constexpr int stepsShare = 1;
 #endif
+
+/// The disk in use, which fails as it is told.
+class FailingDisk : public Disk {
+ public:
+  FailingDisk() { useDisk(this); }
+  ~FailingDisk() override { useDisk(nullptr); }
+  std::errc fault{};
+  std::errc faultOfFolder{};
+  int flushes = 0;
+  std::vector<std::filesystem::path> owners;
+
+  std::error_code flush(std::FILE&) override { return ++flushes, std::make_error_code(fault); }
+  std::error_code flushFolder(const std::filesystem::path&) override {
+    return std::make_error_code(faultOfFolder);
+  }
+  void takeOwner(std::FILE&, const std::filesystem::path& like) override { owners.push_back(like); }
+};
 
 /// Processor time, which a busy machine does not stretch, and memory at its peak; a sanitizer is
 /// allowed ten times as much.

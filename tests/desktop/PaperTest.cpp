@@ -45,17 +45,13 @@ TEST_F(PaperTest, TracesLieUprightOnTheGridOfAPageThatLiesAcross) {
   const QImage picture(file + ".png");
   ASSERT_GT(picture.width(), picture.height());
 
-  // The last and the first place where the ink is, along a row or a column.
-  const auto reach = [&](bool isRow, int at, const std::function<bool(QColor)>& isInk) {
-    QList<int> found;
-    for (int i = 0; i < (isRow ? picture.width() : picture.height()); ++i)
-      if (isInk(isRow ? picture.pixelColor(i, at) : picture.pixelColor(at, i))) found << i;
-    return found.isEmpty() ? std::pair(-1, -1) : std::pair(found.first(), found.last());
-  };
-  const auto isBlack = [](QColor ink) { return ink.lightness() < 100 && ink.saturation() < 20; };
-  const auto [top, bottom] = reach(false, picture.width() * 3 / 5, isBlack);
-  const auto [left, right] = reach(true, (top + bottom) / 3, isBlack);
   const Regions lines = {picture.convertToFormat(QImage::Format_RGB32), Qt::white};
+  const auto frame = lines.runs(Qt::black, {picture.width() * 3 / 5, 0, 1, picture.height()}, 0.6);
+  const int top = frame.first().first;
+  const int bottom = frame.last().second;
+  const auto sides = lines.runs(Qt::black, {0, (top + bottom) / 3, picture.width(), 1}, 0.6);
+  const int left = sides.first().first;
+  const int right = sides.last().second;
   const auto expectLines = [&lines](const QRect& across, int divisions) {
     const auto found = lines.runs(Qt::black, across, 0.02);
     ASSERT_EQ(found.size(), divisions + 1);
@@ -68,27 +64,16 @@ TEST_F(PaperTest, TracesLieUprightOnTheGridOfAPageThatLiesAcross) {
   const QColor inks[] = {{0x9a, 0x5b, 0x00}, {0x00, 0x4f, 0x87}, {0x1d, 0x6b, 0x2a}};
   for (const auto& [number, from, to, level] : levels) {
     SCOPED_TRACE(number);
-    const auto isInk = [&, ink = inks[number - 1]](QColor pixel) {
-      return std::abs(pixel.hue() - ink.hue()) < 12 && pixel.saturation() > 100;
-    };
+    const QColor ink = inks[number - 1];
     const int row = qRound(top + (bottom - top) * (200 - level) / 400);
-    int first = picture.width();
-    int last = 0;
-    for (int y = row - 1; y <= row + 1; ++y) {
-      const auto [begin, end] = reach(true, y, isInk);
-      if (begin < 0) continue;
-      first = std::min(first, begin);
-      last = std::max(last, end);
-    }
-    EXPECT_NEAR(first, left + (right - left) * (from + 250) / 500, 4);
+    const QRect trace = lines.find(ink, {0, row - 1, picture.width(), 3});
+    EXPECT_NEAR(trace.left(), left + (right - left) * (from + 250) / 500, 4);
     // The last dash may end before the trace.
-    EXPECT_NEAR(last, left + (right - left) * (to + 250) / 500, number == 3 ? 20 : 4);
+    EXPECT_NEAR(trace.right(), left + (right - left) * (to + 250) / 500, number == 3 ? 20 : 4);
     // Below the grid each is explained, one after the other.
     const double unit = (right - left) / 280.0;
-    QRect key;
-    for (int y = bottom + 3; y < picture.height(); ++y)
-      for (int x = left; x <= right; ++x)
-        if (isInk(picture.pixelColor(x, y))) key |= QRect(x, y, 1, 1);
+    const QRect key =
+        lines.find(ink, {left, bottom + 3, right - left + 1, picture.height() - bottom});
     EXPECT_NEAR(key.left(), left + 40 * unit * (number - 1), 3);
     EXPECT_TRUE(key.right() > key.left() + 14 * unit && key.right() < key.left() + 38 * unit);
     EXPECT_LT(key.bottom(), bottom + 9 * unit);

@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "MeasurementLog.h"
 
-#include <chrono>
-#include <cstdlib>
 #include <fstream>
 
-#include "Disk.h"
-#include "Doubles.h"
+#include "Bench.h"
 #include "WallTime.h"
 
 namespace tracewell {
@@ -16,31 +13,11 @@ const std::string heading = "channel,vpp (V),freq (Hz),limits";
 
 }  // namespace
 
-/// A disk that refuses to hold anything while it is full, and counts.
-class RefusingDisk : public Disk {
- public:
-  RefusingDisk() { useDisk(this); }
-  ~RefusingDisk() override { useDisk(nullptr); }
-  bool isFull = false;
-  int flushes = 0;
-  std::error_code flush(std::FILE&) override {
-    ++flushes;
-    return isFull ? std::make_error_code(std::errc::no_space_on_device) : std::error_code();
-  }
-  void takeOwner(std::FILE&, const std::filesystem::path&) override {}
-  std::error_code flushFolder(const std::filesystem::path&) override { return {}; }
-};
-
 class MeasurementLogTest : public testing::Test {
  protected:
-  MeasurementLogTest() { std::filesystem::create_directories(folder); }
-  ~MeasurementLogTest() override { std::filesystem::remove_all(folder); }
-
-  const std::filesystem::path folder =
-      std::filesystem::path(testing::TempDir()) /
-      ("log" + std::to_string(std::chrono::steady_clock::now().time_since_epoch().count()));
-  const std::filesystem::path path = folder / "log.csv";
-  RefusingDisk disk;
+  const ProgramFolderCopy folder;
+  const std::filesystem::path path = folder.path() / "log.csv";
+  FailingDisk disk;
   MeasurementColumns columns{{Quantity::peakToPeak, Quantity::frequency},
                              {limitOf("vpp > 500 mV").value(), limitOf("freq<2").value()}};
   std::int64_t now = 0;
@@ -84,14 +61,14 @@ TEST_F(MeasurementLogTest, IsContinuedBehindItsLastWholeRowOrBegunAnew) {
   EXPECT_EQ(rows(path), Lines{heading});
   columns.quantities.pop_back();
   MeasurementLog other(path, columns, now);
-  EXPECT_EQ(other.path(), folder / "log-2.csv");
+  EXPECT_EQ(other.path(), folder.path() / "log-2.csv");
 }
 
 TEST_F(MeasurementLogTest, HoldsWhatTheDiskDoesNotTakeAndGoesOn) {
   MeasurementLog log(path, columns, now);
   append(log, 0.1);
   log.tick(now += 3000);
-  disk.isFull = true;
+  disk.fault = std::errc::no_space_on_device;
   append(log, 0.2);
   log.tick(now += 3000);
   EXPECT_TRUE(log.isDiskFull());
@@ -100,7 +77,7 @@ TEST_F(MeasurementLogTest, HoldsWhatTheDiskDoesNotTakeAndGoesOn) {
   now += 10;
   for (int i = 0; i < 10003; ++i) log.append(0, 1, values(0.3), now);
   EXPECT_EQ(log.lost(), 4U);
-  disk.isFull = false;
+  disk.fault = std::errc();
   for (int i = 0; i < 5; ++i) log.tick(now += 1000);
   EXPECT_FALSE(log.trouble());
   EXPECT_EQ(log.rows(), 10001U);

@@ -6,11 +6,8 @@
 #include <random>
 
 #include "Bench.h"
-#include "MeasurementItems.h"
-#include "Numbers.h"
 #include "PacedChannel.h"
 #include "PortUser.h"
-#include "Waiting.h"
 
 namespace tracewell {
 namespace {
@@ -35,10 +32,7 @@ class OddInstrument {
   std::string rightAnswer(const std::string& line) {
     if (line.ends_with(":POIN")) return record(line[4]);
     if (line.starts_with(":Q")) return line.substr(2, 4) + "/" + line.substr(2, 4) + "\n";
-    if (line.starts_with(":MEAS:SOUR")) source_ = line.back();
-    if (line.starts_with(":MEAS:")) return line.substr(6, 3) + source_ + "\n";
-    if (line.ends_with("SCAL?")) return line.starts_with(":T") ? "500.0 us\n" : "1.000 V\n";
-    return line.ends_with("OFFS?") ? "1.000 V\n" : "1\n";
+    return "1.000 V\n";
   }
 
   /// All bytes say which channel and which of its records it is. Some are line ends, the last one
@@ -61,10 +55,7 @@ class OddInstrument {
   std::string oddAnswer(const std::string& line) {
     end_.thought = 3 + below(20) + lateness();
     end_.byteTime = byteTime;
-    if (!line.ends_with('?') && !line.ends_with("POIN")) {
-      rightAnswer(line);
-      return "";
-    }
+    if (!line.ends_with('?') && !line.ends_with("POIN")) return "";
     std::string bytes = rightAnswer(line);
     if (below(100) >= errors) return bytes;
     const std::size_t place = random_() % bytes.size();
@@ -84,27 +75,25 @@ class OddInstrument {
 
   FarEnd& end_;
   std::mt19937& random_;
-  char source_ = '1';
   int records_ = 0;
 };
 
-/// The whole program, used at random at the end of such a line.
-class Trial : BenchOf<OnALine<PacedOpener>> {
+/// A port, used at random at the end of such a line.
+class Trial : OnALine<PacedOpener> {
  public:
   explicit Trial(unsigned seed) : random_(seed) {
-    program.start();
     setLine();
-    // Every measurement of both channels, so that all have a name to be wrong under.
-    for (int row = 2; row <= 5; ++row) setRow(row, Lines(row < 4 ? 8 : 7, "1"));
-    windows.user["frmTrig"] = [this] { program.trigger.cmdCancel.press(); };
-    windows.user["frmVMeasure"] = [this] { program.measurementChoice.cmdOK.press(); };
+    port.dataReady = [this](const LineRecord& record) { check(record); };
   }
 
   void step() {
     if (below(200) == 0) instrument_.errors = std::array{0, 3, 20, 60}[random_() % 4];
     if (below(400) == 0) setLine();
-    act();
-    checkRecords();
+    try {
+      act();
+    } catch (const Error&) {
+      // The line is gone.
+    }
   }
 
   int exchanges = 0;
@@ -115,31 +104,20 @@ class Trial : BenchOf<OnALine<PacedOpener>> {
   int below(int limit) { return instrument_.below(limit); }
 
   void setLine() {
-    const std::pair<Lines, double> lines[] = {
-        {{"1200", "8", "1", "None", "0"}, 8.34}, {{"2400", "7", "2", "Odd", "0"}, 4.59},
-        {{"4800", "8", "1", "None", "0"}, 2.09}, {{"9600", "8", "2", "Even", "0"}, 1.25},
-        {{"14400", "8", "1", "Odd", "0"}, 0.77}, {{"19200", "8", "1", "None", "0"}, 0.53},
-        {{"19200", "7", "1", "Even", "0"}, 0.53}};
-    const auto& [settings, byteTime] = lines[random_() % std::size(lines)];
-    instrument_.byteTime = byteTime;
-    setRow(0, settings);
-    port.settings = {0, toInt16(settings[0]), 8, 0, 0};
-    main.state.BaudRate = toInt16(settings[0]);
+    const std::pair<int, double> lines[] = {{1200, 8.34}, {2400, 4.59},  {4800, 2.09},
+                                            {9600, 1.25}, {14400, 0.77}, {19200, 0.53}};
+    std::tie(port.settings.baudRate, instrument_.byteTime) = lines[random_() % std::size(lines)];
   }
 
   /// Each as often as its weight says, out of 24.
   void act() {
+    const auto isSeldom = [this] { return below(6) > 0; };
     const std::pair<int, std::function<void()>> acts[] = {
-        {1, [this] { program.acquisition.StopAcq(); }},
-        {2, [this] { program.acquisition.ResumeAcq(); }},
-        {1, [this] { main.cbCh1.toggle(); }},
-        {1, [this] { main.cbCh2.toggle(); }},
-        {1, [this] { main.knobTime.turn(below(29)); }},
-        {1, [this] { oneIn(4, [this] { main.cmdTrig.press(); }); }},
-        {1, [this] { oneIn(8, [this] { measure(); }); }},
-        {1, [this] { oneIn(6, [this] { main.cmdRS232.press(); }); }},
-        {1, [this] { oneIn(6, [this] { hangUpAfter(static_cast<std::size_t>(below(2000))); }); }},
-        {1, [this] { oneIn(3, [this] { chatter(); }); }},
+        {1, [this] { port.abandon(); }},
+        {6, [this] { user_.request(static_cast<std::int16_t>(1 + below(2))); }},
+        {2, [this] { user_.send(":CHAN1:SCAL 1"); }},
+        {1, [&] { isSeldom() ? void() : hangUpAfter(static_cast<std::size_t>(below(2000))); }},
+        {1, [&] { isSeldom() ? void() : chatter(); }},
         {1, [this] { hangUpAfter(std::string::npos); }},
         {6, [this] { clock.run(below(below(3) == 0 ? 9000 : 1500)); }},
         {6, [this] { ask(); }}};
@@ -148,78 +126,49 @@ class Trial : BenchOf<OnALine<PacedOpener>> {
       if ((left -= weight) < 0) return doIt();
   }
 
-  void oneIn(int chances, const std::function<void()>& doIt) {
-    if (below(chances) == 0) doIt();
-  }
   void hangUpAfter(std::size_t bytes) { opener.farEnd.hangUpAfter = bytes; }
 
   /// It begins while nothing is owed: in front of an answer nobody could tell it from that.
   void chatter() {
     if (instrument_.errors == 0) return;
-    program.acquisition.StopAcq();
+    port.abandon();
     clock.run(8000);
     if (opener.farEnd.lineFreeAt + 3000 > static_cast<double>(clock.milliseconds())) return;
     opener.farEnd.byteTime = instrument_.byteTime;
     opener.farEnd.unasked = std::string(static_cast<std::size_t>(below(900)), '?') + "1\n";
-    program.exchange.SendDSOCmd(":Run");
+    user_.send(":Run");
     clock.run(50);
     opener.farEnd.unasked.clear();
   }
 
   void ask() {
-    const ShortTimeOut shortTimeOut(main.state, program.exchange,
-                                    static_cast<std::int16_t>(1 + below(3)));
-    const std::string mine = std::to_string(1000 + ++asked_ % 9000);
-    const std::string query = ":Q" + mine + "?";
+    user_.timeOut = 300 * (1 + below(3));
+    const std::string query = ":Q" + std::to_string(1000 + ++exchanges % 9000) + "?";
     instrument_.sent.clear();
-    const std::string reply = program.exchange.SendDSOCmd(query);
-    ++exchanges;
-    if (reply.empty()) return;
+    const std::string reply = user_.ask(query);
+    if (!reply.ends_with('\n')) return;
     ++answered;
     // What was damaged on its way is still the answer to its question.
-    EXPECT_EQ(reply + "\n", instrument_.sent[query]);
+    EXPECT_EQ(reply, instrument_.sent[query]);
   }
 
-  void measure() {
-    instrument_.sent.clear();
-    main.cmdVMeasure.press();
-    exchanges += 30;
-    // The sixteenth shows the last of both channels.
-    for (int item = 0; item < 15; ++item) {
-      const std::string& text = main.lblMeasure(item).caption();
-      const auto place = static_cast<std::size_t>(item);
-      const std::string query(item < 8 ? VoltMeasQuery[place] : FreqMeasQuery[place - 8]);
-      const std::size_t end = text.find(": ");
-      const std::string answer = end == std::string::npos ? "" : text.substr(end + 2);
-      // One that was damaged on its way is no other's.
-      const bool isWhole = answer.find('#') == std::string::npos && answer.size() == 4;
-      EXPECT_TRUE(!isWhole || answer == query.substr(6, 3) + "1") << text;
-    }
-  }
-
-  void checkRecords() {
-    for (const char channel : {'1', '2'}) {
-      const std::string& raw = channel == '1' ? main.Ch1Raw : main.Ch2Raw;
-      std::string& seen = channel == '1' ? seen1_ : seen2_;
-      if (raw == seen) continue;
-      seen = raw;
-      ++recordsSeen;
-      ++exchanges;
-      ASSERT_EQ(raw.size(), 1014u);
-      // A damaged byte or two apart, it is one record of this channel from the first byte on.
-      int strange = 0;
-      for (std::size_t i = 0; i < raw.size(); ++i)
-        if (i % 8 < 7 && raw[i] != raw[i % 8 + 8] && raw[i] != raw[i % 8 + 16]) ++strange;
-      EXPECT_LE(strange, 2);
-      EXPECT_TRUE(raw[9] == channel || raw[17] == channel) << raw.substr(0, 24);
-    }
+  void check(const LineRecord& record) {
+    ++recordsSeen;
+    ++exchanges;
+    const std::string& raw = record.bytes;
+    const char channel = static_cast<char>('0' + record.channel);
+    ASSERT_EQ(raw.size(), 1014u);
+    // A damaged byte or two apart, it is one record of this channel from the first byte on.
+    int strange = 0;
+    for (std::size_t i = 0; i < raw.size(); ++i)
+      if (i % 8 < 7 && raw[i] != raw[i % 8 + 8] && raw[i] != raw[i % 8 + 16]) ++strange;
+    EXPECT_LE(strange, 2);
+    EXPECT_TRUE(raw[9] == channel || raw[17] == channel) << raw.substr(0, 24);
   }
 
   std::mt19937 random_;
   OddInstrument instrument_{opener.farEnd, random_};
-  int asked_ = 0;
-  std::string seen1_;
-  std::string seen2_;
+  PortUser user_{port};
 };
 
 /// How late the instrument is. It answers everything, in the order in which it was asked.

@@ -6,7 +6,6 @@
 #endif
 
 #include "Bench.h"
-#include "Disk.h"
 
 namespace tracewell {
 
@@ -68,32 +67,17 @@ TEST_F(FilesTest, ReadErrorIsAnError) {
   EXPECT_NE(errorOf([] { readFileEnd("/proc/self/mem", 10); }), "");
 }
 
-/// Says at which of its two duties it fails.
-class FullDisk : public Disk {
- public:
-  std::error_code flush(std::FILE&) override { return at(isFileFailing); }
-  std::error_code flushFolder(const fs::path&) override { return at(true); }
-  void takeOwner(std::FILE&, const fs::path& like) override { owners.push_back(like); }
-  std::vector<fs::path> owners;
-  bool isFileFailing = true;
-
- private:
-  static std::error_code at(bool isFailing) {
-    return isFailing ? std::make_error_code(std::errc::io_error) : std::error_code();
-  }
-};
-
 TEST_F(FilesTest, WhatADiskMayNotHoldIsSaidAndLeavesNothingBehind) {
   const fs::path file = folder.path() / "file";
   writeWholeFile(file, "old");
   const std::size_t before = entries();
-  FullDisk disk;
-  useDisk(&disk);
+  FailingDisk disk;
+  disk.fault = disk.faultOfFolder = std::errc::io_error;
   const std::string place = ": " + pathText(file) + " (Input/output error)";
   EXPECT_EQ(errorOf([&] { writeWholeFile(file, "new"); }), "61 Cannot write" + place);
   EXPECT_EQ(contentOf(file), "old");
   EXPECT_EQ(entries(), before);
-  disk.isFileFailing = false;
+  disk.fault = std::errc();
   EXPECT_EQ(errorOf([&] { writeWholeFile(file, "new"); }),
             "61 Written, but perhaps not for good" + place);
   useDisk(nullptr);
@@ -105,9 +89,13 @@ TEST_F(FilesTest, WhatADiskMayNotHoldIsSaidAndLeavesNothingBehind) {
 /// A folder takes the place of the last file of a set while that is on its way.
 TEST_F(FilesTest, SetThatCannotBeWholeIsAsItWas) {
   const fs::path files[] = {folder.path() / "a", folder.path() / "b", folder.path() / "c"};
-  class Intruder : public FullDisk {
+  writeWholeFile(files[0], "old");
+  const std::size_t before = entries();
+  class Intruder : public FailingDisk {
    public:
-    explicit Intruder(const fs::path& place) : place_(place) {}
+    explicit Intruder(const fs::path& place) : place_(place) {
+      faultOfFolder = std::errc::io_error;
+    }
     /// Of the last file, when all targets have been looked at.
     std::error_code flush(std::FILE&) override {
       if (++flushed_ == 3) fs::create_directory(place_);
@@ -118,9 +106,6 @@ TEST_F(FilesTest, SetThatCannotBeWholeIsAsItWas) {
     int flushed_ = 0;
     const fs::path& place_;
   } disk(files[2]);
-  writeWholeFile(files[0], "old");
-  const std::size_t before = entries();
-  useDisk(&disk);
   const std::string reason = errorOf([&] {
     writeWholeFiles({{files[0], "1"}, {files[1], "2"}, {files[2], "3"}});
   });
