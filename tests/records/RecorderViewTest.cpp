@@ -98,17 +98,19 @@ TEST_F(RecorderViewTest, SaysVoltsAndSecondsWhereTheScalesAreKnown) {
   keep(1, sineRecord());
   EXPECT_EQ(value(Quantity::frequency), "1.000 kHz");
   EXPECT_EQ(value(Quantity::maximum), "1.000 V");
+  view.choice.hasMean = true;
   const std::string table = tableOf(view.picture());
-  EXPECT_TRUE(table.starts_with("Time (s)\tCH1 (V)\n-0.01\t0.13\n")) << table;
+  EXPECT_TRUE(table.starts_with("Time (s)\tCH1 (V)\tCH1 mean (V)\n-0.01\t0.13\t0.13\n")) << table;
+  next.madeUnder.voltsPerDivision = 1;
   keepLevel(1, 250);
   // It reaches beyond four divisions.
-  EXPECT_DOUBLE_EQ(view.picture().y[0]->high, 6 * 0.5);
+  EXPECT_DOUBLE_EQ(view.picture().y[0]->high, 6);
   next.madeUnder = {std::nullopt, 2e-3, 1, std::nullopt};
   keep(2, sineRecord(50));
   EXPECT_EQ(value(Quantity::maximum, 1), "scale not known");
   view.choice.behind = 5;
   EXPECT_EQ(view.picture().notes, (Lines{"CH2 in divisions: math has no volts",
-                                         "CH1: earlier records under these scales: 1",
+                                         "CH1: earlier records under these scales: 0",
                                          "CH2: earlier records under these scales: 0"}));
 }
 
