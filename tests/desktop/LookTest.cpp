@@ -1,14 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gtest/gtest.h>
 
-#include <QCheckBox>
-#include <QComboBox>
 #include <QHelpEvent>
-#include <QLineEdit>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QSignalSpy>
-#include <QStyleOption>
 #include <QTest>
 #include <QToolTip>
 #include <numbers>
@@ -331,47 +326,6 @@ TEST_F(LookTest, SentencesFollowEachOtherWithTheSignsOfTheirWeight) {
     const int end = seen(line).find(colour).right();
     EXPECT_TRUE(end < width && end > width - 2 * letter) << width;
   }
-}
-
-/// So that they can be seen, and in another colour with the focus.
-TEST_F(LookTest, FramesSurroundWhatTheyBelongTo) {
-  QWidget window;
-  QCheckBox tick(&window);
-  QRadioButton option(&window);
-  QPushButton button(&window);
-  QLineEdit line(&window);
-  QComboBox box(&window);
-  QLineEdit bare(&window);
-  bare.setFrame(false);
-  const auto indicator = [](QAbstractButton& of, QStyle::SubElement element) {
-    QStyleOptionButton look;
-    look.initFrom(&of);
-    return of.style()->subElementRect(element, &look, &of);
-  };
-  const std::initializer_list<QWidget*> widgets = {&tick, &option, &button, &line, &box, &bare};
-  for (int top = 0; QWidget * widget : widgets) widget->setGeometry(0, (top += 40) - 40, 120, 36);
-  window.setPalette(plainColours());
-  focus(window);
-  const QRect ofTick = indicator(tick, QStyle::SE_CheckBoxIndicator);
-  const QRect ofOption = indicator(option, QStyle::SE_RadioButtonIndicator);
-  const std::pair<QWidget*, QRect> frames[] = {{&tick, ofTick},          {&option, ofOption},
-                                               {&button, button.rect()}, {&line, line.rect()},
-                                               {&box, box.rect()},       {&bare, {}}};
-  for (const auto& [widget, frame] : frames) {
-    SCOPED_TRACE(widget->metaObject()->className());
-    window.setFocus();
-    EXPECT_EQ(seen(*widget).find(Qt::green), frame);
-    widget->setFocus();
-    EXPECT_EQ(seen(*widget).find(Qt::yellow, widget->rect(), 0.6), frame);
-  }
-  window.setFocus();
-  EXPECT_FALSE(seen(tick).find(Qt::green, {ofTick.topLeft(), QSize(2, 2)}).isEmpty());
-  EXPECT_TRUE(seen(option).find(Qt::green, {ofOption.topLeft(), QSize(2, 2)}).isEmpty());
-  EXPECT_TRUE(seen(option).find(Qt::yellow).isEmpty());
-  option.setChecked(true);
-  const QRect dot = seen(option).find(Qt::yellow);
-  expectNear(dot.center(), ofOption.center(), 1);
-  EXPECT_NEAR(dot.width(), ofOption.width() / 2.0, 2);
 }
 
 }  // namespace

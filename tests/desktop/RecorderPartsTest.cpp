@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <QCheckBox>
-#include <QComboBox>
 #include <QSignalSpy>
 #include <QTableWidget>
 #include <QTest>
@@ -9,7 +7,6 @@
 #include "Doubles.h"
 #include "QtValues.h"
 #include "RecordStrip.h"
-#include "RecorderBar.h"
 #include "RecorderTables.h"
 #include "Regions.h"
 
@@ -191,42 +188,6 @@ TEST_F(RecordStripTest, MouseAndKeysPointMarkAndZoom) {
   }
   QTest::mouseDClick(&strip, Qt::LeftButton, {}, {500, 60});
   EXPECT_TRUE(view.timeline.showsAll());
-}
-
-TEST_F(RecorderPartsTest, BarOffersWhatSuitsWhatIsDrawn) {
-  RecorderCursors cursors;
-  RecorderBar bar(view, cursors, nullptr);
-  const auto choose = [&](const char* name, int entry) {
-    bar.findChild<QComboBox*>(QLatin1String(name))->setCurrentIndex(entry);
-  };
-  const auto tick = [&](const char* name) {
-    bar.findChild<QCheckBox*>(QLatin1String(name))->click();
-    return bar.findChild<QCheckBox*>(QLatin1String(name))->isEnabled();
-  };
-  const auto shown = [&] {
-    QStringList names;
-    for (const QWidget* part : bar.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
-      if (part->isVisibleTo(&bar)) names << part->objectName();
-    return fromQt(names.join(QLatin1Char(' ')));
-  };
-  const RecorderChoice& choice = view.choice;
-  EXPECT_EQ(shown(), "follow channel mode behind fading envelope mean cursors");
-  EXPECT_FALSE(tick("mean"));
-  choose("behind", 3);
-  EXPECT_TRUE(tick("fading") && tick("envelope") && tick("mean"));
-  EXPECT_TRUE(choice.behind == 20 && !choice.isFading && choice.hasEnvelope && choice.hasMean);
-  choose("channel", 2);
-  choose("mode", 1);
-  choose("cursors", 2);
-  EXPECT_TRUE(view.channel() == 2 && cursors.kind == RecorderCursors::up);
-  EXPECT_EQ(shown(), "follow channel mode cursors");
-  EXPECT_TRUE(tick("follow") && !view.isFollowing());
-  if (!hasSpectra()) return;
-  choose("mode", 2);
-  choose("window", 1);
-  choose("level", 1);
-  EXPECT_EQ(shown(), "follow channel mode behind window level cursors");
-  EXPECT_TRUE(choice.window == SpectrumShape::flatTop && !choice.isInDecibels);
 }
 
 TEST_F(RecorderPartsTest, TablesSayWhatIsMeasured) {
