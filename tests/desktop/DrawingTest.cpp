@@ -148,6 +148,21 @@ TEST_F(DrawingTest, FocusIsAFrameAroundThePlot) {
   EXPECT_TRUE(find(colour, area.rect().adjusted(3, 3, -3, -3)).isEmpty());
 }
 
+TEST_F(DrawingTest, OldTracesArePaleOnTheScreenAlone) {
+  draw(1, {{-200, 0}, {200, 0}});
+  const auto strength = [&] {
+    paint();
+    double most = 0;
+    for (const QPoint& pixel : picture.pixels(colourOf(1), area.rect(), 0.1))
+      most = std::max(most, picture.shareOf(colourOf(1).rgb(), picture.picture.pixel(pixel)));
+    return most;
+  };
+  const double usual = strength();
+  graph.plot(1).pale = [] { return true; };
+  graph.plot(1).notifyChanged();
+  EXPECT_NEAR(strength() / usual, 0.5, 0.05);
+}
+
 TEST_F(DrawingTest, TriggerMarkPointsAtItsLevelAndStaysInside) {
   const QColor colour(129, 212, 132);
   EXPECT_EQ(find(colour), QRect());
