@@ -2,17 +2,14 @@
 #include <gtest/gtest.h>
 
 #include <QHelpEvent>
-#include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
 #include <QToolTip>
 #include <numbers>
 #include <set>
 
-#include "ButtonSigns.h"
 #include "ElidedLabel.h"
 #include "KnobWidget.h"
-#include "LampWidget.h"
 #include "Regions.h"
 #include "SlideWidget.h"
 #include "Theme.h"
@@ -252,44 +249,6 @@ TEST_P(SlideLookTest, ItsLookSaysWhetherItIsKnownUsableAndFocused) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Both, SlideLookTest, testing::Values(Qt::Vertical, Qt::Horizontal));
-
-TEST_F(LookTest, LampIsARoundLightInTheMiddle) {
-  LampWidget lamp;
-  lamp.setPalette(plainColours());
-  const QColor green(0, 120, 0);
-  lamp.setColour(green);
-  lamp.resize(90, 60);
-  const Regions picture = seen(lamp);
-  const QRect disc = picture.find(green);
-  expectNear(disc.center(), {44, 29}, 1);
-  EXPECT_NEAR(disc.width(), disc.height(), 1);
-  EXPECT_TRUE(disc.height() > 52 && disc.height() < 60);
-  const auto light = [&](int out) {
-    return picture.picture.pixelColor(disc.center() + QPoint(out, out)).green();
-  };
-  EXPECT_TRUE(light(-5) > light(0) && light(0) > light(8) && light(8) > light(16) &&
-              light(22) < 30);
-}
-
-/// In a square of 64 pixels, in the colour of the button's words.
-TEST_F(LookTest, SignOfTheInstrumentIsAScreenWithAWaveAndAKnob) {
-  QPushButton button;
-  button.setProperty("sign", "instrument");
-  showSign(button);
-  for (const QColor colour : {Qt::red, Qt::blue}) {
-    button.setPalette(
-        QPalette(colour, Qt::black, Qt::black, Qt::black, Qt::black, colour, Qt::black));
-    const Regions sign = {button.icon().pixmap(64).toImage().convertToFormat(QImage::Format_RGB32)};
-    expectNear(sign.find(colour).center(), {31.5, 31.5}, 1);
-    EXPECT_TRUE(sign.find(colour).width() > 58 && sign.find(colour).height() > 44 &&
-                sign.find(colour).height() < 54);
-    expectNear(sign.find(colour, {43, 20, 12, 24}).center(), {48.5, 31.5}, 1);
-    const QRect crest = sign.find(colour, {15, 16, 7, 32});
-    const QRect trough = sign.find(colour, {28, 16, 7, 32});
-    EXPECT_TRUE(crest.bottom() < 34 && crest.top() < 20 && trough.top() > 29 &&
-                trough.bottom() > 43);
-  }
-}
 
 TEST_F(LookTest, SentencesFollowEachOtherWithTheSignsOfTheirWeight) {
   ElidedLabel line;
