@@ -24,23 +24,27 @@ const QColor noteColour(255, 235, 59);
 const QColor noteShadow(0, 0, 0, 160);
 
 /// Of the same share of every picture, whatever the screen's resolution was.
-QFont noteFont(const QImage& picture) {
-  constexpr int smallest = 16;
-  constexpr int partOfWidth = 50;
+QFont fontIn(const QImage& picture, int partOfWidth, double smallest) {
   QFont font;
-  font.setPixelSize(qMax(smallest, picture.width() / partOfWidth));
+  font.setPixelSize(qMax(qRound(smallest), picture.width() / partOfWidth));
+  return font;
+}
+
+QFont noteFont(const QImage& picture) {
+  QFont font = fontIn(picture, 50, 16);
   font.setBold(true);
   return font;
 }
 
-/// No larger than what can be loaded again in every format.
+/// No larger than what can be loaded again in every format; a line of some is filled up to an even
+/// number of pixels.
 QImage fitted(const QImage& picture) {
   constexpr double most = std::min(largestPictureArea, largestPcxLines / 3);
-  const double area = double{1} * picture.width() * picture.height();
+  const double area = double{1} * (picture.width() + picture.width() % 2) * picture.height();
   const double longest = qMax(picture.width(), picture.height());
   const double share = qMin(std::sqrt(most / area), largestPictureSide / longest);
   if (share >= 1) return picture;
-  return picture.scaled(qFloor(picture.width() * share), qFloor(picture.height() * share),
+  return picture.scaled(2 * qFloor(picture.width() * share / 2), qFloor(picture.height() * share),
                         Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
@@ -50,8 +54,7 @@ Image DesktopPictures::graphImage(const Graph& graph, const std::string& footnot
   auto* view = qobject_cast<GraphView*>(windows_.widgetOf(graph));
   if (view == nullptr) throw Error(invalidProcedureCall, "Tracewell", "The graph is not shown");
   QImage shown = view->picture().toImage();
-  QFont font;
-  font.setPixelSize(static_cast<int>(15 * shown.devicePixelRatio()));
+  const QFont font = fontIn(shown, 75, 15 * shown.devicePixelRatio());
   // From here on a pixel is a pixel.
   shown.setDevicePixelRatio(1);
   const int lineHeight = QFontMetrics(font).height() + 8;

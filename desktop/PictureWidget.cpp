@@ -27,7 +27,7 @@ QRectF PictureWidget::target() const {
 void PictureWidget::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::SmoothPixmapTransform);
-  painter.fillRect(rect(), palette().color(QPalette::AlternateBase));
+  painter.fillRect(rect(), palette().color(QPalette::Window));
   if (picture_.isNull()) return;
   const QSize size = (target().size() * devicePixelRatioF()).toSize();
   if (size.width() >= picture_.width()) return painter.drawImage(target(), picture_);

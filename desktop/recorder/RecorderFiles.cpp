@@ -19,30 +19,41 @@
 namespace tracewell {
 namespace {
 
-/// The graph without what belongs to the window, and notes below it.
-Image drawn(const RecorderPicture& picture, const RecorderLook& look, const QSize& size,
-            const QStringList& notes) {
-  RecorderGraph graph(nullptr);
-  graph.resize(size);
-  graph.setLook(look);
-  graph.showPicture(picture, {}, {});
-  const QImage shown = graph.picture().toImage();
-  const int line = QFontMetrics(graph.font()).lineSpacing();
+/// A line for each record.
+QStringList notesOf(const RecordStore& store, const RecordsOfSet& numbers, const Words& words) {
+  QStringList notes;
+  for (const auto& number : numbers)
+    if (number) notes << shownText(noteOf(store, *number, words), roomOfLine);
+  return notes;
+}
+
+/// The graph, and the notes below it.
+Image drawn(RecorderGraph& graph, const RecorderLook& look, const QStringList& notes) {
   constexpr int margin = 6;
-  const int below = static_cast<int>(notes.size()) * line + 2 * margin;
-  QImage image(size.width(), size.height() + below, QImage::Format_RGB888);
+  constexpr int wrapped = Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap;
+  const QString text = notes.join(QLatin1Char('\n'));
+  const QRect room(margin, graph.height(), graph.width() - 2 * margin, graph.height());
+  const QRect below = QFontMetrics(graph.font()).boundingRect(room, wrapped, text);
+  QImage image(graph.width(), below.bottom() + 2 * margin, QImage::Format_RGB888);
   image.fill(look.ground);
   QPainter painter(&image);
-  painter.drawImage(0, 0, shown);
+  painter.drawPixmap(0, 0, graph.picture());
   painter.setFont(graph.font());
   painter.setPen(RecorderLook::text);
-  painter.drawText(QRect(margin, size.height(), size.width() - 2 * margin, below - margin),
-                   Qt::AlignLeft | Qt::AlignTop, notes.join(QLatin1Char('\n')));
+  painter.drawText(room, wrapped, text);
   painter.end();
   return fromQt(image);
 }
 
 }  // namespace
+
+void copyShown(Recorder& recorder, const RecorderView& view, const RecorderLook& look,
+               RecorderGraph& graph) {
+  const Services& services = recorder.main().services();
+  const QStringList notes =
+      notesOf(recorder.store(), {view.shownOf(1), view.shownOf(2)}, services.words);
+  services.clipboard.put(tableOf(view.picture()), drawn(graph, look, notes));
+}
 
 QString exportRecords(Recorder& recorder, const RecorderView& view,
                       const std::filesystem::path& path) {
@@ -78,10 +89,11 @@ QString saveAsSet(Recorder& recorder, const RecorderView& view, const RecorderLo
       return panelText("This record is cut: a set needs a whole one");
   const Services& services = recorder.main().services();
   const WaveformSet set = setOfRecords(recorder.main(), recorder.store(), numbers, services.words);
-  QStringList notes;
-  for (const auto& number : numbers)
-    if (number) notes << shownText(noteOf(recorder.store(), *number, services.words), roomOfLine);
-  const Image picture = drawn(view.savedPicture(), look, size, notes);
+  RecorderGraph graph(nullptr);
+  graph.resize(size);
+  graph.setLook(look);
+  graph.showPicture(view.savedPicture(), {}, {});
+  const Image picture = drawn(graph, look, notesOf(recorder.store(), numbers, services.words));
   writeWaveformSet(path, {BuildCsvText(set), buildInfText(set, pathText(path)),
                           services.pictures.encode(picture, *format)});
   QString text = shownText(setWasSaved(services.words, path), roomOfLine);

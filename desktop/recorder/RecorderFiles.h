@@ -11,6 +11,13 @@
 
 namespace tracewell {
 
+class RecorderGraph;
+
+/// Puts what the graph shows on the clipboard, as a table and as a picture with a line for each
+/// record below it.
+void copyShown(Recorder& recorder, const RecorderView& view, const RecorderLook& look,
+               RecorderGraph& graph);
+
 /// The records that are marked, or the one pointed at, as CSV. Returns what is to be said of it.
 /// Raises pathAccess.
 QString exportRecords(Recorder& recorder, const RecorderView& view,

@@ -118,7 +118,6 @@ void RecorderGraph::setLook(const RecorderLook& look) {
   plot_.setBackground(look.ground);
   QFont small = font();
   for (QCPAxis* axis : plot_.axisRect()->axes()) {
-    axis->setBasePen(hasFocus() ? QPen(palette().color(QPalette::Highlight), 2) : QPen(look.grid));
     axis->setTickPen(QPen(look.grid));
     axis->setTickLabelFont(small);
     axis->setLabelFont(small);
@@ -134,10 +133,24 @@ void RecorderGraph::setLook(const RecorderLook& look) {
   badge_->setPen(QPen(look.grid));
   badge_->setColor(RecorderLook::cursor);
   note_->setColor(RecorderLook::gap);
+  showFocus(hasFocus());
 }
 
-QPixmap RecorderGraph::picture() const {
-  return plot_.toPixmap(width(), height());
+QPixmap RecorderGraph::picture() {
+  showFocus(false);
+  QPixmap picture = plot_.toPixmap(width(), height());
+  showFocus(hasFocus());
+  return picture;
+}
+
+/// By a frame and at the active cursor.
+void RecorderGraph::showFocus(bool isFocused) {
+  const QPen pen = isFocused ? QPen(palette().color(QPalette::Highlight), 2) : QPen(look_.grid);
+  for (QCPAxis* axis : plot_.axisRect()->axes()) axis->setBasePen(pen);
+  for (std::size_t i = 0; i < cursorLines_.size(); ++i) {
+    const QColor colour = cursorNames_.at(i)->color();
+    cursorLines_.at(i)->setPen(QPen(colour, isFocused && i == active_ ? 2 : 1, Qt::DashLine));
+  }
 }
 
 QCPAxis& RecorderGraph::axisOf(int channel) const {
@@ -224,7 +237,7 @@ void RecorderGraph::showCurve(std::size_t index, const RecorderCurve& curve, QCP
       graph.setPen(QPen(own, 1, Qt::DotLine));
       break;
     case RecorderCurve::mean:
-      graph.setPen(QPen(Qt::white, 1.4));
+      graph.setPen(QPen(mixed(own, Qt::white, 0.4F), 1.4));
       break;
     case RecorderCurve::record:
       graph.setPen(QPen(own, 1.4));
@@ -301,12 +314,12 @@ void RecorderGraph::showCursors(const RecorderCursors& cursors,
     const double share = cursors.at().at(i);
     const QColor colour =
         i == active_ ? QColor(RecorderLook::cursor).lighter(125) : QColor(RecorderLook::cursor);
-    cursorLines_.at(i)->setPen(QPen(colour, i == active_ && hasFocus() ? 2 : 1, Qt::DashLine));
     cursorNames_.at(i)->setColor(colour);
     cursorLines_.at(i)->start->setCoords(isAcross ? share : 0, isAcross ? 0 : 1 - share);
     cursorLines_.at(i)->end->setCoords(isAcross ? share : 1, isAcross ? 1 : 1 - share);
     cursorNames_.at(i)->position->setCoords(isAcross ? share : 0, isAcross ? 0 : 1 - share);
   }
+  showFocus(hasFocus());
   badge_->setVisible(isOn);
   badge_->setText(lines(texts));
 }
@@ -370,17 +383,16 @@ void RecorderGraph::keyPressEvent(QKeyEvent* event) {
   }
 }
 
-/// The focus shows by a frame and at the active cursor.
 void RecorderGraph::focusInEvent(QFocusEvent* event) {
   QWidget::focusInEvent(event);
-  setLook(look_);
-  emit cursorMoved(active_, cursors_.at().at(active_));
+  showFocus(true);
+  plot_.replot(QCustomPlot::rpQueuedRefresh);
 }
 
 void RecorderGraph::focusOutEvent(QFocusEvent* event) {
   QWidget::focusOutEvent(event);
-  setLook(look_);
-  emit cursorMoved(active_, cursors_.at().at(active_));
+  showFocus(false);
+  plot_.replot(QCustomPlot::rpQueuedRefresh);
 }
 
 }  // namespace tracewell

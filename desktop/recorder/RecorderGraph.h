@@ -34,8 +34,8 @@ class RecorderGraph : public QWidget {
   void showPicture(const RecorderPicture& picture, const RecorderCursors& cursors,
                    const std::vector<std::string>& texts);
 
-  /// What is shown, at its own size on the screen.
-  QPixmap picture() const;
+  /// What is shown, at its own size on the screen; whether it has the focus does not matter.
+  QPixmap picture();
 
   QSize minimumSizeHint() const override { return {320, 200}; }
 
@@ -64,6 +64,7 @@ class RecorderGraph : public QWidget {
   void showLabels();
   void showPeakLists(const std::array<QStringList, 2>& lists);
   void showCursors(const RecorderCursors& cursors, const std::vector<std::string>& texts);
+  void showFocus(bool isFocused);
   void showNotes(const std::vector<std::string>& notes);
   QCPAxis& axisOf(int channel) const;
   double shareAt(const QPointF& place) const;

@@ -12,7 +12,6 @@
 #include "Error.h"
 #include "Files.h"
 #include "PanelReference.h"
-#include "QtImages.h"
 #include "QtValues.h"
 #include "RecorderFiles.h"
 #include "RecorderGraph.h"
@@ -319,8 +318,7 @@ void RecorderWindow::showInPanel() {
 }
 
 void RecorderWindow::copy() {
-  const std::string table = tableOf(view_.picture());
-  recorder_.main().services().clipboard.put(table, fromQt(graph_->picture().toImage()));
+  copyShown(recorder_, view_, look(), *graph_);
   say(panelText("Copied"));
 }
 

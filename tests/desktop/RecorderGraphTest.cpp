@@ -127,7 +127,8 @@ TEST_F(RecorderGraphTest, CurvesLieWhereTheyBelongAndTellTheirKinds) {
   show();
   for (const auto& [kind, channel, age, height, isDotted, share] : cases) {
     SCOPED_TRACE(height);
-    const QColor colour = kind == Curve::mean ? Qt::white : channel == 1 ? Qt::red : Qt::blue;
+    const QColor own = channel == 1 ? Qt::red : Qt::blue;
+    const QColor colour = kind == Curve::mean ? mixed(own, Qt::white, 0.4F) : own;
     qsizetype most = 0;
     double strongest = 0;
     for (const int row : {-1, 0, 1}) {

@@ -102,8 +102,15 @@ TEST_F(RecorderWindowTest, KeepsFollowsStepsPinsShowsLogsAndExports) {
   EXPECT_EQ(find<QComboBox>("pins").itemText(0), QStringLiteral("Nothing pinned"));
   EXPECT_FALSE(find<QComboBox>("pins").isEnabled());
 
-  find<QPushButton>("copy").click();
-  EXPECT_EQ(said(), "Copied");
+  QList<QImage> copied;
+  for (const char* part : {"recordStrip", "recordStrip", "recorderGraph"}) {
+    find<QWidget>(part).setFocus();
+    find<QPushButton>("copy").click();
+    EXPECT_EQ(said(), "Copied");
+    copied << QGuiApplication::clipboard()->image();
+  }
+  EXPECT_EQ(copied[1], copied[2]);
+  EXPECT_GT(copied[2].height(), find<QWidget>("recorderGraph").height());
   EXPECT_TRUE(QGuiApplication::clipboard()->text().startsWith("Time (s)\tCH1 (V)"));
   find<QPushButton>("showInPanel").click();
   EXPECT_EQ(said(), "It lies over the live traces now");
