@@ -162,19 +162,18 @@ StatusLine::Sentence SetupFiles::WriteSetupFile(const std::filesystem::path& pat
 void SetupFiles::mnbLoadSetup_Click() {
   Services& services = main_.services();
   const std::filesystem::path path = services.dialogs.openFile(dialogDSO(services.programFolder));
-  for (const auto topic : {StatusLine::happened, StatusLine::failed}) main_.status.withdraw(topic);
   const bool hasLines = loadFile(path);
   if (!hasLines) {
     main_.status.tell(StatusLine::failed, [path](const Words& words) {
-      return words.say("%1 holds no setup", {pathText(path)});
+      return words.say("%1 holds no setup", {wholePathText(path)});
     });
   } else if (isToBeKept(main_, path)) {
     main_.status.tell(StatusLine::failed, [path](const Words& words) {
-      return words.say("%1 was not loaded whole", {pathText(path)});
+      return words.say("%1 was not loaded whole", {wholePathText(path)});
     });
   } else {
     main_.status.tell(StatusLine::happened, [path](const Words& words) {
-      return words.say("Setup loaded from %1", {pathText(path)});
+      return words.say("Setup loaded from %1", {wholePathText(path)});
     });
   }
 }
@@ -185,7 +184,7 @@ void SetupFiles::mnbSaveSetup_Click() {
   const StatusLine::Sentence said = WriteSetupFile(path);
   if (path.empty()) return;
   main_.status.tell(StatusLine::happened, [path](const Words& words) {
-    return words.say("Setup saved to %1", {pathText(path)});
+    return words.say("Setup saved to %1", {wholePathText(path)});
   });
   if (said) main_.status.tellToo(StatusLine::happened, said);
 }

@@ -91,10 +91,9 @@ void WaveformButtons::graphDSO_ReferenceRemoved(int number) {
 void WaveformButtons::cmdExportCSV_Click() {
   const std::filesystem::path path = "text.csv";
   writeWholeFile(path, main_.txtMsg.text());
-  main_.status.tell(StatusLine::happened,
-                    [whole = std::filesystem::absolute(path)](const Words& words) {
-                      return words.say("Saved %1", {pathText(whole)});
-                    });
+  main_.status.tell(StatusLine::happened, [path](const Words& words) {
+    return words.say("Saved %1", {wholePathText(path)});
+  });
 }
 
 }  // namespace tracewell

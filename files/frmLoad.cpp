@@ -132,6 +132,7 @@ void frmLoad::cmdOK_Click() {
 
 void frmLoad::sayWhyNot(const Error& error) {
   main_.status.tell(StatusLine::failed, [error, path = dataPath_](const Words& words) {
+    if (path.empty()) return words.say("No set is chosen");
     const std::string reason = error.number() == subscriptOutOfRange
                                    ? words.say("more than 500 lines of data")
                                    : error.description();

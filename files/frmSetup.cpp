@@ -62,8 +62,9 @@ void frmSetup::cmdSave_Click() {
       {services().programFolder, "Save Setup Report file", "default.sir", "*.sir|*.sir"});
   if (path.empty()) return;
   writeWholeFile(path, txtSetup.text());
-  main_.status.tell(StatusLine::happened,
-                    [path](const Words& words) { return words.say("Saved %1", {pathText(path)}); });
+  main_.status.tell(StatusLine::happened, [path](const Words& words) {
+    return words.say("Saved %1", {wholePathText(path)});
+  });
 }
 
 }  // namespace tracewell

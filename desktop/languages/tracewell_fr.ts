@@ -1080,6 +1080,10 @@
         <translation>Pas assez de place pour tout %1 : appuyer d'abord sur %2</translation>
     </message>
     <message>
+        <source>No set is chosen</source>
+        <translation>Aucun jeu n’est choisi</translation>
+    </message>
+    <message>
         <source>No window</source>
         <translation>Sans fenêtre</translation>
     </message>

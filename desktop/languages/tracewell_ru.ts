@@ -1080,6 +1080,10 @@
         <translation>Для всего %1 не хватает места: сначала нажмите «%2»</translation>
     </message>
     <message>
+        <source>No set is chosen</source>
+        <translation>Набор не выбран</translation>
+    </message>
+    <message>
         <source>No window</source>
         <translation>Без окна</translation>
     </message>

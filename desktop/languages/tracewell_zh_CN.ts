@@ -1080,6 +1080,10 @@
         <translation>%1 无法全部显示：请先按“%2”</translation>
     </message>
     <message>
+        <source>No set is chosen</source>
+        <translation>未选择波形组</translation>
+    </message>
+    <message>
         <source>No window</source>
         <translation>不加窗</translation>
     </message>

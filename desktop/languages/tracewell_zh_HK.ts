@@ -1080,6 +1080,10 @@
         <translation>擺唔晒 %1：請先撳「%2」</translation>
     </message>
     <message>
+        <source>No set is chosen</source>
+        <translation>未選擇波形組</translation>
+    </message>
+    <message>
         <source>No window</source>
         <translation>唔加窗</translation>
     </message>

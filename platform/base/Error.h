@@ -28,7 +28,7 @@ class Error : public std::exception {
   Error(int number, std::string source, std::string description);
 
   int number() const { return number_; }
-  /// Who reports it: "Tracewell" for the program itself, "RS232" for the port.
+  /// Who reports it: "Tracewell" for the program itself, "RS232" for the port, "Printer".
   const std::string& source() const { return source_; }
   const std::string& description() const { return description_; }
   const char* what() const noexcept override { return description_.c_str(); }

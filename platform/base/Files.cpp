@@ -56,6 +56,10 @@ std::string pathText(const fs::path& path) {
   return {text.begin(), text.end()};
 }
 
+std::string wholePathText(const fs::path& path) {
+  return pathText(fs::absolute(path));
+}
+
 fs::path pathOf(const std::string& text) {
   try {
     return std::u8string(text.begin(), text.end());

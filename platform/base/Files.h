@@ -56,4 +56,7 @@ std::filesystem::path nameAside(const std::filesystem::path& path);
 std::string pathText(const std::filesystem::path& path);
 std::filesystem::path pathOf(const std::string& text);
 
+/// For the user, who cannot know in which folder a bare name is.
+std::string wholePathText(const std::filesystem::path& path);
+
 }  // namespace tracewell

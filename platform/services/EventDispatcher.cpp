@@ -20,12 +20,17 @@ void EventDispatcher::run(const std::function<void()>& handler) const {
   try {
     handler();
   } catch (const Error& error) {
-    dialogs_.showRunTimeError(error);
+    show(error);
   } catch (const ProgramEnded&) {
     // Whoever waited is over; nobody is left to tell.
   } catch (const std::exception& error) {
-    dialogs_.showRunTimeError(Error(invalidProcedureCall, "Tracewell", error.what()));
+    show(Error(invalidProcedureCall, "Tracewell", error.what()));
   }
+}
+
+void EventDispatcher::show(const Error& error) const {
+  if (failed) failed();
+  dialogs_.showRunTimeError(error);
 }
 
 }  // namespace tracewell

@@ -14,6 +14,9 @@ class EventDispatcher {
  public:
   EventDispatcher(Gate& gate, Dialogs& dialogs) : gate_(gate), dialogs_(dialogs) {}
 
+  /// A handler has ended with an error, which the box will show.
+  std::function<void()> failed;
+
   /// Runs `handler`, unless the gate is held or closed. Shows an error that the handler does not
   /// trap in one box, with number and description; the program goes on.
   void dispatch(const std::function<void()>& handler) const;
@@ -27,6 +30,7 @@ class EventDispatcher {
 
  private:
   void run(const std::function<void()>& handler) const;
+  void show(const Error& error) const;
 
   Gate& gate_;
   Dialogs& dialogs_;
