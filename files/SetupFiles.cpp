@@ -162,7 +162,7 @@ StatusLine::Sentence SetupFiles::WriteSetupFile(const std::filesystem::path& pat
 void SetupFiles::mnbLoadSetup_Click() {
   Services& services = main_.services();
   const std::filesystem::path path = services.dialogs.openFile(dialogDSO(services.programFolder));
-  for (const auto topic : {StatusLine::happened, StatusLine::failed}) main_.status.withdraw(topic);
+  main_.status.withdraw(StatusLine::happened);
   const bool hasLines = loadFile(path);
   if (!hasLines) {
     main_.status.tell(StatusLine::failed, [path](const Words& words) {
