@@ -150,9 +150,7 @@ void Tracewell::sayAgain() {
 
 void Tracewell::connectSupport() {
   // What the user has had done before is not what the error is about.
-  main.services().dispatcher.failed = [this] {
-    for (const auto topic : {StatusLine::happened, StatusLine::failed}) main.status.withdraw(topic);
-  };
+  main.services().dispatcher.failed = [this] { main.status.withdraw(StatusLine::happened); };
   main.lblDSOCmd.doubleClicked = [this] { errLog.lblDSOCmd_DblClick(); };
   main.cmdNewErrors.click = [this] { errLog.lblDSOCmd_DblClick(); };
   main.mnbErrLog.click = [this] { errLog.lblDSOCmd_DblClick(); };

@@ -10,7 +10,7 @@ namespace tracewell {
 /// the instrument itself.
 void showSign(QPushButton& button);
 
-/// A patch of the colour, with an edge that shows where it is that of the button's ground, too.
+/// A patch of the colour. Its edge shows it even on a button of that colour.
 void showSwatch(QPushButton& button, const QColor& colour);
 
 }  // namespace tracewell

@@ -54,7 +54,7 @@ QFont ElidedLabel::fontThatFits() const {
   if (hasRoom(font())) return font();
   QFont narrow = font();
   narrow.setPixelSize(QFontInfo(font()).pixelSize() - 1);
-  // Letters of whole pixels do not become narrower by just what they should.
+  // Letters of whole pixels do not shrink by exactly the factor that they are given.
   for (int stretch = 100; stretch >= leastStretch && !hasRoom(narrow); stretch -= 5)
     narrow.setStretch(stretch);
   return narrow;

@@ -27,7 +27,7 @@ class ElidedLabel : public QLabel {
   /// Together they are the label's text. They are painted from the left, the first one before the
   /// others.
   void setSentences(const std::vector<Sentence>& sentences);
-  /// Something of it is not to be seen.
+  /// Part of the text does not show.
   bool isCut() const;
 
  protected:

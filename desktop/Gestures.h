@@ -22,7 +22,7 @@ void onEnter(QObject* watched, const std::function<void()>& action);
 void takeOnKeys(QComboBox& box, const ComboBox& control);
 
 /// While the line has the focus it gets all keys that edit a text, even if it is empty: the user
-/// means the line. Of a box with a line in it, the box has the focus.
+/// means the line. For a box with a line in it, pass the box: it has the focus.
 void keepEditingKeys(QWidget& line);
 
 /// Runs `action` when the user presses a key that moves through a list. Focus alone, which also

@@ -170,7 +170,8 @@ void GraphOverlay::paintSides(QPainter& painter, const std::vector<Side>& sides)
   painter.restore();
 }
 
-/// At the right ends of their traces, which may be anywhere, one above the other; whole.
+/// At the right ends of their traces, which may be anywhere, one above the other. None is cut at
+/// the left edge.
 void GraphOverlay::paintNames(QPainter& painter, const Texts& names) const {
   struct Name {
     Texts row;

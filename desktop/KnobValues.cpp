@@ -33,7 +33,7 @@ KnobValue captionValue(const QString& caption) {
 
 std::optional<KnobValue> typedValue(const QString& typed, const QString& unit) {
   const QRegularExpression form(
-      QStringLiteral("^([0-9]*[.,]?[0-9]*) *([num\u00b5]?)(%1?)$").arg(unit),
+      QStringLiteral("^([0-9]*[.,]?[0-9]*) *([num\u00b5]?)(%1)?$").arg(unit),
       QRegularExpression::CaseInsensitiveOption);
   const QRegularExpressionMatch parts = form.match(typed);
   KnobValue value;

@@ -21,8 +21,8 @@ KnobValue captionValue(const QString& caption);
 /// zero with a point or a comma, perhaps a prefix and the unit. None if it is anything else.
 std::optional<KnobValue> typedValue(const QString& typed, const QString& unit);
 
-/// The index of the caption nearest to a value. A value without prefix or unit stands for any
-/// thousandth part that the captions read so; of several, for the one nearest to `present`.
+/// The index of the caption nearest to a value. A value without exponent fits captions of any
+/// prefix: 20 is 20 ns as well as 20 ms. Of several, the one nearest to `present` is meant.
 int nearestCaption(const QStringList& captions, const KnobValue& value, int present);
 
 }  // namespace tracewell

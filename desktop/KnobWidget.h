@@ -99,8 +99,8 @@ class KnobWidget : public QWidget {
   int value_ = 0;
   QPointF centre_;
   qreal radius_ = 0;
-  /// The typed text, shown on the cap until Enter takes it or it is given up. Enter leaves it where
-  /// it is no value.
+  /// The typed text, shown on the cap until Enter takes it or the user gives it up. Enter does
+  /// nothing while it is no value.
   QString typed_;
   WheelTravel wheel_;
   /// State of a drag: its first detent, the last angle, and degrees turned to the right.

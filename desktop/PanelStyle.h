@@ -17,7 +17,7 @@ class PanelStyle : public QProxyStyle {
                      const QWidget* widget) const override;
   void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                           QPainter* painter, const QWidget* widget) const override;
-  /// Buttons of boxes have no icons, as all others.
+  /// Buttons of message boxes have no icons, like all other buttons.
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                 QStyleHintReturn* more) const override;
   void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,

@@ -31,7 +31,7 @@ void PictureWidget::paintEvent(QPaintEvent*) {
   if (picture_.isNull()) return;
   const QSize size = (target().size() * devicePixelRatioF()).toSize();
   if (size.width() >= picture_.width()) return painter.drawImage(target(), picture_);
-  // The painter would take single points of it, and lines would be gone.
+  // The painter would leave out points, and thin lines with them.
   if (reduced_.size() != size)
     reduced_ = picture_.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
   painter.drawImage(target(), reduced_);

@@ -26,7 +26,7 @@ class PictureWidget : public QWidget {
  private:
   QRectF target() const;
   QImage picture_;
-  /// The picture made as small as its place is; kept, since that takes long.
+  /// The picture scaled down to its place; kept, since scaling takes long.
   QImage reduced_;
 };
 

@@ -92,7 +92,7 @@ void QtSerialChannel::watch(QSerialPort::SerialPortError error) {
   // may have stopped listening then, until it is read from.
   const bool isPresent = port_.isOpen() && isThere(port_.handle());
   if (isPresent && error != QSerialPort::WriteError) return fetch();
-  // The system's own words for what is gone are about something else.
+  // For a device that is gone the system's words are about something else.
   fail(isPresent ? port_.errorString() : QStringLiteral("the device is gone"));
 }
 

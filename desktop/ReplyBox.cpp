@@ -50,7 +50,7 @@ class ReplyBox::Rows : public QPlainTextDocumentLayout {
     return block.layout()->lineCount() == 0 || laidOut(block) >= block.length() - 1;
   }
 
-  /// A row more than fill that height says that the text goes on.
+  /// One row more than has room in that height shows that the text goes on.
   void layOut(QTextBlock& block, qreal height) const {
     const qreal margin = document()->documentMargin();
     const qreal width = box_.viewport()->width() - 2 * margin;
@@ -86,13 +86,14 @@ class ReplyBox::Rows : public QPlainTextDocumentLayout {
     });
   }
 
-  /// Letters of a fixed width side by side.
+  /// How many letters fit side by side; all have one width.
   int columnsOf(qreal width) const {
     const qreal letter = QFontMetricsF(document()->defaultFont()).horizontalAdvance('0');
     return std::max(1, static_cast<int>(width / letter));
   }
 
-  /// How many letters from there on end in a comma and are not more than `columns`.
+  /// The length of the row that begins at `start`: at most `columns`, and to the end of a number if
+  /// one ends there.
   static int wholeNumbers(const QString& text, int start, int columns) {
     if (start + columns >= text.size()) return columns;
     const qsizetype comma = text.lastIndexOf(QLatin1Char(','), start + columns - 1);

@@ -87,7 +87,7 @@ void showPale(QWidget& widget, bool isPale) {
   widget.setGraphicsEffect(effect);
 }
 
-/// Beside what it says of itself without a description, its tip.
+/// A reader says the tip of a widget that has no description. So the description repeats it.
 void describeUnread(QWidget& widget, bool isUnread) {
   const QString own = widget.toolTip();
   const QString mean = own.isEmpty() ? meaning() : own + QStringLiteral(". ") + meaning();

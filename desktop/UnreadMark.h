@@ -28,7 +28,7 @@ class UnreadMark : public QWidget {
   void describe();
 };
 
-/// Has screen readers say what the mark says, where that stands on another widget.
+/// Describes the mark to screen readers on a widget other than the one that it stands on.
 void describeUnread(QWidget& widget, bool isUnread);
 
 /// Dims a widget whose value belongs to something that is gone, or shows it normally.

@@ -9,7 +9,7 @@
 namespace tracewell {
 namespace {
 
-/// A drive without a disk in it is an error as any other, and no box of the system's.
+/// A drive without a disk in it is an error like any other; the system shows no box about it.
 [[maybe_unused]] const UINT modeBefore =
     ::SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX);
 

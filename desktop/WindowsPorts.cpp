@@ -97,7 +97,7 @@ QSet<QString> presentSystemPorts() {
   return names;
 }
 
-/// The name mostly has the port in it, and is told apart by it.
+/// Most names contain the port, which tells adapters of one kind apart. Others get it in front.
 QString nameOfSystemPort(const QString& device) {
   PortDevices devices;
   for (DWORD index = 0; devices.choose(index); ++index) {

@@ -28,7 +28,7 @@ Inquiry::Inquiry(Inquiries& all, const std::string& question)
 Inquiry::~Inquiry() {
   finishItem();
   all_.current_ = outer_;
-  // Nor is there an answer to what is left out because of that.
+  // What was left out because of that has no answer either.
   if (missing_ > 0 && items_ == Of::questions) missing_ = count_ - answered_;
   if (missing_ > 0) showMissed();
   if (outer_ != nullptr)

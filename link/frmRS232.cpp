@@ -34,7 +34,7 @@ void frmRS232::listPorts() {
   cbRS232(portValue).items = numbers;
 }
 
-/// OK is where a text that is no port number is an error.
+/// A text that is no port number becomes an error only at OK.
 void frmRS232::showDevice(const std::string& typed) {
   try {
     lblDevice.caption = deviceAndState(toInt16(typed));

@@ -13,7 +13,7 @@ void prepareConsole() {
   ::_setmode(::_fileno(stdout), _O_BINARY);
 }
 
-/// The library has lost there what its own characters do not hold.
+/// The C library has lost the characters there that its code page does not have.
 std::vector<std::string> wordsOf(int, char**) {
   std::vector<std::string> words;
   for (const QString& word : QCoreApplication::arguments().sliced(1)) words.push_back(fromQt(word));

@@ -4,7 +4,7 @@
 namespace tracewell {
 
 void printAndSay(frmDSO& main, const std::function<bool(Printer&)>& print) {
-  for (const auto topic : {StatusLine::happened, StatusLine::failed}) main.status.withdraw(topic);
+  main.status.withdraw(StatusLine::happened);
   if (!print(main.services().printer)) return;
   main.status.tell(StatusLine::happened, [](const Words& words) { return words.say("Printed"); });
 }

@@ -7,8 +7,8 @@
 
 namespace tracewell {
 
-/// Runs `print`, which tells whether the user has let it print, and says in the status line that
-/// it has. What `print` raises goes on.
+/// Runs `print`, which returns false if the user declined, and otherwise says in the status line
+/// that it has printed. Raises what `print` raises.
 void printAndSay(frmDSO& main, const std::function<bool(Printer&)>& print);
 
 }  // namespace tracewell

@@ -109,7 +109,7 @@ RecorderGraph::RecorderGraph(QWidget* parent) : QWidget(parent), plot_(*new QCus
   }
   note_ = makeText(plot_, Qt::AlignLeft | Qt::AlignBottom);
   placeInCorner(*note_, 0.005, 0.99);
-  // Only then it is known where on the screen a peak is.
+  // Where a peak is on the screen is known only then.
   connect(&plot_, &QCustomPlot::afterLayout, this, &RecorderGraph::showLabels);
 }
 

@@ -70,7 +70,7 @@ class RecorderGraph : public QWidget {
   double shareAt(const QPointF& place) const;
   std::optional<std::size_t> cursorAt(const QPointF& place) const;
 
-  /// Passes the mouse on.
+  /// Leaves mouse and keys to this widget, whose layout owns it.
   QCustomPlot& plot_;
   RecorderLook look_;
   std::vector<QCPGraph*> graphs_;

@@ -80,15 +80,12 @@ void Recorder::tick() {
 
 /// In the panel, since the recorder's window may be closed.
 void Recorder::sayTrouble() {
-  const auto sentence = [this](const Words& words) {
-    return words.say("Recorder's log: %1", {troubleText(words)});
-  };
-  const bool isTroubled = log_ && !troubleText(main_.services().words).empty();
+  const bool isTroubled = !troubleText(main_.services().words).empty();
   if (isTroubled == main_.status.says(StatusLine::logTrouble)) return;
-  if (isTroubled)
-    main_.status.tell(StatusLine::logTrouble, sentence);
-  else
-    main_.status.withdraw(StatusLine::logTrouble);
+  if (!isTroubled) return main_.status.withdraw(StatusLine::logTrouble);
+  main_.status.tell(StatusLine::logTrouble, [this](const Words& words) {
+    return words.say("Recorder's log: %1", {troubleText(words)});
+  });
 }
 
 void Recorder::stopLog() {
@@ -106,8 +103,8 @@ std::string Recorder::logText(const Words& words) const {
 }
 
 std::string Recorder::troubleText(const Words& words) const {
+  if (!log_) return "";
   std::string text;
-  if (!log_) return text;
   const auto add = [&text](const std::string& sentence) {
     text += (text.empty() ? "" : ". ") + sentence;
   };

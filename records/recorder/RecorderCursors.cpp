@@ -21,7 +21,7 @@ std::string plainText(double value, const std::string& unit) {
                                                  : numberWithUnit(value, unit);
 }
 
-/// Two levels over 1 V are so many dB apart.
+/// Levels count from 1 V, their difference does not.
 std::string unitOfDifference(const std::string& unit) {
   return unit == "dBV" ? "dB" : unit;
 }

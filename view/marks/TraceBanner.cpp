@@ -65,7 +65,7 @@ std::string notice(const frmDSO& main, const Words& words) {
   const bool hasTraces = firstTrace(main, [](const Channel&) { return true; }) != nullptr;
   if (!main.tmDSO.enabled()) {
     if (!hasTraces) return "";
-    // The button may read "Stop" still; its key starts all the same.
+    // The button may still read "Stop"; its key starts the traces all the same.
     const bool readsStart = main.shownMessages.cmdStart == startMessage;
     return words.say("Stopped: press %1 to go on", {readsStart ? main.cmdStart.caption() : "F5"});
   }

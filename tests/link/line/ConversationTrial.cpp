@@ -111,13 +111,13 @@ class Trial : OnALine<PacedOpener> {
 
   /// Each as often as its weight says, out of 24.
   void act() {
-    const auto isSeldom = [this] { return below(6) > 0; };
+    const auto isSkipped = [this] { return below(6) > 0; };
     const std::pair<int, std::function<void()>> acts[] = {
         {1, [this] { port.abandon(); }},
         {6, [this] { user_.request(static_cast<std::int16_t>(1 + below(2))); }},
         {2, [this] { user_.send(":CHAN1:SCAL 1"); }},
-        {1, [&] { isSeldom() ? void() : hangUpAfter(static_cast<std::size_t>(below(2000))); }},
-        {1, [&] { isSeldom() ? void() : chatter(); }},
+        {1, [&] { isSkipped() ? void() : hangUpAfter(static_cast<std::size_t>(below(2000))); }},
+        {1, [&] { isSkipped() ? void() : chatter(); }},
         {1, [this] { hangUpAfter(std::string::npos); }},
         {6, [this] { clock.run(below(below(3) == 0 ? 9000 : 1500)); }},
         {6, [this] { ask(); }}};
