@@ -265,8 +265,7 @@ void bind(Slide& control, QWidget& form) {
     showInLabel(*caption, control.caption(), room);
     showPale(*caption, control.isStale());
     // On the groove it would cover a place of the handle.
-    UnreadMark::show(*caption, control.isUnread());
-    describeUnread(*slide, control.isUnread());
+    UnreadMark::show(*caption, control.isUnread(), slide);
   });
   QObject::connect(slide, &SlideWidget::dragged, slide,
                    [&control](double to) { control.drag(to); });

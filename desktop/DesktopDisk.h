@@ -8,6 +8,7 @@ namespace tracewell {
 /// Uses the system's own call for each. Needs no Qt.
 class DesktopDisk : public Disk {
  public:
+  DesktopDisk();
   std::error_code flush(std::FILE& file) override;
   void takeOwner(std::FILE& file, const std::filesystem::path& like) override;
   std::error_code flushFolder(const std::filesystem::path& folder) override;

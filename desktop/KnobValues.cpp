@@ -10,9 +10,10 @@ namespace {
 
 std::optional<int> exponentOf(const QString& unit) {
   static const QMap<QString, int> exponents = {
-      {QStringLiteral("n"), -9}, {QStringLiteral("u"), -6}, {QStringLiteral("\u00b5"), -6},
+      {QStringLiteral("n"), -9}, {QStringLiteral("u"), -6}, {QStringLiteral("\u03bc"), -6},
       {QStringLiteral("m"), -3}, {QStringLiteral("v"), 0},  {QStringLiteral("s"), 0}};
-  const auto found = exponents.constFind(unit.left(1).toLower());
+  // The sign for micro and the Greek letter are one then.
+  const auto found = exponents.constFind(unit.left(1).toCaseFolded());
   return found == exponents.cend() ? std::nullopt : std::optional(*found);
 }
 

@@ -16,6 +16,8 @@ std::error_code lastError() {
 
 }  // namespace
 
+DesktopDisk::DesktopDisk() = default;
+
 std::error_code DesktopDisk::flush(std::FILE& file) {
   return ::fsync(::fileno(&file)) == 0 ? std::error_code() : lastError();
 }

@@ -87,25 +87,18 @@ void showPale(QWidget& widget, bool isPale) {
   widget.setGraphicsEffect(effect);
 }
 
-/// A reader says the tip of a widget that has no description. So the description repeats it.
-void describeUnread(QWidget& widget, bool isUnread) {
-  const QString own = widget.toolTip();
-  const QString mean = own.isEmpty() ? meaning() : own + QStringLiteral(". ") + meaning();
-  const QString description = isUnread ? mean : QString();
-  if (description != widget.accessibleDescription()) widget.setAccessibleDescription(description);
-}
-
-void UnreadMark::show(QWidget& marked, bool isUnread) {
+void UnreadMark::show(QWidget& marked, bool isUnread, QWidget* described) {
   auto* mark = marked.findChild<UnreadMark*>(QString(), Qt::FindDirectChildrenOnly);
   if (mark == nullptr && !isUnread) return;
-  if (mark == nullptr) mark = new UnreadMark(marked);
+  if (mark == nullptr) mark = new UnreadMark(marked, described != nullptr ? *described : marked);
   mark->setVisible(isUnread);
   mark->describe();
   makeRoom(marked, isUnread);
   mark->toPlace();
 }
 
-UnreadMark::UnreadMark(QWidget& marked) : QWidget(&marked) {
+UnreadMark::UnreadMark(QWidget& marked, QWidget& described)
+    : QWidget(&marked), described_(described) {
   resize(side, side);
   setToolTip(QStringLiteral("The instrument has not told this value"));
   setAccessibleName(QStringLiteral("not answered"));
@@ -115,9 +108,13 @@ UnreadMark::UnreadMark(QWidget& marked) : QWidget(&marked) {
   toPlace();
 }
 
+/// A reader says the tip of a widget that has no description. So the description repeats it.
 void UnreadMark::describe() {
-  QWidget& marked = *parentWidget();
-  describeUnread(marked, isVisibleTo(&marked));
+  const QString own = described_.toolTip();
+  const QString mean = own.isEmpty() ? meaning() : own + QStringLiteral(". ") + meaning();
+  const QString description = isVisibleTo(parentWidget()) ? mean : QString();
+  if (description != described_.accessibleDescription())
+    described_.setAccessibleDescription(description);
 }
 
 /// The tip has been translated before.

@@ -13,7 +13,8 @@ class UnreadMark : public QWidget {
 
  public:
   /// Shows or hides the mark of `marked`, which owns it. Creates it when first shown.
-  static void show(QWidget& marked, bool isUnread);
+  /// Screen readers hear of it at `described`, where that is another widget.
+  static void show(QWidget& marked, bool isUnread, QWidget* described = nullptr);
   /// Pixels that it takes behind words.
   static constexpr int room = 17;
 
@@ -23,13 +24,12 @@ class UnreadMark : public QWidget {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  explicit UnreadMark(QWidget& marked);
+  UnreadMark(QWidget& marked, QWidget& described);
   void toPlace();
   void describe();
-};
 
-/// Describes the mark to screen readers on a widget other than the one that it stands on.
-void describeUnread(QWidget& widget, bool isUnread);
+  QWidget& described_;
+};
 
 /// Dims a widget whose value belongs to something that is gone, or shows it normally.
 void showPale(QWidget& widget, bool isPale);

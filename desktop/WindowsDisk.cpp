@@ -7,13 +7,11 @@
 #include "DesktopDisk.h"
 
 namespace tracewell {
-namespace {
 
 /// A drive without a disk in it is an error like any other; the system shows no box about it.
-[[maybe_unused]] const UINT modeBefore =
-    ::SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX);
-
-}  // namespace
+DesktopDisk::DesktopDisk() {
+  ::SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX);
+}
 
 std::error_code DesktopDisk::flush(std::FILE& file) {
   if (::_commit(::_fileno(&file)) == 0) return {};

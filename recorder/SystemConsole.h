@@ -9,6 +9,7 @@
 namespace tracewell {
 
 /// Lets the standard output carry every byte as it is, and fail where nobody reads it any longer.
+/// What is written to a terminal is UTF-8 and may move its cursor.
 void prepareConsole();
 
 /// What stands behind the program's name on its command line, in UTF-8. Asked for once there is a

@@ -42,7 +42,7 @@ bool RecordingPrinter::printPage(const GraphPage& page) {
     text += "|" + std::to_string(trace.number) + " " + trace.name;
   told.raise(text);
   if (isOutOfPaper) throw Error(deviceError, "Printer", "Out of paper");
-  return true;
+  return !isDeclined;
 }
 
 void ScriptedWindows::showModal(Window& window) {

@@ -128,7 +128,7 @@ class NumberedWords : public Words {
 
 class RecordingPrinter : public Printer {
  public:
-  bool isOutOfPaper = false;
+  bool isOutOfPaper = false, isDeclined = false;
   /// All of it, as it happens.
   Event<const std::string&> told;
 

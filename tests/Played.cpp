@@ -251,6 +251,7 @@ std::map<std::string, std::function<void()>> Played::stepsWith(const std::string
                         contentOf(folder.path() / value.substr(0, value.find(' '))));
        }},
       {"paper", [this, &value] { printer.isOutOfPaper = value == "none"; }},
+      {"decline", [this] { printer.isDeclined = true; }},
       {"record1", [this, number] { main.Ch1Raw = level(number()); }},
       {"record2", [this, number] { main.Ch2Raw = level(number()); }},
       {"port33",

@@ -19,8 +19,9 @@ void PagePrinting::cmdPrint_Click() {
   try {
     const Doing pause(main_, sayPaused(main_, main_.cmdPrint.caption));
     acquisition_.StopAcq();
-    printAndSay(main_, [this](Printer& printer) { return printer.printPage(page()); });
-    if (const StatusLine::Sentence others = scalesNotOfTraces(main_))
+    const bool isPrinted =
+        printAndSay(main_, [this](Printer& printer) { return printer.printPage(page()); });
+    if (const StatusLine::Sentence others = scalesNotOfTraces(main_); isPrinted && others)
       main_.status.tellToo(StatusLine::happened, others);
   } catch (const Error& error) {
     errorLog_.ErrLog(error, "cmdPrint_Click : ");

@@ -3,10 +3,11 @@
 
 namespace tracewell {
 
-void printAndSay(frmDSO& main, const std::function<bool(Printer&)>& print) {
+bool printAndSay(frmDSO& main, const std::function<bool(Printer&)>& print) {
   main.status.withdraw(StatusLine::happened);
-  if (!print(main.services().printer)) return;
+  if (!print(main.services().printer)) return false;
   main.status.tell(StatusLine::happened, [](const Words& words) { return words.say("Printed"); });
+  return true;
 }
 
 }  // namespace tracewell

@@ -7,8 +7,8 @@
 
 namespace tracewell {
 
-/// Runs `print`, which returns false if the user declined, and otherwise says in the status line
-/// that it has printed. Raises what `print` raises.
-void printAndSay(frmDSO& main, const std::function<bool(Printer&)>& print);
+/// Runs `print` and says in the status line that it has printed. Returns false, and says nothing,
+/// if the user declined, as `print` tells. Raises what `print` raises.
+bool printAndSay(frmDSO& main, const std::function<bool(Printer&)>& print);
 
 }  // namespace tracewell

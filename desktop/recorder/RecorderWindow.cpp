@@ -258,8 +258,9 @@ void RecorderWindow::showPins() {
 
 void RecorderWindow::showLog() {
   logBar_->showState();
-  const std::string text = recorder_.logText(recorder_.main().services().words);
-  const bool isTrouble = recorder_.log() != nullptr && recorder_.log()->trouble();
+  const Words& words = recorder_.main().services().words;
+  const std::string text = recorder_.logText(words);
+  const bool isTrouble = !recorder_.troubleText(words).empty();
   const QString shown = shownText(text, roomOfLine);
   logState_->setText(shown);
   logState_->setSentences(shown.isEmpty() ? std::vector<ElidedLabel::Sentence>()

@@ -101,12 +101,14 @@ LoadedWaveforms readWaveforms(const std::string& csvText, const std::string& pos
                               const std::string& position2) {
   LoadedWaveforms loaded;
   const bool hasOnlyChannel1 = position2 == notSaved;
-  const std::optional<double> lift1 = liftOf(position1);
-  const std::optional<double> lift2 = liftOf(position2);
   bool hasTwoColumns = false;
   forEachDataLine(csvText, [&](std::string_view line) {
     hasTwoColumns = hasTwoColumns || line.find(',') != std::string_view::npos;
   });
+  // The position of a column that is not there does not matter.
+  const std::optional<double> lift1 =
+      hasTwoColumns || hasOnlyChannel1 ? liftOf(position1) : std::nullopt;
+  const std::optional<double> lift2 = liftOf(position2);
   forEachDataLine(csvText, [&](std::string_view line) {
     const std::size_t comma = line.find(',');
     const bool hasBoth = comma != std::string_view::npos;

@@ -67,7 +67,7 @@ void Recorder::write(RecordStore::Number number) {
 
 void Recorder::startLog(const std::filesystem::path& path, MeasurementColumns columns,
                         AtLimit atLimit) {
-  log_.reset();
+  stopLog();
   atLimit_ = atLimit;
   isOutOfPins_ = false;
   log_.emplace(path, std::move(columns), main_.services().clock.milliseconds());

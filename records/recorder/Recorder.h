@@ -44,13 +44,13 @@ class Recorder {
 
   /// What is wrong, and "/home/user/log.csv: 2:05:09, 6250 rows, 410.2 kB"; empty without a log.
   std::string logText(const Words& words) const;
+  /// What is wrong alone; empty where nothing is.
+  std::string troubleText(const Words& words) const;
 
  private:
   void keep(int channel);
   void write(RecordStore::Number number);
   void sayTrouble();
-  /// Empty without a log.
-  std::string troubleText(const Words& words) const;
 
   frmDSO& main_;
   RecordStore store_;

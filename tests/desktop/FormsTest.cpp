@@ -37,6 +37,8 @@ TEST(DesktopWords, FollowTheLanguageInEveryWindowAndLeaveWhatIsShown) {
   const std::string english = tip(main.opOff);
   main.txtTest.text = "typed";
   main.known.typed(":TIM:SCAL 1");
+  main.slideTrig.trust = [] { return Trust::unread; };
+  main.slideTrig.notifyChanged();
   main.mnbLA3.choose();
   desktop.windows.show(desktop.program.rs232);
   QApplication::processEvents();
@@ -44,6 +46,8 @@ TEST(DesktopWords, FollowTheLanguageInEveryWindowAndLeaveWhatIsShown) {
   EXPECT_EQ(tip(desktop.program.rs232.cbRS232(4)), "Numéro du port ; 0 : instrument simulé");
   const QWidget* mark = desktop.windows.widgetOf(main.lblTime)->findChild<QWidget*>();
   EXPECT_EQ(mark->accessibleName(), QStringLiteral("sans réponse"));
+  EXPECT_EQ(fromQt(desktop.windows.widgetOf(main.slideTrig)->accessibleDescription()),
+            tip(main.slideTrig) + ". L'instrument n'a pas communiqué cette valeur");
   EXPECT_EQ(main.lblPort.caption(), "port 0 - instrument simulé");
   EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel"), QStringLiteral("Annuler"));
   const auto shown = [&](const Control& control) {

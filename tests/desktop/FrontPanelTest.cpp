@@ -76,6 +76,7 @@ TEST_F(FrontPanelTest, KnobTakesATypedValue) {
       {"knobChan1", 3, "300m", 6},
       {"knobTime", 16, "20", 12},
       {"knobTime", 3, "20", 3},
+      {"knobTime", 3, "20\u03bc", 12},
       {"knobTime", 16, "20N", 3},
       {"knobTime", 5, "99s", 28},
       {"knobTime", 28, "0", 28},
@@ -96,7 +97,7 @@ TEST_F(FrontPanelTest, KnobTakesATypedValue) {
     SCOPED_TRACE(testing::Message() << name << " " << typed);
     auto& knob = name == std::string("knobTime") ? main.knobTime : main.knobChan1;
     knob.value = from;
-    QTest::keyClicks(find(name), QString::fromLatin1(typed));
+    QTest::keyClicks(find(name), QString::fromUtf8(typed));
     EXPECT_EQ(knob.value(), from);
     QTest::keyClick(find(name), Qt::Key_Return);
     EXPECT_EQ(knob.value(), wanted);
