@@ -5,6 +5,7 @@
 #include <QIcon>
 #include <QPalette>
 #include <QPixmap>
+#include <cstdlib>
 
 #include "PanelStyle.h"
 
@@ -92,8 +93,12 @@ Theme themeOf(const QPalette& desktop) {
     const int lightness = desktop.color(role).lightness();
     return lightness <= 12 || lightness >= 243;
   };
+  // The boxes of a light desktop are lighter than its windows.
+  constexpr int shade = 6;
+  const int difference =
+      desktop.color(QPalette::Base).lightness() - desktop.color(QPalette::Window).lightness();
   if (isExtreme(QPalette::Window) && isExtreme(QPalette::WindowText) &&
-      isExtreme(QPalette::Button) && isExtreme(QPalette::Base))
+      isExtreme(QPalette::Button) && std::abs(difference) < shade)
     return Theme::highContrast;
   return isDark(desktop.color(QPalette::Window)) ? Theme::dark : Theme::light;
 }

@@ -10,7 +10,7 @@ namespace tracewell {
 enum class Theme { system, light, dark, highContrast };
 
 /// The look of a desktop with these colours: high contrast where text and ground are black and
-/// white or close to it, else dark or light like its windows.
+/// white or close to it, and boxes have no shade of their own; else dark or light like its windows.
 Theme themeOf(const QPalette& desktop);
 
 /// Sets palette and style sheet of the whole program, at any time. Forms mark their parts with

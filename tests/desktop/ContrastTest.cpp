@@ -104,6 +104,8 @@ QPalette blackOnWhite() {
 }
 
 TEST_F(ContrastTest, EverythingCanBeReadInEveryTheme) {
+  EXPECT_EQ(themeOf(blackOnWhite()), Theme::highContrast);
+  EXPECT_EQ(themeOf(QPalette(QColor(0xf5, 0xf5, 0xf5))), Theme::light);
   main.lblStatus.caption = "Saved";
   main.lblNotice.sentences = {{"kept aside", true}};
   main.lblNotice.caption = "kept aside";
