@@ -219,6 +219,7 @@ void bind(TextBox& control, QWidget& form) {
       line->setText(shownText(control.text(), roomOfEditor));
   });
   keepEditingKeys(*line);
+  if (line->property("completed").toBool()) keepCaretAtEnd(*line);
   QObject::connect(line, &QLineEdit::textEdited, line,
                    [&control](const QString& text) { control.type(fromQt(text)); });
   QObject::connect(line, &QLineEdit::returnPressed, line,
@@ -300,6 +301,7 @@ void bind(ListBox& control, QWidget& form) {
   });
   QObject::connect(list, &QListWidget::itemClicked, list,
                    [&control, list] { control.choose(list->currentRow()); });
+  chooseCurrentFirst(*list);
   onMoveByKey(list, [&control, list] {
     const int row = list->currentRow();
     if (row >= 0 && row != control.chosen()) control.choose(row);
@@ -335,6 +337,7 @@ void bind(Tree& control, QWidget& form) {
       control.choose(tree->currentItem()->data(0, Qt::UserRole).toInt());
   };
   QObject::connect(tree, &QTreeWidget::itemClicked, tree, choose);
+  chooseCurrentFirst(*tree);
   onMoveByKey(tree, choose);
 }
 

@@ -2,8 +2,10 @@
 #include "Gestures.h"
 
 #include <QEvent>
+#include <QItemSelectionModel>
 #include <QKeyEvent>
 #include <QKeySequence>
+#include <QTimer>
 #include <algorithm>
 #include <array>
 #include <utility>
@@ -92,6 +94,30 @@ void keepEditingKeys(QWidget& line) {
         editingKeys, [&key](QKeySequence::StandardKey keys) { return key.matches(keys); });
     if (isEditing) event.accept();
     return isEditing;
+  });
+}
+
+void keepCaretAtEnd(QLineEdit& line) {
+  new EventWatch(&line, [&line](const QEvent& event) {
+    if (event.type() != QEvent::FocusIn) return false;
+    const Qt::FocusReason reason = static_cast<const QFocusEvent&>(event).reason();
+    // It selects all behind this.
+    if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason)
+      QTimer::singleShot(0, &line, [&line] { line.end(false); });
+    return false;
+  });
+}
+
+void chooseCurrentFirst(QAbstractItemView& list) {
+  new EventWatch(&list, [&list](const QEvent& event) {
+    if (event.type() != QEvent::KeyPress) return false;
+    const int key = static_cast<const QKeyEvent&>(event).key();
+    if (key != Qt::Key_Down && key != Qt::Key_Up) return false;
+    QItemSelectionModel& selected = *list.selectionModel();
+    if (selected.hasSelection() || !list.currentIndex().isValid()) return false;
+    selected.select(list.currentIndex(),
+                    QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    return true;
   });
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QObject>
@@ -24,6 +25,13 @@ void takeOnKeys(QComboBox& box, const ComboBox& control);
 /// While the line has the focus it gets all keys that edit a text, even if it is empty: the user
 /// means the line. For a box with a line in it, pass the box: it has the focus.
 void keepEditingKeys(QWidget& line);
+
+/// Tab into the line leaves the caret behind the text, which the user completes.
+void keepCaretAtEnd(QLineEdit& line);
+
+/// Of a list in which nothing is selected, the first arrow key selects the entry that has the
+/// focus, and does not pass it over. To be called before onMoveByKey, which must see the key first.
+void chooseCurrentFirst(QAbstractItemView& list);
 
 /// Runs `action` when the user presses a key that moves through a list. Focus alone, which also
 /// gives a list a current entry, is no choice; nor is the release of a key that was pressed

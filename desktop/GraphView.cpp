@@ -295,15 +295,21 @@ void GraphView::takeData(std::size_t trace) {
                           QVector<double>(plot.y().begin(), plot.y().end()), true);
 }
 
+/// A large picture is mostly looked at smaller than it is.
+qreal GraphView::inPicture(qreal lineWidth) const {
+  constexpr qreal usualWidth = 1200;
+  return isForPicture_ ? lineWidth * qMax(1.0, width() / usualWidth) : lineWidth;
+}
+
 void GraphView::showAxes() {
   const Axis& x = graph_->axis("XAxis");
   const Axis& y = graph_->axis("YAxis-1");
   plot_->xAxis->setRange(x.minimum(), x.maximum());
   plot_->yAxis->setRange(y.minimum(), y.maximum());
-  plot_->xAxis->grid()->setPen(QPen(toQt(x.gridColour()), 1));
-  plot_->yAxis->grid()->setPen(QPen(toQt(y.gridColour()), 1));
-  plot_->xAxis->grid()->setZeroLinePen(QPen(toQt(x.gridColour()).lighter(130), 1));
-  plot_->yAxis->grid()->setZeroLinePen(QPen(toQt(y.gridColour()).lighter(130), 1));
+  plot_->xAxis->grid()->setPen(QPen(toQt(x.gridColour()), inPicture(1)));
+  plot_->yAxis->grid()->setPen(QPen(toQt(y.gridColour()), inPicture(1)));
+  plot_->xAxis->grid()->setZeroLinePen(QPen(toQt(x.gridColour()).lighter(130), inPicture(1)));
+  plot_->yAxis->grid()->setZeroLinePen(QPen(toQt(y.gridColour()).lighter(130), inPicture(1)));
   plot_->setBackground(QBrush(toQt(graph_->plotAreaColour())));
   showInLabel(*caption_, x.caption(), qMax(width(), minimumSizeHint().width()));
   const bool isPale = x.isPale() && !isForPicture_;
@@ -331,7 +337,7 @@ void GraphView::showTrace(Plot& plot, QCPGraph& trace, qreal lineWidth) {
   QColor colour = toQt(plot.lineColour());
   plot.isPaintedPale = plot.isPale() && !isForPicture_;
   if (plot.isPaintedPale) colour = mixed(colour, toQt(graph_->plotAreaColour()), oldShare);
-  trace.setPen(QPen(colour, lineWidth));
+  trace.setPen(QPen(colour, inPicture(lineWidth)));
   trace.setScatterStyle(plot.pointStyle() == Plot::noPoints
                             ? QCPScatterStyle(QCPScatterStyle::ssNone)
                             : QCPScatterStyle(QCPScatterStyle::ssDisc, 4));
@@ -346,7 +352,7 @@ void GraphView::showCursors() {
     const bool isVertical = cursor.style() == CursorStyle::verticalLine;
     const bool standsOut = i == gestures_->activeCursor() && !isForPicture_;
     items.line->setPen(standsOut ? QPen(activeCursorColour, activeCursorWidth, Qt::DashLine)
-                                 : QPen(cursorColour, 1, Qt::DashLine));
+                                 : QPen(cursorColour, inPicture(1), Qt::DashLine));
     items.name->setColor(standsOut ? activeCursorColour : cursorColour);
     items.line->setVisible(cursor.visible());
     items.name->setVisible(cursor.visible());

@@ -77,6 +77,7 @@ class GraphView : public QWidget {
   /// The data, if they are others than those that were drawn.
   void takeData(std::size_t trace);
   void makeLayers();
+  qreal inPicture(qreal lineWidth) const;
   void showAxes();
   void showTrace(Plot& plot, QCPGraph& trace, qreal lineWidth);
   void showCursors();

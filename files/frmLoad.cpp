@@ -40,6 +40,7 @@ frmLoad::frmLoad(frmDSO& main) : Window("frmLoad", "Load Waveform", main.service
   driveCSV.click = [this] { driveCSV_Change(); };
   dirCSV.opened = [this] { dirCSV_Change(); };
   fileCSV.click = [this] { fileCSV_Click(); };
+  lblWhyNot.visible = false;
   cmdOK.click = [this] { cmdOK_Click(); };
   cmdCancel.click = [this] { hide(); };
 }
@@ -77,6 +78,7 @@ void frmLoad::showFolder(const fs::path& folder) {
   DataFolder content = readDataFolder(folder, services().standBy);
   folder_ = folder;
   driveCSV.text = pathText(folder.root_path());
+  sayWhyNot("");
   lblPath.caption = pathText(folder);
   dirCSV.items = std::move(content.folders);
   fileCSV.items = std::move(content.dataFiles);
@@ -100,6 +102,7 @@ void frmLoad::chooseShown() {
 /// All or nothing: a set that cannot be shown leaves the one before it chosen.
 void frmLoad::fileCSV_Click() {
   if (fileCSV.chosen() == ListBox::noEntry) return;
+  sayWhyNot("");
   try {
     const std::string dataPath = pathText(folder_ / pathOf(fileCSV.chosenText()));
     const WaveformDescription txtCSV = readDescription(pathOf(descriptionPath(dataPath)));
@@ -126,18 +129,23 @@ void frmLoad::cmdOK_Click() {
     hide();
   } catch (const Error& error) {
     // Without a box: the window stays for another choice.
-    sayWhyNot(error);
+    sayWhyNot(whyNot(error));
   }
 }
 
-void frmLoad::sayWhyNot(const Error& error) {
-  main_.status.tell(StatusLine::failed, [error, path = dataPath_](const Words& words) {
-    if (path.empty()) return words.say("No set is chosen");
-    const std::string reason = error.number() == subscriptOutOfRange
-                                   ? words.say("more than 500 lines of data")
-                                   : error.description();
-    return words.say("%1 was not loaded: %2", {path, reason});
-  });
+std::string frmLoad::whyNot(const Error& error) const {
+  const Words& words = services().words;
+  if (dataPath_.empty()) return words.say("No set is chosen");
+  const std::string reason = error.number() == subscriptOutOfRange
+                                 ? words.say("more than 500 lines of data")
+                                 : error.description();
+  return words.say("%1 was not loaded: %2", {dataPath_, reason});
+}
+
+/// Until another set is chosen.
+void frmLoad::sayWhyNot(const std::string& text) {
+  lblWhyNot.caption = text;
+  lblWhyNot.visible = !text.empty();
 }
 
 /// Into the first reference plot that is free and, for the second channel, the one behind it.

@@ -27,6 +27,8 @@ class frmLoad : public Window {
   TextBox txtFile{*this, "txtFile"};
   CheckBox cb1{*this, "cb1", "Channel 1"};
   CheckBox cb2{*this, "cb2", "Channel 2"};
+  /// Why OK has not loaded the set.
+  ValueLabel lblWhyNot{*this, "lblWhyNot", ""};
   Button cmdOK{*this, "cmdOK", "OK"};
   Button cmdCancel{*this, "cmdCancel", "Cancel"};
 
@@ -40,7 +42,8 @@ class frmLoad : public Window {
   void fileCSV_Click();
   void cmdOK_Click();
   void drawSet(const LoadedWaveforms& set);
-  void sayWhyNot(const Error& error);
+  std::string whyNot(const Error& error) const;
+  void sayWhyNot(const std::string& text);
   void sayWhatIsShown(std::size_t drawn, bool hasRoom);
 
   frmDSO& main_;

@@ -94,6 +94,8 @@ void MeasurementLog::begin() {
 /// Takes the file if it has the same heading, or none yet.
 bool MeasurementLog::continues(const fs::path& candidate) {
   const std::string heading = columns_.heading();
+  std::error_code unknown;
+  const bool isNew = fs::status(candidate, unknown).type() == fs::file_type::not_found;
   AppendedFile file(candidate);
   const std::string begins = firstBytes(candidate, heading.size());
   const bool isSame = begins == heading;
@@ -105,7 +107,8 @@ bool MeasurementLog::continues(const fs::path& candidate) {
   if (!failed) failed = file.flush();
   if (failed) {
     if (whole == 0) file.cutTo(0);
-    throw fileError(pathAccess, "Cannot write", candidate, failed);
+    if (isNew) fs::remove(candidate, unknown);
+    throw fileError(isOutOfRoom(failed) ? diskFull : pathAccess, "Cannot write", candidate, failed);
   }
   path_ = candidate;
   rows_ = countLines(candidate) - 1;

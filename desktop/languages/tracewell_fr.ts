@@ -93,15 +93,15 @@
     </message>
     <message>
         <source>%1: last record %2 min ago</source>
-        <translation>%1 : dernier enregistrement il y a %2 min</translation>
+        <translation>%1 : reçu il y a %2 min</translation>
     </message>
     <message>
         <source>%1: last record %2 s ago</source>
-        <translation>%1 : dernier enregistrement il y a %2 s</translation>
+        <translation>%1 : reçu il y a %2 s</translation>
     </message>
     <message>
         <source>%1: last record over %2 s ago</source>
-        <translation>%1 : dernier enregistrement il y a plus de %2 s</translation>
+        <translation>%1 : reçu il y a plus de %2 s</translation>
     </message>
     <message>
         <source>%1: live</source>
@@ -1722,6 +1722,10 @@
     <message>
         <source>Who saves it</source>
         <translation>Qui enregistre</translation>
+    </message>
+    <message>
+        <source>Why the set is not loaded</source>
+        <translation>Pourquoi le jeu n’est pas chargé</translation>
     </message>
     <message>
         <source>Width of the negative pulse</source>

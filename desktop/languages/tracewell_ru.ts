@@ -1724,6 +1724,10 @@
         <translation>Кто сохраняет</translation>
     </message>
     <message>
+        <source>Why the set is not loaded</source>
+        <translation>Почему набор не загружен</translation>
+    </message>
+    <message>
         <source>Width of the negative pulse</source>
         <translation>Длительность отрицательного импульса</translation>
     </message>

@@ -1724,6 +1724,10 @@
         <translation>保存者</translation>
     </message>
     <message>
+        <source>Why the set is not loaded</source>
+        <translation>波形组未读取的原因</translation>
+    </message>
+    <message>
         <source>Width of the negative pulse</source>
         <translation>负脉宽</translation>
     </message>

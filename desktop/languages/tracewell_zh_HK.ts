@@ -1724,6 +1724,10 @@
         <translation>邊個儲存</translation>
     </message>
     <message>
+        <source>Why the set is not loaded</source>
+        <translation>波形組冇載入嘅原因</translation>
+    </message>
+    <message>
         <source>Width of the negative pulse</source>
         <translation>負脈寬</translation>
     </message>

@@ -58,19 +58,23 @@ void copyShown(Recorder& recorder, const RecorderView& view, const RecorderLook&
 QString exportRecords(Recorder& recorder, const RecorderView& view,
                       const std::filesystem::path& path) {
   QSaveFile file(toQt(path));
-  const auto refuse = [&] {
-    throw Error(pathAccess, "Tracewell", pathText(path) + ": " + fromQt(file.errorString()));
+  const auto refuse = [&](int number) {
+    throw Error(number, "Tracewell", pathText(path) + ": " + fromQt(file.errorString()));
   };
-  if (!file.open(QIODevice::WriteOnly)) refuse();
+  if (!file.open(QIODevice::WriteOnly)) refuse(pathAccess);
+  bool isWritten = true;
   const SamplesCsvResult result =
-      writeSamples(recorder.store(), view.exported(), [&file](std::string_view text) {
-        file.write(text.data(), static_cast<qint64>(text.size()));
+      writeSamples(recorder.store(), view.exported(), [&](std::string_view text) {
+        const auto size = static_cast<qint64>(text.size());
+        isWritten = isWritten && file.write(text.data(), size) == size;
       });
   if (result.records == 0) {
     file.cancelWriting();
     return panelText("Nothing to export: the scales of these records are not known");
   }
-  if (!file.commit()) refuse();
+  // To commit alone would take what the last buffer has lost for written.
+  if (!isWritten || !file.flush()) refuse(diskFull);
+  if (!file.commit()) refuse(pathAccess);
   QString text = panelText("Saved %1").arg(shownText(pathText(path), roomOfLine));
   if (result.leftOut > 0)
     text += QStringLiteral(". ") +

@@ -317,10 +317,12 @@ TEST_F(FormsTest, ListKeepsTheEntryThatTheProgramGoesBackTo) {
     window.cmdOK.click = [] { ADD_FAILURE() << "pressed"; };
     window.dirCSV.items = {"..", "a"};
     folders->setFocus();
-    QTest::keyClick(folders, Qt::Key_Down);
+    for (const char* reached : {"..", "a"}) {
+      QTest::keyClick(folders, Qt::Key_Down);
+      EXPECT_EQ(window.dirCSV.chosenText(), reached);
+    }
     QTest::keyClick(folders, Qt::Key_Return);
     EXPECT_EQ(opened, 1);
-    EXPECT_EQ(window.dirCSV.chosenText(), "a");
     dialog.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
     window.dirCSV.items = {"..", "b", "c"};

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <sys/resource.h>
+
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
@@ -8,6 +10,7 @@
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QTableWidget>
+#include <csignal>
 #include <fstream>
 
 #include "Bench.h"
@@ -147,6 +150,16 @@ TEST_F(RecorderWindowTest, KeepsFollowsStepsPinsShowsLogsAndExports) {
   const auto exported = view.exported();
   EXPECT_EQ(lines("part.csv"), 1 + 500 * (exported.end - exported.first));
   EXPECT_EQ(said(), "Saved " + (folder.path() / "part.csv").string());
+  // As on a full disk. The file that is there stays.
+  rlimit before{};
+  getrlimit(RLIMIT_FSIZE, &before);
+  std::signal(SIGXFSZ, SIG_IGN);
+  const rlimit few{100, before.rlim_max};
+  setrlimit(RLIMIT_FSIZE, &few);
+  view.select(exported.first);
+  EXPECT_THROW(window->exportInto(folder.path() / "part.csv"), Error);
+  setrlimit(RLIMIT_FSIZE, &before);
+  EXPECT_EQ(lines("part.csv"), 1 + 500 * (exported.end - exported.first));
 
   auto& bar = find<RecorderLogBar>("logBar");
   find<QPushButton>("log").click();
