@@ -252,6 +252,7 @@ std::map<std::string, std::function<void()>> Played::stepsWith(const std::string
        }},
       {"paper", [this, &value] { printer.isOutOfPaper = value == "none"; }},
       {"decline", [this] { printer.isDeclined = true; }},
+      {"doubt", [this, number] { main.answersDoubted.raise(number(), clock.milliseconds()); }},
       {"record1", [this, number] { main.Ch1Raw = level(number()); }},
       {"record2", [this, number] { main.Ch2Raw = level(number()); }},
       {"port33",
