@@ -290,11 +290,14 @@ void bind(ListBox& control, QWidget& form) {
     const QStringList items = shownEntries(control.items());
     QStringList shown;
     for (int i = 0; i < list->count(); ++i) shown << list->item(i)->text();
+    const int reached = items == shown ? list->currentRow() : ListBox::noEntry;
     if (items != shown) {
       list->clear();
       list->addItems(items);
     }
     list->setCurrentRow(control.chosen());
+    // Keys go on from an entry that the program did not take.
+    if (reached >= 0) list->setCurrentRow(reached, QItemSelectionModel::NoUpdate);
     // As when the focus comes: keys go on from the first entry.
     if (list->currentRow() < 0 && list->hasFocus())
       list->setCurrentRow(0, QItemSelectionModel::NoUpdate);
@@ -303,7 +306,8 @@ void bind(ListBox& control, QWidget& form) {
                    [&control, list] { control.choose(list->currentRow()); });
   chooseCurrentFirst(*list);
   onMoveByKey(list, [&control, list] {
-    const int row = list->currentRow();
+    const QList<QListWidgetItem*> selected = list->selectedItems();
+    const int row = selected.isEmpty() ? ListBox::noEntry : list->row(selected.first());
     if (row >= 0 && row != control.chosen()) control.choose(row);
   });
   if (!control.opened) return;

@@ -109,14 +109,15 @@ void keepCaretAtEnd(QLineEdit& line) {
 }
 
 void chooseCurrentFirst(QAbstractItemView& list) {
-  new EventWatch(&list, [&list](const QEvent& event) {
+  new EventWatch(&list, [&list, tried = QPersistentModelIndex()](const QEvent& event) mutable {
     if (event.type() != QEvent::KeyPress) return false;
     const int key = static_cast<const QKeyEvent&>(event).key();
     if (key != Qt::Key_Down && key != Qt::Key_Up) return false;
     QItemSelectionModel& selected = *list.selectionModel();
-    if (selected.hasSelection() || !list.currentIndex().isValid()) return false;
-    selected.select(list.currentIndex(),
-                    QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    const QModelIndex current = list.currentIndex();
+    if (selected.hasSelection() || current.row() != 0 || tried == current) return false;
+    tried = current;
+    selected.select(current, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     return true;
   });
 }

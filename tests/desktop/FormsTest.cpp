@@ -302,9 +302,20 @@ TEST_F(FormsTest, ListKeepsTheEntryThatTheProgramGoesBackTo) {
     QApplication::processEvents();
     QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
                       list->visualItemRect(list->item(1)).center());
-    EXPECT_EQ(list->currentRow(), 0);
     EXPECT_TRUE(list->item(0)->isSelected());
     EXPECT_FALSE(list->item(1)->isSelected());
+    // Keys pass entries that the program does not take, also if the first one is such.
+    Lines tried;
+    window.fileCSV.items = {"bad.csv", "worse.csv", "good.csv"};
+    window.fileCSV.click = [&, &files = window.fileCSV] {
+      tried.push_back(files.chosenText());
+      if (tried.back() != "good.csv") files.chosen = ListBox::noEntry;
+    };
+    window.fileCSV.chosen = ListBox::noEntry;
+    list->setFocus();
+    for (int i = 0; i < 3; ++i) QTest::keyClick(list, Qt::Key_Down);
+    QTest::keyClick(list, Qt::Key_Shift);
+    EXPECT_EQ(tried, (Lines{"bad.csv", "worse.csv", "good.csv"}));
     // A key on an empty list, and the release of one that was pressed elsewhere, choose nothing.
     window.fileCSV.click = [] { ADD_FAILURE() << "chosen"; };
     QTest::keyRelease(list, Qt::Key_Escape);

@@ -122,7 +122,7 @@ class DayAtTheBench(SystemTestCase):
         # One of them again, under the live traces: from the list by keys, behind the icon's set,
         # whose picture cannot be shown.
         self.opened("ctrl+l", "Load Waveform")
-        program.keys("Tab", "Tab", "Down")
+        program.keys("Tab", "Tab", "s")
         program.keys("Tab", "Tab", "Tab", "Tab", "space")
         program.closed("Load Waveform")
 

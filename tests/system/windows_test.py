@@ -196,7 +196,7 @@ class WindowsTest(SystemTestCase):
                              rf"\{program.folder.name}\{file.name}")
         # By keys, behind the icon's set, whose picture cannot be shown.
         program.opened("ctrl+l", "Load Waveform")
-        program.keys("Tab", "Tab", "Down")
+        program.keys("Tab", "Tab", "s")
         self.shot("load")
         program.keys("Tab", "Tab", "Tab", "Tab", "space")
         program.closed("Load Waveform")
