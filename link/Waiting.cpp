@@ -45,12 +45,14 @@ ShortTimeOut::~ShortTimeOut() {
 
 void Delay(frmDSO& main, std::int32_t milliseconds) {
   Clock& clock = main.services().clock;
-  const StandBy& standBy = main.services().standBy;
+  StandBy& standBy = main.services().standBy;
   const std::int32_t start = tickCount(clock);
   do {
-    // Nothing runs inside a burst that was given up: it would find no replies either.
     if (standBy.isGivenUp()) return;
-    clock.pumpEvents();
+    {
+      const StandBy::Aside aside(standBy);
+      clock.pumpEvents();
+    }
     main.services().gate.mustBeOpen();
   } while (elapsedSince(start, tickCount(clock)) <= milliseconds);
 }

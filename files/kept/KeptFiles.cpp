@@ -11,15 +11,14 @@ namespace {
 namespace fs = std::filesystem;
 
 /// Also where there is no file any more.
-fs::path wholePath(const fs::path& path) {
+fs::path canonicalPath(const fs::path& path) {
   std::error_code failed;
-  const fs::path absolute = fs::absolute(path, failed);
-  const fs::path whole = fs::weakly_canonical(failed ? path : absolute, failed);
-  return failed ? absolute : whole;
+  const fs::path canonical = fs::weakly_canonical(wholePath(path), failed);
+  return failed ? wholePath(path) : canonical;
 }
 
 auto findNoted(frmDSO& main, const fs::path& path) {
-  return std::ranges::find_if(main.filesToKeep, [whole = wholePath(path)](const fs::path& noted) {
+  return std::ranges::find_if(main.filesToKeep, [whole = canonicalPath(path)](const fs::path& noted) {
     std::error_code ignored;
     return noted == whole || fs::equivalent(noted, whole, ignored);
   });
@@ -38,7 +37,7 @@ std::string notice(const Words& words, const fs::path& path) {
 /// The others are kept when the user saves over them.
 bool isWrittenUnasked(const frmDSO& main, const fs::path& path) {
   const bool isOurs = path.filename() == setupFile || path.filename() == errorLogFile;
-  return isOurs && path.parent_path() == wholePath(main.services().programFolder);
+  return isOurs && path.parent_path() == canonicalPath(main.services().programFolder);
 }
 
 }  // namespace
@@ -61,7 +60,7 @@ bool isToBeKept(frmDSO& main, const fs::path& path) {
 }
 
 void noteFileToKeep(frmDSO& main, const fs::path& path) {
-  if (findNoted(main, path) == main.filesToKeep.end()) main.filesToKeep.push_back(wholePath(path));
+  if (findNoted(main, path) == main.filesToKeep.end()) main.filesToKeep.push_back(canonicalPath(path));
   showFilesToKeep(main);
 }
 

@@ -31,7 +31,7 @@ std::string onOneLine(const std::string& text) {
 
 /// Where it is without a folder of its own, the present one.
 std::string folderText(const std::filesystem::path& path) {
-  return pathText(std::filesystem::absolute(path).parent_path());
+  return pathText(wholePath(path).parent_path());
 }
 
 /// Without regard to case, which not every file system knows.

@@ -44,9 +44,7 @@ std::string readUpTo(std::ifstream& file, const fs::path& path, std::uintmax_t l
 
 Error fileError(int number, const std::string& what, const fs::path& path,
                 const std::error_code& reason) {
-  std::error_code ignored;
-  const fs::path whole = fs::absolute(path, ignored);
-  std::string text = what + ": " + pathText(whole.empty() ? path : whole);
+  std::string text = what + ": " + wholePathText(path);
   if (reason) text += " (" + reason.message() + ")";
   return {number, "Tracewell", text};
 }
@@ -56,8 +54,14 @@ std::string pathText(const fs::path& path) {
   return {text.begin(), text.end()};
 }
 
+fs::path wholePath(const fs::path& path) {
+  std::error_code ignored;
+  const fs::path whole = fs::absolute(path, ignored);
+  return whole.empty() ? path : whole;
+}
+
 std::string wholePathText(const fs::path& path) {
-  return pathText(fs::absolute(path));
+  return pathText(wholePath(path));
 }
 
 fs::path pathOf(const std::string& text) {

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <utility>
 
 #include "Clock.h"
 #include "Gate.h"
@@ -23,17 +24,39 @@ class StandBy {
   /// is to end.
   void turn();
 
-  /// A handler's waits, one after the other. Giving up ends all of them.
+  /// A handler's waits, one after the other. Giving up ends all of them, those of the bursts around
+  /// it too, but for a burst that has gone aside.
   class Burst {
    public:
-    explicit Burst(StandBy& standBy) : standBy_(standBy) {
-      if (standBy_.bursts_++ == 0) standBy_.isGivenUp_ = false;
-    }
+    explicit Burst(StandBy& standBy)
+        : standBy_(standBy),
+          around_(std::exchange(standBy.innermost_, this)),
+          asides_(standBy.asides_),
+          isGivenUp_(isOneWithAround() && around_->isGivenUp_) {}
     ~Burst() {
-      if (--standBy_.bursts_ == 0) standBy_.isGivenUp_ = false;
+      standBy_.innermost_ = around_;
+      if (isOneWithAround()) around_->isGivenUp_ = isGivenUp_;
     }
     Burst(const Burst&) = delete;
-    bool isGivenUp() const { return standBy_.isGivenUp_; }
+    bool isGivenUp() const { return isGivenUp_; }
+
+   private:
+    friend StandBy;
+    bool isOneWithAround() const { return around_ != nullptr && around_->asides_ == asides_; }
+
+    StandBy& standBy_;
+    Burst* around_;
+    int asides_;
+    bool isGivenUp_;
+  };
+
+  /// As long as it lives other handlers run, whose waits are bursts of their own. Outside those,
+  /// the one that has gone aside is given up.
+  class Aside {
+   public:
+    explicit Aside(StandBy& standBy) : standBy_(standBy) { ++standBy_.asides_; }
+    ~Aside() { --standBy_.asides_; }
+    Aside(const Aside&) = delete;
 
    private:
     StandBy& standBy_;
@@ -42,17 +65,22 @@ class StandBy {
   /// Called at each turn, so that ages go on while a handler waits. It must not raise events.
   std::function<void()> meanwhile;
 
-  bool isInBurst() const { return bursts_ > 0; }
+  bool isInBurst() const { return innermost_ != nullptr; }
   /// The user gives up the wait. Without a burst it does nothing.
-  void giveUp() { isGivenUp_ = isInBurst(); }
-  bool isGivenUp() const { return isGivenUp_; }
+  void giveUp() {
+    if (isInBurst()) innermost_->isGivenUp_ = true;
+  }
+  /// Whether the burst that waits now is given up.
+  bool isGivenUp() const {
+    return isInBurst() && innermost_->asides_ == asides_ && innermost_->isGivenUp_;
+  }
 
  private:
   Clock& clock_;
   Gate& gate_;
   std::int64_t lastTurn_ = 0;
-  int bursts_ = 0;
-  bool isGivenUp_ = false;
+  Burst* innermost_ = nullptr;
+  int asides_ = 0;
 };
 
 }  // namespace tracewell
