@@ -44,7 +44,9 @@ void DesktopPrinter::printToFile(const QString& path) {
   isFileFixed_ = true;
 }
 
-bool DesktopPrinter::isReady() {
+/// The paper lies as it fits before the user is asked, who may turn it.
+bool DesktopPrinter::isReady(QPageLayout::Orientation orientation) {
+  if (!isPaperChosen_) printer().setPageOrientation(orientation);
   const bool isForFile = !printer().outputFileName().isEmpty();
   if (!isSetUp_ && (isForFile || QPrinterInfo::defaultPrinter().isNull()))
     setUp();
@@ -60,14 +62,9 @@ void DesktopPrinter::finished() {
   isPaperChosen_ = false;
 }
 
-/// Unless the user has chosen how the paper lies.
-void DesktopPrinter::turnPaper(QPageLayout::Orientation orientation) {
-  if (!isPaperChosen_) printer().setPageOrientation(orientation);
-}
-
 template <class Paint>
-bool DesktopPrinter::paint(Paint paintPage) {
-  if (!isReady()) return false;
+bool DesktopPrinter::paintAcross(Paint paintPage) {
+  if (!isReady(QPageLayout::Landscape)) return false;
   QPainter painter;
   if (!painter.begin(&printer()))
     throw printError(QStringLiteral("Cannot print to %1")
@@ -81,8 +78,7 @@ bool DesktopPrinter::paint(Paint paintPage) {
 }
 
 bool DesktopPrinter::printImage(const Image& image) {
-  turnPaper(QPageLayout::Landscape);
-  return paint([&](QPainter& painter, const QRectF& paper) {
+  return paintAcross([&](QPainter& painter, const QRectF& paper) {
     const QImage picture = toQt(image);
     QSizeF size = picture.size();
     size.scale(paper.size(), Qt::KeepAspectRatio);
@@ -91,8 +87,7 @@ bool DesktopPrinter::printImage(const Image& image) {
 }
 
 bool DesktopPrinter::printText(const std::string& text) {
-  if (!isReady()) return false;
-  turnPaper(QPageLayout::Portrait);
+  if (!isReady(QPageLayout::Portrait)) return false;
   QTextDocument document;
   QFont font(QStringLiteral("monospace"));
   font.setStyleHint(QFont::Monospace);
@@ -107,8 +102,8 @@ bool DesktopPrinter::printText(const std::string& text) {
 }
 
 bool DesktopPrinter::printPage(const GraphPage& page) {
-  turnPaper(QPageLayout::Landscape);
-  return paint([&](QPainter& painter, const QRectF& paper) { paintOnPaper(page, painter, paper); });
+  return paintAcross(
+      [&](QPainter& painter, const QRectF& paper) { paintOnPaper(page, painter, paper); });
 }
 
 }  // namespace tracewell

@@ -24,11 +24,10 @@ class DesktopPrinter : public Printer {
   /// Created when first needed: it asks the print system for the default printer.
   QPrinter& printer();
   /// False if there is no printer and the user has chosen none.
-  bool isReady();
+  bool isReady(QPageLayout::Orientation orientation);
   void finished();
-  void turnPaper(QPageLayout::Orientation orientation);
   template <class Paint>
-  bool paint(Paint paintPage);
+  bool paintAcross(Paint paintPage);
 
   std::optional<QPrinter> printer_;
   bool isSetUp_ = false;

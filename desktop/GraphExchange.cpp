@@ -11,6 +11,7 @@
 #include "DesktopWords.h"
 #include "Graph.h"
 #include "QtValues.h"
+#include "ShownText.h"
 
 namespace tracewell {
 namespace {
@@ -75,7 +76,7 @@ bool GraphExchange::openMenu(const QPoint& position) {
   for (int number = 1; number <= static_cast<int>(graph_.plots().size()); ++number) {
     const Plot& plot = graph_.plot(number);
     if (plot.isReference() && plot.isShown())
-      menu->addAction(panelText("Remove %1").arg(toQt(plot.name())), this,
+      menu->addAction(panelText("Remove %1").arg(shownCaption(plot.label())), this,
                       [this, number] { graph_.removeReference(number); });
   }
   menu->popup(position);

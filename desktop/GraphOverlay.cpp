@@ -29,6 +29,8 @@ constexpr int edge = 6;
 constexpr qreal roomOfTrigger = 26;
 /// The badge leaves it to the names of the traces.
 constexpr qreal roomOfNames = 60;
+/// Of the width; a longer name is cut in its middle.
+constexpr qreal mostOfWidth = 0.5;
 /// Kept free at the top for the names of the cursors.
 constexpr qreal roomOfCursors = 20;
 /// Kept free at the bottom for the note.
@@ -182,7 +184,10 @@ void GraphOverlay::paintNames(QPainter& painter, const Texts& names) const {
   for (const GraphMarks::Text& name : names) {
     const Plot& plot = graph_->plot(name.plot);
     const qreal top = toPixels_(0, plot.y().back()).y() - rowHeight / 2;
-    placed.push_back({{name}, qBound(grown(roomOfCursors), top, height() - rowHeight)});
+    const QString text =
+        QFontMetricsF(font()).elidedText(shown(name.text), Qt::ElideMiddle, mostOfWidth * width());
+    placed.push_back(
+        {{{name.plot, fromQt(text)}}, qBound(grown(roomOfCursors), top, height() - rowHeight)});
   }
   std::ranges::stable_sort(placed, {}, &Name::top);
   std::vector<qreal> tops;

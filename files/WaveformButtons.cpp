@@ -52,6 +52,7 @@ void WaveformButtons::loadCSV(const std::filesystem::path& path) {
   const std::vector<double> points = readFirstColumn(main_.txtMsg.text());
   Plot& load1 = main_.graphDSO.plot(ScopeGraph::firstReference);
   load1.plotXvsY(main_.XIndex, points);
+  load1.origin = pathText(path.filename());
   load1.scale = "";
   load1.visible = true;
   const bool isEmpty = points.empty();

@@ -160,6 +160,7 @@ void frmLoad::drawSet(const LoadedWaveforms& set) {
     if (!hasRoom) return;
     Plot& plot = main_.graphDSO.plot(number);
     plot.plotXvsY(main_.XIndex, points);
+    plot.origin = pathText(pathOf(dataPath_).filename());
     plot.scale = scale;
     plot.visible = true;
     ++number;

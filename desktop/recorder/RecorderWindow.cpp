@@ -30,6 +30,11 @@ constexpr int betweenMeasuring = 20;
 /// The last one is what a name without an ending gets.
 constexpr const char* pictureNames = "|*.jpg *.bmp *.gif *.pcx *.tif *.png";
 
+/// As the panel and a list of records tell it from others.
+std::string nameOf(const RecordFacts& facts) {
+  return channelName(facts.channel) + " " + timeOfDay(facts.wallTime);
+}
+
 }  // namespace
 
 RecorderWindow::RecorderWindow(Recorder& recorder)
@@ -299,9 +304,7 @@ void RecorderWindow::pinOrLetGo() {
     store.letGo(*pointed);
     return;
   }
-  const RecordFacts& facts = store.facts(*pointed);
-  const std::string own = channelName(facts.channel) + " " + timeOfDay(facts.wallTime);
-  if (!store.pin(*pointed, name.isEmpty() ? own : fromQt(name)))
+  if (!store.pin(*pointed, name.isEmpty() ? nameOf(store.facts(*pointed)) : fromQt(name)))
     return say(panelText("No more records can be pinned"));
   // It is pointed at until the user goes on.
   view_.select(*pointed);
@@ -313,7 +316,8 @@ void RecorderWindow::showInPanel() {
   bool haveRoom = true;
   for (const int channel : {1, 2})
     if (const auto shown = view_.shownOf(channel); shown && haveRoom)
-      haveRoom = showAsReference(recorder_.main(), channel, store.record(*shown));
+      haveRoom = showAsReference(recorder_.main(), channel, store.record(*shown),
+                                 nameOf(store.facts(*shown)));
   say(haveRoom ? panelText("It lies over the live traces now")
                : panelText("No reference is free: remove one in the panel first"));
 }

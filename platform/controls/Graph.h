@@ -31,8 +31,12 @@ class Plot : public Observable {
   Property<Colour> lineColour;
   Property<int> lineStyle{*this, solidLine};
   Property<int> pointStyle{*this, noPoints};
+  /// The file or the record that a reference shows, as the user knows it.
+  Property<std::string> origin{*this};
   /// The scale that its source names; empty where none is.
   Property<std::string> scale{*this};
+  /// Name and origin.
+  std::string label() const { return name_ + (origin().empty() ? "" : " " + origin()); }
   /// Laid over the others by the user, who may take it away again.
   bool isReference() const { return isReference_; }
   /// Visible, with data.

@@ -15,7 +15,8 @@ std::string captionOfVolts(std::optional<double> perDivision) {
   return perDivision && found != VoltDivText.end() ? std::string(*found) : "";
 }
 
-bool showAsReference(frmDSO& main, int channel, const ChannelRecord& record) {
+bool showAsReference(frmDSO& main, int channel, const ChannelRecord& record,
+                     const std::string& name) {
   int number = ScopeGraph::firstReference;
   while (number <= ScopeGraph::plotCount && main.graphDSO.plot(number).visible()) ++number;
   if (number > ScopeGraph::plotCount) {
@@ -26,9 +27,10 @@ bool showAsReference(frmDSO& main, int channel, const ChannelRecord& record) {
   }
   Plot& plot = main.graphDSO.plot(number);
   plot.plotXvsY(main.XIndex, decodeSamples(record.bytes, main.channel(channel).drawnShift));
+  plot.origin = name;
   plot.scale = captionOfVolts(record.madeUnder.voltsPerDivision);
   plot.visible = true;
-  main.status.tell(StatusLine::happened, [name = plot.name()](const Words& words) {
+  main.status.tell(StatusLine::happened, [name = plot.label()](const Words& words) {
     return words.say("A record of the recorder is %1", {name});
   });
   return true;

@@ -12,8 +12,9 @@ namespace tracewell {
 std::string captionOfVolts(std::optional<double> perDivision);
 
 /// Lays a record over the live traces as the load window does: in the first reference that is free,
-/// with its volts per division beside it, at the height at which its channel's trace is now. The
-/// status line says which one, or that none is free. False if none is.
-bool showAsReference(frmDSO& main, int channel, const ChannelRecord& record);
+/// with `name` and its volts per division beside it, at the height at which its channel's trace is
+/// now. The status line says which one, or that none is free. False if none is.
+bool showAsReference(frmDSO& main, int channel, const ChannelRecord& record,
+                     const std::string& name);
 
 }  // namespace tracewell

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <QApplication>
+#include <QPrintDialog>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <QTimer>
 
 #include "Bench.h"
 #include "DesktopProgram.h"
@@ -86,6 +88,24 @@ TEST_F(PaperTest, TextAndPictureMakeDocumentsOfTheirOwn) {
   EXPECT_NE(pdfText().find("Trigger ... [2]"), std::string::npos);
   printer.printImage({2, 1, std::string(6, '\x7F')});
   EXPECT_EQ(pdfText().find("Trigger"), std::string::npos);
+}
+
+/// Whatever was printed before.
+TEST_F(PaperTest, AUserWhoIsAskedFindsThePaperAsItFits) {
+  QList<QPageLayout::Orientation> found;
+  const auto accept = [&] {
+    QTimer::singleShot(0, [&] {
+      auto* dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
+      found << dialog->printer()->pageLayout().orientation();
+      dialog->printer()->setOutputFileName(folder.filePath(QString::number(found.size())));
+      dialog->done(QDialog::Accepted);
+    });
+  };
+  accept();
+  EXPECT_TRUE(printer.printPage({}));
+  accept();
+  EXPECT_TRUE(printer.printText("Trigger ... [2]\r\n"));
+  EXPECT_EQ(found, QList({QPageLayout::Landscape, QPageLayout::Portrait}));
 }
 
 TEST_F(PaperTest, PlaceThatCannotBeWrittenIsAnErrorThatNamesIt) {

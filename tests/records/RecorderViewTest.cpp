@@ -222,13 +222,14 @@ TEST_F(RecorderTest, ARecordTakesTheFirstReferenceThatIsFree) {
   main.graphDSO.plot(3).visible = true;
   main.channels[0].drawnShift = 25;
   ChannelRecord record{sineRecord(), {}, {0.5, 2e-3, std::nullopt, std::nullopt}, 0, 0};
-  EXPECT_TRUE(showAsReference(main, 1, record));
+  EXPECT_TRUE(showAsReference(main, 1, record, "CH1 14:29:05"));
   EXPECT_TRUE(main.graphDSO.plot(4).isShown());
+  EXPECT_EQ(main.graphDSO.plot(4).label(), "Load2 CH1 14:29:05");
   EXPECT_EQ(main.graphDSO.plot(4).scale(), "500.0 mV");
   EXPECT_DOUBLE_EQ(main.graphDSO.plot(4).y()[6], 125);
-  EXPECT_TRUE(showAsReference(main, 1, record));
-  EXPECT_TRUE(showAsReference(main, 1, record));
-  EXPECT_FALSE(showAsReference(main, 1, record));
+  EXPECT_TRUE(showAsReference(main, 1, record, "CH1 14:29:05"));
+  EXPECT_TRUE(showAsReference(main, 1, record, "CH1 14:29:05"));
+  EXPECT_FALSE(showAsReference(main, 1, record, "CH1 14:29:05"));
 }
 
 TEST_F(RecorderTest, ARecordIsSavedAsTheSaveWindowSavesTheTrace) {

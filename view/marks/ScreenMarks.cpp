@@ -49,8 +49,8 @@ void addReferenceName(std::vector<GraphMarks::Text>& names, const frmDSO& main, 
   const Words& words = main.services().words;
   if (!plot.isShown()) return;
   names.push_back({number, plot.scale().empty()
-                               ? words.say("%1: scale not known", {plot.name()})
-                               : words.say("%1: made at %2", {plot.name(), plot.scale()})});
+                               ? words.say("%1: scale not known", {plot.label()})
+                               : words.say("%1: made at %2", {plot.label(), plot.scale()})});
 }
 
 /// A phase between two sweeps means nothing.
