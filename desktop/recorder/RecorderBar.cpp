@@ -132,6 +132,10 @@ void RecorderBar::take() {
 /// Only what has to do with what is drawn is there.
 void RecorderBar::showState() {
   follow_->setChecked(view_.isFollowing());
+  {
+    const QSignalBlocker blocker(channel_);
+    channel_->setCurrentIndex(view_.channel());
+  }
   const bool isTrace = view_.choice.mode == RecorderMode::trace;
   const bool isSpectrum = view_.choice.mode == RecorderMode::spectrum;
   behind_->setVisible(isTrace || isSpectrum);

@@ -70,7 +70,9 @@ QString exportRecords(Recorder& recorder, const RecorderView& view,
       });
   if (result.records == 0) {
     file.cancelWriting();
-    return panelText("Nothing to export: the scales of these records are not known");
+    return result.leftOut > 0
+               ? panelText("Nothing to export: the scales of these records are not known")
+               : panelText("Nothing to export: no record of this channel is there");
   }
   // To commit alone would take what the last buffer has lost for written.
   if (!isWritten || !file.flush()) refuse(diskFull);

@@ -27,8 +27,30 @@ std::string number(std::size_t count) {
 
 void RecorderView::show(int channel) {
   channel_ = channel;
-  // The one pointed at may be of the other channel.
-  if (!isFollowing_ && selected_ && !isShown(store_.facts(*selected_).channel)) step(-1);
+  pointAtShown();
+}
+
+/// The one pointed at may have gone out of the store, or be of the other channel. Then it is the
+/// nearest one that shows, rather the earlier one; without any the newest to come.
+void RecorderView::pointAtShown() {
+  if (isFollowing_ || !selected_) return;
+  if (!store_.isKept(*selected_)) selected_ = store_.first();
+  if (isShown(store_.facts(*selected_).channel)) return;
+  auto nearest = nextShown(*selected_, -1);
+  if (!nearest) nearest = nextShown(*selected_, 1);
+  if (nearest)
+    select(*nearest);
+  else
+    follow(true);
+}
+
+std::optional<RecordStore::Number> RecorderView::nextShown(Number from, int direction) const {
+  Number ahead = std::clamp(from, store_.first() - 1, store_.end()) + direction;
+  while (ahead >= store_.first() && ahead < store_.end()) {
+    if (isShown(store_.facts(ahead).channel)) return ahead;
+    ahead += direction;
+  }
+  return std::nullopt;
 }
 
 void RecorderView::follow(bool isFollowing) {
@@ -45,6 +67,7 @@ std::optional<RecordStore::Number> RecorderView::selected() const {
 
 void RecorderView::select(Number number) {
   if (!store_.isKept(number)) return;
+  if (!isShown(store_.facts(number).channel)) channel_ = 0;
   isFollowing_ = false;
   selected_ = number;
   timeline.reveal(number);
@@ -54,35 +77,24 @@ void RecorderView::select(Number number) {
 void RecorderView::step(int records) {
   const auto from = selected();
   if (!from) return;
-  const int direction = records < 0 ? -1 : 1;
   Number reached = *from;
-  Number ahead = std::clamp(*from, store_.first() - 1, store_.end());
-  for (int left = std::abs(records); left > 0;) {
-    ahead += direction;
-    if (ahead < store_.first() || ahead >= store_.end()) break;
-    if (!isShown(store_.facts(ahead).channel)) continue;
-    reached = ahead;
-    --left;
-  }
+  for (int left = std::abs(records); left > 0; --left)
+    reached = nextShown(reached, records < 0 ? -1 : 1).value_or(reached);
   select(reached);
 }
 
 void RecorderView::selectFirst() {
-  for (Number number = store_.first(); number < store_.end(); ++number)
-    if (isShown(store_.facts(number).channel)) return select(number);
+  if (const auto first = nextShown(store_.first() - 1, 1)) select(*first);
 }
 
 void RecorderView::selectLast() {
-  for (Number number = store_.end() - 1; number >= store_.first(); --number)
-    if (isShown(store_.facts(number).channel)) return select(number);
+  if (const auto last = nextShown(store_.end(), -1)) select(*last);
 }
 
 std::optional<RecordStore::Number> RecorderView::shownOf(int channel) const {
   const auto pointed = selected();
   if (!pointed || !isShown(channel)) return std::nullopt;
   if (store_.facts(*pointed).channel == channel) return pointed;
-  // The user has chosen the other channel alone, and a pinned record is pointed at.
-  if (channel_ != 0) return std::nullopt;
   if (const auto partner = store_.partnerOf(*pointed)) return partner;
   const Number lowest = std::max(store_.first(), *pointed - farthestOther);
   for (Number other = std::min(*pointed, store_.end()) - 1; other >= lowest; --other)
@@ -90,9 +102,9 @@ std::optional<RecordStore::Number> RecorderView::shownOf(int channel) const {
   return std::nullopt;
 }
 
-/// One that has gone out of the store cannot be pointed at any longer; nor can it be marked.
+/// What has gone out of the store cannot be pointed at any longer; nor can it be marked.
 void RecorderView::recordKept() {
-  if (selected_ && !store_.isKept(*selected_)) selected_ = store_.first();
+  pointAtShown();
   if (marked_) {
     marked_->first = std::max(marked_->first, store_.first());
     if (marked_->second < marked_->first) unmark();

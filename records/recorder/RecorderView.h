@@ -32,8 +32,9 @@ class RecorderView {
   /// Goes with the newest record until another one is pointed at.
   bool isFollowing() const { return isFollowing_; }
   void follow(bool isFollowing);
-  /// None as long as nothing has been kept.
+  /// Always of a channel that is shown; none as long as nothing of it has been kept.
   std::optional<Number> selected() const;
+  /// Of a channel that is not shown: then both are.
   void select(Number number);
   /// By so many records of the channels that are shown.
   void step(int records);
@@ -93,6 +94,9 @@ class RecorderView {
   bool measureMore(int most) { return statistics_.work(most); }
 
  private:
+  void pointAtShown();
+  /// The next record of the channels that are shown, in one direction; none at the end.
+  std::optional<Number> nextShown(Number from, int direction) const;
   bool isShown(int channel) const { return channel_ == 0 || channel_ == channel; }
   std::vector<Number> drawnOf(Number newest) const;
   std::vector<DrawnRecords> drawn() const;

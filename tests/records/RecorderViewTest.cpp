@@ -94,6 +94,26 @@ TEST_F(RecorderViewTest, ARecordThatGoesOutOfTheStoreIsPointedAtNoLonger) {
   EXPECT_EQ(view.selected(), store.first());
 }
 
+TEST_F(RecorderViewTest, ARecordOfAChannelThatIsNotShownIsPointedAtNever) {
+  const auto first = keepLevel(1, 1);
+  view.select(first);
+  view.show(2);
+  EXPECT_FALSE(view.selected());
+  EXPECT_EQ(view.stretch().channel, 2);
+  const auto other = keepLevel(2, 2);
+  view.follow(false);
+  EXPECT_EQ(view.selected(), other);
+  view.show(1);
+  EXPECT_EQ(view.selected(), first);
+  view.show(2);
+  EXPECT_EQ(view.selected(), other);
+  for (int i = 0; i < 10001; ++i) keepLevel(1, 10 + i % 7);
+  view.recordKept();
+  EXPECT_FALSE(view.selected());
+  view.select(store.first());
+  EXPECT_EQ(view.channel(), 0);
+}
+
 TEST_F(RecorderViewTest, SaysVoltsAndSecondsWhereTheScalesAreKnown) {
   keep(1, sineRecord());
   EXPECT_EQ(value(Quantity::frequency), "1.000 kHz");
