@@ -41,7 +41,7 @@ void Lifecycle::Form_Load() {
 
 void Lifecycle::Form_Unload() {
   Gate& gate = main_.services().gate;
-  if (gate.isClosed()) return;
+  if (gate.isClosed() || (main_.mayEnd && !main_.mayEnd())) return;
   main_.tmDSO.enabled = false;
   exchange_.LoadSetup();
   gate.close();

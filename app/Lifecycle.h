@@ -16,7 +16,8 @@ class Lifecycle {
 
   /// Raises an error that names the file when the language files cannot be used.
   void Form_Load();
-  /// Once; says so when the setup cannot be written, and closes all the same.
+  /// Once, unless the user wants the program to go on. Says so when the setup cannot be written,
+  /// and closes all the same.
   void Form_Unload();
   /// Asks before it closes.
   void cmdClose_Click();

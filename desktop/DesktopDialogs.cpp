@@ -55,6 +55,10 @@ std::filesystem::path ask(const FileDialog& dialog, QFileDialog::AcceptMode mode
 }  // namespace
 
 Answer DesktopDialogs::answerYesNo(const std::string& prompt, const std::string& title) {
+  if (isAlone_) {
+    say(QMessageBox::Question, prompt);
+    return Answer::Yes;
+  }
   const auto answer =
       showBox(QMessageBox::Question, title, prompt, QMessageBox::Yes | QMessageBox::No);
   return answer == QMessageBox::Yes ? Answer::Yes : Answer::No;

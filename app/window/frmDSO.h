@@ -159,6 +159,8 @@ class frmDSO : public Window {
   std::int64_t doneAt = 0;
   /// What stands beside the values, marks and ages, is to be looked at anew.
   Event<> marksDue;
+  /// Asked before the program ends, if it is there; false: the user wants it to go on.
+  std::function<bool()> mayEnd;
   /// The record of a channel, 1 or 2, has come; the channel holds it.
   Event<int> recordKept;
   /// Answers that came between two moments of Clock may be those of other questions.

@@ -1116,6 +1116,10 @@
         <translation>Rien d'épinglé</translation>
     </message>
     <message>
+        <source>Nothing to export: no record of this channel is there</source>
+        <translation>Rien à exporter : aucun enregistrement de cette voie n'y figure</translation>
+    </message>
+    <message>
         <source>Nothing to export: the scales of these records are not known</source>
         <translation>Rien à exporter : les échelles de ces enregistrements sont inconnues</translation>
     </message>
@@ -1246,6 +1250,10 @@
     <message>
         <source>Recorder's log: %1</source>
         <translation>Journal de l'enregistreur : %1</translation>
+    </message>
+    <message>
+        <source>Recorder's log: %1 cannot be written. %2. Give them up?</source>
+        <translation>Journal de l'enregistreur : %1 impossibles à écrire. %2. Les abandonner ?</translation>
     </message>
     <message>
         <source>Records along time</source>
@@ -1514,6 +1522,10 @@
     <message>
         <source>The last question had no answer: press %1</source>
         <translation>La dernière question est restée sans réponse : appuyer sur %1</translation>
+    </message>
+    <message>
+        <source>The log goes on</source>
+        <translation>Le journal continue</translation>
     </message>
     <message>
         <source>The log has ended</source>

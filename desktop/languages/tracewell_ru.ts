@@ -1116,6 +1116,10 @@
         <translation>Ничего не закреплено</translation>
     </message>
     <message>
+        <source>Nothing to export: no record of this channel is there</source>
+        <translation>Нечего экспортировать: записей этого канала там нет</translation>
+    </message>
+    <message>
         <source>Nothing to export: the scales of these records are not known</source>
         <translation>Нечего экспортировать: масштабы этих записей неизвестны</translation>
     </message>
@@ -1246,6 +1250,10 @@
     <message>
         <source>Recorder's log: %1</source>
         <translation>Журнал регистратора: %1</translation>
+    </message>
+    <message>
+        <source>Recorder's log: %1 cannot be written. %2. Give them up?</source>
+        <translation>Журнал регистратора: не удаётся записать %1. %2. Отказаться от них?</translation>
     </message>
     <message>
         <source>Records along time</source>
@@ -1514,6 +1522,10 @@
     <message>
         <source>The last question had no answer: press %1</source>
         <translation>На последний запрос нет ответа: нажмите «%1»</translation>
+    </message>
+    <message>
+        <source>The log goes on</source>
+        <translation>Журнал продолжается</translation>
     </message>
     <message>
         <source>The log has ended</source>

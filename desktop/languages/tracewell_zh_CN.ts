@@ -1116,6 +1116,10 @@
         <translation>没有固定记录</translation>
     </message>
     <message>
+        <source>Nothing to export: no record of this channel is there</source>
+        <translation>没有可导出的内容：其中没有此通道的记录</translation>
+    </message>
+    <message>
         <source>Nothing to export: the scales of these records are not known</source>
         <translation>没有可导出的内容：这些记录的刻度未知</translation>
     </message>
@@ -1246,6 +1250,10 @@
     <message>
         <source>Recorder's log: %1</source>
         <translation>记录仪日志：%1</translation>
+    </message>
+    <message>
+        <source>Recorder's log: %1 cannot be written. %2. Give them up?</source>
+        <translation>记录仪日志：%1 无法写入。%2。放弃它们吗？</translation>
     </message>
     <message>
         <source>Records along time</source>
@@ -1514,6 +1522,10 @@
     <message>
         <source>The last question had no answer: press %1</source>
         <translation>上一个查询无应答：请按“%1”</translation>
+    </message>
+    <message>
+        <source>The log goes on</source>
+        <translation>日志继续记录</translation>
     </message>
     <message>
         <source>The log has ended</source>

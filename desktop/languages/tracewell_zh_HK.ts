@@ -1116,6 +1116,10 @@
         <translation>冇釘住記錄</translation>
     </message>
     <message>
+        <source>Nothing to export: no record of this channel is there</source>
+        <translation>沒有可匯出嘅內容：入面冇呢個通道嘅記錄</translation>
+    </message>
+    <message>
         <source>Nothing to export: the scales of these records are not known</source>
         <translation>冇嘢可以匯出：呢啲記錄嘅刻度未知</translation>
     </message>
@@ -1246,6 +1250,10 @@
     <message>
         <source>Recorder's log: %1</source>
         <translation>記錄儀日誌：%1</translation>
+    </message>
+    <message>
+        <source>Recorder's log: %1 cannot be written. %2. Give them up?</source>
+        <translation>記錄儀日誌：%1 寫唔到。%2。放棄佢哋？</translation>
     </message>
     <message>
         <source>Records along time</source>
@@ -1514,6 +1522,10 @@
     <message>
         <source>The last question had no answer: press %1</source>
         <translation>上一個查詢冇回應：請撳「%1」</translation>
+    </message>
+    <message>
+        <source>The log goes on</source>
+        <translation>日誌繼續記錄</translation>
     </message>
     <message>
         <source>The log has ended</source>

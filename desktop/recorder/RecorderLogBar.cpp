@@ -147,8 +147,8 @@ void RecorderLogBar::toggle() {
   const Services& services = recorder_.main().services();
   services.dispatcher.dispatch([&] {
     if (recorder_.log() != nullptr) {
-      recorder_.stopLog();
-      emit said(panelText("The log has ended"));
+      emit said(recorder_.stopLog() ? panelText("The log has ended")
+                                    : panelText("The log goes on"));
       emit used();
       return;
     }

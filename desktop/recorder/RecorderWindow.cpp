@@ -120,8 +120,8 @@ QLayout* RecorderWindow::actionRow() {
 }
 
 void RecorderWindow::connectParts() {
-  connect(bar_, &RecorderBar::chosen, this, &RecorderWindow::showSoon);
-  connect(strip_, &RecordStrip::used, this, &RecorderWindow::showSoon);
+  connect(bar_, &RecorderBar::chosen, this, &RecorderWindow::goOn);
+  connect(strip_, &RecordStrip::used, this, &RecorderWindow::goOn);
   connect(graph_, &RecorderGraph::cursorMoved, this, [this](std::size_t cursor, double share) {
     cursors_.move(cursor, share);
     showSoon();
@@ -198,6 +198,12 @@ void RecorderWindow::takeLook() {
 void RecorderWindow::recordKept() {
   view_.recordKept();
   if (!isVisible()) return;
+  showSoon();
+}
+
+/// What was said of something else is over.
+void RecorderWindow::goOn() {
+  say({});
   showSoon();
 }
 

@@ -50,6 +50,7 @@ class RecorderWindow : public QWidget {
   RecorderLook look() const;
   void takeLook();
   /// All that shows has changed; painted once an event-loop turn.
+  void goOn();
   void showSoon();
   void showAll();
   void showPins();

@@ -32,10 +32,12 @@ std::string durationText(std::int64_t milliseconds) {
 
 Recorder::Recorder(frmDSO& main) : main_(main) {
   main_.recordKept = [this](int channel) { keep(channel); };
+  main_.mayEnd = [this] { return stopLog(); };
 }
 
 Recorder::~Recorder() {
   main_.recordKept = Event<int>::Handler();
+  main_.mayEnd = {};
   main_.status.withdraw(StatusLine::logTrouble);
 }
 
@@ -67,7 +69,7 @@ void Recorder::write(RecordStore::Number number) {
 
 void Recorder::startLog(const std::filesystem::path& path, MeasurementColumns columns,
                         AtLimit atLimit) {
-  stopLog();
+  if (!stopLog()) return;
   atLimit_ = atLimit;
   isOutOfPins_ = false;
   log_.emplace(path, std::move(columns), main_.services().clock.milliseconds());
@@ -88,9 +90,20 @@ void Recorder::sayTrouble() {
   });
 }
 
-void Recorder::stopLog() {
-  log_.reset();
+bool Recorder::stopLog() {
+  const bool isDone =
+      !log_ || log_->finish(main_.services().clock.milliseconds()) || mayBeGivenUp();
+  if (isDone) log_.reset();
   sayTrouble();
+  return isDone;
+}
+
+bool Recorder::mayBeGivenUp() const {
+  const Services& services = main_.services();
+  const std::string question = services.words.say(
+      "Recorder's log: %1 cannot be written. %2. Give them up?",
+      {rowsText(services.words, log_->held()), log_->trouble().value_or(pathText(log_->path()))});
+  return services.dialogs.askYesNo(question, main_.caption()) == Answer::Yes;
 }
 
 std::string Recorder::logText(const Words& words) const {

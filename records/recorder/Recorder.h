@@ -32,10 +32,10 @@ class Recorder {
     bool pins = false;
     bool rings = false;
   };
-  /// Begins a log, in place of another. Raises pathAccess.
+  /// Begins a log, in place of another that can be stopped. Raises pathAccess.
   void startLog(const std::filesystem::path& path, MeasurementColumns columns, AtLimit atLimit);
-  /// Writes what is held.
-  void stopLog();
+  /// Writes what is held. Where that cannot be, the user is asked, and may keep the log: false.
+  bool stopLog();
   const MeasurementLog* log() const { return log_ ? &*log_ : nullptr; }
   /// Once a second while there is a log.
   void tick();
@@ -51,6 +51,7 @@ class Recorder {
   void keep(int channel);
   void write(RecordStore::Number number);
   void sayTrouble();
+  bool mayBeGivenUp() const;
 
   frmDSO& main_;
   RecordStore store_;
