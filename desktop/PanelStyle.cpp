@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "PanelStyle.h"
 
+#include <QApplication>
+#include <QComboBox>
+#include <QEvent>
 #include <QPainter>
 #include <QStyleOption>
 
@@ -39,6 +42,18 @@ void dot(QPainter& painter, const QStyleOption& option) {
 }  // namespace
 
 PanelStyle::PanelStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+void PanelStyle::polish(QApplication* application) {
+  QProxyStyle::polish(application);
+  application->installEventFilter(this);
+}
+
+/// A box that is told of its style before it is styled would make the list that it opens.
+bool PanelStyle::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() != QEvent::StyleChange) return false;
+  const auto* box = qobject_cast<QComboBox*>(watched);
+  return box != nullptr && !box->testAttribute(Qt::WA_WState_Polished);
+}
 
 void PanelStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                                QPainter* painter, const QWidget* widget) const {

@@ -12,6 +12,9 @@ class PanelStyle : public QProxyStyle {
 
  public:
   PanelStyle();
+  using QProxyStyle::polish;
+  void polish(QApplication* application) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override;
