@@ -39,6 +39,15 @@ void dot(QPainter& painter, const QStyleOption& option) {
   painter.restore();
 }
 
+/// Fusion draws a button of a size and a palette once; but each widget has a palette of its own,
+/// even one like all others.
+QStyleOptionButton inSharedPalette(QStyleOptionButton button) {
+  QPalette shared = QApplication::palette();
+  shared.setCurrentColorGroup(button.palette.currentColorGroup());
+  if (button.palette == shared) button.palette = shared;
+  return button;
+}
+
 }  // namespace
 
 PanelStyle::PanelStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
@@ -57,7 +66,12 @@ bool PanelStyle::eventFilter(QObject* watched, QEvent* event) {
 
 void PanelStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                                QPainter* painter, const QWidget* widget) const {
-  QProxyStyle::drawPrimitive(element, option, painter, widget);
+  if (const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option)) {
+    const QStyleOptionButton shared = inSharedPalette(*button);
+    QProxyStyle::drawPrimitive(element, &shared, painter, widget);
+  } else {
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+  }
   const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
   const bool hasFrame = frame == nullptr || frame->lineWidth > 0;
   switch (element) {
