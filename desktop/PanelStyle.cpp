@@ -3,7 +3,9 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QCommonStyle>
 #include <QEvent>
+#include <QIconEngine>
 #include <QPainter>
 #include <QStyleOption>
 
@@ -47,6 +49,23 @@ QStyleOptionButton inSharedPalette(QStyleOptionButton button) {
   if (button.palette == shared) button.palette = shared;
   return button;
 }
+
+/// For the entries of a menu bar that there is no room for. It is read when it is painted first.
+class ExtensionIcon : public QIconEngine {
+ public:
+  void paint(QPainter* painter, const QRect& place, QIcon::Mode mode, QIcon::State state) override {
+    read().paint(painter, place, Qt::AlignCenter, mode, state);
+  }
+  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+    return read().pixmap(size, 1, mode, state);
+  }
+  QIconEngine* clone() const override { return new ExtensionIcon; }
+
+ private:
+  static QIcon read() {
+    return QCommonStyle().standardIcon(QStyle::SP_ToolBarHorizontalExtensionButton);
+  }
+};
 
 }  // namespace
 
@@ -99,6 +118,12 @@ int PanelStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWid
                           QStyleHintReturn* more) const {
   if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
   return QProxyStyle::styleHint(hint, option, widget, more);
+}
+
+QIcon PanelStyle::standardIcon(StandardPixmap which, const QStyleOption* option,
+                               const QWidget* widget) const {
+  if (which == SP_ToolBarHorizontalExtensionButton) return QIcon(new ExtensionIcon);
+  return QProxyStyle::standardIcon(which, option, widget);
 }
 
 void PanelStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
