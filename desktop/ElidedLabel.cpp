@@ -41,7 +41,7 @@ int ElidedLabel::neededWidth() const {
 
 /// By the longest result and the narrowest column, so that all cells look the same.
 QFont ElidedLabel::fontThatFits() const {
-  if (text().isEmpty() || !property("cell").toBool()) return font();
+  if (text().isEmpty() || property("kind").toString() != QLatin1String("cell")) return font();
   static const QString longest = QStringLiteral("Duty Cycle(2): 50.00 %");
   constexpr int leastStretch = 65;
   int room = contentsRect().width();
