@@ -136,8 +136,9 @@ class AccessibleDial : public AccessibleThing<Widget>, public QAccessibleValueIn
 class AccessibleLabel : public QAccessibleWidget {
  public:
   explicit AccessibleLabel(QLabel& label)
-      : QAccessibleWidget(&label, label.property("status").toBool() ? QAccessible::StatusBar
-                                                                    : QAccessible::StaticText),
+      : QAccessibleWidget(&label, label.property("kind").toString() == QLatin1String("status")
+                                      ? QAccessible::StatusBar
+                                      : QAccessible::StaticText),
         label_(label) {}
 
   QString text(QAccessible::Text kind) const override {

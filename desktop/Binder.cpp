@@ -22,6 +22,7 @@
 #include "Controls.h"
 #include "CopyGestures.h"
 #include "Dials.h"
+#include "FormParts.h"
 #include "Gestures.h"
 #include "Graph.h"
 #include "GraphView.h"
@@ -40,16 +41,6 @@
 
 namespace tracewell {
 namespace {
-
-/// The object that stands for a control.
-template <class Object>
-Object* findObject(const Control& control, QWidget& form) {
-  auto* object = form.findChild<Object*>(toQt(control.objectName()));
-  if (object == nullptr)
-    throw Error(invalidProcedureCall, "Tracewell",
-                "The form of " + control.owner().name() + " has no proper " + control.objectName());
-  return object;
-}
 
 /// Shows the control now and whenever it changes. The signals of its object are held back
 /// meanwhile, so that nothing echoes.
@@ -70,27 +61,28 @@ void showWith(Control& control, Object* object, Show show) {
   control.changed();
 }
 
-void bind(Label& control, QWidget& form) {
-  auto* label = findObject<QLabel>(control, form);
+void bind(Label& control, const FormParts& parts) {
+  auto* label = parts.of<QLabel>(control);
   showWith(control, label,
            [&control, label] { showInLabel(*label, control.caption(), widestOf(*label)); });
   if (control.doubleClicked) onDoubleClick(label, [&control] { control.doubleClick(); });
 }
 
-void bind(ValueLabel& control, QWidget& form) {
-  auto* label = findObject<QLabel>(control, form);
-  showWith(control, label, [&control, label, &form] { showValue(control, *label, form); });
+void bind(ValueLabel& control, const FormParts& parts) {
+  auto* label = parts.of<QLabel>(control);
+  showWith(control, label,
+           [&control, label, &form = parts.form] { showValue(control, *label, form); });
 }
 
-void bind(Frame& control, QWidget& form) {
-  auto* box = findObject<QGroupBox>(control, form);
+void bind(Frame& control, const FormParts& parts) {
+  auto* box = parts.of<QGroupBox>(control);
   showWith(control, box, [&control, box] { box->setTitle(shownCaption(control.caption())); });
   if (control.copied) new CopyGestures(*box, [&control] { control.copy(); });
 }
 
 /// A button that nothing answers yet is out of reach rather than dead.
-void bind(Button& control, QWidget& form) {
-  auto* button = findObject<QPushButton>(control, form);
+void bind(Button& control, const FormParts& parts) {
+  auto* button = parts.of<QPushButton>(control);
   showSign(*button);
   // A new text would take the form's shortcut away.
   showWith(control, button, [&control, button, shortcut = button->shortcut()] {
@@ -102,15 +94,15 @@ void bind(Button& control, QWidget& form) {
   QObject::connect(button, &QPushButton::clicked, button, [&control] { control.press(); });
 }
 
-void bind(ValueButton& control, QWidget& form) {
-  auto* button = findObject<QAbstractButton>(control, form);
+void bind(ValueButton& control, const FormParts& parts) {
+  auto* button = parts.of<QAbstractButton>(control);
   showWith(control, button,
            [&control, button] { button->setText(shownCaption(control.caption())); });
   QObject::connect(button, &QAbstractButton::clicked, button, [&control] { control.press(); });
 }
 
-void bind(Switch& control, QWidget& form) {
-  auto* button = findObject<QAbstractButton>(control, form);
+void bind(Switch& control, const FormParts& parts) {
+  auto* button = parts.of<QAbstractButton>(control);
   showWith(control, button, [&control, button] {
     button->setText(shownCaption(control.caption()));
     button->setChecked(control.value());
@@ -118,13 +110,13 @@ void bind(Switch& control, QWidget& form) {
   QObject::connect(button, &QAbstractButton::clicked, button, [&control] { control.press(); });
 }
 
-void bind(MenuEntry& control, QWidget& form) {
-  if (auto* menu = form.findChild<QMenu*>(toQt(control.objectName()))) {
+void bind(MenuEntry& control, const FormParts& parts) {
+  if (auto* menu = parts.find<QMenu>(control.objectName())) {
     showWith(control, menu->menuAction(),
              [&control, menu] { menu->setTitle(shownCaption(control.caption())); });
     return;
   }
-  auto* action = findObject<QAction>(control, form);
+  auto* action = parts.of<QAction>(control);
   showWith(control, action, [&control, action] {
     action->setText(shownCaption(control.caption()));
     action->setEnabled(control.enabled() && control.click);
@@ -138,8 +130,8 @@ void bind(MenuEntry& control, QWidget& form) {
   });
 }
 
-void bind(CheckBox& control, QWidget& form) {
-  auto* box = findObject<QCheckBox>(control, form);
+void bind(CheckBox& control, const FormParts& parts) {
+  auto* box = parts.of<QCheckBox>(control);
   showWith(control, box, [&control, box] {
     box->setText(shownCaption(control.caption()));
     box->setChecked(control.isChecked());
@@ -151,8 +143,8 @@ void bind(CheckBox& control, QWidget& form) {
   });
 }
 
-void bind(OptionButton& control, QWidget& form) {
-  auto* button = findObject<QRadioButton>(control, form);
+void bind(OptionButton& control, const FormParts& parts) {
+  auto* button = parts.of<QRadioButton>(control);
   showWith(control, button, [&control, button] {
     button->setText(shownCaption(control.caption()));
     showSelected(*button, control.value());
@@ -166,8 +158,8 @@ QStringList shownEntries(const std::vector<std::string>& entries) {
   return shown;
 }
 
-void bind(ComboBox& control, QWidget& form) {
-  auto* box = findObject<QComboBox>(control, form);
+void bind(ComboBox& control, const FormParts& parts) {
+  auto* box = parts.of<QComboBox>(control);
   showWith(control, box, [&control, box] {
     const QStringList items = shownEntries(control.items());
     QStringList shown;
@@ -202,8 +194,8 @@ void showNewest(QPlainTextEdit& log) {
   QTimer::singleShot(0, &log, &QPlainTextEdit::ensureCursorVisible);
 }
 
-void bind(TextBox& control, QWidget& form) {
-  if (auto* area = form.findChild<QPlainTextEdit*>(toQt(control.objectName()))) {
+void bind(TextBox& control, const FormParts& parts) {
+  if (auto* area = parts.find<QPlainTextEdit>(control.objectName())) {
     showWith(control, area, [&control, area] {
       const bool isLog = area->property("newest").toBool();
       const QString text = (isLog ? shownEnd : shownText)(control.text(), roomOfPage);
@@ -213,7 +205,7 @@ void bind(TextBox& control, QWidget& form) {
     new WholeTextCopy(*area);
     return;
   }
-  auto* line = findObject<QLineEdit>(control, form);
+  auto* line = parts.of<QLineEdit>(control);
   showWith(control, line, [&control, line] {
     if (line->text() != toQt(control.text()))
       line->setText(shownText(control.text(), roomOfEditor));
@@ -226,25 +218,25 @@ void bind(TextBox& control, QWidget& form) {
                    [&control] { control.pressKey(TextBox::enterKey); });
 }
 
-void bind(Lamp& control, QWidget& form) {
-  auto* lamp = findObject<LampWidget>(control, form);
+void bind(Lamp& control, const FormParts& parts) {
+  auto* lamp = parts.of<LampWidget>(control);
   showWith(control, lamp, [&control, lamp] { lamp->setColour(toQt(control.fillColour())); });
 }
 
-void bind(Progress& control, QWidget& form) {
-  auto* bar = findObject<QProgressBar>(control, form);
+void bind(Progress& control, const FormParts& parts) {
+  auto* bar = parts.of<QProgressBar>(control);
   showWith(control, bar, [&control, bar] { bar->setValue(control.percent()); });
 }
 
-void bind(Line& control, QWidget& form) {
-  auto* line = findObject<LineWidget>(control, form);
+void bind(Line& control, const FormParts& parts) {
+  auto* line = parts.of<LineWidget>(control);
   showWith(control, line, [&control, line] {
     line->setLine(toQt(control.borderColour()), control.borderStyle() == Line::dotted);
   });
 }
 
-void bind(Knob& control, QWidget& form) {
-  auto* knob = findObject<KnobWidget>(control, form);
+void bind(Knob& control, const FormParts& parts) {
+  auto* knob = parts.of<KnobWidget>(control);
   QStringList detents;
   for (const std::string& detent : control.detents()) detents << toQt(detent);
   knob->setDetents(detents);
@@ -253,9 +245,9 @@ void bind(Knob& control, QWidget& form) {
                    [&control](int detent) { control.turn(detent); });
 }
 
-void bind(Slide& control, QWidget& form) {
-  auto* slide = findObject<SlideWidget>(control, form);
-  auto* caption = form.findChild<QLabel*>(toQt(control.objectName() + "_caption"));
+void bind(Slide& control, const FormParts& parts) {
+  auto* slide = parts.of<SlideWidget>(control);
+  auto* caption = parts.find<QLabel>(control.objectName() + "_caption");
   slide->setRange(control.range().minimum, control.range().maximum, control.range().step);
   showWith(control, slide, [&control, slide, caption] {
     slide->setValue(control.value());
@@ -274,18 +266,18 @@ void bind(Slide& control, QWidget& form) {
   QObject::connect(slide, &SlideWidget::takenAway, slide, [&control] { control.takeAway(); });
 }
 
-void bind(Graph& control, QWidget& form) {
-  auto* view = findObject<GraphView>(control, form);
+void bind(Graph& control, const FormParts& parts) {
+  auto* view = parts.of<GraphView>(control);
   view->bind(control);
   // Empty of the controls that are hidden then, these would keep their share of the window.
   for (const char* holder : {"column", "command"})
-    if (auto* widget = form.findChild<QWidget*>(QLatin1String(holder)))
+    if (auto* widget = parts.find<QWidget>(holder))
       QObject::connect(view, &GraphView::enlarged, widget,
                        [widget](bool isEnlarged) { widget->setVisible(!isEnlarged); });
 }
 
-void bind(ListBox& control, QWidget& form) {
-  auto* list = findObject<QListWidget>(control, form);
+void bind(ListBox& control, const FormParts& parts) {
+  auto* list = parts.of<QListWidget>(control);
   showWith(control, list, [&control, list] {
     const QStringList items = shownEntries(control.items());
     QStringList shown;
@@ -332,8 +324,8 @@ void fillTree(QTreeWidget& tree, const std::vector<Tree::Node>& nodes) {
   }
 }
 
-void bind(Tree& control, QWidget& form) {
-  auto* tree = findObject<QTreeWidget>(control, form);
+void bind(Tree& control, const FormParts& parts) {
+  auto* tree = parts.of<QTreeWidget>(control);
   tree->setHeaderHidden(true);
   showWith(control, tree, [&control, tree] { fillTree(*tree, control.nodes()); });
   const auto choose = [&control, tree] {
@@ -345,8 +337,8 @@ void bind(Tree& control, QWidget& form) {
   onMoveByKey(tree, choose);
 }
 
-void bind(PictureBox& control, QWidget& form) {
-  auto* picture = findObject<PictureWidget>(control, form);
+void bind(PictureBox& control, const FormParts& parts) {
+  auto* picture = parts.of<PictureWidget>(control);
   showWith(control, picture, [&control, picture] { picture->setPicture(toQt(control.image())); });
   if (control.clicked) picture->setCursor(Qt::CrossCursor);
   QObject::connect(picture, &PictureWidget::clicked, picture,
@@ -354,18 +346,18 @@ void bind(PictureBox& control, QWidget& form) {
 }
 
 template <class... Kinds>
-bool bindAsOneOf(Control& control, QWidget& form) {
+bool bindAsOneOf(Control& control, const FormParts& parts) {
   const auto bindAs = [&](auto* kind) {
-    if (kind != nullptr) bind(*kind, form);
+    if (kind != nullptr) bind(*kind, parts);
     return kind != nullptr;
   };
   return (bindAs(dynamic_cast<Kinds*>(&control)) || ...);
 }
 
-void bindControl(Control& control, QWidget& form) {
+void bindControl(Control& control, const FormParts& parts) {
   const bool isBound = bindAsOneOf<Label, ValueLabel, Frame, Button, ValueButton, Switch, MenuEntry,
                                    CheckBox, OptionButton, ComboBox, TextBox, Line, Lamp, Progress,
-                                   Knob, Slide, ListBox, Tree, PictureBox, Graph>(control, form);
+                                   Knob, Slide, ListBox, Tree, PictureBox, Graph>(control, parts);
   if (!isBound)
     throw Error(invalidProcedureCall, "Tracewell",
                 "Nothing shows a control of the kind of " + control.objectName());
@@ -376,7 +368,8 @@ void bindControl(Control& control, QWidget& form) {
 /// The form does not outlive an error, and the controls must not know it then.
 void bindControls(Window& window, QWidget& form) {
   try {
-    for (Control* control : window.controls()) bindControl(*control, form);
+    const FormParts parts(form);
+    for (Control* control : window.controls()) bindControl(*control, parts);
   } catch (...) {
     unbindControls(window);
     throw;

@@ -41,7 +41,7 @@ int ElidedLabel::neededWidth() const {
 
 /// By the longest result and the narrowest column, so that all cells look the same.
 QFont ElidedLabel::fontThatFits() const {
-  if (text().isEmpty() || !property("cell").toBool()) return font();
+  if (text().isEmpty() || property("kind").toString() != QLatin1String("cell")) return font();
   static const QString longest = QStringLiteral("Duty Cycle(2): 50.00 %");
   constexpr int leastStretch = 65;
   int room = contentsRect().width();
@@ -99,8 +99,15 @@ void ElidedLabel::paintEvent(QPaintEvent*) {
   }
 }
 
-/// The whole text, where it is not to be seen.
+/// The whole text, where it is not to be seen. The size of its letters, before it is asked for its
+/// own: letters of another size would be loaded for that.
 bool ElidedLabel::event(QEvent* event) {
+  if (event->type() == QEvent::DynamicPropertyChange &&
+      static_cast<QDynamicPropertyChangeEvent*>(event)->propertyName() == "pixels") {
+    QFont letters = font();
+    letters.setPixelSize(property("pixels").toInt());
+    setFont(letters);
+  }
   if (event->type() != QEvent::ToolTip || !isCut()) return QLabel::event(event);
   QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text(), this);
   return true;

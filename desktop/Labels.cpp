@@ -19,6 +19,10 @@ void tellLamp(const ValueLabel& control, const QLabel& label, const QWidget& for
   if (lamp != nullptr) lamp->setState(shownText(control.caption(), roomOfLine));
 }
 
+bool isOfKind(const QLabel& label, const char* kind) {
+  return label.property("kind").toString() == QLatin1String(kind);
+}
+
 /// Those that look alike are told apart by the label in front of them.
 void tellExplained(const QLabel& label, const QWidget& form) {
   for (const QString& name : label.property("explains").toString().split(QLatin1Char(' ')))
@@ -38,10 +42,9 @@ std::vector<ElidedLabel::Sentence> shownSentences(const ValueLabel& control) {
 
 int widestOf(const QLabel& label) {
   const int em = pixelsOf(label);
-  const auto is = [&label](const char* kind) { return label.property(kind).toBool(); };
   if (qobject_cast<const ElidedLabel*>(&label) != nullptr) return QWIDGETSIZE_MAX;
-  if (is("state")) return 35 * em;
-  return (is("age") ? 45 : 25) * em;
+  if (isOfKind(label, "state")) return 35 * em;
+  return (isOfKind(label, "age") ? 45 : 25) * em;
 }
 
 void showValue(const ValueLabel& control, QLabel& label, const QWidget& form) {
@@ -51,8 +54,7 @@ void showValue(const ValueLabel& control, QLabel& label, const QWidget& form) {
   tellLamp(control, label, form);
   if (label.property("explains").isValid()) tellExplained(label, form);
   auto* line = qobject_cast<ElidedLabel*>(&label);
-  if (line != nullptr && label.property("status").toBool())
-    line->setSentences(shownSentences(control));
+  if (line != nullptr && isOfKind(label, "status")) line->setSentences(shownSentences(control));
 }
 
 }  // namespace tracewell

@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "PanelStyle.h"
 
+#include <QApplication>
+#include <QComboBox>
+#include <QCommonStyle>
+#include <QEvent>
+#include <QIconEngine>
 #include <QPainter>
 #include <QStyleOption>
 
@@ -36,13 +41,56 @@ void dot(QPainter& painter, const QStyleOption& option) {
   painter.restore();
 }
 
+/// Fusion draws a button of a size and a palette once; but each widget has a palette of its own,
+/// even one like all others.
+QStyleOptionButton inSharedPalette(QStyleOptionButton button) {
+  QPalette shared = QApplication::palette();
+  shared.setCurrentColorGroup(button.palette.currentColorGroup());
+  if (button.palette == shared) button.palette = shared;
+  return button;
+}
+
+/// For the entries of a menu bar that there is no room for. It is read when it is painted first.
+class ExtensionIcon : public QIconEngine {
+ public:
+  void paint(QPainter* painter, const QRect& place, QIcon::Mode mode, QIcon::State state) override {
+    read().paint(painter, place, Qt::AlignCenter, mode, state);
+  }
+  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+    return read().pixmap(size, 1, mode, state);
+  }
+  QIconEngine* clone() const override { return new ExtensionIcon; }
+
+ private:
+  static QIcon read() {
+    return QCommonStyle().standardIcon(QStyle::SP_ToolBarHorizontalExtensionButton);
+  }
+};
+
 }  // namespace
 
 PanelStyle::PanelStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
 
+void PanelStyle::polish(QApplication* application) {
+  QProxyStyle::polish(application);
+  application->installEventFilter(this);
+}
+
+/// A box that is told of its style before it is styled would make the list that it opens.
+bool PanelStyle::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() != QEvent::StyleChange) return false;
+  const auto* box = qobject_cast<QComboBox*>(watched);
+  return box != nullptr && !box->testAttribute(Qt::WA_WState_Polished);
+}
+
 void PanelStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                                QPainter* painter, const QWidget* widget) const {
-  QProxyStyle::drawPrimitive(element, option, painter, widget);
+  if (const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option)) {
+    const QStyleOptionButton shared = inSharedPalette(*button);
+    QProxyStyle::drawPrimitive(element, &shared, painter, widget);
+  } else {
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+  }
   const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
   const bool hasFrame = frame == nullptr || frame->lineWidth > 0;
   switch (element) {
@@ -70,6 +118,12 @@ int PanelStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWid
                           QStyleHintReturn* more) const {
   if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
   return QProxyStyle::styleHint(hint, option, widget, more);
+}
+
+QIcon PanelStyle::standardIcon(StandardPixmap which, const QStyleOption* option,
+                               const QWidget* widget) const {
+  if (which == SP_ToolBarHorizontalExtensionButton) return QIcon(new ExtensionIcon);
+  return QProxyStyle::standardIcon(which, option, widget);
 }
 
 void PanelStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,

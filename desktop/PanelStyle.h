@@ -12,6 +12,9 @@ class PanelStyle : public QProxyStyle {
 
  public:
   PanelStyle();
+  using QProxyStyle::polish;
+  void polish(QApplication* application) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override;
@@ -20,6 +23,8 @@ class PanelStyle : public QProxyStyle {
   /// Buttons of message boxes have no icons, like all other buttons.
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                 QStyleHintReturn* more) const override;
+  QIcon standardIcon(StandardPixmap which, const QStyleOption* option,
+                     const QWidget* widget) const override;
   void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                    const QWidget* widget) const override;
 };

@@ -56,7 +56,7 @@ class ReplyBox::Rows : public QPlainTextDocumentLayout {
     const qreal width = box_.viewport()->width() - 2 * margin;
     const QString text = block.text();
     const bool hasNumbers = isOfNumbers(text);
-    const int columns = columnsOf(width);
+    const int columns = hasNumbers ? columnsOf(width) : 0;
     QTextOption option = document()->defaultTextOption();
     if (hasNumbers) option.setWrapMode(QTextOption::WrapAnywhere);
     QTextLayout& rows = *block.layout();
@@ -81,7 +81,7 @@ class ReplyBox::Rows : public QPlainTextDocumentLayout {
 
   /// Numbers with commas between them are one word to the toolkit, which breaks it anywhere.
   static bool isOfNumbers(const QString& text) {
-    return std::ranges::all_of(text, [](QChar character) {
+    return !text.isEmpty() && std::ranges::all_of(text, [](QChar character) {
       return (character >= '0' && character <= '9') || character == ',' || character == '-';
     });
   }
@@ -126,6 +126,8 @@ ReplyBox::ReplyBox(QWidget* parent) : QPlainTextEdit(parent) {
   // same.
   QFont plain = font();
   plain.setStyleStrategy(QFont::PreferNoShaping);
+  // The style sheet's, or those of the panel would be loaded first, too.
+  plain.setFamilies({QStringLiteral("monospace")});
   setFont(plain);
 }
 

@@ -40,10 +40,9 @@ void setPixels(const std::vector<QWidget*>& widgets, int pixels, int usual) {
   }
 }
 
-/// Written on, and without a size of its own. The graph sees to its parts itself.
+/// Written on. The graph sees to its parts itself.
 bool growsSlowly(QWidget& widget) {
   const auto is = [&widget](auto... kinds) { return (widget.inherits(kinds) || ...); };
-  if (widget.property("pixels").toInt() > 0) return false;
   if (widget.parentWidget()->inherits("tracewell::GraphView")) return false;
   return is("QAbstractButton", "QGroupBox", "QLabel", "QComboBox", "QLineEdit",
             "tracewell::KnobWidget", "tracewell::SlideWidget");
@@ -62,8 +61,11 @@ TextGrowth::TextGrowth(QWidget& form)
       column_(form.findChild<QWidget*>(QStringLiteral("column"))) {
   for (QWidget* widget : form.findChildren<QWidget*>()) {
     const int pixels = widget->property("pixels").toInt();
-    const QVariant most = widget->property("mostPixels");
-    if (pixels > 0) texts_.push_back({widget, pixels, most.isValid() ? most.toInt() : INT_MAX});
+    if (pixels > 0) {
+      const QVariant most = widget->property("mostPixels");
+      texts_.push_back({widget, pixels, most.isValid() ? most.toInt() : INT_MAX});
+      continue;
+    }
     if (central_ == nullptr || !central_->isAncestorOf(widget) || !growsSlowly(*widget)) continue;
     const bool isInColumn = column_ != nullptr && column_->isAncestorOf(widget);
     (isInColumn ? inColumn_ : beside_).push_back(widget);

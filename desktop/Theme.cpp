@@ -72,13 +72,25 @@ QPalette paletteOf(const Colours& colours) {
   return palette;
 }
 
+QByteArray resource(const QString& name) {
+  QFile file(QStringLiteral(":/") + name);
+  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
 QString styleSheet(const QStringList& names) {
   QString sheet;
-  for (const QString& name : names) {
-    QFile file(QStringLiteral(":/%1.css").arg(name));
-    if (file.open(QIODevice::ReadOnly)) sheet += QString::fromUtf8(file.readAll());
-  }
+  for (const QString& name : names)
+    sheet += QString::fromUtf8(resource(name + QLatin1String(".css")));
   return sheet;
+}
+
+/// Its points one behind the other: to read a picture file of any format the toolkit loads its
+/// readers of all.
+QPixmap windowIcon() {
+  constexpr int side = 64;
+  const QByteArray points = resource(QStringLiteral("window-icon.rgba"));
+  return QPixmap::fromImage(QImage(reinterpret_cast<const uchar*>(points.constData()), side, side,
+                                   QImage::Format_RGBA8888));
 }
 
 const Colours& coloursOf(Theme theme) {
@@ -123,8 +135,7 @@ void applyTheme(QApplication& application, Theme chosen, const QPalette& desktop
 
 void applyTheme(QApplication& application, Theme chosen) {
   static const QPalette desktop = QApplication::palette();
-  // With the format named, the toolkit does not load its readers of all others.
-  QApplication::setWindowIcon(QPixmap(QStringLiteral(":/window-icon.png"), "PNG"));
+  QApplication::setWindowIcon(windowIcon());
   applyTheme(application, chosen, desktop);
 }
 

@@ -14,7 +14,7 @@ enum class Theme { system, light, dark, highContrast };
 Theme themeOf(const QPalette& desktop);
 
 /// Sets palette and style sheet of the whole program, at any time. Forms mark their parts with
-/// dynamic properties ("channel", "readout", ...) that the style sheets refer to. `system` takes
+/// dynamic properties ("kind", "channel") that the style sheets refer to. `system` takes
 /// the colours of a high-contrast desktop as they are.
 void applyTheme(QApplication& application, Theme chosen, const QPalette& desktop);
 

@@ -81,7 +81,7 @@ RecorderTables::RecorderTables(RecorderView& view, QWidget* parent)
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(4);
   title_->setObjectName(QStringLiteral("title"));
-  title_->setProperty("heading", true);
+  title_->setProperty("kind", "heading");
   details_->setObjectName(QStringLiteral("details"));
   for (QLabel* label : {title_, details_, statisticsTitle_}) label->setWordWrap(true);
   column->addWidget(title_);

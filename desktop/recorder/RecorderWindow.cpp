@@ -79,7 +79,7 @@ void RecorderWindow::layOut() {
   auto* const states = new QHBoxLayout;
   states->addWidget(status_, 1);
   states->addWidget(logState_, 1);
-  for (ElidedLabel* label : {status_, logState_}) label->setProperty("status", true);
+  for (ElidedLabel* label : {status_, logState_}) label->setProperty("kind", "status");
   status_->setObjectName(QStringLiteral("recorderStatus"));
   // Each has the whole line while the other one is silent.
   states->addStrut(status_->sizeHint().height());
