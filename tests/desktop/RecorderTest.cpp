@@ -16,6 +16,7 @@
 #include "Bench.h"
 #include "DesktopProgram.h"
 #include "DesktopRecorder.h"
+#include "Drawn.h"
 #include "MainFormTest.h"
 #include "QtValues.h"
 #include "RecorderGraph.h"
@@ -208,6 +209,10 @@ TEST_F(RecorderWindowTest, FitsASmallScreenInEveryLanguage) {
     texts << window->windowTitle().section(QLatin1Char(' '), 0, 0);
     return texts.filter(QRegularExpression(QStringLiteral("[a-z]{3}")));
   };
+  window->resize(1180, 760);
+  find<QPushButton>("log").setChecked(true);
+  QApplication::processEvents();
+  expectDrawn(*window, "recorder");
   const QStringList english = said();
   for (int language = 1; language <= 5; ++language) {
     desktop.program.languageMenu.mnbLA_Click(static_cast<std::int16_t>(language));
