@@ -76,6 +76,8 @@ class Page {
       QTest::keyClicks(&widget_, how);
     } else if (verb == QLatin1String("click")) {
       QTest::mouseClick(&widget_, Qt::LeftButton, with, place);
+    } else if (verb == QLatin1String("hover")) {
+      QTest::mouseMove(&widget_, place);
     } else if (verb == QLatin1String("double-click")) {
       QTest::mouseDClick(&widget_, Qt::LeftButton, with, place);
     } else if (verb == QLatin1String("drag")) {

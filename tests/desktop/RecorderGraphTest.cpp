@@ -211,7 +211,6 @@ TEST_F(RecorderGraphTest, PeaksAreNumberedAndListed) {
 TEST_F(RecorderGraphTest, CursorsStandAtTheirSharesAndAreMovedByMouseAndKeys) {
   cursors.acrossAt = cursors.upAt = {0.3, 0.6};
   picture.y[0] = {"V", -2, 2, 0.5};
-  const QColor colour = RecorderLook::cursor;
   QSignalSpy moved(&graph, &RecorderGraph::cursorMoved);
   QSignalSpy left(&graph, &RecorderGraph::keyLeft);
   const auto expectMoved = [&](std::size_t cursor, double share, double tolerance = 1e-9) {

@@ -108,7 +108,8 @@ TEST_F(RecorderPartsTest, TablesSayWhatIsMeasured) {
     if (const auto* label = tables.findChild<QLabel*>(name))
       return label->text().replace('\n', '/');
     const auto& table = *tables.findChild<QTableWidget*>(name);
-    if (asked == name) return QStringLiteral("%1 rows").arg(table.rowCount());
+    if (asked == name)
+      return QStringLiteral("%1 rows of %2").arg(table.rowCount()).arg(table.rowHeight(0));
     const int row = asked.mid(name.size() + 1).toInt() - 1;
     QStringList cells;
     for (int column = 0; column < table.columnCount(); ++column) {
