@@ -146,6 +146,11 @@ TEST_F(KnobLookTest, ItsPartsHaveTheirPlaces) {
     expectDrawn(knob, "knob " + std::to_string(size.width()));
   }
   knob.resize(200, 180);
+  knob.setDetents({QStringLiteral("off"), QStringLiteral("on")});
+  knob.setValue(1);
+  expectDrawn(knob, "knob of two");
+  knob.setDetents(scales);
+  knob.setValue(5);
   focus(knob);
   expectDrawn(knob, "knob in the hand", [&](const QString&) { return knob.inWords(); });
 }

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <QCheckBox>
+#include <QComboBox>
 #include <QSignalSpy>
 #include <QTableWidget>
 #include <QTest>
@@ -7,8 +9,10 @@
 #include "Drawn.h"
 #include "QtValues.h"
 #include "RecordStrip.h"
+#include "RecorderBar.h"
 #include "RecorderTables.h"
 #include "Regions.h"
+#include "Theme.h"
 
 namespace tracewell {
 namespace {
@@ -24,6 +28,7 @@ const RecorderLook stripLook = {Qt::black, QColor(0, 120, 0), {Qt::red, Qt::blue
 /// What is made of records of its own.
 class RecorderPartsTest : public testing::Test {
  protected:
+  RecorderPartsTest() { applyTheme(*qApp, Theme::light); }
   /// Another sweep than those before.
   RecordStore::Number keep(int channel, int lowest, int highest, std::int64_t pause = 1200) {
     const auto before = store.end();
@@ -46,6 +51,7 @@ class RecordStripTest : public RecorderPartsTest {
   RecordStripTest() {
     strip.setLook(stripLook);
     strip.setFont(letters());
+    strip.setPalette(plainColours());
     strip.resize(1000, 140);
   }
   int columnOf(RecordStore::Number number) const { return view.timeline.columnOf(number, 1000); }
@@ -142,6 +148,47 @@ TEST_F(RecorderPartsTest, TablesSayWhatIsMeasured) {
   EXPECT_EQ(table.currentItem(), table.item(0, 0));
   view.show(2);
   expect("tables of the other channel");
+}
+
+TEST_F(RecorderPartsTest, BarHasWhatBelongsToWhatIsDrawn) {
+  RecorderCursors cursors;
+  RecorderBar bar(view, cursors, nullptr);
+  QSignalSpy chosen(&bar, &RecorderBar::chosen);
+  // What there is then, in brackets what is out of reach; and what has been chosen.
+  expectDrawn(bar, "recorder bar", [&](const QString& asked) {
+    const QString name = asked.section(QLatin1Char('='), 0, 0);
+    if (auto* box = bar.findChild<QComboBox*>(name))
+      box->setCurrentIndex(asked.section(QLatin1Char('='), 1).toInt());
+    else
+      bar.findChild<QCheckBox*>(name)->click();
+    QStringList said;
+    for (const QWidget* part : bar.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+      EXPECT_FALSE(part->toolTip().isEmpty());
+      if (!part->isVisibleTo(&bar)) continue;
+      const auto* const box = qobject_cast<const QComboBox*>(part);
+      EXPECT_TRUE(box == nullptr || !part->accessibleName().isEmpty());
+      const QString text = box != nullptr ? box->currentText() : part->property("text").toString();
+      said << (part->isEnabled() ? text : "(" + text + ")");
+    }
+    const RecorderChoice& choice = view.choice;
+    const auto numbers =
+        QStringLiteral(
+            "follows %1, channel %2, mode %3, behind %4, fading %5, envelope %6, mean %7, "
+            "window %8, decibels %9, cursors %10, said %11 times")
+            .arg(view.isFollowing())
+            .arg(view.channel())
+            .arg(static_cast<int>(choice.mode))
+            .arg(choice.behind)
+            .arg(choice.isFading)
+            .arg(choice.hasEnvelope)
+            .arg(choice.hasMean)
+            .arg(static_cast<int>(choice.window))
+            .arg(choice.isInDecibels)
+            .arg(cursors.kind)
+            .arg(chosen.size());
+    chosen.clear();
+    return said.join(", ") + "; " + numbers;
+  });
 }
 
 }  // namespace

@@ -97,7 +97,7 @@ TEST_F(RecorderWindowTest, KeepsFollowsStepsPinsShowsLogsAndExports) {
   EXPECT_EQ(find<QComboBox>("pins").currentIndex(), 1);
   EXPECT_EQ(find<QComboBox>("pins").itemText(0), QStringLiteral("Pinned: 1"));
   EXPECT_EQ(pinSays("other"), "Rename");
-  find<QPushButton>("pin").click();
+  QTest::keyClick(&find<QWidget>("pinName"), Qt::Key_Return);
   EXPECT_EQ(store.pinned().at(0).second, "other");
   EXPECT_EQ(pinSays(""), "Let go");
   find<QPushButton>("pin").click();
@@ -209,6 +209,8 @@ TEST_F(RecorderWindowTest, FitsASmallScreenInEveryLanguage) {
     texts << window->windowTitle().section(QLatin1Char(' '), 0, 0);
     return texts.filter(QRegularExpression(QStringLiteral("[a-z]{3}")));
   };
+  EXPECT_EQ(window->size().boundedTo({1180, 760}), window->size());
+  expectDrawn(*window, "recorder at first");
   window->resize(1180, 760);
   find<QPushButton>("log").setChecked(true);
   QApplication::processEvents();
