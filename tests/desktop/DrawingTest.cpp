@@ -176,6 +176,32 @@ TEST_F(DrawingTest, MarksHaveTheirPlaces) {
   }
 }
 
+TEST_F(DrawingTest, CursorsFollowTheMouseAndTheArrowKeys) {
+  // Where they are and what they are, and the shape of the pointer.
+  const auto told = [this](const QString&) {
+    QStringList said;
+    for (const char* name : {"cur1", "cur2", "Triger"})
+      said << QStringLiteral("%1,%2")
+                  .arg(graph.cursor(name).xPosition())
+                  .arg(graph.cursor(name).yPosition());
+    if (graph.enlarged()) said << QStringLiteral("enlarged");
+    const std::map<Qt::CursorShape, const char*> shapes = {
+        {Qt::CrossCursor, "cross"}, {Qt::SplitHCursor, "across"}, {Qt::SplitVCursor, "up"}};
+    const auto shape = shapes.find(area.cursor().shape());
+    return (said << (shape == shapes.end() ? "" : shape->second)).join(QLatin1Char(' '));
+  };
+  main.knobTime.turn(18);
+  place("Triger", CursorStyle::marker, -100);
+  for (auto* const option : {&main.opTime, &main.opVoltage}) {
+    option->select();
+    QTest::qWait(1);
+    const std::string which = option == &main.opTime ? "upright" : "level";
+    expectDrawn(view, "keys and cursors " + which, told);
+    expectDrawn(area, "mouse and cursors " + which, told);
+  }
+  EXPECT_TRUE(graph.axis("XAxis").caption().starts_with("P1 = "));
+}
+
 TEST_F(DrawingTest, PlotHasAStripAboveAndALineBelow) {
   for (Axis& axis : graph.axes()) axis.gridColour = fromQt(QColor(0, 100, 0));
   graph.axis("XAxis").caption = "WWWW";

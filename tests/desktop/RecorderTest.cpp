@@ -168,6 +168,18 @@ TEST_F(RecorderWindowTest, KeepsFollowsStepsPinsShowsLogsAndExports) {
   Lines logged;
   for (const QAction* entry : bar.findChild<QMenu*>()->actions())
     if (entry->isChecked()) logged.push_back(fromQt(entry->text()));
+  // The list stays open for the next tick.
+  auto& list = *bar.findChild<QMenu*>();
+  list.popup({});
+  const QList<QAction*> ticks = list.actions();
+  list.setActiveAction(ticks[0]);
+  QTest::keyClick(&list, Qt::Key_Space);
+  QTest::mouseClick(&list, Qt::LeftButton, {}, list.actionGeometry(ticks[1]).center());
+  EXPECT_TRUE(list.isVisible() && ticks[0]->isChecked() && ticks[1]->isChecked());
+  QTest::keyClick(&list, Qt::Key_Escape);
+  EXPECT_FALSE(list.isVisible());
+  window->activateWindow();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(window));
   EXPECT_EQ(logged, (Lines{"Peak to peak  (vpp)", "RMS  (rms)", "Frequency  (freq)"}));
   for (const char* limits : {"vpp > 1 V; high", "; vpp > 9 V ;"}) {
     find<QLineEdit>("logLimits").setText(QLatin1String(limits));
