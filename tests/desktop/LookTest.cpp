@@ -146,6 +146,11 @@ TEST_F(KnobLookTest, ItsPartsHaveTheirPlaces) {
     expectDrawn(knob, "knob " + std::to_string(size.width()));
   }
   knob.resize(200, 180);
+  QPalette colours = plainColours();
+  colours.setColor(QPalette::Button, QColor(0, 100, 100));
+  knob.setPalette(colours);
+  expectDrawn(knob, "cap of a knob");
+  knob.setPalette(plainColours());
   knob.setDetents({QStringLiteral("off"), QStringLiteral("on")});
   knob.setValue(1);
   expectDrawn(knob, "knob of two");
