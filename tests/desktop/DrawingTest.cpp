@@ -102,10 +102,18 @@ TEST_F(DrawingTest, TracesLieWhereTheirPointsAre) {
   marks.banner = {"No record", false};
   expect(area, "old traces");
   QLabel picture;
-  picture.setPixmap(view.picture());
-  picture.resize(502, 402);
   picture.setAlignment(Qt::AlignTop);
-  expect(picture, "picture of old traces");
+  const auto expectPicture = [&](const char* section) {
+    picture.setPixmap(view.picture());
+    picture.resize(picture.pixmap().size());
+    expect(picture, section);
+  };
+  expectPicture("picture of old traces");
+  for (Plot& plot : graph.plots()) plot.pointStyle = Plot::noPoints;
+  for (Axis& axis : graph.axes()) axis.gridColour = fromQt(QColor(0, 100, 0));
+  place("cur1", CursorStyle::horizontalLine, 100);
+  view.resize(2402, view.height());
+  expectPicture("large picture");
 }
 
 TEST_F(DrawingTest, MarksHaveTheirPlaces) {
