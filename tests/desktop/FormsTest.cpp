@@ -85,6 +85,10 @@ TEST_F(FormsTest, WhatTheProgramSetsIsShown) {
   main.cbCh2.value.setQuietly(1);
   EXPECT_EQ(find<QLabel>("lblConnect")->text(), QStringLiteral("Stopped & idle"));
   EXPECT_TRUE(find<QAbstractButton>("cbCh2")->isChecked());
+  int presses = 0;
+  main.cmdNewErrors.click = [&presses] { ++presses; };
+  find<QAbstractButton>("cmdNewErrors")->click();
+  EXPECT_EQ(presses, 1);
   const auto look = [this](bool isWarning) {
     main.lblStatus.sentences = {{"told", isWarning}};
     main.lblStatus.notifyChanged();

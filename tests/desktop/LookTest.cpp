@@ -18,6 +18,7 @@
 #include "ElidedLabel.h"
 #include "KnobWidget.h"
 #include "LampWidget.h"
+#include "LineWidget.h"
 #include "Regions.h"
 #include "SlideWidget.h"
 #include "Theme.h"
@@ -252,7 +253,11 @@ TEST_F(LookTest, SignsStandOnButtonsAndLamps) {
   LampWidget lamp(&window);
   lamp.setGeometry(120, 0, 50, 40);
   lamp.setColour(QColor(0, 160, 0));
+  LineWidget line(&window);
+  line.setGeometry(180, 0, 100, 40);
+  line.setLine(Qt::yellow, false);
   expectDrawn(window, "signs");
+  line.setLine(Qt::yellow, true);
   sign.setPalette(QPalette(Qt::red, Qt::black));
   expectDrawn(window, "signs in another colour");
 }
