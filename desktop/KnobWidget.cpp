@@ -264,7 +264,6 @@ void KnobWidget::mouseMoveEvent(QMouseEvent* event) {
 
 void KnobWidget::wheelEvent(QWheelEvent* event) {
   if (const int steps = wheel_.notches(*event); steps != 0) turnTo(value_ + steps);
-  event->accept();
 }
 
 void KnobWidget::setTyped(const QString& typed) {

@@ -186,7 +186,6 @@ void SlideWidget::mouseDoubleClickEvent(QMouseEvent* event) {
 
 void SlideWidget::wheelEvent(QWheelEvent* event) {
   if (const int steps = wheel_.notches(*event); steps != 0) stepTo(value_ + steps * step_);
-  event->accept();
 }
 
 void SlideWidget::keyPressEvent(QKeyEvent* event) {

@@ -188,7 +188,6 @@ void RecordStrip::wheelEvent(QWheelEvent* event) {
   } else {
     zoomBy(std::pow(zoomStep, turned.y() / notch), event->position().x() / std::max(width(), 1));
   }
-  event->accept();
 }
 
 bool RecordStrip::stepBy(const QKeyEvent& event) {

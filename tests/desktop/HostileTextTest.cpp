@@ -239,6 +239,13 @@ TEST(ShownText, WhatIsLeftOfATextWhereThereIsLittleRoom) {
   EXPECT_EQ(fromQt(shownEnd("aa\nbb\ncc\n", {6, 9})), "…\ncc\n");
   EXPECT_EQ(fromQt(shownCaption("a & b")), "a && b");
   EXPECT_EQ(fromQt(shownTitle("a[*]")), "a[*][*]");
+  // A word that no paragraph has room for may be broken.
+  QLabel label;
+  label.setWordWrap(true);
+  showInLabel(label, std::string(130, 'w') + " " + std::string(50, 'w') + "/" + "wwwwwwwwww", 0);
+  QList<qsizetype> parts;
+  for (const QString& part : label.text().split(QChar(0x200B))) parts << part.size();
+  EXPECT_EQ(parts, (QList<qsizetype>{60, 60, 72}));
   // Also where a character of two units stands across the limit of a line.
   for (const std::string edge : {"x", "\U0001F600"}) {
     const std::string line = std::string(4999, 'x') + edge;

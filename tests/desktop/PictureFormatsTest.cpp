@@ -6,8 +6,11 @@
 #include <QImageWriter>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <QWidget>
 
 #include "Doubles.h"
+#include "Drawn.h"
+#include "PictureGuard.h"
 #include "Pictures.h"
 #include "QtValues.h"
 
@@ -221,6 +224,46 @@ TEST(PictureFormatsTest, TagsOfATiffAndLinesOfAPcxHaveMeasure) {
   expectCheap([&] { EXPECT_EQ(loadPicture(toPath(path)).height, 2000); });
   expectRefused(path, sized(4000, 2001, 3), "Lines too long");
   expectRefused(path, sized(65534, 2000, 4), "Lines too long");
+}
+
+/// A TIFF of many tags with the value 1.
+std::string tiffOf(int first, int last, bool isBigEndian) {
+  const auto number = [&](int of, int size) {
+    const std::string bytes = bigEndian(static_cast<quint32>(of)).right(size).toStdString();
+    return isBigEndian ? bytes : std::string(bytes.rbegin(), bytes.rend());
+  };
+  std::string file = (isBigEndian ? "MM" : "II") + number(42, 2) + number(8, 4);
+  file += number(last - first + 1, 2);
+  for (int tag = first; tag <= last; ++tag)
+    file += number(tag, 2) + number(3, 2) + number(1, 4) + number(1, 2) + number(0, 2);
+  return file + number(99, 4);
+}
+
+TEST(PictureFormatsTest, OfAFileTheLibraryGetsWhatMakesThePicture) {
+  QWidget none;
+  expectDrawn(none, "pictures", [](const QString& asked) {
+    const bool isTiff = asked.endsWith(QLatin1String("tags"));
+    const std::string file = isTiff ? tiffOf(250, 540, asked.startsWith('M'))
+                                    : QByteArray::fromHex(asked.toLatin1()).toStdString();
+    try {
+      const auto [format, kept] = guardedPicture(file);
+      QStringList said{format.empty() ? QStringLiteral("unknown") : toQt(format)};
+      if (isTiff) {
+        const auto word = [&](std::size_t at) {
+          const int one = uchar(kept[at]), two = uchar(kept[at + 1]);
+          return asked.startsWith('M') ? one * 256 + two : two * 256 + one;
+        };
+        for (int i = 0; i < word(8); ++i)
+          said << QString::number(word(10 + 12 * static_cast<std::size_t>(i)));
+        said << QString::number(word(10 + 12 * static_cast<std::size_t>(word(8))));
+      } else {
+        said << (kept == file ? "all" : QString(QByteArray::fromStdString(kept).toHex().toUpper()));
+      }
+      return said.join(' ');
+    } catch (const std::runtime_error& refusal) {
+      return QString(refusal.what());
+    }
+  });
 }
 
 /// What could not be read again.

@@ -16,6 +16,7 @@
 #include "Bench.h"
 #include "DesktopProgram.h"
 #include "DesktopRecorder.h"
+#include "Drawn.h"
 #include "MainFormTest.h"
 #include "QtValues.h"
 #include "RecorderGraph.h"
@@ -96,7 +97,7 @@ TEST_F(RecorderWindowTest, KeepsFollowsStepsPinsShowsLogsAndExports) {
   EXPECT_EQ(find<QComboBox>("pins").currentIndex(), 1);
   EXPECT_EQ(find<QComboBox>("pins").itemText(0), QStringLiteral("Pinned: 1"));
   EXPECT_EQ(pinSays("other"), "Rename");
-  find<QPushButton>("pin").click();
+  QTest::keyClick(&find<QWidget>("pinName"), Qt::Key_Return);
   EXPECT_EQ(store.pinned().at(0).second, "other");
   EXPECT_EQ(pinSays(""), "Let go");
   find<QPushButton>("pin").click();
@@ -167,6 +168,18 @@ TEST_F(RecorderWindowTest, KeepsFollowsStepsPinsShowsLogsAndExports) {
   Lines logged;
   for (const QAction* entry : bar.findChild<QMenu*>()->actions())
     if (entry->isChecked()) logged.push_back(fromQt(entry->text()));
+  // The list stays open for the next tick.
+  auto& list = *bar.findChild<QMenu*>();
+  list.popup({});
+  const QList<QAction*> ticks = list.actions();
+  list.setActiveAction(ticks[0]);
+  QTest::keyClick(&list, Qt::Key_Space);
+  QTest::mouseClick(&list, Qt::LeftButton, {}, list.actionGeometry(ticks[1]).center());
+  EXPECT_TRUE(list.isVisible() && ticks[0]->isChecked() && ticks[1]->isChecked());
+  QTest::keyClick(&list, Qt::Key_Escape);
+  EXPECT_FALSE(list.isVisible());
+  window->activateWindow();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(window));
   EXPECT_EQ(logged, (Lines{"Peak to peak  (vpp)", "RMS  (rms)", "Frequency  (freq)"}));
   for (const char* limits : {"vpp > 1 V; high", "; vpp > 9 V ;"}) {
     find<QLineEdit>("logLimits").setText(QLatin1String(limits));
@@ -208,6 +221,12 @@ TEST_F(RecorderWindowTest, FitsASmallScreenInEveryLanguage) {
     texts << window->windowTitle().section(QLatin1Char(' '), 0, 0);
     return texts.filter(QRegularExpression(QStringLiteral("[a-z]{3}")));
   };
+  EXPECT_EQ(window->size().boundedTo({1180, 760}), window->size());
+  expectDrawn(*window, "recorder at first");
+  window->resize(1180, 760);
+  find<QPushButton>("log").setChecked(true);
+  QApplication::processEvents();
+  expectDrawn(*window, "recorder");
   const QStringList english = said();
   for (int language = 1; language <= 5; ++language) {
     desktop.program.languageMenu.mnbLA_Click(static_cast<std::int16_t>(language));

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QTranslator>
 
 #include "ShownText.h"
 #include "Theme.h"
@@ -15,10 +16,33 @@ extern "C" const char* __lsan_default_suppressions() {
 }
 #endif
 
+namespace tracewell {
+namespace {
+
+/// There is a translation of whatever is said on the panel.
+class KnownTexts : public QTranslator {
+ public:
+  bool isEmpty() const override { return false; }
+  QString translate(const char* context, const char* text, const char*, int) const override {
+    const bool isOfPanel = std::string_view(context) == "Panel";
+    EXPECT_TRUE(!isOfPanel || !french_.translate(context, text).isEmpty()) << text;
+    return {};
+  }
+
+ private:
+  QTranslator french_;
+  const bool isThere_ = french_.load(QStringLiteral(":/languages/tracewell_fr.qm"));
+};
+
+}  // namespace
+}  // namespace tracewell
+
 int main(int argumentCount, char** arguments) {
   QApplication application(argumentCount, arguments);
   tracewell::applyTheme(application);
   tracewell::keepLabelsPlain(application);
+  tracewell::KnownTexts texts;
+  QApplication::installTranslator(&texts);
   testing::InitGoogleTest(&argumentCount, arguments);
   return RUN_ALL_TESTS();
 }
