@@ -271,7 +271,7 @@ TEST_F(LookTest, MarksOfWhatIsNotToldStandBesideIt) {
   centred.setAlignment(Qt::AlignCenter);
   QLineEdit line(&window);
   QPushButton button(QStringLiteral("ww"), &window), lock(QStringLiteral("ww"), &window);
-  lock.setProperty("lock", true);
+  lock.setProperty("kind", "lock");
   QComboBox box(&window);
   QCheckBox tick(QStringLiteral("ww"), &window);
   KnobWidget knob(&window);
