@@ -4,10 +4,12 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QMenuBar>
+#include <QMetaEnum>
 #include <QPushButton>
 #include <QStyleOption>
 #include <cmath>
 
+#include "Drawn.h"
 #include "ElidedLabel.h"
 #include "KnobWidget.h"
 #include "MainFormTest.h"
@@ -101,6 +103,23 @@ QPalette blackOnWhite() {
   for (const auto role : {QPalette::WindowText, QPalette::Highlight})
     desktop.setColor(role, Qt::black);
   return desktop;
+}
+
+TEST_F(ContrastTest, ThemesHaveTheirColours) {
+  QWidget none;
+  for (const auto& [theme, section] : {std::pair(Theme::light, "light colours"),
+                                       {Theme::dark, "dark colours"},
+                                       {Theme::highContrast, "colours of high contrast"},
+                                       {Theme::system, "colours of the desktop"}}) {
+    applyTheme(*qApp, theme, blackOnWhite());
+    expectDrawn(none, section, [](const QString& asked) {
+      const QString role = asked.section(QLatin1Char(' '), -1);
+      const auto roles = QMetaEnum::fromType<QPalette::ColorRole>();
+      const auto number = static_cast<QPalette::ColorRole>(roles.keyToValue(role.toLatin1()));
+      const auto group = asked == role ? QPalette::Active : QPalette::Disabled;
+      return QApplication::palette().color(group, number).name();
+    });
+  }
 }
 
 TEST_F(ContrastTest, EverythingCanBeReadInEveryTheme) {

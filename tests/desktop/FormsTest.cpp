@@ -86,6 +86,7 @@ TEST_F(FormsTest, WhatTheProgramSetsIsShown) {
   EXPECT_EQ(find<QLabel>("lblConnect")->text(), QStringLiteral("Stopped & idle"));
   EXPECT_TRUE(find<QAbstractButton>("cbCh2")->isChecked());
   int presses = 0;
+  main.cmdNewErrors.visible = true;
   main.cmdNewErrors.click = [&presses] { ++presses; };
   find<QAbstractButton>("cmdNewErrors")->click();
   EXPECT_EQ(presses, 1);

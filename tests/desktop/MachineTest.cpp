@@ -11,6 +11,7 @@
 #include "Bench.h"
 #include "DesktopDialogs.h"
 #include "DesktopProgram.h"
+#include "Drawn.h"
 #include "PortDirectory.h"
 #include "QtValues.h"
 #include "WindowState.h"
@@ -120,6 +121,16 @@ TEST(WindowState, WindowComesBackWhereItWasIfThatIsOnAScreen) {
     state.keep(window);
     EXPECT_EQ(contentOf(file), content);
   }
+  QWidget none;
+  expectDrawn(none, "windows that come back", [&](const QString& asked) {
+    writeWholeFile(file, fromQt(asked) + "\r\n");
+    QWidget window;
+    const WindowState state(folder.path());
+    state.restore(window);
+    const QRect at = window.geometry();
+    const QString place = QStringLiteral("%1,%2 %3 x %4, theme %5").arg(at.x()).arg(at.y());
+    return place.arg(at.width()).arg(at.height()).arg(static_cast<int>(state.theme()));
+  });
   // Kept by the program itself at its end.
   {
     DesktopProgram desktop(folder.path());
