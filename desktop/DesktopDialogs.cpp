@@ -5,6 +5,7 @@
 #include <QColorDialog>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <algorithm>
 #include <iostream>
 
 #include "DesktopWords.h"
@@ -15,7 +16,11 @@ namespace tracewell {
 namespace {
 
 QWidget* windowInUse() {
-  return QApplication::activeWindow();
+  if (QWidget* active = QApplication::activeWindow()) return active;
+  // The program has lost the focus, as at its end.
+  const QWidgetList windows = QApplication::topLevelWidgets();
+  const auto found = std::ranges::find_if(windows, &QWidget::isVisible);
+  return found == windows.end() ? nullptr : *found;
 }
 
 QMessageBox::StandardButton showBox(QMessageBox::Icon icon, const std::string& title,

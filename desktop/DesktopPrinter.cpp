@@ -77,6 +77,10 @@ bool DesktopPrinter::paintAcross(Paint paintPage) {
   return true;
 }
 
+std::string DesktopPrinter::file() const {
+  return printer_ ? fromQt(printer_->outputFileName()) : "";
+}
+
 bool DesktopPrinter::printImage(const Image& image) {
   return paintAcross([&](QPainter& painter, const QRectF& paper) {
     const QImage picture = toQt(image);

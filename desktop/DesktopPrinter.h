@@ -16,6 +16,7 @@ class DesktopPrinter : public Printer {
   bool printImage(const Image& image) override;
   bool printText(const std::string& text) override;
   bool printPage(const GraphPage& page) override;
+  std::string file() const override;
 
   /// Prints everything to this PDF file from now on; each print replaces the one before.
   void printToFile(const QString& path);

@@ -112,7 +112,8 @@ void chooseCurrentFirst(QAbstractItemView& list) {
   new EventWatch(&list, [&list, tried = QPersistentModelIndex()](const QEvent& event) mutable {
     if (event.type() != QEvent::KeyPress) return false;
     const int key = static_cast<const QKeyEvent&>(event).key();
-    if (key != Qt::Key_Down && key != Qt::Key_Up) return false;
+    constexpr std::array keys = {Qt::Key_Down, Qt::Key_Up, Qt::Key_Home, Qt::Key_PageUp};
+    if (std::ranges::find(keys, key) == keys.end()) return false;
     QItemSelectionModel& selected = *list.selectionModel();
     const QModelIndex current = list.currentIndex();
     if (selected.hasSelection() || current.row() != 0 || tried == current) return false;

@@ -136,6 +136,7 @@ class RecordingPrinter : public Printer {
   bool printImage(const Image& image) override { return print(image.pixels); }
   bool printText(const std::string& text) override { return print(text); }
   bool printPage(const GraphPage& page) override;
+  std::string file() const override { return ""; }
 
  private:
   bool print(const std::string& text) {

@@ -1232,6 +1232,10 @@
         <translation>Imprimé</translation>
     </message>
     <message>
+        <source>Printed to %1</source>
+        <translation>Imprimé dans %1</translation>
+    </message>
+    <message>
         <source>RMS</source>
         <translation>Efficace</translation>
     </message>

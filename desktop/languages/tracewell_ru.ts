@@ -1232,6 +1232,10 @@
         <translation>Напечатано</translation>
     </message>
     <message>
+        <source>Printed to %1</source>
+        <translation>Напечатано в %1</translation>
+    </message>
+    <message>
         <source>RMS</source>
         <translation>СКЗ</translation>
     </message>

@@ -1232,6 +1232,10 @@
         <translation>已打印</translation>
     </message>
     <message>
+        <source>Printed to %1</source>
+        <translation>已打印到 %1</translation>
+    </message>
+    <message>
         <source>RMS</source>
         <translation>有效值</translation>
     </message>

@@ -1232,6 +1232,10 @@
         <translation>已列印</translation>
     </message>
     <message>
+        <source>Printed to %1</source>
+        <translation>已列印到 %1</translation>
+    </message>
+    <message>
         <source>RMS</source>
         <translation>有效值</translation>
     </message>

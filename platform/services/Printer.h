@@ -38,6 +38,8 @@ class Printer {
   virtual bool printImage(const Image& image) = 0;
   virtual bool printText(const std::string& text) = 0;
   virtual bool printPage(const GraphPage& page) = 0;
+  /// The PDF file of the last print; empty if it went to a printer.
+  virtual std::string file() const = 0;
 };
 
 }  // namespace tracewell

@@ -94,6 +94,7 @@ TEST_F(PaperTest, AUserWhoIsAskedFindsThePaperAsItFits) {
   EXPECT_TRUE(printer.printPage({}));
   accept();
   EXPECT_TRUE(printer.printText("Trigger ... [2]\r\n"));
+  EXPECT_EQ(printer.file(), fromQt(folder.filePath(QStringLiteral("2"))));
   EXPECT_EQ(found, QList({QPageLayout::Landscape, QPageLayout::Portrait}));
 }
 
