@@ -17,7 +17,6 @@ AppendedFile::AppendedFile(fs::path path) : path_(std::move(path)) {
   isNew_ = status.type() == fs::file_type::not_found;
   if (!isNew_ && failed) throw fileError(pathAccess, "Cannot write", path_, failed);
   if (!isNew_ && !fs::is_regular_file(status)) throw fileError(pathAccess, "Not a file", path_);
-  errno = 0;
   file_.reset(openToAppend(path_));
   if (file_ == nullptr) throw fileError(pathAccess, "Cannot write", path_, lastFailure());
   // What could not be written is not to come later by itself.

@@ -32,7 +32,6 @@ void Window::showModal() {
 
 void Window::show() {
   load();
-  formActivate.raise();
   isVisible_ = true;
   services_.windows.show(*this);
 }

@@ -32,7 +32,7 @@ class Window : public Observable {
 
   /// Raised once, before the window is first used (or used again after unload).
   Event<> formLoad;
-  /// Raised each time that the window is about to be shown.
+  /// Raised each time that the window is about to be shown as a modal one.
   Event<> formActivate;
   /// Raised when the user closes the window with the window's own means. Without a handler the
   /// window hides.

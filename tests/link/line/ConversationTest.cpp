@@ -25,7 +25,8 @@ class LineScript : OnALine<PacedOpener> {
     port.dataReady = [this](const LineRecord& record) {
       const std::string channel = std::to_string(record.channel);
       const auto own = std::ranges::count(record.bytes, channel.at(0));
-      note("record " + channel + " " + std::to_string(own) + under(record));
+      const bool isWhole = record.bytes.size() == WaveformRecord::byteCount;
+      note("record " + channel + " " + std::to_string(own) + (isWhole ? "" : "?") + under(record));
     };
   }
 
