@@ -246,8 +246,9 @@ TEST(PictureFormatsTest, OfAFileTheLibraryGetsWhatMakesThePicture) {
     const std::string file = isTiff ? tiffOf(250, 540, asked.startsWith('M'))
                                     : QByteArray::fromHex(asked.toLatin1()).toStdString();
     try {
-      const auto [format, kept] = guardedPicture(file);
-      QStringList said{format.empty() ? QStringLiteral("unknown") : toQt(format)};
+      const GuardedPicture picture = guardedPicture(file);
+      const std::string& kept = picture.bytes;
+      QStringList said{picture.format.empty() ? QStringLiteral("unknown") : toQt(picture.format)};
       if (isTiff) {
         const auto word = [&](std::size_t at) {
           const int one = uchar(kept[at]), two = uchar(kept[at + 1]);

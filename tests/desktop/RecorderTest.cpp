@@ -135,6 +135,10 @@ TEST_F(RecorderWindowTest, KeepsFollowsStepsPinsShowsLogsAndExports) {
   EXPECT_EQ(loaded.y(), reference.y());
   EXPECT_EQ(loaded.scale(), reference.scale());
 
+  choose("cursors", 1);
+  EXPECT_EQ(fromQt(find<QWidget>("recorderGraph").accessibleDescription()),
+            "|Δt| = 1.50 ms. 1/|Δt| = 667 Hz. ");
+  EXPECT_EQ(strip.accessibleDescription(), find<QLabel>("title").text());
   choose("mode", 2);
   const auto picture = view.picture();
   ASSERT_FALSE(picture.labels.empty());
@@ -181,6 +185,10 @@ TEST_F(RecorderWindowTest, KeepsFollowsStepsPinsShowsLogsAndExports) {
   window->activateWindow();
   EXPECT_TRUE(QTest::qWaitForWindowActive(window));
   EXPECT_EQ(logged, (Lines{"Peak to peak  (vpp)", "RMS  (rms)", "Frequency  (freq)"}));
+  for (QAction* tick : ticks) tick->setChecked(false);
+  find<QPushButton>("logStart").click();
+  EXPECT_EQ(said(), "Choose what is measured first");
+  for (QAction* tick : ticks) tick->setChecked(true);
   for (const char* limits : {"vpp > 1 V; high", "; vpp > 9 V ;"}) {
     find<QLineEdit>("logLimits").setText(QLatin1String(limits));
     EXPECT_EQ(recorder().recorder().log(), nullptr);
@@ -206,6 +214,8 @@ TEST_F(RecorderWindowTest, KeepsFollowsStepsPinsShowsLogsAndExports) {
   entry()->trigger();
   EXPECT_TRUE(window->isVisible());
   EXPECT_EQ(view.selected(), store.end() - 1);
+  for (int i = 0; i < 5; ++i) find<QPushButton>("showInPanel").click();
+  EXPECT_EQ(said(), "No reference is free: remove one in the panel first");
 }
 
 TEST_F(RecorderWindowTest, FitsASmallScreenInEveryLanguage) {
@@ -221,7 +231,6 @@ TEST_F(RecorderWindowTest, FitsASmallScreenInEveryLanguage) {
     texts << window->windowTitle().section(QLatin1Char(' '), 0, 0);
     return texts.filter(QRegularExpression(QStringLiteral("[a-z]{3}")));
   };
-  EXPECT_EQ(window->size().boundedTo({1180, 760}), window->size());
   expectDrawn(*window, "recorder at first");
   window->resize(1180, 760);
   find<QPushButton>("log").setChecked(true);
