@@ -58,6 +58,12 @@ class CountedProgram(Program):
         return total, records
 
 
+class StartedProgram(CountedProgram):
+    """Only started. What a test does to its window then would be counted, too."""
+    def start(self):
+        self.process = subprocess.Popen(self.command(), cwd=self.folder, env=self.environment)
+
+
 def wake_ups(program):
     """A second, of all its threads that are still there at the end."""
     def switches():
@@ -70,12 +76,12 @@ def wake_ups(program):
     return sum(count - before.get(thread, 0) for thread, count in switches().items()) / IDLE_SECONDS
 
 
-def with_program(kind, use, is_asked=False):
+def with_program(kind, use, is_asked=False, platform="xcb"):
     """A program on port 7, with an instrument behind it; if it is asked where its controls are, it has
     a plug-in more."""
     program = kind(7)
     instrument = Instrument(program.folder / "com7")
-    program.environment["QT_QPA_PLATFORM"] = "xcb"
+    program.environment["QT_QPA_PLATFORM"] = platform
     if is_asked:
         program.make_known()
     try:
@@ -88,7 +94,8 @@ def with_program(kind, use, is_asked=False):
 
 def count_start(program):
     program.come_to_rest()
-    return [("start to the first window, million instructions", program.dump()[0] / 1e6)]
+    platform = program.environment["QT_QPA_PLATFORM"]
+    return [(f"start to the first window ({platform}), million instructions", program.dump()[0] / 1e6)]
 
 
 def count_records(program):
@@ -120,7 +127,8 @@ def idle(program):
 def main():
     screen = Screen()
     try:
-        rows = (with_program(CountedProgram, count_start) +
+        rows = (with_program(StartedProgram, count_start) +
+                with_program(StartedProgram, count_start, platform="offscreen") +
                 with_program(CountedProgram, count_records, is_asked=True) +
                 with_program(Program, idle))
     finally:
