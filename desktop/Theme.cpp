@@ -84,8 +84,8 @@ QString styleSheet(const QStringList& names) {
   return sheet;
 }
 
-/// Its points one behind the other: to read a picture file of any format the toolkit loads its
-/// readers of all.
+/// Its points one behind the other, as `convert icon.png rgba:window-icon.rgba` writes them for an
+/// icon of 64 x 64. To read a picture file of any format the toolkit loads its readers of all.
 QPixmap windowIcon() {
   constexpr int side = 64;
   const QByteArray points = resource(QStringLiteral("window-icon.rgba"));
