@@ -84,8 +84,7 @@ TEST_F(UserInputTest, OnlyTheUsersClosingOfADialogWaits) {
       if (isUser) pressCloseButton(dialog);
       EXPECT_EQ(dialog.isVisible(), isUser);
     });
-    QTest::qWait(20);
-    EXPECT_FALSE(dialog.isVisible());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !dialog.isVisible(); }));
     EXPECT_EQ(closings, 1);
     EXPECT_EQ(dialog.result(), isUser ? QDialog::Rejected : QDialog::Accepted);
   }
@@ -106,8 +105,7 @@ TEST_F(UserInputTest, WhatIsKeptComesInItsOrderAndOfAMovementTheLastPlace) {
   EXPECT_EQ(main.told + other.told, "");
   // What comes before the rest has come is behind it.
   type("c");
-  QTest::qWait(20);
-  EXPECT_EQ(main.told, "a36b7c");
+  EXPECT_TRUE(QTest::qWaitFor([this] { return main.told == QStringLiteral("a36b7c"); }));
   EXPECT_EQ(other.told, "4");
 }
 
