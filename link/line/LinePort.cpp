@@ -18,7 +18,6 @@ void LinePort::command(std::string_view line, Reply reply) {
 }
 
 std::string LinePort::query(std::string_view line, int timeOut) {
-  conversation_.abandon();
   std::string reply = conversation_.ask(line, timeOut > 0 ? timeOut : defaultReadTimeOut);
   if (reply.ends_with("\r\n")) reply.erase(reply.size() - 2, 1);
   return reply;
