@@ -138,6 +138,10 @@ TEST_F(RecorderWindowTest, KeepsFollowsStepsPinsShowsLogsAndExports) {
   choose("cursors", 1);
   EXPECT_EQ(fromQt(find<QWidget>("recorderGraph").accessibleDescription()),
             "|Δt| = 1.50 ms. 1/|Δt| = 667 Hz. ");
+  QTest::keyClick(&find<QWidget>("recorderGraph"), Qt::Key_Right, Qt::ShiftModifier);
+  EXPECT_TRUE(QTest::qWaitFor([&] {
+    return find<QWidget>("recorderGraph").accessibleDescription().contains("= 1.40 ms");
+  }));
   EXPECT_EQ(strip.accessibleDescription(), find<QLabel>("title").text());
   choose("mode", 2);
   const auto picture = view.picture();
