@@ -112,14 +112,16 @@ void chooseCurrentFirst(QAbstractItemView& list) {
   new EventWatch(&list, [&list, tried = QPersistentModelIndex()](const QEvent& event) mutable {
     if (event.type() != QEvent::KeyPress) return false;
     const int key = static_cast<const QKeyEvent&>(event).key();
-    constexpr std::array keys = {Qt::Key_Down, Qt::Key_Up, Qt::Key_Home, Qt::Key_PageUp};
-    if (std::ranges::find(keys, key) == keys.end()) return false;
+    constexpr std::array toFirst = {Qt::Key_Down, Qt::Key_Up, Qt::Key_Home, Qt::Key_PageUp};
+    const bool isToFirst = std::ranges::find(toFirst, key) != toFirst.end();
+    // These go on to the last entry, which may be the same.
+    if (!isToFirst && key != Qt::Key_End && key != Qt::Key_PageDown) return false;
     QItemSelectionModel& selected = *list.selectionModel();
     const QModelIndex current = list.currentIndex();
     if (selected.hasSelection() || current.row() != 0 || tried == current) return false;
     tried = current;
     selected.select(current, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-    return true;
+    return isToFirst;
   });
 }
 

@@ -29,9 +29,9 @@ void keepEditingKeys(QWidget& line);
 /// Tab into the line leaves the caret behind the text, which the user completes.
 void keepCaretAtEnd(QLineEdit& line);
 
-/// Of a list in which nothing is selected, the first arrow key selects the first entry and does not
-/// pass it over; if the program does not take it, the next key goes on. To be called before
-/// onMoveByKey, which must see the key first.
+/// Of a list in which nothing is selected, the first key that moves selects the first entry and
+/// does not pass it over; if the program does not take it, the next key goes on. To be called
+/// before onMoveByKey, which must see the key first.
 void chooseCurrentFirst(QAbstractItemView& list);
 
 /// Runs `action` when the user presses a key that moves through a list. Focus alone, which also

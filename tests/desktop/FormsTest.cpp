@@ -278,9 +278,14 @@ TEST_F(FormsTest, ListKeepsTheEntryThatTheProgramGoesBackTo) {
     EXPECT_EQ(opened, 1);
     dialog.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
-    window.dirCSV.items = {"..", "b", "c"};
-    QTest::keyClick(folders, Qt::Key_End);
-    EXPECT_EQ(window.dirCSV.chosenText(), "c");
+    for (const auto& [key, reached] : {std::pair(Qt::Key_End, "c"), {Qt::Key_Home, ".."}}) {
+      window.dirCSV.items = {"..", "b", "c"};
+      QTest::keyClick(folders, key);
+      EXPECT_EQ(window.dirCSV.chosenText(), reached);
+      window.dirCSV.items = {reached};
+      QTest::keyClick(folders, key);
+      EXPECT_EQ(window.dirCSV.chosenText(), reached);
+    }
   });
 }
 
