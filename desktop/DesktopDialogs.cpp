@@ -62,7 +62,7 @@ std::filesystem::path ask(const FileDialog& dialog, QFileDialog::AcceptMode mode
 Answer DesktopDialogs::answerYesNo(const std::string& prompt, const std::string& title) {
   if (isAlone_) {
     say(QMessageBox::Question, prompt);
-    return Answer::Yes;
+    return Answer::No;
   }
   const auto answer =
       showBox(QMessageBox::Question, title, prompt, QMessageBox::Yes | QMessageBox::No);

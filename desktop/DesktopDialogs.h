@@ -12,7 +12,7 @@ class DesktopDialogs : public Dialogs {
  public:
   using Dialogs::Dialogs;
 
-  /// From now on no user is there: messages go to the standard error output, and the answer is yes.
+  /// From now on no user is there: messages go to the standard error output, and the answer is no.
   void goOnAlone();
 
   void showMessage(const std::string& text) override;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "frmChannel.h"
 
+#include <algorithm>
+
 #include "Inquiry.h"
 #include "Numbers.h"
 #include "SettingsQueries.h"
@@ -68,20 +70,31 @@ void frmChannel::readSettings(const Channel& channel) {
 
 void frmChannel::show(int place, const std::string& reply) {
   if (place == coupling) {
-    showOption(fmCoupling, obCoupling, reply);
+    showOption(fmCoupling, obCoupling, reply, place);
   } else if (place == probe) {
-    showOption(fmProbe, obProbe, reply);
+    showOption(fmProbe, obProbe, reply, place);
   } else {
     if (isNumeric(reply)) cbCh(place).value = toInt16(reply);
     unanswered_.note(cbCh(place), isNumeric(reply));
   }
 }
 
-/// Selects the option that the reply names, or marks the group, of which none may be selected yet.
+/// Selects the option that the reply names, or marks the group. Where none is selected yet it is
+/// the one of the setup: what is sent is always shown.
 void frmChannel::showOption(Frame& group, ControlArray<OptionButton>& options,
-                            const std::string& reply) {
-  if (isNumeric(reply)) options(toInt16(reply)).value = true;
+                            const std::string& reply, int place) {
+  const auto isSelected = [](const OptionButton& option) { return option.value(); };
+  if (isNumeric(reply))
+    options(toInt16(reply)).value = true;
+  else if (std::ranges::none_of(options, isSelected))
+    selectKept(options, SetupTable::columnOf(place));
   unanswered_.note(group, isNumeric(reply));
+}
+
+void frmChannel::selectKept(ControlArray<OptionButton>& options, int column) {
+  for (OptionButton& option : options)
+    if (std::to_string(option.index()) == main_.gridMeasure.text(setupRow_, column))
+      option.value = true;
 }
 
 void frmChannel::cmdOK_Click() {

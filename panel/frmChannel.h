@@ -35,7 +35,9 @@ class frmChannel : public SettingsDialog {
   /// the dialog last had it, and marks it as unread. Raises an error for a number without a
   /// control.
   void show(int place, const std::string& reply);
-  void showOption(Frame& group, ControlArray<OptionButton>& options, const std::string& reply);
+  void showOption(Frame& group, ControlArray<OptionButton>& options, const std::string& reply,
+                  int place);
+  void selectKept(ControlArray<OptionButton>& options, int column);
   void cmdOK_Click();
   void cmdCancel_Click();
   void keepSelected(ControlArray<OptionButton>& options, int column);

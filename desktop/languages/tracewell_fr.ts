@@ -1256,8 +1256,8 @@
         <translation>Journal de l'enregistreur : %1</translation>
     </message>
     <message>
-        <source>Recorder's log: %1 cannot be written. %2. Give them up?</source>
-        <translation>Journal de l'enregistreur : %1 impossibles à écrire. %2. Les abandonner ?</translation>
+        <source>Recorder's log: %1 cannot be written. %2. Go on and keep them?</source>
+        <translation>Journal de l'enregistreur : %1 impossibles à écrire. %2. Continuer et les garder ?</translation>
     </message>
     <message>
         <source>Records along time</source>

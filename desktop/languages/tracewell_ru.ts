@@ -1256,8 +1256,8 @@
         <translation>Журнал регистратора: %1</translation>
     </message>
     <message>
-        <source>Recorder's log: %1 cannot be written. %2. Give them up?</source>
-        <translation>Журнал регистратора: не удаётся записать %1. %2. Отказаться от них?</translation>
+        <source>Recorder's log: %1 cannot be written. %2. Go on and keep them?</source>
+        <translation>Журнал регистратора: не удаётся записать %1. %2. Продолжить и сохранить их в памяти?</translation>
     </message>
     <message>
         <source>Records along time</source>

@@ -1256,8 +1256,8 @@
         <translation>记录仪日志：%1</translation>
     </message>
     <message>
-        <source>Recorder's log: %1 cannot be written. %2. Give them up?</source>
-        <translation>记录仪日志：%1 无法写入。%2。放弃它们吗？</translation>
+        <source>Recorder's log: %1 cannot be written. %2. Go on and keep them?</source>
+        <translation>记录仪日志：%1 无法写入。%2。继续并保留它们吗？</translation>
     </message>
     <message>
         <source>Records along time</source>

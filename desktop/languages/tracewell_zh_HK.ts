@@ -1256,8 +1256,8 @@
         <translation>記錄儀日誌：%1</translation>
     </message>
     <message>
-        <source>Recorder's log: %1 cannot be written. %2. Give them up?</source>
-        <translation>記錄儀日誌：%1 寫唔到。%2。放棄佢哋？</translation>
+        <source>Recorder's log: %1 cannot be written. %2. Go on and keep them?</source>
+        <translation>記錄儀日誌：%1 寫唔到。%2。繼續並保留佢哋？</translation>
     </message>
     <message>
         <source>Records along time</source>

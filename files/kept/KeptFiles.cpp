@@ -18,10 +18,11 @@ fs::path canonicalPath(const fs::path& path) {
 }
 
 auto findNoted(frmDSO& main, const fs::path& path) {
-  return std::ranges::find_if(main.filesToKeep, [whole = canonicalPath(path)](const fs::path& noted) {
-    std::error_code ignored;
-    return noted == whole || fs::equivalent(noted, whole, ignored);
-  });
+  return std::ranges::find_if(main.filesToKeep,
+                              [whole = canonicalPath(path)](const fs::path& noted) {
+                                std::error_code ignored;
+                                return noted == whole || fs::equivalent(noted, whole, ignored);
+                              });
 }
 
 /// No folder: it is kept in its own.
@@ -60,7 +61,8 @@ bool isToBeKept(frmDSO& main, const fs::path& path) {
 }
 
 void noteFileToKeep(frmDSO& main, const fs::path& path) {
-  if (findNoted(main, path) == main.filesToKeep.end()) main.filesToKeep.push_back(canonicalPath(path));
+  if (findNoted(main, path) == main.filesToKeep.end())
+    main.filesToKeep.push_back(canonicalPath(path));
   showFilesToKeep(main);
 }
 

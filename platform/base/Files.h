@@ -56,8 +56,8 @@ std::filesystem::path nameAside(const std::filesystem::path& path);
 std::string pathText(const std::filesystem::path& path);
 std::filesystem::path pathOf(const std::string& text);
 
-/// For the user, who cannot know in which folder a bare name is. The path as it is where the present
-/// folder is gone.
+/// For the user, who cannot know in which folder a bare name is. The path as it is where the
+/// present folder is gone.
 std::filesystem::path wholePath(const std::filesystem::path& path);
 std::string wholePathText(const std::filesystem::path& path);
 

@@ -91,19 +91,18 @@ void Recorder::sayTrouble() {
 }
 
 bool Recorder::stopLog() {
-  const bool isDone =
-      !log_ || log_->finish(main_.services().clock.milliseconds()) || mayBeGivenUp();
+  const bool isDone = !log_ || log_->finish(main_.services().clock.milliseconds()) || isGivenUp();
   if (isDone) log_.reset();
   sayTrouble();
   return isDone;
 }
 
-bool Recorder::mayBeGivenUp() const {
+bool Recorder::isGivenUp() const {
   const Services& services = main_.services();
   const std::string question = services.words.say(
-      "Recorder's log: %1 cannot be written. %2. Give them up?",
+      "Recorder's log: %1 cannot be written. %2. Go on and keep them?",
       {rowsText(services.words, log_->held()), log_->trouble().value_or(pathText(log_->path()))});
-  return services.dialogs.askYesNo(question, main_.caption()) == Answer::Yes;
+  return services.dialogs.askYesNo(question, main_.caption()) == Answer::No;
 }
 
 std::string Recorder::logText(const Words& words) const {

@@ -51,7 +51,7 @@ class Recorder {
   void keep(int channel);
   void write(RecordStore::Number number);
   void sayTrouble();
-  bool mayBeGivenUp() const;
+  bool isGivenUp() const;
 
   frmDSO& main_;
   RecordStore store_;

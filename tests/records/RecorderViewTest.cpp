@@ -235,12 +235,11 @@ TEST_F(RecorderTest, ThePanelSaysThatRowsOfTheLogWait) {
   EXPECT_EQ(main.lblStatus.caption().find("Recorder's log: Waiting in memory: 1 row. "), 0U)
       << main.lblStatus.caption();
   // Nobody gives them up unasked.
-  dialogs.answer = Answer::No;
   program.main.close();
   EXPECT_FALSE(gate.isClosed());
   EXPECT_FALSE(recorder.stopLog());
   EXPECT_TRUE(recorder.log());
-  dialogs.answer = Answer::Yes;
+  dialogs.answer = Answer::No;
   EXPECT_TRUE(recorder.stopLog());
   EXPECT_FALSE(recorder.log());
   EXPECT_EQ(main.lblStatus.caption(), "");
