@@ -75,6 +75,8 @@ class KnownInstrument {
   /// The channel in whose place the instrument shows its math, as known now or last; 0 for none.
   /// Math that was set elsewhere is not known here.
   int mathChannel() const;
+  /// Something that was sent may have set math: no record is surely a channel's own.
+  bool mayMathBeOn() const { return mathMayBeOn_; }
   /// The panel has stopped the instrument.
   bool isStopped() const;
 

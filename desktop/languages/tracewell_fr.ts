@@ -900,6 +900,10 @@
         <translation>Manuel et touches</translation>
     </message>
     <message>
+        <source>Math may be on: choose an entry of it to know the traces</source>
+        <translation>Le calcul est peut-être actif : en choisir une entrée pour connaître les courbes</translation>
+    </message>
+    <message>
         <source>Maximum</source>
         <translation>Maximum</translation>
     </message>

@@ -900,6 +900,10 @@
         <translation>Руководство и клавиши</translation>
     </message>
     <message>
+        <source>Math may be on: choose an entry of it to know the traces</source>
+        <translation>Возможно, включена математика: выберите её пункт, чтобы трассы были известны</translation>
+    </message>
+    <message>
         <source>Maximum</source>
         <translation>Максимум</translation>
     </message>

@@ -900,6 +900,10 @@
         <translation>手册与按键</translation>
     </message>
     <message>
+        <source>Math may be on: choose an entry of it to know the traces</source>
+        <translation>数学运算可能已开启：请选择其中一项以确定波形</translation>
+    </message>
+    <message>
         <source>Maximum</source>
         <translation>最大值</translation>
     </message>

@@ -900,6 +900,10 @@
         <translation>手冊同按鍵</translation>
     </message>
     <message>
+        <source>Math may be on: choose an entry of it to know the traces</source>
+        <translation>數學運算可能開咗：揀其中一項先可以確定波形</translation>
+    </message>
+    <message>
         <source>Maximum</source>
         <translation>最大值</translation>
     </message>

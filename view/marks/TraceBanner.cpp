@@ -58,6 +58,8 @@ std::string warning(const frmDSO& main, const Words& words) {
     return ageText(words, *late, main.services().clock.milliseconds());
   if (firstTrace(main, [&](const Channel& channel) { return isScaleMissing(main, channel); }))
     return toRead(main, words);
+  if (main.known.mayMathBeOn() && firstTrace(main, [](const Channel&) { return true; }))
+    return words.say("Math may be on: choose an entry of it to know the traces");
   return "";
 }
 
