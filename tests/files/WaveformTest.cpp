@@ -62,7 +62,7 @@ TEST_F(WaveformTest, DescriptionThatCouldNotBeReadAgainIsNotWritten) {
   saveWindow.txtDes.text = std::string(fileLimit::description, 'x');
   save("long.png");
   ASSERT_EQ(dialogs.runTimeErrors.size(), 1u);
-  EXPECT_TRUE(dialogs.runTimeErrors[0].ends_with("/long.inf")) << dialogs.runTimeErrors[0];
+  EXPECT_TRUE(dialogs.runTimeErrors[0].ends_with("long.inf")) << dialogs.runTimeErrors[0];
   EXPECT_FALSE(fs::exists(place / "long.csv"));
 }
 
