@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QColorDialog>
 #include <QFileDialog>
+#include <QMainWindow>
 #include <QMessageBox>
 #include <algorithm>
 #include <iostream>
@@ -18,17 +19,23 @@ namespace {
 QWidget* windowInUse() {
   if (QWidget* active = QApplication::activeWindow()) return active;
   // The program has lost the focus, as at its end.
+  if (QWidget* modal = QApplication::activeModalWidget()) return modal;
   const QWidgetList windows = QApplication::topLevelWidgets();
-  const auto found = std::ranges::find_if(windows, &QWidget::isVisible);
+  const auto isPanel = [](const QWidget* top) {
+    return top->isVisible() && qobject_cast<const QMainWindow*>(top) != nullptr;
+  };
+  const auto found = std::ranges::find_if(windows, isPanel);
   return found == windows.end() ? nullptr : *found;
 }
 
 QMessageBox::StandardButton showBox(QMessageBox::Icon icon, const std::string& title,
                                     const std::string& text,
-                                    QMessageBox::StandardButtons buttons = QMessageBox::Ok) {
+                                    QMessageBox::StandardButtons buttons = QMessageBox::Ok,
+                                    QMessageBox::StandardButton usual = QMessageBox::NoButton) {
   QMessageBox box(icon, shownTitle(title), QString(), buttons, windowInUse());
   box.setTextFormat(Qt::PlainText);
   box.setText(shownText(text, roomOfParagraph));
+  box.setDefaultButton(usual);
   return static_cast<QMessageBox::StandardButton>(box.exec());
 }
 
@@ -59,13 +66,15 @@ std::filesystem::path ask(const FileDialog& dialog, QFileDialog::AcceptMode mode
 
 }  // namespace
 
-Answer DesktopDialogs::answerYesNo(const std::string& prompt, const std::string& title) {
+Answer DesktopDialogs::answerYesNo(const std::string& prompt, const std::string& title,
+                                   Answer usual) {
   if (isAlone_) {
-    say(QMessageBox::Question, prompt);
-    return Answer::No;
+    say(QMessageBox::Question, prompt + " Yes");
+    return Answer::Yes;
   }
   const auto answer =
-      showBox(QMessageBox::Question, title, prompt, QMessageBox::Yes | QMessageBox::No);
+      showBox(QMessageBox::Question, title, prompt, QMessageBox::Yes | QMessageBox::No,
+              usual == Answer::Yes ? QMessageBox::Yes : QMessageBox::No);
   return answer == QMessageBox::Yes ? Answer::Yes : Answer::No;
 }
 

@@ -12,14 +12,15 @@ class DesktopDialogs : public Dialogs {
  public:
   using Dialogs::Dialogs;
 
-  /// From now on no user is there: messages go to the standard error output, and the answer is no.
+  /// From now on no user is there: messages go to the standard error output, and what is asked
+  /// is answered with yes: the program goes on to its end.
   void goOnAlone();
 
   void showMessage(const std::string& text) override;
   void showRunTimeError(const Error& error) override;
 
  private:
-  Answer answerYesNo(const std::string& prompt, const std::string& title) override;
+  Answer answerYesNo(const std::string& prompt, const std::string& title, Answer usual) override;
   std::filesystem::path fileToOpen(const FileDialog& dialog) override;
   std::filesystem::path fileToSave(const FileDialog& dialog) override;
   Colour pickedColour(Colour initial) override;

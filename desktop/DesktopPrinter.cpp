@@ -2,6 +2,7 @@
 #include "DesktopPrinter.h"
 
 #include <QApplication>
+#include <QFileInfo>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinterInfo>
@@ -31,10 +32,11 @@ QPrinter& DesktopPrinter::printer() {
 }
 
 void DesktopPrinter::setUp() {
+  const QPageLayout::Orientation before = printer().pageLayout().orientation();
   QPrintDialog dialog(&printer(), QApplication::activeWindow());
   if (dialog.exec() != QDialog::Accepted) return;
   isSetUp_ = true;
-  isPaperChosen_ = true;
+  isPaperTurned_ = isPaperTurned_ || printer().pageLayout().orientation() != before;
 }
 
 void DesktopPrinter::printToFile(const QString& path) {
@@ -46,7 +48,7 @@ void DesktopPrinter::printToFile(const QString& path) {
 
 /// The paper lies as it fits before the user is asked, who may turn it.
 bool DesktopPrinter::isReady(QPageLayout::Orientation orientation) {
-  if (!isPaperChosen_) printer().setPageOrientation(orientation);
+  if (!isPaperTurned_) printer().setPageOrientation(orientation);
   const bool isForFile = !printer().outputFileName().isEmpty();
   if (!isSetUp_ && (isForFile || QPrinterInfo::defaultPrinter().isNull()))
     setUp();
@@ -59,7 +61,7 @@ bool DesktopPrinter::isReady(QPageLayout::Orientation orientation) {
 void DesktopPrinter::finished() {
   if (isFileFixed_ || printer().outputFileName().isEmpty()) return;
   isSetUp_ = false;
-  isPaperChosen_ = false;
+  isPaperTurned_ = false;
 }
 
 template <class Paint>
@@ -78,7 +80,8 @@ bool DesktopPrinter::paintAcross(Paint paintPage) {
 }
 
 std::string DesktopPrinter::file() const {
-  return printer_ ? fromQt(printer_->outputFileName()) : "";
+  const QString name = printer_ ? printer_->outputFileName() : QString();
+  return name.isEmpty() ? "" : fromQt(QFileInfo(name).absoluteFilePath());
 }
 
 bool DesktopPrinter::printImage(const Image& image) {

@@ -32,7 +32,7 @@ class DesktopPrinter : public Printer {
 
   std::optional<QPrinter> printer_;
   bool isSetUp_ = false;
-  bool isPaperChosen_ = false;
+  bool isPaperTurned_ = false;
   bool isFileFixed_ = false;
 };
 

@@ -50,7 +50,7 @@ QStyleOptionButton inSharedPalette(QStyleOptionButton button) {
   return button;
 }
 
-/// For the entries of a menu bar that there is no room for. It is read when it is painted first.
+/// For the entries of a menu bar that there is no room for. It is read only when it is painted.
 class ExtensionIcon : public QIconEngine {
  public:
   void paint(QPainter* painter, const QRect& place, QIcon::Mode mode, QIcon::State state) override {

@@ -62,7 +62,7 @@ void KnownInstrument::notSent(std::string_view line) {
   for (const WirePart& part : wireParts(line)) {
     if (part.isQuery) continue;
     const WireEffect effect = effectOf(part);
-    if (effect.isUnknown || effect.sets == math) mathMayBeOn_ = true;
+    if (effect.isUnknown || effect.sets == math) mathDoubtedOn_.insert(presentLine().portNumber);
     if (effect.sets) doubtful(*effect.sets, Doubt::notSent);
     for (const Setting setting : effect.touches) doubtful(setting, Doubt::notSent);
   }
@@ -85,7 +85,7 @@ void KnownInstrument::obey(const WirePart& command, bool isTrusted) {
   if (command.isQuery) return;
   const WireEffect effect = effectOf(command);
   for (const Setting setting : effect.touches) doubtful(setting, Doubt::mayHaveChanged);
-  if (effect.isUnknown) mathMayBeOn_ = true;
+  if (effect.isUnknown) mathDoubtedOn_.insert(presentLine().portNumber);
   if (!effect.sets) return;
   const Setting setting = *effect.sets;
   const bool isPlain = setting == math || setting == running || setting == lock;
@@ -98,7 +98,7 @@ void KnownInstrument::obey(const WirePart& command, bool isTrusted) {
 /// A possible change counts wherever it makes a difference to records.
 void KnownInstrument::leaveOpen(Setting setting, const WirePart& command) {
   doubtful(setting, Doubt::mayHaveChanged);
-  if (setting == math) mathMayBeOn_ = true;
+  if (setting == math) mathDoubtedOn_.insert(presentLine().portNumber);
   if (setting != triggerMode) return;
   entry(setting).number = plainNumber(command.argument);
   entry(setting).numberOnPort = presentLine().portNumber;
@@ -181,7 +181,7 @@ void KnownInstrument::takeSent(Setting setting, const Value& value) {
 
 void KnownInstrument::take(Setting setting, Value value) {
   leave(setting);
-  if (setting == math) mathMayBeOn_ = false;
+  if (setting == math) mathDoubtedOn_.erase(presentLine().portNumber);
   Entry& taken = entry(setting);
   taken.number = value.number;
   taken.caption = std::move(value.caption);
@@ -323,6 +323,11 @@ int KnownInstrument::mathChannel() const {
   return mathChannelOf(static_cast<std::size_t>(*known.number));
 }
 
+bool KnownInstrument::mayMathBeOn() const {
+  const bool wasOn = mathChannel() != 0 && !isKnown(math);
+  return wasOn || isMathDoubted();
+}
+
 MadeUnder whicheverHolds(const MadeUnder& a, const MadeUnder& b) {
   const auto same = [](const auto& one, const auto& other) {
     return one == other ? one : std::remove_cvref_t<decltype(one)>();
@@ -363,7 +368,7 @@ MadeUnder KnownInstrument::settingsAt(int channel, Moment moment) const {
   };
   MadeUnder made{since(ofChannel(scale1, channel)), since(timeBase), std::nullopt, std::nullopt};
   const bool isMath = mathChannel() == channel;
-  if (isMath || mathMayBeOn_ || changedAt(math) > moment) made.voltsPerDivision.reset();
+  if (isMath || isMathDoubted() || changedAt(math) > moment) made.voltsPerDivision.reset();
   if (isMath && isKnown(math) && changedAt(math) <= moment)
     made.mathEntry = static_cast<int>(*number(math));
   return made;

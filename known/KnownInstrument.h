@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 
@@ -75,8 +76,8 @@ class KnownInstrument {
   /// The channel in whose place the instrument shows its math, as known now or last; 0 for none.
   /// Math that was set elsewhere is not known here.
   int mathChannel() const;
-  /// Something that was sent may have set math: no record is surely a channel's own.
-  bool mayMathBeOn() const { return mathMayBeOn_; }
+  /// It was on and may have been left on, or something that was sent may have set it.
+  bool mayMathBeOn() const;
   /// The panel has stopped the instrument.
   bool isStopped() const;
 
@@ -123,6 +124,7 @@ class KnownInstrument {
   std::optional<Value> toldValue(Setting setting, std::string_view reply) const;
   MadeUnder settingsAt(int channel, Moment moment) const;
   Moment sweptSince(int channel) const;
+  bool isMathDoubted() const { return mathDoubtedOn_.contains(presentLine().portNumber); }
   void tell() const {
     if (changed) changed();
   }
@@ -138,8 +140,8 @@ class KnownInstrument {
     Moment requested = 0;
   };
   std::array<Swept, 2> swept_;
-  /// Something may have switched math on, for an unknown channel.
-  bool mathMayBeOn_ = false;
+  /// The ports behind which something may have switched math on, for an unknown channel.
+  std::set<std::int16_t> mathDoubtedOn_;
   /// The settings under which a stopped instrument made the records that it sends.
   std::array<MadeUnder, 2> atStop_;
 };

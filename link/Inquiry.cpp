@@ -5,6 +5,10 @@
 
 namespace tracewell {
 
+Inquiry* Inquiries::current() const {
+  return current_ != nullptr && !current_->isAside() ? current_ : nullptr;
+}
+
 Inquiry::Inquiry(Inquiries& all, const Property<std::string>& caption, Of items, int count)
     : Inquiry(all, std::function<std::string()>([&caption] { return caption(); }), items, count) {}
 

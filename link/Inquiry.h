@@ -18,8 +18,8 @@ class Inquiries {
  public:
   explicit Inquiries(frmDSO& main) : main_(main) {}
 
-  /// The innermost series under way, or null.
-  Inquiry* current() const { return current_; }
+  /// The innermost series of the handler that runs, or null.
+  Inquiry* current() const;
   /// Why the last exchange failed, in the port's words; empty after a success and after silence.
   void noteFailure(const std::string& reason) { failure_ = reason; }
 
@@ -52,6 +52,8 @@ class Inquiry {
   void note(bool isAnswered) { isAnswered_ = isAnswered; }
   /// The user does not want to wait any longer.
   bool isGivenUp() const { return waits_.isGivenUp(); }
+  /// Other handlers run meanwhile.
+  bool isAside() const { return waits_.isAside(); }
 
  private:
   Inquiry(Inquiries& all, std::function<std::string()> name, Of items, int count);

@@ -80,7 +80,7 @@ void frmChannel::show(int place, const std::string& reply) {
 }
 
 /// Selects the option that the reply names, or marks the group. Where none is selected yet it is
-/// the one of the setup: what is sent is always shown.
+/// the one of the setup, which OK would send.
 void frmChannel::showOption(Frame& group, ControlArray<OptionButton>& options,
                             const std::string& reply, int place) {
   const auto isSelected = [](const OptionButton& option) { return option.value(); };

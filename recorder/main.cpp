@@ -52,7 +52,9 @@ class ConsoleDialogs : public Dialogs {
   void showRunTimeError(const Error& error) override { console_.say(error.description()); }
 
  private:
-  Answer answerYesNo(const std::string&, const std::string&) override { return Answer::No; }
+  Answer answerYesNo(const std::string&, const std::string&, Answer usual) override {
+    return usual;
+  }
   std::filesystem::path fileToOpen(const FileDialog&) override { return {}; }
   std::filesystem::path fileToSave(const FileDialog&) override { return {}; }
   Colour pickedColour(Colour initial) override { return initial; }

@@ -74,13 +74,16 @@ MeasurementLog::MeasurementLog(fs::path path, MeasurementColumns columns, std::i
 }
 
 MeasurementLog::~MeasurementLog() {
-  finish(failedAt_ + retryInterval);
+  finish(failedAt_);
 }
 
+/// A file that another program has had is only found out then, and begun anew at once.
 bool MeasurementLog::finish(std::int64_t now) {
-  if (!file_) reopen(now);
-  writePending(now);
-  flush(now);
+  for (int tries = 0; tries < 2 && (tries == 0 || !pending_.empty()); ++tries) {
+    if (!file_) reopen(now);
+    writePending(now);
+    flush(now);
+  }
   return pending_.empty();
 }
 

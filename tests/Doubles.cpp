@@ -12,7 +12,7 @@ namespace tracewell {
 
 namespace fs = std::filesystem;
 
-Answer RecordingDialogs::answerYesNo(const std::string& prompt, const std::string& title) {
+Answer RecordingDialogs::answerYesNo(const std::string& prompt, const std::string& title, Answer) {
   told.raise("? " + title + ": " + prompt);
   if (meanwhile) meanwhile();
   return answer;

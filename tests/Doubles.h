@@ -86,7 +86,7 @@ class RecordingDialogs : public Dialogs {
   void showRunTimeError(const Error& error) override;
 
  private:
-  Answer answerYesNo(const std::string& prompt, const std::string& title) override;
+  Answer answerYesNo(const std::string& prompt, const std::string& title, Answer) override;
   std::filesystem::path fileToOpen(const FileDialog& dialog) override;
   std::filesystem::path fileToSave(const FileDialog& dialog) override { return fileToOpen(dialog); }
   Colour pickedColour(Colour) override { return colour; }

@@ -900,8 +900,8 @@
         <translation>Manuel et touches</translation>
     </message>
     <message>
-        <source>Math may be on: choose an entry of it to know the traces</source>
-        <translation>Le calcul est peut-être actif : en choisir une entrée pour connaître les courbes</translation>
+        <source>Math may be on: choose an entry in its box to be sure</source>
+        <translation>Le calcul est peut-être actif : choisir une entrée dans sa liste pour en être sûr</translation>
     </message>
     <message>
         <source>Maximum</source>
@@ -1260,8 +1260,8 @@
         <translation>Journal de l'enregistreur : %1</translation>
     </message>
     <message>
-        <source>Recorder's log: %1 cannot be written. %2. Go on and keep them?</source>
-        <translation>Journal de l'enregistreur : %1 impossibles à écrire. %2. Continuer et les garder ?</translation>
+        <source>Recorder's log: %1 cannot be written. %2. Give them up?</source>
+        <translation>Journal de l'enregistreur : %1 impossibles à écrire. %2. Les abandonner ?</translation>
     </message>
     <message>
         <source>Records along time</source>

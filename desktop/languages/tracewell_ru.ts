@@ -900,8 +900,8 @@
         <translation>Руководство и клавиши</translation>
     </message>
     <message>
-        <source>Math may be on: choose an entry of it to know the traces</source>
-        <translation>Возможно, включена математика: выберите её пункт, чтобы трассы были известны</translation>
+        <source>Math may be on: choose an entry in its box to be sure</source>
+        <translation>Возможно, включена математика: выберите пункт в её списке, чтобы знать точно</translation>
     </message>
     <message>
         <source>Maximum</source>
@@ -1260,8 +1260,8 @@
         <translation>Журнал регистратора: %1</translation>
     </message>
     <message>
-        <source>Recorder's log: %1 cannot be written. %2. Go on and keep them?</source>
-        <translation>Журнал регистратора: не удаётся записать %1. %2. Продолжить и сохранить их в памяти?</translation>
+        <source>Recorder's log: %1 cannot be written. %2. Give them up?</source>
+        <translation>Журнал регистратора: не удаётся записать %1. %2. Отказаться от них?</translation>
     </message>
     <message>
         <source>Records along time</source>

@@ -900,8 +900,8 @@
         <translation>手册与按键</translation>
     </message>
     <message>
-        <source>Math may be on: choose an entry of it to know the traces</source>
-        <translation>数学运算可能已开启：请选择其中一项以确定波形</translation>
+        <source>Math may be on: choose an entry in its box to be sure</source>
+        <translation>数学运算可能已开启：请在其列表中选择一项以便确定</translation>
     </message>
     <message>
         <source>Maximum</source>
@@ -1260,8 +1260,8 @@
         <translation>记录仪日志：%1</translation>
     </message>
     <message>
-        <source>Recorder's log: %1 cannot be written. %2. Go on and keep them?</source>
-        <translation>记录仪日志：%1 无法写入。%2。继续并保留它们吗？</translation>
+        <source>Recorder's log: %1 cannot be written. %2. Give them up?</source>
+        <translation>记录仪日志：%1 无法写入。%2。放弃它们吗？</translation>
     </message>
     <message>
         <source>Records along time</source>

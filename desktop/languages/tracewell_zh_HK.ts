@@ -900,8 +900,8 @@
         <translation>手冊同按鍵</translation>
     </message>
     <message>
-        <source>Math may be on: choose an entry of it to know the traces</source>
-        <translation>數學運算可能開咗：揀其中一項先可以確定波形</translation>
+        <source>Math may be on: choose an entry in its box to be sure</source>
+        <translation>數學運算可能開咗：喺佢個清單揀一項先可以肯定</translation>
     </message>
     <message>
         <source>Maximum</source>
@@ -1260,8 +1260,8 @@
         <translation>記錄儀日誌：%1</translation>
     </message>
     <message>
-        <source>Recorder's log: %1 cannot be written. %2. Go on and keep them?</source>
-        <translation>記錄儀日誌：%1 寫唔到。%2。繼續並保留佢哋？</translation>
+        <source>Recorder's log: %1 cannot be written. %2. Give them up?</source>
+        <translation>記錄儀日誌：%1 寫唔到。%2。放棄佢哋？</translation>
     </message>
     <message>
         <source>Records along time</source>

@@ -133,7 +133,7 @@ void RecorderWindow::connectParts() {
   connect(pinName_, &QLineEdit::textChanged, this, [this] { showPins(); });
   connect(pins_, &QComboBox::activated, this, [this](int index) {
     if (index > 0) view_.select(pins_->itemData(index).toLongLong());
-    showSoon();
+    goOn();
   });
   connect(showInPanel_, &QPushButton::clicked, this, [this] { run([this] { showInPanel(); }); });
   connect(copy_, &QPushButton::clicked, this, [this] { run([this] { copy(); }); });

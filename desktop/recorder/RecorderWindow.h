@@ -49,8 +49,8 @@ class RecorderWindow : public QWidget {
   void sayTexts();
   RecorderLook look() const;
   void takeLook();
-  /// All that shows has changed; painted once an event-loop turn.
   void goOn();
+  /// All that shows has changed; painted once an event-loop turn.
   void showSoon();
   void showAll();
   void showPins();

@@ -282,8 +282,8 @@ bool Conversation::isSilent() const {
 }
 
 void Conversation::makeReadyToAsk(int timeOut) {
-  if (standBy_.isGivenUp()) throw timeOutError();
   abandon();
+  if (standBy_.isGivenUp()) throw timeOutError();
   hear(take(0));
   drainTime_ = std::max(timeOut + drainMargin, longestThought);
   review();

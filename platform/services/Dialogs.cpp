@@ -15,8 +15,8 @@ auto asked(const Gate& gate, Ask ask) {
 
 }  // namespace
 
-Answer Dialogs::askYesNo(const std::string& prompt, const std::string& title) {
-  return asked(gate_, [&] { return answerYesNo(prompt, title); });
+Answer Dialogs::askYesNo(const std::string& prompt, const std::string& title, Answer usual) {
+  return asked(gate_, [&] { return answerYesNo(prompt, title, usual); });
 }
 
 std::filesystem::path Dialogs::openFile(const FileDialog& dialog) {

@@ -30,7 +30,8 @@ class Dialogs {
   explicit Dialogs(const Gate& gate) : gate_(gate) {}
   virtual ~Dialogs() = default;
 
-  Answer askYesNo(const std::string& prompt, const std::string& title);
+  /// `usual` is what Enter answers; Escape answers no.
+  Answer askYesNo(const std::string& prompt, const std::string& title, Answer usual = Answer::Yes);
 
   /// Says what went wrong and what the program did about it.
   virtual void showMessage(const std::string& text) = 0;
@@ -48,7 +49,7 @@ class Dialogs {
   Colour pickColour(Colour initial);
 
  private:
-  virtual Answer answerYesNo(const std::string& prompt, const std::string& title) = 0;
+  virtual Answer answerYesNo(const std::string& prompt, const std::string& title, Answer usual) = 0;
   virtual std::filesystem::path fileToOpen(const FileDialog& dialog) = 0;
   virtual std::filesystem::path fileToSave(const FileDialog& dialog) = 0;
   virtual Colour pickedColour(Colour initial) = 0;

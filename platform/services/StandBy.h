@@ -39,6 +39,7 @@ class StandBy {
     }
     Burst(const Burst&) = delete;
     bool isGivenUp() const { return isGivenUp_; }
+    bool isAside() const { return asides_ != standBy_.asides_; }
 
    private:
     friend StandBy;
@@ -50,8 +51,8 @@ class StandBy {
     bool isGivenUp_;
   };
 
-  /// As long as it lives other handlers run, whose waits are bursts of their own. Outside those,
-  /// the one that has gone aside is given up.
+  /// As long as it lives other handlers run. Each of them waits in a burst of its own; while none
+  /// of them does, giving up is for the burst that has gone aside.
   class Aside {
    public:
     explicit Aside(StandBy& standBy) : standBy_(standBy) { ++standBy_.asides_; }
@@ -71,9 +72,7 @@ class StandBy {
     if (isInBurst()) innermost_->isGivenUp_ = true;
   }
   /// Whether the burst that waits now is given up.
-  bool isGivenUp() const {
-    return isInBurst() && innermost_->asides_ == asides_ && innermost_->isGivenUp_;
-  }
+  bool isGivenUp() const { return isInBurst() && !innermost_->isAside() && innermost_->isGivenUp_; }
 
  private:
   Clock& clock_;

@@ -100,9 +100,9 @@ bool Recorder::stopLog() {
 bool Recorder::isGivenUp() const {
   const Services& services = main_.services();
   const std::string question = services.words.say(
-      "Recorder's log: %1 cannot be written. %2. Go on and keep them?",
+      "Recorder's log: %1 cannot be written. %2. Give them up?",
       {rowsText(services.words, log_->held()), log_->trouble().value_or(pathText(log_->path()))});
-  return services.dialogs.askYesNo(question, main_.caption()) == Answer::No;
+  return services.dialogs.askYesNo(question, main_.caption(), Answer::No) == Answer::Yes;
 }
 
 std::string Recorder::logText(const Words& words) const {

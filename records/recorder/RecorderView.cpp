@@ -25,25 +25,6 @@ std::string number(std::size_t count) {
 
 }  // namespace
 
-void RecorderView::show(int channel) {
-  channel_ = channel;
-  pointAtShown();
-}
-
-/// The one pointed at may have gone out of the store, or be of the other channel. Then it is the
-/// nearest one that shows, rather the earlier one; without any the newest to come.
-void RecorderView::pointAtShown() {
-  if (isFollowing_ || !selected_) return;
-  if (!store_.isKept(*selected_)) selected_ = store_.first();
-  if (isShown(store_.facts(*selected_).channel)) return;
-  auto nearest = nextShown(*selected_, -1);
-  if (!nearest) nearest = nextShown(*selected_, 1);
-  if (nearest)
-    select(*nearest);
-  else
-    follow(true);
-}
-
 std::optional<RecordStore::Number> RecorderView::nextShown(Number from, int direction) const {
   Number ahead = std::clamp(from, store_.first() - 1, store_.end()) + direction;
   while (ahead >= store_.first() && ahead < store_.end()) {
@@ -59,8 +40,14 @@ void RecorderView::follow(bool isFollowing) {
   if (isFollowing) recordKept();
 }
 
+/// The one pointed at may have gone out of the store since, or be of the other channel. Then it is
+/// the next earlier one that shows, or else the next later one.
 std::optional<RecordStore::Number> RecorderView::selected() const {
-  if (!isFollowing_) return selected_;
+  if (!isFollowing_ && selected_) {
+    if (store_.isKept(*selected_) && isShown(store_.facts(*selected_).channel)) return selected_;
+    for (const int direction : {-1, 1})
+      if (const auto nearest = nextShown(*selected_, direction)) return nearest;
+  }
   if (channel_ != 0) return store_.newestOf(channel_);
   return store_.size() > 0 ? std::optional(store_.end() - 1) : std::nullopt;
 }
@@ -102,9 +89,8 @@ std::optional<RecordStore::Number> RecorderView::shownOf(int channel) const {
   return std::nullopt;
 }
 
-/// What has gone out of the store cannot be pointed at any longer; nor can it be marked.
+/// What has gone out of the store cannot be marked any longer.
 void RecorderView::recordKept() {
-  pointAtShown();
   if (marked_) {
     marked_->first = std::max(marked_->first, store_.first());
     if (marked_->second < marked_->first) unmark();

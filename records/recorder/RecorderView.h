@@ -28,11 +28,11 @@ class RecorderView {
 
   /// 1 or 2; 0 for both.
   int channel() const { return channel_; }
-  void show(int channel);
+  void show(int channel) { channel_ = channel; }
   /// Goes with the newest record until another one is pointed at.
   bool isFollowing() const { return isFollowing_; }
   void follow(bool isFollowing);
-  /// Always of a channel that is shown; none as long as nothing of it has been kept.
+  /// Always one that is kept, of a channel that is shown; none where there is no such record.
   std::optional<Number> selected() const;
   /// Of a channel that is not shown: then both are.
   void select(Number number);
@@ -94,7 +94,6 @@ class RecorderView {
   bool measureMore(int most) { return statistics_.work(most); }
 
  private:
-  void pointAtShown();
   /// The next record of the channels that are shown, in one direction; none at the end.
   std::optional<Number> nextShown(Number from, int direction) const;
   bool isShown(int channel) const { return channel_ == 0 || channel_ == channel; }

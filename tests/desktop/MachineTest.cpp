@@ -200,11 +200,17 @@ TEST_F(DesktopDialogsTest, ColourStaysUnlessOneIsPicked) {
 }
 
 TEST_F(DesktopDialogsTest, AloneTheProgramAsksAndShowsNothing) {
+  for (const Answer usual : {Answer::Yes, Answer::No}) {
+    use<QMessageBox>([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Return); });
+    EXPECT_EQ(dialogs.askYesNo("End?", "Tracewell", usual), usual);
+  }
   use<QMessageBox>([&](QMessageBox&) { dialogs.goOnAlone(); });
   EXPECT_EQ(dialogs.askYesNo("End?", "Tracewell"), Answer::No);
   testing::internal::CaptureStderr();
+  EXPECT_EQ(dialogs.askYesNo("End?", "Tracewell"), Answer::Yes);
   dialogs.showMessage("not \x1Bsaved");
-  EXPECT_EQ(testing::internal::GetCapturedStderr(), "tracewell: not \uFFFDsaved\n");
+  EXPECT_EQ(testing::internal::GetCapturedStderr(),
+            "tracewell: End? Yes\ntracewell: not \uFFFDsaved\n");
 }
 
 }  // namespace

@@ -95,7 +95,14 @@ TEST_F(PaperTest, AUserWhoIsAskedFindsThePaperAsItFits) {
   accept();
   EXPECT_TRUE(printer.printText("Trigger ... [2]\r\n"));
   EXPECT_EQ(printer.file(), fromQt(folder.filePath(QStringLiteral("2"))));
-  EXPECT_EQ(found, QList({QPageLayout::Landscape, QPageLayout::Portrait}));
+  // Setting up without turning it leaves that to the prints.
+  accept();
+  printer.setUp();
+  EXPECT_TRUE(printer.printPage({}));
+  accept();
+  EXPECT_TRUE(printer.printText("Trigger ... [2]\r\n"));
+  EXPECT_EQ(found, QList({QPageLayout::Landscape, QPageLayout::Portrait, QPageLayout::Portrait,
+                          QPageLayout::Portrait}));
 }
 
 TEST_F(PaperTest, PlaceThatCannotBeWrittenIsAnErrorThatNamesIt) {

@@ -92,6 +92,9 @@ TEST_F(RecorderViewTest, ARecordThatGoesOutOfTheStoreIsPointedAtNoLonger) {
   EXPECT_TRUE(view.title().ends_with("pinned"));
   view.step(1);
   EXPECT_EQ(view.selected(), store.first());
+  view.select(0);
+  store.letGo(0);
+  EXPECT_EQ(view.selected(), store.first());
 }
 
 TEST_F(RecorderViewTest, ARecordOfAChannelThatIsNotShownIsPointedAtNever) {
@@ -235,11 +238,12 @@ TEST_F(RecorderTest, ThePanelSaysThatRowsOfTheLogWait) {
   EXPECT_EQ(main.lblStatus.caption().find("Recorder's log: Waiting in memory: 1 row. "), 0U)
       << main.lblStatus.caption();
   // Nobody gives them up unasked.
+  dialogs.answer = Answer::No;
   program.main.close();
   EXPECT_FALSE(gate.isClosed());
   EXPECT_FALSE(recorder.stopLog());
   EXPECT_TRUE(recorder.log());
-  dialogs.answer = Answer::No;
+  dialogs.answer = Answer::Yes;
   EXPECT_TRUE(recorder.stopLog());
   EXPECT_FALSE(recorder.log());
   EXPECT_EQ(main.lblStatus.caption(), "");

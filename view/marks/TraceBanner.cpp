@@ -58,8 +58,12 @@ std::string warning(const frmDSO& main, const Words& words) {
     return ageText(words, *late, main.services().clock.milliseconds());
   if (firstTrace(main, [&](const Channel& channel) { return isScaleMissing(main, channel); }))
     return toRead(main, words);
-  if (main.known.mayMathBeOn() && firstTrace(main, [](const Channel&) { return true; }))
-    return words.say("Math may be on: choose an entry of it to know the traces");
+  const auto mayBeMath = [](const Channel& channel) {
+    const MadeUnder& made = channel.record.madeUnder;
+    return !made.voltsPerDivision && !made.mathEntry;
+  };
+  if (main.known.mayMathBeOn() && firstTrace(main, mayBeMath))
+    return words.say("Math may be on: choose an entry in its box to be sure");
   return "";
 }
 
