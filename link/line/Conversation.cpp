@@ -312,7 +312,7 @@ void Conversation::drain(int timeOut) {
   while (state_ != State::idle) {
     if (clock_.milliseconds() >= deadline) {
       isRestless_ = true;
-      account_.missedAnswer();
+      account_.missedAnswer(clock_.milliseconds());
       throw timeOutError();
     }
     hear(listen(std::min(deadline, trustedAt())));
@@ -358,7 +358,7 @@ void Conversation::leaveUnanswered() {
   state_ = State::draining;
   isQuestionOwed_ = true;
   ++unansweredInRow_;
-  account_.missedAnswer();
+  account_.missedAnswer(clock_.milliseconds());
 }
 
 void Conversation::arrived() {

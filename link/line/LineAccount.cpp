@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "LineAccount.h"
 
+#include <algorithm>
+
 namespace tracewell {
 namespace {
 
@@ -8,6 +10,9 @@ constexpr int secondsKept = 60;
 /// An acquisition asks for its next record within this time; a longer break was not spent waiting.
 /// Milliseconds.
 constexpr int longestBreak = 5000;
+/// A reply that was missed may be later than any should be. The next query may have got it, and so
+/// on, until one is left over. Milliseconds.
+constexpr int longestLate = 10000;
 
 }  // namespace
 
@@ -45,7 +50,7 @@ void LineAccount::beginAnew() {
 
 void LineAccount::heardUnasked(int bytes, std::int64_t since, std::int64_t now) {
   unasked_.add(bytes, now);
-  if (!answerAt_ || since >= *answerAt_ + longestThought_) return;
+  if (!answerAt_ || since >= mayBeLateUntil()) return;
   rest_.doubt = {rest_.doubt.times + 1, *seriesFrom_, *answerAt_};
   seriesFrom_.reset();
   answerAt_.reset();
@@ -76,9 +81,21 @@ void LineAccount::gaveRecord(std::int64_t now) {
 }
 
 void LineAccount::gaveAnswer(std::int64_t askedAt, std::int64_t now) {
-  if (!answerAt_ || askedAt >= *answerAt_ + longestThought_) seriesFrom_ = now;
+  if (missedAt_ && askedAt >= std::max(*missedAt_, answerAt_.value_or(0)) + longestLate)
+    missedAt_.reset();
+  if (!answerAt_ || askedAt >= mayBeLateUntil()) seriesFrom_ = now;
   answerAt_ = now;
   rest_.unansweredInRow = 0;
+}
+
+void LineAccount::missedAnswer(std::int64_t now) {
+  missedAt_ = now;
+  ++rest_.unansweredInRow;
+}
+
+/// The last replies that were returned may belong to others if there is one too many until then.
+std::int64_t LineAccount::mayBeLateUntil() const {
+  return missedAt_ ? std::max(*missedAt_, *answerAt_) + longestLate : *answerAt_ + longestThought_;
 }
 
 }  // namespace tracewell

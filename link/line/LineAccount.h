@@ -32,7 +32,7 @@ class LineAccount {
   /// A record is wanted; repeated while the acquisition runs.
   void wantedRecord(std::int64_t now);
   void gaveRecord(std::int64_t now);
-  void missedAnswer() { ++rest_.unansweredInRow; }
+  void missedAnswer(std::int64_t now);
   /// The reply to a query sent at `askedAt` is returned.
   void gaveAnswer(std::int64_t askedAt, std::int64_t now);
 
@@ -52,6 +52,8 @@ class LineAccount {
     std::optional<std::int64_t> lastAt_;
   };
 
+  std::int64_t mayBeLateUntil() const;
+
   int longestThought_;
   Minute unasked_;
   Minute short_;
@@ -63,6 +65,8 @@ class LineAccount {
   std::optional<std::int64_t> wantedAt_;
   std::optional<std::int64_t> seriesFrom_;
   std::optional<std::int64_t> answerAt_;
+  /// The last query that had no reply, as long as that may still come.
+  std::optional<std::int64_t> missedAt_;
 };
 
 }  // namespace tracewell
