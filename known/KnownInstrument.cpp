@@ -35,6 +35,14 @@ std::optional<std::string> captionOf(Setting scale, std::string_view argument) {
   return scale == timeBase ? find(TimeDivValue, TimeDivText) : find(VoltDivValue, VoltDivText);
 }
 
+/// The instrument has no other scales: what differs by one character is damaged.
+bool isCaption(Setting scale, std::string_view reply) {
+  const auto has = [&](const auto& texts) {
+    return std::ranges::find(texts, reply) != texts.end();
+  };
+  return scale == timeBase ? has(TimeDivText) : has(VoltDivText);
+}
+
 std::optional<double> plainNumber(std::string_view text) {
   if (!isNumeric(text)) return std::nullopt;
   return toDouble(text);
@@ -144,8 +152,10 @@ std::optional<KnownInstrument::Value> KnownInstrument::toldValue(Setting setting
                                                                  std::string_view reply) const {
   reply = trimBlanks(reply);
   if (reply.empty()) return std::nullopt;
-  if (isScale(setting))
+  if (isScale(setting)) {
+    if (!isCaption(setting, reply)) return std::nullopt;
     return Value{trueScale(reply, setting == timeBase ? "s" : "V"), std::string(reply)};
+  }
   std::optional<double> value;
   switch (setting) {
     case position1:

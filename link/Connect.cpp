@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Connect.h"
 
+#include <utility>
+
 #include "ConnectionIndicator.h"
 #include "Waiting.h"
 #include "WaitingNotice.h"
@@ -24,8 +26,13 @@ void Connect::startOrStop() {
     return;
   }
   main_.tmDSO.enabled = !main_.tmDSO.enabled();
+  isShowDue_ = true;
   Delay(main_, 1000);
-  showAcquisition();
+  showDue();
+}
+
+void Connect::showDue() {
+  if (std::exchange(isShowDue_, false)) showAcquisition();
 }
 
 bool Connect::connectFirst() {

@@ -15,6 +15,8 @@ class Connect {
   void cmdStart_Click();
   /// Reads the instrument again, after the port's settings have changed, then goes on as cmdStart.
   void cmdRS232_Click();
+  /// Shows the state of the acquisition, if cmdStart still waits to do so.
+  void showDue();
 
  private:
   void startOrStop();
@@ -26,6 +28,7 @@ class Connect {
   CommandExchange& exchange_;
   InstrumentState& instrument_;
   ErrorLog& errorLog_;
+  bool isShowDue_ = false;
 };
 
 }  // namespace tracewell

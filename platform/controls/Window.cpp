@@ -23,6 +23,7 @@ void Window::load() {
 void Window::showModal() {
   services_.gate.mustBeOpen();
   if (isVisible_) return;
+  if (services_.standBy.beforeModal) services_.standBy.beforeModal();
   load();
   formActivate.raise();
   isVisible_ = true;

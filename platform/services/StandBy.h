@@ -65,6 +65,9 @@ class StandBy {
 
   /// Called at each turn, so that ages go on while a handler waits. It must not raise events.
   std::function<void()> meanwhile;
+  /// Called before a modal window is shown: a handler that waits around it goes on only when the
+  /// user has closed that.
+  std::function<void()> beforeModal;
 
   bool isInBurst() const { return innermost_ != nullptr; }
   /// The user gives up the wait. Without a burst it does nothing.
