@@ -47,19 +47,29 @@ void WaveformButtons::graphDSO_FileDropped(const std::filesystem::path& path) {
   loadCSV(path);
 }
 
+/// A file that cannot be drawn leaves the reference that is there.
 void WaveformButtons::loadCSV(const std::filesystem::path& path) {
   main_.txtMsg.text = readWaveformFile(path);
-  const std::vector<double> points = readFirstColumn(main_.txtMsg.text());
+  try {
+    const bool isDrawn = drawReference(path, readFirstColumn(main_.txtMsg.text()));
+    main_.status.tell(isDrawn ? StatusLine::happened : StatusLine::failed, [=](const Words& words) {
+      return isDrawn ? words.say("Loaded %1", {pathText(path)})
+                     : words.say("%1 has no data", {pathText(path)});
+    });
+  } catch (const Error& error) {
+    throw Error(error.number(), error.source(), error.description() + ": " + pathText(path));
+  }
+}
+
+bool WaveformButtons::drawReference(const std::filesystem::path& path,
+                                    const std::vector<double>& points) {
+  if (points.empty()) return false;
   Plot& load1 = main_.graphDSO.plot(ScopeGraph::firstReference);
   load1.plotXvsY(main_.XIndex, points);
   load1.origin = pathText(path.filename());
   load1.scale = "";
   load1.visible = true;
-  const bool isEmpty = points.empty();
-  main_.status.tell(isEmpty ? StatusLine::failed : StatusLine::happened, [=](const Words& words) {
-    return isEmpty ? words.say("%1 has no data", {pathText(path)})
-                   : words.say("Loaded %1", {pathText(path)});
-  });
+  return true;
 }
 
 void WaveformButtons::graphDSO_Copied(Graph::Copied what) {

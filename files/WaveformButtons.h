@@ -35,6 +35,8 @@ class WaveformButtons {
 
  private:
   void loadCSV(const std::filesystem::path& path);
+  /// False without points.
+  bool drawReference(const std::filesystem::path& path, const std::vector<double>& points);
   Image picture() const;
 
   frmDSO& main_;

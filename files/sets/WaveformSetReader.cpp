@@ -41,8 +41,8 @@ void forEachDataLine(std::string_view text, Take take) {
   std::string_view line;
   takeLine(text, line);
   for (int count = 0; takeLine(text, line); ++count) {
-    if (count >= WaveformRecord::sampleCount) throw subscriptError();
     try {
+      if (count >= WaveformRecord::sampleCount) throw subscriptError();
       take(line);
     } catch (const Error& error) {
       const std::string place = " in data line " + std::to_string(count + 1);
