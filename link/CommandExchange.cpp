@@ -123,7 +123,6 @@ std::string CommandExchange::exchange(const std::string& command) {
   else
     main_.services().port.command(command + "\r\n", replyTo(command));
   InRemote = true;
-  main_.cmdLock.value = true;
   main_.LinkOK = true;
   main_.status.withdraw(StatusLine::linkLost);
   return reply;
@@ -149,7 +148,6 @@ void CommandExchange::LoadSetup() {
   try {
     prepare();
     main_.services().port.command(":SYST:UNL\r\n", SerialPort::Reply::none);
-    main_.cmdLock.value = false;
     InRemote = false;
     main_.known.sent(":SYST:UNL");
   } catch (const Error& error) {

@@ -252,7 +252,12 @@ std::map<std::string, std::function<void()>> Played::stepsWith(const std::string
        }},
       {"paper", [this, &value] { printer.isOutOfPaper = value == "none"; }},
       {"decline", [this] { printer.isDeclined = true; }},
-      {"doubt", [this, number] { main.answersDoubted.raise(number(), clock.milliseconds()); }},
+      {"doubt",
+       [this, number] {
+         auto& doubt = port.lineReport.doubt;
+         doubt = {doubt.times + 1, number(), clock.milliseconds()};
+         main.tmStatus.timer.raise();
+       }},
       {"record1", [this, number] { main.Ch1Raw = level(number()); }},
       {"record2", [this, number] { main.Ch2Raw = level(number()); }},
       {"port33",

@@ -27,8 +27,7 @@ void frmGraph::Form_Activate() {
     lblPlot(row).caption = plot.name();
     linePlot(row).borderColour = plot.lineColour();
     cmdLine(row).backColour = plot.lineColour();
-    opSolid(row).value = isSolid ? 1 : 0;
-    opDot(row).value = isSolid ? 0 : 1;
+    (isSolid ? opSolid(row) : opDot(row)).value = true;
     showStyle(row);
   }
   cmdPlotArea.backColour = main_.graphDSO.plotAreaColour();
