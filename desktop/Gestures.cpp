@@ -125,6 +125,17 @@ void chooseCurrentFirst(QAbstractItemView& list) {
   });
 }
 
+void goByLines(QAbstractItemView& table) {
+  new EventWatch(&table, [&table](const QEvent& event) {
+    if (event.type() != QEvent::KeyPress) return false;
+    const int key = static_cast<const QKeyEvent&>(event).key();
+    if (key != Qt::Key_Home && key != Qt::Key_End) return false;
+    const QAbstractItemModel& lines = *table.model();
+    table.setCurrentIndex(lines.index(key == Qt::Key_Home ? 0 : lines.rowCount() - 1, 0));
+    return true;
+  });
+}
+
 void onMoveByKey(QObject* list, const std::function<void()>& action) {
   new EventWatch(list, [action, isPressed = false](const QEvent& event) mutable {
     if (event.type() == QEvent::KeyPress && !static_cast<const QKeyEvent&>(event).isAutoRepeat())

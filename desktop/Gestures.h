@@ -34,6 +34,9 @@ void keepCaretAtEnd(QLineEdit& line);
 /// before onMoveByKey, which must see the key first.
 void chooseCurrentFirst(QAbstractItemView& list);
 
+/// Home and End go to the first and the last line of a table; the toolkit would go along the line.
+void goByLines(QAbstractItemView& table);
+
 /// Runs `action` when the user presses a key that moves through a list. Focus alone, which also
 /// gives a list a current entry, is no choice; nor is the release of a key that was pressed
 /// elsewhere.

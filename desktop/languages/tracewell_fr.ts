@@ -1084,6 +1084,10 @@
         <translation>Pas assez de place pour tout %1 : appuyer d'abord sur %2</translation>
     </message>
     <message>
+        <source>No rows while the traces are stopped</source>
+        <translation>Aucune ligne tant que les courbes sont arrêtées</translation>
+    </message>
+    <message>
         <source>No set is chosen</source>
         <translation>Aucun jeu n’est choisi</translation>
     </message>

@@ -1084,6 +1084,10 @@
         <translation>Для всего %1 не хватает места: сначала нажмите «%2»</translation>
     </message>
     <message>
+        <source>No rows while the traces are stopped</source>
+        <translation>Строк нет, пока трассы остановлены</translation>
+    </message>
+    <message>
         <source>No set is chosen</source>
         <translation>Набор не выбран</translation>
     </message>

@@ -1084,6 +1084,10 @@
         <translation>%1 无法全部显示：请先按“%2”</translation>
     </message>
     <message>
+        <source>No rows while the traces are stopped</source>
+        <translation>波形停止期间没有新行</translation>
+    </message>
+    <message>
         <source>No set is chosen</source>
         <translation>未选择波形组</translation>
     </message>

@@ -1084,6 +1084,10 @@
         <translation>擺唔晒 %1：請先撳「%2」</translation>
     </message>
     <message>
+        <source>No rows while the traces are stopped</source>
+        <translation>波形停咗期間冇新行</translation>
+    </message>
+    <message>
         <source>No set is chosen</source>
         <translation>未選擇波形組</translation>
     </message>

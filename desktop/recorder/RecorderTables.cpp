@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "DesktopWords.h"
+#include "Gestures.h"
 #include "QtValues.h"
 #include "RecorderWords.h"
 
@@ -97,6 +98,7 @@ RecorderTables::RecorderTables(RecorderView& view, QWidget* parent)
     statistics_->setAccessibleName(panelText("Statistics"));
     statistics_->setToolTip(panelText("Of the stretch that is marked, else of all records"));
   });
+  goByLines(*values_);
   connect(values_, &QTableWidget::currentCellChanged, this, [this] { showStatistics(); });
 }
 

@@ -109,7 +109,10 @@ std::string Recorder::logText(const Words& words) const {
   if (!log_) return "";
   const std::int64_t now = main_.services().clock.milliseconds();
   const std::string trouble = troubleText(words);
+  // Nobody else says why no rows come.
+  const bool rests = trouble.empty() && !main_.tmDSO.enabled();
   return trouble + (trouble.empty() ? "" : ". ") +
+         (rests ? words.say("No rows while the traces are stopped") + ". " : "") +
          words.say("%1: %2, %3, %4", {pathText(log_->path()), durationText(log_->duration(now)),
                                       rowsText(words, log_->rows()), sizeText(log_->bytes())});
 }

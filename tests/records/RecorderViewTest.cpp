@@ -218,7 +218,9 @@ TEST_F(RecorderTest, KeepsWhatThePanelFetchesAndLogsEachSweepOnce) {
   recorder.tick();
   EXPECT_EQ(recorder.store().size(), 2U);
   EXPECT_EQ(recorder.log()->rows(), 2U);
-  EXPECT_NE(recorder.logText(Words()).find("2 rows"), std::string::npos);
+  EXPECT_EQ(recorder.logText(Words()).find("No rows while the traces are stopped. "), 0U);
+  main.tmDSO.enabled = true;
+  EXPECT_EQ(recorder.logText(Words()).find(pathText(path) + ": 0:00:00, 2 rows"), 0U);
   // No scale has been read: nothing is beyond a limit.
   EXPECT_EQ(rings, 0);
   EXPECT_TRUE(recorder.store().pinned().empty());
