@@ -111,7 +111,7 @@ bool MeasurementLog::continues(const fs::path& candidate) {
   if (failed) {
     if (whole == 0) file.cutTo(0);
     if (isNew) fs::remove(candidate, unknown);
-    throw fileError(isOutOfRoom(failed) ? diskFull : pathAccess, "Cannot write", candidate, failed);
+    throw cannotWrite(candidate, failed, isOutOfRoom(failed) ? diskFull : pathAccess);
   }
   path_ = candidate;
   rows_ = countLines(candidate) - 1;
@@ -176,7 +176,7 @@ void MeasurementLog::reopen(std::int64_t now) {
   try {
     std::error_code failed;
     if (mustBeCut_) fs::resize_file(path_, safeSize_, failed);
-    if (failed) throw fileError(pathAccess, "Cannot write", path_, failed);
+    if (failed) throw cannotWrite(path_, failed);
     mustBeCut_ = false;
     const std::uintmax_t size = fs::file_size(path_, failed);
     if (failed || size != safeSize_) return begin();

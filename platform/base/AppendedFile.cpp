@@ -15,16 +15,16 @@ AppendedFile::AppendedFile(fs::path path) : path_(std::move(path)) {
   std::error_code failed;
   const fs::file_status status = fs::status(path_, failed);
   isNew_ = status.type() == fs::file_type::not_found;
-  if (!isNew_ && failed) throw fileError(pathAccess, "Cannot write", path_, failed);
-  if (!isNew_ && !fs::is_regular_file(status)) throw fileError(pathAccess, "Not a file", path_);
+  if (!isNew_ && failed) throw cannotWrite(path_, failed);
+  if (!isNew_ && !fs::is_regular_file(status)) throw notAFile(path_);
   file_.reset(openToAppend(path_));
-  if (file_ == nullptr) throw fileError(pathAccess, "Cannot write", path_, lastFailure());
+  if (file_ == nullptr) throw cannotWrite(path_);
   // What could not be written is not to come later by itself.
   std::setvbuf(file_.get(), nullptr, _IONBF, 0);
   if (isNew_ && diskInUse() != nullptr)
     diskInUse()->takeOwner(*file_, path_.has_parent_path() ? path_.parent_path() : ".");
   size_ = fs::file_size(path_, failed);
-  if (failed) throw fileError(pathAccess, "Cannot write", path_, failed);
+  if (failed) throw cannotWrite(path_, failed);
 }
 
 std::error_code AppendedFile::append(std::string_view bytes) {

@@ -19,4 +19,10 @@ inline std::error_code lastFailure() {
   return {errno, std::generic_category()};
 }
 
+Error cannotRead(const std::filesystem::path& path, const std::error_code& reason = lastFailure());
+/// `number` is pathAccess or, where the disk did not take it, diskFull.
+Error cannotWrite(const std::filesystem::path& path, const std::error_code& reason = lastFailure(),
+                  int number = pathAccess);
+Error notAFile(const std::filesystem::path& path);
+
 }  // namespace tracewell

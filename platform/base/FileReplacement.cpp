@@ -36,10 +36,10 @@ fs::path replaceableTarget(const fs::path& path) {
   const fs::file_status itself = fs::symlink_status(path, failed);
   if (itself.type() == fs::file_type::not_found) return path;
   fs::path target = fs::canonical(path, failed);
-  if (failed) throw fileError(pathAccess, "Cannot write", path, failed);
+  if (failed) throw cannotWrite(path, failed);
   const fs::file_status status = fs::status(target, failed);
-  if (failed) throw fileError(pathAccess, "Cannot write", path, failed);
-  if (!fs::is_regular_file(status)) throw fileError(pathAccess, "Not a file", path);
+  if (failed) throw cannotWrite(path, failed);
+  if (!fs::is_regular_file(status)) throw notAFile(path);
   return target;
 }
 
@@ -99,15 +99,14 @@ class Replacement {
     errno = 0;
     if (std::fwrite(bytes.data(), 1, bytes.size(), file_.get()) != bytes.size() ||
         std::fflush(file_.get()) != 0)
-      throw fileError(diskFull, "Cannot write", path_, lastFailure());
-    if (usedDisk != nullptr) check(usedDisk->flush(*file_), diskFull, "Cannot write");
+      throw cannotWrite(path_, lastFailure(), diskFull);
+    if (usedDisk != nullptr) check(usedDisk->flush(*file_), diskFull);
     errno = 0;
-    if (std::fclose(file_.release()) != 0)
-      throw fileError(diskFull, "Cannot write", path_, lastFailure());
+    if (std::fclose(file_.release()) != 0) throw cannotWrite(path_, lastFailure(), diskFull);
   }
 
   void takeName() {
-    check(renamed(beside_, target_), pathAccess, "Cannot replace");
+    check(renamed(beside_, target_));
     isDone_ = true;
   }
 
@@ -120,7 +119,7 @@ class Replacement {
     }
     if (failed) old_.clear();
     // Where no file was there is nothing to keep.
-    if (failed != std::errc::no_such_file_or_directory) check(failed, pathAccess, "Cannot replace");
+    if (failed != std::errc::no_such_file_or_directory) check(failed);
   }
 
   /// As it was before, or the name under which the old file is.
@@ -135,13 +134,14 @@ class Replacement {
   }
 
   void keepName() const {
-    if (usedDisk != nullptr)
-      check(usedDisk->flushFolder(folder()), diskFull, "Written, but perhaps not for good");
+    if (usedDisk == nullptr) return;
+    if (const std::error_code failed = usedDisk->flushFolder(folder()))
+      throw fileError(diskFull, "Written, but perhaps not for good", path_, failed);
   }
 
  private:
-  void check(const std::error_code& failed, int number, const char* what) const {
-    if (failed) throw fileError(number, what, path_, failed);
+  void check(const std::error_code& failed, int number = pathAccess) const {
+    if (failed) throw cannotWrite(path_, failed, number);
   }
 
   fs::path folder() const { return target_.has_parent_path() ? target_.parent_path() : "."; }
@@ -159,7 +159,7 @@ class Replacement {
       file_ = createExclusively(beside_);
       if (file_ == nullptr && errno != EEXIST) break;
     }
-    if (file_ == nullptr) throw fileError(pathAccess, "Cannot write", path_, lastFailure());
+    if (file_ == nullptr) throw cannotWrite(path_);
   }
 
   /// Before there is any content, so that nobody reads it who could not read the old one.
@@ -169,11 +169,11 @@ class Replacement {
     const bool isNew = old.type() == fs::file_type::not_found;
     if (usedDisk != nullptr) usedDisk->takeOwner(*file_, isNew ? folder() : target_);
     if (isNew) return;
-    check(failed, pathAccess, "Cannot write");
+    check(failed);
     const fs::file_status own = fs::status(beside_, failed);
     if (!failed && old.permissions() != own.permissions())
       fs::permissions(beside_, old.permissions(), failed);
-    check(failed, pathAccess, "Cannot write");
+    check(failed);
   }
 
   static constexpr int mostTries = 20;

@@ -17,11 +17,11 @@ std::ifstream openForReading(const fs::path& path) {
   const fs::file_status status = fs::status(path, failed);
   if (status.type() == fs::file_type::not_found)
     throw fileError(fileNotFound, "File not found", path);
-  if (failed) throw fileError(pathAccess, "Cannot read", path, failed);
-  if (!fs::is_regular_file(status)) throw fileError(pathAccess, "Not a file", path);
+  if (failed) throw cannotRead(path, failed);
+  if (!fs::is_regular_file(status)) throw notAFile(path);
   errno = 0;
   std::ifstream file(path, std::ios::binary);
-  if (!file.is_open()) throw fileError(pathAccess, "Cannot read", path, lastFailure());
+  if (!file.is_open()) throw cannotRead(path);
   return file;
 }
 
@@ -36,7 +36,7 @@ std::string readUpTo(std::ifstream& file, const fs::path& path, std::uintmax_t l
     if (file.gcount() == 0) break;
     bytes.append(block.data(), static_cast<std::size_t>(file.gcount()));
   }
-  if (file.bad()) throw fileError(pathAccess, "Cannot read", path, lastFailure());
+  if (file.bad()) throw cannotRead(path);
   return bytes;
 }
 
@@ -47,6 +47,18 @@ Error fileError(int number, const std::string& what, const fs::path& path,
   std::string text = what + ": " + wholePathText(path);
   if (reason) text += " (" + reason.message() + ")";
   return {number, "Tracewell", text};
+}
+
+Error cannotRead(const fs::path& path, const std::error_code& reason) {
+  return fileError(pathAccess, "Cannot read", path, reason);
+}
+
+Error cannotWrite(const fs::path& path, const std::error_code& reason, int number) {
+  return fileError(number, "Cannot write", path, reason);
+}
+
+Error notAFile(const fs::path& path) {
+  return fileError(pathAccess, "Not a file", path);
 }
 
 std::string pathText(const fs::path& path) {
@@ -95,7 +107,7 @@ FileEnd readFileEnd(const fs::path& path, std::uintmax_t limit) {
   std::ifstream file = openForReading(path);
   file.seekg(0, std::ios::end);
   const std::streamoff size = file.tellg();
-  if (size < 0) throw fileError(pathAccess, "Cannot read", path, lastFailure());
+  if (size < 0) throw cannotRead(path);
   const std::streamoff skipped =
       std::max<std::streamoff>(0, size - static_cast<std::streamoff>(limit));
   file.seekg(skipped);
