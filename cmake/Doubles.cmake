@@ -10,3 +10,4 @@ add_library(tracewell_doubles STATIC
 target_include_directories(tracewell_doubles PUBLIC ${PROJECT_SOURCE_DIR}/tests)
 target_link_libraries(tracewell_doubles PUBLIC tracewell_app tracewell_line GTest::gtest
                       PRIVATE tracewell_warnings)
+read_ahead_by(tracewell_base tracewell_doubles)

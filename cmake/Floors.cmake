@@ -28,6 +28,11 @@ function(tracewell_floor NAME)
   target_include_directories(tracewell_${NAME} SYSTEM PRIVATE ${FLOOR_HEADERS})
   target_link_libraries(tracewell_${NAME} PUBLIC ${FLOOR_SEES}
                         PRIVATE ${FLOOR_LIBRARY} tracewell_warnings)
+  if(NAME STREQUAL base)
+    read_ahead(tracewell_base ${STANDARD_HEADERS})
+  else()
+    read_ahead_by(tracewell_base tracewell_${NAME})
+  endif()
 endfunction()
 
 add_subdirectory(platform/base)

@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "GraphGestures.h"
 
-#include <qcustomplot.h>
-
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <cmath>
 
 #include "Graph.h"
+#include "GraphView.h"
 #include "ScaleStrip.h"
 
 namespace tracewell {
@@ -19,8 +18,8 @@ constexpr qreal grip = 6;
 
 }  // namespace
 
-GraphGestures::GraphGestures(QCustomPlot& plot, ScaleStrip& strip, QObject* parent)
-    : QObject(parent), plot_(plot), strip_(strip) {
+GraphGestures::GraphGestures(GraphView& view, QWidget& plot, ScaleStrip& strip)
+    : QObject(&view), view_(view), plot_(plot), strip_(strip) {
   plot.installEventFilter(this);
 }
 
@@ -29,17 +28,12 @@ void GraphGestures::setGraph(Graph* graph) {
   grabbed_ = nullptr;
 }
 
-QPointF GraphGestures::toUnits(const QPointF& position) const {
-  return {plot_.xAxis->pixelToCoord(position.x()), plot_.yAxis->pixelToCoord(position.y())};
-}
-
 std::optional<std::size_t> GraphGestures::cursorAt(const QPointF& position) const {
   if (graph_ == nullptr) return std::nullopt;
   for (std::size_t i = 0; i < graph_->cursors().size(); ++i) {
     const Cursor& cursor = graph_->cursors()[i];
-    const qreal distance = cursor.style() == CursorStyle::verticalLine
-                               ? position.x() - plot_.xAxis->coordToPixel(cursor.xPosition())
-                               : position.y() - plot_.yAxis->coordToPixel(cursor.yPosition());
+    const QPointF away = position - view_.toPixels(cursor.xPosition(), cursor.yPosition());
+    const qreal distance = cursor.style() == CursorStyle::verticalLine ? away.x() : away.y();
     const bool isForUser = cursor.visible() && cursor.style() != CursorStyle::marker;
     if (isForUser && std::fabs(distance) <= grip) return i;
   }
@@ -52,7 +46,7 @@ void GraphGestures::activate(std::size_t cursor) {
 }
 
 void GraphGestures::takeHold(const QMouseEvent& event) {
-  plot_.parentWidget()->setFocus(Qt::MouseFocusReason);
+  view_.setFocus(Qt::MouseFocusReason);
   grabbed_ = nullptr;
   const std::optional<std::size_t> found = cursorAt(event.position());
   if (event.button() != Qt::LeftButton || !found) return;
@@ -61,7 +55,7 @@ void GraphGestures::takeHold(const QMouseEvent& event) {
 }
 
 void GraphGestures::dragTo(const QPointF& position) {
-  const QPointF units = toUnits(position);
+  const QPointF units = view_.toUnits(position);
   graph_->dragCursor(*grabbed_, std::round(units.x()), std::round(units.y()));
 }
 
@@ -78,7 +72,7 @@ void GraphGestures::follow(const QMouseEvent& event) {
 
 void GraphGestures::showValues() {
   if (!pointer_ || graph_ == nullptr || !graph_->valuesAt) return strip_.setValues({});
-  const QPointF units = toUnits(*pointer_);
+  const QPointF units = view_.toUnits(*pointer_);
   strip_.setValues(graph_->valuesAt(units.x(), units.y()));
 }
 
@@ -110,7 +104,7 @@ bool GraphGestures::eventFilter(QObject* watched, QEvent* event) {
       break;
     case QEvent::ContextMenu:
       // The plot keeps mouse events to itself.
-      return QCoreApplication::sendEvent(plot_.parentWidget(), event);
+      return QCoreApplication::sendEvent(&view_, event);
     case QEvent::Leave:
       pointer_.reset();
       showValues();

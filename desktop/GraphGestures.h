@@ -5,14 +5,15 @@
 #include <QPointF>
 #include <optional>
 
-class QCustomPlot;
 class QKeyEvent;
 class QMouseEvent;
+class QWidget;
 
 namespace tracewell {
 
 class Cursor;
 class Graph;
+class GraphView;
 class ScaleStrip;
 
 /// What the mouse does on a graph's plot, and the keyboard on the view around it: drags and steps
@@ -21,8 +22,8 @@ class GraphGestures : public QObject {
   Q_OBJECT
 
  public:
-  /// Filters the plot's events. The view is the plot's parent. Plot and strip outlive the object.
-  GraphGestures(QCustomPlot& plot, ScaleStrip& strip, QObject* parent);
+  /// The view's, whose plot's events it filters. Plot and strip outlive the object.
+  GraphGestures(GraphView& view, QWidget& plot, ScaleStrip& strip);
 
   /// Null for none. Lets go of a cursor of the graph before.
   void setGraph(Graph* graph);
@@ -51,9 +52,9 @@ class GraphGestures : public QObject {
   void showPointerShape(const QPointF& position);
   /// The number of the cursor there, from 0; the marker of the trigger level is none.
   std::optional<std::size_t> cursorAt(const QPointF& position) const;
-  QPointF toUnits(const QPointF& position) const;
 
-  QCustomPlot& plot_;
+  GraphView& view_;
+  QWidget& plot_;
   ScaleStrip& strip_;
   Graph* graph_ = nullptr;
   Cursor* grabbed_ = nullptr;

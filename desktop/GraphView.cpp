@@ -64,7 +64,7 @@ GraphView::GraphView(QWidget* parent)
       strip_(new ScaleStrip(this)),
       plot_(new QCustomPlot(this)),
       caption_(new QLabel(this)),
-      gestures_(new GraphGestures(*plot_, *strip_, this)) {
+      gestures_(new GraphGestures(*this, *plot_, *strip_)) {
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);
@@ -100,10 +100,17 @@ GraphView::GraphView(QWidget* parent)
   note_->setBrush(QColor(0, 0, 0, 170));
   note_->position->setType(QCPItemPosition::ptAxisRectRatio);
   note_->position->setCoords(0.995, 0.99);
-  overlay_ = new GraphOverlay(*plot_, *strip_, [this](double x, double y) {
-    return QPointF(plot_->xAxis->coordToPixel(x), plot_->yAxis->coordToPixel(y));
-  });
+  overlay_ =
+      new GraphOverlay(*plot_, *strip_, [this](double x, double y) { return toPixels(x, y); });
   takeFont();
+}
+
+QPointF GraphView::toPixels(double x, double y) const {
+  return {plot_->xAxis->coordToPixel(x), plot_->yAxis->coordToPixel(y)};
+}
+
+QPointF GraphView::toUnits(const QPointF& pixels) const {
+  return {plot_->xAxis->pixelToCoord(pixels.x()), plot_->yAxis->pixelToCoord(pixels.y())};
 }
 
 GraphView::~GraphView() {

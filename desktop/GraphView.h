@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QPixmap>
+#include <QPointF>
 #include <QWidget>
 #include <array>
 #include <memory>
@@ -43,6 +44,10 @@ class GraphView : public QWidget {
 
   /// The one that is bound, if one is.
   const Graph* graph() const { return graph_; }
+
+  /// A place of the graph on its plot, and back.
+  QPointF toPixels(double x, double y) const;
+  QPointF toUnits(const QPointF& pixels) const;
 
   /// What a saved picture shows: nothing dimmed or marked, no focus.
   QPixmap picture();
