@@ -284,7 +284,6 @@ bool Conversation::isSilent() const {
 void Conversation::makeReadyToAsk(int timeOut) {
   abandon();
   if (standBy_.isGivenUp()) throw timeOutError();
-  hear(take(0));
   drainTime_ = std::max(timeOut + drainMargin, longestThought);
   review();
   if (state_ == State::recordAwaited || state_ == State::recordHeard) finishRecord();
