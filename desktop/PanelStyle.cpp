@@ -50,6 +50,12 @@ QStyleOptionButton inSharedPalette(QStyleOptionButton button) {
   return button;
 }
 
+/// The arrow of a tree's line that is chosen is seen as its text is.
+QStyleOption inHighlightedText(QStyleOption line) {
+  line.palette.setBrush(QPalette::WindowText, line.palette.highlightedText());
+  return line;
+}
+
 /// For the entries of a menu bar that there is no room for. It is read only when it is painted.
 class ExtensionIcon : public QIconEngine {
  public:
@@ -88,6 +94,9 @@ void PanelStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
   if (const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option)) {
     const QStyleOptionButton shared = inSharedPalette(*button);
     QProxyStyle::drawPrimitive(element, &shared, painter, widget);
+  } else if (element == PE_IndicatorBranch && option->state & State_Selected) {
+    const QStyleOption written = inHighlightedText(*option);
+    QProxyStyle::drawPrimitive(element, &written, painter, widget);
   } else {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
   }

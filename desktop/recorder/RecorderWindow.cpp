@@ -31,8 +31,12 @@ constexpr int betweenMeasuring = 20;
 constexpr const char* pictureNames = "|*.jpg *.bmp *.gif *.pcx *.tif *.png";
 
 /// As the panel and a list of records tell it from others.
-std::string nameOf(const RecordFacts& facts) {
-  return channelName(facts.channel) + " " + timeOfDay(facts.wallTime);
+std::string nameOf(const RecordStore& store, RecordStore::Number number) {
+  const RecordFacts& facts = store.facts(number);
+  const std::string own = channelName(facts.channel) + " " + timeOfDay(facts.wallTime);
+  for (const auto& [pinned, name] : store.pinned())
+    if (pinned == number && name != own) return own + " " + name;
+  return own;
 }
 
 }  // namespace
@@ -310,7 +314,7 @@ void RecorderWindow::pinOrLetGo() {
     store.letGo(*pointed);
     return;
   }
-  if (!store.pin(*pointed, name.isEmpty() ? nameOf(store.facts(*pointed)) : fromQt(name)))
+  if (!store.pin(*pointed, name.isEmpty() ? nameOf(store, *pointed) : fromQt(name)))
     return say(panelText("No more records can be pinned"));
   // It is pointed at until the user goes on.
   view_.select(*pointed);
@@ -322,8 +326,8 @@ void RecorderWindow::showInPanel() {
   bool haveRoom = true;
   for (const int channel : {1, 2})
     if (const auto shown = view_.shownOf(channel); shown && haveRoom)
-      haveRoom = showAsReference(recorder_.main(), channel, store.record(*shown),
-                                 nameOf(store.facts(*shown)));
+      haveRoom =
+          showAsReference(recorder_.main(), channel, store.record(*shown), nameOf(store, *shown));
   say(haveRoom ? panelText("It lies over the live traces now")
                : panelText("No reference is free: remove one in the panel first"));
 }
