@@ -40,6 +40,10 @@
         <translation>%1 en divisions : le calcul n'a pas de volts</translation>
     </message>
     <message>
+        <source>%1 is clipped: levels and harmonics are not the signal's own</source>
+        <translation>%1 est écrêtée : niveaux et harmoniques ne sont pas ceux du signal</translation>
+    </message>
+    <message>
         <source>%1 records</source>
         <translation>%1 enregistrements</translation>
     </message>

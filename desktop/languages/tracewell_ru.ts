@@ -40,6 +40,10 @@
         <translation>%1 в делениях: у математики нет вольт</translation>
     </message>
     <message>
+        <source>%1 is clipped: levels and harmonics are not the signal's own</source>
+        <translation>%1 обрезан: уровни и гармоники не принадлежат самому сигналу</translation>
+    </message>
+    <message>
         <source>%1 records</source>
         <translation>записей: %1</translation>
     </message>

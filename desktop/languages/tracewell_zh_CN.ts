@@ -40,6 +40,10 @@
         <translation>%1 以格为单位：数学运算没有伏特值</translation>
     </message>
     <message>
+        <source>%1 is clipped: levels and harmonics are not the signal's own</source>
+        <translation>%1 被削波：电平和谐波并非信号本身的</translation>
+    </message>
+    <message>
         <source>%1 records</source>
         <translation>%1 条记录</translation>
     </message>

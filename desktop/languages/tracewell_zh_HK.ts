@@ -40,6 +40,10 @@
         <translation>%1 以格為單位：數學運算冇伏特值</translation>
     </message>
     <message>
+        <source>%1 is clipped: levels and harmonics are not the signal's own</source>
+        <translation>%1 畀削波：電平同諧波唔係訊號本身嘅</translation>
+    </message>
+    <message>
         <source>%1 records</source>
         <translation>%1 條記錄</translation>
     </message>

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "Converter.h"
 #include "Numbers.h"
 #include "RecorderPicture.h"
 #include "RecorderWords.h"
@@ -44,10 +45,16 @@ RecorderAxis levelAxis(double highest, bool isInDecibels) {
   return {"V", 0, divisions * step, step};
 }
 
-std::string peakText(const SpectrumPeak& peak, bool isInDecibels) {
-  const std::string level = isInDecibels ? formatDecimals(Spectrum::dbv(peak.voltsRms), 1) + " dBV"
-                                         : numberWithUnit(peak.voltsRms, "V");
-  return numberWithUnit(peak.frequency, "Hz") + "\n" + level;
+std::string levelText(const SpectrumPeak& peak, bool isInDecibels) {
+  return isInDecibels ? formatDecimals(Spectrum::dbv(peak.voltsRms), 1) + " dBV"
+                      : numberWithUnit(peak.voltsRms, "V");
+}
+
+bool isClipped(const RecordStore& store, const DrawnRecords& drawn) {
+  return std::ranges::any_of(drawn.numbers, [&store](RecordStore::Number number) {
+    const RecordFacts& facts = store.facts(number);
+    return facts.lowest <= converter::lowest || facts.highest >= converter::highest;
+  });
 }
 
 }  // namespace
@@ -78,6 +85,10 @@ RecorderPicture spectrumPicture(const RecordStore& store, std::span<const DrawnR
                                 ? words.say("%1: %2 from line to line", {name, resolution})
                                 : words.say("%1: mean of %2 spectra, %3 from line to line",
                                             {name, std::to_string(spectrum->records), resolution}));
+    const bool hasNoLevels = isClipped(store, drawn);
+    if (hasNoLevels)
+      picture.notes.push_back(
+          words.say("%1 is clipped: levels and harmonics are not the signal's own", {name}));
     RecorderCurve curve{RecorderCurve::record, drawn.channel, 0, {}, {}};
     for (std::size_t bin = 0; bin < spectrum->voltsRms.size(); ++bin) {
       const double volts = spectrum->voltsRms[bin];
@@ -90,8 +101,10 @@ RecorderPicture spectrumPicture(const RecordStore& store, std::span<const DrawnR
     for (const SpectrumPeak& peak : peaksOf(*spectrum, peaksNamed)) {
       if (peak.voltsRms < least) continue;
       const double level = choice.isInDecibels ? Spectrum::dbv(peak.voltsRms) : peak.voltsRms;
-      picture.labels.push_back(
-          {drawn.channel, peak.frequency, level, peakText(peak, choice.isInDecibels)});
+      const std::string told =
+          hasNoLevels ? words.say("clipped") : levelText(peak, choice.isInDecibels);
+      picture.labels.push_back({drawn.channel, peak.frequency, level,
+                                numberWithUnit(peak.frequency, "Hz") + "\n" + told});
     }
     picture.curves.push_back(std::move(curve));
     picture.y.at(static_cast<std::size_t>(drawn.channel - 1)).emplace();

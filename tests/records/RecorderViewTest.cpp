@@ -173,6 +173,16 @@ TEST_F(RecorderViewTest, CursorsSayWhoseVoltsTheyAre) {
             (Lines{"P1 = -25.00 dBV", "P2 = -50.00 dBV", "Δ = 25.00 dB"}));
 }
 
+TEST_F(RecorderViewTest, LevelsOfASpectrumAreThoseOfASignalThatIsNotClipped) {
+  view.choice.mode = RecorderMode::spectrum;
+  keep(1, sineRecord(100));
+  EXPECT_EQ(view.picture().labels.at(0).text, "1.000 kHz\n-3.0 dBV");
+  keep(1, sineRecord(300));
+  const RecorderPicture picture = view.picture();
+  EXPECT_EQ(picture.labels.at(0).text, "1.000 kHz\nclipped");
+  EXPECT_EQ(picture.notes.at(1), "CH1 is clipped: levels and harmonics are not the signal's own");
+}
+
 TEST_F(RecorderViewTest, StatisticsAreThoseOfTheStretch) {
   for (const int level : {0, 50, 100, 150, 200}) keepLevel(1, level);
   keepLevel(2, 200);
