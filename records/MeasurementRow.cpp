@@ -10,8 +10,10 @@
 namespace tracewell {
 
 bool MeasurementLimit::isPassed(const OwnMeasurements& values) const {
-  const auto& own = values[quantity].value;
-  return own && (isUpper ? *own > value : *own < value);
+  const OwnValue& own = values[quantity];
+  const auto& bound = isUpper ? own.above : own.below;
+  const auto& told = own.value ? own.value : bound;
+  return told && (isUpper ? *told > value : *told < value);
 }
 
 /// None for what is no number, or larger than one can be.

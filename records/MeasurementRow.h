@@ -20,7 +20,7 @@ struct MeasurementLimit {
   /// As it is written into rows.
   std::string text;
 
-  /// A value that is none is beyond no limit.
+  /// A value that is none is beyond a limit if it is so for sure: what is clipped, or too fast.
   bool isPassed(const OwnMeasurements& values) const;
 };
 

@@ -133,8 +133,11 @@ void measureHeights(const Shape& shape, OwnMeasurements& found) {
   const Levels& levels = shape.levels;
   const bool isClipped = levels.isClipped();
   found[maximum] = unless(levels.isClippedAbove, levels.maximum);
+  if (levels.isClippedAbove) found[maximum].above = levels.maximum;
   found[minimum] = unless(levels.isClippedBelow, levels.minimum);
+  if (levels.isClippedBelow) found[minimum].below = levels.minimum;
   found[peakToPeak] = unless(isClipped, levels.maximum - levels.minimum);
+  if (isClipped) found[peakToPeak].above = levels.maximum - levels.minimum;
   found[mean] = unless(isClipped, shape.mean);
   found[rms] = unless(isClipped, std::sqrt(shape.meanSquare));
   found[acRms] = unless(isClipped, std::sqrt(shape.variance));
@@ -191,7 +194,7 @@ OwnValue edgeTime(const Shape& shape, bool isRising, const OwnValue& height) {
     if (edge.isRising == isRising && edge.duration) durations.add(OwnValue::of(*edge.duration));
   if (durations.count() == 0) return OwnValue::no(NoValue::lessThanPeriod);
   if (*durations.mean() >= fewestOfEdge) return OwnValue::of(*durations.mean());
-  return {std::nullopt, NoValue::tooFewSamples, fewestOfEdge};
+  return {std::nullopt, NoValue::tooFewSamples, fewestOfEdge, {}};
 }
 
 OwnMeasurements measured(const Shape& shape) {
@@ -215,13 +218,15 @@ bool isWhole(const ChannelRecord& record) {
 }
 
 void scale(OwnValue& measurement, std::optional<double> factor) {
-  if (!measurement.value && !measurement.below) return;
+  if (!measurement.value && !measurement.below && !measurement.above) return;
   if (!factor) {
-    measurement = OwnValue::no(NoValue::scaleNotKnown);
+    const bool isClipped = measurement.reason == NoValue::clipped;
+    measurement = OwnValue::no(isClipped ? NoValue::clipped : NoValue::scaleNotKnown);
     return;
   }
   if (measurement.value) *measurement.value *= *factor;
   if (measurement.below) *measurement.below *= *factor;
+  if (measurement.above) *measurement.above *= *factor;
 }
 
 /// From units and samples to volts and seconds.

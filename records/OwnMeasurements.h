@@ -98,9 +98,11 @@ struct OwnValue {
   NoValue reason = NoValue::none;
   /// The value is less than this, as far as can be said: a rise time of fewer than two samples.
   std::optional<double> below;
+  /// It is no less than this: a peak to peak that is clipped. A minimum is no more than `below`.
+  std::optional<double> above;
 
-  static OwnValue of(double value) { return {value, NoValue::none, std::nullopt}; }
-  static OwnValue no(NoValue reason) { return {std::nullopt, reason, std::nullopt}; }
+  static OwnValue of(double value) { return {value, NoValue::none, {}, {}}; }
+  static OwnValue no(NoValue reason) { return {{}, reason, {}, {}}; }
 };
 
 class OwnMeasurements {

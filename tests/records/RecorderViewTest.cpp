@@ -173,7 +173,7 @@ TEST_F(RecorderViewTest, CursorsSayWhoseVoltsTheyAre) {
             (Lines{"P1 = -25.00 dBV", "P2 = -50.00 dBV", "Δ = 25.00 dB"}));
 }
 
-TEST_F(RecorderViewTest, LevelsOfASpectrumAreThoseOfASignalThatIsNotClipped) {
+TEST_F(RecorderViewTest, WhatIsClippedHasNoLevelsAndPassesALimitOnlyWhereThatIsSure) {
   view.choice.mode = RecorderMode::spectrum;
   keep(1, sineRecord(100));
   EXPECT_EQ(view.picture().labels.at(0).text, "1.000 kHz\n-3.0 dBV");
@@ -181,6 +181,12 @@ TEST_F(RecorderViewTest, LevelsOfASpectrumAreThoseOfASignalThatIsNotClipped) {
   const RecorderPicture picture = view.picture();
   EXPECT_EQ(picture.labels.at(0).text, "1.000 kHz\nclipped");
   EXPECT_EQ(picture.notes.at(1), "CH1 is clipped: levels and harmonics are not the signal's own");
+  const OwnMeasurements own = measure(store.record(*view.selected()));
+  for (const char* const text : {"vpp > 5 V", "max > 2 V", "min < -2 V"})
+    EXPECT_TRUE(limitOf(text)->isPassed(own)) << text;
+  for (const char* const text : {"vpp > 7 V", "vpp < 9 V", "max < 9 V", "min > -9 V", "rms > 0 V"})
+    EXPECT_FALSE(limitOf(text)->isPassed(own)) << text;
+  EXPECT_EQ(value(Quantity::minimum), "clipped");
 }
 
 TEST_F(RecorderViewTest, StatisticsAreThoseOfTheStretch) {
