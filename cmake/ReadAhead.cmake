@@ -1,7 +1,7 @@
 # Headers of the standard library and the toolkit take most of the time of a source. Where
 # TRACEWELL_PRECOMPILED is on, targets read them once. Headers of the program itself are never among them,
-# so that one that a source has not included shows there; one of a library that is missing shows in every
-# other build.
+# so that a source that does not include one of these fails there, too. A source that does not include a
+# library's header fails in every other build.
 function(read_ahead TARGET)
   if(TRACEWELL_PRECOMPILED)
     target_precompile_headers(${TARGET} PRIVATE ${ARGN})

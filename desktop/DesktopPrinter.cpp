@@ -32,11 +32,10 @@ QPrinter& DesktopPrinter::printer() {
 }
 
 void DesktopPrinter::setUp() {
-  const QPageLayout::Orientation before = printer().pageLayout().orientation();
   QPrintDialog dialog(&printer(), QApplication::activeWindow());
   if (dialog.exec() != QDialog::Accepted) return;
   isSetUp_ = true;
-  isPaperTurned_ = isPaperTurned_ || printer().pageLayout().orientation() != before;
+  isPaperTurned_ = printer().pageLayout().orientation() != fitting_;
 }
 
 void DesktopPrinter::printToFile(const QString& path) {
@@ -48,6 +47,7 @@ void DesktopPrinter::printToFile(const QString& path) {
 
 /// The paper lies as it fits before the user is asked, who may turn it.
 bool DesktopPrinter::isReady(QPageLayout::Orientation orientation) {
+  fitting_ = orientation;
   if (!isPaperTurned_) printer().setPageOrientation(orientation);
   const bool isForFile = !printer().outputFileName().isEmpty();
   if (!isSetUp_ && (isForFile || QPrinterInfo::defaultPrinter().isNull()))

@@ -22,7 +22,7 @@ class GraphGestures : public QObject {
   Q_OBJECT
 
  public:
-  /// The view's, whose plot's events it filters. Plot and strip outlive the object.
+  /// Belongs to the view and filters the events of its plot.
   GraphGestures(GraphView& view, QWidget& plot, ScaleStrip& strip);
 
   /// Null for none. Lets go of a cursor of the graph before.

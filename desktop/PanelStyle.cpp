@@ -50,8 +50,8 @@ QStyleOptionButton inSharedPalette(QStyleOptionButton button) {
   return button;
 }
 
-/// The arrow of a tree's line that is chosen is seen as its text is.
-QStyleOption inHighlightedText(QStyleOption line) {
+/// Draws the arrow of a chosen line of a tree in the colour of its text.
+QStyleOptionViewItem inHighlightedText(QStyleOptionViewItem line) {
   line.palette.setBrush(QPalette::WindowText, line.palette.highlightedText());
   return line;
 }
@@ -94,8 +94,9 @@ void PanelStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
   if (const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option)) {
     const QStyleOptionButton shared = inSharedPalette(*button);
     QProxyStyle::drawPrimitive(element, &shared, painter, widget);
-  } else if (element == PE_IndicatorBranch && option->state & State_Selected) {
-    const QStyleOption written = inHighlightedText(*option);
+  } else if (const auto* line = qstyleoption_cast<const QStyleOptionViewItem*>(option);
+             line != nullptr && element == PE_IndicatorBranch && line->state & State_Selected) {
+    const QStyleOptionViewItem written = inHighlightedText(*line);
     QProxyStyle::drawPrimitive(element, &written, painter, widget);
   } else {
     QProxyStyle::drawPrimitive(element, option, painter, widget);

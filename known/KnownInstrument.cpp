@@ -35,8 +35,9 @@ std::optional<std::string> captionOf(Setting scale, std::string_view argument) {
   return scale == timeBase ? find(TimeDivValue, TimeDivText) : find(VoltDivValue, VoltDivText);
 }
 
-/// The instrument has no other scales: what differs by one character is damaged.
+/// The instrument has no other scales, or says that it has none. What differs is damaged.
 bool isCaption(Setting scale, std::string_view reply) {
+  if (reply == "Null") return true;
   const auto has = [&](const auto& texts) {
     return std::ranges::find(texts, reply) != texts.end();
   };
@@ -237,8 +238,7 @@ void KnownInstrument::answered(std::string_view query, std::string_view reply) {
     const std::optional<Value> value = toldValue(*setting, reply);
     Entry& asked = entry(*setting);
     if (!value) {
-      asked.doubt = Doubt::noAnswer;
-      asked.line = presentLine();
+      leaveUntold(asked);
       continue;
     }
     // The moment of the change is unknown: an earlier query may have asked either instrument.
@@ -258,13 +258,16 @@ void KnownInstrument::notAnswered(std::string_view query) {
   for (const WirePart& part : wireParts(query)) {
     const std::optional<Setting> setting = askedBy(part);
     if (!setting) continue;
-    entry(*setting).line = presentLine();
-    // An earlier possible change remains possible.
-    const Doubt before = entry(*setting).doubt;
-    if (before != Doubt::mayHaveChanged && before != Doubt::notSent)
-      entry(*setting).doubt = Doubt::noAnswer;
+    leaveUntold(entry(*setting));
   }
   tell();
+}
+
+/// An earlier possible change remains possible.
+void KnownInstrument::leaveUntold(Entry& asked) const {
+  asked.line = presentLine();
+  if (asked.doubt != Doubt::mayHaveChanged && asked.doubt != Doubt::notSent)
+    asked.doubt = Doubt::noAnswer;
 }
 
 void KnownInstrument::reading() {

@@ -112,6 +112,7 @@ class KnownInstrument {
   void stop();
   void lockUncertain();
   void leave(Setting setting);
+  void leaveUntold(Entry& asked) const;
   void leaveOpen(Setting setting, const WirePart& command);
   bool mayMoveLevel() const;
   bool mayBeStopped() const;

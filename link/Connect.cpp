@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Connect.h"
 
-#include <utility>
-
 #include "ConnectionIndicator.h"
 #include "Waiting.h"
 #include "WaitingNotice.h"
@@ -26,13 +24,22 @@ void Connect::startOrStop() {
     return;
   }
   main_.tmDSO.enabled = !main_.tmDSO.enabled();
-  isShowDue_ = true;
-  Delay(main_, 1000);
-  showDue();
+  waitToShow(main_.tmDSO.enabled());
+  showAcquisition();
 }
 
-void Connect::showDue() {
-  if (std::exchange(isShowDue_, false)) showAcquisition();
+void Connect::waitToShow(bool hasStarted) {
+  struct Wait {
+    std::optional<bool>& hasStarted;
+    ~Wait() { hasStarted.reset(); }
+  };
+  hasStarted_ = hasStarted;
+  const Wait wait{hasStarted_};
+  Delay(main_, 1000);
+}
+
+void Connect::showEarly() {
+  if (hasStarted_) *hasStarted_ ? showRunning(main_) : showStopped(main_);
 }
 
 bool Connect::connectFirst() {

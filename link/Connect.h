@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <optional>
+
 #include "InstrumentState.h"
 
 namespace tracewell {
@@ -15,11 +17,12 @@ class Connect {
   void cmdStart_Click();
   /// Reads the instrument again, after the port's settings have changed, then goes on as cmdStart.
   void cmdRS232_Click();
-  /// Shows the state of the acquisition, if cmdStart still waits to do so.
-  void showDue();
+  /// Shows what cmdStart has done, if it still waits to do so. It does so again behind its wait.
+  void showEarly();
 
  private:
   void startOrStop();
+  void waitToShow(bool hasStarted);
   bool connectFirst();
   void readInstrument();
   void showAcquisition();
@@ -28,7 +31,8 @@ class Connect {
   CommandExchange& exchange_;
   InstrumentState& instrument_;
   ErrorLog& errorLog_;
-  bool isShowDue_ = false;
+  /// What cmdStart has done, while it waits.
+  std::optional<bool> hasStarted_;
 };
 
 }  // namespace tracewell

@@ -77,9 +77,9 @@ MeasurementLog::~MeasurementLog() {
   finish(failedAt_);
 }
 
-/// A file that another program has had is only found out then, and begun anew at once.
+/// Only the flush finds out that another program has had the file. The second try begins a new one.
 bool MeasurementLog::finish(std::int64_t now) {
-  for (int tries = 0; tries < 2 && (tries == 0 || !pending_.empty()); ++tries) {
+  for (int tries = 0; tries == 0 || (tries == 1 && !pending_.empty() && !isDiskFull_); ++tries) {
     if (!file_) reopen(now);
     writePending(now);
     flush(now);

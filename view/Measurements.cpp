@@ -2,10 +2,13 @@
 #include "Measurements.h"
 
 #include <algorithm>
+#include <array>
 
 #include "ConnectionIndicator.h"
 #include "Doing.h"
 #include "MeasurementItems.h"
+#include "Numbers.h"
+#include "TrueNumbers.h"
 #include "Waiting.h"
 
 namespace tracewell {
@@ -38,6 +41,13 @@ std::string rowOf(const std::string& result) {
 
 std::string sayMeasuring(const Words& words) {
   return words.say("Measuring");
+}
+
+/// A value with its unit, or the word that there is none. What lost a letter is damaged.
+bool isTold(const std::string& reply) {
+  constexpr std::array<std::string_view, 4> units = {"V", "Hz", "s", "%"};
+  const auto isIn = [&reply](std::string_view unit) { return trueNumber(reply, unit).has_value(); };
+  return reply.starts_with('N') || isNumeric(reply) || std::ranges::any_of(units, isIn);
 }
 
 }  // namespace
@@ -140,7 +150,7 @@ void Measurements::showResult(int label, int channel, const std::string& title,
                               const std::string& reply) {
   const KnownInstrument& known = main_.known;
   results_.at(static_cast<std::size_t>(label)) = Result{
-      channel, !reply.empty(), known.presentLine(), known.now(), exchange_.answeredAt(), false};
+      channel, isTold(reply), known.presentLine(), known.now(), exchange_.answeredAt(), false};
   main_.lblMeasure(label).caption = title + reply;
   main_.lblMeasure(label).notifyChanged();
 }

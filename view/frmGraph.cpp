@@ -27,7 +27,7 @@ void frmGraph::Form_Activate() {
     lblPlot(row).caption = plot.name();
     linePlot(row).borderColour = plot.lineColour();
     cmdLine(row).backColour = plot.lineColour();
-    (isSolid ? opSolid(row) : opDot(row)).value = true;
+    (isSolid ? opSolid(row) : opDot(row)).value = 1;
     showStyle(row);
   }
   cmdPlotArea.backColour = main_.graphDSO.plotAreaColour();

@@ -135,7 +135,7 @@ class frmDSO : public Window {
 
   ModuleState state;
   /// The last exchange succeeded, or failed otherwise than by a read time-out after one that did.
-  /// Connecting begins without one.
+  /// Connecting clears it first.
   bool LinkOK = false;
   /// A first connect has read the instrument.
   bool Initialised = false;

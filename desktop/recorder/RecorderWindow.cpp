@@ -30,7 +30,7 @@ constexpr int betweenMeasuring = 20;
 /// The last one is what a name without an ending gets.
 constexpr const char* pictureNames = "|*.jpg *.bmp *.gif *.pcx *.tif *.png";
 
-/// As the panel and a list of records tell it from others.
+/// As the panel and a list of records tell it from others, and by its name where it is pinned.
 std::string nameOf(const RecordStore& store, RecordStore::Number number) {
   const RecordFacts& facts = store.facts(number);
   const std::string own = channelName(facts.channel) + " " + timeOfDay(facts.wallTime);
@@ -144,7 +144,7 @@ void RecorderWindow::connectParts() {
   connect(save_, &QPushButton::clicked, this, [this] { run([this] { saveSet(); }); });
   connect(export_, &QPushButton::clicked, this, [this] { run([this] { exportCsv(); }); });
   connect(log_, &QPushButton::toggled, logBar_, &QWidget::setVisible);
-  connect(logBar_, &RecorderLogBar::said, this, &RecorderWindow::say);
+  connect(logBar_, &RecorderLogBar::said, this, [this](const QString& text) { say(text); });
   connect(logBar_, &RecorderLogBar::used, this, &RecorderWindow::showSoon);
   connect(&measuring_, &QTimer::timeout, this, &RecorderWindow::measureSome);
   connect(&everySecond_, &QTimer::timeout, this, [this] {
@@ -284,8 +284,10 @@ void RecorderWindow::showLog() {
   logState_->setVisible(!shown.isEmpty());
 }
 
-void RecorderWindow::say(const QString& text) {
+void RecorderWindow::say(const QString& text, bool isTrouble) {
   status_->setText(text);
+  status_->setSentences(isTrouble ? std::vector<ElidedLabel::Sentence>{{text, true}}
+                                  : std::vector<ElidedLabel::Sentence>());
   status_->setToolTip(text);
   status_->setVisible(!text.isEmpty());
 }
@@ -296,7 +298,7 @@ void RecorderWindow::run(const std::function<void()>& act) {
     try {
       act();
     } catch (const Error& error) {
-      say(shownText(error.description(), roomOfLine));
+      say(shownText(error.description(), roomOfLine), true);
     }
     showSoon();
   });

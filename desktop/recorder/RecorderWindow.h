@@ -56,7 +56,7 @@ class RecorderWindow : public QWidget {
   void showPins();
   void showLog();
   void measureSome();
-  void say(const QString& text);
+  void say(const QString& text, bool isTrouble = false);
   /// Errors of `act` end in a sentence of this window.
   void run(const std::function<void()>& act);
 

@@ -311,7 +311,7 @@ void Conversation::drain(int timeOut) {
   while (state_ != State::idle) {
     if (clock_.milliseconds() >= deadline) {
       isRestless_ = true;
-      account_.missedAnswer(clock_.milliseconds());
+      account_.leftUnasked();
       throw timeOutError();
     }
     hear(listen(std::min(deadline, trustedAt())));

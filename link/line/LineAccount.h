@@ -11,7 +11,7 @@ namespace tracewell {
 /// the rules.
 class LineAccount {
  public:
-  /// `longestThought` is the time within which every reply arrives, in milliseconds.
+  /// `longestThought` is the time within which every reply should arrive, in milliseconds.
   explicit LineAccount(int longestThought) : longestThought_(longestThought) {}
 
   LineReport report(std::int64_t now) const;
@@ -33,6 +33,8 @@ class LineAccount {
   void wantedRecord(std::int64_t now);
   void gaveRecord(std::int64_t now);
   void missedAnswer(std::int64_t now);
+  /// A query was not sent, since the line did not come to rest.
+  void leftUnasked() { ++rest_.unansweredInRow; }
   /// The reply to a query sent at `askedAt` is returned.
   void gaveAnswer(std::int64_t askedAt, std::int64_t now);
 

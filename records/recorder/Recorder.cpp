@@ -109,7 +109,7 @@ std::string Recorder::logText(const Words& words) const {
   if (!log_) return "";
   const std::int64_t now = main_.services().clock.milliseconds();
   const std::string trouble = troubleText(words);
-  // Nobody else says why no rows come.
+  // The recorder's window does not say it elsewhere.
   const bool rests = trouble.empty() && !main_.tmDSO.enabled();
   return trouble + (trouble.empty() ? "" : ". ") +
          (rests ? words.say("No rows while the traces are stopped") + ". " : "") +

@@ -25,6 +25,11 @@ std::string number(std::size_t count) {
 
 }  // namespace
 
+void RecorderView::show(int channel) {
+  channel_ = channel;
+  if (const auto pointed = selected()) timeline.reveal(*pointed);
+}
+
 std::optional<RecordStore::Number> RecorderView::nextShown(Number from, int direction) const {
   Number ahead = std::clamp(from, store_.first() - 1, store_.end()) + direction;
   while (ahead >= store_.first() && ahead < store_.end()) {
@@ -91,6 +96,7 @@ std::optional<RecordStore::Number> RecorderView::shownOf(int channel) const {
 
 /// What has gone out of the store cannot be marked any longer.
 void RecorderView::recordKept() {
+  if (!isFollowing_ && !selected_) selected_ = selected();
   if (marked_) {
     marked_->first = std::max(marked_->first, store_.first());
     if (marked_->second < marked_->first) unmark();

@@ -28,7 +28,7 @@ class RecorderView {
 
   /// 1 or 2; 0 for both.
   int channel() const { return channel_; }
-  void show(int channel) { channel_ = channel; }
+  void show(int channel);
   /// Goes with the newest record until another one is pointed at.
   bool isFollowing() const { return isFollowing_; }
   void follow(bool isFollowing);
