@@ -52,9 +52,12 @@ void keepEnglish(QWidget& widget) {
 
 void sayInLanguage(QWidget& widget) {
   for (QWidget* part : allWithin(widget)) {
+    // Most have none, and would look for it among all properties of their class.
+    const QList<QByteArray> kept = part->dynamicPropertyNames();
     for (const Text& text : texts) {
-      const QVariant english = part->property(text.english);
-      if (english.isValid()) (part->*text.set)(panelText(english.toByteArray().constData()));
+      if (!kept.contains(text.english)) continue;
+      const QByteArray english = part->property(text.english).toByteArray();
+      (part->*text.set)(panelText(english.constData()));
     }
   }
 }

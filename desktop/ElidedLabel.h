@@ -12,6 +12,8 @@ namespace tracewell {
 class ElidedLabel : public QLabel {
   Q_OBJECT
   Q_PROPERTY(QColor warningColour MEMBER warningColour_)
+  /// Declared, it is found before those of every widget: each rule of the style sheet asks for it.
+  Q_PROPERTY(QString kind MEMBER kind_)
 
  public:
   struct Sentence {
@@ -44,6 +46,7 @@ class ElidedLabel : public QLabel {
 
   std::vector<Sentence> sentences_;
   QColor warningColour_;
+  QString kind_;
 };
 
 }  // namespace tracewell

@@ -6,6 +6,7 @@
 #include <QCommonStyle>
 #include <QEvent>
 #include <QIconEngine>
+#include <QMenu>
 #include <QPainter>
 #include <QStyleOption>
 
@@ -56,6 +57,18 @@ QStyleOptionViewItem inHighlightedText(QStyleOptionViewItem line) {
   return line;
 }
 
+/// Told of its style before it is styled, it would make the list that it opens.
+bool isUnstyledBox(QObject* watched) {
+  const auto* box = qobject_cast<QComboBox*>(watched);
+  return box != nullptr && !box->testAttribute(Qt::WA_WState_Polished);
+}
+
+/// Told of its size before it has a window, it would measure its entries. It does when it opens.
+bool isUnopenedMenu(QObject* watched) {
+  const auto* menu = qobject_cast<QMenu*>(watched);
+  return menu != nullptr && !menu->testAttribute(Qt::WA_WState_Created);
+}
+
 /// For the entries of a menu bar that there is no room for. It is read only when it is painted.
 class ExtensionIcon : public QIconEngine {
  public:
@@ -82,11 +95,9 @@ void PanelStyle::polish(QApplication* application) {
   application->installEventFilter(this);
 }
 
-/// A box that is told of its style before it is styled would make the list that it opens.
 bool PanelStyle::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() != QEvent::StyleChange) return false;
-  const auto* box = qobject_cast<QComboBox*>(watched);
-  return box != nullptr && !box->testAttribute(Qt::WA_WState_Polished);
+  if (event->type() == QEvent::StyleChange) return isUnstyledBox(watched);
+  return event->type() == QEvent::Resize && isUnopenedMenu(watched);
 }
 
 void PanelStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,

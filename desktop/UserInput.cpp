@@ -30,8 +30,9 @@ bool isEscape(const QEvent& event) {
 
 /// A shortcut that was kept goes straight to its action, past the window that has opened since.
 bool isBehindModalWindow(const QObject* receiver, const QEvent& event) {
+  if (event.type() != QEvent::Shortcut) return false;
   const QWidget* modal = QApplication::activeModalWidget();
-  if (event.type() != QEvent::Shortcut || modal == nullptr) return false;
+  if (modal == nullptr) return false;
   const auto isInside = [modal](const QObject* object) {
     const auto* widget = qobject_cast<const QWidget*>(object);
     return widget != nullptr && widget->window() == modal;
