@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QColorDialog>
 #include <QFileDialog>
+#include <QFileIconProvider>
 #include <QMainWindow>
 #include <QMessageBox>
 #include <algorithm>
@@ -52,9 +53,24 @@ QString suffix(const std::string& filter) {
   return pattern.section(QLatin1Char('.'), -1);
 }
 
+/// Goes by names. The toolkit's own looks into each file, which waits for a slow folder, and for
+/// ever for a file that never ends.
+class NamedKinds : public QFileIconProvider {
+ public:
+  QIcon icon(const QFileInfo& file) const override {
+    return QFileIconProvider::icon(file.isDir() ? Folder : File);
+  }
+  QString type(const QFileInfo& file) const override {
+    return file.isDir() ? QString() : file.suffix().toUpper();
+  }
+  using QFileIconProvider::icon;
+};
+
 std::filesystem::path ask(const FileDialog& dialog, QFileDialog::AcceptMode mode) {
   QFileDialog box(windowInUse(), shownTitle(dialog.title), toQt(dialog.initialFolder),
                   nameFilter(dialog.filter));
+  static NamedKinds kinds;
+  box.setIconProvider(&kinds);
   box.setAcceptMode(mode);
   box.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile
                                                   : QFileDialog::AnyFile);

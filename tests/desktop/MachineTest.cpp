@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QColorDialog>
 #include <QFileDialog>
+#include <QFileIconProvider>
 #include <QLineEdit>
 #include <QMenu>
 #include <QProcess>
@@ -169,10 +170,13 @@ TEST_F(DesktopDialogsTest, FilesArePickedWithTheSuffixOfTheFilter) {
       {"new", folder.path() / "new.dso", {}},
       {"new.txt", folder.path() / "new.txt", {}},
       {"default", folder.path() / "default.dso", folder.path() / "default.dso"}};
+  writeWholeFile(folder.path() / "inside", "%PDF-1.4");
   for (const auto& [typed, saved, opened] : cases) {
-    const auto answer = [name = typed](QFileDialog& dialog) {
+    const auto answer = [this, name = typed](QFileDialog& dialog) {
       EXPECT_EQ(dialog.nameFilters(), QStringList("*.dso (*.dso)"));
       dialog.setOption(QFileDialog::DontConfirmOverwrite);
+      // It is not looked into: a folder may be slow, and /proc/kmsg has no end.
+      EXPECT_EQ(dialog.iconProvider()->type(QFileInfo(toQt(folder.path() / "inside"))), "");
       auto* line = dialog.findChild<QLineEdit*>("fileNameEdit");
       EXPECT_EQ(line->text(), "offered");
       line->setText(name);
