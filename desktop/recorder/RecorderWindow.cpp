@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "RecorderWindow.h"
 
+#include <QAbstractItemView>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QScreen>
@@ -30,10 +31,14 @@ constexpr int betweenMeasuring = 20;
 /// The last one is what a name without an ending gets.
 constexpr const char* pictureNames = "|*.jpg *.bmp *.gif *.pcx *.tif *.png";
 
-/// As the panel and a list of records tell it from others, and by its name where it is pinned.
+/// As the panel and a list of records tell it from others.
+std::string ownNameOf(const RecordFacts& facts) {
+  return channelName(facts.channel) + " " + timeOfDay(facts.wallTime);
+}
+
+/// With its name where it is pinned.
 std::string nameOf(const RecordStore& store, RecordStore::Number number) {
-  const RecordFacts& facts = store.facts(number);
-  const std::string own = channelName(facts.channel) + " " + timeOfDay(facts.wallTime);
+  const std::string own = ownNameOf(store.facts(number));
   for (const auto& [pinned, name] : store.pinned())
     if (pinned == number && name != own) return own + " " + name;
   return own;
@@ -251,6 +256,8 @@ void RecorderWindow::measureSome() {
 
 /// A name that is new renames a record that is pinned.
 void RecorderWindow::showPins() {
+  // Nothing moves under the user who chooses.
+  if (pins_->view()->isVisible()) return;
   const auto pinned = recorder_.store().pinned();
   const auto pointed = view_.selected();
   const QSignalBlocker blocker(pins_);
@@ -259,7 +266,9 @@ void RecorderWindow::showPins() {
                                 : panelText("Pinned: %1").arg(pinned.size()));
   bool isPinned = false;
   for (const auto& [number, name] : pinned) {
-    pins_->addItem(shownText(name, roomOfCaption), static_cast<qlonglong>(number));
+    const std::string own = ownNameOf(recorder_.store().facts(number));
+    pins_->addItem(shownText(name == own ? own : name + " " + own, roomOfCaption),
+                   static_cast<qlonglong>(number));
     if (number != pointed) continue;
     isPinned = true;
     pins_->setCurrentIndex(pins_->count() - 1);
