@@ -18,15 +18,7 @@ void Tracewell::connectLifecycle() {
   main.tmDSO.timer = [this] { acquisition.tmDSO_Timer(); };
   main.tmStatus.timer = [this] { lookAtLine(); };
   exchange.lineLost = [this] {
-    channelDialog.doubtAnswers();
-    trigger.doubtAnswers();
-    display.doubtAnswers();
-  };
-  main.answersDoubted = [this](std::int64_t first, std::int64_t last) {
-    measurements.doubtAnswers(first, last);
-    channelDialog.doubtAnswers();
-    trigger.doubtAnswers();
-    display.doubtAnswers();
+    for (SettingsDialog* dialog : settingsDialogs) dialog->doubtAnswers();
   };
   main.marksDue = [this] { panelMarks.show(); };
   main.known.changed = [this] { panelMarks.show(); };
@@ -36,9 +28,10 @@ void Tracewell::connectLifecycle() {
 }
 
 void Tracewell::lookAtLine() {
-  exchange.lookForDoubts();
+  exchange.lookForLoss();
   showLineNotice(main);
   panelMarks.show();
+  for (const SettingsDialog* dialog : settingsDialogs) dialog->showMarks();
   main.tmStatus.setInterval(changeInterval(main));
 }
 

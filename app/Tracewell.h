@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <array>
+
 #include "Acquisition.h"
 #include "Autoset.h"
 #include "ChannelControls.h"
@@ -88,6 +90,8 @@ class Tracewell {
   Lifecycle lifecycle;
 
  private:
+  const std::array<SettingsDialog*, 3> settingsDialogs{&channelDialog, &trigger, &display};
+
   void connectLifecycle();
   void connectLink();
   void connectPanel();

@@ -69,7 +69,7 @@ int endOfText(const QLabel& label) {
 }
 
 QString meaning() {
-  return QCoreApplication::translate("Panel", "The instrument has not told this value");
+  return QCoreApplication::translate("Panel", "The instrument may have another value");
 }
 
 }  // namespace
@@ -100,7 +100,7 @@ void UnreadMark::show(QWidget& marked, bool isUnread, QWidget* described) {
 UnreadMark::UnreadMark(QWidget& marked, QWidget& described)
     : QWidget(&marked), described_(described) {
   resize(side, side);
-  setToolTip(QStringLiteral("The instrument has not told this value"));
+  setToolTip(QStringLiteral("The instrument may have another value"));
   setAccessibleName(QStringLiteral("not answered"));
   keepEnglish(*this);
   sayInLanguage(*this);

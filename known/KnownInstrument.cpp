@@ -49,11 +49,6 @@ std::optional<double> plainNumber(std::string_view text) {
   return toDouble(text);
 }
 
-std::optional<double> perDivision(std::optional<double> value, std::optional<double> scale) {
-  if (!value || !scale) return std::nullopt;
-  return *value / *scale;
-}
-
 }  // namespace
 
 void KnownInstrument::sent(std::string_view command) {
@@ -124,11 +119,8 @@ std::optional<KnownInstrument::Value> KnownInstrument::sentValue(Setting setting
   switch (setting) {
     case position1:
     case position2:
-      value = perDivision(value, voltsPerDivision(setting == position1 ? 1 : 2));
-      break;
     case delay:
-      value = perDivision(value, secondsPerDivision());
-      break;
+      return inDivisions(setting, value);
     case math: {
       const auto known = std::ranges::find(mathCommands, command.header + " " + command.argument);
       value = known == mathCommands.end()
@@ -163,11 +155,9 @@ std::optional<KnownInstrument::Value> KnownInstrument::toldValue(Setting setting
     case position2:
       value = trueNumber(reply, "V");
       if (!value && beginsWithNumber(captionNumber(reply))) value = ParseScaleCaption(reply);
-      value = perDivision(value, voltsPerDivision(setting == position1 ? 1 : 2));
-      break;
+      return inDivisions(setting, value);
     case delay:
-      value = perDivision(trueNumber(reply, "s"), secondsPerDivision());
-      break;
+      return inDivisions(setting, trueNumber(reply, "s"));
     case triggerLevel:
       value = trueNumber(reply, "V");
       break;
@@ -177,6 +167,15 @@ std::optional<KnownInstrument::Value> KnownInstrument::toldValue(Setting setting
       value = plainNumber(reply);
   }
   return value ? std::optional(Value{value, ""}) : std::nullopt;
+}
+
+std::optional<KnownInstrument::Value> KnownInstrument::inDivisions(
+    Setting setting, std::optional<double> value) const {
+  const Setting scale =
+      setting == delay ? timeBase : ofChannel(scale1, setting == position1 ? 1 : 2);
+  const Entry& told = entry(scale);
+  if (!value || !told.number || toldDoubt(scale) != Doubt::none) return std::nullopt;
+  return Value{*value / *told.number, "", told.reply};
 }
 
 /// The same value again changes nothing.
@@ -196,6 +195,7 @@ void KnownInstrument::take(Setting setting, Value value) {
   Entry& taken = entry(setting);
   taken.number = value.number;
   taken.caption = std::move(value.caption);
+  taken.reply = value.reply;
   taken.doubt = Doubt::none;
   taken.line = presentLine();
   taken.numberOnPort = taken.line.portNumber;
@@ -221,26 +221,27 @@ void KnownInstrument::doubtful(Setting setting, Doubt reason) {
 void KnownInstrument::followed(Setting setting) {
   const auto dependent = dependentOn(setting);
   if (!dependent) return;
-  if (isKnown(*dependent) && number(*dependent) != 0.0)
-    return doubtful(*dependent, Doubt::mayHaveChanged);
+  const bool isTold = toldDoubt(*dependent) == Doubt::none;
+  if (isTold && entry(*dependent).number != 0.0) return doubtful(*dependent, Doubt::mayHaveChanged);
   if (!isKnown(*dependent)) entry(*dependent).changedAt = ++now_;
   followed(*dependent);
 }
 
 /// With several queries in a line, which one is answered is unknown.
-void KnownInstrument::answered(std::string_view query, std::string_view reply) {
+void KnownInstrument::answered(std::string_view query, std::string_view reply, int replyNumber) {
   takeSent(lock, {1.0, ""});
   const std::vector<WirePart> parts = wireParts(query);
   if (std::ranges::count(parts, true, &WirePart::isQuery) != 1) return notAnswered(query);
   for (const WirePart& part : parts) {
     const std::optional<Setting> setting = askedBy(part);
     if (!setting || *setting == math || *setting == running || *setting == lock) continue;
-    const std::optional<Value> value = toldValue(*setting, reply);
+    std::optional<Value> value = toldValue(*setting, reply);
     Entry& asked = entry(*setting);
     if (!value) {
       leaveUntold(asked);
       continue;
     }
+    value->reply = replyNumber;
     // The moment of the change is unknown: an earlier query may have asked either instrument.
     const bool wasTold = asked.line == presentLine() && (asked.number || !asked.caption.empty());
     const bool isOther =
@@ -294,12 +295,19 @@ void KnownInstrument::swept(int channel, Moment requested) {
 }
 
 Doubt KnownInstrument::doubt(Setting setting) const {
+  const Doubt told = toldDoubt(setting);
+  return told == Doubt::none && isUnsure(entry(setting)) ? Doubt::unsureAnswer : told;
+}
+
+/// As if each reply were the one to its query.
+Doubt KnownInstrument::toldDoubt(Setting setting) const {
   const Entry& asked = entry(setting);
   if (asked.doubt == Doubt::neverRead) return Doubt::neverRead;
   if (asked.line != presentLine()) return Doubt::anotherInstrument;
   // After one sweep it stops itself.
+  const Entry& mode = entry(triggerMode);
   const bool isOver = setting == running && asked.doubt == Doubt::none &&
-                      asked.number == runningState && entry(triggerMode).number == singleMode;
+                      asked.number == runningState && (mode.number == singleMode || isUnsure(mode));
   if (isOver) return Doubt::mayHaveChanged;
   const bool isMoving = setting == triggerLevel && asked.doubt == Doubt::none && mayMoveLevel();
   return isMoving ? Doubt::mayHaveChanged : asked.doubt;
@@ -311,7 +319,7 @@ bool KnownInstrument::mayMoveLevel() const {
   const Entry& mode = entry(triggerMode);
   if (mode.doubt == Doubt::neverRead || !isOnPortOf(mode)) return false;
   const bool isAsTold = mode.doubt == Doubt::none || mode.doubt == Doubt::noAnswer;
-  return !isAsTold || mode.number == autoLevel;
+  return !isAsTold || mode.number == autoLevel || isUnsure(mode);
 }
 
 std::optional<double> KnownInstrument::number(Setting setting) const {
@@ -391,7 +399,7 @@ MadeUnder KnownInstrument::settingsAt(int channel, Moment moment) const {
 /// request, one that waits for its trigger after the sweep before.
 KnownInstrument::Moment KnownInstrument::sweptSince(int channel) const {
   const Entry& mode = entry(triggerMode);
-  const bool waits = isOnPortOf(mode) && mode.number >= normalMode;
+  const bool waits = isOnPortOf(mode) && (mode.number >= normalMode || isUnsure(mode));
   if (!waits) return now_;
   const Swept& last = swept_[static_cast<std::size_t>(channel - 1)];
   return last.line == presentLine() ? last.requested : 0;

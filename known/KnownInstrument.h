@@ -27,9 +27,10 @@ class KnownInstrument {
   /// A count of facts. Only the order matters.
   using Moment = std::int64_t;
 
-  /// `presentLine` returns the line on which the next command goes out.
-  explicit KnownInstrument(std::function<Line()> presentLine)
-      : presentLine_(std::move(presentLine)) {}
+  /// `presentLine` returns the line on which the next command goes out. `isSure` says of the number
+  /// of a reply whether it is surely the one to its query.
+  KnownInstrument(std::function<Line()> presentLine, std::function<bool(int)> isSure)
+      : presentLine_(std::move(presentLine)), isSure_(std::move(isSure)) {}
   KnownInstrument(const KnownInstrument&) = delete;
 
   // Facts, reported in order.
@@ -41,7 +42,7 @@ class KnownInstrument {
   void typed(std::string_view line);
   /// Sending was begun and failed, or is not over: the instrument may have it or not.
   void notSent(std::string_view line);
-  void answered(std::string_view query, std::string_view reply);
+  void answered(std::string_view query, std::string_view reply, int replyNumber);
   void notAnswered(std::string_view query);
   /// Scales and positions are about to be read; each is not known until its reply has arrived.
   void reading();
@@ -90,6 +91,8 @@ class KnownInstrument {
     std::optional<double> number;
     std::string caption;
     Doubt doubt = Doubt::neverRead;
+    /// The reply that told it, or what it was worked out from; none where it was sent.
+    std::optional<int> reply;
     /// Where that was last told, or asked for in vain.
     Line line;
     /// Where the number was told.
@@ -99,6 +102,7 @@ class KnownInstrument {
   struct Value {
     std::optional<double> number;
     std::string caption;
+    std::optional<int> reply = std::nullopt;
   };
 
   const Entry& entry(Setting setting) const { return entries_[static_cast<std::size_t>(setting)]; }
@@ -114,6 +118,10 @@ class KnownInstrument {
   void leave(Setting setting);
   void leaveUntold(Entry& asked) const;
   void leaveOpen(Setting setting, const WirePart& command);
+  Doubt toldDoubt(Setting setting) const;
+  bool isUnsure(const Entry& told) const { return told.reply && !isSure_(*told.reply); }
+  /// A position or delay, of volts or seconds and the scale that was told last.
+  std::optional<Value> inDivisions(Setting setting, std::optional<double> value) const;
   bool mayMoveLevel() const;
   bool mayBeStopped() const;
   /// What was asked for in vain on another port is still what was told on this one.
@@ -131,6 +139,7 @@ class KnownInstrument {
   }
 
   std::function<Line()> presentLine_;
+  std::function<bool(int)> isSure_;
   std::array<Entry, settingCount> entries_;
   Moment now_ = 1;
   std::optional<Line> readOn_;

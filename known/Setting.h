@@ -51,6 +51,8 @@ enum class Doubt {
   none,
   neverRead,
   noAnswer,
+  /// It had a reply, which may be that to another query.
+  unsureAnswer,
   /// A command for it was begun and failed.
   notSent,
   /// Something may have changed it since.

@@ -65,22 +65,13 @@ void CommandExchange::noteFailed(const std::string& line) {
 
 void CommandExchange::noteAnswered(const std::string& query, const std::string& reply) {
   if (reply.empty()) return main_.known.notAnswered(query);
-  main_.known.answered(query, reply);
-  answers_.push_back({answeredAt_, query});
-  if (answers_.size() > mostAnswers) answers_.pop_front();
+  main_.known.answered(query, reply, main_.services().port.lastReply());
 }
 
-void CommandExchange::lookForDoubts() {
-  const LineReport report = main_.services().port.report();
-  const bool isLost = !report.failure.empty();
+void CommandExchange::lookForLoss() {
+  const bool isLost = !main_.services().port.report().failure.empty();
   if (isLost && !std::exchange(isLossSeen_, isLost)) lineLost.raise();
   isLossSeen_ = isLost;
-  const LineReport::Doubt& doubt = report.doubt;
-  if (std::exchange(doubtsSeen_, doubt.times) == doubt.times) return;
-  for (const Answer& answer : answers_)
-    if (answer.at >= doubt.firstAnswerAt && answer.at <= doubt.lastAnswerAt + handingOver)
-      main_.known.notAnswered(answer.query);
-  main_.answersDoubted.raise(doubt.firstAnswerAt, doubt.lastAnswerAt + handingOver);
 }
 
 std::string CommandExchange::ask(const std::string& query) {
@@ -137,10 +128,7 @@ void CommandExchange::prepare() {
 std::string CommandExchange::query(const std::string& command) {
   // Until its reply arrives, the line may have been sent or not.
   main_.known.notSent(command);
-  const std::string line = main_.services().port.query(command + "\r\n", readTimeOut);
-  // Before anything is painted, so that this is the moment of the line itself.
-  answeredAt_ = main_.services().clock.milliseconds();
-  return replyValue(line);
+  return replyValue(main_.services().port.query(command + "\r\n", readTimeOut));
 }
 
 void CommandExchange::LoadSetup() {

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <cstdint>
-#include <deque>
 #include <string>
 
 #include "ErrorLog.h"
@@ -38,12 +36,8 @@ class CommandExchange {
   /// Whether the last command went out, and was answered if it was a query.
   bool wasSent() const { return wasSent_; }
 
-  /// When the last answer came, on Clock's scale.
-  std::int64_t answeredAt() const { return answeredAt_; }
-
-  /// Takes back the answers that the line has come to doubt since the last call, and tells of a
-  /// line that has failed.
-  void lookForDoubts();
+  /// Tells of a line that has failed since the last call.
+  void lookForLoss();
   /// There may be another instrument on it when it is open again.
   Event<> lineLost;
 
@@ -66,17 +60,6 @@ class CommandExchange {
   ErrorLog& errorLog_;
   /// The instrument's own panel is locked because it has been sent a command.
   bool InRemote = false;
-  /// The newest answers, with the moment on Clock's scale; as many as a long dialog asks for.
-  struct Answer {
-    std::int64_t at;
-    std::string query;
-  };
-  static constexpr std::size_t mostAnswers = 64;
-  /// Milliseconds that may pass between the line's moment of an answer and its moment here.
-  static constexpr int handingOver = 5;
-  std::deque<Answer> answers_;
-  std::int64_t answeredAt_ = 0;
-  int doubtsSeen_ = 0;
   bool isLossSeen_ = false;
   bool wasSent_ = false;
   /// Some of the last line may have gone out.

@@ -9,6 +9,17 @@ std::string withoutLineEnd(const std::string& text) {
   return text.substr(0, text.find_last_not_of("\r\n") + 1);
 }
 
+CommandLine::CommandLine(frmDSO& main, CommandExchange& exchange, ErrorLog& errorLog)
+    : main_(main), exchange_(exchange), errorLog_(errorLog) {
+  main.txtMsg.trust = [this] { return isReplyUnsure() ? Trust::unread : Trust::holds; };
+}
+
+/// The box also shows records, and what settings were sent.
+bool CommandLine::isReplyUnsure() const {
+  return !reply_.empty() && !main_.services().port.isSure(replyNumber_) &&
+         main_.txtMsg.text() == reply_;
+}
+
 void CommandLine::txtTest_KeyDown(int code) {
   if (code == TextBox::enterKey) send();
 }
@@ -31,7 +42,9 @@ void CommandLine::send() {
   try {
     main_.txtMsg.text = "";
     const ShortTimeOut shortTimeOut(main_.state, exchange_);
-    main_.txtMsg.text = exchange_.sendTyped(command);
+    reply_ = exchange_.sendTyped(command);
+    replyNumber_ = main_.services().port.lastReply();
+    main_.txtMsg.text = reply_;
   } catch (const Error& error) {
     errorLog_.ErrLog(error, error.source());
   }

@@ -11,8 +11,7 @@ std::string withoutLineEnd(const std::string& text);
 /// The command line of the main window, with its reply box.
 class CommandLine {
  public:
-  CommandLine(frmDSO& main, CommandExchange& exchange, ErrorLog& errorLog)
-      : main_(main), exchange_(exchange), errorLog_(errorLog) {}
+  CommandLine(frmDSO& main, CommandExchange& exchange, ErrorLog& errorLog);
 
   /// Enter sends the text of the line; an empty line sends nothing.
   void txtTest_KeyDown(int code);
@@ -24,10 +23,14 @@ class CommandLine {
 
  private:
   void send();
+  bool isReplyUnsure() const;
 
   frmDSO& main_;
   CommandExchange& exchange_;
   ErrorLog& errorLog_;
+  /// The last reply as it was shown, and its number.
+  std::string reply_;
+  int replyNumber_ = 0;
 };
 
 }  // namespace tracewell

@@ -18,6 +18,10 @@ void SettingsDialog::doubtAnswers() {
   if (isVisible()) unanswered_.doubtAll();
 }
 
+void SettingsDialog::showMarks() const {
+  if (isVisible()) unanswered_.showMarks();
+}
+
 void SettingsDialog::edit(Fetching fetching, const Step& fill, const Step& send) {
   // Otherwise it would send what was chosen the time before.
   if (isVisible()) return;

@@ -14,8 +14,10 @@ namespace tracewell {
 /// OK what the user has chosen is sent.
 class SettingsDialog : public Window {
  public:
-  /// What it shows while it is open may be the answers to other questions.
+  /// What it shows while it is open may be the answers of another instrument.
   void doubtAnswers();
+  /// Repaints the marks that have changed.
+  void showMarks() const;
 
  protected:
   SettingsDialog(std::string name, std::string caption, frmDSO& main, Acquisition& acquisition);
@@ -28,7 +30,7 @@ class SettingsDialog : public Window {
   void edit(Fetching fetching, const Step& fill, const Step& send);
 
   frmDSO& main_;
-  Unanswered unanswered_;
+  Unanswered unanswered_{main_.services().port};
 
  private:
   Acquisition& acquisition_;

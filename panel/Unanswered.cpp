@@ -6,21 +6,30 @@ namespace tracewell {
 void Unanswered::watch(Control& control) {
   watched_.push_back(&control);
   control.trust = [this, &control] {
-    return controls_.contains(&control) ? Trust::unread : Trust::holds;
+    const auto asked = replies_.find(&control);
+    if (asked == replies_.end()) return Trust::holds;
+    return asked->second && port_.isSure(*asked->second) ? Trust::holds : Trust::unread;
   };
-  control.chosen = [this, &control] { note(control, true); };
+  control.chosen = [this, &control] { settle(control); };
 }
 
 void Unanswered::note(Control& control, bool isAnswered) {
-  if (isAnswered)
-    controls_.erase(&control);
-  else
-    controls_.insert(&control);
+  replies_[&control] = isAnswered ? std::optional(port_.lastReply()) : std::nullopt;
+  control.notifyChanged();
+}
+
+void Unanswered::settle(Control& control) {
+  replies_.erase(&control);
   control.notifyChanged();
 }
 
 void Unanswered::doubtAll() {
   for (Control* control : watched_) note(*control, false);
+}
+
+void Unanswered::showMarks() const {
+  for (Control* control : watched_)
+    if (control->trust() != control->painted) control->notifyChanged();
 }
 
 }  // namespace tracewell

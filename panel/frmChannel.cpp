@@ -33,7 +33,7 @@ frmChannel::frmChannel(frmDSO& main, CommandExchange& exchange, ErrorLog& errorL
   for (auto& [group, options] : {std::pair(&fmCoupling, &obCoupling), {&fmProbe, &obProbe}}) {
     unanswered_.watch(*group);
     for (OptionButton& option : *options)
-      option.chosen = [this, group = group] { unanswered_.note(*group, true); };
+      option.chosen = [this, group = group] { unanswered_.settle(*group); };
   }
   cmdOK.click = [this] { cmdOK_Click(); };
   cmdCancel.click = [this] { cmdCancel_Click(); };

@@ -92,11 +92,11 @@ void frmTrig::showStoredAdvancedSettings() {
   int column = SetupTable::firstValue;
   for (ComboBox& box : cbTrigAdv) {
     box.listIndex = main_.gridMeasure.number(SetupTable::advancedTrigger, column++);
-    unanswered_.note(box, true);
+    unanswered_.settle(box);
   }
   for (TextBox& box : txtTrigAdv) {
     box.text = main_.gridMeasure.text(SetupTable::advancedTrigger, column++);
-    unanswered_.note(box, true);
+    unanswered_.settle(box);
   }
 }
 

@@ -117,7 +117,8 @@ void RecordingRun::readScales() {
     } catch (const Error& error) {
       if (error.number() != portReadTimeOut || setting == Setting::scale1) throw;
     }
-    if (!known_.isKnown(setting))
+    const Doubt doubt = known_.doubt(setting);
+    if (doubt != Doubt::none && doubt != Doubt::unsureAnswer)
       told_.message(std::string(query) + " has no answer: what depends on it has no value");
   }
 }
@@ -130,7 +131,7 @@ void RecordingRun::ask(const std::string& query) {
     try {
       const std::string line = port_.query(query + "\r\n", SerialPort::defaultReadTimeOut);
       const std::string_view reply = trimBlanks(std::string_view(line).substr(0, line.find('\n')));
-      if (!reply.empty()) return known_.answered(query, reply);
+      if (!reply.empty()) return known_.answered(query, reply, port_.lastReply());
       known_.notAnswered(query);
     } catch (const Error& error) {
       known_.notAnswered(query);

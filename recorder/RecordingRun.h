@@ -77,7 +77,8 @@ class RecordingRun {
   Clock& clock_;
   const EventDispatcher& dispatcher_;
   Told told_;
-  KnownInstrument known_{[this] { return line(); }};
+  KnownInstrument known_{[this] { return line(); },
+                         [this](int reply) { return port_.isSure(reply); }};
   std::array<ChannelRecord, 2> records_;
   /// New ones of each channel.
   std::array<std::int64_t, 2> counts_{};

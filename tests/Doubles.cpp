@@ -87,6 +87,7 @@ std::string ScriptedPort::query(std::string_view line, int timeOut) {
   const std::string asked = write(line, timeOut == 600 ? "" : " @" + std::to_string(timeOut));
   std::deque<std::string>& lines = replies[asked];
   if (lines.empty()) throw Error(portReadTimeOut, "RS232", "silence");
+  ++returned;
   std::string reply = lines.front();
   if (lines.size() > 1) lines.pop_front();
   return reply;

@@ -6,6 +6,7 @@
 #include <deque>
 #include <filesystem>
 #include <functional>
+#include <limits>
 #include <map>
 #include <string>
 #include <vector>
@@ -185,6 +186,9 @@ class ScriptedPort : public SerialPort, public PortList {
   int abandoned = 0;
   int timesOpened = 1;
   LineReport lineReport;
+  /// Replies, and those of them that are surely to their queries.
+  int returned = 0;
+  int sure = std::numeric_limits<int>::max();
   /// Abandoning fails.
   bool isStuck = false;
   /// Of the last request.
@@ -204,6 +208,8 @@ class ScriptedPort : public SerialPort, public PortList {
   }
   int openings() const override { return timesOpened; }
   LineReport report() const override { return lineReport; }
+  int lastReply() const override { return returned; }
+  bool isSure(int reply) const override { return reply <= sure; }
   void command(std::string_view line, Reply) override { write(line, ""); }
   std::string query(std::string_view line, int timeOut) override;
   void request(LineRecord record) override;

@@ -252,10 +252,10 @@ std::map<std::string, std::function<void()>> Played::stepsWith(const std::string
        }},
       {"paper", [this, &value] { printer.isOutOfPaper = value == "none"; }},
       {"decline", [this] { printer.isDeclined = true; }},
-      {"doubt",
+      {"sure",
        [this, number] {
-         auto& doubt = port.lineReport.doubt;
-         doubt = {doubt.times + 1, number(), clock.milliseconds()};
+         port.sure = number();
+         if (number() < port.returned) port.lineReport.sureAt = clock.milliseconds() + 8000;
          main.tmStatus.timer.raise();
        }},
       {"record1", [this, number] { main.Ch1Raw = level(number()); }},
@@ -305,7 +305,7 @@ bool Played::setUp(const std::string& name, const std::string& value) {
           label && name == label->objectName() + ":") {
         label->caption = value;
         const std::string number = name.substr(name.size() - 2, 1);
-        main.known.answered(number == "e" ? ":TIM:SCAL?" : ":CHAN" + number + ":SCAL?", value);
+        main.known.answered(number == "e" ? ":TIM:SCAL?" : ":CHAN" + number + ":SCAL?", value, 0);
       }
     return name.ends_with(':');
   }
@@ -315,7 +315,7 @@ bool Played::setUp(const std::string& name, const std::string& value) {
 void Played::connect() {
   port.answerLikeAnInstrument();
   main.cmdStart.press();
-  main.known.answered(":TRIG:SOUR?", "0");
+  main.known.answered(":TRIG:SOUR?", "0", 0);
   newIn(main);
   events_.clear();
   start_ = clock.milliseconds();

@@ -69,7 +69,7 @@ Measurements::Measurements(frmDSO& main, CommandExchange& exchange, ErrorLog& er
 
 /// It is of the signal and the settings of its time.
 Trust Measurements::trustOf(const Result& result) const {
-  if (!result.isAnswered) return Trust::unread;
+  if (!result.reply || !main_.services().port.isSure(*result.reply)) return Trust::unread;
   const KnownInstrument& known = main_.known;
   const bool isOfNow = !result.isLeftOver && result.line == known.presentLine() &&
                        known.signalChangedAt(result.channel) <= result.measuredAt;
@@ -149,8 +149,10 @@ int Measurements::flaggedCount(int row, std::size_t items) const {
 void Measurements::showResult(int label, int channel, const std::string& title,
                               const std::string& reply) {
   const KnownInstrument& known = main_.known;
-  results_.at(static_cast<std::size_t>(label)) = Result{
-      channel, isTold(reply), known.presentLine(), known.now(), exchange_.answeredAt(), false};
+  const int number = main_.services().port.lastReply();
+  results_.at(static_cast<std::size_t>(label)) =
+      Result{channel, isTold(reply) ? std::optional(number) : std::nullopt, known.presentLine(),
+             known.now(), false};
   main_.lblMeasure(label).caption = title + reply;
   main_.lblMeasure(label).notifyChanged();
 }
@@ -216,12 +218,6 @@ void Measurements::measureQuickly() {
     showResult(label++, channel, std::string(FreqMeasName[item]), reply);
     main_.refresh();
   }
-}
-
-void Measurements::doubtAnswers(std::int64_t first, std::int64_t last) {
-  for (auto& result : results_)
-    if (result && result->answeredAt >= first && result->answeredAt <= last)
-      result->isAnswered = false;
 }
 
 void Measurements::fmMeasure_Copied() {

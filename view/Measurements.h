@@ -36,9 +36,6 @@ class Measurements {
   /// that are of an earlier measurement or have no value are left out.
   void fmMeasure_Copied();
 
-  /// Answers that came between two moments of Clock may be those of other questions.
-  void doubtAnswers(std::int64_t first, std::int64_t last);
-
  private:
   void chooseAndMeasure();
   /// Measures what is flagged of both channels, unless the choice was cancelled. A value that the
@@ -62,11 +59,10 @@ class Measurements {
   /// What stands on a label of results.
   struct Result {
     int channel = 0;
-    bool isAnswered = false;
+    /// None where there is no value.
+    std::optional<int> reply;
     InstrumentLine line;
     KnownInstrument::Moment measuredAt = 0;
-    /// On Clock's scale.
-    std::int64_t answeredAt = 0;
     /// Of the measurement before the last.
     bool isLeftOver = false;
   };

@@ -4,10 +4,12 @@
 namespace tracewell {
 
 frmDSO::frmDSO(Services& services)
-    : Window("frmDSO", "Tracewell", services), known([&services] {
-        const SerialPort& port = services.port;
-        return InstrumentLine{port.settings.portNumber, port.openings()};
-      }) {
+    : Window("frmDSO", "Tracewell", services),
+      known(
+          [&port = services.port] {
+            return InstrumentLine{port.settings.portNumber, port.openings()};
+          },
+          [&port = services.port](int reply) { return port.isSure(reply); }) {
   lblTest.visible = false;
   cmdNewErrors.visible = false;
   opOff.value.setQuietly(true);

@@ -164,8 +164,6 @@ class frmDSO : public Window {
   std::function<bool()> mayEnd;
   /// The record of a channel, 1 or 2, has come; the channel holds it.
   Event<int> recordKept;
-  /// Answers that came between two moments of Clock may be those of other questions.
-  Event<std::int64_t, std::int64_t> answersDoubted;
   /// Kept apart from what the controls show: marks come of comparing the two.
   KnownInstrument known;
   std::array<Channel, 2> channels{{

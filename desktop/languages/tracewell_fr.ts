@@ -348,6 +348,10 @@
         <translation>Un enregistrement de l'enregistreur est %1</translation>
     </message>
     <message>
+        <source>A reply is missing: the scales are certain in %1 s</source>
+        <translation>Il manque une réponse : les échelles seront sûres dans %1 s</translation>
+    </message>
+    <message>
         <source>AC RMS</source>
         <translation>Efficace AC</translation>
     </message>
@@ -1520,10 +1524,6 @@
         <translation>Le dossier affiché</translation>
     </message>
     <message>
-        <source>The instrument has not told this value</source>
-        <translation>L'instrument n'a pas communiqué cette valeur</translation>
-    </message>
-    <message>
         <source>The instrument is being read</source>
         <translation>Lecture de l'instrument en cours</translation>
     </message>
@@ -1534,6 +1534,10 @@
     <message>
         <source>The instrument is stopped: press %1</source>
         <translation>L'appareil est arrêté : appuyez sur %1</translation>
+    </message>
+    <message>
+        <source>The instrument may have another value</source>
+        <translation>L’instrument a peut-être une autre valeur</translation>
     </message>
     <message>
         <source>The last question had no answer: press %1</source>

@@ -348,6 +348,10 @@
         <translation>Запись регистратора показана как %1</translation>
     </message>
     <message>
+        <source>A reply is missing: the scales are certain in %1 s</source>
+        <translation>Не хватает ответа: масштабы станут достоверными через %1 с</translation>
+    </message>
+    <message>
         <source>AC RMS</source>
         <translation>СКЗ перем.</translation>
     </message>
@@ -1520,10 +1524,6 @@
         <translation>Показанная папка</translation>
     </message>
     <message>
-        <source>The instrument has not told this value</source>
-        <translation>Прибор не сообщил это значение</translation>
-    </message>
-    <message>
         <source>The instrument is being read</source>
         <translation>Идёт чтение прибора</translation>
     </message>
@@ -1534,6 +1534,10 @@
     <message>
         <source>The instrument is stopped: press %1</source>
         <translation>Прибор остановлен: нажмите %1</translation>
+    </message>
+    <message>
+        <source>The instrument may have another value</source>
+        <translation>У прибора может быть другое значение</translation>
     </message>
     <message>
         <source>The last question had no answer: press %1</source>

@@ -348,6 +348,10 @@
         <translation>记录仪的一条记录为 %1</translation>
     </message>
     <message>
+        <source>A reply is missing: the scales are certain in %1 s</source>
+        <translation>缺少一个应答：刻度将在 %1 秒后确定</translation>
+    </message>
+    <message>
         <source>AC RMS</source>
         <translation>交流有效值</translation>
     </message>
@@ -1520,10 +1524,6 @@
         <translation>当前显示的文件夹</translation>
     </message>
     <message>
-        <source>The instrument has not told this value</source>
-        <translation>仪器没有给出这个值</translation>
-    </message>
-    <message>
         <source>The instrument is being read</source>
         <translation>正在读取仪器</translation>
     </message>
@@ -1534,6 +1534,10 @@
     <message>
         <source>The instrument is stopped: press %1</source>
         <translation>仪器已停止：按 %1</translation>
+    </message>
+    <message>
+        <source>The instrument may have another value</source>
+        <translation>仪器中的值可能不同</translation>
     </message>
     <message>
         <source>The last question had no answer: press %1</source>

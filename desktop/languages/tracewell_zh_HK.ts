@@ -348,6 +348,10 @@
         <translation>記錄儀嘅一條記錄係 %1</translation>
     </message>
     <message>
+        <source>A reply is missing: the scales are certain in %1 s</source>
+        <translation>欠一個回應：刻度會喺 %1 秒後確定</translation>
+    </message>
+    <message>
         <source>AC RMS</source>
         <translation>交流有效值</translation>
     </message>
@@ -1520,10 +1524,6 @@
         <translation>而家顯示緊嘅資料夾</translation>
     </message>
     <message>
-        <source>The instrument has not told this value</source>
-        <translation>儀器冇話到呢個數值</translation>
-    </message>
-    <message>
         <source>The instrument is being read</source>
         <translation>讀取緊儀器</translation>
     </message>
@@ -1534,6 +1534,10 @@
     <message>
         <source>The instrument is stopped: press %1</source>
         <translation>儀器停咗：撳 %1</translation>
+    </message>
+    <message>
+        <source>The instrument may have another value</source>
+        <translation>儀器入面嘅值可能唔同</translation>
     </message>
     <message>
         <source>The last question had no answer: press %1</source>

@@ -49,6 +49,7 @@ void Conversation::command(std::string_view line, bool isAnswered) {
   if (!isAnswered) return;
   askedAt_ = clock_.milliseconds();
   ++unanswered_;
+  account_.leftOutstanding(askedAt_);
   isQuestionOwed_ = true;
   if (state_ == State::idle) state_ = State::draining;
 }
@@ -107,7 +108,7 @@ void Conversation::forget() {
   owedBytes_ = 0;
   isQuestionOwed_ = false;
   isStray_ = false;
-  account_.beginAnew();
+  account_.beginAnew(clock_.milliseconds());
 }
 
 template <class Transfer>
@@ -210,6 +211,7 @@ void Conversation::hearLines(std::string_view bytes, std::int64_t since) {
     const bool isBehindALine = now < lineEndAt_ + settling;
     if (!isBlank(byte) && (unanswered_ == 0 || isBehindALine)) ++unasked;
     if (byte != '\n') continue;
+    if (unanswered_ > 0) account_.heardOutstanding();
     unanswered_ = std::max(unanswered_ - 1, 0);
     lineEndAt_ = now;
   }
@@ -368,7 +370,7 @@ void Conversation::arrived() {
     if (state_ == State::draining) channel_->rest(StandBy::longestGap);
     if (whole_) {
       const LineRecord record = *std::exchange(whole_, std::nullopt);
-      account_.gaveRecord(clock_.milliseconds());
+      account_.gaveRecord(clock_.milliseconds(), unanswered_ == 0);
       delivered(record);
     }
     if (dispatcher_.isOpen()) sendHeld();

@@ -36,6 +36,8 @@ namespace tracewell {
 ///   line is discarded. Before the next query or record the line is *drained*: until everything
 ///   outstanding has arrived, or it has been quiet for long enough (drainTime). If the line does
 ///   not come to rest within twice that time, the query counts as unanswered and is not sent.
+/// - A reply that is returned while an earlier one is missing may be that one, if it is later than
+///   longestThought: it is not sure. LineAccount says until when.
 /// - Unasked bytes make the line untrusted until it has been quiet for as long.
 /// - After two unanswered queries in a row the instrument counts as silent: further ones are sent
 ///   without draining until something is heard.
@@ -73,6 +75,8 @@ class Conversation {
   /// How often a line has been opened.
   int openings() const { return openings_; }
   LineReport report() const { return account_.report(clock_.milliseconds()); }
+  int lastReply() const { return account_.lastReply(); }
+  bool isSure(int reply) const { return account_.isSure(reply, clock_.milliseconds()); }
 
   /// Sends a line. With `isAnswered` its reply is outstanding, and will be discarded. Raises
   /// deviceError.

@@ -2,6 +2,8 @@
 #include "LineAccount.h"
 
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 namespace tracewell {
 namespace {
@@ -10,8 +12,8 @@ constexpr int secondsKept = 60;
 /// An acquisition asks for its next record within this time; a longer break was not spent waiting.
 /// Milliseconds.
 constexpr int longestBreak = 5000;
-/// A reply that was missed may be later than any should be. The next query may have got it, and so
-/// on, until one is left over. Milliseconds.
+/// A missing reply may be later than any should be. The next query may get it, and so on, until one
+/// is left over. Milliseconds.
 constexpr int longestLate = 10000;
 
 }  // namespace
@@ -39,21 +41,35 @@ LineReport LineAccount::report(std::int64_t now) const {
   report.lateRecords = late_.tally(now);
   report.endlessReplies = endless_.tally(now);
   if (wantedAt_ && now - *wantedAt_ > longestBreak) report.noRecordSince.reset();
+  report.sureAt = sureAt(now);
   return report;
 }
 
-void LineAccount::beginAnew() {
-  const LineReport::Doubt doubt = rest_.doubt;
-  *this = LineAccount(longestThought_);
-  rest_.doubt = doubt;
+void LineAccount::beginAnew(std::int64_t now) {
+  if (sureAt(now)) doubt({outstanding_->behind + 1, lastReply_});
+  LineAccount anew(longestThought_);
+  anew.lastReply_ = lastReply_;
+  anew.doubted_ = std::move(doubted_);
+  *this = std::move(anew);
 }
 
+/// An instrument that replies twice, the second time late, can give each query the reply to the one
+/// before. So the whole series is in doubt: all replies whose query followed the previous reply
+/// within the time that a reply may take.
 void LineAccount::heardUnasked(int bytes, std::int64_t since, std::int64_t now) {
   unasked_.add(bytes, now);
-  if (!answerAt_ || since >= mayBeLateUntil()) return;
-  rest_.doubt = {rest_.doubt.times + 1, *seriesFrom_, *answerAt_};
-  seriesFrom_.reset();
+  if (sureAt(since)) {
+    doubt({outstanding_->behind + 1, lastReply_});
+    outstanding_->behind = lastReply_;
+  }
+  if (!answerAt_ || since >= *answerAt_ + longestThought_) return;
+  doubt({seriesFrom_, lastReply_});
   answerAt_.reset();
+}
+
+void LineAccount::doubt(Series replies) {
+  while (!doubted_.empty() && doubted_.back().first >= replies.first) doubted_.pop_back();
+  doubted_.push_back(replies);
 }
 
 void LineAccount::gaveUpRecord(std::size_t came, std::size_t length, std::int64_t now) {
@@ -74,28 +90,52 @@ void LineAccount::wantedRecord(std::int64_t now) {
   wantedAt_ = now;
 }
 
-void LineAccount::gaveRecord(std::int64_t now) {
+void LineAccount::gaveRecord(std::int64_t now, bool isInOrder) {
+  if (isInOrder) outstanding_.reset();
   rest_.lastRecordAt = now;
   rest_.unansweredInRow = 0;
   rest_.noRecordSince.reset();
 }
 
 void LineAccount::gaveAnswer(std::int64_t askedAt, std::int64_t now) {
-  if (missedAt_ && askedAt >= std::max(*missedAt_, answerAt_.value_or(0)) + longestLate)
-    missedAt_.reset();
-  if (!answerAt_ || askedAt >= mayBeLateUntil()) seriesFrom_ = now;
+  if (outstanding_ && askedAt >= mayBeLateUntil()) outstanding_.reset();
+  ++lastReply_;
+  if (!answerAt_ || askedAt >= *answerAt_ + longestThought_) seriesFrom_ = lastReply_;
   answerAt_ = now;
   rest_.unansweredInRow = 0;
 }
 
 void LineAccount::missedAnswer(std::int64_t now) {
-  missedAt_ = now;
+  leftOutstanding(now);
   ++rest_.unansweredInRow;
 }
 
-/// The last replies that were returned may belong to others if there is one too many until then.
+void LineAccount::leftOutstanding(std::int64_t now) {
+  if (!outstanding_ || now >= mayBeLateUntil()) outstanding_ = Outstanding{0, lastReply_, now};
+  ++outstanding_->count;
+  outstanding_->lastAt = now;
+}
+
+/// Once all have come none can be taken for another.
+void LineAccount::heardOutstanding() {
+  if (outstanding_ && --outstanding_->count == 0) outstanding_.reset();
+}
+
+bool LineAccount::isSure(int reply, std::int64_t now) const {
+  if (sureAt(now) && reply > outstanding_->behind) return false;
+  const auto next = std::ranges::upper_bound(doubted_, reply, {}, &Series::first);
+  return next == doubted_.begin() || reply > std::prev(next)->last;
+}
+
+std::optional<std::int64_t> LineAccount::sureAt(std::int64_t now) const {
+  const bool isProving =
+      outstanding_ && lastReply_ > outstanding_->behind && now < mayBeLateUntil();
+  return isProving ? std::optional(mayBeLateUntil()) : std::nullopt;
+}
+
+/// What is outstanding counts until then.
 std::int64_t LineAccount::mayBeLateUntil() const {
-  return missedAt_ ? std::max(*missedAt_, *answerAt_) + longestLate : *answerAt_ + longestThought_;
+  return std::max(outstanding_->lastAt, answerAt_.value_or(0)) + longestLate;
 }
 
 }  // namespace tracewell

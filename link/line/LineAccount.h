@@ -2,6 +2,7 @@
 #pragma once
 
 #include <deque>
+#include <vector>
 
 #include "LineReport.h"
 
@@ -16,7 +17,7 @@ class LineAccount {
 
   LineReport report(std::int64_t now) const;
   /// Another instrument is on the line.
-  void beginAnew();
+  void beginAnew(std::int64_t now);
   /// The line has failed; it has been opened again.
   void lost(const std::string& reason) { rest_.failure = reason; }
   void opened() {
@@ -31,12 +32,21 @@ class LineAccount {
   void missedLineEnd(std::size_t bytes, std::int64_t now);
   /// A record is wanted; repeated while the acquisition runs.
   void wantedRecord(std::int64_t now);
-  void gaveRecord(std::int64_t now);
+  /// `isInOrder` if nothing was asked behind its request: then what was missing never comes.
+  void gaveRecord(std::int64_t now, bool isInOrder);
+  /// A query was sent whose reply nobody waits for, or not any more.
+  void leftOutstanding(std::int64_t now);
   void missedAnswer(std::int64_t now);
+  /// A reply arrived that was left outstanding.
+  void heardOutstanding();
   /// A query was not sent, since the line did not come to rest.
   void leftUnasked() { ++rest_.unansweredInRow; }
   /// The reply to a query sent at `askedAt` is returned.
   void gaveAnswer(std::int64_t askedAt, std::int64_t now);
+
+  /// As SerialPort says.
+  int lastReply() const { return lastReply_; }
+  bool isSure(int reply, std::int64_t now) const;
 
  private:
   /// Counts over the last minute, second by second.
@@ -54,6 +64,21 @@ class LineAccount {
     std::optional<std::int64_t> lastAt_;
   };
 
+  /// Replies that have not come.
+  struct Outstanding {
+    int count;
+    /// The last reply that was returned before.
+    int behind;
+    /// When the last of them was given up.
+    std::int64_t lastAt;
+  };
+  struct Series {
+    int first;
+    int last;
+  };
+
+  void doubt(Series replies);
+  std::optional<std::int64_t> sureAt(std::int64_t now) const;
   std::int64_t mayBeLateUntil() const;
 
   int longestThought_;
@@ -65,10 +90,14 @@ class LineAccount {
   /// The parts of the report that are no tallies.
   LineReport rest_;
   std::optional<std::int64_t> wantedAt_;
-  std::optional<std::int64_t> seriesFrom_;
+  int lastReply_ = 0;
+  /// The first reply that unasked bytes would put in doubt, and when the last one was returned;
+  /// none if there is none.
+  int seriesFrom_ = 0;
   std::optional<std::int64_t> answerAt_;
-  /// The last query that had no reply, as long as that may still come.
-  std::optional<std::int64_t> missedAt_;
+  std::optional<Outstanding> outstanding_;
+  /// Replies that were found to be those to other queries, in ascending order.
+  std::vector<Series> doubted_;
 };
 
 }  // namespace tracewell

@@ -20,6 +20,8 @@ class LinePort : public SerialPort {
   std::int16_t openPort() const override { return conversation_.openSettings().portNumber; }
   int openings() const override { return conversation_.openings(); }
   LineReport report() const override { return conversation_.report(); }
+  int lastReply() const override { return conversation_.lastReply(); }
+  bool isSure(int reply) const override { return conversation_.isSure(reply); }
   void command(std::string_view line, Reply reply) override;
   std::string query(std::string_view line, int timeOut) override;
   void request(LineRecord record) override { conversation_.request(std::move(record)); }

@@ -9,7 +9,7 @@
 namespace tracewell {
 
 /// What has gone wrong on the line, as facts; the caller finds the words. Moments are milliseconds
-/// on Clock's scale. Another port number begins a new report; only the count of doubts goes on.
+/// on Clock's scale. Another port number begins a new report.
 struct LineReport {
   /// Something that has happened now and then.
   struct Tally {
@@ -44,18 +44,8 @@ struct LineReport {
   /// When the last record was delivered.
   std::optional<std::int64_t> lastRecordAt;
 
-  /// Replies that were returned and have become doubtful: unasked bytes arrived behind the last
-  /// one, within the longest time that a reply may take. An instrument that replies twice, the
-  /// second time late, can give each query the reply to the one before. So the whole series is in
-  /// doubt: all replies whose query followed the previous reply within that time.
-  struct Doubt {
-    /// Grows by one each time and never shrinks; at most once for the same last reply.
-    int times = 0;
-    /// The last time, the replies returned at these moments and in between.
-    std::int64_t firstAnswerAt = 0;
-    std::int64_t lastAnswerAt = 0;
-  };
-  Doubt doubt;
+  /// When the replies that are not sure yet will be, if nothing more comes.
+  std::optional<std::int64_t> sureAt;
 };
 
 }  // namespace tracewell

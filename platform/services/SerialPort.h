@@ -50,6 +50,14 @@ class SerialPort {
   /// What has gone wrong on the line lately.
   virtual LineReport report() const = 0;
 
+  /// The number of the reply that was returned last. They are counted over all lines.
+  virtual int lastReply() const = 0;
+
+  /// Whether that reply is surely the one to its query. One that was returned while an earlier one
+  /// is missing may be that one: it is sure once the line has been quiet for long enough, or all
+  /// that was missing has come. One that turns out to be another's is never sure again.
+  virtual bool isSure(int reply) const = 0;
+
   /// What the instrument sends back to a command: nothing, or a reply that is not read.
   enum class Reply { none, unread };
 

@@ -150,7 +150,7 @@ TEST_F(AccessibilityTest, ReaderTurnsAKnobAsTheUserDoes) {
 TEST_F(AccessibilityTest, MarkKeepsTheDescription) {
   const QString own = QStringLiteral("Sum or difference of the channels");
   for (const auto& [trust, said] :
-       {std::pair(Trust::unread, own + ". The instrument has not told this value"),
+       {std::pair(Trust::unread, own + ". The instrument may have another value"),
         {Trust::holds, own}}) {
     main.cbMath.trust = [told = trust] { return told; };
     main.cbMath.notifyChanged();
@@ -160,7 +160,7 @@ TEST_F(AccessibilityTest, MarkKeepsTheDescription) {
   main.slideTrig.trust = [] { return Trust::unread; };
   main.slideTrig.notifyChanged();
   const QString described = reader(*find("slideTrig")).text(QAccessible::Description);
-  EXPECT_TRUE(described.endsWith(QStringLiteral("The instrument has not told this value")));
+  EXPECT_TRUE(described.endsWith(QStringLiteral("The instrument may have another value")));
   EXPECT_TRUE(described.startsWith(QStringLiteral("0.00 V. ")));
 }
 

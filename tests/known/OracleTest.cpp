@@ -235,8 +235,14 @@ class Oracle : public Held {
   void trouble() {
     late_ = oneOf({0, 0, 5, 30});
     lost_ = oneOf({0, 0, 3, 20});
+    slow_ = oneOf({0.0, 0.0, 0.0, 2500.0, 3300.0, 5000.0});
     if (oneIn(2)) busyUntil_ = clock.milliseconds() + 1000 + below(9000);
     if (oneIn(6)) failing_ = 1 + below(5);
+  }
+
+  void calmDown() {
+    busyUntil_ = late_ = lost_ = failing_ = 0;
+    slow_ = 0;
   }
 
   void replug() {
@@ -254,7 +260,7 @@ class Oracle : public Held {
     is->isOfOwnPanel = true;
     is->shuffle();
     run(below(5000));
-    busyUntil_ = late_ = lost_ = failing_ = 0;
+    calmDown();
     main.cmdRS232.press();
     const bool isRead = main.LinkOK;
     // What the panel never asks for.
@@ -268,7 +274,7 @@ class Oracle : public Held {
   /// Scales under which the signals can be measured, and time for some records; perhaps of one
   /// stop.
   void recordForAWhile() {
-    busyUntil_ = late_ = lost_ = failing_ = 0;
+    calmDown();
     if (!main.LinkOK) main.cmdRS232.press();
     main.cbMath.choose(3);
     for (Channel& channel : main.channels) {
@@ -309,7 +315,7 @@ class Oracle : public Held {
         {1, [this] { main.graphDSO.copy(Graph::Copied::values); }},
         {1, [this] { moveCursor(); }},
         {1, [this] { trouble(); }},
-        {1, [this] { busyUntil_ = late_ = lost_ = failing_ = 0; }},
+        {1, [this] { calmDown(); }},
         {2, [this] { recordForAWhile(); }},
         {3, [this] { replug(); }},
         {1,

@@ -283,7 +283,7 @@ TEST_F(RecorderTest, ARecordTakesTheFirstReferenceThatIsFree) {
 
 TEST_F(RecorderTest, ARecordIsSavedAsTheSaveWindowSavesTheTrace) {
   main.known.reading();
-  main.known.answered(":CHAN1:SCAL?", "500.0 mV");
+  main.known.answered(":CHAN1:SCAL?", "500.0 mV", 0);
   main.lblChan1.caption = "500.0 mV";
   main.slideCH1.value = 0.4;
   main.slideTime.value = -1.5;

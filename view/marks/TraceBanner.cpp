@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "TraceBanner.h"
 
+#include <algorithm>
+#include <array>
+
 #include "TraceMarks.h"
 
 namespace tracewell {
@@ -17,6 +20,17 @@ const Channel* firstTrace(const frmDSO& main, Condition condition) {
   for (const Channel& channel : main.channels)
     if (channel.isDisplayed && hasTrace(channel) && condition(channel)) return &channel;
   return nullptr;
+}
+
+/// Seconds until the scales that were read are sure, if they are not.
+std::optional<std::int64_t> secondsToProve(const frmDSO& main) {
+  using enum Setting;
+  const std::optional<std::int64_t> sureAt = main.services().port.report().sureAt;
+  const bool isUnsure = std::ranges::any_of(
+      std::array{scale1, scale2, timeBase},
+      [&](Setting scale) { return main.known.doubt(scale) == Doubt::unsureAnswer; });
+  if (!sureAt || !isUnsure) return std::nullopt;
+  return (*sureAt - main.services().clock.milliseconds() + 999) / 1000;
 }
 
 bool isScaleMissing(const frmDSO& main, const Channel& channel) {
@@ -56,8 +70,12 @@ std::string warning(const frmDSO& main, const Words& words) {
   const auto isLateNow = [&](const Channel& channel) { return isLate(main, channel); };
   if (const Channel* const late = firstTrace(main, isLateNow))
     return ageText(words, *late, main.services().clock.milliseconds());
-  if (firstTrace(main, [&](const Channel& channel) { return isScaleMissing(main, channel); }))
-    return toRead(main, words);
+  if (firstTrace(main, [&](const Channel& channel) { return isScaleMissing(main, channel); })) {
+    const std::optional<std::int64_t> seconds = secondsToProve(main);
+    return seconds ? words.say("A reply is missing: the scales are certain in %1 s",
+                               {std::to_string(*seconds)})
+                   : toRead(main, words);
+  }
   const auto mayBeMath = [](const Channel& channel) {
     const MadeUnder& made = channel.record.madeUnder;
     return !made.voltsPerDivision && !made.mathEntry;

@@ -83,6 +83,7 @@ std::string ageText(const Words& words, const Channel& channel, std::int64_t now
 }
 
 int changeInterval(const frmDSO& main) {
+  if (main.services().port.report().sureAt) return 1000;
   const auto hasJustCome = [&main](const Channel& channel) {
     return channel.isDisplayed && now(main) - channel.record.fetchedAt < countedExactly;
   };

@@ -103,10 +103,11 @@ class LineScript : OnALine<PacedOpener> {
     if (report.unansweredInRow > 1) text += " unanswered " + std::to_string(report.unansweredInRow);
     if (!report.failure.empty()) text += " lost: " + report.failure;
     if (report.lastRecordAt) text += " last " + std::to_string(*report.lastRecordAt);
-    if (report.doubt.times > 0)
-      text += " doubt " + std::to_string(report.doubt.times) + " of " +
-              std::to_string(report.doubt.firstAnswerAt) + "-" +
-              std::to_string(report.doubt.lastAnswerAt);
+    std::string unsure;
+    for (int i = 1; i <= port.lastReply(); ++i)
+      if (!port.isSure(i)) unsure += " " + std::to_string(i);
+    if (!unsure.empty()) text += " unsure" + unsure;
+    if (report.sureAt) text += " until " + std::to_string(*report.sureAt);
     note(text);
   }
 
