@@ -23,7 +23,7 @@ void Tracewell::connectLifecycle() {
   main.marksDue = [this] { panelMarks.show(); };
   main.known.changed = [this] { panelMarks.show(); };
   main.services().standBy.meanwhile = [this] { panelMarks.show(); };
-  main.services().standBy.beforeModal = [this] { connect.showEarly(); };
+  main.services().gate.beforeModal = [this] { connect.showEarly(); };
   main.tmTest.timer = [this] { lifecycle.tmTest_Timer(); };
 }
 

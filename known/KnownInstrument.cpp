@@ -2,6 +2,7 @@
 #include "KnownInstrument.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "Numbers.h"
@@ -20,6 +21,9 @@ constexpr double runningState = 1;
 constexpr double autoLevel = 0;
 constexpr double normalMode = 2;
 constexpr double singleMode = 3;
+
+/// No position is farther: eight divisions of the largest scale. What is has lost its point. Volts.
+constexpr double farthestPosition = 40;
 
 bool isScale(Setting setting) {
   return setting == scale1 || setting == scale2 || setting == timeBase;
@@ -155,7 +159,8 @@ std::optional<KnownInstrument::Value> KnownInstrument::toldValue(Setting setting
     case position2:
       value = trueNumber(reply, "V");
       if (!value && beginsWithNumber(captionNumber(reply))) value = ParseScaleCaption(reply);
-      return inDivisions(setting, value);
+      return value && std::fabs(*value) > farthestPosition ? std::nullopt
+                                                           : inDivisions(setting, value);
     case delay:
       return inDivisions(setting, trueNumber(reply, "s"));
     case triggerLevel:

@@ -24,6 +24,7 @@ void Connect::startOrStop() {
     return;
   }
   main_.tmDSO.enabled = !main_.tmDSO.enabled();
+  if (main_.tmDSO.enabled()) main_.status.withdraw(StatusLine::stoppedByError);
   waitToShow(main_.tmDSO.enabled());
   showAcquisition();
 }
@@ -38,8 +39,12 @@ void Connect::waitToShow(bool hasStarted) {
   Delay(main_, 1000);
 }
 
+/// A dialog that pauses the acquisition has it go on.
 void Connect::showEarly() {
-  if (hasStarted_) *hasStarted_ ? showRunning(main_) : showStopped(main_);
+  if (!hasStarted_) return;
+  const bool isPaused =
+      *hasStarted_ && main_.doing && !main_.status.says(StatusLine::stoppedByError);
+  main_.tmDSO.enabled() || isPaused ? showRunning(main_) : showStopped(main_);
 }
 
 bool Connect::connectFirst() {

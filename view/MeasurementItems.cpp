@@ -14,4 +14,10 @@ const std::array<std::string_view, timeItems> FreqMeasQuery = {
     ":MEAS:FREQ?", ":MEAS:PER?",  ":MEAS:RIS?", ":MEAS:FALL?",
     ":MEAS:PWID?", ":MEAS:NWID?", ":MEAS:PDUT?"};
 
+std::string_view measuredUnit(std::string_view query) {
+  if (query.starts_with(":MEAS:V")) return "V";
+  if (query == ":MEAS:FREQ?") return "Hz";
+  return query == ":MEAS:PDUT?" ? "%" : "s";
+}
+
 }  // namespace tracewell

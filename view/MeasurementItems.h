@@ -15,4 +15,7 @@ extern const std::array<std::string_view, voltageItems> VoltMeasQuery;
 extern const std::array<std::string_view, timeItems> FreqMeasName;
 extern const std::array<std::string_view, timeItems> FreqMeasQuery;
 
+/// Of the result of a query.
+std::string_view measuredUnit(std::string_view query);
+
 }  // namespace tracewell

@@ -2,7 +2,6 @@
 #include "Measurements.h"
 
 #include <algorithm>
-#include <array>
 
 #include "ConnectionIndicator.h"
 #include "Doing.h"
@@ -43,11 +42,11 @@ std::string sayMeasuring(const Words& words) {
   return words.say("Measuring");
 }
 
-/// A value with its unit, or the word that there is none. What lost a letter is damaged.
-bool isTold(const std::string& reply) {
-  constexpr std::array<std::string_view, 4> units = {"V", "Hz", "s", "%"};
-  const auto isIn = [&reply](std::string_view unit) { return trueNumber(reply, unit).has_value(); };
-  return reply.starts_with('N') || isNumeric(reply) || std::ranges::any_of(units, isIn);
+/// A value in its unit, or the word that there is none. What lost a letter is damaged.
+bool isTold(std::string_view reply, std::string_view unit) {
+  if (reply.starts_with('N') || trueNumber(reply, unit)) return true;
+  if (unit == "s") return trueNumber(reply, "ps").has_value();
+  return unit == "%" && reply.ends_with('%') && isNumeric(reply.substr(0, reply.size() - 1));
 }
 
 }  // namespace
@@ -133,7 +132,7 @@ void Measurements::measureFlagged(Inquiry& inquiry, int channel,
     if (!isFlagged(flagRow, item)) continue;
     inquiry.next();
     const std::string reply = askPatiently(channel, std::string(queries[item]));
-    showNext(channel, labelText(names[item], channel) + ": ", reply);
+    showNext(channel, labelText(names[item], channel) + ": ", reply, queries[item]);
     // The list can be long. No handler runs in between: it would change what is being measured.
     main_.services().standBy.turn();
     inquiry.note(!reply.empty());
@@ -147,12 +146,12 @@ int Measurements::flaggedCount(int row, std::size_t items) const {
 }
 
 void Measurements::showResult(int label, int channel, const std::string& title,
-                              const std::string& reply) {
+                              const std::string& reply, std::string_view query) {
   const KnownInstrument& known = main_.known;
-  const int number = main_.services().port.lastReply();
+  std::optional<int> number;
+  if (isTold(reply, measuredUnit(query))) number = main_.services().port.lastReply();
   results_.at(static_cast<std::size_t>(label)) =
-      Result{channel, isTold(reply) ? std::optional(number) : std::nullopt, known.presentLine(),
-             known.now(), false};
+      Result{channel, number, known.presentLine(), known.now(), false};
   main_.lblMeasure(label).caption = title + reply;
   main_.lblMeasure(label).notifyChanged();
 }
@@ -161,8 +160,9 @@ bool Measurements::isFlagged(int row, std::size_t item) const {
   return main_.gridMeasure.text(row, SetupTable::columnOf(static_cast<int>(item))) == "1";
 }
 
-void Measurements::showNext(int channel, const std::string& title, const std::string& reply) {
-  showResult(nextLabel_, channel, title, reply);
+void Measurements::showNext(int channel, const std::string& title, const std::string& reply,
+                            std::string_view query) {
+  showResult(nextLabel_, channel, title, reply, query);
   main_.lblMeasure(nextLabel_).refresh();
   nextLabel_ = std::min(nextLabel_ + 1, main_.lblMeasure.size() - 1);
 }
@@ -215,7 +215,7 @@ void Measurements::measureQuickly() {
     inquiry.next();
     const std::string reply = ask(std::string(FreqMeasQuery[item]));
     inquiry.note(!reply.empty());
-    showResult(label++, channel, std::string(FreqMeasName[item]), reply);
+    showResult(label++, channel, std::string(FreqMeasName[item]), reply, FreqMeasQuery[item]);
     main_.refresh();
   }
 }

@@ -47,8 +47,10 @@ class Measurements {
   void measureFlagged(Inquiry& inquiry, int channel, std::span<const std::string_view> names,
                       std::span<const std::string_view> queries, int flagRow);
   void chooseSource(int channel);
-  void showNext(int channel, const std::string& title, const std::string& reply);
-  void showResult(int label, int channel, const std::string& title, const std::string& reply);
+  void showNext(int channel, const std::string& title, const std::string& reply,
+                std::string_view query);
+  void showResult(int label, int channel, const std::string& title, const std::string& reply,
+                  std::string_view query);
   int flaggedCount(int row, std::size_t items) const;
   std::string askPatiently(int channel, const std::string& query);
   /// The reply; "" without asking when the source could not be chosen, since the answer would be

@@ -49,6 +49,7 @@ void Conversation::command(std::string_view line, bool isAnswered) {
   if (!isAnswered) return;
   askedAt_ = clock_.milliseconds();
   ++unanswered_;
+  account_.asked();
   account_.leftOutstanding(askedAt_);
   isQuestionOwed_ = true;
   if (state_ == State::idle) state_ = State::draining;
@@ -59,6 +60,7 @@ std::string Conversation::ask(std::string_view query, int timeOut) {
   send(query);
   askedAt_ = clock_.milliseconds();
   ++unanswered_;
+  account_.asked();
   state_ = State::replyAwaited;
   try {
     std::string reply = awaitReply(askedAt_ + timeOut);
@@ -167,10 +169,12 @@ void Conversation::hearRecord(const std::string& bytes) {
   hearBehindRecord(behind);
 }
 
-/// If more bytes follow, a late reply may have come first and shifted the whole record.
+/// If more bytes follow, a late reply may have come first and shifted the whole record. The samples
+/// of a flat signal are blanks, too.
 void Conversation::hearBehindRecord(std::string_view bytes) {
-  if (!std::ranges::all_of(bytes, [](char byte) { return isBlank(byte) || byte == '\n'; }))
-    hearLines(bytes, askedAt_);
+  const auto isEmpty = [](char byte) { return isBlank(byte) || byte == '\n'; };
+  const bool mayBeShifted = !bytes.empty() && account_.isReplyDue(clock_.milliseconds());
+  if (mayBeShifted || !std::ranges::all_of(bytes, isEmpty)) hearLines(bytes, askedAt_);
 }
 
 /// The record may be an earlier one that was given up. The outstanding count stays the same: either

@@ -27,7 +27,7 @@ namespace tracewell {
 ///
 /// - A record is pending from its request on, until it is whole or longestThought has passed
 ///   without a byte. Further requests wait, one for each channel. A record counts if only blanks
-///   and line ends follow it within the settling time.
+///   and line ends follow it within the settling time, and nothing while a reply is missing.
 /// - A record that is given up with less than half of its bytes stays outstanding. Others are still
 ///   requested, but the next one that arrives is discarded: it may be the outstanding one. Then the
 ///   line is drained for recordDrain, and the discarded record is requested again first. A reply

@@ -98,11 +98,16 @@ void LineAccount::gaveRecord(std::int64_t now, bool isInOrder) {
 }
 
 void LineAccount::gaveAnswer(std::int64_t askedAt, std::int64_t now) {
-  if (outstanding_ && askedAt >= mayBeLateUntil()) outstanding_.reset();
+  if (!isReplyDue(askedAt)) outstanding_.reset();
+  if (outstanding_) --outstanding_->count;
   ++lastReply_;
   if (!answerAt_ || askedAt >= *answerAt_ + longestThought_) seriesFrom_ = lastReply_;
   answerAt_ = now;
   rest_.unansweredInRow = 0;
+}
+
+void LineAccount::asked() {
+  if (outstanding_) ++outstanding_->count;
 }
 
 void LineAccount::missedAnswer(std::int64_t now) {
@@ -111,8 +116,7 @@ void LineAccount::missedAnswer(std::int64_t now) {
 }
 
 void LineAccount::leftOutstanding(std::int64_t now) {
-  if (!outstanding_ || now >= mayBeLateUntil()) outstanding_ = Outstanding{0, lastReply_, now};
-  ++outstanding_->count;
+  if (!isReplyDue(now)) outstanding_ = Outstanding{1, lastReply_, now};
   outstanding_->lastAt = now;
 }
 
@@ -128,8 +132,7 @@ bool LineAccount::isSure(int reply, std::int64_t now) const {
 }
 
 std::optional<std::int64_t> LineAccount::sureAt(std::int64_t now) const {
-  const bool isProving =
-      outstanding_ && lastReply_ > outstanding_->behind && now < mayBeLateUntil();
+  const bool isProving = isReplyDue(now) && lastReply_ > outstanding_->behind;
   return isProving ? std::optional(mayBeLateUntil()) : std::nullopt;
 }
 

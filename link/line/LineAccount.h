@@ -34,10 +34,12 @@ class LineAccount {
   void wantedRecord(std::int64_t now);
   /// `isInOrder` if nothing was asked behind its request: then what was missing never comes.
   void gaveRecord(std::int64_t now, bool isInOrder);
-  /// A query was sent whose reply nobody waits for, or not any more.
+  /// A query was sent. One of gaveAnswer, missedAnswer and leftOutstanding follows.
+  void asked();
+  /// Nobody waits for its reply.
   void leftOutstanding(std::int64_t now);
   void missedAnswer(std::int64_t now);
-  /// A reply arrived that was left outstanding.
+  /// A line arrived while a reply was outstanding, and is not returned.
   void heardOutstanding();
   /// A query was not sent, since the line did not come to rest.
   void leftUnasked() { ++rest_.unansweredInRow; }
@@ -47,6 +49,8 @@ class LineAccount {
   /// As SerialPort says.
   int lastReply() const { return lastReply_; }
   bool isSure(int reply, std::int64_t now) const;
+  /// A reply that is missing may still come.
+  bool isReplyDue(std::int64_t now) const { return outstanding_ && now < mayBeLateUntil(); }
 
  private:
   /// Counts over the last minute, second by second.
@@ -64,8 +68,8 @@ class LineAccount {
     std::optional<std::int64_t> lastAt_;
   };
 
-  /// Replies that have not come.
   struct Outstanding {
+    /// Queries sent less lines heard. One of them was given up.
     int count;
     /// The last reply that was returned before.
     int behind;

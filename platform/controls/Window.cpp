@@ -23,7 +23,7 @@ void Window::load() {
 void Window::showModal() {
   services_.gate.mustBeOpen();
   if (isVisible_) return;
-  if (services_.standBy.beforeModal) services_.standBy.beforeModal();
+  services_.gate.leaveToUser();
   load();
   formActivate.raise();
   isVisible_ = true;

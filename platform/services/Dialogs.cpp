@@ -7,7 +7,7 @@ namespace {
 /// The user's answer, unless the program has ended.
 template <class Ask>
 auto asked(const Gate& gate, Ask ask) {
-  gate.mustBeOpen();
+  gate.leaveToUser();
   auto answer = ask();
   gate.mustBeOpen();
   return answer;

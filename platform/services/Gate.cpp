@@ -9,4 +9,9 @@ void Gate::mustBeOpen() const {
   if (isClosed_) throw ProgramEnded();
 }
 
+void Gate::leaveToUser() const {
+  mustBeOpen();
+  if (beforeModal) beforeModal();
+}
+
 }  // namespace tracewell

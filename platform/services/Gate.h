@@ -24,6 +24,11 @@ class Gate {
   /// Throws ProgramEnded when it is closed.
   void mustBeOpen() const;
 
+  /// A modal window or dialog is about to be shown: mustBeOpen, and beforeModal.
+  void leaveToUser() const;
+  /// What waits meanwhile goes on only when the user is done.
+  std::function<void()> beforeModal;
+
   /// Holds the gate as long as it lives. Not to be nested.
   class Hold {
    public:

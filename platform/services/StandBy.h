@@ -65,9 +65,6 @@ class StandBy {
 
   /// Called at each turn, so that ages go on while a handler waits. It must not raise events.
   std::function<void()> meanwhile;
-  /// Called before a modal window of the program is shown. A handler that waits meanwhile goes on
-  /// only when the user has closed the window.
-  std::function<void()> beforeModal;
 
   bool isInBurst() const { return innermost_ != nullptr; }
   /// The user gives up the wait. Without a burst it does nothing.

@@ -120,10 +120,11 @@ class Oracle : public Held {
         {"PWID", "+Width"}, {"NWID", "-Width"}, {"PDUT", "Duty"}};
     for (const ValueLabel& label : main.lblMeasure) {
       const std::string& text = label.caption();
-      const std::size_t mark = text.rfind('M');
-      if (!holds(label) || mark == std::string::npos || !std::isdigit(text[mark + 1])) continue;
+      const std::size_t end = text.rfind(' ');
+      if (!holds(label) || end == std::string::npos || !std::isdigit(text[end - 1])) continue;
+      const std::size_t start = text.find_last_not_of("0123456789", end - 1) + 1;
       const auto& [instrument, channel, item, signal] =
-          history_.measured.at(static_cast<std::size_t>(std::atoi(text.c_str() + mark + 1)));
+          history_.measured.at(static_cast<std::size_t>(std::atoi(text.c_str() + start)));
       expect(isThere_ && instrument == is_->id, "result: instrument", text);
       const std::size_t bracket = text.find('(');
       expect(bracket > 12 || text[bracket + 1] == (channel == 0 ? '1' : '2'), "result: channel",

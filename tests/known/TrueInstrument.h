@@ -149,7 +149,11 @@ class TrueInstrument : public TrueTexts {
     if (header.starts_with("MEAS:")) {
       if (below(12) == 0) return "N/A";
       history_.measured.push_back({id, measured_, header.substr(5), signal(measured_)});
-      return "M" + std::to_string(history_.measured.size() - 1);
+      const std::string unit = header == "MEAS:FREQ"   ? "Hz"
+                               : header[5] == 'V'      ? "V"
+                               : header == "MEAS:PDUT" ? "%"
+                                                       : "s";
+      return std::to_string(history_.measured.size() - 1) + " " + unit;
     }
     return others_.contains(header) ? others_[header] : "0";
   }

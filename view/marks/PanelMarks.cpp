@@ -78,13 +78,10 @@ void PanelMarks::trustScale(Setting setting, ValueLabel& label, Knob& knob, Scal
   });
 }
 
-/// What is twice as far as a slide reaches is rather a damaged reply than the instrument's value. A
-/// slide in the user's hand shows what he wants.
+/// A slide in the user's hand shows what he wants.
 void PanelMarks::trustSlide(Slide& slide, Setting setting) {
   trust(slide, setting, [&known = main_.known, &slide, setting] {
-    const double value = known.number(setting).value_or(0);
-    const double far = 2 * std::max(-slide.range().minimum, slide.range().maximum);
-    return std::fabs(value - slide.value()) <= shownPrecision && std::fabs(value) <= far;
+    return std::fabs(known.number(setting).value_or(0) - slide.value()) <= shownPrecision;
   });
   slide.trust = [&slide, asked = slide.trust] { return slide.isHeld() ? Trust::holds : asked(); };
 }
