@@ -66,6 +66,7 @@ class NamedKinds : public QFileIconProvider {
   using QFileIconProvider::icon;
 };
 
+/// All file dialogs are made here.
 std::filesystem::path ask(const FileDialog& dialog, QFileDialog::AcceptMode mode) {
   QFileDialog box(windowInUse(), shownTitle(dialog.title), toQt(dialog.initialFolder),
                   nameFilter(dialog.filter));
@@ -74,6 +75,7 @@ std::filesystem::path ask(const FileDialog& dialog, QFileDialog::AcceptMode mode
   box.setAcceptMode(mode);
   box.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile
                                                   : QFileDialog::AnyFile);
+  box.setOption(QFileDialog::DontConfirmOverwrite, dialog.isContinued);
   box.setDefaultSuffix(suffix(dialog.filter));
   box.selectFile(toQt(dialog.fileName));
   if (box.exec() != QDialog::Accepted) return dialog.fileName;

@@ -16,6 +16,8 @@ struct FileDialog {
   std::string title;
   std::string fileName;
   std::string filter;
+  /// A file to save that is there already will be continued: nothing is asked.
+  bool isContinued = false;
 };
 
 enum class Answer { Yes, No };
@@ -42,7 +44,7 @@ class Dialogs {
   /// Returns the path that the user picked. After Cancel it is `dialog.fileName` as given: a bare
   /// name, which the caller then uses in the current folder.
   std::filesystem::path openFile(const FileDialog& dialog);
-  /// The same for a file to be written; asks before it replaces one.
+  /// The same for a file to be written; asks before one is replaced.
   std::filesystem::path saveFile(const FileDialog& dialog);
 
   /// The colour that the user picked, or `initial` after Cancel.
