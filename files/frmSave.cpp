@@ -91,8 +91,11 @@ void frmSave::cmdReload_Click() {
 
 void frmSave::cmdOK_Click() {
   const std::string pattern = "*." + pictureExtension_;
-  const FileDialog dialogSave{services().programFolder, caption(), timeStamp(services().clock),
-                              pattern + "|" + pattern};
+  FileDialog dialogSave{services().programFolder, caption(), timeStamp(services().clock),
+                        pattern + "|" + pattern};
+  // So that the last four characters of a name are its extension. Those of the data are refused.
+  dialogSave.extensions = {"csv", "inf"};
+  for (const OptionButton& format : opFiletype) dialogSave.extensions.push_back(format.caption());
   saveSet(services().dialogs.saveFile(dialogSave));
   hide();
   main_.refresh();

@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <string>
+#include <vector>
 
 #include "Colour.h"
 #include "Error.h"
@@ -18,6 +19,14 @@ struct FileDialog {
   std::string filter;
   /// A file to save that is there already will be continued: nothing is asked.
   bool isContinued = false;
+  /// Those of which a name to save has one; none if any name will do.
+  std::vector<std::string> extensions = {};
+
+  /// That of the filter, "dso" of "*.dso".
+  std::string usualExtension() const;
+  /// A path that the user has picked for saving: with the usual extension behind a name that has
+  /// none of `extensions`, as "test.1" has none.
+  std::filesystem::path completed(const std::filesystem::path& picked) const;
 };
 
 enum class Answer { Yes, No };
