@@ -55,9 +55,9 @@ void frmSave::takePicture(const Image& image) {
 
 /// Says nothing where no record has come yet: there is nothing to save then.
 void frmSave::Form_Activate() {
-  scalesNotOfTraces_ = scalesNotOfTraces(main_);
-  lblScales.caption = scalesNotOfTraces_ ? scalesNotOfTraces_(services().words) : "";
-  lblScales.visible = static_cast<bool>(scalesNotOfTraces_);
+  notOfTraces_ = setNotOfTraces(main_);
+  lblScales.caption = notOfTraces_ ? notOfTraces_(services().words) : "";
+  lblScales.visible = static_cast<bool>(notOfTraces_);
   try {
     txtDatFile.text = BuildCsvText(shownSet(main_));
   } catch (const Error&) {
@@ -117,7 +117,7 @@ void frmSave::saveSet(const std::filesystem::path& path) {
   }
   main_.status.tell(StatusLine::happened,
                     [=](const Words& words) { return setWasSaved(words, path); });
-  if (scalesNotOfTraces_) main_.status.tellToo(StatusLine::happened, scalesNotOfTraces_);
+  if (notOfTraces_) main_.status.tellToo(StatusLine::happened, notOfTraces_);
 }
 
 }  // namespace tracewell

@@ -84,6 +84,10 @@
         <translation>%1 : %2, %3, %4</translation>
     </message>
     <message>
+        <source>%1: drawn at position %2, not at %3</source>
+        <translation>%1 : tracée à la position %2, et non à %3</translation>
+    </message>
+    <message>
         <source>%1: earlier records under these scales: %2</source>
         <translation>%1 : enregistrements antérieurs à ces échelles : %2</translation>
     </message>

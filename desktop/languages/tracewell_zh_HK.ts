@@ -84,6 +84,10 @@
         <translation>%1：%2，%3，%4</translation>
     </message>
     <message>
+        <source>%1: drawn at position %2, not at %3</source>
+        <translation>%1：條線畫咗喺位置 %2，唔係 %3</translation>
+    </message>
+    <message>
         <source>%1: earlier records under these scales: %2</source>
         <translation>%1：呢個刻度下更早嘅記錄：%2 條</translation>
     </message>

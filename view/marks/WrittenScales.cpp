@@ -2,6 +2,7 @@
 #include "WrittenScales.h"
 
 #include <algorithm>
+#include <cmath>
 #include <optional>
 #include <vector>
 
@@ -26,6 +27,26 @@ std::string captionOf(double perDivision, bool isTime) {
     return found == captions.end() ? std::string() : std::string(*found);
   };
   return isTime ? find(TimeDivText, "s") : find(VoltDivText, "V");
+}
+
+/// A position that is written beside a trace, and the one at which that was drawn. In divisions.
+struct WrittenPosition {
+  std::string name;
+  double written;
+  double drawn;
+};
+
+/// A reader lifts the trace by what is written.
+std::vector<WrittenPosition> positionsNotOfTraces(const frmDSO& main) {
+  std::vector<WrittenPosition> others;
+  for (const Channel& channel : main.channels) {
+    const double written = channel.slide.value();
+    const double units = written * Graph::unitsPerDivision - channel.drawnShift;
+    if (hasTrace(channel) && std::abs(units) >= 1)
+      others.push_back({channel.display.caption(), written,
+                        channel.drawnShift / double{Graph::unitsPerDivision}});
+  }
+  return others;
 }
 
 std::string sentence(const Words& words, const Written& written) {
@@ -56,6 +77,20 @@ StatusLine::Sentence scalesNotOfTraces(const frmDSO& main) {
     std::string text;
     for (const Written& written : others)
       text += (text.empty() ? "" : "; ") + sentence(words, written);
+    return text;
+  };
+}
+
+StatusLine::Sentence setNotOfTraces(const frmDSO& main) {
+  const StatusLine::Sentence scales = scalesNotOfTraces(main);
+  const std::vector<WrittenPosition> others = positionsNotOfTraces(main);
+  if (others.empty()) return scales;
+  return [=](const Words& words) {
+    std::string text = scales ? scales(words) : "";
+    for (const WrittenPosition& other : others)
+      text += (text.empty() ? "" : "; ") +
+              words.say("%1: drawn at position %2, not at %3",
+                        {other.name, numberText(other.drawn), numberText(other.written)});
     return text;
   };
 }
