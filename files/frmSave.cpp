@@ -53,7 +53,7 @@ void frmSave::takePicture(const Image& image) {
   pictureTemp.image = image;
 }
 
-/// Says nothing where no record has come yet: there is nothing to save then.
+/// A record that is missing leaves the data empty; lblScales names it.
 void frmSave::Form_Activate() {
   notOfTraces_ = setNotOfTraces(main_);
   lblScales.caption = notOfTraces_ ? notOfTraces_(services().words) : "";

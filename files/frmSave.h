@@ -31,7 +31,8 @@ class frmSave : public Window {
   TextBox txtDes{*this, "txtDes"};
   /// The text of the data file, then that of the description file.
   TextBox txtDatFile{*this, "txtDatFile"};
-  /// Says which scales and positions that will be written are not the traces'.
+  /// Says which scales and positions that will be written are not the traces', and
+  /// which record is missing.
   ValueLabel lblScales{*this, "lblScales", ""};
   Button cmdOK{*this, "cmdOK", "OK"};
   Button cmdCancel{*this, "cmdCancel", "Cancel"};

@@ -1492,6 +1492,10 @@
         <translation>Texte à écrire sur l'image</translation>
     </message>
     <message>
+        <source>The .csv is empty: no whole record of %1</source>
+        <translation>Le .csv est vide : aucun enregistrement entier de %1</translation>
+    </message>
+    <message>
         <source>The acquisition has stopped: %1</source>
         <translation>L'acquisition s'est arrêtée : %1</translation>
     </message>

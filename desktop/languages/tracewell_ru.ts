@@ -1492,6 +1492,10 @@
         <translation>Текст надписи на рисунке</translation>
     </message>
     <message>
+        <source>The .csv is empty: no whole record of %1</source>
+        <translation>Файл .csv пуст: целой записи %1 нет</translation>
+    </message>
+    <message>
         <source>The acquisition has stopped: %1</source>
         <translation>Сбор данных остановлен: %1</translation>
     </message>

@@ -1492,6 +1492,10 @@
         <translation>要写在图片上的文字</translation>
     </message>
     <message>
+        <source>The .csv is empty: no whole record of %1</source>
+        <translation>.csv 为空：没有 %1 的完整记录</translation>
+    </message>
+    <message>
         <source>The acquisition has stopped: %1</source>
         <translation>采集已停止：%1</translation>
     </message>

@@ -1492,6 +1492,10 @@
         <translation>要寫喺圖片上嘅文字</translation>
     </message>
     <message>
+        <source>The .csv is empty: no whole record of %1</source>
+        <translation>.csv 係空嘅：未有 %1 嘅完整記錄</translation>
+    </message>
+    <message>
         <source>The acquisition has stopped: %1</source>
         <translation>擷取已停止：%1</translation>
     </message>

@@ -8,6 +8,7 @@
 
 #include "TraceMarks.h"
 #include "TrueNumbers.h"
+#include "WaveformRecord.h"
 
 namespace tracewell {
 namespace {
@@ -49,6 +50,15 @@ std::vector<WrittenPosition> positionsNotOfTraces(const frmDSO& main) {
   return others;
 }
 
+/// Ticked channels whose samples cannot be written; then nobody's are.
+std::string channelsWithoutRecord(const frmDSO& main) {
+  std::string names;
+  for (const Channel& channel : main.channels)
+    if (channel.display.isChecked() && channel.record.bytes.size() < WaveformRecord::byteCount)
+      names += (names.empty() ? "" : ", ") + channel.display.caption();
+  return names;
+}
+
 std::string sentence(const Words& words, const Written& written) {
   const std::string made =
       written.made ? captionOf(*written.made, written.caption.ends_with('s')) : "";
@@ -84,13 +94,17 @@ StatusLine::Sentence scalesNotOfTraces(const frmDSO& main) {
 StatusLine::Sentence setNotOfTraces(const frmDSO& main) {
   const StatusLine::Sentence scales = scalesNotOfTraces(main);
   const std::vector<WrittenPosition> others = positionsNotOfTraces(main);
-  if (others.empty()) return scales;
+  const std::string missing = channelsWithoutRecord(main);
+  if (others.empty() && missing.empty()) return scales;
   return [=](const Words& words) {
     std::string text = scales ? scales(words) : "";
+    const auto add = [&text](const std::string& said) {
+      text += (text.empty() ? "" : "; ") + said;
+    };
     for (const WrittenPosition& other : others)
-      text += (text.empty() ? "" : "; ") +
-              words.say("%1: drawn at position %2, not at %3",
-                        {other.name, numberText(other.drawn), numberText(other.written)});
+      add(words.say("%1: drawn at position %2, not at %3",
+                    {other.name, numberText(other.drawn), numberText(other.written)}));
+    if (!missing.empty()) add(words.say("The .csv is empty: no whole record of %1", {missing}));
     return text;
   };
 }

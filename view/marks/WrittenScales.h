@@ -10,7 +10,8 @@ namespace tracewell {
 StatusLine::Sentence scalesNotOfTraces(const frmDSO& main);
 
 /// The same of a waveform set, which carries the positions, too. A trace can be drawn at another:
-/// channel 2 is at whole divisions, channel 1 until its next record.
+/// channel 2 is at whole divisions, channel 1 until its next record. And of its data, which are
+/// empty if a ticked channel has no whole record.
 StatusLine::Sentence setNotOfTraces(const frmDSO& main);
 
 }  // namespace tracewell
