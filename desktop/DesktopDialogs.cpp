@@ -47,12 +47,6 @@ QString nameFilter(const std::string& filter) {
                           : QStringLiteral("%1 (%2)").arg(parts.value(0), parts.value(1));
 }
 
-/// "dso" of "*.dso", for a name that the user types without it.
-QString suffix(const std::string& filter) {
-  const QString pattern = toQt(filter).section(QLatin1Char('|'), -1);
-  return pattern.section(QLatin1Char('.'), -1);
-}
-
 /// Goes by names. The toolkit's own looks into each file, which waits for a slow folder, and for
 /// ever for a file that never ends.
 class NamedKinds : public QFileIconProvider {
@@ -66,6 +60,19 @@ class NamedKinds : public QFileIconProvider {
   using QFileIconProvider::icon;
 };
 
+bool isFree(const std::filesystem::path& path) {
+  std::error_code ignored;
+  return !std::filesystem::exists(path, ignored);
+}
+
+/// In the toolkit's words.
+bool isReplaced(const std::filesystem::path& path, const std::string& title) {
+  const QString asked = QFileDialog::tr("%1 already exists.\nDo you want to replace it?");
+  return showBox(QMessageBox::Warning, title, fromQt(asked.arg(toQt(path.filename()))),
+                 QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
+}
+
+/// All file dialogs are made here.
 std::filesystem::path ask(const FileDialog& dialog, QFileDialog::AcceptMode mode) {
   QFileDialog box(windowInUse(), shownTitle(dialog.title), toQt(dialog.initialFolder),
                   nameFilter(dialog.filter));
@@ -74,10 +81,16 @@ std::filesystem::path ask(const FileDialog& dialog, QFileDialog::AcceptMode mode
   box.setAcceptMode(mode);
   box.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile
                                                   : QFileDialog::AnyFile);
-  box.setDefaultSuffix(suffix(dialog.filter));
+  box.setOption(QFileDialog::DontConfirmOverwrite, dialog.isContinued);
+  box.setDefaultSuffix(toQt(dialog.usualExtension()));
   box.selectFile(toQt(dialog.fileName));
-  if (box.exec() != QDialog::Accepted) return dialog.fileName;
-  return toPath(box.selectedFiles().value(0));
+  while (box.exec() == QDialog::Accepted) {
+    const std::filesystem::path picked = toPath(box.selectedFiles().value(0));
+    const std::filesystem::path path = dialog.completed(picked);
+    // The toolkit has asked for what was picked only.
+    if (path == picked || isFree(path) || isReplaced(path, dialog.title)) return path;
+  }
+  return dialog.fileName;
 }
 
 }  // namespace

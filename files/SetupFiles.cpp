@@ -121,9 +121,9 @@ bool SetupFiles::isOfAnother(const std::filesystem::path& path, const std::strin
   try {
     const std::string bytes = readWholeFile(path, fileLimit::setup);
     return !bytes.empty() && bytes != known_ && bytes != text;
-  } catch (const Error&) {
-    // What cannot be read has been noted, or is an error when it is written.
-    return false;
+  } catch (const Error& error) {
+    // What could not be read at the start has been noted.
+    return error.number() != fileNotFound && !isToBeKept(main_, path);
   }
 }
 
@@ -150,8 +150,8 @@ StatusLine::Sentence SetupFiles::WriteSetupFile(const std::filesystem::path& pat
   checkReadable(path, text, fileLimit::setup);
   StatusLine::Sentence said;
   if (isOfAnother(path, text)) {
-    noteFileToKeep(main_, path);
     said = changedMeanwhile(path, nameAside(path));
+    noteFileToKeep(main_, path);
   }
   keepNotedFile(main_, path);
   writeWholeFile(path, text);

@@ -53,11 +53,11 @@ void frmSave::takePicture(const Image& image) {
   pictureTemp.image = image;
 }
 
-/// Says nothing where no record has come yet: there is nothing to save then.
+/// A record that is missing leaves the data empty; lblScales names it.
 void frmSave::Form_Activate() {
-  scalesNotOfTraces_ = scalesNotOfTraces(main_);
-  lblScales.caption = scalesNotOfTraces_ ? scalesNotOfTraces_(services().words) : "";
-  lblScales.visible = static_cast<bool>(scalesNotOfTraces_);
+  notOfTraces_ = setNotOfTraces(main_);
+  lblScales.caption = notOfTraces_ ? notOfTraces_(services().words) : "";
+  lblScales.visible = static_cast<bool>(notOfTraces_);
   try {
     txtDatFile.text = BuildCsvText(shownSet(main_));
   } catch (const Error&) {
@@ -91,8 +91,11 @@ void frmSave::cmdReload_Click() {
 
 void frmSave::cmdOK_Click() {
   const std::string pattern = "*." + pictureExtension_;
-  const FileDialog dialogSave{services().programFolder, caption(), timeStamp(services().clock),
-                              pattern + "|" + pattern};
+  FileDialog dialogSave{services().programFolder, caption(), timeStamp(services().clock),
+                        pattern + "|" + pattern};
+  // So that the last four characters of a name are its extension. Those of the data are refused.
+  dialogSave.extensions = {"csv", "inf"};
+  for (const OptionButton& format : opFiletype) dialogSave.extensions.push_back(format.caption());
   saveSet(services().dialogs.saveFile(dialogSave));
   hide();
   main_.refresh();
@@ -114,7 +117,7 @@ void frmSave::saveSet(const std::filesystem::path& path) {
   }
   main_.status.tell(StatusLine::happened,
                     [=](const Words& words) { return setWasSaved(words, path); });
-  if (scalesNotOfTraces_) main_.status.tellToo(StatusLine::happened, scalesNotOfTraces_);
+  if (notOfTraces_) main_.status.tellToo(StatusLine::happened, notOfTraces_);
 }
 
 }  // namespace tracewell

@@ -31,7 +31,8 @@ class frmSave : public Window {
   TextBox txtDes{*this, "txtDes"};
   /// The text of the data file, then that of the description file.
   TextBox txtDatFile{*this, "txtDatFile"};
-  /// Says which scales that will be written are not the traces'.
+  /// Says which scales and positions that will be written are not the traces', and
+  /// which record is missing.
   ValueLabel lblScales{*this, "lblScales", ""};
   Button cmdOK{*this, "cmdOK", "OK"};
   Button cmdCancel{*this, "cmdCancel", "Cancel"};
@@ -49,7 +50,7 @@ class frmSave : public Window {
   void saveSet(const std::filesystem::path& path);
 
   frmDSO& main_;
-  StatusLine::Sentence scalesNotOfTraces_;
+  StatusLine::Sentence notOfTraces_;
   std::int16_t pictureType_ = Pictures::jpg;
   std::string pictureExtension_ = "jpg";
   /// The pictures before each drawing; the first is the graph's.

@@ -89,7 +89,9 @@ class RecordingDialogs : public Dialogs {
  private:
   Answer answerYesNo(const std::string& prompt, const std::string& title, Answer) override;
   std::filesystem::path fileToOpen(const FileDialog& dialog) override;
-  std::filesystem::path fileToSave(const FileDialog& dialog) override { return fileToOpen(dialog); }
+  std::filesystem::path fileToSave(const FileDialog& dialog) override {
+    return pickedFile.empty() ? fileToOpen(dialog) : dialog.completed(fileToOpen(dialog));
+  }
   Colour pickedColour(Colour) override { return colour; }
 };
 

@@ -84,6 +84,10 @@
         <translation>%1 : %2, %3, %4</translation>
     </message>
     <message>
+        <source>%1: drawn at position %2, not at %3</source>
+        <translation>%1 : tracée à la position %2, et non à %3</translation>
+    </message>
+    <message>
         <source>%1: earlier records under these scales: %2</source>
         <translation>%1 : enregistrements antérieurs à ces échelles : %2</translation>
     </message>
@@ -1490,6 +1494,10 @@
     <message>
         <source>Text to write onto the picture</source>
         <translation>Texte à écrire sur l'image</translation>
+    </message>
+    <message>
+        <source>The .csv is empty: no whole record of %1</source>
+        <translation>Le .csv est vide : aucun enregistrement entier de %1</translation>
     </message>
     <message>
         <source>The acquisition has stopped: %1</source>

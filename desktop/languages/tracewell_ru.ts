@@ -84,6 +84,10 @@
         <translation>%1: %2, %3, %4</translation>
     </message>
     <message>
+        <source>%1: drawn at position %2, not at %3</source>
+        <translation>%1: кривая начерчена в положении %2, а не %3</translation>
+    </message>
+    <message>
         <source>%1: earlier records under these scales: %2</source>
         <translation>%1: прежних записей в этих масштабах: %2</translation>
     </message>
@@ -1490,6 +1494,10 @@
     <message>
         <source>Text to write onto the picture</source>
         <translation>Текст надписи на рисунке</translation>
+    </message>
+    <message>
+        <source>The .csv is empty: no whole record of %1</source>
+        <translation>Файл .csv пуст: целой записи %1 нет</translation>
     </message>
     <message>
         <source>The acquisition has stopped: %1</source>

@@ -84,6 +84,10 @@
         <translation>%1：%2，%3，%4</translation>
     </message>
     <message>
+        <source>%1: drawn at position %2, not at %3</source>
+        <translation>%1：波形画在位置 %2，而非 %3</translation>
+    </message>
+    <message>
         <source>%1: earlier records under these scales: %2</source>
         <translation>%1：此刻度下更早的记录：%2 条</translation>
     </message>
@@ -1490,6 +1494,10 @@
     <message>
         <source>Text to write onto the picture</source>
         <translation>要写在图片上的文字</translation>
+    </message>
+    <message>
+        <source>The .csv is empty: no whole record of %1</source>
+        <translation>.csv 为空：没有 %1 的完整记录</translation>
     </message>
     <message>
         <source>The acquisition has stopped: %1</source>

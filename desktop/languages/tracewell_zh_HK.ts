@@ -84,6 +84,10 @@
         <translation>%1：%2，%3，%4</translation>
     </message>
     <message>
+        <source>%1: drawn at position %2, not at %3</source>
+        <translation>%1：條線畫咗喺位置 %2，唔係 %3</translation>
+    </message>
+    <message>
         <source>%1: earlier records under these scales: %2</source>
         <translation>%1：呢個刻度下更早嘅記錄：%2 條</translation>
     </message>
@@ -1490,6 +1494,10 @@
     <message>
         <source>Text to write onto the picture</source>
         <translation>要寫喺圖片上嘅文字</translation>
+    </message>
+    <message>
+        <source>The .csv is empty: no whole record of %1</source>
+        <translation>.csv 係空嘅：未有 %1 嘅完整記錄</translation>
     </message>
     <message>
         <source>The acquisition has stopped: %1</source>

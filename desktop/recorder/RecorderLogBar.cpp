@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "RecorderLogBar.h"
 
-#include <QFileDialog>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -9,6 +8,7 @@
 #include <QMouseEvent>
 
 #include "DesktopWords.h"
+#include "Files.h"
 #include "QtValues.h"
 #include "RecorderWords.h"
 #include "ShownText.h"
@@ -135,14 +135,6 @@ std::optional<std::vector<MeasurementLimit>> RecorderLogBar::limits() {
   return found;
 }
 
-void RecorderLogBar::startInto(const std::filesystem::path& path) {
-  const auto wanted = limits();
-  if (!wanted) return;
-  recorder_.startLog(path, {quantities(), *wanted}, {pins_->isChecked(), rings_->isChecked()});
-  emit said({});
-  emit used();
-}
-
 void RecorderLogBar::toggle() {
   const Services& services = recorder_.main().services();
   services.dispatcher.dispatch([&] {
@@ -156,12 +148,16 @@ void RecorderLogBar::toggle() {
       emit said(panelText("Choose what is measured first"));
       return;
     }
-    if (!limits()) return;
-    // An existing file is continued, not replaced.
-    const QString path = QFileDialog::getSaveFileName(
-        window(), panelText("Log"), toQt(services.programFolder / "log.csv"),
-        QStringLiteral("*.csv"), nullptr, QFileDialog::DontConfirmOverwrite);
-    if (!path.isEmpty() && services.dispatcher.isOpen()) startInto(toPath(path));
+    const auto wanted = limits();
+    if (!wanted) return;
+    const std::filesystem::path offered = "log.csv";
+    const std::filesystem::path path = services.dialogs.saveFile(
+        {services.programFolder, fromQt(panelText("Log")), pathText(offered), "*.csv|*.csv", true});
+    // After Cancel it is the name that was offered.
+    if (path == offered) return;
+    recorder_.startLog(path, {quantities(), *wanted}, {pins_->isChecked(), rings_->isChecked()});
+    emit said({});
+    emit used();
   });
 }
 

@@ -21,8 +21,6 @@ class RecorderLogBar : public QWidget {
   RecorderLogBar(Recorder& recorder, QWidget* parent);
   void showState();
   void sayAgain() { texts_.sayAgain(); }
-  /// Into that file. Raises what the log raises.
-  void startInto(const std::filesystem::path& path);
 
  signals:
   /// What the user should know; empty takes it back.

@@ -82,7 +82,10 @@ void writeWaveformSet(const std::filesystem::path& picturePath, const WaveformSe
 
 std::string setWasSaved(const Words& words, const std::filesystem::path& picturePath) {
   const std::string base = withoutExtension(pathText(picturePath));
-  const auto nameOf = [](const std::string& text) { return pathText(pathOf(text).filename()); };
+  // They are in another folder if the picture's name is shorter than an extension.
+  const auto nameOf = [&](const std::string& text) {
+    return pathText(pathOf(text).lexically_relative(picturePath.parent_path()));
+  };
   return words.say("Saved %1, %2 and %3 in %4",
                    {pathText(picturePath.filename()), nameOf(base + ".csv"), nameOf(base + ".inf"),
                     folderText(picturePath)});

@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <string>
+#include <vector>
 
 #include "Colour.h"
 #include "Error.h"
@@ -16,6 +17,16 @@ struct FileDialog {
   std::string title;
   std::string fileName;
   std::string filter;
+  /// A file to save that is there already will be continued: nothing is asked.
+  bool isContinued = false;
+  /// Those of which a name to save has one; none if any name will do.
+  std::vector<std::string> extensions = {};
+
+  /// That of the filter, "dso" of "*.dso".
+  std::string usualExtension() const;
+  /// A path that the user has picked for saving: with the usual extension behind a name that has
+  /// none of `extensions`, as "test.1" has none.
+  std::filesystem::path completed(const std::filesystem::path& picked) const;
 };
 
 enum class Answer { Yes, No };
@@ -42,7 +53,7 @@ class Dialogs {
   /// Returns the path that the user picked. After Cancel it is `dialog.fileName` as given: a bare
   /// name, which the caller then uses in the current folder.
   std::filesystem::path openFile(const FileDialog& dialog);
-  /// The same for a file to be written; asks before it replaces one.
+  /// The same for a file to be written; asks before one is replaced.
   std::filesystem::path saveFile(const FileDialog& dialog);
 
   /// The colour that the user picked, or `initial` after Cancel.

@@ -163,23 +163,26 @@ class DesktopDialogsTest : public testing::Test {
 };
 
 TEST_F(DesktopDialogsTest, FilesArePickedWithTheSuffixOfTheFilter) {
-  const FileDialog offer{folder.path(), "Setup", "offered", "*.dso|*.dso"};
+  const FileDialog offer{folder.path(), "Setup", "offered", "*.dso|*.dso", false, {"txt", "dso"}};
   // What the user types (nothing: Cancel), the file to save, the file to open.
   const std::tuple<QString, fs::path, fs::path> cases[] = {
       {"", "offered", "offered"},
       {"new", folder.path() / "new.dso", {}},
-      {"new.txt", folder.path() / "new.txt", {}},
+      {"new.TXT", folder.path() / "new.TXT", {}},
+      {"1.5", folder.path() / "1.5.dso", {}},
       {"default", folder.path() / "default.dso", folder.path() / "default.dso"}};
-  writeWholeFile(folder.path() / "inside", "%PDF-1.4");
+  writeWholeFile(folder.path() / "1.5.dso", "%PDF-1.4");
   for (const auto& [typed, saved, opened] : cases) {
     const auto answer = [this, name = typed](QFileDialog& dialog) {
       EXPECT_EQ(dialog.nameFilters(), QStringList("*.dso (*.dso)"));
-      dialog.setOption(QFileDialog::DontConfirmOverwrite);
+      dialog.setOption(QFileDialog::DontConfirmOverwrite, name != "1.5");
       // It is not looked into: a folder may be slow, and /proc/kmsg has no end.
-      EXPECT_EQ(dialog.iconProvider()->type(QFileInfo(toQt(folder.path() / "inside"))), "");
+      EXPECT_EQ(dialog.iconProvider()->type(QFileInfo(toQt(folder.path() / "1.5.dso"))), "DSO");
       auto* line = dialog.findChild<QLineEdit*>("fileNameEdit");
       EXPECT_EQ(line->text(), "offered");
       line->setText(name);
+      // What is replaced is what will be written.
+      if (name == "1.5") use<QMessageBox>([](auto& asked) { asked.done(QMessageBox::Yes); });
       QDialog& box = dialog;
       name.isEmpty() ? box.reject() : box.accept();
     };

@@ -124,6 +124,10 @@ TEST_F(SetupFilesTest, WhatCouldNotBeTakenWholeIsKept) {
     EXPECT_EQ(main.lblNotice.caption(), "");
   }
   EXPECT_FALSE(fs::exists(folder.path() / name));
+  // What another program has put there since is too long to be read.
+  writeWholeFile(setup, std::string(fileLimit::setup + 1, 'x'));
+  EXPECT_TRUE(program.setupFiles.WriteSetupFile(setup));
+  EXPECT_TRUE(contentOf(folder.path() / name).starts_with("x"));
   EXPECT_TRUE(dialogs.messages.empty());
 }
 

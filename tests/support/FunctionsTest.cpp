@@ -113,6 +113,7 @@ const std::map<std::string, Function> functions = {
      }},
     {"samplesOfBytes", [](auto& of) { return samples(0, 0, std::stoul(of[0])); }},
     {"readWaveforms", waveforms},
+    {"setWasSaved", [](auto& of) { return setWasSaved(Words(), pathOf(of[0])); }},
     {"withoutExtension", [](auto& of) { return withoutExtension(of[0]); }},
     {"readServerAddress", [](auto& of) { return address(of[0]); }},
     {"readServerAddressBefore",

@@ -2,11 +2,13 @@
 #include "WrittenScales.h"
 
 #include <algorithm>
+#include <cmath>
 #include <optional>
 #include <vector>
 
 #include "TraceMarks.h"
 #include "TrueNumbers.h"
+#include "WaveformRecord.h"
 
 namespace tracewell {
 namespace {
@@ -26,6 +28,35 @@ std::string captionOf(double perDivision, bool isTime) {
     return found == captions.end() ? std::string() : std::string(*found);
   };
   return isTime ? find(TimeDivText, "s") : find(VoltDivText, "V");
+}
+
+/// A position that is written beside a trace, and the one at which that was drawn. In divisions.
+struct WrittenPosition {
+  std::string name;
+  double written;
+  double drawn;
+};
+
+/// A reader lifts the trace by what is written.
+std::vector<WrittenPosition> positionsNotOfTraces(const frmDSO& main) {
+  std::vector<WrittenPosition> others;
+  for (const Channel& channel : main.channels) {
+    const double written = channel.slide.value();
+    const double units = written * Graph::unitsPerDivision - channel.drawnShift;
+    if (hasTrace(channel) && std::abs(units) >= 1)
+      others.push_back({channel.display.caption(), written,
+                        channel.drawnShift / double{Graph::unitsPerDivision}});
+  }
+  return others;
+}
+
+/// Ticked channels whose samples cannot be written; then nobody's are.
+std::string channelsWithoutRecord(const frmDSO& main) {
+  std::string names;
+  for (const Channel& channel : main.channels)
+    if (channel.display.isChecked() && channel.record.bytes.size() < WaveformRecord::byteCount)
+      names += (names.empty() ? "" : ", ") + channel.display.caption();
+  return names;
 }
 
 std::string sentence(const Words& words, const Written& written) {
@@ -56,6 +87,24 @@ StatusLine::Sentence scalesNotOfTraces(const frmDSO& main) {
     std::string text;
     for (const Written& written : others)
       text += (text.empty() ? "" : "; ") + sentence(words, written);
+    return text;
+  };
+}
+
+StatusLine::Sentence setNotOfTraces(const frmDSO& main) {
+  const StatusLine::Sentence scales = scalesNotOfTraces(main);
+  const std::vector<WrittenPosition> others = positionsNotOfTraces(main);
+  const std::string missing = channelsWithoutRecord(main);
+  if (others.empty() && missing.empty()) return scales;
+  return [=](const Words& words) {
+    std::string text = scales ? scales(words) : "";
+    const auto add = [&text](const std::string& said) {
+      text += (text.empty() ? "" : "; ") + said;
+    };
+    for (const WrittenPosition& other : others)
+      add(words.say("%1: drawn at position %2, not at %3",
+                    {other.name, numberText(other.drawn), numberText(other.written)}));
+    if (!missing.empty()) add(words.say("The .csv is empty: no whole record of %1", {missing}));
     return text;
   };
 }

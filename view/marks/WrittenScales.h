@@ -9,4 +9,9 @@ namespace tracewell {
 /// about those at which the traces were not recorded, as of this call; none if all agree.
 StatusLine::Sentence scalesNotOfTraces(const frmDSO& main);
 
+/// The same of a waveform set, which carries the positions, too. A trace can be drawn at another:
+/// channel 2 is at whole divisions, channel 1 until its next record. And of its data, which are
+/// empty if a ticked channel has no whole record.
+StatusLine::Sentence setNotOfTraces(const frmDSO& main);
+
 }  // namespace tracewell
