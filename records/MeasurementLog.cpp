@@ -77,14 +77,17 @@ MeasurementLog::~MeasurementLog() {
   finish(failedAt_);
 }
 
-/// Only the flush finds out that another program has had the file. The second try begins a new one.
 bool MeasurementLog::finish(std::int64_t now) {
-  for (int tries = 0; tries == 0 || (tries == 1 && !pending_.empty() && !isDiskFull_); ++tries) {
-    if (!file_) reopen(now);
-    writePending(now);
-    flush(now);
-  }
+  writeAll(now);
+  // Only the flush finds out that another program has had the file, which is then begun again.
+  if (!pending_.empty() && !isDiskFull_) writeAll(now);
   return pending_.empty();
+}
+
+void MeasurementLog::writeAll(std::int64_t now) {
+  if (!file_) reopen(now);
+  writePending(now);
+  flush(now);
 }
 
 void MeasurementLog::begin() {
