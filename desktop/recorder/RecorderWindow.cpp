@@ -144,6 +144,7 @@ void RecorderWindow::connectParts() {
     if (index > 0) view_.select(pins_->itemData(index).toLongLong());
     goOn();
   });
+  pins_->view()->installEventFilter(this);
   connect(showInPanel_, &QPushButton::clicked, this, [this] { run([this] { showInPanel(); }); });
   connect(copy_, &QPushButton::clicked, this, [this] { run([this] { copy(); }); });
   connect(save_, &QPushButton::clicked, this, [this] { run([this] { saveSet(); }); });
@@ -385,6 +386,12 @@ void RecorderWindow::changeEvent(QEvent* event) {
     showSoon();
   }
   if (event->type() == QEvent::PaletteChange) showSoon();
+}
+
+/// What came while the list of pins was open.
+bool RecorderWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Hide) showSoon();
+  return QWidget::eventFilter(watched, event);
 }
 
 void RecorderWindow::showEvent(QShowEvent* event) {
