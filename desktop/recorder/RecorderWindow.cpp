@@ -39,9 +39,8 @@ std::string ownNameOf(const RecordFacts& facts) {
 /// With its name where it is pinned.
 std::string nameOf(const RecordStore& store, RecordStore::Number number) {
   const std::string own = ownNameOf(store.facts(number));
-  for (const auto& [pinned, name] : store.pinned())
-    if (pinned == number && name != own) return own + " " + name;
-  return own;
+  const std::string name = store.nameOf(number).value_or(own);
+  return name == own ? own : own + " " + name;
 }
 
 }  // namespace
@@ -318,15 +317,9 @@ void RecorderWindow::pinOrLetGo() {
   const auto pointed = view_.selected();
   if (!pointed) return;
   RecordStore& store = recorder_.store();
-  const auto pinned = store.pinned();
-  const bool isPinned =
-      std::ranges::any_of(pinned, [&](const auto& known) { return known.first == *pointed; });
   const QString name = pinName_->text().trimmed();
-  if (isPinned && name.isEmpty()) {
-    store.letGo(*pointed);
-    return;
-  }
-  if (!store.pin(*pointed, name.isEmpty() ? nameOf(store, *pointed) : fromQt(name)))
+  if (name.isEmpty() && store.nameOf(*pointed)) return store.letGo(*pointed);
+  if (!store.pin(*pointed, name.isEmpty() ? ownNameOf(store.facts(*pointed)) : fromQt(name)))
     return say(panelText("No more records can be pinned"));
   // It is pointed at until the user goes on.
   view_.select(*pointed);
