@@ -43,6 +43,12 @@ std::string nameOf(const RecordStore& store, RecordStore::Number number) {
   return name == own ? own : own + " " + name;
 }
 
+void showSentence(ElidedLabel& label, const QString& text, bool isTrouble) {
+  label.setText(text);
+  label.setSentences({{text, isTrouble}});
+  label.setVisible(!text.isEmpty());
+}
+
 }  // namespace
 
 RecorderWindow::RecorderWindow(Recorder& recorder)
@@ -85,8 +91,8 @@ void RecorderWindow::layOut() {
   rows->addWidget(logBar_);
   logBar_->hide();
   auto* const states = new QHBoxLayout;
-  states->addWidget(status_, 1);
-  states->addWidget(logState_, 1);
+  states->addWidget(status_);
+  states->addWidget(logState_);
   for (ElidedLabel* label : {status_, logState_}) label->setProperty("kind", "status");
   status_->setObjectName(QStringLiteral("recorderStatus"));
   // Each has the whole line while the other one is silent.
@@ -283,22 +289,12 @@ void RecorderWindow::showPins() {
 void RecorderWindow::showLog() {
   logBar_->showState();
   const Words& words = recorder_.main().services().words;
-  const std::string text = recorder_.logText(words);
   const bool isTrouble = !recorder_.troubleText(words).empty();
-  const QString shown = shownText(text, roomOfLine);
-  logState_->setText(shown);
-  logState_->setSentences(shown.isEmpty() ? std::vector<ElidedLabel::Sentence>()
-                                          : std::vector<ElidedLabel::Sentence>{{shown, isTrouble}});
-  logState_->setToolTip(logState_->text());
-  logState_->setVisible(!shown.isEmpty());
+  showSentence(*logState_, shownText(recorder_.logText(words), roomOfLine), isTrouble);
 }
 
 void RecorderWindow::say(const QString& text, bool isTrouble) {
-  status_->setText(text);
-  status_->setSentences(isTrouble ? std::vector<ElidedLabel::Sentence>{{text, true}}
-                                  : std::vector<ElidedLabel::Sentence>());
-  status_->setToolTip(text);
-  status_->setVisible(!text.isEmpty());
+  showSentence(*status_, text, isTrouble);
 }
 
 void RecorderWindow::run(const std::function<void()>& act) {
