@@ -67,9 +67,9 @@ class NamedKinds : public QFileIconProvider {
 };
 
 std::filesystem::path ask(const FileDialog& dialog, QFileDialog::AcceptMode mode) {
+  NamedKinds kinds;
   QFileDialog box(windowInUse(), shownTitle(dialog.title), toQt(dialog.initialFolder),
                   nameFilter(dialog.filter));
-  static NamedKinds kinds;
   box.setIconProvider(&kinds);
   box.setAcceptMode(mode);
   box.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile
