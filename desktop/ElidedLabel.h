@@ -12,7 +12,7 @@ namespace tracewell {
 class ElidedLabel : public QLabel {
   Q_OBJECT
   Q_PROPERTY(QColor warningColour MEMBER warningColour_)
-  /// Declared, it is found before those of every widget: each rule of the style sheet asks for it.
+  /// Every rule of the style sheet reads it. A declared property is found at once.
   Q_PROPERTY(QString kind MEMBER kind_)
 
  public:

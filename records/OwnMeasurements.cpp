@@ -16,10 +16,10 @@ namespace {
 using enum Quantity;
 
 constexpr double samplesPerDivision = 50;
-/// Of an edge and of a period: less cannot be told from less still.
+/// Samples. A shorter edge or period cannot be told from one shorter still.
 constexpr double fewestOfEdge = 2;
 constexpr double fewestOfPeriod = 4;
-/// Of the height of an edge: in less 10 % and 90 % are within a step of the ends.
+/// Units. In a lower edge 10 % and 90 % are within a step of the ends.
 constexpr double leastOfEdge = 8 * converter::step;
 
 /// What a record shows, from which all quantities follow.
