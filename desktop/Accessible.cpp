@@ -113,7 +113,7 @@ void move(SlideWidget& slide, const QVariant& value) {
   slide.stepTo(value.toDouble());
 }
 
-/// Set through it, the widget is turned as by the user.
+/// Setting its value turns the widget as the user does.
 template <class Widget>
 class AccessibleDial : public AccessibleThing<Widget>, public QAccessibleValueInterface {
  public:
@@ -171,7 +171,7 @@ QAccessibleInterface* pictureInterface(QObject* object) {
   return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::StaticText);
 }
 
-/// Asked for an object's class first, and then for those that it is derived from.
+/// The toolkit calls it with the object's class first, then with each base class.
 QAccessibleInterface* makeInterface(const QString& className, QObject* object) {
   if (object == nullptr || object->metaObject()->className() != className) return nullptr;
   // The Linux desktop calls an indicator "unknown".

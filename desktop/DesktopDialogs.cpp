@@ -74,9 +74,9 @@ bool isReplaced(const std::filesystem::path& path, const std::string& title) {
 
 /// All file dialogs are made here.
 std::filesystem::path ask(const FileDialog& dialog, QFileDialog::AcceptMode mode) {
+  NamedKinds kinds;
   QFileDialog box(windowInUse(), shownTitle(dialog.title), toQt(dialog.initialFolder),
                   nameFilter(dialog.filter));
-  static NamedKinds kinds;
   box.setIconProvider(&kinds);
   box.setAcceptMode(mode);
   box.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile

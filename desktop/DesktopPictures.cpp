@@ -23,7 +23,7 @@ namespace {
 const QColor noteColour(255, 235, 59);
 const QColor noteShadow(0, 0, 0, 160);
 
-/// Of the same share of every picture, whatever the screen's resolution was.
+/// Takes the same share of every picture, whatever the screen's resolution was.
 QFont fontIn(const QImage& picture, int partOfWidth, double smallest) {
   QFont font;
   font.setPixelSize(qMax(qRound(smallest), picture.width() / partOfWidth));

@@ -33,9 +33,10 @@ QPrinter& DesktopPrinter::printer() {
 
 void DesktopPrinter::setUp() {
   QPrintDialog dialog(&printer(), QApplication::activeWindow());
+  const auto before = printer().pageLayout().orientation();
   if (dialog.exec() != QDialog::Accepted) return;
   isSetUp_ = true;
-  isPaperTurned_ = printer().pageLayout().orientation() != fitting_;
+  if (printer().pageLayout().orientation() != before) isPaperTurned_ = true;
 }
 
 void DesktopPrinter::printToFile(const QString& path) {
@@ -47,7 +48,6 @@ void DesktopPrinter::printToFile(const QString& path) {
 
 /// The paper lies as it fits before the user is asked, who may turn it.
 bool DesktopPrinter::isReady(QPageLayout::Orientation orientation) {
-  fitting_ = orientation;
   if (!isPaperTurned_) printer().setPageOrientation(orientation);
   const bool isForFile = !printer().outputFileName().isEmpty();
   if (!isSetUp_ && (isForFile || QPrinterInfo::defaultPrinter().isNull()))

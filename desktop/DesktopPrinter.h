@@ -32,9 +32,8 @@ class DesktopPrinter : public Printer {
 
   std::optional<QPrinter> printer_;
   bool isSetUp_ = false;
+  /// By the user: then it stays so.
   bool isPaperTurned_ = false;
-  /// How the paper lies for the last print, if the user leaves it.
-  QPageLayout::Orientation fitting_ = QPageLayout::Portrait;
   bool isFileFixed_ = false;
 };
 

@@ -24,7 +24,7 @@
 namespace tracewell {
 namespace {
 
-/// Of options the chosen one.
+/// The chosen option of a group stands for the others.
 QWidget& chosenLike(QWidget& stop) {
   if (qobject_cast<QRadioButton*>(&stop) == nullptr) return stop;
   for (auto* option : stop.parentWidget()->findChildren<QRadioButton*>())

@@ -99,8 +99,8 @@ void ElidedLabel::paintEvent(QPaintEvent*) {
   }
 }
 
-/// The whole text, where it is not to be seen. The size of its letters, before it is asked for its
-/// own: letters of another size would be loaded for that.
+/// Shows the whole text as a tip where it is cut. Sets the letters' size as soon as it is told, so
+/// that no letters of another size are loaded first.
 bool ElidedLabel::event(QEvent* event) {
   if (event->type() == QEvent::DynamicPropertyChange &&
       static_cast<QDynamicPropertyChangeEvent*>(event)->propertyName() == "pixels") {

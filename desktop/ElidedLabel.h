@@ -12,7 +12,7 @@ namespace tracewell {
 class ElidedLabel : public QLabel {
   Q_OBJECT
   Q_PROPERTY(QColor warningColour MEMBER warningColour_)
-  /// Declared, it is found before those of every widget: each rule of the style sheet asks for it.
+  /// Every rule of the style sheet reads it. A declared property is found at once.
   Q_PROPERTY(QString kind MEMBER kind_)
 
  public:
@@ -24,7 +24,9 @@ class ElidedLabel : public QLabel {
 
   explicit ElidedLabel(QWidget* parent = nullptr);
   /// Labels in one row share its room by what they have to say.
-  QSize sizeHint() const override { return {neededWidth(), QLabel::sizeHint().height()}; }
+  QSize sizeHint() const override {
+    return {neededWidth() + width() - contentsRect().width(), QLabel::sizeHint().height()};
+  }
   QSize minimumSizeHint() const override { return {0, QLabel::sizeHint().height()}; }
   /// Together they are the label's text. They are painted from the left, the first one before the
   /// others.

@@ -57,13 +57,13 @@ QStyleOptionViewItem inHighlightedText(QStyleOptionViewItem line) {
   return line;
 }
 
-/// Told of its style before it is styled, it would make the list that it opens.
+/// A style change would make it build its list, long before it opens.
 bool isUnstyledBox(QObject* watched) {
   const auto* box = qobject_cast<QComboBox*>(watched);
   return box != nullptr && !box->testAttribute(Qt::WA_WState_Polished);
 }
 
-/// Told of its size before it has a window, it would measure its entries. It does when it opens.
+/// A resize would make it measure its entries, which it does anyway when it opens.
 bool isUnopenedMenu(QObject* watched) {
   const auto* menu = qobject_cast<QMenu*>(watched);
   return menu != nullptr && !menu->testAttribute(Qt::WA_WState_Created);

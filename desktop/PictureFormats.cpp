@@ -60,7 +60,7 @@ bool isLoaded(int format) {
   return format != Pictures::wmf && format != Pictures::ico && format != Pictures::cur;
 }
 
-/// What could not be loaded again is not made.
+/// Refuses a picture that could not be loaded again.
 void checkLoadable(const Image& image, int format) {
   const auto width = static_cast<std::size_t>(image.width);
   const auto height = static_cast<std::size_t>(image.height);
@@ -79,7 +79,7 @@ PictureCoder& coder() {
   return moduleOf<PictureCoder>(QStringLiteral("tracewell-pictures"), invalidProcedureCall);
 }
 
-/// Of the file's own bytes nothing is left then.
+/// Lets go of the file's own bytes before the picture is decoded.
 GuardedPicture readable(const std::filesystem::path& path) {
   GuardedPicture picture = guardedPicture(readWholeFile(path, fileLimit::picture));
   if (picture.format.empty()) throw std::runtime_error("Not a bmp, gif, pcx, tif, png or jpg");

@@ -219,8 +219,8 @@ bool isPcx(std::string_view bytes) {
          versions.find(bytes[1]) != std::string_view::npos && bytes[2] == 1;
 }
 
-/// What the bytes are by their beginning. Left to guess, the library would also run files that are
-/// programs to it.
+/// The format by the first bytes. The library's own guess would also run files that it takes for
+/// programs.
 std::string formatOf(std::string_view bytes) {
   static constexpr std::array<std::pair<std::string_view, const char*>, 7> signatures{
       {{"BM"sv, "BMP"},

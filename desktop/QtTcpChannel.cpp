@@ -94,7 +94,7 @@ bool QtTcpChannel::isConnected(const QString& host, std::uint16_t port, int time
   return true;
 }
 
-/// Of a server that does not stop talking the rest is heard as what nobody has asked for.
+/// If the server does not stop talking, the rest counts as unasked bytes.
 void QtTcpChannel::dropGreeting() {
   QElapsedTimer sinceHeard;
   sinceHeard.start();

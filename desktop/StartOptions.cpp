@@ -19,7 +19,7 @@ constexpr std::string_view help =
     "Everything else is chosen in its window. Start with Connect; port 0 is a simulated\n"
     "instrument.\n";
 
-/// What the toolkit says of the reason is said as it says it.
+/// The reason is given in the toolkit's own words.
 void endWithoutAbort(QtMsgType type, const QMessageLogContext&, const QString& text) {
   if (type == QtDebugMsg || type == QtInfoMsg) return;
   std::cerr << text.trimmed().toStdString() << std::endl;

@@ -72,7 +72,7 @@ bool isUserInput(const QObject* receiver, const QEvent& event) {
   }
 }
 
-/// Of what was kept, that for a menu or a dialog that has closed since: hidden, they still obey.
+/// A menu or dialog that has closed since would still obey what was kept for it.
 bool isForClosedWindow(const QObject* receiver, const QEvent& event) {
   const auto* window = qobject_cast<const QWindow*>(receiver);
   if (window == nullptr || window->isVisible() || event.spontaneous()) return false;
@@ -115,7 +115,7 @@ bool UserInput::endWaits(const QObject* receiver, QEvent& event) {
   return true;
 }
 
-/// Of a movement its last place is enough. A dialog's closing comes again as it came, through its
+/// Only the last place of a movement counts. A dialog is closed again as it was: through its
 /// window.
 void UserInput::keep(QObject* receiver, const QEvent& event) {
   if (event.type() == QEvent::Close) receiver = static_cast<QWidget*>(receiver)->windowHandle();

@@ -77,14 +77,17 @@ MeasurementLog::~MeasurementLog() {
   finish(failedAt_);
 }
 
-/// Only the flush finds out that another program has had the file. The second try begins a new one.
 bool MeasurementLog::finish(std::int64_t now) {
-  for (int tries = 0; tries == 0 || (tries == 1 && !pending_.empty() && !isDiskFull_); ++tries) {
-    if (!file_) reopen(now);
-    writePending(now);
-    flush(now);
-  }
+  writeAll(now);
+  // Only the flush finds out that another program has had the file, which is then begun again.
+  if (!pending_.empty() && !isDiskFull_) writeAll(now);
   return pending_.empty();
+}
+
+void MeasurementLog::writeAll(std::int64_t now) {
+  if (!file_) reopen(now);
+  writePending(now);
+  flush(now);
 }
 
 void MeasurementLog::begin() {
@@ -113,11 +116,24 @@ bool MeasurementLog::continues(const fs::path& candidate) {
     if (isNew) fs::remove(candidate, unknown);
     throw cannotWrite(candidate, failed, isOutOfRoom(failed) ? diskFull : pathAccess);
   }
+  if (candidate == path_) forgetWritten();
   path_ = candidate;
   rows_ = countLines(candidate) - 1;
   safeSize_ = file.size();
   file_.emplace(std::move(file));
   return true;
+}
+
+/// Another program has had the file. Rows that it has left there, or put its own lines between, are
+/// not written again.
+void MeasurementLog::forgetWritten() {
+  std::ifstream file(path_, std::ios::binary);
+  file.seekg(static_cast<std::streamoff>(safeSize_));
+  for (std::string line; !pending_.empty() && std::getline(file, line);) {
+    if (line + "\n" != pending_.front()) continue;
+    pending_.pop_front();
+    ++ownRows_;
+  }
 }
 
 void MeasurementLog::append(std::int64_t wallTime, int channel, const OwnMeasurements& values,

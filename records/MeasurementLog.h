@@ -57,6 +57,8 @@ class MeasurementLog {
  private:
   void begin();
   bool continues(const std::filesystem::path& candidate);
+  void forgetWritten();
+  void writeAll(std::int64_t now);
   void writePending(std::int64_t now);
   void flush(std::int64_t now);
   void fail(const std::string& why, const std::error_code& reason, std::int64_t now);

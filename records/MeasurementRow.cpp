@@ -11,7 +11,7 @@ namespace tracewell {
 
 bool MeasurementLimit::isPassed(const OwnMeasurements& values) const {
   const OwnValue& own = values[quantity];
-  const auto& bound = isUpper ? own.above : own.below;
+  const auto& bound = isUpper ? own.atLeast : own.atMost;
   const auto& told = own.value ? own.value : bound;
   return told && (isUpper ? *told > value : *told < value);
 }

@@ -20,7 +20,7 @@ struct MeasurementLimit {
   /// As it is written into rows.
   std::string text;
 
-  /// A value that is none is beyond a limit if it is so for sure: what is clipped, or too fast.
+  /// Where there is no value, its bounds decide: a clipped maximum above the limit passes it.
   bool isPassed(const OwnMeasurements& values) const;
 };
 

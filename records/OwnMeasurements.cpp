@@ -16,10 +16,10 @@ namespace {
 using enum Quantity;
 
 constexpr double samplesPerDivision = 50;
-/// Of an edge and of a period: less cannot be told from less still.
+/// Samples. A shorter edge or period cannot be told from one shorter still.
 constexpr double fewestOfEdge = 2;
 constexpr double fewestOfPeriod = 4;
-/// Of the height of an edge: in less 10 % and 90 % are within a step of the ends.
+/// Units. In a lower edge 10 % and 90 % are within a step of the ends.
 constexpr double leastOfEdge = 8 * converter::step;
 
 /// What a record shows, from which all quantities follow.
@@ -133,11 +133,11 @@ void measureHeights(const Shape& shape, OwnMeasurements& found) {
   const Levels& levels = shape.levels;
   const bool isClipped = levels.isClipped();
   found[maximum] = unless(levels.isClippedAbove, levels.maximum);
-  if (levels.isClippedAbove) found[maximum].above = levels.maximum;
+  if (levels.isClippedAbove) found[maximum].atLeast = levels.maximum;
   found[minimum] = unless(levels.isClippedBelow, levels.minimum);
-  if (levels.isClippedBelow) found[minimum].below = levels.minimum;
+  if (levels.isClippedBelow) found[minimum].atMost = levels.minimum;
   found[peakToPeak] = unless(isClipped, levels.maximum - levels.minimum);
-  if (isClipped) found[peakToPeak].above = levels.maximum - levels.minimum;
+  if (isClipped) found[peakToPeak].atLeast = levels.maximum - levels.minimum;
   found[mean] = unless(isClipped, shape.mean);
   found[rms] = unless(isClipped, std::sqrt(shape.meanSquare));
   found[acRms] = unless(isClipped, std::sqrt(shape.variance));
@@ -218,15 +218,15 @@ bool isWhole(const ChannelRecord& record) {
 }
 
 void scale(OwnValue& measurement, std::optional<double> factor) {
-  if (!measurement.value && !measurement.below && !measurement.above) return;
+  if (!measurement.value && !measurement.atMost && !measurement.atLeast) return;
   if (!factor) {
     const bool isClipped = measurement.reason == NoValue::clipped;
     measurement = OwnValue::no(isClipped ? NoValue::clipped : NoValue::scaleNotKnown);
     return;
   }
   if (measurement.value) *measurement.value *= *factor;
-  if (measurement.below) *measurement.below *= *factor;
-  if (measurement.above) *measurement.above *= *factor;
+  if (measurement.atMost) *measurement.atMost *= *factor;
+  if (measurement.atLeast) *measurement.atLeast *= *factor;
 }
 
 /// From units and samples to volts and seconds.

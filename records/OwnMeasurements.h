@@ -83,7 +83,7 @@ enum class NoValue {
   /// Edges come, but not after equal times.
   irregular,
   /// Of an edge or a period, or of a height in steps: they do not tell the value. What could be
-  /// measured is in OwnValue::below.
+  /// measured is in OwnValue::atMost.
   tooFewSamples,
   /// The two records are not known to be of one sweep.
   otherSweep,
@@ -96,10 +96,11 @@ std::string_view reasonText(NoValue reason);
 struct OwnValue {
   std::optional<double> value;
   NoValue reason = NoValue::none;
-  /// The value is less than this, as far as can be said: a rise time of fewer than two samples.
-  std::optional<double> below;
-  /// It is no less than this: a peak to peak that is clipped. A minimum is no more than `below`.
-  std::optional<double> above;
+  /// What is known of a value that is none: of a rise time of fewer than two samples, or of a
+  /// minimum that is clipped.
+  std::optional<double> atMost;
+  /// Of a maximum or a peak to peak that is clipped.
+  std::optional<double> atLeast;
 
   static OwnValue of(double value) { return {value, NoValue::none, {}, {}}; }
   static OwnValue no(NoValue reason) { return {{}, reason, {}, {}}; }

@@ -163,6 +163,11 @@ bool RecordStore::pin(Number number, std::string name) {
   return true;
 }
 
+std::optional<std::string> RecordStore::nameOf(Number number) const {
+  const auto held = pinned_.find(number);
+  return held == pinned_.end() ? std::nullopt : std::optional(held->second.name);
+}
+
 std::vector<std::pair<RecordStore::Number, std::string>> RecordStore::pinned() const {
   std::vector<std::pair<Number, std::string>> names;
   for (const auto& [number, held] : pinned_) names.emplace_back(number, held.name);

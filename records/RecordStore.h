@@ -107,6 +107,8 @@ class RecordStore {
   /// False where mostPinned are, or it is not kept.
   bool pin(Number number, std::string name);
   void letGo(Number number) { pinned_.erase(number); }
+  /// None where it is not pinned.
+  std::optional<std::string> nameOf(Number number) const;
   /// By rising number.
   std::vector<std::pair<Number, std::string>> pinned() const;
 

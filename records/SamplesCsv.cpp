@@ -15,7 +15,7 @@ constexpr double middle = WaveformRecord::sampleCount / 2.0;
 /// More than a sample of 16 bits and a scale of three digits have between them.
 constexpr int digitsOfVolts = 7;
 
-/// As many as tell two samples apart, however long after the first record they are.
+/// Enough to tell two samples apart, however long after the first record they are.
 int digitsOfTime(double at, double step) {
   constexpr int most = 17;
   constexpr int behind = 3;

@@ -129,7 +129,7 @@ void RecorderBar::take() {
   emit chosen();
 }
 
-/// Only what has to do with what is drawn is there.
+/// Only the controls that matter for the drawing show.
 void RecorderBar::showState() {
   follow_->setChecked(view_.isFollowing());
   {

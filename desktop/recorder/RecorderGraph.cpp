@@ -16,12 +16,12 @@
 namespace tracewell {
 namespace {
 
-/// Of what lies behind the record: the newest, and what the oldest still has, of its colour.
+/// How much of their colour the newest and the oldest of the records behind have.
 constexpr float newestShare = 0.6F;
 constexpr float oldestShare = 0.15F;
 constexpr qreal grabDistance = 8;
 
-/// What suits the larger end; none for what has no prefix.
+/// Suits the larger end; none for a unit without prefixes.
 const UnitPrefix& prefixOf(const RecorderAxis& axis) {
   const bool hasPrefix = axis.unit == "V" || axis.unit == "s" || axis.unit == "Hz";
   const double most = std::max(std::fabs(axis.low), std::fabs(axis.high));

@@ -39,9 +39,14 @@ std::string ownNameOf(const RecordFacts& facts) {
 /// With its name where it is pinned.
 std::string nameOf(const RecordStore& store, RecordStore::Number number) {
   const std::string own = ownNameOf(store.facts(number));
-  for (const auto& [pinned, name] : store.pinned())
-    if (pinned == number && name != own) return own + " " + name;
-  return own;
+  const std::string name = store.nameOf(number).value_or(own);
+  return name == own ? own : own + " " + name;
+}
+
+void showSentence(ElidedLabel& label, const QString& text, bool isTrouble) {
+  label.setText(text);
+  label.setSentences({{text, isTrouble}});
+  label.setVisible(!text.isEmpty());
 }
 
 }  // namespace
@@ -86,8 +91,8 @@ void RecorderWindow::layOut() {
   rows->addWidget(logBar_);
   logBar_->hide();
   auto* const states = new QHBoxLayout;
-  states->addWidget(status_, 1);
-  states->addWidget(logState_, 1);
+  states->addWidget(status_);
+  states->addWidget(logState_);
   for (ElidedLabel* label : {status_, logState_}) label->setProperty("kind", "status");
   status_->setObjectName(QStringLiteral("recorderStatus"));
   // Each has the whole line while the other one is silent.
@@ -144,6 +149,7 @@ void RecorderWindow::connectParts() {
     if (index > 0) view_.select(pins_->itemData(index).toLongLong());
     goOn();
   });
+  pins_->view()->installEventFilter(this);
   connect(showInPanel_, &QPushButton::clicked, this, [this] { run([this] { showInPanel(); }); });
   connect(copy_, &QPushButton::clicked, this, [this] { run([this] { copy(); }); });
   connect(save_, &QPushButton::clicked, this, [this] { run([this] { saveSet(); }); });
@@ -283,22 +289,12 @@ void RecorderWindow::showPins() {
 void RecorderWindow::showLog() {
   logBar_->showState();
   const Words& words = recorder_.main().services().words;
-  const std::string text = recorder_.logText(words);
   const bool isTrouble = !recorder_.troubleText(words).empty();
-  const QString shown = shownText(text, roomOfLine);
-  logState_->setText(shown);
-  logState_->setSentences(shown.isEmpty() ? std::vector<ElidedLabel::Sentence>()
-                                          : std::vector<ElidedLabel::Sentence>{{shown, isTrouble}});
-  logState_->setToolTip(logState_->text());
-  logState_->setVisible(!shown.isEmpty());
+  showSentence(*logState_, shownText(recorder_.logText(words), roomOfLine), isTrouble);
 }
 
 void RecorderWindow::say(const QString& text, bool isTrouble) {
-  status_->setText(text);
-  status_->setSentences(isTrouble ? std::vector<ElidedLabel::Sentence>{{text, true}}
-                                  : std::vector<ElidedLabel::Sentence>());
-  status_->setToolTip(text);
-  status_->setVisible(!text.isEmpty());
+  showSentence(*status_, text, isTrouble);
 }
 
 void RecorderWindow::run(const std::function<void()>& act) {
@@ -317,15 +313,9 @@ void RecorderWindow::pinOrLetGo() {
   const auto pointed = view_.selected();
   if (!pointed) return;
   RecordStore& store = recorder_.store();
-  const auto pinned = store.pinned();
-  const bool isPinned =
-      std::ranges::any_of(pinned, [&](const auto& known) { return known.first == *pointed; });
   const QString name = pinName_->text().trimmed();
-  if (isPinned && name.isEmpty()) {
-    store.letGo(*pointed);
-    return;
-  }
-  if (!store.pin(*pointed, name.isEmpty() ? nameOf(store, *pointed) : fromQt(name)))
+  if (name.isEmpty() && store.nameOf(*pointed)) return store.letGo(*pointed);
+  if (!store.pin(*pointed, name.isEmpty() ? ownNameOf(store.facts(*pointed)) : fromQt(name)))
     return say(panelText("No more records can be pinned"));
   // It is pointed at until the user goes on.
   view_.select(*pointed);
@@ -385,6 +375,12 @@ void RecorderWindow::changeEvent(QEvent* event) {
     showSoon();
   }
   if (event->type() == QEvent::PaletteChange) showSoon();
+}
+
+/// What came while the list of pins was open.
+bool RecorderWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Hide) showSoon();
+  return QWidget::eventFilter(watched, event);
 }
 
 void RecorderWindow::showEvent(QShowEvent* event) {

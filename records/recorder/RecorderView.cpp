@@ -45,8 +45,8 @@ void RecorderView::follow(bool isFollowing) {
   if (isFollowing) recordKept();
 }
 
-/// The one pointed at may have gone out of the store since, or be of the other channel. Then it is
-/// the next earlier one that shows, or else the next later one.
+/// The record that the user selected may have left the store, or its channel may be hidden. The
+/// nearest earlier record that shows then takes its place, else the nearest later one.
 std::optional<RecordStore::Number> RecorderView::selected() const {
   if (!isFollowing_ && selected_) {
     if (store_.isKept(*selected_) && isShown(store_.facts(*selected_).channel)) return selected_;
@@ -65,7 +65,7 @@ void RecorderView::select(Number number) {
   timeline.reveal(number);
 }
 
-/// Beyond the last one it stays there.
+/// Stops at the first and the last record.
 void RecorderView::step(int records) {
   const auto from = selected();
   if (!from) return;

@@ -118,8 +118,8 @@ std::string numberWithUnit(double value, std::string_view unit) {
 
 std::string valueText(const Words& words, const OwnValue& value, QuantityUnit unit) {
   if (value.value) return numberWithUnit(*value.value, unitText(unit));
-  if (value.below && value.reason != NoValue::clipped)
-    return "< " + numberWithUnit(*value.below, unitText(unit));
+  if (value.atMost && value.reason == NoValue::tooFewSamples)
+    return "< " + numberWithUnit(*value.atMost, unitText(unit));
   return reasonOf(words, value.reason);
 }
 

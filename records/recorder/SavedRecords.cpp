@@ -10,19 +10,10 @@
 #include "WallTime.h"
 
 namespace tracewell {
-namespace {
-
-std::string pinNameOf(const RecordStore& store, RecordStore::Number number) {
-  for (const auto& [pinned, name] : store.pinned())
-    if (pinned == number) return name;
-  return "";
-}
-
-}  // namespace
 
 std::string noteOf(const RecordStore& store, RecordStore::Number number, const Words& words) {
   const RecordFacts& facts = store.facts(number);
-  const std::string name = pinNameOf(store, number);
+  const std::string name = store.nameOf(number).value_or("");
   return name + (name.empty() ? "" : "; ") + channelName(facts.channel) + " " +
          isoTime(facts.wallTime) + ", " + circumstances(words, facts);
 }

@@ -20,7 +20,7 @@ SpectrumWindow windowOf(SpectrumShape shape) {
   return shape == SpectrumShape::none ? SpectrumWindow::none : SpectrumWindow::hann;
 }
 
-/// What stands out of the noise by so much, 12 dB, is named.
+/// Peaks that stand 12 dB out of the noise are named.
 double leastNamed(std::vector<double> voltsRms) {
   const auto middle = voltsRms.begin() + static_cast<std::ptrdiff_t>(voltsRms.size() / 2);
   std::ranges::nth_element(voltsRms, middle);

@@ -80,12 +80,13 @@ TEST_F(PaperTest, TextAndPictureMakeDocumentsOfTheirOwn) {
 }
 
 /// Whatever was printed before.
-TEST_F(PaperTest, AUserWhoIsAskedFindsThePaperAsItFits) {
+TEST_F(PaperTest, AUserWhoIsAskedFindsThePaperAsItFitsOrAsItWasTurned) {
   QList<QPageLayout::Orientation> found;
-  const auto accept = [&] {
-    QTimer::singleShot(0, [&] {
+  const auto accept = [&](bool isTurned = false) {
+    QTimer::singleShot(0, [&, isTurned] {
       auto* dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
       found << dialog->printer()->pageLayout().orientation();
+      if (isTurned) dialog->printer()->setPageOrientation(QPageLayout::Portrait);
       dialog->printer()->setOutputFileName(folder.filePath(QString::number(found.size())));
       dialog->done(QDialog::Accepted);
     });
@@ -95,14 +96,18 @@ TEST_F(PaperTest, AUserWhoIsAskedFindsThePaperAsItFits) {
   accept();
   EXPECT_TRUE(printer.printText("Trigger ... [2]\r\n"));
   EXPECT_EQ(printer.file(), fromQt(folder.filePath(QStringLiteral("2"))));
-  // Setting up without turning it leaves that to the prints.
-  accept();
-  printer.setUp();
-  EXPECT_TRUE(printer.printPage({}));
-  accept();
-  EXPECT_TRUE(printer.printText("Trigger ... [2]\r\n"));
-  EXPECT_EQ(found, QList({QPageLayout::Landscape, QPageLayout::Portrait, QPageLayout::Portrait,
-                          QPageLayout::Portrait}));
+  printer.printToFile(path);
+  for (const bool isTurned : {false, true, false}) {
+    EXPECT_TRUE(printer.printPage({}));
+    accept(isTurned);
+    printer.setUp();
+    EXPECT_TRUE(printer.printText("Trigger ... [2]\r\n"));
+    accept();
+    printer.setUp();
+  }
+  const auto across = QPageLayout::Landscape;
+  const auto upright = QPageLayout::Portrait;
+  EXPECT_EQ(found, QList({across, upright, across, upright, across, upright, upright, upright}));
 }
 
 TEST_F(PaperTest, PlaceThatCannotBeWrittenIsAnErrorThatNamesIt) {

@@ -58,7 +58,12 @@ TEST_F(MeasurementLogTest, IsContinuedBehindItsLastWholeRowOrBegunAnew) {
   }
   std::filesystem::resize_file(path, 7);
   MeasurementLog again(path, columns, now);
-  EXPECT_EQ(rows(path), Lines{heading});
+  append(again, 0.1);
+  std::ofstream(path, std::ios::binary | std::ios::app) << "time,another program's\n";
+  append(again, 0.2);
+  EXPECT_TRUE(again.finish(now));
+  EXPECT_EQ(rows(path), (Lines{heading, "1,0.1,,", "another program's", "1,0.2,,"}));
+  EXPECT_EQ(again.ownRows(), 2U);
   columns.quantities.pop_back();
   MeasurementLog other(path, columns, now);
   EXPECT_EQ(other.path(), folder.path() / "log-2.csv");

@@ -70,7 +70,7 @@ TEST(OwnMeasurements, AgreeWithTheTableOrHaveNoValueWhereNoneIsDefined) {
                                " is " + cell->second + ", " + std::string(reasonText(own.reason));
       if (cell->second == "-" || cell->second == "<") {
         EXPECT_FALSE(own.value) << what << " " << *own.value;
-        EXPECT_EQ(own.below && own.reason != NoValue::clipped, cell->second == "<") << what;
+        EXPECT_EQ(own.atMost && own.reason == NoValue::tooFewSamples, cell->second == "<") << what;
         continue;
       }
       const bool mayBeNone = cell->second.starts_with("~");
