@@ -47,12 +47,17 @@ void placeBesideTraces(QDialog& dialog) {
   const QWidget* const main = dialog.parentWidget();
   if (main == nullptr || !main->isVisible()) return;
   constexpr int margin = 12;
+  constexpr int titleBar = 40;
   dialog.ensurePolished();
   const QSize size = dialog.testAttribute(Qt::WA_Resized) ? dialog.size() : dialog.sizeHint();
   const QRect room = main->geometry() & main->screen()->availableGeometry();
   const int left = std::max(room.right() - margin - size.width(), room.left());
-  const int top = std::max(room.center().y() - size.height() / 2, room.top());
-  dialog.move(left, top);
+  int bottom = room.center().y() + size.height() / 2;
+  // What the user reads while the dialog is open.
+  const QString read = dialog.property("leavesFree").toString();
+  if (const auto* const free = main->findChild<const QWidget*>(read); free && !read.isEmpty())
+    bottom = std::min(bottom, free->mapToGlobal(QPoint()).y() - titleBar);
+  dialog.move(left, std::max(bottom - size.height(), room.top()));
 }
 
 }  // namespace

@@ -7,6 +7,8 @@
 namespace tracewell {
 namespace {
 
+constexpr auto templateName = "default.sit";
+
 /// Position of `what` at or after `start`, both counted from 1; 0 if it is not there. Raises an
 /// error for a start of 0, which is what a search that has found nothing leaves behind.
 std::size_t find(const std::string& text, const char* what, std::size_t start) {
@@ -49,12 +51,19 @@ void frmSetup::mnbConf_Click() {
 }
 
 void frmSetup::Form_Load() {
-  txtSetup.text =
-      readWholeFile(services().programFolder / "default.sit", fileLimit::reportTemplate);
+  txtSetup.text = readWholeFile(services().programFolder / templateName, fileLimit::reportTemplate);
 }
 
+/// The error alone would not say whether the template is wrong or the setup.
 void frmSetup::Form_Activate() {
-  txtSetup.text = filledReport(txtSetup.text(), main_.gridMeasure);
+  try {
+    txtSetup.text = filledReport(txtSetup.text(), main_.gridMeasure);
+  } catch (const Error& error) {
+    const std::string where = error.number() == invalidProcedureCall
+                                  ? pathText(services().programFolder / templateName)
+                                  : "default.dso";
+    throw Error(error.number(), error.source(), error.description() + ": " + where);
+  }
 }
 
 void frmSetup::cmdSave_Click() {

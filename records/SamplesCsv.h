@@ -46,6 +46,8 @@ struct SamplesCsvResult {
 };
 
 struct Stretch {
+  bool operator==(const Stretch&) const = default;
+
   RecordStore::Number first = 0;
   RecordStore::Number end = 0;
   /// 1 or 2; 0 for both.

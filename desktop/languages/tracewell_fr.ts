@@ -1132,6 +1132,10 @@
         <translation>Non envoyé : le texte a plus d'une ligne</translation>
     </message>
     <message>
+        <source>Not written: records have gone meanwhile; pin what you want to keep</source>
+        <translation>Non écrit : des enregistrements ont disparu entre-temps ; épinglez ceux à garder</translation>
+    </message>
+    <message>
         <source>Nothing pinned</source>
         <translation>Rien d'épinglé</translation>
     </message>

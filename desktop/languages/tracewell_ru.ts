@@ -1132,6 +1132,10 @@
         <translation>Не отправлено: в тексте больше одной строки</translation>
     </message>
     <message>
+        <source>Not written: records have gone meanwhile; pin what you want to keep</source>
+        <translation>Не записано: за это время записи исчезли; закрепите те, что нужно сохранить</translation>
+    </message>
+    <message>
         <source>Nothing pinned</source>
         <translation>Ничего не закреплено</translation>
     </message>

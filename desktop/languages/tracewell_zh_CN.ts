@@ -1132,6 +1132,10 @@
         <translation>未发送：文本不止一行</translation>
     </message>
     <message>
+        <source>Not written: records have gone meanwhile; pin what you want to keep</source>
+        <translation>未写入：期间有记录已移除；请固定要保留的记录</translation>
+    </message>
+    <message>
         <source>Nothing pinned</source>
         <translation>没有固定记录</translation>
     </message>

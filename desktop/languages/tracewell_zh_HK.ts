@@ -1132,6 +1132,10 @@
         <translation>未傳送：文字多過一行</translation>
     </message>
     <message>
+        <source>Not written: records have gone meanwhile; pin what you want to keep</source>
+        <translation>冇寫入：期間有記錄走咗；想保留嘅請釘住</translation>
+    </message>
+    <message>
         <source>Nothing pinned</source>
         <translation>冇釘住記錄</translation>
     </message>

@@ -338,11 +338,21 @@ void RecorderWindow::copy() {
   say(panelText("Copied"));
 }
 
+/// What has left the store while the user picked the file is not replaced by something else.
+void RecorderWindow::pickFile(const FileDialog& dialog,
+                              const std::function<void(const std::filesystem::path&)>& write) {
+  const RecorderView::Still still(view_);
+  const std::filesystem::path path = recorder_.main().services().dialogs.saveFile(dialog);
+  // After Cancel it is the name that was offered.
+  if (path == dialog.fileName) return;
+  if (still.isWhole()) return write(path);
+  say(panelText("Not written: records have gone meanwhile; pin what you want to keep"), true);
+}
+
 void RecorderWindow::exportCsv() {
-  const Services& services = recorder_.main().services();
-  const std::filesystem::path path = services.dialogs.saveFile(
-      {services.programFolder, fromQt(panelText("Export")), "", "*.csv|*.csv"});
-  if (!path.empty()) exportInto(path);
+  pickFile(
+      {recorder_.main().services().programFolder, fromQt(panelText("Export")), "", "*.csv|*.csv"},
+      [this](const std::filesystem::path& path) { exportInto(path); });
 }
 
 void RecorderWindow::exportInto(const std::filesystem::path& path) {
@@ -350,13 +360,10 @@ void RecorderWindow::exportInto(const std::filesystem::path& path) {
 }
 
 void RecorderWindow::saveSet() {
-  const Services& services = recorder_.main().services();
-  const std::string name = nameOfSet(recorder_.store(), view_.saved());
-  const std::filesystem::path path = services.dialogs.saveFile(
-      {services.programFolder, fromQt(panelText("Save as a waveform set")), name,
-       fromQt(panelText("Pictures")) + pictureNames});
-  // After Cancel it is the name that was offered.
-  if (path != name) saveSetInto(path);
+  pickFile(
+      {recorder_.main().services().programFolder, fromQt(panelText("Save as a waveform set")),
+       nameOfSet(recorder_.store(), view_.saved()), fromQt(panelText("Pictures")) + pictureNames},
+      [this](const std::filesystem::path& path) { saveSetInto(path); });
 }
 
 void RecorderWindow::saveSetInto(const std::filesystem::path& path) {

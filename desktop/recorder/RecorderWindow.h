@@ -64,6 +64,8 @@ class RecorderWindow : public QWidget {
   void pinOrLetGo();
   void showInPanel();
   void copy();
+  void pickFile(const FileDialog& dialog,
+                const std::function<void(const std::filesystem::path&)>& write);
   void exportCsv();
   void saveSet();
 

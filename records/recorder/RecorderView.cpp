@@ -45,6 +45,11 @@ void RecorderView::follow(bool isFollowing) {
   if (isFollowing) recordKept();
 }
 
+RecorderView::Still::Still(RecorderView& view)
+    : view_(view), wasFollowing_(view.isFollowing_), exported_(view.exported()) {
+  view.follow(false);
+}
+
 /// The record that the user selected may have left the store, or its channel may be hidden. The
 /// nearest earlier record that shows then takes its place, else the nearest later one.
 std::optional<RecordStore::Number> RecorderView::selected() const {

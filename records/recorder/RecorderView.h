@@ -60,6 +60,22 @@ class RecorderView {
   /// The record pointed at and, where both channels are shown, the other's of the same sweep.
   RecordsOfSet saved() const;
 
+  /// As long as it lives, the view stays at the record that it shows, so that what the user has
+  /// seen is what he gets a file of.
+  class Still {
+   public:
+    explicit Still(RecorderView& view);
+    ~Still() { view_.follow(wasFollowing_); }
+    Still(const Still&) = delete;
+    /// False once some of what is exported or saved has left the store.
+    bool isWhole() const { return view_.exported() == exported_; }
+
+   private:
+    RecorderView& view_;
+    bool wasFollowing_;
+    Stretch exported_;
+  };
+
   // What is drawn
 
   RecorderChoice choice;

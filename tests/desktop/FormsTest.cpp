@@ -47,7 +47,7 @@ TEST(DesktopWords, FollowTheLanguageInEveryWindowAndLeaveWhatIsShown) {
   const QWidget* mark = desktop.windows.widgetOf(main.lblTime)->findChild<QWidget*>();
   EXPECT_EQ(mark->accessibleName(), QStringLiteral("sans réponse"));
   EXPECT_EQ(fromQt(desktop.windows.widgetOf(main.slideTrig)->accessibleDescription()),
-            tip(main.slideTrig) + ". L'instrument n'a pas communiqué cette valeur");
+            tip(main.slideTrig) + ". L’instrument a peut-être une autre valeur");
   EXPECT_EQ(main.lblPort.caption(), "port 0 - instrument simulé");
   EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel"), QStringLiteral("Annuler"));
   const auto shown = [&](const Control& control) {

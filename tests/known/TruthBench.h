@@ -101,10 +101,12 @@ class TruthBench : public BenchOf<OnALine<Ports>> {
     std::string bytes = instrument.receive(line);
     end.thought = std::max({3.0 + below(15), slow_, static_cast<double>(busyUntil_) - now});
     if (below(100) < late_) end.thought = std::min(end.thought + 100 + below(2700), 9900.0);
-    // A question is answered within nine seconds or never.
+    // A question is answered within three seconds or never, or within nine and then always.
+    if (slow_ > 0) losesFrom_ = now + 12000;
+    if (now < losesFrom_) end.thought = std::min(end.thought, 8000.0);
     const double from = std::max(end.lineFreeAt, now + end.thought);
-    const bool isTooLate = bytes.size() < 1000 && from > now + 9000;
-    if (isTooLate || below(100) < lost_) bytes.clear();
+    const bool isTooLate = bytes.size() < 1000 && from > now + 2900;
+    if (now >= losesFrom_ && (isTooLate || below(100) < lost_)) bytes.clear();
     if (failing_ > 0 && --failing_ == 0) {
       end.isAway = true;
       throw Error(deviceError, "RS232", "gone in the middle");
@@ -146,6 +148,8 @@ class TruthBench : public BenchOf<OnALine<Ports>> {
   std::int64_t busyUntil_ = 0;
   /// Milliseconds that it thinks about whatever it is asked.
   double slow_ = 0;
+  /// What is late loses nothing.
+  double losesFrom_ = 0;
 };
 
 }  // namespace tracewell

@@ -72,10 +72,12 @@ TEST_F(RecorderViewTest, StepsThroughTheRecordsOfTheChannelsThatAreShown) {
     act();
     EXPECT_EQ(view.selected(), reached) << channel;
   }
-  view.follow(false);
-  keepLevel(1, 500);
-  EXPECT_EQ(view.selected(), 8);
-  view.follow(true);
+  {
+    const RecorderView::Still still(view);
+    keepLevel(1, 500);
+    EXPECT_EQ(view.selected(), 8);
+    EXPECT_TRUE(still.isWhole());
+  }
   EXPECT_EQ(view.selected(), 10);
 }
 
@@ -84,7 +86,9 @@ TEST_F(RecorderViewTest, ARecordThatGoesOutOfTheStoreIsPointedAtNoLonger) {
   const auto second = keepLevel(1, 2);
   view.mark(0, second);
   view.select(second);
+  const RecorderView::Still still(view);
   for (int i = 0; i < 10001; ++i) keepLevel(1, 10 + i % 7);
+  EXPECT_FALSE(still.isWhole());
   EXPECT_EQ(view.selected(), store.first());
   EXPECT_FALSE(view.isMarked());
   view.select(0);
