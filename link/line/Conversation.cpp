@@ -174,6 +174,7 @@ void Conversation::hearRecord(const std::string& bytes) {
 void Conversation::hearBehindRecord(std::string_view bytes) {
   const auto isEmpty = [](char byte) { return isBlank(byte) || byte == '\n'; };
   const bool mayBeShifted = !bytes.empty() && account_.isReplyDue(clock_.milliseconds());
+  if (mayBeShifted) account_.mayHaveHeardMissing(clock_.milliseconds());
   if (mayBeShifted || !std::ranges::all_of(bytes, isEmpty)) hearLines(bytes, askedAt_);
 }
 
@@ -234,6 +235,7 @@ void Conversation::hearOwed(std::string_view bytes) {
 std::size_t Conversation::payWith(std::string_view bytes) {
   const std::size_t paid = std::min(owedBytes_, bytes.size());
   if (paid == 0) return 0;
+  account_.mayHaveHeardMissing(clock_.milliseconds());
   const auto records = [this] { return (owedBytes_ + record_.count - 1) / record_.count; };
   const std::size_t before = records();
   owedBytes_ -= paid;

@@ -58,13 +58,17 @@ void LineAccount::beginAnew(std::int64_t now) {
 /// within the time that a reply may take.
 void LineAccount::heardUnasked(int bytes, std::int64_t since, std::int64_t now) {
   unasked_.add(bytes, now);
-  if (sureAt(since)) {
-    doubt({outstanding_->behind + 1, lastReply_});
-    outstanding_->behind = lastReply_;
-  }
+  mayHaveHeardMissing(since);
   if (!answerAt_ || since >= *answerAt_ + longestThought_) return;
   doubt({seriesFrom_, lastReply_});
   answerAt_.reset();
+}
+
+/// Then the replies behind it are each that to the query before.
+void LineAccount::mayHaveHeardMissing(std::int64_t at) {
+  if (!sureAt(at)) return;
+  doubt({outstanding_->behind + 1, lastReply_});
+  outstanding_->behind = lastReply_;
 }
 
 void LineAccount::doubt(Series replies) {
@@ -74,6 +78,7 @@ void LineAccount::doubt(Series replies) {
 
 void LineAccount::gaveUpRecord(std::size_t came, std::size_t length, std::int64_t now) {
   if (came == 0) return missing_.add(1, now);
+  mayHaveHeardMissing(now);
   short_.add(1, now);
   rest_.cameOfRecord = came;
   rest_.lengthOfRecord = length;

@@ -28,6 +28,8 @@ class LineAccount {
   /// `bytes` unasked bytes were heard, the first of them at `since` at the earliest.
   void heardUnasked(int bytes, std::int64_t since, std::int64_t now);
   void gaveUpRecord(std::size_t came, std::size_t length, std::int64_t now);
+  /// A missing reply may have come among the bytes of a record.
+  void mayHaveHeardMissing(std::int64_t at);
   void heardLateRecord(std::int64_t now) { late_.add(1, now); }
   void missedLineEnd(std::size_t bytes, std::int64_t now);
   /// A record is wanted; repeated while the acquisition runs.
