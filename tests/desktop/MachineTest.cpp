@@ -134,8 +134,12 @@ TEST(WindowState, WindowComesBackWhereItWasIfThatIsOnAScreen) {
   });
   // Kept by the program itself at its end.
   {
+    fs::remove(folder.path() / "default.dso");
+    fs::create_symlink("about.jpg", folder.path() / "default.dso");
     DesktopProgram desktop(folder.path());
     ASSERT_TRUE(desktop.start());
+    EXPECT_EQ(desktop.program.main.lblNotice.caption(),
+              "default.dso could not be read whole and will be kept as about.jpg.bad");
     QWidget* window = desktop.windows.widgetOf(desktop.program.main.graphDSO)->window();
     window->setGeometry(30, 50, 640, 480);
     window->findChild<QMenu*>("theme")->actions()[2]->trigger();
