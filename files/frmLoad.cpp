@@ -168,11 +168,13 @@ void frmLoad::drawSet(const LoadedWaveforms& set) {
   while (number <= ScopeGraph::plotCount && main_.graphDSO.plot(number).visible()) ++number;
   std::size_t drawn = 0;
   bool hasRoom = true;
+  std::string replaced;
   const auto draw = [&](const std::vector<double>& points, const std::string& scale) {
     if (points.empty()) return;
     hasRoom = number <= ScopeGraph::plotCount;
     if (!hasRoom) return;
     Plot& plot = main_.graphDSO.plot(number);
+    if (plot.visible()) replaced = plot.label();
     plot.plotXvsY(main_.XIndex, points);
     plot.origin = pathText(pathOf(dataPath_).filename());
     plot.scale = scale;
@@ -183,6 +185,10 @@ void frmLoad::drawSet(const LoadedWaveforms& set) {
   if (cb1.isChecked() && channel1Value_ != notSaved) draw(set.channel1, scale1_);
   if (cb2.isChecked() && channel2Value_ != notSaved) draw(set.channel2, "");
   sayWhatIsShown(drawn, hasRoom);
+  if (!replaced.empty())
+    main_.status.tellToo(StatusLine::happened, [replaced](const Words& words) {
+      return words.say("Loaded in the place of %1", {replaced});
+    });
 }
 
 void frmLoad::sayWhatIsShown(std::size_t drawn, bool hasRoom) {

@@ -888,6 +888,10 @@
         <translation>%1 chargé</translation>
     </message>
     <message>
+        <source>Loaded in the place of %1</source>
+        <translation>Chargé à la place de %1</translation>
+    </message>
+    <message>
         <source>Log</source>
         <translation>Journal</translation>
     </message>

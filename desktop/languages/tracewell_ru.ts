@@ -888,6 +888,10 @@
         <translation>Загружено: %1</translation>
     </message>
     <message>
+        <source>Loaded in the place of %1</source>
+        <translation>Загружено вместо %1</translation>
+    </message>
+    <message>
         <source>Log</source>
         <translation>Журнал</translation>
     </message>

@@ -888,6 +888,10 @@
         <translation>已读取 %1</translation>
     </message>
     <message>
+        <source>Loaded in the place of %1</source>
+        <translation>已取代 %1</translation>
+    </message>
+    <message>
         <source>Log</source>
         <translation>日志</translation>
     </message>

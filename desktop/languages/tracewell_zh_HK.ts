@@ -888,6 +888,10 @@
         <translation>載入咗 %1</translation>
     </message>
     <message>
+        <source>Loaded in the place of %1</source>
+        <translation>已經代替咗 %1</translation>
+    </message>
+    <message>
         <source>Log</source>
         <translation>日誌</translation>
     </message>
