@@ -1564,6 +1564,10 @@
         <translation>Le journal est terminé</translation>
     </message>
     <message>
+        <source>The old %1 is kept as %2</source>
+        <translation>L'ancien %1 est conservé sous %2</translation>
+    </message>
+    <message>
         <source>The picture to save</source>
         <translation>L'image à enregistrer</translation>
     </message>

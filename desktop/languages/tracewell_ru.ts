@@ -1564,6 +1564,10 @@
         <translation>Журнал завершён</translation>
     </message>
     <message>
+        <source>The old %1 is kept as %2</source>
+        <translation>Прежний файл %1 сохранён как %2</translation>
+    </message>
+    <message>
         <source>The picture to save</source>
         <translation>Сохраняемый рисунок</translation>
     </message>

@@ -1564,6 +1564,10 @@
         <translation>日志已结束</translation>
     </message>
     <message>
+        <source>The old %1 is kept as %2</source>
+        <translation>原来的 %1 已保留为 %2</translation>
+    </message>
+    <message>
         <source>The picture to save</source>
         <translation>要保存的图片</translation>
     </message>

@@ -1564,6 +1564,10 @@
         <translation>日誌已經結束</translation>
     </message>
     <message>
+        <source>The old %1 is kept as %2</source>
+        <translation>原本嘅 %1 保留咗做 %2</translation>
+    </message>
+    <message>
         <source>The picture to save</source>
         <translation>要儲存嘅圖片</translation>
     </message>

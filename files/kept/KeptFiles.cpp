@@ -80,6 +80,15 @@ void keepNotedFile(frmDSO& main, const fs::path& path) {
   forgetFileToKeep(main, path);
 }
 
+StatusLine::Sentence willBeKept(frmDSO& main, const fs::path& path) {
+  std::error_code ignored;
+  if (!isToBeKept(main, path) || !fs::exists(path, ignored)) return {};
+  return [name = pathText(path.filename()),
+          kept = asideText(path, nameAside(path))](const Words& words) {
+    return words.say("The old %1 is kept as %2", {name, kept});
+  };
+}
+
 StatusLine::Sentence changedMeanwhile(const fs::path& path, const fs::path& aside) {
   return [name = pathText(path.filename()), kept = asideText(path, aside)](const Words& words) {
     return words.say("%1 was changed by another program, and that is kept as %2", {name, kept});
