@@ -181,12 +181,13 @@ void SetupFiles::mnbLoadSetup_Click() {
 void SetupFiles::mnbSaveSetup_Click() {
   Services& services = main_.services();
   const std::filesystem::path path = services.dialogs.saveFile(dialogDSO(services.programFolder));
-  const StatusLine::Sentence said = WriteSetupFile(path);
   if (path.empty()) return;
+  const StatusLine::Sentence kept = willBeKept(main_, path);
+  const StatusLine::Sentence changed = WriteSetupFile(path);
   main_.status.tell(StatusLine::happened, [path](const Words& words) {
     return words.say("Setup saved to %1", {wholePathText(path)});
   });
-  if (said) main_.status.tellToo(StatusLine::happened, said);
+  if (changed || kept) main_.status.tellToo(StatusLine::happened, changed ? changed : kept);
 }
 
 }  // namespace tracewell

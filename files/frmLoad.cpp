@@ -49,7 +49,8 @@ void frmLoad::Form_Load() {
   folder_ = services().programFolder;
 }
 
-/// Anew at each opening: sets may have been saved meanwhile, and folders may have gone.
+/// Anew at each opening: sets may have been saved meanwhile, also the chosen one, and folders may
+/// have gone.
 void frmLoad::Form_Activate() {
   driveCSV.items = diskInUse() != nullptr ? diskInUse()->drives()
                                           : std::vector<std::string>{pathText(folder_.root_path())};
@@ -57,6 +58,11 @@ void frmLoad::Form_Activate() {
     showFolder(folder_);
   } catch (const Error&) {
     showFolder(services().programFolder);
+  }
+  try {
+    if (!dataPath_.empty()) showSet(dataPath_);
+  } catch (const Error&) {
+    chooseNone();
   }
 }
 
@@ -91,31 +97,39 @@ void frmLoad::chooseShown() {
   const auto found = std::ranges::find_if(files, [this](const std::string& name) {
     return pathText(folder_ / pathOf(name)) == dataPath_;
   });
-  shownFile_ = found == files.end() ? ListBox::noEntry : static_cast<int>(found - files.begin());
+  shownFile_ = static_cast<int>(found - files.begin());
+  if (found == files.end()) return chooseNone();
   fileCSV.chosen = shownFile_;
-  if (found != files.end()) return;
+}
+
+void frmLoad::chooseNone() {
+  shownFile_ = ListBox::noEntry;
+  fileCSV.chosen = shownFile_;
   dataPath_.clear();
   txtFile.text = "";
   pictureCSV.image = Image();
 }
 
 /// All or nothing: a set that cannot be shown leaves the one before it chosen.
+void frmLoad::showSet(const std::string& dataPath) {
+  const WaveformDescription txtCSV = readDescription(pathOf(descriptionPath(dataPath)));
+  if (!isPictureType(txtCSV.picturePath))
+    throw Error(invalidProcedureCall, "Tracewell", "No picture: " + txtCSV.picturePath);
+  pictureCSV.image = services().pictures.load(pathOf(txtCSV.picturePath));
+  txtFile.text = "Data File : " + txtCSV.dataFile + "\r\nAuthor : " + txtCSV.author +
+                 "\r\nDescription : " + txtCSV.description + "\r\nCh1 : " + txtCSV.channel1 +
+                 "\r\nCh2 : " + txtCSV.channel2 + "\r\nTime : " + txtCSV.time + "\r\n";
+  dataPath_ = dataPath;
+  channel1Value_ = txtCSV.channel1;
+  channel2Value_ = txtCSV.channel2;
+  scale1_ = txtCSV.time;
+}
+
 void frmLoad::fileCSV_Click() {
   if (fileCSV.chosen() == ListBox::noEntry) return;
   sayWhyNot("");
   try {
-    const std::string dataPath = pathText(folder_ / pathOf(fileCSV.chosenText()));
-    const WaveformDescription txtCSV = readDescription(pathOf(descriptionPath(dataPath)));
-    if (!isPictureType(txtCSV.picturePath))
-      throw Error(invalidProcedureCall, "Tracewell", "No picture: " + txtCSV.picturePath);
-    pictureCSV.image = services().pictures.load(pathOf(txtCSV.picturePath));
-    txtFile.text = "Data File : " + txtCSV.dataFile + "\r\nAuthor : " + txtCSV.author +
-                   "\r\nDescription : " + txtCSV.description + "\r\nCh1 : " + txtCSV.channel1 +
-                   "\r\nCh2 : " + txtCSV.channel2 + "\r\nTime : " + txtCSV.time + "\r\n";
-    dataPath_ = dataPath;
-    channel1Value_ = txtCSV.channel1;
-    channel2Value_ = txtCSV.channel2;
-    scale1_ = txtCSV.time;
+    showSet(pathText(folder_ / pathOf(fileCSV.chosenText())));
     shownFile_ = fileCSV.chosen();
   } catch (const Error&) {
     services().dialogs.showMessage("File is not correct!");
@@ -154,11 +168,13 @@ void frmLoad::drawSet(const LoadedWaveforms& set) {
   while (number <= ScopeGraph::plotCount && main_.graphDSO.plot(number).visible()) ++number;
   std::size_t drawn = 0;
   bool hasRoom = true;
+  std::string replaced;
   const auto draw = [&](const std::vector<double>& points, const std::string& scale) {
     if (points.empty()) return;
     hasRoom = number <= ScopeGraph::plotCount;
     if (!hasRoom) return;
     Plot& plot = main_.graphDSO.plot(number);
+    if (plot.visible()) replaced = plot.label();
     plot.plotXvsY(main_.XIndex, points);
     plot.origin = pathText(pathOf(dataPath_).filename());
     plot.scale = scale;
@@ -169,6 +185,10 @@ void frmLoad::drawSet(const LoadedWaveforms& set) {
   if (cb1.isChecked() && channel1Value_ != notSaved) draw(set.channel1, scale1_);
   if (cb2.isChecked() && channel2Value_ != notSaved) draw(set.channel2, "");
   sayWhatIsShown(drawn, hasRoom);
+  if (!replaced.empty())
+    main_.status.tellToo(StatusLine::happened, [replaced](const Words& words) {
+      return words.say("Loaded in the place of %1", {replaced});
+    });
 }
 
 void frmLoad::sayWhatIsShown(std::size_t drawn, bool hasRoom) {

@@ -39,6 +39,8 @@ class frmLoad : public Window {
   void dirCSV_Change();
   void showFolder(const std::filesystem::path& folder);
   void chooseShown();
+  void chooseNone();
+  void showSet(const std::string& dataPath);
   void fileCSV_Click();
   void cmdOK_Click();
   void drawSet(const LoadedWaveforms& set);

@@ -66,6 +66,16 @@ std::uintmax_t endOfWholeLines(const fs::path& path) {
   }
 }
 
+/// Whether only its line end is missing to the last row, as after some text editors.
+bool isRowBehind(const fs::path& path, std::uintmax_t wholeLines,
+                 const MeasurementColumns& columns) {
+  constexpr std::uintmax_t longestRow = 65536;
+  const FileEnd end = readFileEnd(path, longestRow);
+  const std::uintmax_t before = end.size - end.bytes.size();
+  return wholeLines >= before &&
+         columns.isRow(std::string_view(end.bytes).substr(wholeLines - before));
+}
+
 }  // namespace
 
 MeasurementLog::MeasurementLog(fs::path path, MeasurementColumns columns, std::int64_t now)
@@ -108,7 +118,10 @@ bool MeasurementLog::continues(const fs::path& candidate) {
   if (!isSame && (!heading.starts_with(begins) || begins.size() < file.size())) return false;
   const std::uintmax_t whole = isSame ? endOfWholeLines(candidate) : 0;
   std::error_code failed;
-  if (whole < file.size()) failed = file.cutTo(whole);
+  if (isSame && isRowBehind(candidate, whole, columns_))
+    failed = file.append("\n");
+  else if (whole < file.size())
+    failed = file.cutTo(whole);
   if (!failed && whole == 0) failed = file.append(heading);
   if (!failed) failed = file.flush();
   if (failed) {

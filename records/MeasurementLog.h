@@ -16,9 +16,10 @@ namespace tracewell {
 /// Rows of measurements that go into a file as they come, and stay there whatever happens.
 ///
 /// Each row is on the disk itself within 5 seconds, as long as tick is called once a second. A row
-/// that is cut, as a kill or a power cut leaves one, is cut away when the file is continued. What
-/// the disk does not take is held, and written when it does; only what is held has a bound. Memory
-/// does not grow with the rows. Times are milliseconds of Clock.
+/// that is cut, as a kill or a power cut leaves one, is cut away when the file is continued; a
+/// whole one without its line end gets that. What the disk does not take is held, and written when
+/// it does; only what is held has a bound. Memory does not grow with the rows. Times are
+/// milliseconds of Clock.
 class MeasurementLog {
  public:
   static constexpr std::size_t mostHeld = 10000;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "MeasurementRow.h"
 
+#include <algorithm>
+
 #include "Error.h"
 #include "Numbers.h"
 #include "SamplesCsv.h"
@@ -69,6 +71,14 @@ std::string MeasurementColumns::row(std::int64_t wallTime, int channel,
     if (values[quantity].value) text += shortNumberText(*values[quantity].value, digits);
   }
   return text + "," + passed(values) + "\n";
+}
+
+bool MeasurementColumns::isRow(std::string_view line) const {
+  if (std::ranges::count(line, ',') != std::ranges::count(heading(), ',')) return false;
+  if (line.ends_with(',')) return true;
+  return std::ranges::any_of(limits, [line](const MeasurementLimit& limit) {
+    return line.ends_with("," + limit.text) || line.ends_with("; " + limit.text);
+  });
 }
 
 std::string MeasurementColumns::passed(const OwnMeasurements& values) const {

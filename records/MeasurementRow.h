@@ -43,6 +43,9 @@ struct MeasurementColumns {
 
   std::string heading() const;
   std::string row(std::int64_t wallTime, int channel, const OwnMeasurements& values) const;
+  /// Whether it is a whole row, but for its line end. One is cut, too, where its last limit is none
+  /// of these.
+  bool isRow(std::string_view line) const;
   /// The limits passed, "; " between them.
   std::string passed(const OwnMeasurements& values) const;
 };

@@ -888,6 +888,10 @@
         <translation>%1 chargé</translation>
     </message>
     <message>
+        <source>Loaded in the place of %1</source>
+        <translation>Chargé à la place de %1</translation>
+    </message>
+    <message>
         <source>Log</source>
         <translation>Journal</translation>
     </message>
@@ -1562,6 +1566,10 @@
     <message>
         <source>The log has ended</source>
         <translation>Le journal est terminé</translation>
+    </message>
+    <message>
+        <source>The old %1 is kept as %2</source>
+        <translation>L'ancien %1 est conservé sous %2</translation>
     </message>
     <message>
         <source>The picture to save</source>

@@ -888,6 +888,10 @@
         <translation>Загружено: %1</translation>
     </message>
     <message>
+        <source>Loaded in the place of %1</source>
+        <translation>Загружено вместо %1</translation>
+    </message>
+    <message>
         <source>Log</source>
         <translation>Журнал</translation>
     </message>
@@ -1562,6 +1566,10 @@
     <message>
         <source>The log has ended</source>
         <translation>Журнал завершён</translation>
+    </message>
+    <message>
+        <source>The old %1 is kept as %2</source>
+        <translation>Прежний файл %1 сохранён как %2</translation>
     </message>
     <message>
         <source>The picture to save</source>

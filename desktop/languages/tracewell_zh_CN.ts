@@ -888,6 +888,10 @@
         <translation>已读取 %1</translation>
     </message>
     <message>
+        <source>Loaded in the place of %1</source>
+        <translation>已取代 %1</translation>
+    </message>
+    <message>
         <source>Log</source>
         <translation>日志</translation>
     </message>
@@ -1562,6 +1566,10 @@
     <message>
         <source>The log has ended</source>
         <translation>日志已结束</translation>
+    </message>
+    <message>
+        <source>The old %1 is kept as %2</source>
+        <translation>原来的 %1 已保留为 %2</translation>
     </message>
     <message>
         <source>The picture to save</source>

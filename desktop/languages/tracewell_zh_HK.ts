@@ -888,6 +888,10 @@
         <translation>載入咗 %1</translation>
     </message>
     <message>
+        <source>Loaded in the place of %1</source>
+        <translation>已經代替咗 %1</translation>
+    </message>
+    <message>
         <source>Log</source>
         <translation>日誌</translation>
     </message>
@@ -1562,6 +1566,10 @@
     <message>
         <source>The log has ended</source>
         <translation>日誌已經結束</translation>
+    </message>
+    <message>
+        <source>The old %1 is kept as %2</source>
+        <translation>原本嘅 %1 保留咗做 %2</translation>
     </message>
     <message>
         <source>The picture to save</source>

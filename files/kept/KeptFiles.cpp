@@ -25,20 +25,19 @@ auto findNoted(frmDSO& main, const fs::path& path) {
                               });
 }
 
-/// No folder: it is kept in its own.
+/// Without a folder if it is kept in its own. Where a link is followed, it is kept beside the file.
+std::string asideText(const fs::path& path, const fs::path& aside) {
+  const bool isBeside = aside.parent_path() == canonicalPath(wholePath(path).parent_path());
+  return pathText(isBeside ? aside.filename() : aside);
+}
+
 std::string notice(const Words& words, const fs::path& path) {
   try {
     return words.say("%1 could not be read whole and will be kept as %2",
-                     {pathText(path.filename()), pathText(nameAside(path).filename())});
+                     {pathText(path.filename()), asideText(path, nameAside(path))});
   } catch (const Error& error) {
     return error.description();
   }
-}
-
-/// The others are kept when the user saves over them.
-bool isWrittenUnasked(const frmDSO& main, const fs::path& path) {
-  const bool isOurs = path.filename() == setupFile || path.filename() == errorLogFile;
-  return isOurs && path.parent_path() == canonicalPath(main.services().programFolder);
 }
 
 }  // namespace
@@ -46,8 +45,10 @@ bool isWrittenUnasked(const frmDSO& main, const fs::path& path) {
 void showFilesToKeep(frmDSO& main) {
   std::string text;
   main.lblNotice.sentences.clear();
-  for (const fs::path& path : main.filesToKeep) {
-    if (!isWrittenUnasked(main, path)) continue;
+  // Those that are written unasked; the others are kept when the user saves over them.
+  for (const char* name : {setupFile, errorLogFile}) {
+    const fs::path path = main.services().programFolder / name;
+    if (!isToBeKept(main, path)) continue;
     const std::string said = notice(main.services().words, path);
     main.lblNotice.sentences.push_back({said, true});
     text += (text.empty() ? "" : "; ") + said;
@@ -79,10 +80,18 @@ void keepNotedFile(frmDSO& main, const fs::path& path) {
   forgetFileToKeep(main, path);
 }
 
+StatusLine::Sentence willBeKept(frmDSO& main, const fs::path& path) {
+  std::error_code ignored;
+  if (!isToBeKept(main, path) || !fs::exists(path, ignored)) return {};
+  return [name = pathText(path.filename()),
+          kept = asideText(path, nameAside(path))](const Words& words) {
+    return words.say("The old %1 is kept as %2", {name, kept});
+  };
+}
+
 StatusLine::Sentence changedMeanwhile(const fs::path& path, const fs::path& aside) {
-  return [=](const Words& words) {
-    return words.say("%1 was changed by another program, and that is kept as %2",
-                     {pathText(path.filename()), pathText(aside.filename())});
+  return [name = pathText(path.filename()), kept = asideText(path, aside)](const Words& words) {
+    return words.say("%1 was changed by another program, and that is kept as %2", {name, kept});
   };
 }
 

@@ -24,6 +24,9 @@ void forgetFileToKeep(frmDSO& main, const std::filesystem::path& path);
 /// Keeps the file aside if it is one of them, by whatever path it is named. Raises pathAccess.
 void keepNotedFile(frmDSO& main, const std::filesystem::path& path);
 
+/// What to say when it has been written anew; none if there is nothing to keep. Raises pathAccess.
+StatusLine::Sentence willBeKept(frmDSO& main, const std::filesystem::path& path);
+
 /// What to say of a file that another program has changed since it was read, and of its new name.
 StatusLine::Sentence changedMeanwhile(const std::filesystem::path& path,
                                       const std::filesystem::path& aside);

@@ -113,7 +113,10 @@ const std::map<std::string, Function> functions = {
      }},
     {"samplesOfBytes", [](auto& of) { return samples(0, 0, std::stoul(of[0])); }},
     {"readWaveforms", waveforms},
-    {"setWasSaved", [](auto& of) { return setWasSaved(Words(), pathOf(of[0])); }},
+    {"setWasSaved",
+     [](auto& of) {
+       return split(pathOf(setWasSaved(Words(), of[0])).generic_string(), " in ")[0];
+     }},
     {"withoutExtension", [](auto& of) { return withoutExtension(of[0]); }},
     {"readServerAddress", [](auto& of) { return address(of[0]); }},
     {"readServerAddressBefore",
