@@ -137,8 +137,12 @@ void UnreadMark::paintEvent(QPaintEvent*) {
   painter.drawText(rect(), Qt::AlignCenter, QStringLiteral("?"));
 }
 
+/// A theme gives its labels new fonts, in which the letters do not stand closer yet. It is not done
+/// with them at that moment.
 bool UnreadMark::eventFilter(QObject*, QEvent* event) {
   if (event->type() == QEvent::Resize) toPlace();
+  if (event->type() == QEvent::FontChange)
+    QMetaObject::invokeMethod(this, &UnreadMark::toPlace, Qt::QueuedConnection);
   return false;
 }
 
