@@ -64,9 +64,8 @@ TEST_F(MeasurementLogTest, IsContinuedBehindItsLastWholeRowOrBegunAnew) {
   append(again, 0.1);
   std::ofstream(path, std::ios::binary | std::ios::app) << "time,another program's\n";
   append(again, 0.2);
-  EXPECT_TRUE(again.finish(now));
+  EXPECT_TRUE(again.finish(now) && again.ownRows() == 2);
   EXPECT_EQ(rows(path), (Lines{heading, "1,0.1,,", "another program's", "1,0.2,,"}));
-  EXPECT_EQ(again.ownRows(), 2U);
   columns.quantities.pop_back();
   MeasurementLog other(path, columns, now);
   EXPECT_EQ(other.path(), folder.path() / "log-2.csv");

@@ -52,6 +52,7 @@ class DayAtTheBench(SystemTestCase):
         program.keys("Tab", "Tab", "Tab", "Tab", "ctrl+a")
         program.type("7")
         program.keys("Return")
+        program.closed("RS-232")
         program.focus(program.window)
         program.click("frmDSO.cbCh2")
         program.keys("F5")

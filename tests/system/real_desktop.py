@@ -60,8 +60,21 @@ def run(*command):
     return subprocess.run(command, check=True, capture_output=True, text=True).stdout
 
 
+class Picture(ctypes.Structure):
+    """XImage, as far as it is read here."""
+
+    _fields_ = [("width", ctypes.c_int), ("height", ctypes.c_int), ("xoffset", ctypes.c_int),
+                ("format", ctypes.c_int), ("data", ctypes.c_void_p), ("byte_order", ctypes.c_int),
+                ("bitmap_unit", ctypes.c_int), ("bitmap_bit_order", ctypes.c_int),
+                ("bitmap_pad", ctypes.c_int), ("depth", ctypes.c_int),
+                ("bytes_per_line", ctypes.c_int), ("bits_per_pixel", ctypes.c_int)]
+
+
 class Screen:
     """An X server, and what is seen on it."""
+
+    ALL_PLANES = ctypes.c_ulong(-1)
+    Z_PIXMAP = 2
 
     def __init__(self):
         read_end, write_end = os.pipe()
@@ -71,27 +84,39 @@ class Screen:
         os.close(write_end)
         with os.fdopen(read_end) as pipe:
             os.environ["DISPLAY"] = ":" + pipe.readline().strip()
-        wait_for(lambda: subprocess.run(["xdotool", "getdisplaygeometry"],
-                                        capture_output=True).returncode == 0, 10, "the X server")
+        self.x11 = ctypes.CDLL("libX11.so.6")
+        self.x11.XOpenDisplay.restype = ctypes.c_void_p
+        self.x11.XDefaultRootWindow.restype = ctypes.c_ulong
+        self.x11.XGetImage.restype = ctypes.POINTER(Picture)
+        self.display = ctypes.c_void_p(wait_for(lambda: self.x11.XOpenDisplay(None), 10, "the X server"))
+        self.root = ctypes.c_ulong(self.x11.XDefaultRootWindow(self.display))
 
     def stop(self):
+        self.x11.XCloseDisplay(self.display)
         self.server.terminate()
         self.server.wait()
 
-    def pixels(self):
-        """Bytes of the screen, three to a pixel, row by row."""
-        picture = subprocess.run(["import", "-window", "root", "-depth", "8", "ppm:-"], check=True,
-                                 capture_output=True).stdout
-        header = picture.split(b"\n", 3)
-        assert header[1] == f"{WIDTH} {HEIGHT}".encode()
-        return header[3]
+    def pixels(self, place):
+        """The colours there as 0xRRGGBB, row by row."""
+        picture = self.x11.XGetImage(self.display, self.root, place.left, place.top, place.width,
+                                     place.height, self.ALL_PLANES, self.Z_PIXMAP)
+        seen = picture.contents
+        assert (seen.bits_per_pixel, seen.bytes_per_line) == (32, 4 * place.width)
+        data = ctypes.string_at(seen.data, 4 * place.width * place.height)
+        self.x11.XDestroyImage(picture)
+        return memoryview(data).cast("I")
 
-    def within(self, place):
-        """Position and colour of every pixel there."""
-        pixels = self.pixels()
-        for y in range(place.top, place.top + place.height):
-            for x in range(place.left, place.left + place.width):
-                yield (x, y), pixels[3 * (y * WIDTH + x):3 * (y * WIDTH + x) + 3]
+    def where(self, place, is_meant):
+        """The positions there with a colour for which is_meant(red, green, blue) holds."""
+        pixels = self.pixels(place)
+        meant = {colour for colour in set(pixels) if is_meant(*parts(colour))}
+        return {(place.left + i % place.width, place.top + i // place.width)
+                for i, colour in enumerate(pixels) if colour in meant}
+
+
+def parts(colour):
+    """Red, green, blue."""
+    return colour >> 16 & 255, colour >> 8 & 255, colour & 255
 
 
 class Place(typing.NamedTuple):
@@ -387,9 +412,8 @@ class SystemTestCase(unittest.TestCase):
         """Where the plot shows the colour of channel 1. The strip of scales above it has that colour, too, and
         the banner at its lower edge one that is close to it."""
         plot = program.place("frmDSO.plot")
-        return {position for position, (red, green, blue)
-                in self.screen.within(plot._replace(height=plot.height * 4 // 5))
-                if red > 170 and 120 < green < red and red - blue > 90}
+        return self.screen.where(plot._replace(height=plot.height * 4 // 5),
+                                 lambda red, green, blue: red > 170 and 120 < green < red and red - blue > 90)
 
     def expect_live_trace(self, program):
         first = wait_for(lambda: len(trace := self.trace(program)) > 300 and trace, PATIENCE,
@@ -398,7 +422,7 @@ class SystemTestCase(unittest.TestCase):
 
     def lamp(self, program):
         counts = {"blue": 0, "green": 0, "red": 0}
-        for _, (red, green, blue) in self.screen.within(program.place("frmDSO.spConnect")):
+        for red, green, blue in map(parts, self.screen.pixels(program.place("frmDSO.spConnect"))):
             for name, value, others in (("red", red, green + blue), ("green", green, red + blue),
                                         ("blue", blue, red + green)):
                 counts[name] += value > 150 and value > others

@@ -200,8 +200,8 @@ class WindowsTest(SystemTestCase):
         self.shot("load")
         program.keys("Tab", "Tab", "Tab", "Tab", "space")
         program.closed("Load Waveform")
-        wait_for(lambda: any(red < 150 and green < 100 and blue > 200 for _, (red, green, blue)
-                             in self.screen.within(PLACES["frmDSO.plot"])), PATIENCE, "the loaded trace")
+        wait_for(lambda: self.screen.where(PLACES["frmDSO.plot"], lambda red, green, blue:
+                                           red < 150 and green < 100 and blue > 200), PATIENCE, "the loaded trace")
         self.shot("loaded")
 
         program.focus(program.window)
