@@ -7,7 +7,8 @@ puts it before it calls a window frozen."""
 import signal
 import time
 
-from real_desktop import PATIENCE, Desktop, SystemTestCase, main, strain, wait_for
+from real_desktop import PATIENCE, SystemTestCase, main, strain, wait_for
+from window_manager import Desktop
 
 LONGEST_GAP = 0.1
 """Seconds without an answer, as the instrument panel promises."""

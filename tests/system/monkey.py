@@ -20,7 +20,8 @@ import sys
 import tempfile
 import time
 
-from real_desktop import Desktop, HEIGHT, Instrument, Program, SIMULATOR, Screen, WIDTH, resident_kilobytes
+from real_desktop import HEIGHT, Instrument, Program, SIMULATOR, Screen, WIDTH, resident_kilobytes
+from window_manager import Desktop
 
 SECONDS = float(sys.argv[4]) if len(sys.argv) > 4 else 600
 SEED = int(sys.argv[5]) if len(sys.argv) > 5 else random.randrange(1 << 30)
