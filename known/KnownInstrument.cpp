@@ -71,10 +71,22 @@ void KnownInstrument::notSent(std::string_view line) {
     if (part.isQuery) continue;
     const WireEffect effect = effectOf(part);
     if (effect.isUnknown || effect.sets == math) mathDoubtedOn_.insert(presentLine().portNumber);
-    if (effect.sets) doubtful(*effect.sets, Doubt::notSent);
+    if (effect.sets == running && sentValue(running, part)->number == stoppedState)
+      mayHaveStopped();
+    else if (effect.sets)
+      doubtful(*effect.sets, Doubt::notSent);
     for (const Setting setting : effect.touches) doubtful(setting, Doubt::notSent);
   }
   tell();
+}
+
+/// The records that it sends may be those of this moment.
+void KnownInstrument::mayHaveStopped() {
+  if (isStopped()) return doubtful(running, Doubt::notSent);
+  stop();
+  doubtful(running, Doubt::notSent);
+  entry(running).number = stoppedState;
+  entry(running).numberOnPort = presentLine().portNumber;
 }
 
 /// A sent command locks the instrument's panel; one that may have been sent may have locked it.

@@ -114,6 +114,7 @@ class KnownInstrument {
   void doubtful(Setting setting, Doubt reason);
   void followed(Setting setting);
   void stop();
+  void mayHaveStopped();
   void lockUncertain();
   void leave(Setting setting);
   void leaveUntold(Entry& asked) const;

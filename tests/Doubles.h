@@ -180,6 +180,8 @@ class ScriptedPort : public SerialPort, public PortList {
   std::map<std::string, std::deque<std::string>> replies;
   /// While positive, each transfer fails with it and takes one away.
   int faults = 0;
+  /// The next line goes out, and then the line fails.
+  bool isBreaking = false;
   /// Every line written, without CR LF.
   Lines wire;
   /// The same as it happens, with the time that a reply is given where that is not the usual one.

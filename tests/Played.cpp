@@ -227,6 +227,7 @@ std::map<std::string, std::function<void()>> Played::stepsWith(const std::string
   return {
       {"plug", [this] { port.answerLikeAnInstrument(); }},
       {"connected", [this] { connect(); }},
+      {"break", [this] { port.isBreaking = true; }},
       {"faults", [this, number] { port.faults = number(); }},
       {"baud", [this, &value] { main.state.BaudRate = toInt16(value); }},
       {"file", [this, &value, path] { dialogs.pickedFile = value.empty() ? "" : path(); }},
