@@ -121,6 +121,7 @@ void KnownInstrument::leaveOpen(Setting setting, const WirePart& command) {
   if (setting == math) mathDoubtedOn_.insert(presentLine().portNumber);
   if (setting != triggerMode) return;
   entry(setting).number = plainNumber(command.argument);
+  entry(setting).reply.reset();
   entry(setting).numberOnPort = presentLine().portNumber;
 }
 
@@ -188,11 +189,10 @@ std::optional<KnownInstrument::Value> KnownInstrument::toldValue(Setting setting
 
 std::optional<KnownInstrument::Value> KnownInstrument::inDivisions(
     Setting setting, std::optional<double> value) const {
-  const Setting scale =
-      setting == delay ? timeBase : ofChannel(scale1, setting == position1 ? 1 : 2);
-  const Entry& told = entry(scale);
-  if (!value || !told.number || toldDoubt(scale) != Doubt::none) return std::nullopt;
-  return Value{*value / *told.number, "", told.reply};
+  const Setting scale = *scaleOf(setting);
+  const std::optional<double> perDivision = entry(scale).number;
+  if (!value || !perDivision || toldDoubt(scale) != Doubt::none) return std::nullopt;
+  return Value{*value / *perDivision, ""};
 }
 
 /// The same value again changes nothing.
@@ -313,7 +313,11 @@ void KnownInstrument::swept(int channel, Moment requested) {
 
 Doubt KnownInstrument::doubt(Setting setting) const {
   const Doubt told = toldDoubt(setting);
-  return told == Doubt::none && isUnsure(entry(setting)) ? Doubt::unsureAnswer : told;
+  if (told != Doubt::none) return told;
+  Sureness least = sureness(entry(setting));
+  if (const auto scale = scaleOf(setting)) least = std::max(least, sureness(entry(*scale)));
+  if (least == Sureness::sure) return Doubt::none;
+  return least == Sureness::notYet ? Doubt::unsureAnswer : Doubt::wrongAnswer;
 }
 
 /// As if each reply were the one to its query.
@@ -322,12 +326,19 @@ Doubt KnownInstrument::toldDoubt(Setting setting) const {
   if (asked.doubt == Doubt::neverRead) return Doubt::neverRead;
   if (asked.line != presentLine()) return Doubt::anotherInstrument;
   // After one sweep it stops itself.
-  const Entry& mode = entry(triggerMode);
   const bool isOver = setting == running && asked.doubt == Doubt::none &&
-                      asked.number == runningState && (mode.number == singleMode || isUnsure(mode));
+                      asked.number == runningState &&
+                      mayBeMode([](double mode) { return mode == singleMode; });
   if (isOver) return Doubt::mayHaveChanged;
   const bool isMoving = setting == triggerLevel && asked.doubt == Doubt::none && mayMoveLevel();
   return isMoving ? Doubt::mayHaveChanged : asked.doubt;
+}
+
+template <class Condition>
+bool KnownInstrument::mayBeMode(Condition condition) const {
+  const Entry& mode = entry(triggerMode);
+  if (!isOnPortOf(mode)) return false;
+  return (mode.number && condition(*mode.number)) || sureness(mode) != Sureness::sure;
 }
 
 /// In one of its modes the instrument finds the trigger level by itself. The panel does not expect
@@ -336,7 +347,7 @@ bool KnownInstrument::mayMoveLevel() const {
   const Entry& mode = entry(triggerMode);
   if (mode.doubt == Doubt::neverRead || !isOnPortOf(mode)) return false;
   const bool isAsTold = mode.doubt == Doubt::none || mode.doubt == Doubt::noAnswer;
-  return !isAsTold || mode.number == autoLevel || isUnsure(mode);
+  return !isAsTold || mayBeMode([](double told) { return told == autoLevel; });
 }
 
 std::optional<double> KnownInstrument::number(Setting setting) const {
@@ -415,9 +426,7 @@ MadeUnder KnownInstrument::settingsAt(int channel, Moment moment) const {
 /// The moment since when a new sweep is certain: a free-running instrument has swept after the
 /// request, one that waits for its trigger after the sweep before.
 KnownInstrument::Moment KnownInstrument::sweptSince(int channel) const {
-  const Entry& mode = entry(triggerMode);
-  const bool waits = isOnPortOf(mode) && (mode.number >= normalMode || isUnsure(mode));
-  if (!waits) return now_;
+  if (!mayBeMode([](double mode) { return mode >= normalMode; })) return now_;
   const Swept& last = swept_[static_cast<std::size_t>(channel - 1)];
   return last.line == presentLine() ? last.requested : 0;
 }

@@ -11,6 +11,7 @@
 
 #include "MadeUnder.h"
 #include "Setting.h"
+#include "Sureness.h"
 #include "WireRules.h"
 
 namespace tracewell {
@@ -27,10 +28,10 @@ class KnownInstrument {
   /// A count of facts. Only the order matters.
   using Moment = std::int64_t;
 
-  /// `presentLine` returns the line on which the next command goes out. `isSure` says of the number
-  /// of a reply whether it is surely the one to its query.
-  KnownInstrument(std::function<Line()> presentLine, std::function<bool(int)> isSure)
-      : presentLine_(std::move(presentLine)), isSure_(std::move(isSure)) {}
+  /// `presentLine` returns the line on which the next command goes out. `sureness` says of the
+  /// number of a reply whether it is the one to its query.
+  KnownInstrument(std::function<Line()> presentLine, std::function<Sureness(int)> sureness)
+      : presentLine_(std::move(presentLine)), sureness_(std::move(sureness)) {}
   KnownInstrument(const KnownInstrument&) = delete;
 
   // Facts, reported in order.
@@ -91,7 +92,7 @@ class KnownInstrument {
     std::optional<double> number;
     std::string caption;
     Doubt doubt = Doubt::neverRead;
-    /// The reply that told it, or what it was worked out from; none where it was sent.
+    /// The reply that told it; none where it was sent.
     std::optional<int> reply;
     /// Where that was last told, or asked for in vain.
     Line line;
@@ -120,9 +121,14 @@ class KnownInstrument {
   void leaveUntold(Entry& asked) const;
   void leaveOpen(Setting setting, const WirePart& command);
   Doubt toldDoubt(Setting setting) const;
-  bool isUnsure(const Entry& told) const { return told.reply && !isSure_(*told.reply); }
+  Sureness sureness(const Entry& told) const {
+    return told.reply ? sureness_(*told.reply) : Sureness::sure;
+  }
   /// A position or delay, of volts or seconds and the scale that was told last.
   std::optional<Value> inDivisions(Setting setting, std::optional<double> value) const;
+  /// The trigger is in a mode for which this holds, or may be.
+  template <class Condition>
+  bool mayBeMode(Condition condition) const;
   bool mayMoveLevel() const;
   bool mayBeStopped() const;
   /// What was asked for in vain on another port is still what was told on this one.
@@ -140,7 +146,7 @@ class KnownInstrument {
   }
 
   std::function<Line()> presentLine_;
-  std::function<bool(int)> isSure_;
+  std::function<Sureness(int)> sureness_;
   std::array<Entry, settingCount> entries_;
   Moment now_ = 1;
   std::optional<Line> readOn_;

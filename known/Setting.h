@@ -51,8 +51,10 @@ enum class Doubt {
   none,
   neverRead,
   noAnswer,
-  /// It had a reply, which may be that to another query.
+  /// It had a reply, which may turn out to be that to another query.
   unsureAnswer,
+  /// It had a reply, which may be that to another query for all that can be told.
+  wrongAnswer,
   /// A command for it was begun and failed.
   notSent,
   /// Something may have changed it since.

@@ -121,6 +121,12 @@ std::optional<Setting> dependentOn(Setting setting) {
   }
 }
 
+std::optional<Setting> scaleOf(Setting setting) {
+  for (const Setting scale : {Setting::scale1, Setting::scale2, Setting::timeBase})
+    if (dependentOn(scale) == setting) return scale;
+  return std::nullopt;
+}
+
 int mathChannelOf(std::size_t entry) {
   constexpr std::size_t reverseDifference = 2;
   if (entry + 1 >= mathCommands.size()) return 0;

@@ -43,6 +43,9 @@ std::optional<Setting> askedBy(const WirePart& part);
 /// position or delay in divisions, since the instrument keeps them in volts and seconds.
 std::optional<Setting> dependentOn(Setting setting);
 
+/// The scale in whose divisions a position or delay is counted; none for another setting.
+std::optional<Setting> scaleOf(Setting setting);
+
 /// The commands that set the instrument's math, by entry of the math box; the last is off. Unlike
 /// all other commands they begin without a colon.
 constexpr std::array<std::string_view, 4> mathCommands = {"CHAN1:MATH 1", "CHAN1:MATH 2",

@@ -82,7 +82,7 @@ void RecordingRun::request(std::int64_t now) {
   try {
     const int openings = port_.openings();
     port_.prepare();
-    if (port_.openings() != openings) readScales();
+    if (port_.openings() != openings || isScaleWrong()) readScales();
     const KnownInstrument::Moment stamp = known_.now();
     known_.requested();
     isLocked_ = true;
@@ -99,6 +99,14 @@ void RecordingRun::request(std::int64_t now) {
 void RecordingRun::failed(const std::string& why) {
   if (why != failure_) told_.message(why);
   failure_ = why;
+}
+
+/// What was told has turned out to be the reply to another query.
+bool RecordingRun::isScaleWrong() const {
+  using enum Setting;
+  return std::ranges::any_of(std::array{scale1, scale2, timeBase}, [this](Setting scale) {
+    return known_.doubt(scale) == Doubt::wrongAnswer;
+  });
 }
 
 /// The first question decides whether anybody is there; what has no answer else is not known.

@@ -57,6 +57,7 @@ class RecordingRun {
   void turn();
   void request(std::int64_t now);
   void readScales();
+  bool isScaleWrong() const;
   void ask(const std::string& query);
   void arrived(const LineRecord& fetched);
   void take(int channel, const ChannelRecord& record);
@@ -78,7 +79,7 @@ class RecordingRun {
   const EventDispatcher& dispatcher_;
   Told told_;
   KnownInstrument known_{[this] { return line(); },
-                         [this](int reply) { return port_.isSure(reply); }};
+                         [this](int reply) { return port_.sureness(reply); }};
   std::array<ChannelRecord, 2> records_;
   /// New ones of each channel.
   std::array<std::int64_t, 2> counts_{};

@@ -213,7 +213,10 @@ class ScriptedPort : public SerialPort, public PortList {
   int openings() const override { return timesOpened; }
   LineReport report() const override { return lineReport; }
   int lastReply() const override { return returned; }
-  bool isSure(int reply) const override { return reply <= sure; }
+  Sureness sureness(int reply) const override {
+    if (reply <= sure) return Sureness::sure;
+    return lineReport.sureAt ? Sureness::notYet : Sureness::never;
+  }
   void command(std::string_view line, Reply) override { write(line, ""); }
   std::string query(std::string_view line, int timeOut) override;
   void request(LineRecord record) override;

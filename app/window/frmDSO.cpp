@@ -9,7 +9,7 @@ frmDSO::frmDSO(Services& services)
           [&port = services.port] {
             return InstrumentLine{port.settings.portNumber, port.openings()};
           },
-          [&port = services.port](int reply) { return port.isSure(reply); }) {
+          [&port = services.port](int reply) { return port.sureness(reply); }) {
   lblTest.visible = false;
   cmdNewErrors.visible = false;
   opOff.value.setQuietly(true);

@@ -49,8 +49,8 @@ void Conversation::command(std::string_view line, bool isAnswered) {
   if (!isAnswered) return;
   askedAt_ = clock_.milliseconds();
   ++unanswered_;
-  account_.asked();
-  account_.leftOutstanding(askedAt_);
+  replies_.asked();
+  replies_.missed(askedAt_);
   isQuestionOwed_ = true;
   if (state_ == State::idle) state_ = State::draining;
 }
@@ -60,7 +60,7 @@ std::string Conversation::ask(std::string_view query, int timeOut) {
   send(query);
   askedAt_ = clock_.milliseconds();
   ++unanswered_;
-  account_.asked();
+  replies_.asked();
   state_ = State::replyAwaited;
   try {
     std::string reply = awaitReply(askedAt_ + timeOut);
@@ -68,7 +68,8 @@ std::string Conversation::ask(std::string_view query, int timeOut) {
     // Earlier queries have been answered by now, or never will be.
     if (!isQuestionOwed_) owedBytes_ = 0;
     state_ = State::idle;
-    account_.gaveAnswer(askedAt_, clock_.milliseconds());
+    replies_.returned(askedAt_, clock_.milliseconds());
+    account_.gaveAnswer();
     return reply;
   } catch (...) {
     leaveUnanswered();
@@ -110,7 +111,15 @@ void Conversation::forget() {
   owedBytes_ = 0;
   isQuestionOwed_ = false;
   isStray_ = false;
-  account_.beginAnew(clock_.milliseconds());
+  replies_.beginAnew(clock_.milliseconds());
+  account_.beginAnew();
+}
+
+LineReport Conversation::report() const {
+  const std::int64_t now = clock_.milliseconds();
+  LineReport report = account_.report(now);
+  report.sureAt = replies_.sureAt(now);
+  return report;
 }
 
 template <class Transfer>
@@ -173,8 +182,8 @@ void Conversation::hearRecord(const std::string& bytes) {
 /// of a flat signal are blanks, too.
 void Conversation::hearBehindRecord(std::string_view bytes) {
   const auto isEmpty = [](char byte) { return isBlank(byte) || byte == '\n'; };
-  const bool mayBeShifted = !bytes.empty() && account_.isReplyDue(clock_.milliseconds());
-  if (mayBeShifted) account_.mayHaveHeardMissing(clock_.milliseconds());
+  const bool mayBeShifted = !bytes.empty() && replies_.isDue(askedAt_);
+  if (mayBeShifted) replies_.mayHaveHeardMissing(askedAt_);
   if (mayBeShifted || !std::ranges::all_of(bytes, isEmpty)) hearLines(bytes, askedAt_);
 }
 
@@ -216,13 +225,14 @@ void Conversation::hearLines(std::string_view bytes, std::int64_t since) {
     const bool isBehindALine = now < lineEndAt_ + settling;
     if (!isBlank(byte) && (unanswered_ == 0 || isBehindALine)) ++unasked;
     if (byte != '\n') continue;
-    if (unanswered_ > 0) account_.heardOutstanding();
+    if (unanswered_ > 0) replies_.heardOutstanding();
     unanswered_ = std::max(unanswered_ - 1, 0);
     lineEndAt_ = now;
   }
   if (unasked == 0) return;
   isStray_ = true;
-  account_.heardUnasked(unasked, since, now);
+  account_.heardUnasked(unasked, now);
+  replies_.heardUnasked(since);
 }
 
 /// Bytes that no query waits for belong to outstanding records first, then to lines.
@@ -235,7 +245,7 @@ void Conversation::hearOwed(std::string_view bytes) {
 std::size_t Conversation::payWith(std::string_view bytes) {
   const std::size_t paid = std::min(owedBytes_, bytes.size());
   if (paid == 0) return 0;
-  account_.mayHaveHeardMissing(clock_.milliseconds());
+  replies_.mayHaveHeardMissing(clock_.milliseconds());
   const auto records = [this] { return (owedBytes_ + record_.count - 1) / record_.count; };
   const std::size_t before = records();
   owedBytes_ -= paid;
@@ -266,6 +276,7 @@ void Conversation::review() {
   if (!isUnderWay || now < trustedAt()) return;
   if (state_ == State::recordAwaited) {
     account_.gaveUpRecord(record_.bytes.size(), record_.count, now);
+    if (!record_.bytes.empty()) replies_.mayHaveHeardMissing(heardAt_);
     // A few bytes may have been the late reply to something else.
     if (2 * record_.bytes.size() < record_.count) owe();
   }
@@ -365,7 +376,8 @@ void Conversation::leaveUnanswered() {
   state_ = State::draining;
   isQuestionOwed_ = true;
   ++unansweredInRow_;
-  account_.missedAnswer(clock_.milliseconds());
+  account_.missedAnswer();
+  replies_.missed(clock_.milliseconds());
 }
 
 void Conversation::arrived() {
@@ -376,7 +388,8 @@ void Conversation::arrived() {
     if (state_ == State::draining) channel_->rest(StandBy::longestGap);
     if (whole_) {
       const LineRecord record = *std::exchange(whole_, std::nullopt);
-      account_.gaveRecord(clock_.milliseconds(), unanswered_ == 0);
+      account_.gaveRecord(clock_.milliseconds());
+      if (unanswered_ == 0) replies_.heardRecord();
       delivered(record);
     }
     if (dispatcher_.isOpen()) sendHeld();

@@ -16,6 +16,7 @@
 #include "LineAccount.h"
 #include "LineRecord.h"
 #include "StandBy.h"
+#include "SureReplies.h"
 
 namespace tracewell {
 
@@ -37,7 +38,7 @@ namespace tracewell {
 ///   outstanding has arrived, or it has been quiet for long enough (drainTime). If the line does
 ///   not come to rest within twice that time, the query counts as unanswered and is not sent.
 /// - A reply that is returned while an earlier one is missing may be that one, if it is later than
-///   longestThought: it is not sure. LineAccount says until when.
+///   longestThought: it is not sure. SureReplies says until when.
 /// - Unasked bytes make the line untrusted until it has been quiet for as long.
 /// - After two unanswered queries in a row the instrument counts as silent: further ones are sent
 ///   without draining until something is heard.
@@ -74,9 +75,9 @@ class Conversation {
   const LineSettings& openSettings() const { return openSettings_; }
   /// How often a line has been opened.
   int openings() const { return openings_; }
-  LineReport report() const { return account_.report(clock_.milliseconds()); }
-  int lastReply() const { return account_.lastReply(); }
-  bool isSure(int reply) const { return account_.isSure(reply, clock_.milliseconds()); }
+  LineReport report() const;
+  int lastReply() const { return replies_.last(); }
+  Sureness sureness(int reply) const { return replies_.sureness(reply, clock_.milliseconds()); }
 
   /// Sends a line. With `isAnswered` its reply is outstanding, and will be discarded. Raises
   /// deviceError.
@@ -180,7 +181,8 @@ class Conversation {
   std::int64_t askedAt_ = 0;
   std::int64_t heardAt_ = 0;
   std::int64_t lineEndAt_ = std::numeric_limits<int>::min();
-  LineAccount account_{longestThought};
+  LineAccount account_;
+  SureReplies replies_{longestThought};
   /// Lives as long as this object; delayed actions check it.
   std::shared_ptr<int> alive_ = std::make_shared<int>();
 };

@@ -21,7 +21,7 @@ class LinePort : public SerialPort {
   int openings() const override { return conversation_.openings(); }
   LineReport report() const override { return conversation_.report(); }
   int lastReply() const override { return conversation_.lastReply(); }
-  bool isSure(int reply) const override { return conversation_.isSure(reply); }
+  Sureness sureness(int reply) const override { return conversation_.sureness(reply); }
   void command(std::string_view line, Reply reply) override;
   std::string query(std::string_view line, int timeOut) override;
   void request(LineRecord record) override { conversation_.request(std::move(record)); }

@@ -11,6 +11,7 @@
 #include "LineRecord.h"
 #include "LineReport.h"
 #include "Property.h"
+#include "Sureness.h"
 
 namespace tracewell {
 
@@ -53,10 +54,9 @@ class SerialPort {
   /// The number of the reply that was returned last. They are counted over all lines.
   virtual int lastReply() const = 0;
 
-  /// Whether that reply is surely the one to its query. One that was returned while an earlier one
-  /// is missing may be that one: it is sure once the line has been quiet for long enough, or all
-  /// that was missing has come. One that turns out to be another's is never sure again.
-  virtual bool isSure(int reply) const = 0;
+  /// Whether that reply is the one to its query. It may become sure, or turn out to be another's.
+  virtual Sureness sureness(int reply) const = 0;
+  bool isSure(int reply) const { return sureness(reply) == Sureness::sure; }
 
   /// What the instrument sends back to a command: nothing, or a reply that is not read.
   enum class Reply { none, unread };

@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+#include "Sureness.h"
+
+namespace tracewell {
+
+/// Numbers the replies that the line returns, and says of each how sure it is.
+///
+/// - While a reply is missing the next query may get it, and so on, until one is left over. So the
+///   replies behind it are not sure yet. They become sure once every line that was asked for has
+///   arrived, once a record has, or when no reply was missed or returned for longestLate.
+/// - Unasked bytes prove that one was left over, or that the instrument replies twice. Then the
+///   replies before are never sure: those that were not yet, and the last series, in which each
+///   query followed the reply before within longestThought.
+///
+/// All moments are milliseconds on Clock's scale.
+class SureReplies {
+ public:
+  /// A missing reply may be later than any should be.
+  static constexpr int longestLate = 10000;
+
+  /// `longestThought` is the time within which every reply should arrive.
+  explicit SureReplies(int longestThought) : longestThought_(longestThought) {}
+
+  /// The number of the reply that was returned last; 0 if none was.
+  int last() const { return last_; }
+  Sureness sureness(int reply, std::int64_t now) const;
+  /// When the replies that are not sure yet will be; none if there are none.
+  std::optional<std::int64_t> sureAt(std::int64_t now) const;
+  /// A reply that is missing may still come.
+  bool isDue(std::int64_t now) const { return missing_ && now < dueUntil(); }
+
+  /// Another instrument is on the line.
+  void beginAnew(std::int64_t now);
+  /// A query was sent. Returned, or missed, or neither if nobody waits for its reply, follows.
+  void asked();
+  /// Nobody waits for its reply any more.
+  void missed(std::int64_t now);
+  /// The reply to a query sent at `askedAt` is returned.
+  void returned(std::int64_t askedAt, std::int64_t now);
+  /// A line arrived while a reply was outstanding, and is not returned.
+  void heardOutstanding();
+  /// A record has arrived behind whose request nothing was asked: what is missing never comes.
+  void heardRecord() { missing_.reset(); }
+  /// A missing reply may have come, among other bytes.
+  void mayHaveHeardMissing(std::int64_t at);
+  void heardUnasked(std::int64_t at);
+
+ private:
+  struct Missing {
+    /// Queries sent less lines heard, from the one that was missed first.
+    int outstanding;
+    /// The last reply that was returned before.
+    int behind;
+    /// When the last one was missed.
+    std::int64_t lastAt;
+  };
+  struct Series {
+    int first;
+    int last;
+  };
+
+  std::int64_t dueUntil() const;
+  void doubt(Series replies);
+
+  int longestThought_;
+  int last_ = 0;
+  std::optional<std::int64_t> lastAt_;
+  /// The first reply of the last series.
+  int seriesFrom_ = 0;
+  std::optional<Missing> missing_;
+  /// Never sure, in ascending order.
+  std::vector<Series> doubted_;
+};
+
+}  // namespace tracewell
