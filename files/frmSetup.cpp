@@ -61,7 +61,7 @@ void frmSetup::Form_Activate() {
   } catch (const Error& error) {
     const std::string where = error.number() == invalidProcedureCall
                                   ? pathText(services().programFolder / templateName)
-                                  : "default.dso";
+                                  : "the counts of the setup";
     throw Error(error.number(), error.source(), error.description() + ": " + where);
   }
 }

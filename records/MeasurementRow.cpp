@@ -79,10 +79,16 @@ std::string MeasurementColumns::row(std::int64_t wallTime, int channel,
 
 bool MeasurementColumns::isRow(std::string_view line) const {
   if (std::ranges::count(line, ',') != std::ranges::count(heading(), ',')) return false;
-  if (line.ends_with(',')) return true;
-  return std::ranges::any_of(limits, [line](const MeasurementLimit& limit) {
+  // Of a row with limits the last ones may be lost.
+  if (line.ends_with(',')) return limits.empty();
+  const auto isLast = [line](const MeasurementLimit& limit) {
     return line.ends_with("," + limit.text) || line.ends_with("; " + limit.text);
-  });
+  };
+  const auto last = std::ranges::find_if(limits, isLast);
+  if (last == limits.end()) return false;
+  return std::ranges::count_if(limits, [&last](const MeasurementLimit& limit) {
+           return limit.text.starts_with(last->text);
+         }) == 1;
 }
 
 std::string MeasurementColumns::passed(const OwnMeasurements& values) const {

@@ -89,7 +89,9 @@ QString saveAsSet(Recorder& recorder, const RecorderView& view, const RecorderLo
                   const QSize& size, const std::filesystem::path& path) {
   const RecordsOfSet numbers = view.saved();
   const auto format = pictureFormatOf(pathText(path));
-  if (!format) return panelText("The picture's name must end in png, jpg, bmp, gif, pcx or tif");
+  if (!format)
+    throw Error(pathAccess, "Tracewell",
+                fromQt(panelText("The picture's name must end in png, jpg, bmp, gif, pcx or tif")));
   for (const auto& number : numbers)
     if (number && recorder.store().record(*number).bytes.size() < WaveformRecord::byteCount)
       return panelText("This record is cut: a set needs a whole one");

@@ -360,10 +360,12 @@ void RecorderWindow::exportInto(const std::filesystem::path& path) {
 }
 
 void RecorderWindow::saveSet() {
-  pickFile(
-      {recorder_.main().services().programFolder, fromQt(panelText("Save as a waveform set")),
-       nameOfSet(recorder_.store(), view_.saved()), fromQt(panelText("Pictures")) + pictureNames},
-      [this](const std::filesystem::path& path) { saveSetInto(path); });
+  FileDialog dialog{.initialFolder = recorder_.main().services().programFolder,
+                    .title = fromQt(panelText("Save as a waveform set")),
+                    .fileName = nameOfSet(recorder_.store(), view_.saved()),
+                    .filter = fromQt(panelText("Pictures")) + pictureNames};
+  dialog.extensions = {"png", "jpg", "bmp", "gif", "pcx", "tif", "csv", "inf"};
+  pickFile(dialog, [this](const std::filesystem::path& path) { saveSetInto(path); });
 }
 
 void RecorderWindow::saveSetInto(const std::filesystem::path& path) {

@@ -46,8 +46,13 @@ void RecorderView::follow(bool isFollowing) {
 }
 
 RecorderView::Still::Still(RecorderView& view)
-    : view_(view), wasFollowing_(view.isFollowing_), exported_(view.exported()) {
+    : view_(view), wasFollowing_(view.isFollowing_), selected_(view.selected()) {
+  if (view.isMarked()) marked_ = view.stretch();
   view.follow(false);
+}
+
+bool RecorderView::Still::isWhole() const {
+  return view_.selected() == selected_ && (!marked_ || view_.stretch() == *marked_);
 }
 
 /// The record that the user selected may have left the store, or its channel may be hidden. The

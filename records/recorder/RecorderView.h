@@ -67,13 +67,14 @@ class RecorderView {
     explicit Still(RecorderView& view);
     ~Still() { view_.follow(wasFollowing_); }
     Still(const Still&) = delete;
-    /// False once some of what is exported or saved has left the store.
-    bool isWhole() const { return view_.exported() == exported_; }
+    /// False once the record that is shown, or some of the marked ones, has left the store.
+    bool isWhole() const;
 
    private:
     RecorderView& view_;
     bool wasFollowing_;
-    Stretch exported_;
+    std::optional<Number> selected_;
+    std::optional<Stretch> marked_;
   };
 
   // What is drawn

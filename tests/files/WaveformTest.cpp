@@ -74,6 +74,7 @@ TEST_F(WaveformTest, FoldersAndDrivesAreWalkedAndOneThatHasGoneIsLeft) {
   windows.user["frmLoad"] = [this] {
     EXPECT_EQ(loadWindow.lblPath.caption(), pathText(folder.path()));
     loadWindow.cmdOK.press();  // Nothing is chosen.
+    EXPECT_TRUE(loadWindow.lblWhyNot.visible());
     loadWindow.dirCSV.open(0);
     EXPECT_FALSE(loadWindow.lblWhyNot.visible());
     EXPECT_EQ(loadWindow.lblPath.caption(), pathText(folder.path().parent_path()));

@@ -43,11 +43,11 @@ TEST_F(MeasurementLogTest, IsContinuedBehindItsLastWholeRowOrBegunAnew) {
   {
     MeasurementLog log(path, columns, now);
     append(log, 0.25);
-    append(log, 0.75);
     append(log, 0.25);
+    append(log, 0.75);
     EXPECT_GE(disk.flushes, 2);
   }
-  const Lines whole = {heading, "1,0.25,,", "1,0.75,,vpp > 500 mV", "1,0.25,,"};
+  const Lines whole = {heading, "1,0.25,,", "1,0.25,,", "1,0.75,,vpp > 500 mV"};
   EXPECT_EQ(rows(path), whole);
   // The first is a row without its line end.
   const Lines ends = {"", "1970-01-01T0", "1970,1,0.75,,vpp > 500", std::string(100000, '\0')};
