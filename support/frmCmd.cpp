@@ -18,6 +18,11 @@ bool isInRange(const std::string& command) {
          parameter.find('.') == std::string::npos;
 }
 
+/// Whether the line is that command, with or without a parameter.
+bool isCommand(const std::string& line, const std::string& command) {
+  return line == command || line.starts_with(command + " ");
+}
+
 }  // namespace
 
 frmCmd::frmCmd(frmDSO& main, ErrorLog& errorLog, Acquisition& acquisition, CommandLine& commandLine)
@@ -28,6 +33,7 @@ frmCmd::frmCmd(frmDSO& main, ErrorLog& errorLog, Acquisition& acquisition, Comma
       commandLine_(commandLine) {
   formLoad = [this] { Form_Load(); };
   tvCmd.nodeClick = [this](int node) { tvCmd_NodeClick(node); };
+  txtCmd.edited = [this] { explain(); };
   txtCmd.keyDown = [this](int code) { txtCmd_KeyDown(code); };
   cmdRun.click = [this] { cmdRun_Click(); };
   cmdOK.click = [this] { hide(); };
@@ -67,10 +73,18 @@ void frmCmd::readCommands() {
 }
 
 void frmCmd::tvCmd_NodeClick(int node) {
-  const auto entry = static_cast<std::size_t>(node - 1);
-  txtCmd.text = tvCmd.nodes().at(entry).text;
-  lblDescription.caption = CmdDesc.at(entry);
-  lblCmdHint.caption = CmdHint.at(entry);
+  chosenEntry_ = static_cast<std::size_t>(node - 1);
+  txtCmd.text = tvCmd.nodes().at(chosenEntry_).text;
+  chosenCommand_ = txtCmd.text();
+  if (chosenCommand_->ends_with(' ')) chosenCommand_->pop_back();
+  explain();
+}
+
+/// What the chosen entry says stands below its own command, and below no other.
+void frmCmd::explain() {
+  const bool isChosen = chosenCommand_ && isCommand(txtCmd.text(), *chosenCommand_);
+  lblDescription.caption = isChosen ? CmdDesc.at(chosenEntry_) : "";
+  lblCmdHint.caption = isChosen ? CmdHint.at(chosenEntry_) : "";
 }
 
 void frmCmd::txtCmd_KeyDown(int code) {
@@ -86,6 +100,7 @@ void frmCmd::RunConsoleCommand() {
   if (!commandLine_.isOneCommand(command)) return;
   if (!isInRange(command)) {
     txtCmd.text = command.substr(0, command.find(' '));
+    explain();
     services().dialogs.showMessage("Out of range");
     return;
   }

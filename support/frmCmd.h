@@ -2,6 +2,8 @@
 #pragma once
 
 #include <array>
+#include <optional>
+#include <string>
 
 #include "Acquisition.h"
 #include "CommandLine.h"
@@ -32,6 +34,7 @@ class frmCmd : public Window {
   void Form_Load();
   void readCommands();
   void tvCmd_NodeClick(int node);
+  void explain();
   void txtCmd_KeyDown(int code);
   void cmdRun_Click();
   void RunConsoleCommand();
@@ -43,6 +46,9 @@ class frmCmd : public Window {
   /// By entry; node n of the tree shows entry n - 1.
   std::array<std::string, mostEntries> CmdDesc;
   std::array<std::string, mostEntries> CmdHint;
+  std::size_t chosenEntry_ = 0;
+  /// The chosen node's command; none at first.
+  std::optional<std::string> chosenCommand_;
 };
 
 }  // namespace tracewell

@@ -128,6 +128,7 @@ void TextBox::type(const std::string& typed) {
   userDoes([this, &typed] {
     tellChosen();
     text = typed;
+    edited.raise();
   });
 }
 

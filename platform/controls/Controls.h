@@ -146,6 +146,8 @@ class TextBox : public Control {
   static constexpr int enterKey = 13;
   using Control::Control;
   Property<std::string> text{*this};
+  /// The user has changed the text.
+  Event<> edited;
   Event<int> keyDown;
   void type(const std::string& typed);
   /// `code` is 13 for Enter; no other key is reported.
