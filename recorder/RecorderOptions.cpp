@@ -7,6 +7,7 @@
 #include <cmath>
 #include <ctime>
 #include <iomanip>
+#include <optional>
 #include <sstream>
 
 #include "Error.h"
@@ -18,6 +19,8 @@ namespace {
 /// What is wrong with a value; the option's name is put in front.
 struct BadValue {
   const char* wanted;
+  /// The word of a list; none for the whole value.
+  std::optional<std::string> word = {};
 };
 
 int whole(const std::string& text, int lowest, int highest, const char* wanted) {
@@ -128,8 +131,9 @@ constexpr std::array<RecorderOption, 17> table = {{
      }},
     {"--measure", "LIST", "what the rows tell (max,min,vpp,mean,rms,freq)",
      [](Reading& reading, const std::string& text) {
-       const auto quantities = quantitiesOf(text);
-       if (!quantities) throw BadValue{"names as vpp,freq"};
+       std::string wrong;
+       const auto quantities = quantitiesOf(text, wrong);
+       if (!quantities) throw BadValue{"names as vpp,freq", wrong};
        reading.options.columns.quantities = *quantities;
      }},
     {"--csv", "FILE", "rows of measurements; - is the standard output",
@@ -199,7 +203,8 @@ RecorderOptions recorderOptions(const std::vector<std::string>& arguments, std::
     try {
       option.take(reading, value);
     } catch (const BadValue& bad) {
-      throw RecorderUsageError(name + " wants " + bad.wanted + ", not \"" + value + "\"");
+      throw RecorderUsageError(name + " wants " + bad.wanted + ", not \"" +
+                               bad.word.value_or(value) + "\"");
     }
   }
   check(reading);

@@ -41,12 +41,16 @@ std::optional<MeasurementLimit> limitOf(std::string_view text) {
   return MeasurementLimit{*quantity, text[sign] == '>', *value, std::move(shown)};
 }
 
-std::optional<std::vector<Quantity>> quantitiesOf(std::string_view text) {
+std::optional<std::vector<Quantity>> quantitiesOf(std::string_view text, std::string& wrong) {
   std::vector<Quantity> quantities;
   while (true) {
     const std::size_t comma = text.find(',');
-    const auto quantity = quantityNamed(trimBlanks(text.substr(0, comma)));
-    if (!quantity) return std::nullopt;
+    const std::string_view name = trimBlanks(text.substr(0, comma));
+    const auto quantity = quantityNamed(name);
+    if (!quantity) {
+      wrong = name;
+      return std::nullopt;
+    }
     quantities.push_back(*quantity);
     if (comma == std::string_view::npos) return quantities;
     text.remove_prefix(comma + 1);

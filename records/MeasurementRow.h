@@ -28,8 +28,8 @@ struct MeasurementLimit {
 /// any other text.
 std::optional<MeasurementLimit> limitOf(std::string_view text);
 
-/// "vpp,freq" by short names; none where one is no name or none is there.
-std::optional<std::vector<Quantity>> quantitiesOf(std::string_view text);
+/// "vpp,freq" by short names; none where one is no name, which is then `wrong`.
+std::optional<std::vector<Quantity>> quantitiesOf(std::string_view text, std::string& wrong);
 
 /// The columns of rows of measurements, as a CSV has them:
 ///

@@ -110,8 +110,9 @@ TEST(MeasurementRow, TimesHaveAZoneAndLimitsAreReadStrictly) {
   for (const char* const text : {"", "vpp", "vpp >", "vpp > x", "volts > 1", "vpp > 1 s",
                                  "vpp >> 1", "vpp > 1e999", "vpp > -1e400000 V"})
     EXPECT_FALSE(limitOf(text)) << text;
-  EXPECT_EQ(quantitiesOf("vpp, freq").value().size(), 2U);
-  EXPECT_FALSE(quantitiesOf("vpp,") || quantitiesOf(""));
+  std::string wrong;
+  EXPECT_EQ(quantitiesOf("vpp, freq", wrong).value().size(), 2U);
+  EXPECT_FALSE(quantitiesOf("vpp,", wrong) || quantitiesOf("", wrong));
 }
 
 }  // namespace tracewell
