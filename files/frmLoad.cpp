@@ -32,10 +32,12 @@ std::string descriptionPath(const std::string& dataPath) {
 
 }  // namespace
 
-frmLoad::frmLoad(frmDSO& main) : Window("frmLoad", "Load Waveform", main.services()), main_(main) {
+frmLoad::frmLoad(frmDSO& main)
+    : Window("frmLoad", "Load Waveform", main.services()),
+      main_(main),
+      folder_(main.services().programFolder) {
   cb1.value.setQuietly(1);
   cb2.value.setQuietly(1);
-  formLoad = [this] { Form_Load(); };
   formActivate = [this] { Form_Activate(); };
   driveCSV.click = [this] { driveCSV_Change(); };
   dirCSV.opened = [this] { dirCSV_Change(); };
@@ -43,10 +45,6 @@ frmLoad::frmLoad(frmDSO& main) : Window("frmLoad", "Load Waveform", main.service
   lblWhyNot.visible = false;
   cmdOK.click = [this] { cmdOK_Click(); };
   cmdCancel.click = [this] { hide(); };
-}
-
-void frmLoad::Form_Load() {
-  folder_ = services().programFolder;
 }
 
 /// Anew at each opening: sets may have been saved meanwhile, also the chosen one, and folders may

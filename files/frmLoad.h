@@ -33,7 +33,6 @@ class frmLoad : public Window {
   Button cmdCancel{*this, "cmdCancel", "Cancel"};
 
  private:
-  void Form_Load();
   void Form_Activate();
   void driveCSV_Change();
   void dirCSV_Change();
