@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "frmSetup.h"
 
+#include <utility>
+
 #include "Files.h"
 #include "Printing.h"
 
@@ -17,20 +19,28 @@ std::size_t find(const std::string& text, const char* what, std::size_t start) {
   return found == std::string::npos ? 0 : found + 1;
 }
 
+struct Report {
+  std::string text;
+  /// Each value found a bracket of its own.
+  bool isWhole = true;
+};
+
 /// `text` with every value behind the next "[" from "(RS)" on. A value for which there is no
-/// bracket left goes to the front.
-std::string filledReport(std::string text, const SetupTable& table) {
+/// bracket left goes to the front, and those behind it into the first brackets.
+Report filledReport(std::string text, const SetupTable& table) {
+  bool isWhole = true;
   std::size_t position = find(text, "(RS)", 1);
   for (int row = 0; row < table.fileRows(); ++row) {
     const int count = table.valueCount(row);
     for (int i = 0; i < count; ++i) {
       const std::string& value = table.text(row, SetupTable::columnOf(i));
       const std::size_t bracket = find(text, "[", position);
+      isWhole = isWhole && bracket > 0;
       text.insert(bracket, value);
       position = find(text, "]", bracket + value.size());
     }
   }
-  return text;
+  return {std::move(text), isWhole};
 }
 
 }  // namespace
@@ -57,13 +67,22 @@ void frmSetup::Form_Load() {
 /// The error alone would not say whether the template is wrong or the setup.
 void frmSetup::Form_Activate() {
   try {
-    txtSetup.text = filledReport(txtSetup.text(), main_.gridMeasure);
+    Report report = filledReport(txtSetup.text(), main_.gridMeasure);
+    txtSetup.text = std::move(report.text);
+    if (!report.isWhole) tellOfBrackets();
   } catch (const Error& error) {
     const std::string where = error.number() == invalidProcedureCall
                                   ? pathText(services().programFolder / templateName)
                                   : "the counts of the setup";
     throw Error(error.number(), error.source(), error.description() + ": " + where);
   }
+}
+
+void frmSetup::tellOfBrackets() {
+  main_.status.tell(StatusLine::failed, [](const Words& words) {
+    return words.say("%1 has too few brackets: values of the report stand in wrong places",
+                     {templateName});
+  });
 }
 
 void frmSetup::cmdSave_Click() {

@@ -22,6 +22,7 @@ class frmSetup : public Window {
  private:
   void Form_Load();
   void Form_Activate();
+  void tellOfBrackets();
   void cmdSave_Click();
 
   frmDSO& main_;

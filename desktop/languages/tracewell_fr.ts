@@ -28,6 +28,10 @@
         <translation>%1 n'a pas de spectre : ses échelles sont inconnues ou son enregistrement est tronqué</translation>
     </message>
     <message>
+        <source>%1 has too few brackets: values of the report stand in wrong places</source>
+        <translation>%1 n’a pas assez de crochets : des valeurs du rapport sont mal placées</translation>
+    </message>
+    <message>
         <source>%1 holds no setup</source>
         <translation>%1 ne contient pas de réglages</translation>
     </message>

@@ -28,6 +28,10 @@
         <translation>У %1 нет спектра: масштабы неизвестны или запись обрезана</translation>
     </message>
     <message>
+        <source>%1 has too few brackets: values of the report stand in wrong places</source>
+        <translation>В %1 не хватает скобок: значения отчёта стоят не на своих местах</translation>
+    </message>
+    <message>
         <source>%1 holds no setup</source>
         <translation>В %1 нет настроек</translation>
     </message>

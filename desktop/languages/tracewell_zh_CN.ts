@@ -28,6 +28,10 @@
         <translation>%1 没有频谱：刻度未知或记录不完整</translation>
     </message>
     <message>
+        <source>%1 has too few brackets: values of the report stand in wrong places</source>
+        <translation>%1 的方括号太少：报告中有数值位置不对</translation>
+    </message>
+    <message>
         <source>%1 holds no setup</source>
         <translation>%1 中没有设置</translation>
     </message>

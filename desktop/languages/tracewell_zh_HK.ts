@@ -28,6 +28,10 @@
         <translation>%1 沒有頻譜：刻度未知或記錄不完整</translation>
     </message>
     <message>
+        <source>%1 has too few brackets: values of the report stand in wrong places</source>
+        <translation>%1 嘅方括號太少：報告有啲數值放錯位</translation>
+    </message>
+    <message>
         <source>%1 holds no setup</source>
         <translation>%1 入面冇設定</translation>
     </message>
