@@ -92,9 +92,10 @@ void Conversation::abandon() {
   held_.clear();
 }
 
-/// Outstanding bytes may still arrive after the line is opened again.
+/// Outstanding bytes may still arrive after the line is opened again, or meanwhile, unheard.
 void Conversation::close() {
   channel_.reset();
+  replies_.mayHaveHeardMissing(clock_.milliseconds());
   whole_.reset();
   held_.clear();
   if (state_ == State::recordAwaited) {
@@ -116,10 +117,15 @@ void Conversation::forget() {
 }
 
 LineReport Conversation::report() const {
-  const std::int64_t now = clock_.milliseconds();
-  LineReport report = account_.report(now);
-  report.sureAt = replies_.sureAt(now);
+  LineReport report = account_.report(clock_.milliseconds());
+  report.sureAt = replies_.sureAt(judgedAt());
   return report;
+}
+
+/// Among the bytes of a pending record may be a missing reply: until it is whole, time stands
+/// still.
+std::int64_t Conversation::judgedAt() const {
+  return isRecordPending() ? askedAt_ : clock_.milliseconds();
 }
 
 template <class Transfer>
@@ -305,7 +311,7 @@ void Conversation::makeReadyToAsk(int timeOut) {
   if (standBy_.isGivenUp()) throw timeOutError();
   drainTime_ = std::max(timeOut + drainMargin, longestThought);
   review();
-  if (state_ == State::recordAwaited || state_ == State::recordHeard) finishRecord();
+  if (isRecordPending()) finishRecord();
   // The instrument has replied, or a pause was as long as a drain: it gets another chance.
   if (state_ == State::idle) unansweredInRow_ = 0;
   if (!isSilent()) drain(timeOut);
@@ -316,10 +322,7 @@ void Conversation::finishRecord() {
   const double left = openSettings_.timeOf(record_.count - record_.bytes.size());
   const auto longest = static_cast<std::int64_t>(std::ceil(2 * left)) + restMargin;
   const std::int64_t deadline = clock_.milliseconds() + longest;
-  const auto isOnItsWay = [this] {
-    return state_ == State::recordAwaited || state_ == State::recordHeard;
-  };
-  while (isOnItsWay() && clock_.milliseconds() < deadline)
+  while (isRecordPending() && clock_.milliseconds() < deadline)
     hear(listen(std::min(deadline, trustedAt())));
 }
 

@@ -77,7 +77,7 @@ class Conversation {
   int openings() const { return openings_; }
   LineReport report() const;
   int lastReply() const { return replies_.last(); }
-  Sureness sureness(int reply) const { return replies_.sureness(reply, clock_.milliseconds()); }
+  Sureness sureness(int reply) const { return replies_.sureness(reply, judgedAt()); }
 
   /// Sends a line. With `isAnswered` its reply is outstanding, and will be discarded. Raises
   /// deviceError.
@@ -113,6 +113,10 @@ class Conversation {
     draining
   };
 
+  bool isRecordPending() const {
+    return state_ == State::recordAwaited || state_ == State::recordHeard;
+  }
+  std::int64_t judgedAt() const;
   void close();
   void forget();
   template <class Transfer>

@@ -31,10 +31,11 @@ std::string FileDialog::usualExtension() const {
 
 std::filesystem::path FileDialog::completed(const std::filesystem::path& picked) const {
   const std::string typed = pathText(picked.extension());
-  const bool isComplete =
-      extensions.empty() || std::ranges::any_of(extensions, [&](const std::string& extension) {
-        return isSameExtension(typed, "." + extension);
-      });
+  const bool isNumber = typed.find_first_not_of(".0123456789") == std::string::npos;
+  const auto isTyped = [&](const std::string& extension) {
+    return isSameExtension(typed, "." + extension);
+  };
+  const bool isComplete = extensions.empty() ? !isNumber : std::ranges::any_of(extensions, isTyped);
   return isComplete ? picked : pathOf(pathText(picked) + "." + usualExtension());
 }
 

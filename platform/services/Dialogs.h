@@ -19,13 +19,13 @@ struct FileDialog {
   std::string filter;
   /// A file to save that is there already will be continued: nothing is asked.
   bool isContinued = false;
-  /// Those of which a name to save has one; none if any name will do.
+  /// Those of which a name to save has one; none if any will do that is no number.
   std::vector<std::string> extensions = {};
 
   /// That of the filter, "dso" of "*.dso".
   std::string usualExtension() const;
   /// A path that the user has picked for saving: with the usual extension behind a name that has
-  /// none of `extensions`, as "test.1" has none.
+  /// none, as "test.1".
   std::filesystem::path completed(const std::filesystem::path& picked) const;
 };
 

@@ -167,6 +167,9 @@ class DesktopDialogsTest : public testing::Test {
 
 TEST_F(DesktopDialogsTest, FilesArePickedWithTheSuffixOfTheFilter) {
   const FileDialog offer{folder.path(), "Setup", "offered", "*.dso|*.dso", false, {"txt", "dso"}};
+  const FileDialog anyName{folder.path(), "Export", "", "*.csv|*.csv"};
+  EXPECT_EQ(anyName.completed("exp1.5"), "exp1.5.csv");
+  EXPECT_EQ(anyName.completed("exp1.txt"), "exp1.txt");
   // What the user types (nothing: Cancel), the file to save, the file to open.
   const std::tuple<QString, fs::path, fs::path> cases[] = {
       {"", "offered", "offered"},

@@ -30,7 +30,8 @@ std::optional<std::int64_t> secondsToProve(const frmDSO& main) {
       std::array{scale1, scale2, timeBase},
       [&](Setting scale) { return main.known.doubt(scale) == Doubt::unsureAnswer; });
   if (!sureAt || !isUnsure) return std::nullopt;
-  return (*sureAt - main.services().clock.milliseconds() + 999) / 1000;
+  // While a record is on its way it may take longer.
+  return std::max<std::int64_t>((*sureAt - main.services().clock.milliseconds() + 999) / 1000, 1);
 }
 
 bool isScaleMissing(const frmDSO& main, const Channel& channel) {
