@@ -126,6 +126,8 @@ bool MeasurementLog::continues(const fs::path& candidate) {
   if (!failed) failed = file.flush();
   if (failed) {
     if (whole == 0) file.cutTo(0);
+    // Windows removes no file that is open.
+    { const AppendedFile closed(std::move(file)); }
     if (isNew) fs::remove(candidate, unknown);
     throw cannotWrite(candidate, failed, isOutOfRoom(failed) ? diskFull : pathAccess);
   }
