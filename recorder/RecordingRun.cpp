@@ -82,7 +82,8 @@ void RecordingRun::request(std::int64_t now) {
   try {
     const int openings = port_.openings();
     port_.prepare();
-    if (port_.openings() != openings || isScaleWrong()) readScales();
+    if (isScaleWrong() && hasComeSinceReading_) isToBeReadAgain_ = true;
+    if (port_.openings() != openings || isToBeReadAgain_) readScales();
     const KnownInstrument::Moment stamp = known_.now();
     known_.requested();
     isLocked_ = true;
@@ -118,6 +119,7 @@ void RecordingRun::readScales() {
   constexpr std::array<Scale, 3> scales = {{{":CHAN1:SCAL?", Setting::scale1},
                                             {":CHAN2:SCAL?", Setting::scale2},
                                             {":TIM:SCAL?", Setting::timeBase}}};
+  hasComeSinceReading_ = false;
   known_.reading();
   for (const auto& [query, setting] : scales) {
     try {
@@ -129,6 +131,7 @@ void RecordingRun::readScales() {
     if (doubt != Doubt::none && doubt != Doubt::unsureAnswer)
       told_.message(std::string(query) + " has no answer: what depends on it has no value");
   }
+  isToBeReadAgain_ = false;
 }
 
 /// Once again where the reply is blank or does not come.
@@ -152,6 +155,7 @@ void RecordingRun::arrived(const LineRecord& fetched) {
   if (isOver_) return;
   const std::int64_t now = clock_.milliseconds();
   waitingSince_.reset();
+  hasComeSinceReading_ = true;
   if (options_.interval == 0) nextRequestAt_ = now;
   const int channel = fetched.channel;
   ChannelRecord& record = records_[static_cast<std::size_t>(channel - 1)];

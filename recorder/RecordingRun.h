@@ -90,6 +90,10 @@ class RecordingRun {
   /// Why the line cannot be used, as long as that is so.
   std::string failure_;
   std::string trouble_;
+  /// A line on which no record comes is not asked for its scales over and over.
+  bool hasComeSinceReading_ = false;
+  /// The last reading was begun since a scale was wrong, and is not over.
+  bool isToBeReadAgain_ = false;
   bool isLimitPassed_ = false;
   bool isLocked_ = false;
   bool isOver_ = false;

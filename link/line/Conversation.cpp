@@ -95,7 +95,7 @@ void Conversation::abandon() {
 /// Outstanding bytes may still arrive after the line is opened again, or meanwhile, unheard.
 void Conversation::close() {
   channel_.reset();
-  replies_.mayHaveHeardMissing(clock_.milliseconds());
+  replies_.mayHaveHeardMissing(judgedAt());
   whole_.reset();
   held_.clear();
   if (state_ == State::recordAwaited) {
@@ -122,10 +122,12 @@ LineReport Conversation::report() const {
   return report;
 }
 
-/// Among the bytes of a pending record may be a missing reply: until it is whole, time stands
-/// still.
+/// Among the bytes of a pending record may be a missing reply: until it is whole or given up, time
+/// stands still.
 std::int64_t Conversation::judgedAt() const {
-  return isRecordPending() ? askedAt_ : clock_.milliseconds();
+  const std::int64_t now = clock_.milliseconds();
+  const bool isUndecided = isRecordPending() && (now < trustedAt() || !record_.bytes.empty());
+  return isUndecided ? askedAt_ : now;
 }
 
 template <class Transfer>
@@ -251,7 +253,7 @@ void Conversation::hearOwed(std::string_view bytes) {
 std::size_t Conversation::payWith(std::string_view bytes) {
   const std::size_t paid = std::min(owedBytes_, bytes.size());
   if (paid == 0) return 0;
-  replies_.mayHaveHeardMissing(clock_.milliseconds());
+  replies_.mayHaveHeardMissing(askedAt_);
   const auto records = [this] { return (owedBytes_ + record_.count - 1) / record_.count; };
   const std::size_t before = records();
   owedBytes_ -= paid;
@@ -282,7 +284,7 @@ void Conversation::review() {
   if (!isUnderWay || now < trustedAt()) return;
   if (state_ == State::recordAwaited) {
     account_.gaveUpRecord(record_.bytes.size(), record_.count, now);
-    if (!record_.bytes.empty()) replies_.mayHaveHeardMissing(heardAt_);
+    if (!record_.bytes.empty()) replies_.mayHaveHeardMissing(askedAt_);
     // A few bytes may have been the late reply to something else.
     if (2 * record_.bytes.size() < record_.count) owe();
   }

@@ -12,8 +12,9 @@ namespace tracewell {
 /// Numbers the replies that the line returns, and says of each how sure it is.
 ///
 /// - While a reply is missing the next query may get it, and so on, until one is left over. So the
-///   replies behind it are not sure yet. They become sure once every line that was asked for has
-///   arrived, once a record has, or when no reply was missed or returned for longestLate.
+///   replies behind it are not sure yet. They become sure once a record has arrived, or when
+///   no reply was missed or returned for longestLate. If every line that was asked for arrives
+///   before the next query, nothing is missing any more.
 /// - Unasked bytes prove that one was left over, or that the instrument replies twice. Then the
 ///   replies before are never sure: those that were not yet, and the last series, in which each
 ///   query followed the reply before within longestThought.
