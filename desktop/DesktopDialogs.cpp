@@ -72,6 +72,17 @@ bool isReplaced(const std::filesystem::path& path, const std::string& title) {
                  QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
 }
 
+/// Beside a file that is there already they are its own.
+bool areReplacedBeside(const std::filesystem::path& path, const FileDialog& dialog) {
+  if (!isFree(path)) return true;
+  for (const std::string& extension : dialog.besides) {
+    std::filesystem::path beside = path;
+    beside.replace_extension(extension);
+    if (!isFree(beside)) return isReplaced(beside, dialog.title);
+  }
+  return true;
+}
+
 /// All file dialogs are made here.
 std::filesystem::path ask(const FileDialog& dialog, QFileDialog::AcceptMode mode) {
   NamedKinds kinds;
@@ -88,7 +99,8 @@ std::filesystem::path ask(const FileDialog& dialog, QFileDialog::AcceptMode mode
     const std::filesystem::path picked = toPath(box.selectedFiles().value(0));
     const std::filesystem::path path = dialog.completed(picked);
     // The toolkit has asked for what was picked only.
-    if (path == picked || isFree(path) || isReplaced(path, dialog.title)) return path;
+    const bool isTaken = path == picked || isFree(path) || isReplaced(path, dialog.title);
+    if (isTaken && areReplacedBeside(path, dialog)) return path;
   }
   return dialog.fileName;
 }

@@ -94,7 +94,8 @@ void frmSave::cmdOK_Click() {
   FileDialog dialogSave{services().programFolder, caption(), timeStamp(services().clock),
                         pattern + "|" + pattern};
   // So that the last four characters of a name are its extension. Those of the data are refused.
-  dialogSave.extensions = {"csv", "inf"};
+  dialogSave.besides = {"csv", "inf"};
+  dialogSave.extensions = dialogSave.besides;
   for (const OptionButton& format : opFiletype) dialogSave.extensions.push_back(format.caption());
   saveSet(services().dialogs.saveFile(dialogSave));
   hide();

@@ -365,6 +365,7 @@ void RecorderWindow::saveSet() {
                     .fileName = nameOfSet(recorder_.store(), view_.saved()),
                     .filter = fromQt(panelText("Pictures")) + pictureNames};
   dialog.extensions = {"png", "jpg", "bmp", "gif", "pcx", "tif", "csv", "inf"};
+  dialog.besides = {"csv", "inf"};
   pickFile(dialog, [this](const std::filesystem::path& path) { saveSetInto(path); });
 }
 

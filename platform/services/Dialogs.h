@@ -21,6 +21,9 @@ struct FileDialog {
   bool isContinued = false;
   /// Those of which a name to save has one; none if any will do that is no number.
   std::vector<std::string> extensions = {};
+  /// Those of the files that will be written beside a new one. The dialog asks before one of them
+  /// is replaced.
+  std::vector<std::string> besides = {};
 
   /// That of the filter, "dso" of "*.dso".
   std::string usualExtension() const;

@@ -166,7 +166,8 @@ class DesktopDialogsTest : public testing::Test {
 };
 
 TEST_F(DesktopDialogsTest, FilesArePickedWithTheSuffixOfTheFilter) {
-  const FileDialog offer{folder.path(), "Setup", "offered", "*.dso|*.dso", false, {"txt", "dso"}};
+  const FileDialog offer{folder.path(), "Setup",        "offered", "*.dso|*.dso",
+                         false,         {"txt", "dso"}, {"bak"}};
   const FileDialog anyName{folder.path(), "Export", "", "*.csv|*.csv"};
   EXPECT_EQ(anyName.completed("exp1.5"), "exp1.5.csv");
   EXPECT_EQ(anyName.completed("exp1.txt"), "exp1.txt");
@@ -177,6 +178,7 @@ TEST_F(DesktopDialogsTest, FilesArePickedWithTheSuffixOfTheFilter) {
       {"1.5", folder.path() / "1.5.dso", {}},
       {"default", folder.path() / "default.dso", folder.path() / "default.dso"}};
   writeWholeFile(folder.path() / "1.5.dso", "%PDF-1.4");
+  writeWholeFile(folder.path() / "new.bak", "a log");
   for (const auto& [typed, saved, opened] : cases) {
     const auto answer = [this, name = typed](QFileDialog& dialog) {
       EXPECT_EQ(dialog.nameFilters(), QStringList("*.dso (*.dso)"));
@@ -186,8 +188,13 @@ TEST_F(DesktopDialogsTest, FilesArePickedWithTheSuffixOfTheFilter) {
       auto* line = dialog.findChild<QLineEdit*>("fileNameEdit");
       EXPECT_EQ(line->text(), "offered");
       line->setText(name);
-      // What is replaced is what will be written.
-      if (name == "1.5") use<QMessageBox>([](auto& asked) { asked.done(QMessageBox::Yes); });
+      // What is replaced is what will be written, and beside it.
+      const QString replaced = name == "1.5" ? "1.5.dso" : "new.bak";
+      const auto agree = [replaced](QMessageBox& asked) {
+        EXPECT_TRUE(asked.text().contains(replaced)) << asked.text().toStdString();
+        asked.done(QMessageBox::Yes);
+      };
+      if (name == "1.5" || name == "new.TXT") use<QMessageBox>(agree);
       QDialog& box = dialog;
       name.isEmpty() ? box.reject() : box.accept();
     };
