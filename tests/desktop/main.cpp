@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QTranslator>
 
+#include "Places.h"
 #include "ShownText.h"
 #include "Theme.h"
 
@@ -38,6 +39,7 @@ class KnownTexts : public QTranslator {
 }  // namespace tracewell
 
 int main(int argumentCount, char** arguments) {
+  qputenv("FONTCONFIG_FILE", QByteArray(tracewell::scriptFolder) + "/../fonts.conf");
   QApplication application(argumentCount, arguments);
   tracewell::applyTheme(application);
   tracewell::keepLabelsPlain(application);
