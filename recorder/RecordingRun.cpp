@@ -65,7 +65,7 @@ void RecordingRun::tick() {
   if (options_.until && wallTimeNow() >= *options_.until) return end(RecorderEnd::done);
   if (waitingSince_ && now - *waitingSince_ >= options_.patience) {
     told_.message(failure_.empty() ? "No record has come for too long" : failure_);
-    return end(failure_.empty() ? RecorderEnd::noAnswer : RecorderEnd::noLine);
+    return end(isLineFailing_ ? RecorderEnd::noLine : RecorderEnd::noAnswer);
   }
   if (now >= nextRequestAt_) request(now);
 }
@@ -80,10 +80,9 @@ void RecordingRun::request(std::int64_t now) {
   const auto channel = static_cast<std::int16_t>(options_.channels[next_]);
   next_ = (next_ + 1) % options_.channels.size();
   try {
-    const int openings = port_.openings();
     port_.prepare();
-    if (isScaleWrong() && hasComeSinceReading_) isToBeReadAgain_ = true;
-    if (port_.openings() != openings || isToBeReadAgain_) readScales();
+    if (isScaleWrong() && hasComeSinceReading_) readOn_.reset();
+    if (readOn_ != port_.openings()) readScales();
     const KnownInstrument::Moment stamp = known_.now();
     known_.requested();
     isLocked_ = true;
@@ -92,7 +91,9 @@ void RecordingRun::request(std::int64_t now) {
                    .stamp = stamp,
                    .count = WaveformRecord::byteCount});
     failure_.clear();
+    isLineFailing_ = false;
   } catch (const Error& error) {
+    isLineFailing_ = error.number() != portReadTimeOut;
     failed(error.description());
   }
 }
@@ -131,7 +132,7 @@ void RecordingRun::readScales() {
     if (doubt != Doubt::none && doubt != Doubt::unsureAnswer)
       told_.message(std::string(query) + " has no answer: what depends on it has no value");
   }
-  isToBeReadAgain_ = false;
+  readOn_ = port_.openings();
 }
 
 /// Once again where the reply is blank or does not come.

@@ -87,13 +87,14 @@ class RecordingRun {
   std::int64_t nextRequestAt_ = 0;
   /// Since when a record is awaited.
   std::optional<std::int64_t> waitingSince_;
-  /// Why the line cannot be used, as long as that is so.
+  /// Why nothing can be requested, as long as that is so, and whether the line is to blame.
   std::string failure_;
+  bool isLineFailing_ = false;
   std::string trouble_;
   /// A line on which no record comes is not asked for its scales over and over.
   bool hasComeSinceReading_ = false;
-  /// The last reading was begun since a scale was wrong, and is not over.
-  bool isToBeReadAgain_ = false;
+  /// The opening of the line on which the scales were read; none if they are to be read again.
+  std::optional<int> readOn_;
   bool isLimitPassed_ = false;
   bool isLocked_ = false;
   bool isOver_ = false;
