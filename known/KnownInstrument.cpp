@@ -258,13 +258,16 @@ void KnownInstrument::answered(std::string_view query, std::string_view reply, i
       leaveUntold(asked);
       continue;
     }
+    if (isScale(*setting)) readOn_ = presentLine();
+    // Whichever query it answers, what was known stands.
+    if (isKnown(*setting) && asked.number == value->number && asked.caption == value->caption)
+      continue;
     value->reply = replyNumber;
     // The moment of the change is unknown: an earlier query may have asked either instrument.
     const bool wasTold = asked.line == presentLine() && (asked.number || !asked.caption.empty());
     const bool isOther =
         wasTold && (asked.number != value->number || asked.caption != value->caption);
     take(*setting, *value);
-    if (isScale(*setting)) readOn_ = presentLine();
     if (!isOther) continue;
     asked.changedAt = ++now_;
     followed(*setting);

@@ -25,6 +25,10 @@ bool isBlank(std::string_view bytes) {
   return std::ranges::all_of(bytes, [](char byte) { return isBlank(byte); });
 }
 
+bool isBlankOrLineEnd(char byte) {
+  return isBlank(byte) || byte == '\n';
+}
+
 }  // namespace
 
 Conversation::Conversation(ChannelOpener& opener, Clock& clock, const EventDispatcher& dispatcher,
@@ -51,7 +55,6 @@ void Conversation::command(std::string_view line, bool isAnswered) {
   ++unanswered_;
   replies_.asked();
   replies_.missed(askedAt_);
-  isQuestionOwed_ = true;
   if (state_ == State::idle) state_ = State::draining;
 }
 
@@ -65,8 +68,8 @@ std::string Conversation::ask(std::string_view query, int timeOut) {
   try {
     std::string reply = awaitReply(askedAt_ + timeOut);
     unanswered_ = 0;
-    // Earlier queries have been answered by now, or never will be.
-    if (!isQuestionOwed_) owedBytes_ = 0;
+    // Unless it may be that to an earlier query, all that was requested before has come.
+    if (!replies_.isDue(askedAt_)) owedBytes_ = 0;
     state_ = State::idle;
     replies_.returned(askedAt_, clock_.milliseconds());
     account_.gaveAnswer();
@@ -110,9 +113,9 @@ void Conversation::forget() {
   state_ = State::idle;
   unanswered_ = 0;
   owedBytes_ = 0;
-  isQuestionOwed_ = false;
   isStray_ = false;
-  replies_.beginAnew(clock_.milliseconds());
+  usuallyBehind_ = 0;
+  replies_.beginAnew();
   account_.beginAnew();
 }
 
@@ -180,19 +183,28 @@ void Conversation::hearRecord(const std::string& bytes) {
   record_.bytes.resize(record_.count);
   if (owedBytes_ > 0) return refuseRecord(behind);
   state_ = State::recordHeard;
-  clock_.callAfter(settlingTime(), [this, alive = std::weak_ptr(alive_)] {
-    if (!alive.expired()) dispatcher_.dispatch([this] { arrived(); });
-  });
+  behind_.clear();
   hearBehindRecord(behind);
 }
 
-/// If more bytes follow, a late reply may have come first and shifted the whole record. The samples
-/// of a flat signal are blanks, too.
 void Conversation::hearBehindRecord(std::string_view bytes) {
-  const auto isEmpty = [](char byte) { return isBlank(byte) || byte == '\n'; };
-  const bool mayBeShifted = !bytes.empty() && replies_.isDue(askedAt_);
-  if (mayBeShifted) replies_.mayHaveHeardMissing(askedAt_);
-  if (mayBeShifted || !std::ranges::all_of(bytes, isEmpty)) hearLines(bytes, askedAt_);
+  heardAt_ = clock_.milliseconds();
+  behind_ += bytes;
+  if (!std::ranges::all_of(bytes, isBlankOrLineEnd)) return refuseShifted();
+  clock_.callAfter(settlingTime(), [this, alive = std::weak_ptr(alive_)] {
+    if (!alive.expired()) dispatcher_.dispatch([this] { arrived(); });
+  });
+}
+
+/// A late reply in front shifts a record, and the samples of a flat signal are blanks, too. Then
+/// more stands behind it than behind the one before.
+bool Conversation::mayBeShifted() const {
+  return behind_.size() > usuallyBehind_ && replies_.isDue(askedAt_);
+}
+
+void Conversation::refuseShifted() {
+  replies_.mayHaveHeardMissing(askedAt_);
+  hearLines(behind_, askedAt_);
 }
 
 /// The record may be an earlier one that was given up. The outstanding count stays the same: either
@@ -288,12 +300,16 @@ void Conversation::review() {
     // A few bytes may have been the late reply to something else.
     if (2 * record_.bytes.size() < record_.count) owe();
   }
-  if (state_ == State::recordHeard && isWanted_) whole_ = std::move(record_);
+  if (state_ == State::recordHeard) {
+    const bool isShifted = mayBeShifted();
+    usuallyBehind_ = behind_.size();
+    if (isShifted) return refuseShifted();
+    if (isWanted_) whole_ = std::move(record_);
+  }
   const bool isOwedOver = isOwedComing_ && now >= std::max(askedAt_, heardAt_) + recordDrain;
   if (state_ == State::draining && isOwedOver) {
     owedBytes_ = 0;
     isOwedComing_ = false;
-    isQuestionOwed_ = false;
   }
   // A query sent while the record arrived is answered after it.
   const bool isMoreOwed = state_ == State::recordHeard && unanswered_ > 0;
@@ -379,7 +395,6 @@ std::string Conversation::onlyLine(std::string received, std::size_t length) {
 
 void Conversation::leaveUnanswered() {
   state_ = State::draining;
-  isQuestionOwed_ = true;
   ++unansweredInRow_;
   account_.missedAnswer();
   replies_.missed(clock_.milliseconds());

@@ -28,7 +28,8 @@ namespace tracewell {
 ///
 /// - A record is pending from its request on, until it is whole or longestThought has passed
 ///   without a byte. Further requests wait, one for each channel. A record counts if only blanks
-///   and line ends follow it within the settling time, and nothing while a reply is missing.
+///   and line ends follow it within the settling time; while a reply is missing, no more than
+///   behind the record before.
 /// - A record that is given up with less than half of its bytes stays outstanding. Others are still
 ///   requested, but the next one that arrives is discarded: it may be the outstanding one. Then the
 ///   line is drained for recordDrain, and the discarded record is requested again first. A reply
@@ -128,6 +129,8 @@ class Conversation {
   void hear(const std::string& bytes);
   void hearRecord(const std::string& bytes);
   void hearBehindRecord(std::string_view bytes);
+  bool mayBeShifted() const;
+  void refuseShifted();
   void restUntilMoreHasCome();
   void refuseRecord(std::string_view behind);
   void hearOwed(std::string_view bytes);
@@ -161,14 +164,15 @@ class Conversation {
   /// The pending record (recordAwaited), and whether it is still wanted.
   LineRecord record_;
   bool isWanted_ = false;
+  /// What has arrived behind it, and how many blanks and line ends did behind the one before.
+  std::string behind_;
+  std::size_t usuallyBehind_ = 0;
   /// A record that is whole and not delivered yet.
   std::optional<LineRecord> whole_;
   /// Bytes of records that were given up and may still arrive, and whether any has arrived since
   /// the last of them was given up.
   std::size_t owedBytes_ = 0;
   bool isOwedComing_ = false;
-  /// A query went unanswered: the next reply may be its own, and proves nothing.
-  bool isQuestionOwed_ = false;
   /// Requests that wait for the line, the oldest first.
   std::deque<LineRecord> held_;
 

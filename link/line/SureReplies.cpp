@@ -20,8 +20,7 @@ std::int64_t SureReplies::dueUntil() const {
   return std::max(missing_->lastAt, lastAt_.value_or(0)) + longestLate;
 }
 
-void SureReplies::beginAnew(std::int64_t now) {
-  mayHaveHeardMissing(now);
+void SureReplies::beginAnew() {
   missing_.reset();
   lastAt_.reset();
 }
@@ -50,6 +49,11 @@ void SureReplies::returned(std::int64_t askedAt, std::int64_t now) {
 /// Once all have come, none can be taken for another.
 void SureReplies::heardOutstanding() {
   if (missing_ && --missing_->outstanding == 0) missing_.reset();
+}
+
+void SureReplies::heardRecord() {
+  missing_.reset();
+  lastAt_.reset();
 }
 
 /// Each reply behind it is then that to the query before.

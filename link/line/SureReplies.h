@@ -13,9 +13,9 @@ namespace tracewell {
 ///
 /// - While a reply is missing the next query may get it, and so on, until one is left over. So the
 ///   replies behind it are not sure yet. They become sure once a record has arrived, or when
-///   no reply was missed or returned for longestLate. If every line that was asked for arrives
-///   before the next query, nothing is missing any more.
-/// - Unasked bytes prove that one was left over, or that the instrument replies twice. Then the
+///   no reply was missed or returned for longestLate. If every outstanding line arrives
+///   before the line is drained, nothing is missing any more.
+/// - Unasked bytes may be one that was left over, or the instrument replies twice. Then the
 ///   replies before are never sure: those that were not yet, and the last series, in which each
 ///   query followed the reply before within longestThought.
 ///
@@ -37,8 +37,8 @@ class SureReplies {
   bool isDue(std::int64_t now) const { return missing_ && now < dueUntil(); }
 
   /// Another instrument is on the line.
-  void beginAnew(std::int64_t now);
-  /// A query was sent. Returned, or missed, or neither if nobody waits for its reply, follows.
+  void beginAnew();
+  /// A query was sent. Returned or missed follows.
   void asked();
   /// Nobody waits for its reply any more.
   void missed(std::int64_t now);
@@ -46,8 +46,9 @@ class SureReplies {
   void returned(std::int64_t askedAt, std::int64_t now);
   /// A line arrived while a reply was outstanding, and is not returned.
   void heardOutstanding();
-  /// A record has arrived behind whose request nothing was asked: what is missing never comes.
-  void heardRecord() { missing_.reset(); }
+  /// A record has arrived behind whose request nothing was asked. What is missing never comes, and
+  /// nothing before it was left over.
+  void heardRecord();
   /// A missing reply may have come, among other bytes.
   void mayHaveHeardMissing(std::int64_t at);
   void heardUnasked(std::int64_t at);

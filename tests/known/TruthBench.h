@@ -11,6 +11,8 @@ namespace tracewell {
 struct Plugged {
   FarEnd end;
   std::shared_ptr<TrueInstrument> instrument;
+  /// What it sends behind each record.
+  std::string recordEnd;
 };
 
 /// Ports with instruments. Unplugging is told to whoever has opened the line.
@@ -89,16 +91,21 @@ class TruthBench : public BenchOf<OnALine<Ports>> {
     auto plugged = std::make_shared<Plugged>();
     plugged->instrument = instrument ? instrument : std::make_shared<TrueInstrument>(history_);
     if (!plugged->instrument->isStopped) plugged->instrument->sweep();
-    plugged->end.answer = [this, &end = plugged->end, its = plugged->instrument.get()](
-                              const std::string& line) { return answer(end, *its, line); };
+    if (oneIn(3)) plugged->recordEnd = "\n";
+    plugged->end.answer = [this, its = plugged.get()](const std::string& line) {
+      return answer(*its, line);
+    };
     opener.plugged[number] = plugged;
     last_[number] = plugged->instrument;
   }
 
-  std::string answer(FarEnd& end, TrueInstrument& instrument, const std::string& line) {
+  std::string answer(Plugged& plugged, const std::string& line) {
+    auto& [end, its, recordEnd] = plugged;
+    TrueInstrument& instrument = *its;
     instrument.now = clock.milliseconds();
     const auto now = static_cast<double>(instrument.now);
     std::string bytes = instrument.receive(line);
+    if (bytes.size() >= 1000) bytes += recordEnd;
     end.thought = std::max({3.0 + below(15), slow_, static_cast<double>(busyUntil_) - now});
     if (below(100) < late_) end.thought = std::min(end.thought + 100 + below(2700), 9900.0);
     // A question is answered within three seconds or never, or within nine and then always.
