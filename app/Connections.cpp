@@ -17,9 +17,6 @@ void Tracewell::connectLifecycle() {
   main.mnbClose.click = [this] { lifecycle.cmdClose_Click(); };
   main.tmDSO.timer = [this] { acquisition.tmDSO_Timer(); };
   main.tmStatus.timer = [this] { lookAtLine(); };
-  exchange.lineLost = [this] {
-    for (SettingsDialog* dialog : settingsDialogs) dialog->doubtAnswers();
-  };
   main.marksDue = [this] { panelMarks.show(); };
   main.known.changed = [this] { panelMarks.show(); };
   main.services().standBy.meanwhile = [this] { panelMarks.show(); };
@@ -28,7 +25,6 @@ void Tracewell::connectLifecycle() {
 }
 
 void Tracewell::lookAtLine() {
-  exchange.lookForLoss();
   showLineNotice(main);
   panelMarks.show();
   for (const SettingsDialog* dialog : settingsDialogs) dialog->showMarks();
@@ -52,6 +48,8 @@ void Tracewell::connectPanel() {
   main.knobChan1.valueChanged = [this] { scaleKnobs.knobChan1_ValueChanged(); };
   main.knobChan2.valueChanged = [this] { scaleKnobs.knobChan2_ValueChanged(); };
   main.knobTime.valueChanged = [this] { scaleKnobs.knobTime_ValueChanged(); };
+  for (Knob* knob : {&main.knobChan1, &main.knobChan2, &main.knobTime})
+    knob->stays = [this, knob] { scaleKnobs.knob_Stays(*knob); };
   main.cbCh1.click = [this] { channels.cbCh1_Click(); };
   main.cbCh2.click = [this] { channels.cbCh2_Click(); };
   main.slideCH1.pointerValueChanged = [this] { channels.slideCH1_PointerValueChanged(); };

@@ -101,7 +101,7 @@ UnreadMark::UnreadMark(QWidget& marked, QWidget& described)
     : QWidget(&marked), described_(described) {
   resize(side, side);
   setToolTip(QStringLiteral("The instrument may have another value"));
-  setAccessibleName(QStringLiteral("not answered"));
+  setAccessibleName(QStringLiteral("not certain"));
   keepEnglish(*this);
   sayInLanguage(*this);
   marked.installEventFilter(this);

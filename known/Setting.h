@@ -36,9 +36,13 @@ enum class Setting : std::size_t {
   /// 1 while the instrument's own panel is locked.
   lock,
   /// 1 running, 0 stopped.
-  running
+  running,
+  /// Numbers of the entries in the acquisition dialog.
+  acquireMode,
+  acquireAverage,
+  acquireLength
 };
-constexpr std::size_t settingCount = 18;
+constexpr std::size_t settingCount = 21;
 
 /// The setting of channel 1 or 2 out of a pair.
 constexpr Setting ofChannel(Setting first, int channel) {

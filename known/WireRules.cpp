@@ -25,7 +25,9 @@ constexpr std::array settingHeaders = {
     HeaderRule{"TIM:SCAL", timeBase},     HeaderRule{"TIM:DEL", delay},
     HeaderRule{"TRIG:MOD", triggerMode},  HeaderRule{"TRIG:SOUR", triggerSource},
     HeaderRule{"TRIG:LEV", triggerLevel}, HeaderRule{"RUN", running},
-    HeaderRule{"STOP", running},          HeaderRule{"SYST:UNL", lock}};
+    HeaderRule{"STOP", running},          HeaderRule{"SYST:UNL", lock},
+    HeaderRule{"ACQ:MOD", acquireMode},   HeaderRule{"ACQ:AVER", acquireAverage},
+    HeaderRule{"ACQ:LEN", acquireLength}};
 
 /// Commands of which only that they change something is of account.
 constexpr std::array touchingHeaders = {

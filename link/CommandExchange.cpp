@@ -68,12 +68,6 @@ void CommandExchange::noteAnswered(const std::string& query, const std::string& 
   main_.known.answered(query, reply, main_.services().port.lastReply());
 }
 
-void CommandExchange::lookForLoss() {
-  const bool isLost = !main_.services().port.report().failure.empty();
-  if (isLost && !std::exchange(isLossSeen_, isLost)) lineLost.raise();
-  isLossSeen_ = isLost;
-}
-
 std::string CommandExchange::ask(const std::string& query) {
   std::optional<Inquiry> alone;
   if (inquiries_.current() == nullptr) alone.emplace(inquiries_, query);

@@ -36,11 +36,6 @@ class CommandExchange {
   /// Whether the last command went out, and was answered if it was a query.
   bool wasSent() const { return wasSent_; }
 
-  /// Tells of a line that has failed since the last call.
-  void lookForLoss();
-  /// There may be another instrument on it when it is open again.
-  Event<> lineLost;
-
   /// Releases the instrument's own panel if a command has locked it. Logs its failure.
   void LoadSetup();
 
@@ -60,7 +55,6 @@ class CommandExchange {
   ErrorLog& errorLog_;
   /// The instrument's own panel is locked because it has been sent a command.
   bool InRemote = false;
-  bool isLossSeen_ = false;
   bool wasSent_ = false;
   /// Some of the last line may have gone out.
   bool hasBegun_ = false;

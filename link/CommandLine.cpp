@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "CommandLine.h"
 
+#include "ShownReplies.h"
 #include "Waiting.h"
 
 namespace tracewell {
@@ -11,13 +12,7 @@ std::string withoutLineEnd(const std::string& text) {
 
 CommandLine::CommandLine(frmDSO& main, CommandExchange& exchange, ErrorLog& errorLog)
     : main_(main), exchange_(exchange), errorLog_(errorLog) {
-  main.txtMsg.trust = [this] { return isReplyUnsure() ? Trust::unread : Trust::holds; };
-}
-
-/// The box also shows records, and what settings were sent.
-bool CommandLine::isReplyUnsure() const {
-  return !reply_.empty() && !main_.services().port.isSure(replyNumber_) &&
-         main_.txtMsg.text() == reply_;
+  main.txtMsg.trust = [&main] { return isReplyUnsure(main) ? Trust::unread : Trust::holds; };
 }
 
 void CommandLine::txtTest_KeyDown(int code) {
@@ -42,9 +37,7 @@ void CommandLine::send() {
   try {
     main_.txtMsg.text = "";
     const ShortTimeOut shortTimeOut(main_.state, exchange_);
-    reply_ = exchange_.sendTyped(command);
-    replyNumber_ = main_.services().port.lastReply();
-    main_.txtMsg.text = reply_;
+    showReply(main_, exchange_.sendTyped(command));
   } catch (const Error& error) {
     errorLog_.ErrLog(error, error.source());
   }

@@ -23,14 +23,10 @@ class CommandLine {
 
  private:
   void send();
-  bool isReplyUnsure() const;
 
   frmDSO& main_;
   CommandExchange& exchange_;
   ErrorLog& errorLog_;
-  /// The last reply as it was shown, and its number.
-  std::string reply_;
-  int replyNumber_ = 0;
 };
 
 }  // namespace tracewell

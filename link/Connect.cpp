@@ -50,7 +50,7 @@ void Connect::showEarly() {
 bool Connect::connectFirst() {
   {
     const WaitingNotice notice(main_);
-    readInstrument();
+    instrument_.InitDSO();
   }
   if (!main_.LinkOK) {
     showConnectFailed(main_);
@@ -71,14 +71,8 @@ void Connect::showAcquisition() {
   }
 }
 
-/// Earlier successes do not count: a port that cannot be opened leaves the link as it was.
-void Connect::readInstrument() {
-  main_.LinkOK = false;
-  instrument_.InitDSO();
-}
-
 void Connect::cmdRS232_Click() {
-  readInstrument();
+  instrument_.InitDSO();
   if (!main_.LinkOK) return showConnectFailed(main_);
   main_.status.withdraw(StatusLine::stoppedByError);
   cmdStart_Click();

@@ -24,7 +24,6 @@ class Connect {
   void startOrStop();
   void waitToShow(bool hasStarted);
   bool connectFirst();
-  void readInstrument();
   void showAcquisition();
 
   frmDSO& main_;

@@ -34,6 +34,8 @@ void InstrumentState::InitDSO() {
 void InstrumentState::readAll() {
   Inquiry inquiry(exchange_.inquiries(), main_.fmInstrument.caption, Inquiry::Of::questions, 5);
   main_.known.reading();
+  // A port that cannot be opened would leave it as it was: the first query alone decides.
+  main_.LinkOK = false;
   auto& [first, second] = main_.channels;
   inquiry.next();
   first.scale.caption = trimmed(exchange_.SendDSOCmd(":CHAN1:SCAL?"));

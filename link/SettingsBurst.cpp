@@ -2,6 +2,7 @@
 #include "SettingsBurst.h"
 
 #include "Inquiry.h"
+#include "ShownReplies.h"
 #include "Waiting.h"
 
 namespace tracewell {
@@ -42,11 +43,6 @@ bool SettingsBurst::isAccepted(const std::string& stem, const std::string& value
   echoLine(main_, command);
   Delay(main_, settlingTime);
   return exchange_.SendDSOCmd(stem + "?") == value;
-}
-
-void echoLine(frmDSO& main, const std::string& line) {
-  main.txtMsg.text = main.txtMsg.text() + line + "\r\n";
-  main.txtMsg.refresh();
 }
 
 }  // namespace tracewell

@@ -54,7 +54,4 @@ class SettingsBurst {
   std::set<int> rows_;
 };
 
-/// Adds a line to the reply box and shows it at once.
-void echoLine(frmDSO& main, const std::string& line);
-
 }  // namespace tracewell

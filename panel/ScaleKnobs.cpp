@@ -15,6 +15,13 @@ void ScaleKnobs::knobTime_ValueChanged() {
   sendScale(ScaleKnob::Time, main_.knobTime, main_.lblTime);
 }
 
+void ScaleKnobs::knob_Stays(const Knob& knob) {
+  if (knob.trust() == Trust::holds) return;
+  main_.status.tell(StatusLine::failed, [](const Words& words) {
+    return words.say("The knob stands there already: turn it away and back to send its scale");
+  });
+}
+
 void ScaleKnobs::sendScale(ScaleKnob kind, Knob& knob, ValueLabel& label) {
   exchange_.SendDSOCmd(ScaleCommandForKnob(kind, knob.value()));
   label.caption = scaleCaptionForKnob(kind, knob.value());

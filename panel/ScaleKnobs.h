@@ -17,6 +17,8 @@ class ScaleKnobs {
   void knobChan1_ValueChanged();
   void knobChan2_ValueChanged();
   void knobTime_ValueChanged();
+  /// Only a change is sent. Says so where the instrument may have another scale.
+  void knob_Stays(const Knob& knob);
 
  private:
   void sendScale(ScaleKnob kind, Knob& knob, ValueLabel& label);

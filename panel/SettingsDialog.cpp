@@ -14,10 +14,6 @@ SettingsDialog::SettingsDialog(std::string name, std::string captionText, frmDSO
       main_(main),
       acquisition_(acquisition) {}
 
-void SettingsDialog::doubtAnswers() {
-  if (isVisible()) unanswered_.doubtAll();
-}
-
 void SettingsDialog::showMarks() const {
   if (isVisible()) unanswered_.showMarks();
 }

@@ -14,8 +14,6 @@ namespace tracewell {
 /// OK what the user has chosen is sent.
 class SettingsDialog : public Window {
  public:
-  /// What it shows while it is open may be the answers of another instrument.
-  void doubtAnswers();
   /// Repaints the marks that have changed.
   void showMarks() const;
 
@@ -30,7 +28,7 @@ class SettingsDialog : public Window {
   void edit(Fetching fetching, const Step& fill, const Step& send);
 
   frmDSO& main_;
-  Unanswered unanswered_{main_.services().port};
+  Unanswered unanswered_{main_.services().port, main_.known};
 
  private:
   Acquisition& acquisition_;

@@ -1,30 +1,35 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Unanswered.h"
 
+#include <utility>
+
 namespace tracewell {
 
 void Unanswered::watch(Control& control) {
   watched_.push_back(&control);
   control.trust = [this, &control] {
-    const auto asked = replies_.find(&control);
-    if (asked == replies_.end()) return Trust::holds;
-    return asked->second && port_.isSure(*asked->second) ? Trust::holds : Trust::unread;
+    const auto noted = holds_.find(&control);
+    return noted == holds_.end() || noted->second() ? Trust::holds : Trust::unread;
   };
   control.chosen = [this, &control] { settle(control); };
 }
 
+/// Behind a line that has failed there may be another instrument.
 void Unanswered::note(Control& control, bool isAnswered) {
-  replies_[&control] = isAnswered ? std::optional(port_.lastReply()) : std::nullopt;
+  note(control, [this, isAnswered, line = known_.presentLine(), reply = port_.lastReply()] {
+    return isAnswered && port_.isSure(reply) && line == known_.presentLine() &&
+           port_.report().failure.empty();
+  });
+}
+
+void Unanswered::note(Control& control, std::function<bool()> holds) {
+  holds_[&control] = std::move(holds);
   control.notifyChanged();
 }
 
 void Unanswered::settle(Control& control) {
-  replies_.erase(&control);
+  holds_.erase(&control);
   control.notifyChanged();
-}
-
-void Unanswered::doubtAll() {
-  for (Control* control : watched_) note(*control, false);
 }
 
 void Unanswered::showMarks() const {

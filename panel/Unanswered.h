@@ -1,39 +1,40 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <functional>
 #include <map>
-#include <optional>
 #include <vector>
 
 #include "Control.h"
+#include "KnownInstrument.h"
 #include "SerialPort.h"
 
 namespace tracewell {
 
-/// The controls of a dialog that show another value because the instrument has not told its own, or
-/// has told one that may be the reply to another query. Each is marked until the user chooses a
-/// value for it, or the instrument has surely told one.
+/// The controls of a dialog whose value may be another than the instrument's: it has not told its
+/// own, has told one that may be the reply to another query, or was not asked. Each is marked until
+/// the user chooses a value for it, or what it shows is surely the instrument's.
 class Unanswered {
  public:
-  explicit Unanswered(const SerialPort& port) : port_(port) {}
+  Unanswered(const SerialPort& port, const KnownInstrument& known) : port_(port), known_(known) {}
   Unanswered(const Unanswered&) = delete;
 
   /// `control` outlives this.
   void watch(Control& control);
   /// The query for its value has just been sent. It had a reply, and that was a value, or not.
   void note(Control& control, bool isAnswered);
-  /// It shows what the user or the setup wants.
+  /// Nothing was asked: `holds` tells, at any time, whether the instrument has what it shows.
+  void note(Control& control, std::function<bool()> holds);
+  /// It shows what the user wants, or has the panel's own value.
   void settle(Control& control);
-  /// The answers may be those of another instrument.
-  void doubtAll();
   /// Repaints what has become sure since, or is no longer.
   void showMarks() const;
 
  private:
   const SerialPort& port_;
+  const KnownInstrument& known_;
   std::vector<Control*> watched_;
-  /// With the number of the reply, if there was one.
-  std::map<const Control*, std::optional<int>> replies_;
+  std::map<const Control*, std::function<bool()>> holds_;
 };
 
 }  // namespace tracewell

@@ -1,11 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "frmAcq.h"
 
-#include "SettingsBurst.h"
+#include <array>
+
 #include "SettingsQueries.h"
+#include "ShownReplies.h"
 #include "Waiting.h"
 
 namespace tracewell {
+namespace {
+
+/// Of each box.
+constexpr std::array settings = {Setting::acquireMode, Setting::acquireAverage,
+                                 Setting::acquireLength};
+
+}  // namespace
 
 frmAcq::frmAcq(frmDSO& main, CommandExchange& exchange, ErrorLog& errorLog,
                Acquisition& acquisition, Captions& captions)
@@ -14,6 +23,7 @@ frmAcq::frmAcq(frmDSO& main, CommandExchange& exchange, ErrorLog& errorLog,
       errorLog_(errorLog),
       captions_(captions) {
   // Set at loading only: a Cancel after an OK sends the row again.
+  for (ComboBox* box : boxes()) unanswered_.watch(*box);
   formLoad = [this] { outcome = Outcome::cancelled; };
   cbMode.click = [this] { cbMode_Click(); };
   cmdOK.click = [this] { cmdOK_Click(); };
@@ -29,10 +39,16 @@ void frmAcq::cmdAcq_Click() {
   }
 }
 
+/// The instrument is not asked.
 void frmAcq::showSettings() {
   int column = SetupTable::firstValue;
-  for (ComboBox* box : boxes())
+  auto setting = settings.begin();
+  for (ComboBox* box : boxes()) {
     box->listIndex = main_.gridMeasure.number(SetupTable::acquire, column++);
+    unanswered_.note(*box, [this, box, its = *setting++] {
+      return main_.known.number(its) == box->listIndex();
+    });
+  }
 }
 
 void frmAcq::sendSettings() {

@@ -7,8 +7,13 @@ namespace tracewell {
 
 frmChDiv::frmChDiv(frmDSO& main) : Window("frmChDiv", "Volt/Div", main.services()), main_(main) {
   formActivate = [this] { Form_Activate(); };
-  for (OptionButton& option : opVDiv)
+  for (OptionButton& option : opVDiv) {
     option.click = [this, &option] { selectedStep_ = static_cast<std::int16_t>(option.index()); };
+    option.trust = [this, &option] {
+      return option.value() && option.index() == channel_->knob.value() ? channel_->knob.trust()
+                                                                        : Trust::holds;
+    };
+  }
   cmdSelect.click = [this] { cmdSelect_Click(); };
   cmdClose.click = [this] { cmdClose_Click(); };
 }
@@ -28,7 +33,7 @@ void frmChDiv::Form_Activate() {
 }
 
 void frmChDiv::cmdSelect_Click() {
-  channel_->knob.value = selectedStep_;
+  channel_->knob.moveTo(selectedStep_);
   main_.refresh();
 }
 

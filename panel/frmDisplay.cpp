@@ -4,6 +4,7 @@
 #include "Inquiry.h"
 #include "Numbers.h"
 #include "SettingsQueries.h"
+#include "ShownReplies.h"
 #include "Waiting.h"
 #include "WaitingNotice.h"
 

@@ -8,8 +8,13 @@ namespace tracewell {
 frmTimeDiv::frmTimeDiv(frmDSO& main)
     : Window("frmTimeDiv", "Time/Div", main.services()), main_(main) {
   formActivate = [this] { Form_Activate(); };
-  for (OptionButton& option : obTimeDiv)
+  for (OptionButton& option : obTimeDiv) {
     option.click = [this, &option] { selectedStep_ = static_cast<std::int16_t>(option.index()); };
+    option.trust = [this, &option] {
+      return option.value() && option.index() == main_.knobTime.value() ? main_.knobTime.trust()
+                                                                        : Trust::holds;
+    };
+  }
   cmdOK.click = [this] { cmdOK_Click(); };
   cmdCancel.click = [this] { hide(); };
 }
@@ -24,7 +29,7 @@ void frmTimeDiv::Form_Activate() {
 }
 
 void frmTimeDiv::cmdOK_Click() {
-  main_.knobTime.value = selectedStep_;
+  main_.knobTime.moveTo(selectedStep_);
   main_.refresh();
 }
 

@@ -4,6 +4,7 @@
 #include "Inquiry.h"
 #include "Numbers.h"
 #include "SettingsQueries.h"
+#include "ShownReplies.h"
 #include "WaitingNotice.h"
 
 namespace tracewell {
@@ -62,7 +63,7 @@ void frmTrig::readSettings() {
     inquiry.next();
     const std::string query(TrigQuery[static_cast<std::size_t>(i)]);
     const std::string reply = exchange_.SendDSOCmd(query + "?");
-    echoLine(main_, reply);
+    echoReply(main_, reply);
     cbTrig(i).listIndex = indexOf(reply, SetupTable::trigger, i);
     unanswered_.note(cbTrig(i), isNumeric(reply));
   }
@@ -87,16 +88,17 @@ void frmTrig::readAdvancedSettings() {
   }
 }
 
-/// No query was sent, so none lacks a reply.
+/// The instrument is not asked. Where they cannot be chosen they say nothing of it.
 void frmTrig::showStoredAdvancedSettings() {
+  const auto holds = [this] { return !fmAdv.enabled(); };
   int column = SetupTable::firstValue;
   for (ComboBox& box : cbTrigAdv) {
     box.listIndex = main_.gridMeasure.number(SetupTable::advancedTrigger, column++);
-    unanswered_.settle(box);
+    unanswered_.note(box, holds);
   }
   for (TextBox& box : txtTrigAdv) {
     box.text = main_.gridMeasure.text(SetupTable::advancedTrigger, column++);
-    unanswered_.settle(box);
+    unanswered_.note(box, holds);
   }
 }
 
@@ -114,7 +116,10 @@ void frmTrig::Form_Activate() {
 
 void frmTrig::cbTrig_Click(int box) {
   sendsAdvanced_ = box == modeBox && isAdvanced();
-  if (box == modeBox) fmAdv.enabled = isAdvanced();
+  if (box == modeBox) {
+    fmAdv.enabled = isAdvanced();
+    unanswered_.showMarks();
+  }
   main_.gridMeasure.setText(SetupTable::trigger, SetupTable::columnOf(box),
                             std::to_string(cbTrig(box).listIndex()));
 }

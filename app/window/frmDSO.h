@@ -135,7 +135,7 @@ class frmDSO : public Window {
 
   ModuleState state;
   /// The last exchange succeeded, or failed otherwise than by a read time-out after one that did.
-  /// Connecting clears it first.
+  /// Reading the instrument clears it first.
   bool LinkOK = false;
   /// A first connect has read the instrument.
   bool Initialised = false;
@@ -152,6 +152,20 @@ class frmDSO : public Window {
     std::size_t cmdStart = 0;
     std::size_t cmdRunStop = 0;
   } shownMessages;
+
+  /// The scale in which the cursors' read-out was counted last, and its caption then; none if that
+  /// failed. Kept by view/marks/Cursors.h.
+  struct Readout {
+    const ValueLabel* scale = nullptr;
+    std::string caption;
+  } readout;
+
+  /// The replies that were shown in txtMsg last, by their numbers, and its text then. Kept by
+  /// link/ShownReplies.h.
+  struct RepliesInBox {
+    std::string text;
+    std::vector<int> numbers;
+  } repliesInBox;
 
   /// What the instrument is busy with instead of records, if with anything. Kept by
   /// app/window/Doing.h.

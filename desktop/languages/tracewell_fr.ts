@@ -1532,6 +1532,10 @@
         <translation>La liaison est perdue : %1</translation>
     </message>
     <message>
+        <source>The cursors were read in another scale</source>
+        <translation>Les curseurs ont été lus dans une autre échelle</translation>
+    </message>
+    <message>
         <source>The data file</source>
         <translation>Le fichier de données</translation>
     </message>
@@ -1558,6 +1562,10 @@
     <message>
         <source>The instrument may have another value</source>
         <translation>L’instrument a peut-être une autre valeur</translation>
+    </message>
+    <message>
+        <source>The knob stands there already: turn it away and back to send its scale</source>
+        <translation>Le bouton est déjà sur ce cran : tournez-le ailleurs puis revenez pour envoyer son échelle</translation>
     </message>
     <message>
         <source>The last question had no answer: press %1</source>
@@ -1860,8 +1868,8 @@
         <translation>plus de 500 lignes de données</translation>
     </message>
     <message>
-        <source>not answered</source>
-        <translation>sans réponse</translation>
+        <source>not certain</source>
+        <translation>incertain</translation>
     </message>
     <message>
         <source>not of one sweep</source>

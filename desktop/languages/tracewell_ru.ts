@@ -1532,6 +1532,10 @@
         <translation>Связь потеряна: %1</translation>
     </message>
     <message>
+        <source>The cursors were read in another scale</source>
+        <translation>Курсоры отсчитаны в другом масштабе</translation>
+    </message>
+    <message>
         <source>The data file</source>
         <translation>Файл данных</translation>
     </message>
@@ -1558,6 +1562,10 @@
     <message>
         <source>The instrument may have another value</source>
         <translation>У прибора может быть другое значение</translation>
+    </message>
+    <message>
+        <source>The knob stands there already: turn it away and back to send its scale</source>
+        <translation>Ручка уже стоит там: поверните её в сторону и обратно, чтобы отправить масштаб</translation>
     </message>
     <message>
         <source>The last question had no answer: press %1</source>
@@ -1860,8 +1868,8 @@
         <translation>более 500 строк данных</translation>
     </message>
     <message>
-        <source>not answered</source>
-        <translation>нет ответа</translation>
+        <source>not certain</source>
+        <translation>не точно известно</translation>
     </message>
     <message>
         <source>not of one sweep</source>

@@ -1532,6 +1532,10 @@
         <translation>连接已中断：%1</translation>
     </message>
     <message>
+        <source>The cursors were read in another scale</source>
+        <translation>光标读数是按另一档位得出的</translation>
+    </message>
+    <message>
         <source>The data file</source>
         <translation>数据文件</translation>
     </message>
@@ -1558,6 +1562,10 @@
     <message>
         <source>The instrument may have another value</source>
         <translation>仪器中的值可能不同</translation>
+    </message>
+    <message>
+        <source>The knob stands there already: turn it away and back to send its scale</source>
+        <translation>旋钮已在该处：转开再转回才会发送其档位</translation>
     </message>
     <message>
         <source>The last question had no answer: press %1</source>
@@ -1860,8 +1868,8 @@
         <translation>数据超过 500 行</translation>
     </message>
     <message>
-        <source>not answered</source>
-        <translation>未应答</translation>
+        <source>not certain</source>
+        <translation>不确定</translation>
     </message>
     <message>
         <source>not of one sweep</source>

@@ -1532,6 +1532,10 @@
         <translation>連線斷咗：%1</translation>
     </message>
     <message>
+        <source>The cursors were read in another scale</source>
+        <translation>游標讀數是按另一檔位得出的</translation>
+    </message>
+    <message>
         <source>The data file</source>
         <translation>數據檔案</translation>
     </message>
@@ -1558,6 +1562,10 @@
     <message>
         <source>The instrument may have another value</source>
         <translation>儀器入面嘅值可能唔同</translation>
+    </message>
+    <message>
+        <source>The knob stands there already: turn it away and back to send its scale</source>
+        <translation>旋鈕已在該處：轉開再轉回才會傳送其檔位</translation>
     </message>
     <message>
         <source>The last question had no answer: press %1</source>
@@ -1860,8 +1868,8 @@
         <translation>數據超過 500 行</translation>
     </message>
     <message>
-        <source>not answered</source>
-        <translation>未有回應</translation>
+        <source>not certain</source>
+        <translation>不確定</translation>
     </message>
     <message>
         <source>not of one sweep</source>

@@ -16,7 +16,12 @@ Knob::Knob(Window& owner, std::string_view name, std::vector<std::string> detent
 
 void Knob::turn(int detent) {
   const int last = static_cast<int>(detents_.size()) - 1;
-  userDoes([this, detent, last] { value = std::clamp(detent, 0, last); });
+  userDoes([this, detent, last] { moveTo(std::clamp(detent, 0, last)); });
+}
+
+void Knob::moveTo(int detent) {
+  if (value() == detent) return stays.raise();
+  value = detent;
 }
 
 Slide::Slide(Window& owner, std::string_view name, std::string_view captionText, Range range)

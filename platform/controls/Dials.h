@@ -17,8 +17,12 @@ class Knob : public Control {
   /// A new value raises valueChanged, also when code sets it.
   Property<double> value;
   Event<> valueChanged;
+  /// The user wants the detent at which it stands.
+  Event<> stays;
   /// The user turns the knob to a detent; beyond the ends it stops at the end.
   void turn(int detent);
+  /// Within a handler: the user has named the detent elsewhere.
+  void moveTo(int detent);
 
  private:
   std::vector<std::string> detents_;

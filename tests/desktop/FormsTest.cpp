@@ -45,7 +45,7 @@ TEST(DesktopWords, FollowTheLanguageInEveryWindowAndLeaveWhatIsShown) {
   EXPECT_EQ(tip(main.opOff), "Sans curseurs");
   EXPECT_EQ(tip(desktop.program.rs232.cbRS232(4)), "Numéro du port ; 0 : instrument simulé");
   const QWidget* mark = desktop.windows.widgetOf(main.lblTime)->findChild<QWidget*>();
-  EXPECT_EQ(mark->accessibleName(), QStringLiteral("sans réponse"));
+  EXPECT_EQ(mark->accessibleName(), QStringLiteral("incertain"));
   EXPECT_EQ(fromQt(desktop.windows.widgetOf(main.slideTrig)->accessibleDescription()),
             tip(main.slideTrig) + ". L’instrument a peut-être une autre valeur");
   EXPECT_EQ(main.lblPort.caption(), "port 0 - instrument simulé");
@@ -59,7 +59,7 @@ TEST(DesktopWords, FollowTheLanguageInEveryWindowAndLeaveWhatIsShown) {
   main.mnbLA1.choose();
   QApplication::processEvents();
   EXPECT_EQ(tip(main.opOff), english);
-  EXPECT_EQ(mark->accessibleName(), QStringLiteral("not answered"));
+  EXPECT_EQ(mark->accessibleName(), QStringLiteral("not certain"));
 }
 
 /// The platform of the tests shows no files.

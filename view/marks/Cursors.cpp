@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Cursors.h"
 
+#include <utility>
+
 #include "Numbers.h"
 #include "ScaleTables.h"
+#include "TraceMarks.h"
 
 namespace tracewell {
 namespace {
@@ -56,8 +59,6 @@ void Cursors::opVoltage_Click() {
 
 void Cursors::cbCurChan_Click() {
   UpdateCursorReadout();
-  // The badge changes with the channel also where the read-out does not.
-  main_.graphDSO.notifyChanged();
 }
 
 void Cursors::graphDSO_CursorMoved() {
@@ -79,26 +80,40 @@ void Cursors::showCursors(bool areVisible) {
 }
 
 void Cursors::UpdateCursorReadout() {
+  struct Shown {
+    ScopeGraph& graph;
+    Axis& axis;
+    ~Shown() {
+      graph.notifyChanged();
+      axis.notifyChanged();
+    }
+  };
   Axis& axis = main_.graphDSO.axis("XAxis");
-  if (main_.opOff.value())
+  // The badge, and whether it is pale, may change where its text does not or cannot be counted.
+  const Shown shown{main_.graphDSO, axis};
+  main_.readout = {};
+  if (main_.opOff.value()) {
     axis.caption = "Time";
-  else
-    axis.caption = CursorTimeMode ? timeReadout() : voltageReadout();
+    return;
+  }
+  const ValueLabel& scale = scaleOfReadout(main_);
+  const std::string inForce = scale.caption();
+  std::string text = CursorTimeMode ? timeReadout(inForce) : voltageReadout(inForce);
+  main_.readout = {&scale, inForce};
+  axis.caption = std::move(text);
 }
 
-std::string Cursors::voltageReadout() {
-  const ValueLabel& scale = main_.channel(main_.cbCurChan.text() == "1" ? 1 : 2).scale;
+std::string Cursors::voltageReadout(const std::string& scale) {
   Cur1Pos = main_.graphDSO.cursor("cur1").yPosition();
   Cur2Pos = main_.graphDSO.cursor("cur2").yPosition();
-  const double voltsPerDivision = ParseScaleCaption(scale.caption());
+  const double voltsPerDivision = ParseScaleCaption(scale);
   const double p1 = checked(Cur1Pos * voltsPerDivision / unitsPerDivision);
   const double p2 = checked(Cur2Pos * voltsPerDivision / unitsPerDivision);
   return "P1 = " + formatTwoDecimals(p1) + "(V)  ,  " + "P2 = " + formatTwoDecimals(p2) +
          "(V)        " + "Diff V = " + formatTwoDecimals(checked(p1 - p2)) + "(V)";
 }
 
-std::string Cursors::timeReadout() {
-  const std::string& scale = main_.lblTime.caption();
+std::string Cursors::timeReadout(const std::string& scale) {
   const std::string unit = timeUnit(captionPrefix(scale));
   Cur1Pos = main_.graphDSO.cursor("cur1").xPosition();
   Cur2Pos = main_.graphDSO.cursor("cur2").xPosition();

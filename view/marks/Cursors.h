@@ -23,8 +23,8 @@ class Cursors {
   /// scale. Raises "Type mismatch" when the time scale is not known yet.
   void UpdateCursorReadout();
   void showCursors(bool areVisible);
-  std::string voltageReadout();
-  std::string timeReadout();
+  std::string voltageReadout(const std::string& scale);
+  std::string timeReadout(const std::string& scale);
 
   frmDSO& main_;
   /// True while the cursors measure time.

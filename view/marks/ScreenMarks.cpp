@@ -83,7 +83,7 @@ std::vector<GraphMarks::Text> badge(const frmDSO& main) {
   if (main.opOff.value()) return {};
   const Cursor& cur1 = main.graphDSO.cursor("cur1");
   const Cursor& cur2 = main.graphDSO.cursor("cur2");
-  const Channel& measured = main.channel(main.cbCurChan.text() == "1" ? 1 : 2);
+  const Channel& measured = channelOfReadout(main);
   const bool isOfTime = main.opTime.value();
   std::vector<GraphMarks::Text> badge;
   for (const std::string& line :

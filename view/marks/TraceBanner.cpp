@@ -22,22 +22,24 @@ const Channel* firstTrace(const frmDSO& main, Condition condition) {
   return nullptr;
 }
 
-/// Seconds until the scales that were read are sure, if they are not.
-std::optional<std::int64_t> secondsToProve(const frmDSO& main) {
-  using enum Setting;
-  const std::optional<std::int64_t> sureAt = main.services().port.report().sureAt;
-  const bool isUnsure = std::ranges::any_of(
-      std::array{scale1, scale2, timeBase},
-      [&](Setting scale) { return main.known.doubt(scale) == Doubt::unsureAnswer; });
-  if (!sureAt || !isUnsure) return std::nullopt;
+/// Seconds until replies that are not sure yet are.
+std::int64_t secondsToProve(const frmDSO& main) {
+  const std::int64_t now = main.services().clock.milliseconds();
   // While a record is on its way it may take longer.
-  return std::max<std::int64_t>((*sureAt - main.services().clock.milliseconds() + 999) / 1000, 1);
+  return std::max<std::int64_t>(
+      (main.services().port.report().sureAt.value_or(now) - now + 999) / 1000, 1);
 }
 
-bool isScaleMissing(const frmDSO& main, const Channel& channel) {
-  const bool hasVolts = channel.record.madeUnder.mathEntry.has_value() ||
-                        main.known.voltsPerDivision(channel.number).has_value();
-  return !hasVolts || !main.known.secondsPerDivision();
+/// The trace needs this scale, and that is not known; or would be but for such a reply.
+bool isMissing(const frmDSO& main, Setting scale, bool isButForProof) {
+  return !main.known.number(scale) &&
+         isButForProof == (main.known.doubt(scale) == Doubt::unsureAnswer);
+}
+
+bool isScaleMissing(const frmDSO& main, const Channel& channel, bool isButForProof) {
+  const bool needsVolts = !channel.record.madeUnder.mathEntry;
+  return isMissing(main, Setting::timeBase, isButForProof) ||
+         (needsVolts && isMissing(main, ofChannel(Setting::scale1, channel.number), isButForProof));
 }
 
 /// The button also stops what runs.
@@ -71,12 +73,15 @@ std::string warning(const frmDSO& main, const Words& words) {
   const auto isLateNow = [&](const Channel& channel) { return isLate(main, channel); };
   if (const Channel* const late = firstTrace(main, isLateNow))
     return ageText(words, *late, main.services().clock.milliseconds());
-  if (firstTrace(main, [&](const Channel& channel) { return isScaleMissing(main, channel); })) {
-    const std::optional<std::int64_t> seconds = secondsToProve(main);
-    return seconds ? words.say("A reply is missing: the scales are certain in %1 s",
-                               {std::to_string(*seconds)})
-                   : toRead(main, words);
-  }
+  const auto hasNoScale = [&](bool isButForProof) {
+    return firstTrace(main, [&, isButForProof](const Channel& channel) {
+      return isScaleMissing(main, channel, isButForProof);
+    });
+  };
+  if (hasNoScale(false)) return toRead(main, words);
+  if (hasNoScale(true))
+    return words.say("A reply is missing: the scales are certain in %1 s",
+                     {std::to_string(secondsToProve(main))});
   const auto mayBeMath = [](const Channel& channel) {
     const MadeUnder& made = channel.record.madeUnder;
     return !made.voltsPerDivision && !made.mathEntry;

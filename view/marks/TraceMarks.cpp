@@ -152,10 +152,25 @@ bool isPale(const frmDSO& main, const Channel& channel) {
   return !made.mathEntry && !isKnownAndSame(made.voltsPerDivision, present);
 }
 
+const Channel& channelOfReadout(const frmDSO& main) {
+  return main.channel(main.cbCurChan.text() == "1" ? 1 : 2);
+}
+
+const ValueLabel& scaleOfReadout(const frmDSO& main) {
+  return main.opTime.value() ? main.lblTime : channelOfReadout(main).scale;
+}
+
+bool isReadoutOfOtherScale(const frmDSO& main) {
+  const ValueLabel& scale = scaleOfReadout(main);
+  return !main.opOff.value() &&
+         (main.readout.scale != &scale || main.readout.caption != scale.caption());
+}
+
 bool isReadoutPale(const frmDSO& main) {
   if (main.opOff.value()) return false;
+  if (isReadoutOfOtherScale(main)) return true;
   if (main.opTime.value()) return !secondsOfTraces(main);
-  return !voltsOfTrace(main, main.channel(main.cbCurChan.text() == "1" ? 1 : 2));
+  return !voltsOfTrace(main, channelOfReadout(main));
 }
 
 bool areOfOneSweep(const frmDSO& main) {

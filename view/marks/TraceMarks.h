@@ -57,8 +57,17 @@ bool isPale(const frmDSO& main, const Channel& channel);
 /// is of its own sweep, and the time between them means nothing.
 bool areOfOneSweep(const frmDSO& main);
 
-/// The read-out of the cursors is in a scale that is not known, or not the one under which the
-/// traces were made.
+/// The channel in whose volts the cursors are read out.
+const Channel& channelOfReadout(const frmDSO& main);
+
+/// The scale in which they are read out: that of this channel, or the time base.
+const ValueLabel& scaleOfReadout(const frmDSO& main);
+
+/// The scale reads otherwise now than when the cursors' read-out was counted.
+bool isReadoutOfOtherScale(const frmDSO& main);
+
+/// The read-out of the cursors is in a scale that is not known, not the one in force, or not the
+/// one under which the traces were made.
 bool isReadoutPale(const frmDSO& main);
 
 /// The age of each displayed trace, or that it is live, in the language in force.

@@ -59,6 +59,10 @@ std::string channelsWithoutRecord(const frmDSO& main) {
   return names;
 }
 
+void append(std::string& text, const std::string& said) {
+  text += (text.empty() ? "" : "; ") + said;
+}
+
 std::string sentence(const Words& words, const Written& written) {
   const std::string made =
       written.made ? captionOf(*written.made, written.caption.ends_with('s')) : "";
@@ -82,11 +86,12 @@ StatusLine::Sentence scalesNotOfTraces(const frmDSO& main) {
     add(channel.display.caption(), channel.scale, "V", made.voltsPerDivision);
     add(channel.display.caption(), main.lblTime, "s", made.secondsPerDivision);
   }
-  if (others.empty()) return {};
-  return [others](const Words& words) {
+  const bool isReadoutOther = isReadoutOfOtherScale(main);
+  if (others.empty() && !isReadoutOther) return {};
+  return [others, isReadoutOther](const Words& words) {
     std::string text;
-    for (const Written& written : others)
-      text += (text.empty() ? "" : "; ") + sentence(words, written);
+    for (const Written& written : others) append(text, sentence(words, written));
+    if (isReadoutOther) append(text, words.say("The cursors were read in another scale"));
     return text;
   };
 }
@@ -98,13 +103,11 @@ StatusLine::Sentence setNotOfTraces(const frmDSO& main) {
   if (others.empty() && missing.empty()) return scales;
   return [=](const Words& words) {
     std::string text = scales ? scales(words) : "";
-    const auto add = [&text](const std::string& said) {
-      text += (text.empty() ? "" : "; ") + said;
-    };
     for (const WrittenPosition& other : others)
-      add(words.say("%1: drawn at position %2, not at %3",
-                    {other.name, numberText(other.drawn), numberText(other.written)}));
-    if (!missing.empty()) add(words.say("The .csv is empty: no whole record of %1", {missing}));
+      append(text, words.say("%1: drawn at position %2, not at %3",
+                             {other.name, numberText(other.drawn), numberText(other.written)}));
+    if (!missing.empty())
+      append(text, words.say("The .csv is empty: no whole record of %1", {missing}));
     return text;
   };
 }

@@ -6,7 +6,8 @@
 namespace tracewell {
 
 /// Pictures, descriptions and pages carry the scales that the window shows. Returns a sentence
-/// about those at which the traces were not recorded, as of this call; none if all agree.
+/// about those at which the traces were not recorded, or the cursors' read-out not counted, as of
+/// this call; none if all agree.
 StatusLine::Sentence scalesNotOfTraces(const frmDSO& main);
 
 /// The same of a waveform set, which carries the positions, too. A trace can be drawn at another:
