@@ -72,15 +72,17 @@ bool isReplaced(const std::filesystem::path& path, const std::string& title) {
                  QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
 }
 
-/// Beside a file that is there already they are its own.
+/// Where all are there they are one's own, and have been asked for with it.
 bool areReplacedBeside(const std::filesystem::path& path, const FileDialog& dialog) {
-  if (!isFree(path)) return true;
+  std::vector<std::filesystem::path> there;
   for (const std::string& extension : dialog.besides) {
     std::filesystem::path beside = path;
     beside.replace_extension(extension);
-    if (!isFree(beside)) return isReplaced(beside, dialog.title);
+    if (!isFree(beside)) there.push_back(std::move(beside));
   }
-  return true;
+  if (!isFree(path) && there.size() == dialog.besides.size()) return true;
+  return std::ranges::all_of(there,
+                             [&](const auto& beside) { return isReplaced(beside, dialog.title); });
 }
 
 /// All file dialogs are made here.
@@ -97,9 +99,11 @@ std::filesystem::path ask(const FileDialog& dialog, QFileDialog::AcceptMode mode
   box.selectFile(toQt(dialog.fileName));
   while (box.exec() == QDialog::Accepted) {
     const std::filesystem::path picked = toPath(box.selectedFiles().value(0));
+    if (mode == QFileDialog::AcceptOpen) return picked;
     const std::filesystem::path path = dialog.completed(picked);
     // The toolkit has asked for what was picked only.
-    const bool isTaken = path == picked || isFree(path) || isReplaced(path, dialog.title);
+    const bool isTaken =
+        path == picked || dialog.isContinued || isFree(path) || isReplaced(path, dialog.title);
     if (isTaken && areReplacedBeside(path, dialog)) return path;
   }
   return dialog.fileName;

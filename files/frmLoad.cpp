@@ -7,6 +7,7 @@
 #include "DataFolder.h"
 #include "Disk.h"
 #include "Files.h"
+#include "Numbers.h"
 #include "WaveformSetReader.h"
 
 namespace tracewell {
@@ -16,8 +17,8 @@ namespace fs = std::filesystem;
 
 bool isPictureType(const std::string& picturePath) {
   constexpr std::array<std::string_view, 6> types = {"jpg", "bmp", "pcx", "tif", "png", "gif"};
-  return std::ranges::any_of(types,
-                             [&](std::string_view type) { return picturePath.ends_with(type); });
+  const std::string small = smallLetters(picturePath);
+  return std::ranges::any_of(types, [&](std::string_view type) { return small.ends_with(type); });
 }
 
 /// Beside a data file whose name has capitals, as another system writes it, the description's may

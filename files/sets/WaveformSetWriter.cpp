@@ -35,10 +35,9 @@ std::string folderText(const std::filesystem::path& path) {
 }
 
 /// Without regard to case, which not every file system knows.
-bool isDataExtension(std::string extension) {
-  for (char& c : extension)
-    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-  return extension == ".csv" || extension == ".inf";
+bool isDataExtension(const std::string& extension) {
+  const std::string small = smallLetters(extension);
+  return small == ".csv" || small == ".inf";
 }
 
 }  // namespace

@@ -214,4 +214,10 @@ std::string numberText(double value) {
   return text == "-0" ? "0" : text;
 }
 
+std::string smallLetters(std::string text) {
+  for (char& c : text)
+    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+  return text;
+}
+
 }  // namespace tracewell

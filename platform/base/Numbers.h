@@ -50,4 +50,7 @@ std::string formatDecimals(double value, int decimals);
 /// The shortest decimal text that reads back as the same number, without an exponent.
 std::string numberText(double value);
 
+/// With small letters for A to Z, whatever the locale is.
+std::string smallLetters(std::string text);
+
 }  // namespace tracewell

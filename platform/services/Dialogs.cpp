@@ -4,14 +4,13 @@
 #include <algorithm>
 
 #include "Files.h"
+#include "Numbers.h"
 
 namespace tracewell {
 namespace {
 
-/// "JPG" is "jpg".
-bool isSameExtension(std::string_view a, std::string_view b) {
-  const auto small = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; };
-  return std::ranges::equal(a, b, {}, small, small);
+bool isSmallLetter(char c) {
+  return c >= 'a' && c <= 'z';
 }
 
 /// The user's answer, unless the program has ended.
@@ -30,12 +29,13 @@ std::string FileDialog::usualExtension() const {
 }
 
 std::filesystem::path FileDialog::completed(const std::filesystem::path& picked) const {
-  const std::string typed = pathText(picked.extension());
-  const bool isNumber = typed.find_first_not_of(".0123456789") == std::string::npos;
+  const std::string dotted = smallLetters(pathText(picked.extension()));
+  const std::string typed = dotted.substr(std::min<std::size_t>(dotted.size(), 1));
+  const bool isWord = !typed.empty() && std::ranges::all_of(typed, isSmallLetter);
   const auto isTyped = [&](const std::string& extension) {
-    return isSameExtension(typed, "." + extension);
+    return smallLetters(extension) == typed;
   };
-  const bool isComplete = extensions.empty() ? !isNumber : std::ranges::any_of(extensions, isTyped);
+  const bool isComplete = extensions.empty() ? isWord : std::ranges::any_of(extensions, isTyped);
   return isComplete ? picked : pathOf(pathText(picked) + "." + usualExtension());
 }
 

@@ -19,7 +19,8 @@ struct FileDialog {
   std::string filter;
   /// A file to save that is there already will be continued: nothing is asked.
   bool isContinued = false;
-  /// Those of which a name to save has one; none if any will do that is no number.
+  /// Those of which a name to save has one; none if any will do that is a word, as "txt" is and
+  /// "v2" is not.
   std::vector<std::string> extensions = {};
   /// Those of the files that will be written beside a new one. The dialog asks before one of them
   /// is replaced.

@@ -46,13 +46,15 @@ void RecorderView::follow(bool isFollowing) {
 }
 
 RecorderView::Still::Still(RecorderView& view)
-    : view_(view), wasFollowing_(view.isFollowing_), selected_(view.selected()) {
-  if (view.isMarked()) marked_ = view.stretch();
+    : view_(view),
+      wasFollowing_(view.isFollowing_),
+      saved_(view.saved()),
+      exported_(view.exported()) {
   view.follow(false);
 }
 
 bool RecorderView::Still::isWhole() const {
-  return view_.selected() == selected_ && (!marked_ || view_.stretch() == *marked_);
+  return view_.saved() == saved_ && view_.exported() == exported_;
 }
 
 /// The record that the user selected may have left the store, or its channel may be hidden. The

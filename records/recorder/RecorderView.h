@@ -67,14 +67,14 @@ class RecorderView {
     explicit Still(RecorderView& view);
     ~Still() { view_.follow(wasFollowing_); }
     Still(const Still&) = delete;
-    /// False once the record that is shown, or some of the marked ones, has left the store.
+    /// False once a record that would be in the file has left the store.
     bool isWhole() const;
 
    private:
     RecorderView& view_;
     bool wasFollowing_;
-    std::optional<Number> selected_;
-    std::optional<Stretch> marked_;
+    RecordsOfSet saved_;
+    Stretch exported_;
   };
 
   // What is drawn

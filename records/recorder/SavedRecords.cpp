@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "Numbers.h"
 #include "PanelReference.h"
 #include "Pictures.h"
 #include "RecorderWords.h"
@@ -47,7 +48,7 @@ std::optional<int> pictureFormatOf(const std::string& name) {
       {".png", Pictures::png}, {".jpg", Pictures::jpg}, {".bmp", Pictures::bmp},
       {".gif", Pictures::gif}, {".pcx", Pictures::pcx}, {".tif", Pictures::tif}};
   for (const auto& [end, format] : formats)
-    if (name.ends_with(end)) return format;
+    if (smallLetters(name).ends_with(end)) return format;
   return std::nullopt;
 }
 
