@@ -408,22 +408,43 @@ bool KnownInstrument::mayBeStopped() const {
 /// been stopped earlier, that stop counts too.
 void KnownInstrument::stop() {
   for (const int channel : {1, 2}) {
-    MadeUnder& frozen = atStop_[static_cast<std::size_t>(channel - 1)];
-    const MadeUnder now = settingsAt(channel, sweptAt_);
-    frozen = mayBeStopped() ? whicheverHolds(frozen, now) : now;
+    Told& frozen = atStop_[static_cast<std::size_t>(channel - 1)];
+    Told now = toldAt(channel, sweptAt_);
+    if (mayBeStopped()) {
+      now.made = whicheverHolds(frozen.made, now.made);
+      now.voltsReplies.merge(frozen.voltsReplies);
+      now.secondsReplies.merge(frozen.secondsReplies);
+    }
+    frozen = std::move(now);
   }
 }
 
-MadeUnder KnownInstrument::settingsAt(int channel, Moment moment) const {
-  const auto since = [&](Setting setting) {
-    return changedAt(setting) <= moment ? number(setting) : std::nullopt;
+MadeUnder KnownInstrument::sureOf(const Told& told) const {
+  const auto areSure = [this](const std::set<int>& replies) {
+    return std::ranges::all_of(replies,
+                               [this](int reply) { return sureness_(reply) == Sureness::sure; });
   };
-  MadeUnder made{since(ofChannel(scale1, channel)), since(timeBase), std::nullopt, std::nullopt};
+  MadeUnder made = told.made;
+  if (!areSure(told.voltsReplies)) made.voltsPerDivision.reset();
+  if (!areSure(told.secondsReplies)) made.secondsPerDivision.reset();
+  return made;
+}
+
+KnownInstrument::Told KnownInstrument::toldAt(int channel, Moment moment) const {
+  const auto since = [&](Setting setting, std::set<int>& replies) -> std::optional<double> {
+    if (changedAt(setting) > moment || toldDoubt(setting) != Doubt::none) return std::nullopt;
+    if (entry(setting).reply) replies.insert(*entry(setting).reply);
+    return entry(setting).number;
+  };
+  Told at;
+  MadeUnder& made = at.made;
+  made.voltsPerDivision = since(ofChannel(scale1, channel), at.voltsReplies);
+  made.secondsPerDivision = since(timeBase, at.secondsReplies);
   const bool isMath = mathChannel() == channel;
   if (isMath || isMathDoubted() || changedAt(math) > moment) made.voltsPerDivision.reset();
   if (isMath && isKnown(math) && changedAt(math) <= moment)
     made.mathEntry = static_cast<int>(*number(math));
-  return made;
+  return at;
 }
 
 /// The moment since when a new sweep is certain: a free-running instrument has swept after the
@@ -435,10 +456,10 @@ KnownInstrument::Moment KnownInstrument::sweptSince(int channel) const {
 }
 
 MadeUnder KnownInstrument::madeUnder(int channel, Moment requested) const {
-  MadeUnder frozen = atStop_[static_cast<std::size_t>(channel - 1)];
+  MadeUnder frozen = sureOf(atStop_[static_cast<std::size_t>(channel - 1)]);
   if (isStopped() && changedAt(running) <= requested) frozen.stop = changedAt(running);
   if (isStopped()) return frozen;
-  const MadeUnder present = settingsAt(channel, std::min(requested, sweptSince(channel)));
+  const MadeUnder present = sureOf(toldAt(channel, std::min(requested, sweptSince(channel))));
   const bool isEither = changedAt(running) > requested || mayBeStopped();
   return isEither ? whicheverHolds(frozen, present) : present;
 }

@@ -138,7 +138,14 @@ class KnownInstrument {
   }
   std::optional<Value> sentValue(Setting setting, const WirePart& command) const;
   std::optional<Value> toldValue(Setting setting, std::string_view reply) const;
-  MadeUnder settingsAt(int channel, Moment moment) const;
+  /// The settings of a record, and the replies that told its scales: these may become sure later.
+  struct Told {
+    MadeUnder made;
+    std::set<int> voltsReplies;
+    std::set<int> secondsReplies;
+  };
+  Told toldAt(int channel, Moment moment) const;
+  MadeUnder sureOf(const Told& told) const;
   Moment sweptSince(int channel) const;
   bool isMathDoubted() const { return mathDoubtedOn_.contains(presentLine().portNumber); }
   void tell() const {
@@ -159,8 +166,8 @@ class KnownInstrument {
   std::array<Swept, 2> swept_;
   /// The ports behind which something may have switched math on, for an unknown channel.
   std::set<std::int16_t> mathDoubtedOn_;
-  /// The settings under which a stopped instrument made the records that it sends.
-  std::array<MadeUnder, 2> atStop_;
+  /// Those under which a stopped instrument made the records that it sends.
+  std::array<Told, 2> atStop_;
 };
 
 }  // namespace tracewell

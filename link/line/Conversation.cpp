@@ -292,8 +292,7 @@ std::int64_t Conversation::trustedAt() const {
 /// Ends whatever has been quiet for long enough.
 void Conversation::review() {
   const std::int64_t now = clock_.milliseconds();
-  const bool isUnderWay = state_ != State::idle && state_ != State::replyAwaited;
-  if (!isUnderWay || now < trustedAt()) return;
+  if (state_ == State::idle || now < trustedAt()) return;
   if (state_ == State::recordAwaited) {
     account_.gaveUpRecord(record_.bytes.size(), record_.count, now);
     if (!record_.bytes.empty()) replies_.mayHaveHeardMissing(askedAt_);
