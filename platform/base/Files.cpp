@@ -19,7 +19,6 @@ std::ifstream openForReading(const fs::path& path) {
     throw fileError(fileNotFound, "File not found", path);
   if (failed) throw cannotRead(path, failed);
   if (!fs::is_regular_file(status)) throw notAFile(path);
-  errno = 0;
   std::ifstream file(path, std::ios::binary);
   if (!file.is_open()) throw cannotRead(path);
   return file;
