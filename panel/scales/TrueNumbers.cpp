@@ -23,9 +23,8 @@ std::optional<double> trueNumber(std::string_view text, std::string_view unit) {
   const auto known = std::ranges::find(unitPrefixes, prefix, &UnitPrefix::text);
   // A long reply must not overflow.
   constexpr std::size_t longest = 12;
-  const std::string_view digits = number.starts_with('-') ? number.substr(1) : number;
-  const bool isPlain =
-      number.size() <= longest && digits.find_first_not_of("0123456789.") == std::string_view::npos;
+  const bool isPlain = number.size() <= longest &&
+                       number.find_first_not_of("-0123456789.") == std::string_view::npos;
   if (known == unitPrefixes.end() || !isPlain || !isNumeric(number)) return std::nullopt;
   return scaled(leadingNumber(number), known->exponent);
 }

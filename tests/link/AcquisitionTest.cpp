@@ -8,8 +8,8 @@ using AcquisitionTest = ProgramTest;
 /// Nothing that fails inside a record is reported.
 TEST_F(AcquisitionTest, RecordOfNoUseIsLeftOut) {
   main.Ch2Pos = 1000;
-  program.acquisition.WaveCount = 32767;
-  for (const std::int16_t channel : std::vector<std::int16_t>{2, 7, 0})
+  program.acquisition.WaveCount = 32764;
+  for (const std::int16_t channel : std::vector<std::int16_t>{2, 7, 0, 2})
     port.deliver(channel, makeRecord([](int) { return 1; }));
   EXPECT_EQ(main.graphDSO.plot(2).y().front(), 1);
   EXPECT_EQ(program.acquisition.WaveCount, 32767);
