@@ -27,7 +27,8 @@ void Tracewell::connectLifecycle() {
 void Tracewell::lookAtLine() {
   showLineNotice(main);
   panelMarks.show();
-  for (const SettingsDialog* dialog : settingsDialogs) dialog->showMarks();
+  for (const Window* window : otherWindows())
+    if (window->isVisible()) window->showMarks();
   main.tmStatus.setInterval(changeInterval(main));
 }
 

@@ -90,8 +90,6 @@ class Tracewell {
   Lifecycle lifecycle;
 
  private:
-  const std::array<SettingsDialog*, 3> settingsDialogs{&channelDialog, &trigger, &display};
-
   void connectLifecycle();
   void connectLink();
   void connectPanel();

@@ -99,7 +99,8 @@ std::filesystem::path ask(const FileDialog& dialog, QFileDialog::AcceptMode mode
   box.selectFile(toQt(dialog.fileName));
   while (box.exec() == QDialog::Accepted) {
     const std::filesystem::path picked = toPath(box.selectedFiles().value(0));
-    if (mode == QFileDialog::AcceptOpen) return picked;
+    const bool isThere = dialog.isContinued && !isFree(picked);
+    if (mode == QFileDialog::AcceptOpen || isThere) return picked;
     const std::filesystem::path path = dialog.completed(picked);
     // The toolkit has asked for what was picked only.
     const bool isTaken =

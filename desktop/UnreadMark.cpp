@@ -72,6 +72,20 @@ QString meaning() {
   return QCoreApplication::translate("Panel", "The instrument may have another value");
 }
 
+/// Of the widget that is described; the mark may stand on another one.
+constexpr const char* unreadProperty = "isUnread";
+
+/// A reader says the tip of a widget that has no description. So the description repeats it.
+void describe(QWidget& described) {
+  const QString own = described.toolTip();
+  const QString mean = own.isEmpty() ? meaning() : own + QStringLiteral(". ") + meaning();
+  const bool isPale = described.graphicsEffect() != nullptr;
+  const bool isUnread = described.property(unreadProperty).toBool();
+  const QString description = isUnread || isPale ? mean : QString();
+  if (description != described.accessibleDescription())
+    described.setAccessibleDescription(description);
+}
+
 }  // namespace
 
 /// Without an effect where nothing is pale: an effect costs a picture of its own at each painting.
@@ -79,12 +93,16 @@ void showPale(QWidget& widget, bool isPale) {
   if (auto* knob = qobject_cast<KnobWidget*>(&widget)) knob->setPale(isPale);
   if (auto* slide = qobject_cast<SlideWidget*>(&widget)) slide->setPale(isPale);
   if (isPale == (widget.graphicsEffect() != nullptr)) return;
-  if (!isPale) return widget.setGraphicsEffect(nullptr);
+  if (!isPale) {
+    widget.setGraphicsEffect(nullptr);
+    return describe(widget);
+  }
   auto* effect = new QGraphicsOpacityEffect(&widget);
   const bool isButton = qobject_cast<QAbstractButton*>(&widget) != nullptr ||
                         qobject_cast<QComboBox*>(&widget) != nullptr;
   effect->setOpacity(isButton ? paleButtonOpacity : paleOpacity);
   widget.setGraphicsEffect(effect);
+  describe(widget);
 }
 
 void UnreadMark::show(QWidget& marked, bool isUnread, QWidget* described) {
@@ -108,13 +126,9 @@ UnreadMark::UnreadMark(QWidget& marked, QWidget& described)
   toPlace();
 }
 
-/// A reader says the tip of a widget that has no description. So the description repeats it.
 void UnreadMark::describe() {
-  const QString own = described_.toolTip();
-  const QString mean = own.isEmpty() ? meaning() : own + QStringLiteral(". ") + meaning();
-  const QString description = isVisibleTo(parentWidget()) ? mean : QString();
-  if (description != described_.accessibleDescription())
-    described_.setAccessibleDescription(description);
+  described_.setProperty(unreadProperty, isVisibleTo(parentWidget()));
+  tracewell::describe(described_);
 }
 
 /// The tip has been translated before.

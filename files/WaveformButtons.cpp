@@ -102,8 +102,10 @@ void WaveformButtons::graphDSO_ReferenceRemoved(int number) {
 void WaveformButtons::cmdExportCSV_Click() {
   const std::filesystem::path path = "text.csv";
   writeWholeFile(path, main_.txtMsg.text());
-  main_.status.tell(StatusLine::happened, [path](const Words& words) {
-    return words.say("Saved %1", {wholePathText(path)});
+  const bool isUnsure = main_.txtMsg.trust() != Trust::holds;
+  main_.status.tell(StatusLine::happened, [path, isUnsure](const Words& words) {
+    const std::string saved = words.say("Saved %1", {wholePathText(path)});
+    return isUnsure ? saved + "; " + words.say("It may be the reply to another question") : saved;
   });
 }
 

@@ -115,6 +115,20 @@ void KnownInstrument::obey(const WirePart& command, bool isTrusted) {
   takeSent(setting, *value);
 }
 
+void KnownInstrument::upset() {
+  isUpset_ = true;
+  tell();
+}
+
+/// What was told or sent meanwhile may be of before.
+void KnownInstrument::upsetIsOver() {
+  isUpset_ = false;
+  for (const Setting setting : effectOf({"AUT", "", false}).touches)
+    doubtful(setting, Doubt::mayHaveChanged);
+  upsetAt_ = now_;
+  tell();
+}
+
 /// A possible change counts wherever it makes a difference to records.
 void KnownInstrument::leaveOpen(Setting setting, const WirePart& command) {
   doubtful(setting, Doubt::mayHaveChanged);
@@ -327,6 +341,7 @@ Doubt KnownInstrument::doubt(Setting setting) const {
 Doubt KnownInstrument::toldDoubt(Setting setting) const {
   const Entry& asked = entry(setting);
   if (asked.doubt == Doubt::neverRead) return Doubt::neverRead;
+  if (isUpset_ && setting != lock && asked.doubt == Doubt::none) return Doubt::mayHaveChanged;
   if (asked.line != presentLine()) return Doubt::anotherInstrument;
   // After one sweep it stops itself.
   const bool isOver = setting == running && asked.doubt == Doubt::none &&

@@ -45,6 +45,9 @@ class KnownInstrument {
   void notSent(std::string_view line);
   void answered(std::string_view query, std::string_view reply, int replyNumber);
   void notAnswered(std::string_view query);
+  /// The instrument changes its settings by itself, until upsetIsOver: meanwhile none is known.
+  void upset();
+  void upsetIsOver();
   /// Scales and positions are about to be read; each is not known until its reply has arrived.
   void reading();
   /// A record is requested. The line decides when the request goes out.
@@ -63,6 +66,9 @@ class KnownInstrument {
   bool isKnown(Setting setting) const { return doubt(setting) == Doubt::none; }
   /// Its scales have been read on this line.
   bool isRead() const { return readOn_ == presentLine(); }
+  bool isUpset() const { return isUpset_; }
+  /// When the instrument was upset last.
+  Moment upsetAt() const { return upsetAt_; }
   /// Since when the setting has had its value, or its doubt.
   Moment changedAt(Setting setting) const { return entry(setting).changedAt; }
 
@@ -71,6 +77,8 @@ class KnownInstrument {
 
   /// The value, in the units that Setting.h says.
   std::optional<double> number(Setting setting) const;
+  /// It has been told a value, sure or not.
+  bool hasNumber(Setting setting) const { return entry(setting).number.has_value(); }
   /// A scale as the instrument writes it, "500.0 mV".
   std::optional<std::string> caption(Setting scale) const;
   std::optional<double> voltsPerDivision(int channel) const;
@@ -156,6 +164,8 @@ class KnownInstrument {
   std::function<Sureness(int)> sureness_;
   std::array<Entry, settingCount> entries_;
   Moment now_ = 1;
+  bool isUpset_ = false;
+  Moment upsetAt_ = 0;
   std::optional<Line> readOn_;
   /// The newest request that brought a new sweep; its channel and line.
   Moment sweptAt_ = 0;

@@ -40,9 +40,15 @@ enum class Setting : std::size_t {
   /// Numbers of the entries in the acquisition dialog.
   acquireMode,
   acquireAverage,
-  acquireLength
+  acquireLength,
+  /// Numbers of the entries, and the numbers, in the trigger dialog's advanced group.
+  advancedMode,
+  advancedType,
+  advancedEvent,
+  advancedLevel,
+  advancedDelay
 };
-constexpr std::size_t settingCount = 21;
+constexpr std::size_t settingCount = 26;
 
 /// The setting of channel 1 or 2 out of a pair.
 constexpr Setting ofChannel(Setting first, int channel) {

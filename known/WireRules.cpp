@@ -16,18 +16,32 @@ struct HeaderRule {
 };
 
 /// Commands that set what their header names; most are queries, too.
-constexpr std::array settingHeaders = {
-    HeaderRule{"CHAN1:DISP", display1},   HeaderRule{"CHAN2:DISP", display2},
-    HeaderRule{"CHAN1:SCAL", scale1},     HeaderRule{"CHAN2:SCAL", scale2},
-    HeaderRule{"CHAN1:OFFS", position1},  HeaderRule{"CHAN2:OFFS", position2},
-    HeaderRule{"CHAN1:PROB", probe1},     HeaderRule{"CHAN2:PROB", probe2},
-    HeaderRule{"CHAN1:MATH", math},       HeaderRule{"CHAN2:MATH", math},
-    HeaderRule{"TIM:SCAL", timeBase},     HeaderRule{"TIM:DEL", delay},
-    HeaderRule{"TRIG:MOD", triggerMode},  HeaderRule{"TRIG:SOUR", triggerSource},
-    HeaderRule{"TRIG:LEV", triggerLevel}, HeaderRule{"RUN", running},
-    HeaderRule{"STOP", running},          HeaderRule{"SYST:UNL", lock},
-    HeaderRule{"ACQ:MOD", acquireMode},   HeaderRule{"ACQ:AVER", acquireAverage},
-    HeaderRule{"ACQ:LEN", acquireLength}};
+constexpr std::array settingHeaders = {HeaderRule{"CHAN1:DISP", display1},
+                                       HeaderRule{"CHAN2:DISP", display2},
+                                       HeaderRule{"CHAN1:SCAL", scale1},
+                                       HeaderRule{"CHAN2:SCAL", scale2},
+                                       HeaderRule{"CHAN1:OFFS", position1},
+                                       HeaderRule{"CHAN2:OFFS", position2},
+                                       HeaderRule{"CHAN1:PROB", probe1},
+                                       HeaderRule{"CHAN2:PROB", probe2},
+                                       HeaderRule{"CHAN1:MATH", math},
+                                       HeaderRule{"CHAN2:MATH", math},
+                                       HeaderRule{"TIM:SCAL", timeBase},
+                                       HeaderRule{"TIM:DEL", delay},
+                                       HeaderRule{"TRIG:MOD", triggerMode},
+                                       HeaderRule{"TRIG:SOUR", triggerSource},
+                                       HeaderRule{"TRIG:LEV", triggerLevel},
+                                       HeaderRule{"RUN", running},
+                                       HeaderRule{"STOP", running},
+                                       HeaderRule{"SYST:UNL", lock},
+                                       HeaderRule{"ACQ:MOD", acquireMode},
+                                       HeaderRule{"ACQ:AVER", acquireAverage},
+                                       HeaderRule{"ACQ:LEN", acquireLength},
+                                       HeaderRule{"TRIG:ADV:MOD", advancedMode},
+                                       HeaderRule{"TRIG:ADV:TYP", advancedType},
+                                       HeaderRule{"TRIG:ADV:EVEN", advancedEvent},
+                                       HeaderRule{"TRIG:ADV:LEV", advancedLevel},
+                                       HeaderRule{"TRIG:ADV:DEL", advancedDelay}};
 
 /// Commands of which only that they change something is of account.
 constexpr std::array touchingHeaders = {
@@ -39,9 +53,9 @@ constexpr std::array touchingHeaders = {
 constexpr std::array<std::string_view, 2> resettingHeaders = {"AUT", "*RST"};
 
 /// Commands that leave alone what the panel shows, by how they begin.
-constexpr std::array<std::string_view, 14> harmlessBeginnings = {
-    "ACQ:",      "ACQ1:",    "ACQ2:",     "DISP:",     "MEAS:", "SIM:", "TRIG:SLOP",
-    "TRIG:COUP", "TRIG:REJ", "TRIG:NREJ", "TRIG:ADV:", "*CLS",  "*ESE", "*SRE"};
+constexpr std::array<std::string_view, 13> harmlessBeginnings = {
+    "ACQ:",      "ACQ1:",    "ACQ2:",     "DISP:", "MEAS:", "SIM:", "TRIG:SLOP",
+    "TRIG:COUP", "TRIG:REJ", "TRIG:NREJ", "*CLS",  "*ESE",  "*SRE"};
 
 template <class Rules>
 std::optional<Setting> settingIn(const Rules& rules, const std::string& header) {

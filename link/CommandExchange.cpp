@@ -2,7 +2,6 @@
 #include "CommandExchange.h"
 
 #include <optional>
-#include <utility>
 
 #include "Numbers.h"
 

@@ -23,7 +23,7 @@ void Autoset::cmdAutoset_Click() {
     acquisition_.StopAcq();
     exchange_.SendDSOCmd(":AUT");
     message_.showProgress(duration);
-    Delay(main_, duration);
+    waitUntilItIsOver();
     instrument_.InitDSO();
     acquisition_.ResumeAcq();
     hideMessage();
@@ -32,6 +32,16 @@ void Autoset::cmdAutoset_Click() {
     hideMessage();
     errorLog_.ErrLog(error, "cmdAutoset_Click : ");
   }
+}
+
+void Autoset::waitUntilItIsOver() {
+  struct Upset {
+    KnownInstrument& known;
+    ~Upset() { known.upsetIsOver(); }
+  };
+  main_.known.upset();
+  const Upset upset{main_.known};
+  Delay(main_, duration);
 }
 
 void Autoset::hideMessage() {

@@ -21,6 +21,7 @@ class Autoset {
   bool isUnderWay(const Property<std::string>& caption) const;
 
  private:
+  void waitUntilItIsOver();
   void hideMessage();
 
   frmDSO& main_;

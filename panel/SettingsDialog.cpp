@@ -14,10 +14,6 @@ SettingsDialog::SettingsDialog(std::string name, std::string captionText, frmDSO
       main_(main),
       acquisition_(acquisition) {}
 
-void SettingsDialog::showMarks() const {
-  if (isVisible()) unanswered_.showMarks();
-}
-
 void SettingsDialog::edit(Fetching fetching, const Step& fill, const Step& send) {
   // Otherwise it would send what was chosen the time before.
   if (isVisible()) return;

@@ -14,9 +14,6 @@ namespace tracewell {
 /// OK what the user has chosen is sent.
 class SettingsDialog : public Window {
  public:
-  /// Repaints the marks that have changed.
-  void showMarks() const;
-
  protected:
   SettingsDialog(std::string name, std::string caption, frmDSO& main, Acquisition& acquisition);
 

@@ -6,7 +6,6 @@
 namespace tracewell {
 
 void Unanswered::watch(Control& control) {
-  watched_.push_back(&control);
   control.trust = [this, &control] {
     const auto noted = holds_.find(&control);
     return noted == holds_.end() || noted->second() ? Trust::holds : Trust::unread;
@@ -14,11 +13,12 @@ void Unanswered::watch(Control& control) {
   control.chosen = [this, &control] { settle(control); };
 }
 
-/// Behind a line that has failed there may be another instrument.
+/// Behind a line that has failed there may be another instrument; an autoset changes all settings.
 void Unanswered::note(Control& control, bool isAnswered) {
-  note(control, [this, isAnswered, line = known_.presentLine(), reply = port_.lastReply()] {
-    return isAnswered && port_.isSure(reply) && line == known_.presentLine() &&
-           port_.report().failure.empty();
+  note(control, [this, isAnswered, line = known_.presentLine(), since = known_.upsetAt(),
+                 reply = port_.lastReply()] {
+    return isAnswered && port_.isSure(reply) && line == known_.presentLine() && !known_.isUpset() &&
+           since == known_.upsetAt() && port_.report().failure.empty();
   });
 }
 
@@ -30,11 +30,6 @@ void Unanswered::note(Control& control, std::function<bool()> holds) {
 void Unanswered::settle(Control& control) {
   holds_.erase(&control);
   control.notifyChanged();
-}
-
-void Unanswered::showMarks() const {
-  for (Control* control : watched_)
-    if (control->trust() != control->painted) control->notifyChanged();
 }
 
 }  // namespace tracewell

@@ -3,7 +3,6 @@
 
 #include <functional>
 #include <map>
-#include <vector>
 
 #include "Control.h"
 #include "KnownInstrument.h"
@@ -27,13 +26,10 @@ class Unanswered {
   void note(Control& control, std::function<bool()> holds);
   /// It shows what the user wants, or has the panel's own value.
   void settle(Control& control);
-  /// Repaints what has become sure since, or is no longer.
-  void showMarks() const;
 
  private:
   const SerialPort& port_;
   const KnownInstrument& known_;
-  std::vector<Control*> watched_;
   std::map<const Control*, std::function<bool()>> holds_;
 };
 

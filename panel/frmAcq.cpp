@@ -10,9 +10,9 @@
 namespace tracewell {
 namespace {
 
-/// Of each box.
-constexpr std::array settings = {Setting::acquireMode, Setting::acquireAverage,
-                                 Setting::acquireLength};
+/// In the order of the boxes.
+constexpr std::array acquireSettings = {Setting::acquireMode, Setting::acquireAverage,
+                                        Setting::acquireLength};
 
 }  // namespace
 
@@ -22,8 +22,8 @@ frmAcq::frmAcq(frmDSO& main, CommandExchange& exchange, ErrorLog& errorLog,
       exchange_(exchange),
       errorLog_(errorLog),
       captions_(captions) {
-  // Set at loading only: a Cancel after an OK sends the row again.
   for (ComboBox* box : boxes()) unanswered_.watch(*box);
+  // Set at loading only: a Cancel after an OK sends the row again.
   formLoad = [this] { outcome = Outcome::cancelled; };
   cbMode.click = [this] { cbMode_Click(); };
   cmdOK.click = [this] { cmdOK_Click(); };
@@ -42,11 +42,11 @@ void frmAcq::cmdAcq_Click() {
 /// The instrument is not asked.
 void frmAcq::showSettings() {
   int column = SetupTable::firstValue;
-  auto setting = settings.begin();
+  auto setting = acquireSettings.begin();
   for (ComboBox* box : boxes()) {
     box->listIndex = main_.gridMeasure.number(SetupTable::acquire, column++);
     unanswered_.note(*box, [this, box, its = *setting++] {
-      return main_.known.number(its) == box->listIndex();
+      return box->listIndex() >= 0 && main_.known.number(its) == box->listIndex();
     });
   }
 }

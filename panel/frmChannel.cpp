@@ -75,7 +75,7 @@ void frmChannel::show(int place, const std::string& reply) {
     showOption(fmProbe, obProbe, reply, place);
   } else {
     if (isNumeric(reply)) cbCh(place).value = toInt16(reply);
-    unanswered_.note(cbCh(place), isNumeric(reply));
+    unanswered_.note(cbCh(place), reply == "0" || reply == "1");
   }
 }
 
@@ -88,7 +88,7 @@ void frmChannel::showOption(Frame& group, ControlArray<OptionButton>& options,
     options(toInt16(reply)).value = true;
   else if (std::ranges::none_of(options, isSelected))
     selectKept(options, SetupTable::columnOf(place));
-  unanswered_.note(group, isNumeric(reply));
+  unanswered_.note(group, isWholeNumber(reply));
 }
 
 void frmChannel::selectKept(ControlArray<OptionButton>& options, int column) {

@@ -67,7 +67,9 @@ void frmDisplay::readBrightness(Slide& slide, std::size_t setting) {
   const std::string reply = exchange_.SendDSOCmd(std::string(BrightQuery[setting]) + "?");
   slide.value = toDouble(
       isNumeric(reply) ? reply : main_.gridMeasure.text(SetupTable::display, column(setting)));
-  unanswered_.note(slide, isNumeric(reply));
+  const bool isShown =
+      slide.value() >= slide.range().minimum && slide.value() <= slide.range().maximum;
+  unanswered_.note(slide, isNumeric(reply) && isShown);
 }
 
 /// One attempt each, unlike the channel and trigger settings: the panel reads what the instrument

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "frmTrig.h"
 
+#include <array>
+
 #include "Inquiry.h"
 #include "Numbers.h"
 #include "SettingsQueries.h"
@@ -8,6 +10,14 @@
 #include "WaitingNotice.h"
 
 namespace tracewell {
+namespace {
+
+/// In the order of the boxes.
+constexpr std::array advancedSettings = {Setting::advancedMode, Setting::advancedType,
+                                         Setting::advancedEvent, Setting::advancedLevel,
+                                         Setting::advancedDelay};
+
+}  // namespace
 
 frmTrig::frmTrig(frmDSO& main, CommandExchange& exchange, Acquisition& acquisition,
                  SettingsBurst& burst)
@@ -65,7 +75,7 @@ void frmTrig::readSettings() {
     const std::string reply = exchange_.SendDSOCmd(query + "?");
     echoReply(main_, reply);
     cbTrig(i).listIndex = indexOf(reply, SetupTable::trigger, i);
-    unanswered_.note(cbTrig(i), isNumeric(reply));
+    unanswered_.note(cbTrig(i), isWholeNumber(reply));
   }
 }
 
@@ -80,7 +90,7 @@ void frmTrig::readAdvancedSettings() {
   for (ComboBox& box : cbTrigAdv) {
     const std::string reply = askNext();
     box.listIndex = indexOf(reply, SetupTable::advancedTrigger, box.index());
-    unanswered_.note(box, isNumeric(reply));
+    unanswered_.note(box, isWholeNumber(reply));
   }
   for (TextBox& box : txtTrigAdv) {
     box.text = askNext();
@@ -90,15 +100,20 @@ void frmTrig::readAdvancedSettings() {
 
 /// The instrument is not asked. Where they cannot be chosen they say nothing of it.
 void frmTrig::showStoredAdvancedSettings() {
-  const auto holds = [this] { return !fmAdv.enabled(); };
   int column = SetupTable::firstValue;
+  auto setting = advancedSettings.begin();
   for (ComboBox& box : cbTrigAdv) {
     box.listIndex = main_.gridMeasure.number(SetupTable::advancedTrigger, column++);
-    unanswered_.note(box, holds);
+    unanswered_.note(box, [this, &box, its = *setting++] {
+      return !fmAdv.enabled() || main_.known.number(its) == box.listIndex();
+    });
   }
   for (TextBox& box : txtTrigAdv) {
     box.text = main_.gridMeasure.text(SetupTable::advancedTrigger, column++);
-    unanswered_.note(box, holds);
+    unanswered_.note(box, [this, &box, its = *setting++] {
+      return !fmAdv.enabled() ||
+             (isNumeric(box.text()) && main_.known.number(its) == toDouble(box.text()));
+    });
   }
 }
 
@@ -118,7 +133,7 @@ void frmTrig::cbTrig_Click(int box) {
   sendsAdvanced_ = box == modeBox && isAdvanced();
   if (box == modeBox) {
     fmAdv.enabled = isAdvanced();
-    unanswered_.showMarks();
+    showMarks();
   }
   main_.gridMeasure.setText(SetupTable::trigger, SetupTable::columnOf(box),
                             std::to_string(cbTrig(box).listIndex()));

@@ -184,6 +184,10 @@
         <translation>(%1 déjà mesurés)</translation>
     </message>
     <message>
+        <source>(of several ports)</source>
+        <translation>(de plusieurs ports)</translation>
+    </message>
+    <message>
         <source>1 record</source>
         <translation>1 enregistrement</translation>
     </message>
@@ -810,6 +814,10 @@
     <message>
         <source>It lies over the live traces now</source>
         <translation>Il est maintenant superposé aux traces en direct</translation>
+    </message>
+    <message>
+        <source>It may be the reply to another question</source>
+        <translation>C’est peut-être la réponse à une autre question</translation>
     </message>
     <message>
         <source>Keep what has been set</source>

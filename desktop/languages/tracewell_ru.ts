@@ -184,6 +184,10 @@
         <translation>(пока измерено %1)</translation>
     </message>
     <message>
+        <source>(of several ports)</source>
+        <translation>(с разных портов)</translation>
+    </message>
+    <message>
         <source>1 record</source>
         <translation>1 запись</translation>
     </message>
@@ -810,6 +814,10 @@
     <message>
         <source>It lies over the live traces now</source>
         <translation>Теперь она поверх живых осциллограмм</translation>
+    </message>
+    <message>
+        <source>It may be the reply to another question</source>
+        <translation>Возможно, это ответ на другой запрос</translation>
     </message>
     <message>
         <source>Keep what has been set</source>

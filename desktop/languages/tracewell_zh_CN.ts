@@ -184,6 +184,10 @@
         <translation>（已测量 %1 条）</translation>
     </message>
     <message>
+        <source>(of several ports)</source>
+        <translation>（来自多个端口）</translation>
+    </message>
+    <message>
         <source>1 record</source>
         <translation>1 条记录</translation>
     </message>
@@ -810,6 +814,10 @@
     <message>
         <source>It lies over the live traces now</source>
         <translation>现已叠加在实时波形上</translation>
+    </message>
+    <message>
+        <source>It may be the reply to another question</source>
+        <translation>这可能是对另一个查询的应答</translation>
     </message>
     <message>
         <source>Keep what has been set</source>

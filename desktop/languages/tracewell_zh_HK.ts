@@ -184,6 +184,10 @@
         <translation>（已測量 %1 條）</translation>
     </message>
     <message>
+        <source>(of several ports)</source>
+        <translation>（嚟自多個連接埠）</translation>
+    </message>
+    <message>
         <source>1 record</source>
         <translation>1 條記錄</translation>
     </message>
@@ -810,6 +814,10 @@
     <message>
         <source>It lies over the live traces now</source>
         <translation>而家已經疊喺即時波形上面</translation>
+    </message>
+    <message>
+        <source>It may be the reply to another question</source>
+        <translation>呢個可能係對另一個查詢嘅應答</translation>
     </message>
     <message>
         <source>Keep what has been set</source>
@@ -1533,7 +1541,7 @@
     </message>
     <message>
         <source>The cursors were read in another scale</source>
-        <translation>游標讀數是按另一檔位得出的</translation>
+        <translation>游標讀數係按另一檔位計嘅</translation>
     </message>
     <message>
         <source>The data file</source>
@@ -1565,7 +1573,7 @@
     </message>
     <message>
         <source>The knob stands there already: turn it away and back to send its scale</source>
-        <translation>旋鈕已在該處：轉開再轉回才會傳送其檔位</translation>
+        <translation>旋鈕已經喺嗰度：轉開再轉返先會傳送佢嘅檔位</translation>
     </message>
     <message>
         <source>The last question had no answer: press %1</source>

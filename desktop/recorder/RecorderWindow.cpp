@@ -339,9 +339,9 @@ void RecorderWindow::copy() {
 }
 
 /// What has left the store while the user picked the file is not replaced by something else.
-void RecorderWindow::pickFile(const FileDialog& dialog,
+void RecorderWindow::pickFile(const FileDialog& dialog, RecorderView::Still::File file,
                               const std::function<void(const std::filesystem::path&)>& write) {
-  const RecorderView::Still still(view_);
+  const RecorderView::Still still(view_, file);
   const std::filesystem::path path = recorder_.main().services().dialogs.saveFile(dialog);
   // After Cancel it is the name that was offered.
   if (path == dialog.fileName) return;
@@ -352,6 +352,7 @@ void RecorderWindow::pickFile(const FileDialog& dialog,
 void RecorderWindow::exportCsv() {
   pickFile(
       {recorder_.main().services().programFolder, fromQt(panelText("Export")), "", "*.csv|*.csv"},
+      RecorderView::Still::File::table,
       [this](const std::filesystem::path& path) { exportInto(path); });
 }
 
@@ -366,7 +367,8 @@ void RecorderWindow::saveSet() {
                     .filter = fromQt(panelText("Pictures")) + pictureNames};
   dialog.extensions = {"png", "jpg", "bmp", "gif", "pcx", "tif", "csv", "inf"};
   dialog.besides = {"csv", "inf"};
-  pickFile(dialog, [this](const std::filesystem::path& path) { saveSetInto(path); });
+  pickFile(dialog, RecorderView::Still::File::set,
+           [this](const std::filesystem::path& path) { saveSetInto(path); });
 }
 
 void RecorderWindow::saveSetInto(const std::filesystem::path& path) {

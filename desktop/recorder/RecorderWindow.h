@@ -64,7 +64,7 @@ class RecorderWindow : public QWidget {
   void pinOrLetGo();
   void showInPanel();
   void copy();
-  void pickFile(const FileDialog& dialog,
+  void pickFile(const FileDialog& dialog, RecorderView::Still::File file,
                 const std::function<void(const std::filesystem::path&)>& write);
   void exportCsv();
   void saveSet();

@@ -25,8 +25,11 @@ bool isBlank(std::string_view bytes) {
   return std::ranges::all_of(bytes, [](char byte) { return isBlank(byte); });
 }
 
-bool isBlankOrLineEnd(char byte) {
-  return isBlank(byte) || byte == '\n';
+/// Blanks and line ends right behind a record are its own, or were its last samples before it was
+/// shifted. No reply is among them.
+std::string_view withoutRecordEnd(std::string_view bytes) {
+  const auto isOwn = [](char byte) { return isBlank(byte) || byte == '\n'; };
+  return {std::ranges::find_if_not(bytes, isOwn), bytes.end()};
 }
 
 }  // namespace
@@ -181,30 +184,29 @@ void Conversation::hearRecord(const std::string& bytes) {
   if (record_.bytes.size() < record_.count) return restUntilMoreHasCome();
   const std::string behind = record_.bytes.substr(record_.count);
   record_.bytes.resize(record_.count);
+  recordEndAt_ = heardAt_;
   if (owedBytes_ > 0) return refuseRecord(behind);
   state_ = State::recordHeard;
-  behind_.clear();
+  behind_ = 0;
+  clock_.callAfter(settlingTimeOfRecord(), [this, alive = std::weak_ptr(alive_)] {
+    if (!alive.expired()) dispatcher_.dispatch([this] { arrived(); });
+  });
   hearBehindRecord(behind);
 }
 
+/// Anything but a record's own end shows that a late reply may have come first and shifted all.
 void Conversation::hearBehindRecord(std::string_view bytes) {
-  heardAt_ = clock_.milliseconds();
-  behind_ += bytes;
-  if (!std::ranges::all_of(bytes, isBlankOrLineEnd)) return refuseShifted();
-  clock_.callAfter(settlingTime(), [this, alive = std::weak_ptr(alive_)] {
-    if (!alive.expired()) dispatcher_.dispatch([this] { arrived(); });
-  });
-}
-
-/// A late reply in front shifts a record, and the samples of a flat signal are blanks, too. Then
-/// more stands behind it than behind the one before.
-bool Conversation::mayBeShifted() const {
-  return behind_.size() > usuallyBehind_ && replies_.isDue(askedAt_);
-}
-
-void Conversation::refuseShifted() {
+  const std::string_view others = withoutRecordEnd(bytes);
+  behind_ += bytes.size() - others.size();
+  if (others.empty()) return;
   replies_.mayHaveHeardMissing(askedAt_);
-  hearLines(behind_, askedAt_);
+  hearLines(others, askedAt_);
+}
+
+/// The samples of a flat signal are blanks, too: if it was shifted, more stands behind it than
+/// behind others.
+bool Conversation::mayBeShifted() const {
+  return behind_ > usuallyBehind_ && replies_.isDue(askedAt_);
 }
 
 /// The record may be an earlier one that was given up. The outstanding count stays the same: either
@@ -222,7 +224,7 @@ void Conversation::refuseRecord(std::string_view behind) {
     record_.bytes.clear();
     held_.push_front(record_);
   }
-  if (!behind.empty()) hearOwed(behind);
+  if (const auto others = withoutRecordEnd(behind); !others.empty()) hearOwed(others);
 }
 
 /// Rests for nine tenths of the time that the missing bytes take, repeatedly, so that the last
@@ -258,7 +260,10 @@ void Conversation::hearLines(std::string_view bytes, std::int64_t since) {
 /// Bytes that no query waits for belong to outstanding records first, then to lines.
 void Conversation::hearOwed(std::string_view bytes) {
   if (state_ == State::idle && owedBytes_ == 0 && isBlank(bytes)) return;
-  hearLines(bytes.substr(payWith(bytes)), clock_.milliseconds());
+  const std::int64_t now = clock_.milliseconds();
+  const std::string_view others = bytes.substr(payWith(bytes));
+  const bool isBehindRecord = now <= recordEndAt_ + settlingTimeOfRecord();
+  hearLines(isBehindRecord ? withoutRecordEnd(others) : others, now);
 }
 
 /// Takes outstanding records off the front of the bytes. Returns how many bytes these had.
@@ -270,6 +275,7 @@ std::size_t Conversation::payWith(std::string_view bytes) {
   const std::size_t before = records();
   owedBytes_ -= paid;
   isOwedComing_ = true;
+  recordEndAt_ = clock_.milliseconds();
   drainTime_ = std::max(drainTime_, recordDrain);
   for (std::size_t i = records(); i < before; ++i) account_.heardLateRecord(clock_.milliseconds());
   return paid;
@@ -284,7 +290,7 @@ void Conversation::owe() {
 std::int64_t Conversation::trustedAt() const {
   const std::int64_t quietSince = std::max(askedAt_, heardAt_);
   if (state_ == State::recordAwaited) return quietSince + longestThought;
-  if (state_ == State::recordHeard) return heardAt_ + settlingTime();
+  if (state_ == State::recordHeard) return heardAt_ + settlingTimeOfRecord();
   const bool isAllThere = unanswered_ == 0 && owedBytes_ == 0 && !isStray_;
   return quietSince + (isAllThere ? settling : drainTime_);
 }
@@ -300,10 +306,12 @@ void Conversation::review() {
     if (2 * record_.bytes.size() < record_.count) owe();
   }
   if (state_ == State::recordHeard) {
-    const bool isShifted = mayBeShifted();
-    usuallyBehind_ = behind_.size();
-    if (isShifted) return refuseShifted();
-    if (isWanted_) whole_ = std::move(record_);
+    if (mayBeShifted()) {
+      replies_.mayHaveHeardMissing(askedAt_);
+    } else {
+      usuallyBehind_ = behind_;
+      if (isWanted_) whole_ = std::move(record_);
+    }
   }
   const bool isOwedOver = isOwedComing_ && now >= std::max(askedAt_, heardAt_) + recordDrain;
   if (state_ == State::draining && isOwedOver) {
@@ -433,6 +441,11 @@ void Conversation::sendHeld() {
 /// How long after its last byte a reply is sure to be complete. Milliseconds.
 int Conversation::settlingTime() const {
   return settling + static_cast<int>(std::ceil(openSettings_.timeOf(2)));
+}
+
+/// The same of a record, with what usually stands behind it. Milliseconds.
+int Conversation::settlingTimeOfRecord() const {
+  return settlingTime() + static_cast<int>(std::ceil(openSettings_.timeOf(usuallyBehind_)));
 }
 
 }  // namespace tracewell

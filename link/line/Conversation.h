@@ -29,11 +29,11 @@ namespace tracewell {
 /// - A record is pending from its request on, until it is whole or longestThought has passed
 ///   without a byte. Further requests wait, one for each channel. A record counts if only blanks
 ///   and line ends follow it within the settling time; while a reply is missing, no more than
-///   behind the record before.
+///   behind the last record that counted.
 /// - A record that is given up with less than half of its bytes stays outstanding. Others are still
 ///   requested, but the next one that arrives is discarded: it may be the outstanding one. Then the
 ///   line is drained for recordDrain, and the discarded record is requested again first. A reply
-///   proves that no record is outstanding, unless an earlier query went unanswered.
+///   proves that no record is outstanding, unless an earlier reply is missing.
 /// - An unanswered query stays outstanding. While more than one reply is outstanding, an arriving
 ///   line is discarded. Before the next query or record the line is *drained*: until everything
 ///   outstanding has arrived, or it has been quiet for long enough (drainTime). If the line does
@@ -130,7 +130,6 @@ class Conversation {
   void hearRecord(const std::string& bytes);
   void hearBehindRecord(std::string_view bytes);
   bool mayBeShifted() const;
-  void refuseShifted();
   void restUntilMoreHasCome();
   void refuseRecord(std::string_view behind);
   void hearOwed(std::string_view bytes);
@@ -151,6 +150,7 @@ class Conversation {
   void arrived();
   void sendHeld();
   int settlingTime() const;
+  int settlingTimeOfRecord() const;
 
   ChannelOpener& opener_;
   Clock& clock_;
@@ -164,9 +164,11 @@ class Conversation {
   /// The pending record (recordAwaited), and whether it is still wanted.
   LineRecord record_;
   bool isWanted_ = false;
-  /// What has arrived behind it, and how many blanks and line ends did behind the one before.
-  std::string behind_;
+  /// How many blanks and line ends have arrived behind it, and did behind the last that counted.
+  std::size_t behind_ = 0;
   std::size_t usuallyBehind_ = 0;
+  /// When the last byte of a record arrived, also of one that was given up.
+  std::int64_t recordEndAt_ = std::numeric_limits<int>::min();
   /// A record that is whole and not delivered yet.
   std::optional<LineRecord> whole_;
   /// Bytes of records that were given up and may still arrive, and whether any has arrived since

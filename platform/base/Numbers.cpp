@@ -214,6 +214,10 @@ std::string numberText(double value) {
   return text == "-0" ? "0" : text;
 }
 
+bool isWholeNumber(std::string_view text) {
+  return isNumeric(text) && std::nearbyint(toDouble(text)) == toDouble(text);
+}
+
 std::string smallLetters(std::string text) {
   for (char& c : text)
     if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');

@@ -50,6 +50,9 @@ std::string formatDecimals(double value, int decimals);
 /// The shortest decimal text that reads back as the same number, without an exponent.
 std::string numberText(double value);
 
+/// A number without a fraction.
+bool isWholeNumber(std::string_view text);
+
 /// With small letters for A to Z, whatever the locale is.
 std::string smallLetters(std::string text);
 

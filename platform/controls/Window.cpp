@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Window.h"
 
+#include "Control.h"
+
 #include <utility>
 
 namespace tracewell {
@@ -26,6 +28,7 @@ void Window::showModal() {
   services_.gate.leaveToUser();
   load();
   formActivate.raise();
+  showMarks();
   isVisible_ = true;
   services_.windows.showModal(*this);
   services_.gate.mustBeOpen();
@@ -66,6 +69,11 @@ void Window::tellClosed() {
     formClose.raise();
   else
     hide();
+}
+
+void Window::showMarks() const {
+  for (const Control* control : controls_)
+    if (control->trust && control->trust() != control->painted) control->notifyChanged();
 }
 
 }  // namespace tracewell

@@ -48,6 +48,8 @@ class Window : public Observable {
   void hide();
   /// Paints now what has changed, although a handler is running.
   void refresh();
+  /// Repaints the controls whose trust is another than when they were painted. Raises no event.
+  void showMarks() const;
   void unload();
 
   /// The user closes the window with its title bar's button.

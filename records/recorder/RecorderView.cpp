@@ -2,6 +2,7 @@
 #include "RecorderView.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "RecorderWords.h"
@@ -45,16 +46,25 @@ void RecorderView::follow(bool isFollowing) {
   if (isFollowing) recordKept();
 }
 
-RecorderView::Still::Still(RecorderView& view)
-    : view_(view),
-      wasFollowing_(view.isFollowing_),
-      saved_(view.saved()),
-      exported_(view.exported()) {
+RecorderView::Still::Still(RecorderView& view, File file)
+    : view_(view), wasFollowing_(view.isFollowing_) {
+  if (file == File::table && view.isMarked()) {
+    first_ = view.exported().first;
+  } else {
+    for (const auto& number : view.saved()) {
+      if (number && file == File::set)
+        std::ranges::copy(view.drawnOf(*number), std::back_inserter(written_));
+      else if (number)
+        written_.push_back(*number);
+    }
+  }
   view.follow(false);
 }
 
 bool RecorderView::Still::isWhole() const {
-  return view_.saved() == saved_ && view_.exported() == exported_;
+  return first_.value_or(view_.store_.first()) >= view_.store_.first() &&
+         std::ranges::all_of(written_,
+                             [this](Number number) { return view_.store_.isKept(number); });
 }
 
 /// The record that the user selected may have left the store, or its channel may be hidden. The
@@ -101,8 +111,11 @@ std::optional<RecordStore::Number> RecorderView::shownOf(int channel) const {
   if (store_.facts(*pointed).channel == channel) return pointed;
   if (const auto partner = store_.partnerOf(*pointed)) return partner;
   const Number lowest = std::max(store_.first(), *pointed - farthestOther);
-  for (Number other = std::min(*pointed, store_.end()) - 1; other >= lowest; --other)
-    if (store_.facts(other).channel == channel) return other;
+  for (Number other = std::min(*pointed, store_.end()) - 1; other >= lowest; --other) {
+    const RecordFacts& facts = store_.facts(other);
+    if (!(facts.line == store_.facts(*pointed).line)) break;
+    if (facts.channel == channel) return other;
+  }
   return std::nullopt;
 }
 
@@ -246,6 +259,18 @@ std::vector<RecorderView::Line> RecorderView::measurements() const {
   return lines;
 }
 
+/// The simulated instrument has a port of its own.
+bool RecorderView::areOfSeveralPorts(int channel, Number first, Number last) const {
+  std::optional<std::int16_t> port;
+  for (Number one = std::max(first, store_.first()); one <= last; ++one) {
+    const RecordFacts& facts = store_.facts(one);
+    if (facts.channel != channel) continue;
+    if (port.value_or(facts.line.portNumber) != facts.line.portNumber) return true;
+    port = facts.line.portNumber;
+  }
+  return false;
+}
+
 std::string RecorderView::statisticsTitle(int channel) const {
   Stretch part = stretch();
   part.channel = channel;
@@ -257,6 +282,8 @@ std::string RecorderView::statisticsTitle(int channel) const {
   std::string text =
       words_.say("%1: %2, %3 to %4", {channelName(channel), recordsText(words_, result.records),
                                       time(result.first), time(result.last)});
+  if (areOfSeveralPorts(channel, result.first, result.last))
+    text += " " + words_.say("(of several ports)");
   if (result.measured < result.records)
     text += " " + words_.say("(%1 measured so far)", {number(result.measured)});
   return text;

@@ -64,7 +64,8 @@ class RecorderView {
   /// seen is what he gets a file of.
   class Still {
    public:
-    explicit Still(RecorderView& view);
+    enum class File { set, table };
+    Still(RecorderView& view, File file);
     ~Still() { view_.follow(wasFollowing_); }
     Still(const Still&) = delete;
     /// False once a record that would be in the file has left the store.
@@ -73,8 +74,9 @@ class RecorderView {
    private:
     RecorderView& view_;
     bool wasFollowing_;
-    RecordsOfSet saved_;
-    Stretch exported_;
+    /// Single ones, which may be pinned, and the first of a stretch, which goes first.
+    std::vector<Number> written_;
+    std::optional<Number> first_;
   };
 
   // What is drawn
@@ -114,6 +116,7 @@ class RecorderView {
   /// The next record of the channels that are shown, in one direction; none at the end.
   std::optional<Number> nextShown(Number from, int direction) const;
   bool isShown(int channel) const { return channel_ == 0 || channel_ == channel; }
+  bool areOfSeveralPorts(int channel, Number first, Number last) const;
   std::vector<Number> drawnOf(Number newest) const;
   std::vector<DrawnRecords> drawn() const;
 

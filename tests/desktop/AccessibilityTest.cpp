@@ -109,7 +109,11 @@ TEST_F(AccessibilityTest, EveryFormHasAWindowAndEveryControlARoleAndAName) {
 }
 
 TEST_F(AccessibilityTest, WhatChangesIsTold) {
+  // That it is pale until it has been sent is told, too.
+  main.slideTime.drag(1);
+  heard.clear();
   main.knobChan1.turn(7);
+  heard.erase(std::unique(heard.begin(), heard.end()), heard.end());
   EXPECT_EQ(heard, (Lines{"knobChan1 = 7", "knobChan1: 500 mV"}));
   for (const auto& [detent, text] : std::map<int, std::string>{
            {0, "2 ns"}, {5, "100 ns"}, {8, "1 \u00b5s"}, {16, "500 \u00b5s"}, {28, "5 s"}}) {
@@ -151,6 +155,8 @@ TEST_F(AccessibilityTest, MarkKeepsTheDescription) {
   const QString own = QStringLiteral("Sum or difference of the channels");
   for (const auto& [trust, said] :
        {std::pair(Trust::unread, own + ". The instrument may have another value"),
+        {Trust::holds, own},
+        {Trust::stale, own + ". The instrument may have another value"},
         {Trust::holds, own}}) {
     main.cbMath.trust = [told = trust] { return told; };
     main.cbMath.notifyChanged();

@@ -73,7 +73,7 @@ TEST_F(RecorderViewTest, StepsThroughTheRecordsOfTheChannelsThatAreShown) {
     EXPECT_EQ(view.selected(), reached) << channel;
   }
   {
-    const RecorderView::Still still(view);
+    const RecorderView::Still still(view, RecorderView::Still::File::set);
     keepLevel(1, 500);
     EXPECT_EQ(view.selected(), 8);
     EXPECT_TRUE(still.isWhole());
@@ -86,9 +86,16 @@ TEST_F(RecorderViewTest, ARecordThatGoesOutOfTheStoreIsPointedAtNoLonger) {
   const auto second = keepLevel(1, 2);
   view.mark(0, second);
   view.select(second);
-  const RecorderView::Still still(view);
+  using Still = RecorderView::Still;
+  const Still table(view, Still::File::table);
+  const Still set(view, Still::File::set);
+  view.select(0);
+  const Still pinned(view, Still::File::set);
+  view.select(second);
   for (int i = 0; i < 10001; ++i) keepLevel(1, 10 + i % 7);
-  EXPECT_FALSE(still.isWhole());
+  EXPECT_FALSE(table.isWhole());
+  EXPECT_FALSE(set.isWhole());
+  EXPECT_TRUE(pinned.isWhole());
   EXPECT_EQ(view.selected(), store.first());
   EXPECT_FALSE(view.isMarked());
   view.select(0);
@@ -119,6 +126,22 @@ TEST_F(RecorderViewTest, ARecordOfAChannelThatIsNotShownIsPointedAtNever) {
   EXPECT_FALSE(view.selected());
   view.select(store.first());
   EXPECT_EQ(view.channel(), 0);
+}
+
+TEST_F(RecorderViewTest, NothingStandsBesideARecordOfAnotherInstrument) {
+  next.line = {33, 1};
+  keepLevel(1, 1);
+  const auto other = keepLevel(2, 2);
+  EXPECT_EQ(view.shownOf(1), 0);
+  while (view.measureMore(1)) continue;
+  EXPECT_TRUE(view.statisticsTitle(1).find("ports") == std::string::npos);
+  next.line = {34, 2};
+  keepLevel(1, 3);
+  EXPECT_FALSE(view.shownOf(2));
+  while (view.measureMore(1)) continue;
+  EXPECT_TRUE(view.statisticsTitle(1).ends_with("(of several ports)"));
+  view.select(other);
+  EXPECT_EQ(view.shownOf(1), 0);
 }
 
 TEST_F(RecorderViewTest, SaysVoltsAndSecondsWhereTheScalesAreKnown) {

@@ -93,7 +93,7 @@ void Cursors::UpdateCursorReadout() {
   const Shown shown{main_.graphDSO, axis};
   main_.readout = {};
   if (main_.opOff.value()) {
-    axis.caption = "Time";
+    axis.caption = nameOfTimeAxis;
     return;
   }
   const ValueLabel& scale = scaleOfReadout(main_);

@@ -88,8 +88,7 @@ void PanelMarks::trustSlide(Slide& slide, Setting setting) {
 
 void PanelMarks::show() {
   showKnown();
-  for (const Control* control : main_.controls())
-    if (control->trust && control->trust() != control->painted) control->notifyChanged();
+  main_.showMarks();
   showTraces();
   showHint();
   main_.status.tellAgain();

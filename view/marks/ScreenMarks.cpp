@@ -43,14 +43,10 @@ void addMathName(std::vector<GraphMarks::Text>& names, const frmDSO& main, const
     names.push_back({channel.number, main.cbMath.items().at(static_cast<std::size_t>(*entry))});
 }
 
-/// Nothing else tells at which scale a reference was made.
 void addReferenceName(std::vector<GraphMarks::Text>& names, const frmDSO& main, int number) {
   const Plot& plot = main.graphDSO.plot(number);
-  const Words& words = main.services().words;
-  if (!plot.isShown()) return;
-  names.push_back({number, plot.scale().empty()
-                               ? words.say("%1: scale not known", {plot.label()})
-                               : words.say("%1: made at %2", {plot.label(), plot.scale()})});
+  if (plot.isShown())
+    names.push_back({number, referenceText(main.services().words, plot.label(), plot.scale())});
 }
 
 /// A phase between two sweeps means nothing.

@@ -2,7 +2,7 @@
 #include "TraceBanner.h"
 
 #include <algorithm>
-#include <array>
+#include <functional>
 
 #include "TraceMarks.h"
 
@@ -30,16 +30,19 @@ std::int64_t secondsToProve(const frmDSO& main) {
       (main.services().port.report().sureAt.value_or(now) - now + 999) / 1000, 1);
 }
 
-/// The trace needs this scale, and that is not known; or would be but for such a reply.
-bool isMissing(const frmDSO& main, Setting scale, bool isButForProof) {
-  return !main.known.number(scale) &&
-         isButForProof == (main.known.doubt(scale) == Doubt::unsureAnswer);
+/// Such a reply has told a scale: it will be known.
+bool willBeKnown(const frmDSO& main, Setting scale) {
+  return main.known.doubt(scale) == Doubt::unsureAnswer && main.known.hasNumber(scale);
 }
 
-bool isScaleMissing(const frmDSO& main, const Channel& channel, bool isButForProof) {
-  const bool needsVolts = !channel.record.madeUnder.mathEntry;
-  return isMissing(main, Setting::timeBase, isButForProof) ||
-         (needsVolts && isMissing(main, ofChannel(Setting::scale1, channel.number), isButForProof));
+/// A trace needs a scale for which this holds.
+bool isScaleLacking(const frmDSO& main, const std::function<bool(Setting)>& isLacking) {
+  const auto needsIt = [&](const Channel& channel) {
+    const bool needsVolts = !channel.record.madeUnder.mathEntry;
+    return isLacking(Setting::timeBase) ||
+           (needsVolts && isLacking(ofChannel(Setting::scale1, channel.number)));
+  };
+  return firstTrace(main, needsIt) != nullptr;
 }
 
 /// The button also stops what runs.
@@ -73,13 +76,12 @@ std::string warning(const frmDSO& main, const Words& words) {
   const auto isLateNow = [&](const Channel& channel) { return isLate(main, channel); };
   if (const Channel* const late = firstTrace(main, isLateNow))
     return ageText(words, *late, main.services().clock.milliseconds());
-  const auto hasNoScale = [&](bool isButForProof) {
-    return firstTrace(main, [&, isButForProof](const Channel& channel) {
-      return isScaleMissing(main, channel, isButForProof);
-    });
+  const auto isMissing = [&](Setting scale) { return !main.known.number(scale); };
+  const auto isMissingForGood = [&](Setting scale) {
+    return isMissing(scale) && !willBeKnown(main, scale);
   };
-  if (hasNoScale(false)) return toRead(main, words);
-  if (hasNoScale(true))
+  if (isScaleLacking(main, isMissingForGood)) return toRead(main, words);
+  if (isScaleLacking(main, isMissing))
     return words.say("A reply is missing: the scales are certain in %1 s",
                      {std::to_string(secondsToProve(main))});
   const auto mayBeMath = [](const Channel& channel) {

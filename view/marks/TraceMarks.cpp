@@ -156,19 +156,29 @@ const Channel& channelOfReadout(const frmDSO& main) {
   return main.channel(main.cbCurChan.text() == "1" ? 1 : 2);
 }
 
+std::string referenceText(const Words& words, const std::string& label, const std::string& scale) {
+  return scale.empty() ? words.say("%1: scale not known", {label})
+                       : words.say("%1: made at %2", {label, scale});
+}
+
 const ValueLabel& scaleOfReadout(const frmDSO& main) {
   return main.opTime.value() ? main.lblTime : channelOfReadout(main).scale;
 }
 
+/// Before one has been counted the axis has its name.
+bool isReadOut(const frmDSO& main) {
+  return !main.opOff.value() && main.graphDSO.axis("XAxis").caption() != nameOfTimeAxis;
+}
+
 bool isReadoutOfOtherScale(const frmDSO& main) {
   const ValueLabel& scale = scaleOfReadout(main);
-  return !main.opOff.value() &&
+  return isReadOut(main) &&
          (main.readout.scale != &scale || main.readout.caption != scale.caption());
 }
 
 bool isReadoutPale(const frmDSO& main) {
-  if (main.opOff.value()) return false;
-  if (isReadoutOfOtherScale(main)) return true;
+  if (!isReadOut(main)) return false;
+  if (isReadoutOfOtherScale(main) || scaleOfReadout(main).trust() != Trust::holds) return true;
   if (main.opTime.value()) return !secondsOfTraces(main);
   return !voltsOfTrace(main, channelOfReadout(main));
 }

@@ -57,8 +57,14 @@ bool isPale(const frmDSO& main, const Channel& channel);
 /// is of its own sweep, and the time between them means nothing.
 bool areOfOneSweep(const frmDSO& main);
 
+/// The caption of the x axis while nothing is read out.
+constexpr const char* nameOfTimeAxis = "Time";
+
 /// The channel in whose volts the cursors are read out.
 const Channel& channelOfReadout(const frmDSO& main);
+
+/// Says of a reference at which scale it was made: nothing else tells.
+std::string referenceText(const Words& words, const std::string& label, const std::string& scale);
 
 /// The scale in which they are read out: that of this channel, or the time base.
 const ValueLabel& scaleOfReadout(const frmDSO& main);

@@ -6,6 +6,7 @@
 #include <optional>
 #include <vector>
 
+#include "Numbers.h"
 #include "TraceMarks.h"
 #include "TrueNumbers.h"
 #include "WaveformRecord.h"
@@ -59,10 +60,6 @@ std::string channelsWithoutRecord(const frmDSO& main) {
   return names;
 }
 
-void append(std::string& text, const std::string& said) {
-  text += (text.empty() ? "" : "; ") + said;
-}
-
 std::string sentence(const Words& words, const Written& written) {
   const std::string made =
       written.made ? captionOf(*written.made, written.caption.ends_with('s')) : "";
@@ -71,14 +68,15 @@ std::string sentence(const Words& words, const Written& written) {
   return words.say("%1: recorded at %2, not at %3", {written.name, made, written.caption});
 }
 
-}  // namespace
+using Sentences = std::vector<StatusLine::Sentence>;
 
-StatusLine::Sentence scalesNotOfTraces(const frmDSO& main) {
-  std::vector<Written> others;
+void addScalesOfTraces(Sentences& sentences, const frmDSO& main) {
   const auto add = [&](const std::string& name, const ValueLabel& label, std::string_view unit,
                        std::optional<double> made) {
+    const Written written{name, label.caption(), made};
     const bool isOfTrace = made && trueScale(label.caption(), unit) == made;
-    if (!isOfTrace) others.push_back({name, label.caption(), made});
+    if (!isOfTrace)
+      sentences.push_back([written](const Words& words) { return sentence(words, written); });
   };
   for (const Channel& channel : main.channels) {
     if (!hasTrace(channel)) continue;
@@ -86,30 +84,96 @@ StatusLine::Sentence scalesNotOfTraces(const frmDSO& main) {
     add(channel.display.caption(), channel.scale, "V", made.voltsPerDivision);
     add(channel.display.caption(), main.lblTime, "s", made.secondsPerDivision);
   }
-  const bool isReadoutOther = isReadoutOfOtherScale(main);
-  if (others.empty() && !isReadoutOther) return {};
-  return [others, isReadoutOther](const Words& words) {
+}
+
+/// Those of the window are written without traces, too.
+void addScalesWithoutTrace(Sentences& sentences, const frmDSO& main) {
+  const auto add = [&](const std::string& name, const ValueLabel& label) {
+    if (label.trust() != Trust::holds)
+      sentences.push_back(
+          [name](const Words& words) { return words.say("%1: scale not known", {name}); });
+  };
+  for (const Channel& channel : main.channels) {
+    const bool isReadOut = main.opVoltage.value() && &channelOfReadout(main) == &channel;
+    if (!hasTrace(channel) && (channel.isDisplayed || isReadOut))
+      add(channel.display.caption(), channel.scale);
+  }
+  if (std::ranges::none_of(main.channels, hasTrace)) add(main.fmTime.caption(), main.lblTime);
+}
+
+/// References were made at scales of their own.
+void addReferences(Sentences& sentences, const frmDSO& main) {
+  for (int number = ScopeGraph::firstReference; number <= ScopeGraph::plotCount; ++number) {
+    const Plot& plot = main.graphDSO.plot(number);
+    const bool isAsAll = std::ranges::all_of(main.channels, [&](const Channel& channel) {
+      return !channel.isDisplayed || channel.scale.caption() == plot.scale();
+    });
+    if (plot.isShown() && !isAsAll)
+      sentences.push_back([label = plot.label(), scale = plot.scale()](const Words& words) {
+        return referenceText(words, label, scale);
+      });
+  }
+}
+
+void addReadout(Sentences& sentences, const frmDSO& main) {
+  if (isReadoutOfOtherScale(main))
+    sentences.push_back(
+        [](const Words& words) { return words.say("The cursors were read in another scale"); });
+}
+
+void addPositions(Sentences& sentences, const frmDSO& main) {
+  for (const WrittenPosition& other : positionsNotOfTraces(main))
+    sentences.push_back([other](const Words& words) {
+      return words.say("%1: drawn at position %2, not at %3",
+                       {other.name, numberText(other.drawn), numberText(other.written)});
+    });
+  // Nobody has touched it.
+  if (main.known.doubt(Setting::delay) == Doubt::neverRead) return;
+  const std::string& caption = main.slideTime.caption();
+  const std::string name(trimBlanks(caption.substr(0, caption.find(':'))));
+  const Written time{name, numberText(main.slideTime.value()) + " Div", std::nullopt};
+  if (main.slideTime.trust() != Trust::holds)
+    sentences.push_back([time](const Words& words) { return sentence(words, time); });
+}
+
+void addMissingRecords(Sentences& sentences, const frmDSO& main) {
+  const std::string missing = channelsWithoutRecord(main);
+  if (!missing.empty())
+    sentences.push_back([missing](const Words& words) {
+      return words.say("The .csv is empty: no whole record of %1", {missing});
+    });
+}
+
+StatusLine::Sentence joined(const Sentences& sentences) {
+  if (sentences.empty()) return {};
+  return [sentences](const Words& words) {
     std::string text;
-    for (const Written& written : others) append(text, sentence(words, written));
-    if (isReadoutOther) append(text, words.say("The cursors were read in another scale"));
+    for (const StatusLine::Sentence& said : sentences)
+      text += (text.empty() ? "" : "; ") + said(words);
     return text;
   };
 }
 
+Sentences scales(const frmDSO& main) {
+  Sentences sentences;
+  addScalesOfTraces(sentences, main);
+  addScalesWithoutTrace(sentences, main);
+  addReferences(sentences, main);
+  addReadout(sentences, main);
+  return sentences;
+}
+
+}  // namespace
+
+StatusLine::Sentence scalesNotOfTraces(const frmDSO& main) {
+  return joined(scales(main));
+}
+
 StatusLine::Sentence setNotOfTraces(const frmDSO& main) {
-  const StatusLine::Sentence scales = scalesNotOfTraces(main);
-  const std::vector<WrittenPosition> others = positionsNotOfTraces(main);
-  const std::string missing = channelsWithoutRecord(main);
-  if (others.empty() && missing.empty()) return scales;
-  return [=](const Words& words) {
-    std::string text = scales ? scales(words) : "";
-    for (const WrittenPosition& other : others)
-      append(text, words.say("%1: drawn at position %2, not at %3",
-                             {other.name, numberText(other.drawn), numberText(other.written)}));
-    if (!missing.empty())
-      append(text, words.say("The .csv is empty: no whole record of %1", {missing}));
-    return text;
-  };
+  Sentences sentences = scales(main);
+  addPositions(sentences, main);
+  addMissingRecords(sentences, main);
+  return joined(sentences);
 }
 
 }  // namespace tracewell

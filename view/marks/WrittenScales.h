@@ -6,13 +6,13 @@
 namespace tracewell {
 
 /// Pictures, descriptions and pages carry the scales that the window shows. Returns a sentence
-/// about those at which the traces were not recorded, or the cursors' read-out not counted, as of
-/// this call; none if all agree.
+/// about those at which what is drawn was not recorded, or the cursors' read-out not counted, or
+/// that are not known, as of this call; none if all agree.
 StatusLine::Sentence scalesNotOfTraces(const frmDSO& main);
 
 /// The same of a waveform set, which carries the positions, too. A trace can be drawn at another:
-/// channel 2 is at whole divisions, channel 1 until its next record. And of its data, which are
-/// empty if a ticked channel has no whole record.
+/// channel 2 is at whole divisions, channel 1 until its next record. That of time may be another
+/// than the instrument's. And of its data, which are empty if a ticked channel has no whole record.
 StatusLine::Sentence setNotOfTraces(const frmDSO& main);
 
 }  // namespace tracewell
