@@ -5,7 +5,7 @@
 #ifdef TRACEWELL_RECORDER
 #include "RecorderHeld.h"
 #else
-#include "TracesHeld.h"
+#include "DialogsHeld.h"
 #endif
 
 namespace tracewell {
@@ -14,7 +14,7 @@ namespace {
 #ifdef TRACEWELL_RECORDER
 using Held = RecorderHeld;
 #else
-struct Held : TracesHeld {
+struct Held : DialogsHeld {
   void lookAtRecorder() {}
   void lookBack() {}
 };
@@ -70,6 +70,7 @@ class Oracle : public Held {
     lookAtMarker();
     lookAtBadge(marks);
     lookAtResults();
+    lookAtReadout();
   }
 
   void lookAtControls() {
@@ -179,7 +180,19 @@ class Oracle : public Held {
   /// Uses some controls of a dialog, then leaves by any of its buttons.
   void playIn(Window& window) {
     isModal_ = true;
-    if (oneIn(3)) run(below(3000));
+    for (Control* control : window.controls()) {
+      control->changed = [control] {
+        control->painted = control->trust ? control->trust() : Trust::holds;
+      };
+      control->changed();
+    }
+    lookAtDialog(window);
+    if (oneIn(3)) {
+      if (oneIn(4)) trouble();
+      if (oneIn(5)) replugWithin();
+      run(2500 + below(3000));
+      lookAtDialog(window);
+    }
     std::vector<Button*> buttons;
     for (Control* control : window.controls())
       if (auto* button = dynamic_cast<Button*>(control))
@@ -246,11 +259,15 @@ class Oracle : public Held {
     slow_ = 0;
   }
 
-  void replug() {
+  void replugWithin() {
     const std::int16_t number = oneIn(4) ? 4 : 3;
     opener.unplug(number);
     if (oneIn(2)) run(below(4000));
     plugIn(number, oneIn(2) ? last_[number] : nullptr);
+  }
+
+  void replug() {
+    replugWithin();
     if (oneIn(2)) main.cmdRS232.press();
   }
 

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "DialogsHeld.h"
 #include "Recorder.h"
-#include "TracesHeld.h"
 
 namespace tracewell {
 
 /// The records that are kept, held against the sweeps that they are of.
-class RecordsHeld : public TracesHeld {
+class RecordsHeld : public DialogsHeld {
  protected:
   using Number = RecordStore::Number;
 

@@ -87,6 +87,12 @@ class TrueInstrument : public TrueTexts {
     if (mode == 0) level = history_.inTenths();
   }
 
+  /// What a command of which nothing else comes has set.
+  double told(const std::string& header) const {
+    const auto found = others_.find(header);
+    return found == others_.end() ? 0 : std::atof(found->second.c_str());
+  }
+
  private:
   int below(int limit) { return history_.below(limit); }
 
