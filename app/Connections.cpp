@@ -9,6 +9,12 @@
 /// Which routine answers which control of the main window. A dialog joins its own controls to its
 /// own routines in its constructor.
 namespace tracewell {
+namespace {
+
+/// How often the marks of an open window are looked at. Milliseconds.
+constexpr int everySecond = 1000;
+
+}  // namespace
 
 void Tracewell::connectLifecycle() {
   main.formLoad = [this] { lifecycle.Form_Load(); };
@@ -17,19 +23,30 @@ void Tracewell::connectLifecycle() {
   main.mnbClose.click = [this] { lifecycle.cmdClose_Click(); };
   main.tmDSO.timer = [this] { acquisition.tmDSO_Timer(); };
   main.tmStatus.timer = [this] { lookAtLine(); };
-  main.marksDue = [this] { panelMarks.show(); };
-  main.known.changed = [this] { panelMarks.show(); };
-  main.services().standBy.meanwhile = [this] { panelMarks.show(); };
-  main.services().gate.beforeModal = [this] { connect.showEarly(); };
+  main.marksDue = [this] { showMarks(); };
+  main.known.changed = [this] { showMarks(); };
+  main.services().standBy.meanwhile = [this] { showMarks(); };
+  main.services().gate.beforeModal = [this] {
+    connect.showEarly();
+    main.tmStatus.setInterval(everySecond);
+  };
   main.tmTest.timer = [this] { lifecycle.tmTest_Timer(); };
+}
+
+void Tracewell::showMarks() {
+  panelMarks.show();
+  bool isOpen = false;
+  for (const Window* window : otherWindows()) {
+    if (!window->isVisible()) continue;
+    window->showMarks();
+    isOpen = true;
+  }
+  main.tmStatus.setInterval(isOpen ? everySecond : changeInterval(main));
 }
 
 void Tracewell::lookAtLine() {
   showLineNotice(main);
-  panelMarks.show();
-  for (const Window* window : otherWindows())
-    if (window->isVisible()) window->showMarks();
-  main.tmStatus.setInterval(changeInterval(main));
+  showMarks();
 }
 
 void Tracewell::connectLink() {

@@ -96,6 +96,7 @@ class Tracewell {
   void connectView();
   void connectFiles();
   void connectSupport();
+  void showMarks();
   void lookAtLine();
   std::function<void()> unlessAutoset(const CaptionedControl& control,
                                       std::function<void()> routine) const;

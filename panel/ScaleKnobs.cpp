@@ -17,13 +17,15 @@ void ScaleKnobs::knobTime_ValueChanged() {
 
 void ScaleKnobs::knob_Stays(const Knob& knob) {
   if (knob.trust() == Trust::holds) return;
-  main_.status.tell(StatusLine::knobStays, [](const Words& words) {
-    return words.say("The knob stands there already: turn it away and back to send its scale");
+  main_.status.tell(StatusLine::failed, [&knob](const Words& words) {
+    return knob.trust() == Trust::holds
+               ? ""
+               : words.say(
+                     "The knob stands there already: turn it away and back to send its scale");
   });
 }
 
 void ScaleKnobs::sendScale(ScaleKnob kind, Knob& knob, ValueLabel& label) {
-  main_.status.withdraw(StatusLine::knobStays);
   exchange_.SendDSOCmd(ScaleCommandForKnob(kind, knob.value()));
   label.caption = scaleCaptionForKnob(kind, knob.value());
   cursors_.graphDSO_CursorMoved();

@@ -75,7 +75,8 @@ void frmChannel::show(int place, const std::string& reply) {
     showOption(fmProbe, obProbe, reply, place);
   } else {
     if (isNumeric(reply)) cbCh(place).value = toInt16(reply);
-    unanswered_.note(cbCh(place), reply == "0" || reply == "1");
+    const bool isState = isWholeNumber(reply) && (toInt16(reply) == 0 || toInt16(reply) == 1);
+    unanswered_.note(cbCh(place), isState);
   }
 }
 

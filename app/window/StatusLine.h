@@ -22,8 +22,6 @@ class StatusLine {
     progress,
     /// Why what the user wants waits until that is done; said beside it.
     refused,
-    /// A knob stands where the user wants it, so that nothing is sent.
-    knobStays,
     /// What a series of questions, and what a single one, has missed.
     missedBySeries,
     missedByOne,

@@ -21,6 +21,8 @@ bool isBlank(char byte) {
   return byte == '\r' || byte == ' ' || byte == '\0';
 }
 
+constexpr std::string_view lineEnd = "\r\n";
+
 bool isBlank(std::string_view bytes) {
   return std::ranges::all_of(bytes, [](char byte) { return isBlank(byte); });
 }
@@ -63,6 +65,8 @@ void Conversation::command(std::string_view line, bool isAnswered) {
 
 std::string Conversation::ask(std::string_view query, int timeOut) {
   makeReadyToAsk(timeOut);
+  // At rest, nothing more of one comes.
+  if (state_ == State::idle) isBehindRecord_ = false;
   send(query);
   askedAt_ = clock_.milliseconds();
   ++unanswered_;
@@ -117,7 +121,6 @@ void Conversation::forget() {
   unanswered_ = 0;
   owedBytes_ = 0;
   isStray_ = false;
-  usuallyBehind_ = 0;
   replies_.beginAnew();
   account_.beginAnew();
 }
@@ -184,11 +187,11 @@ void Conversation::hearRecord(const std::string& bytes) {
   if (record_.bytes.size() < record_.count) return restUntilMoreHasCome();
   const std::string behind = record_.bytes.substr(record_.count);
   record_.bytes.resize(record_.count);
-  recordEndAt_ = heardAt_;
+  isBehindRecord_ = true;
   if (owedBytes_ > 0) return refuseRecord(behind);
   state_ = State::recordHeard;
-  behind_ = 0;
-  clock_.callAfter(settlingTimeOfRecord(), [this, alive = std::weak_ptr(alive_)] {
+  behind_.clear();
+  clock_.callAfter(settlingTime(), [this, alive = std::weak_ptr(alive_)] {
     if (!alive.expired()) dispatcher_.dispatch([this] { arrived(); });
   });
   hearBehindRecord(behind);
@@ -197,16 +200,18 @@ void Conversation::hearRecord(const std::string& bytes) {
 /// Anything but a record's own end shows that a late reply may have come first and shifted all.
 void Conversation::hearBehindRecord(std::string_view bytes) {
   const std::string_view others = withoutRecordEnd(bytes);
-  behind_ += bytes.size() - others.size();
+  behind_ += bytes.substr(0, bytes.size() - others.size());
+  // More than a line end is all the same.
+  behind_.resize(std::min(behind_.size(), lineEnd.size() + 1));
   if (others.empty()) return;
   replies_.mayHaveHeardMissing(askedAt_);
   hearLines(others, askedAt_);
 }
 
-/// The samples of a flat signal are blanks, too: if it was shifted, more stands behind it than
-/// behind others.
+/// The samples of a flat signal are blanks, too, but none of them is a line end.
 bool Conversation::mayBeShifted() const {
-  return behind_ > usuallyBehind_ && replies_.isDue(askedAt_);
+  const bool isLineEnd = behind_.empty() || behind_ == "\r" || lineEnd.ends_with(behind_);
+  return !isLineEnd && replies_.isDue(askedAt_);
 }
 
 /// The record may be an earlier one that was given up. The outstanding count stays the same: either
@@ -242,6 +247,7 @@ void Conversation::hearLines(std::string_view bytes, std::int64_t since) {
   const std::int64_t now = clock_.milliseconds();
   state_ = State::draining;
   heardAt_ = now;
+  if (!bytes.empty()) isBehindRecord_ = false;
   int unasked = 0;
   for (const char byte : bytes) {
     const bool isBehindALine = now < lineEndAt_ + settling;
@@ -260,10 +266,12 @@ void Conversation::hearLines(std::string_view bytes, std::int64_t since) {
 /// Bytes that no query waits for belong to outstanding records first, then to lines.
 void Conversation::hearOwed(std::string_view bytes) {
   if (state_ == State::idle && owedBytes_ == 0 && isBlank(bytes)) return;
-  const std::int64_t now = clock_.milliseconds();
-  const std::string_view others = bytes.substr(payWith(bytes));
-  const bool isBehindRecord = now <= recordEndAt_ + settlingTimeOfRecord();
-  hearLines(isBehindRecord ? withoutRecordEnd(others) : others, now);
+  const auto ownEndTaken = [this](std::string_view rest) {
+    return isBehindRecord_ ? withoutRecordEnd(rest) : rest;
+  };
+  bytes = ownEndTaken(bytes);
+  bytes.remove_prefix(payWith(bytes));
+  hearLines(ownEndTaken(bytes), clock_.milliseconds());
 }
 
 /// Takes outstanding records off the front of the bytes. Returns how many bytes these had.
@@ -275,7 +283,7 @@ std::size_t Conversation::payWith(std::string_view bytes) {
   const std::size_t before = records();
   owedBytes_ -= paid;
   isOwedComing_ = true;
-  recordEndAt_ = clock_.milliseconds();
+  isBehindRecord_ = owedBytes_ % record_.count == 0;
   drainTime_ = std::max(drainTime_, recordDrain);
   for (std::size_t i = records(); i < before; ++i) account_.heardLateRecord(clock_.milliseconds());
   return paid;
@@ -290,7 +298,7 @@ void Conversation::owe() {
 std::int64_t Conversation::trustedAt() const {
   const std::int64_t quietSince = std::max(askedAt_, heardAt_);
   if (state_ == State::recordAwaited) return quietSince + longestThought;
-  if (state_ == State::recordHeard) return heardAt_ + settlingTimeOfRecord();
+  if (state_ == State::recordHeard) return heardAt_ + settlingTime();
   const bool isAllThere = unanswered_ == 0 && owedBytes_ == 0 && !isStray_;
   return quietSince + (isAllThere ? settling : drainTime_);
 }
@@ -306,12 +314,10 @@ void Conversation::review() {
     if (2 * record_.bytes.size() < record_.count) owe();
   }
   if (state_ == State::recordHeard) {
-    if (mayBeShifted()) {
+    if (mayBeShifted())
       replies_.mayHaveHeardMissing(askedAt_);
-    } else {
-      usuallyBehind_ = behind_;
-      if (isWanted_) whole_ = std::move(record_);
-    }
+    else if (isWanted_)
+      whole_ = std::move(record_);
   }
   const bool isOwedOver = isOwedComing_ && now >= std::max(askedAt_, heardAt_) + recordDrain;
   if (state_ == State::draining && isOwedOver) {
@@ -441,11 +447,6 @@ void Conversation::sendHeld() {
 /// How long after its last byte a reply is sure to be complete. Milliseconds.
 int Conversation::settlingTime() const {
   return settling + static_cast<int>(std::ceil(openSettings_.timeOf(2)));
-}
-
-/// The same of a record, with what usually stands behind it. Milliseconds.
-int Conversation::settlingTimeOfRecord() const {
-  return settlingTime() + static_cast<int>(std::ceil(openSettings_.timeOf(usuallyBehind_)));
 }
 
 }  // namespace tracewell

@@ -28,8 +28,8 @@ namespace tracewell {
 ///
 /// - A record is pending from its request on, until it is whole or longestThought has passed
 ///   without a byte. Further requests wait, one for each channel. A record counts if only blanks
-///   and line ends follow it within the settling time; while a reply is missing, no more than
-///   behind the last record that counted.
+///   and line ends follow it within the settling time; while a reply is missing, none
+///   or a line end.
 /// - A record that is given up with less than half of its bytes stays outstanding. Others are still
 ///   requested, but the next one that arrives is discarded: it may be the outstanding one. Then the
 ///   line is drained for recordDrain, and the discarded record is requested again first. A reply
@@ -150,7 +150,6 @@ class Conversation {
   void arrived();
   void sendHeld();
   int settlingTime() const;
-  int settlingTimeOfRecord() const;
 
   ChannelOpener& opener_;
   Clock& clock_;
@@ -164,11 +163,11 @@ class Conversation {
   /// The pending record (recordAwaited), and whether it is still wanted.
   LineRecord record_;
   bool isWanted_ = false;
-  /// How many blanks and line ends have arrived behind it, and did behind the last that counted.
-  std::size_t behind_ = 0;
-  std::size_t usuallyBehind_ = 0;
-  /// When the last byte of a record arrived, also of one that was given up.
-  std::int64_t recordEndAt_ = std::numeric_limits<int>::min();
+  /// The first blanks and line ends that have arrived behind it.
+  std::string behind_;
+  /// Nothing but blanks and line ends has arrived since the last byte of a record, also of one that
+  /// was given up.
+  bool isBehindRecord_ = false;
   /// A record that is whole and not delivered yet.
   std::optional<LineRecord> whole_;
   /// Bytes of records that were given up and may still arrive, and whether any has arrived since

@@ -108,7 +108,8 @@ void addReferences(Sentences& sentences, const frmDSO& main) {
     const bool isAsAll = std::ranges::all_of(main.channels, [&](const Channel& channel) {
       return !channel.isDisplayed || channel.scale.caption() == plot.scale();
     });
-    if (plot.isShown() && !isAsAll)
+    const bool isAlone = std::ranges::none_of(main.channels, &Channel::isDisplayed);
+    if (plot.isShown() && (isAlone || !isAsAll))
       sentences.push_back([label = plot.label(), scale = plot.scale()](const Words& words) {
         return referenceText(words, label, scale);
       });
