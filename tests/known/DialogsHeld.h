@@ -85,7 +85,7 @@ class DialogsHeld : public TracesHeld {
     const auto& its = is.channels[isFirst ? 0 : 1];
     const std::string stem = isFirst ? "CHAN1:" : "CHAN2:";
     const auto isTicked = [&](int box) { return dialog.cbCh(box).isChecked() ? 1.0 : 0.0; };
-    fields_ = {{&dialog.cbCh(0), isTicked(0), its.isDisplayed ? 1.0 : 0.0},
+    fields_ = {{&dialog.cbCh(0), isTicked(0), its.isDisplayed},
                {&dialog.cbCh(1), isTicked(1), is.told(stem + "INV")},
                {&dialog.cbCh(2), isTicked(2), is.told(stem + "BWL")}};
     for (const OptionButton& option : dialog.obCoupling)
