@@ -55,6 +55,17 @@ std::optional<double> plainNumber(std::string_view text) {
 
 }  // namespace
 
+/// Behind another port, what the panel shows is of another instrument.
+KnownInstrument::BehindPort& KnownInstrument::here() const {
+  BehindPort& before = ports_[port_];
+  port_ = presentLine().portNumber;
+  BehindPort& present = ports_[port_];
+  for (std::size_t i = 0; &present != &before && i < settingCount; ++i)
+    if (present.entries[i].doubt == Doubt::neverRead && before.entries[i].doubt != Doubt::neverRead)
+      present.entries[i].doubt = Doubt::anotherInstrument;
+  return present;
+}
+
 void KnownInstrument::sent(std::string_view command) {
   for (const WirePart& part : wireParts(command)) obey(part, true);
   tell();
@@ -70,7 +81,8 @@ void KnownInstrument::notSent(std::string_view line) {
   for (const WirePart& part : wireParts(line)) {
     if (part.isQuery) continue;
     const WireEffect effect = effectOf(part);
-    if (effect.isUnknown || effect.sets == math) mathDoubtedOn_.insert(presentLine().portNumber);
+    if (effect.isUnknown || effect.sets == math) here().isMathDoubted = true;
+    if (effect.isUnknown || effect.sets == triggerMode) entry(triggerMode).number.reset();
     if (effect.sets == running && sentValue(running, part)->number == stoppedState)
       mayHaveStopped();
     else if (effect.sets)
@@ -86,7 +98,6 @@ void KnownInstrument::mayHaveStopped() {
   stop();
   doubtful(running, Doubt::notSent);
   entry(running).number = stoppedState;
-  entry(running).numberOnPort = presentLine().portNumber;
 }
 
 /// A sent command locks the instrument's panel; one that may have been sent may have locked it.
@@ -105,38 +116,39 @@ void KnownInstrument::obey(const WirePart& command, bool isTrusted) {
   if (command.isQuery) return;
   const WireEffect effect = effectOf(command);
   for (const Setting setting : effect.touches) doubtful(setting, Doubt::mayHaveChanged);
-  if (effect.isUnknown) mathDoubtedOn_.insert(presentLine().portNumber);
+  if (effect.isUnknown) {
+    here().isMathDoubted = true;
+    entry(triggerMode).number.reset();
+  }
   if (!effect.sets) return;
   const Setting setting = *effect.sets;
   const bool isPlain = setting == math || setting == running || setting == lock;
   const auto value = isTrusted || isPlain ? sentValue(setting, command) : std::nullopt;
-  if (!value) return leaveOpen(setting, command);
+  if (!value) return leaveOpen(setting);
   if (setting == running && value->number == stoppedState && !isStopped()) stop();
   takeSent(setting, *value);
 }
 
 void KnownInstrument::upset() {
-  isUpset_ = true;
+  ++upsets_;
   tell();
 }
 
 /// What was told or sent meanwhile may be of before.
 void KnownInstrument::upsetIsOver() {
-  isUpset_ = false;
+  --upsets_;
   for (const Setting setting : effectOf({"AUT", "", false}).touches)
     doubtful(setting, Doubt::mayHaveChanged);
   upsetAt_ = now_;
   tell();
 }
 
-/// A possible change counts wherever it makes a difference to records.
-void KnownInstrument::leaveOpen(Setting setting, const WirePart& command) {
+/// A possible change counts wherever it makes a difference to records. The trigger may be in any
+/// mode then.
+void KnownInstrument::leaveOpen(Setting setting) {
   doubtful(setting, Doubt::mayHaveChanged);
-  if (setting == math) mathDoubtedOn_.insert(presentLine().portNumber);
-  if (setting != triggerMode) return;
-  entry(setting).number = plainNumber(command.argument);
-  entry(setting).reply.reset();
-  entry(setting).numberOnPort = presentLine().portNumber;
+  if (setting == math) here().isMathDoubted = true;
+  if (setting == triggerMode) entry(setting).number.reset();
 }
 
 std::optional<KnownInstrument::Value> KnownInstrument::sentValue(Setting setting,
@@ -164,6 +176,9 @@ std::optional<KnownInstrument::Value> KnownInstrument::sentValue(Setting setting
       break;
     case lock:
       value = 0;
+      break;
+    case triggerMode:
+      if (value && (*value < autoLevel || *value > singleMode)) return std::nullopt;
       break;
     default:
       break;
@@ -222,14 +237,13 @@ void KnownInstrument::takeSent(Setting setting, const Value& value) {
 
 void KnownInstrument::take(Setting setting, Value value) {
   leave(setting);
-  if (setting == math) mathDoubtedOn_.erase(presentLine().portNumber);
+  if (setting == math) here().isMathDoubted = false;
   Entry& taken = entry(setting);
   taken.number = value.number;
   taken.caption = std::move(value.caption);
   taken.reply = value.reply;
   taken.doubt = Doubt::none;
   taken.line = presentLine();
-  taken.numberOnPort = taken.line.portNumber;
 }
 
 /// A level that has moved by itself stays where it is.
@@ -321,11 +335,11 @@ void KnownInstrument::reading() {
 /// A stopped instrument keeps one sweep, not two.
 void KnownInstrument::swept(int channel, Moment requested) {
   if (isStopped() || requested < changedAt(running)) return;
-  Swept& last = swept_[static_cast<std::size_t>(channel - 1)];
+  Swept& last = here().swept[static_cast<std::size_t>(channel - 1)];
   const bool isSecond = last.line == presentLine() && last.requested >= changedAt(running);
   if (isSecond && mayBeStopped()) take(running, {runningState, ""});
   last = {presentLine(), requested};
-  sweptAt_ = std::max(sweptAt_, requested);
+  here().sweptAt = std::max(here().sweptAt, requested);
 }
 
 Doubt KnownInstrument::doubt(Setting setting) const {
@@ -341,7 +355,7 @@ Doubt KnownInstrument::doubt(Setting setting) const {
 Doubt KnownInstrument::toldDoubt(Setting setting) const {
   const Entry& asked = entry(setting);
   if (asked.doubt == Doubt::neverRead) return Doubt::neverRead;
-  if (isUpset_ && setting != lock && asked.doubt == Doubt::none) return Doubt::mayHaveChanged;
+  if (isUpset() && setting != lock && asked.doubt == Doubt::none) return Doubt::mayHaveChanged;
   if (asked.line != presentLine()) return Doubt::anotherInstrument;
   // After one sweep it stops itself.
   const bool isOver = setting == running && asked.doubt == Doubt::none &&
@@ -355,15 +369,15 @@ Doubt KnownInstrument::toldDoubt(Setting setting) const {
 template <class Condition>
 bool KnownInstrument::mayBeMode(Condition condition) const {
   const Entry& mode = entry(triggerMode);
-  if (!isOnPortOf(mode)) return false;
-  return (mode.number && condition(*mode.number)) || sureness(mode) != Sureness::sure;
+  const bool isOpen = mode.doubt == Doubt::mayHaveChanged || mode.doubt == Doubt::notSent;
+  return (mode.number ? condition(*mode.number) : isOpen) || sureness(mode) != Sureness::sure;
 }
 
 /// In one of its modes the instrument finds the trigger level by itself. The panel does not expect
 /// that level before it has been read.
 bool KnownInstrument::mayMoveLevel() const {
   const Entry& mode = entry(triggerMode);
-  if (mode.doubt == Doubt::neverRead || !isOnPortOf(mode)) return false;
+  if (mode.doubt == Doubt::neverRead || mode.doubt == Doubt::anotherInstrument) return false;
   const bool isAsTold = mode.doubt == Doubt::none || mode.doubt == Doubt::noAnswer;
   return !isAsTold || mayBeMode([](double told) { return told == autoLevel; });
 }
@@ -385,14 +399,13 @@ std::optional<double> KnownInstrument::secondsPerDivision() const {
 }
 
 int KnownInstrument::mathChannel() const {
-  const Entry& known = entry(math);
-  if (!isOnPortOf(known) || !known.number) return 0;
-  return mathChannelOf(static_cast<std::size_t>(*known.number));
+  const std::optional<double>& shown = entry(math).number;
+  return shown ? mathChannelOf(static_cast<std::size_t>(*shown)) : 0;
 }
 
 bool KnownInstrument::mayMathBeOn() const {
   const bool wasOn = mathChannel() != 0 && !isKnown(math);
-  return wasOn || isMathDoubted();
+  return wasOn || here().isMathDoubted;
 }
 
 MadeUnder whicheverHolds(const MadeUnder& a, const MadeUnder& b) {
@@ -413,18 +426,17 @@ bool KnownInstrument::isStopped() const {
   return number(running) == stoppedState;
 }
 
-/// True if it was stopped on this port and has not been told to run since.
+/// True if it was stopped behind this port and has not been told to run since.
 bool KnownInstrument::mayBeStopped() const {
-  const Entry& told = entry(running);
-  return !isKnown(running) && isOnPortOf(told) && told.number == stoppedState;
+  return !isKnown(running) && entry(running).number == stoppedState;
 }
 
 /// A change since the last known sweep may not be in that sweep yet. If the instrument may have
 /// been stopped earlier, that stop counts too.
 void KnownInstrument::stop() {
   for (const int channel : {1, 2}) {
-    Told& frozen = atStop_[static_cast<std::size_t>(channel - 1)];
-    Told now = toldAt(channel, sweptAt_);
+    Told& frozen = here().atStop[static_cast<std::size_t>(channel - 1)];
+    Told now = toldAt(channel, here().sweptAt);
     if (mayBeStopped()) {
       now.made = whicheverHolds(frozen.made, now.made);
       now.voltsReplies.merge(frozen.voltsReplies);
@@ -456,7 +468,7 @@ KnownInstrument::Told KnownInstrument::toldAt(int channel, Moment moment) const 
   made.voltsPerDivision = since(ofChannel(scale1, channel), at.voltsReplies);
   made.secondsPerDivision = since(timeBase, at.secondsReplies);
   const bool isMath = mathChannel() == channel;
-  if (isMath || isMathDoubted() || changedAt(math) > moment) made.voltsPerDivision.reset();
+  if (isMath || here().isMathDoubted || changedAt(math) > moment) made.voltsPerDivision.reset();
   if (isMath && isKnown(math) && changedAt(math) <= moment)
     made.mathEntry = static_cast<int>(*number(math));
   return at;
@@ -466,12 +478,12 @@ KnownInstrument::Told KnownInstrument::toldAt(int channel, Moment moment) const 
 /// request, one that waits for its trigger after the sweep before.
 KnownInstrument::Moment KnownInstrument::sweptSince(int channel) const {
   if (!mayBeMode([](double mode) { return mode >= normalMode; })) return now_;
-  const Swept& last = swept_[static_cast<std::size_t>(channel - 1)];
+  const Swept& last = here().swept[static_cast<std::size_t>(channel - 1)];
   return last.line == presentLine() ? last.requested : 0;
 }
 
 MadeUnder KnownInstrument::madeUnder(int channel, Moment requested) const {
-  MadeUnder frozen = sureOf(atStop_[static_cast<std::size_t>(channel - 1)]);
+  MadeUnder frozen = sureOf(here().atStop[static_cast<std::size_t>(channel - 1)]);
   if (isStopped() && changedAt(running) <= requested) frozen.stop = changedAt(running);
   if (isStopped()) return frozen;
   const MadeUnder present = sureOf(toldAt(channel, std::min(requested, sweptSince(channel))));

@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdint>
 #include <functional>
+#include <map>
 #include <optional>
 #include <set>
 #include <string>
@@ -46,6 +47,7 @@ class KnownInstrument {
   void answered(std::string_view query, std::string_view reply, int replyNumber);
   void notAnswered(std::string_view query);
   /// The instrument changes its settings by itself, until upsetIsOver: meanwhile none is known.
+  /// As often as the one, the other.
   void upset();
   void upsetIsOver();
   /// Scales and positions are about to be read; each is not known until its reply has arrived.
@@ -66,7 +68,7 @@ class KnownInstrument {
   bool isKnown(Setting setting) const { return doubt(setting) == Doubt::none; }
   /// Its scales have been read on this line.
   bool isRead() const { return readOn_ == presentLine(); }
-  bool isUpset() const { return isUpset_; }
+  bool isUpset() const { return upsets_ > 0; }
   /// When the instrument was upset last.
   Moment upsetAt() const { return upsetAt_; }
   /// Since when the setting has had its value, or its doubt.
@@ -104,8 +106,6 @@ class KnownInstrument {
     std::optional<int> reply;
     /// Where that was last told, or asked for in vain.
     Line line;
-    /// Where the number was told.
-    std::optional<std::int16_t> numberOnPort;
     Moment changedAt = 0;
   };
   struct Value {
@@ -114,8 +114,34 @@ class KnownInstrument {
     std::optional<int> reply = std::nullopt;
   };
 
-  const Entry& entry(Setting setting) const { return entries_[static_cast<std::size_t>(setting)]; }
-  Entry& entry(Setting setting) { return entries_[static_cast<std::size_t>(setting)]; }
+  /// The settings of a record, and the replies that told its scales: these may become sure later.
+  struct Told {
+    MadeUnder made;
+    std::set<int> voltsReplies;
+    std::set<int> secondsReplies;
+  };
+  struct Swept {
+    Line line;
+    Moment requested = 0;
+  };
+  /// What was told behind one port. Whatever happens behind another, it may still be so.
+  struct BehindPort {
+    std::array<Entry, settingCount> entries;
+    /// Something may have switched math on, for an unknown channel.
+    bool isMathDoubted = false;
+    /// The newest request that brought a new sweep; that of each channel, and its line.
+    Moment sweptAt = 0;
+    std::array<Swept, 2> swept;
+    /// The settings under which a stopped instrument made the records that it sends.
+    std::array<Told, 2> atStop;
+  };
+
+  /// The present port's.
+  BehindPort& here() const;
+  const Entry& entry(Setting setting) const {
+    return here().entries[static_cast<std::size_t>(setting)];
+  }
+  Entry& entry(Setting setting) { return here().entries[static_cast<std::size_t>(setting)]; }
 
   void obey(const WirePart& command, bool isTrusted);
   void take(Setting setting, Value value);
@@ -127,7 +153,7 @@ class KnownInstrument {
   void lockUncertain();
   void leave(Setting setting);
   void leaveUntold(Entry& asked) const;
-  void leaveOpen(Setting setting, const WirePart& command);
+  void leaveOpen(Setting setting);
   Doubt toldDoubt(Setting setting) const;
   Sureness sureness(const Entry& told) const {
     return told.reply ? sureness_(*told.reply) : Sureness::sure;
@@ -139,45 +165,24 @@ class KnownInstrument {
   bool mayBeMode(Condition condition) const;
   bool mayMoveLevel() const;
   bool mayBeStopped() const;
-  /// What was asked for in vain on another port is still what was told on this one.
-  bool isOnPortOf(const Entry& told) const {
-    const std::int16_t port = presentLine().portNumber;
-    return told.line.portNumber == port || told.numberOnPort == port;
-  }
   std::optional<Value> sentValue(Setting setting, const WirePart& command) const;
   std::optional<Value> toldValue(Setting setting, std::string_view reply) const;
-  /// The settings of a record, and the replies that told its scales: these may become sure later.
-  struct Told {
-    MadeUnder made;
-    std::set<int> voltsReplies;
-    std::set<int> secondsReplies;
-  };
   Told toldAt(int channel, Moment moment) const;
   MadeUnder sureOf(const Told& told) const;
   Moment sweptSince(int channel) const;
-  bool isMathDoubted() const { return mathDoubtedOn_.contains(presentLine().portNumber); }
   void tell() const {
     if (changed) changed();
   }
 
   std::function<Line()> presentLine_;
   std::function<Sureness(int)> sureness_;
-  std::array<Entry, settingCount> entries_;
+  /// By number; made when the port is first used.
+  mutable std::map<std::int16_t, BehindPort> ports_;
+  mutable std::int16_t port_ = 0;
   Moment now_ = 1;
-  bool isUpset_ = false;
+  int upsets_ = 0;
   Moment upsetAt_ = 0;
   std::optional<Line> readOn_;
-  /// The newest request that brought a new sweep; its channel and line.
-  Moment sweptAt_ = 0;
-  struct Swept {
-    Line line;
-    Moment requested = 0;
-  };
-  std::array<Swept, 2> swept_;
-  /// The ports behind which something may have switched math on, for an unknown channel.
-  std::set<std::int16_t> mathDoubtedOn_;
-  /// Those under which a stopped instrument made the records that it sends.
-  std::array<Told, 2> atStop_;
 };
 
 }  // namespace tracewell

@@ -53,9 +53,9 @@ constexpr std::array touchingHeaders = {
 constexpr std::array<std::string_view, 2> resettingHeaders = {"AUT", "*RST"};
 
 /// Commands that leave alone what the panel shows, by how they begin.
-constexpr std::array<std::string_view, 13> harmlessBeginnings = {
-    "ACQ:",      "ACQ1:",    "ACQ2:",     "DISP:", "MEAS:", "SIM:", "TRIG:SLOP",
-    "TRIG:COUP", "TRIG:REJ", "TRIG:NREJ", "*CLS",  "*ESE",  "*SRE"};
+constexpr std::array<std::string_view, 12> harmlessBeginnings = {
+    "ACQ1:",     "ACQ2:",    "DISP:",     "MEAS:", "SIM:", "TRIG:SLOP",
+    "TRIG:COUP", "TRIG:REJ", "TRIG:NREJ", "*CLS",  "*ESE", "*SRE"};
 
 template <class Rules>
 std::optional<Setting> settingIn(const Rules& rules, const std::string& header) {
@@ -114,6 +114,11 @@ WireEffect effectOf(const WirePart& command) {
   const bool isKnown =
       std::ranges::find(resettingHeaders, command.header) != resettingHeaders.end();
   return {{}, everything(), !isKnown};
+}
+
+bool beginsAutoset(std::string_view line) {
+  const std::vector<WirePart> parts = wireParts(line);
+  return std::ranges::find(parts, "AUT", &WirePart::header) != parts.end();
 }
 
 std::optional<Setting> askedBy(const WirePart& part) {

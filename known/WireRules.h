@@ -36,6 +36,12 @@ struct WireEffect {
 /// A command that is not in the tables may change anything.
 WireEffect effectOf(const WirePart& command);
 
+/// Milliseconds that the instrument is given for an autoset.
+constexpr int autosetDuration = 10000;
+
+/// Behind it, the instrument finds its own settings.
+bool beginsAutoset(std::string_view line);
+
 /// The setting that a query asks for; none for a command.
 std::optional<Setting> askedBy(const WirePart& part);
 

@@ -28,6 +28,14 @@ std::string replyValue(const std::string& line) {
 
 }  // namespace
 
+CommandExchange::CommandExchange(frmDSO& main, ErrorLog& errorLog)
+    : main_(main), errorLog_(errorLog), inquiries_(main) {
+  autoset_.timer = [this] {
+    autoset_.enabled = false;
+    main_.known.upsetIsOver();
+  };
+}
+
 std::string CommandExchange::SendDSOCmd(const std::string& command) {
   std::string reply = transfer(command);
   if (isQuery(command))
@@ -46,8 +54,16 @@ std::string CommandExchange::sendTyped(const std::string& line) {
     main_.known.typed(line);
   else
     noteFailed(line);
+  if (hasBegun_ && beginsAutoset(line)) noteAutoset();
   if (isQuery(line)) noteAnswered(line, reply);
   return reply;
+}
+
+/// A second one begins the time anew.
+void CommandExchange::noteAutoset() {
+  if (!autoset_.enabled()) main_.known.upset();
+  autoset_.enabled = false;
+  autoset_.enabled = true;
 }
 
 std::string CommandExchange::transfer(const std::string& command) {

@@ -5,6 +5,8 @@
 
 #include "ErrorLog.h"
 #include "Inquiry.h"
+#include "Timer.h"
+#include "WireRules.h"
 #include "frmDSO.h"
 
 namespace tracewell {
@@ -12,8 +14,7 @@ namespace tracewell {
 /// Command lines to the instrument and its reply lines.
 class CommandExchange {
  public:
-  CommandExchange(frmDSO& main, ErrorLog& errorLog)
-      : main_(main), errorLog_(errorLog), inquiries_(main) {}
+  CommandExchange(frmDSO& main, ErrorLog& errorLog);
 
   /// Sends the command as it stands, with CR LF behind it. For a query (its last character is "?")
   /// the result is the reply without the blanks around it and without its terminator; for any other
@@ -42,6 +43,7 @@ class CommandExchange {
  private:
   static constexpr int repeatLimit = 8;
   std::string transfer(const std::string& command);
+  void noteAutoset();
   void noteFailed(const std::string& line);
   void noteAnswered(const std::string& query, const std::string& reply);
   std::string ask(const std::string& query);
@@ -59,6 +61,8 @@ class CommandExchange {
   /// Some of the last line may have gone out.
   bool hasBegun_ = false;
   Inquiries inquiries_;
+  /// Runs behind an autoset that was typed.
+  Timer autoset_{main_, autosetDuration};
 };
 
 }  // namespace tracewell

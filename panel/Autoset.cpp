@@ -22,7 +22,7 @@ void Autoset::cmdAutoset_Click() {
     const Doing autoset(main_, [](const Words& words) { return words.say("Autoset"); });
     acquisition_.StopAcq();
     exchange_.SendDSOCmd(":AUT");
-    message_.showProgress(duration);
+    message_.showProgress(autosetDuration);
     waitUntilItIsOver();
     instrument_.InitDSO();
     acquisition_.ResumeAcq();
@@ -41,7 +41,7 @@ void Autoset::waitUntilItIsOver() {
   };
   main_.known.upset();
   const Upset upset{main_.known};
-  Delay(main_, duration);
+  Delay(main_, autosetDuration);
 }
 
 void Autoset::hideMessage() {

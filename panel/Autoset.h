@@ -10,9 +10,6 @@ namespace tracewell {
 /// Has the instrument find its own settings and reads what it has found.
 class Autoset {
  public:
-  /// Milliseconds that the instrument is given.
-  static constexpr int duration = 10000;
-
   Autoset(frmDSO& main, CommandExchange& exchange, ErrorLog& errorLog, Acquisition& acquisition,
           InstrumentState& instrument, frmMsg& message);
 

@@ -432,6 +432,10 @@
         <translation>Réglage automatique en cours</translation>
     </message>
     <message>
+        <source>Autoset: the scales are not known until it is over</source>
+        <translation>Réglage automatique : les échelles ne seront connues qu'à la fin</translation>
+    </message>
+    <message>
         <source>Bandwidth limit against noise</source>
         <translation>Limitation de la bande passante contre le bruit</translation>
     </message>
@@ -1550,6 +1554,10 @@
     <message>
         <source>The disk is full; waiting in memory: %1</source>
         <translation>Le disque est plein ; en attente en mémoire : %1</translation>
+    </message>
+    <message>
+        <source>The file is not as a panel saves it: its trace may be wrong</source>
+        <translation>Le fichier n'est pas tel qu'un panneau l'enregistre : sa courbe peut être fausse</translation>
     </message>
     <message>
         <source>The folder that is shown</source>

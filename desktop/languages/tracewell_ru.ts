@@ -432,6 +432,10 @@
         <translation>Автонастройка</translation>
     </message>
     <message>
+        <source>Autoset: the scales are not known until it is over</source>
+        <translation>Автонастройка: масштабы неизвестны, пока она не закончится</translation>
+    </message>
+    <message>
         <source>Bandwidth limit against noise</source>
         <translation>Ограничение полосы для подавления шума</translation>
     </message>
@@ -1550,6 +1554,10 @@
     <message>
         <source>The disk is full; waiting in memory: %1</source>
         <translation>Диск заполнен; ожидает в памяти: %1</translation>
+    </message>
+    <message>
+        <source>The file is not as a panel saves it: its trace may be wrong</source>
+        <translation>Файл не такой, каким его сохраняет панель: его кривая может быть неверной</translation>
     </message>
     <message>
         <source>The folder that is shown</source>

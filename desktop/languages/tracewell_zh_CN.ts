@@ -432,6 +432,10 @@
         <translation>正在自动设置</translation>
     </message>
     <message>
+        <source>Autoset: the scales are not known until it is over</source>
+        <translation>自动设置：结束之前刻度未知</translation>
+    </message>
+    <message>
         <source>Bandwidth limit against noise</source>
         <translation>限制带宽以抑制噪声</translation>
     </message>
@@ -1550,6 +1554,10 @@
     <message>
         <source>The disk is full; waiting in memory: %1</source>
         <translation>磁盘已满；在内存中等待写入：%1</translation>
+    </message>
+    <message>
+        <source>The file is not as a panel saves it: its trace may be wrong</source>
+        <translation>此文件与面板保存的不同：其波形可能有误</translation>
     </message>
     <message>
         <source>The folder that is shown</source>

@@ -432,6 +432,10 @@
         <translation>自動設定緊</translation>
     </message>
     <message>
+        <source>Autoset: the scales are not known until it is over</source>
+        <translation>自動設定：完成之前刻度未知</translation>
+    </message>
+    <message>
         <source>Bandwidth limit against noise</source>
         <translation>限制頻寬以減少噪音</translation>
     </message>
@@ -1550,6 +1554,10 @@
     <message>
         <source>The disk is full; waiting in memory: %1</source>
         <translation>磁碟滿咗；喺記憶體等待寫入：%1</translation>
+    </message>
+    <message>
+        <source>The file is not as a panel saves it: its trace may be wrong</source>
+        <translation>呢個檔案同面板儲存嘅唔同：條線可能唔啱</translation>
     </message>
     <message>
         <source>The folder that is shown</source>

@@ -47,6 +47,7 @@ bool isScaleLacking(const frmDSO& main, const std::function<bool(Setting)>& isLa
 
 /// The button also stops what runs.
 std::string toRead(const frmDSO& main, const Words& words) {
+  if (main.known.isUpset()) return words.say("Autoset: the scales are not known until it is over");
   return main.tmDSO.enabled()
              ? words.say("The scales are not known: press %1 to read them, then F5 to go on",
                          {main.cmdRS232.caption()})

@@ -18,17 +18,18 @@ namespace {
 struct Written {
   std::string name;
   std::string caption;
-  std::optional<double> made;
+  /// As the instrument writes it; empty where it is not known.
+  std::string made;
 };
 
 /// As the instrument writes it.
-std::string captionOf(double perDivision, bool isTime) {
-  const auto find = [&](const auto& captions, std::string_view unit) {
+std::string captionOf(double perDivision, std::string_view unit) {
+  const auto find = [&](const auto& captions) {
     const auto found = std::ranges::find_if(
         captions, [&](std::string_view text) { return trueScale(text, unit) == perDivision; });
     return found == captions.end() ? std::string() : std::string(*found);
   };
-  return isTime ? find(TimeDivText, "s") : find(VoltDivText, "V");
+  return unit == "s" ? find(TimeDivText) : find(VoltDivText);
 }
 
 /// A position that is written beside a trace, and the one at which that was drawn. In divisions.
@@ -61,11 +62,14 @@ std::string channelsWithoutRecord(const frmDSO& main) {
 }
 
 std::string sentence(const Words& words, const Written& written) {
-  const std::string made =
-      written.made ? captionOf(*written.made, written.caption.ends_with('s')) : "";
-  if (made.empty())
+  if (written.caption.empty()) return words.say("%1: scale not known", {written.name});
+  if (written.made.empty())
     return words.say("%1: not known whether recorded at %2", {written.name, written.caption});
-  return words.say("%1: recorded at %2, not at %3", {written.name, made, written.caption});
+  return words.say("%1: recorded at %2, not at %3", {written.name, written.made, written.caption});
+}
+
+bool isOfTrace(const ValueLabel& label, std::string_view unit, std::optional<double> made) {
+  return made && trueScale(label.caption(), unit) == made;
 }
 
 using Sentences = std::vector<StatusLine::Sentence>;
@@ -73,9 +77,8 @@ using Sentences = std::vector<StatusLine::Sentence>;
 void addScalesOfTraces(Sentences& sentences, const frmDSO& main) {
   const auto add = [&](const std::string& name, const ValueLabel& label, std::string_view unit,
                        std::optional<double> made) {
-    const Written written{name, label.caption(), made};
-    const bool isOfTrace = made && trueScale(label.caption(), unit) == made;
-    if (!isOfTrace)
+    const Written written{name, label.caption(), made ? captionOf(*made, unit) : ""};
+    if (!isOfTrace(label, unit, made))
       sentences.push_back([written](const Words& words) { return sentence(words, written); });
   };
   for (const Channel& channel : main.channels) {
@@ -128,13 +131,20 @@ void addPositions(Sentences& sentences, const frmDSO& main) {
       return words.say("%1: drawn at position %2, not at %3",
                        {other.name, numberText(other.drawn), numberText(other.written)});
     });
-  // Nobody has touched it.
-  if (main.known.doubt(Setting::delay) == Doubt::neverRead) return;
-  const std::string& caption = main.slideTime.caption();
-  const std::string name(trimBlanks(caption.substr(0, caption.find(':'))));
-  const Written time{name, numberText(main.slideTime.value()) + " Div", std::nullopt};
-  if (main.slideTime.trust() != Trust::holds)
-    sentences.push_back([time](const Words& words) { return sentence(words, time); });
+  const auto addUnknown = [&](const Slide& slide) {
+    if (slide.trust() == Trust::holds) return;
+    const std::string& caption = slide.caption();
+    const std::string name(trimBlanks(caption.substr(0, caption.find(':'))));
+    const Written unknown{name, numberText(slide.value()) + " Div", ""};
+    sentences.push_back([unknown](const Words& words) { return sentence(words, unknown); });
+  };
+  // Where the scale is another one, that has been said, and the position is in doubt for it.
+  for (const Channel& channel : main.channels)
+    if (hasTrace(channel) &&
+        isOfTrace(channel.scale, "V", channel.record.madeUnder.voltsPerDivision))
+      addUnknown(channel.slide);
+  // The delay is none of the trace, and perhaps nobody has touched it.
+  if (main.known.doubt(Setting::delay) != Doubt::neverRead) addUnknown(main.slideTime);
 }
 
 void addMissingRecords(Sentences& sentences, const frmDSO& main) {
