@@ -161,6 +161,8 @@ QStringList shownEntries(const std::vector<std::string>& entries) {
 void bind(ComboBox& control, const FormParts& parts) {
   auto* box = parts.of<QComboBox>(control);
   showWith(control, box, [&control, box] {
+    // A new mark, or a new language, must not take what is being typed.
+    if (box->isEditable() && box->hasFocus() && box->lineEdit()->isModified()) return;
     const QStringList items = shownEntries(control.items());
     QStringList shown;
     for (int i = 0; i < box->count(); ++i) shown << box->itemText(i);
@@ -183,6 +185,7 @@ void bind(ComboBox& control, const FormParts& parts) {
                    [&control](const QString& typed) { control.edit(fromQt(typed)); });
   QObject::connect(box->lineEdit(), &QLineEdit::editingFinished, box, [&control, box] {
     const QString typed = box->currentText();
+    box->lineEdit()->setModified(false);
     if (typed != shownText(control.text(), roomOfEditor)) control.type(fromQt(typed));
   });
 }

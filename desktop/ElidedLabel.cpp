@@ -99,6 +99,14 @@ void ElidedLabel::paintEvent(QPaintEvent*) {
   }
 }
 
+/// A tip breaks the lines of rich text alone.
+QString ElidedLabel::wholeText() const {
+  QStringList lines;
+  for (const Sentence& sentence : sentences_) lines << sentence.text;
+  return Qt::convertFromPlainText(lines.isEmpty() ? text() : lines.join(QLatin1Char('\n')),
+                                  Qt::WhiteSpaceNormal);
+}
+
 /// Shows the whole text as a tip where it is cut. Sets the letters' size as soon as it is told, so
 /// that no letters of another size are loaded first.
 bool ElidedLabel::event(QEvent* event) {
@@ -109,7 +117,7 @@ bool ElidedLabel::event(QEvent* event) {
     setFont(letters);
   }
   if (event->type() != QEvent::ToolTip || !isCut()) return QLabel::event(event);
-  QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text(), this);
+  QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), wholeText(), this);
   return true;
 }
 

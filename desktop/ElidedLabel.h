@@ -42,6 +42,8 @@ class ElidedLabel : public QLabel {
   int signWidth() const;
   int gapWidth() const;
   int neededWidth() const;
+  /// A line for each sentence.
+  QString wholeText() const;
   QFont fontThatFits() const;
   /// Returns what is left of the room; none where the sentence was cut.
   QRect paintSentence(QPainter& painter, const Sentence& sentence, QRect room) const;

@@ -28,21 +28,29 @@ bool isProgramFile(const fs::path& path) {
          std::ranges::find(kinds, path.extension().string()) != kinds.end();
 }
 
+constexpr const char* firstFile = "dso_la1.msg";
+
 bool holdsProgramFiles(const fs::path& folder) {
   std::error_code ignored;
-  return fs::exists(folder / "dso_la1.msg", ignored);
+  return fs::exists(folder / firstFile, ignored);
 }
 
 bool isPortable(const fs::path& own) {
   return mayWriteInto(own) && holdsProgramFiles(own);
 }
 
-}  // namespace
+/// The reason with which the system refuses the first file that is read; empty where it does not.
+std::string refusal(const fs::path& from, const fs::path& to) {
+  try {
+    writeWholeFile(to / firstFile, readWholeFile(from / firstFile, fileLimit::shipped));
+    return "";
+  } catch (const Error& error) {
+    return ": " + error.description();
+  }
+}
 
 /// What cannot be copied is missed, and named, when it is first read.
-std::vector<std::string> fillProgramFolder(const fs::path& from, const fs::path& to) {
-  std::error_code ignored;
-  fs::create_directories(to, ignored);
+std::vector<std::string> copyShippedFiles(const fs::path& from, const fs::path& to) {
   std::vector<std::string> offered;
   ShippedFiles files(to);
   std::error_code unread;
@@ -66,6 +74,17 @@ std::vector<std::string> fillProgramFolder(const fs::path& from, const fs::path&
   return offered;
 }
 
+}  // namespace
+
+ProgramFolder filledFolder(const fs::path& from, const fs::path& to) {
+  std::error_code failed;
+  fs::create_directories(to, failed);
+  ProgramFolder users{to, copyShippedFiles(from, to)};
+  if (holdsProgramFiles(to) || !holdsProgramFiles(from)) return users;
+  const std::string reason = failed ? " (" + failed.message() + ")" : refusal(from, to);
+  return {from, {}, "Cannot use " + pathText(to) + reason};
+}
+
 fs::path folderOfPorts() {
   const fs::path own = executableFolder();
   return isPortable(own) ? own : usersFolder();
@@ -74,14 +93,7 @@ fs::path folderOfPorts() {
 ProgramFolder programFolder() {
   const fs::path own = executableFolder();
   if (isPortable(own)) return {own};
-  const fs::path shipped = shippedFolder(own);
-  ProgramFolder users{usersFolder()};
-  std::error_code failed;
-  fs::create_directories(users.path, failed);
-  users.offered = fillProgramFolder(shipped, users.path);
-  if (holdsProgramFiles(users.path) || !holdsProgramFiles(shipped)) return users;
-  const std::string reason = failed ? " (" + failed.message() + ")" : "";
-  return {shipped, {}, "Cannot use " + pathText(users.path) + reason};
+  return filledFolder(shippedFolder(own), usersFolder());
 }
 
 }  // namespace tracewell

@@ -17,18 +17,16 @@ struct ProgramFolder {
   std::string failure = "";
 };
 
-/// The executable's folder or, if that cannot be written, one of the user's, which follows the
-/// shipped files. If that cannot be made either, the shipped files are used where they are.
+/// The executable's folder or, if that cannot be written, one of the user's: filledFolder.
 ProgramFolder programFolder();
 
 /// The folder that programFolder uses or would make, as far as ports are concerned.
 std::filesystem::path folderOfPorts();
 
-/// Copies the shipped files of `from` to `to`, which is made if need be. A file that the user has
-/// not changed follows the shipped one. Beside a changed one the new one is put as "<name>.new",
-/// once, and named in the result. Setups are the user's. "shipped-files" lists what was copied and
-/// offered.
-std::vector<std::string> fillProgramFolder(const std::filesystem::path& from,
-                                           const std::filesystem::path& to);
+/// Copies the shipped files of `from` to `to`, which is made if need be and becomes the program's
+/// folder. A file that the user has not changed follows the shipped one. Beside a changed one the
+/// new one is put as "<name>.new", once, and offered. Setups are the user's. "shipped-files" lists
+/// what was copied and offered. If `to` cannot be made or filled, `from` is used as it is.
+ProgramFolder filledFolder(const std::filesystem::path& from, const std::filesystem::path& to);
 
 }  // namespace tracewell

@@ -86,6 +86,20 @@ void describe(QWidget& described) {
     described.setAccessibleDescription(description);
 }
 
+/// Its description changes with the language, once the tip has.
+class PaleEffect : public QGraphicsOpacityEffect {
+ public:
+  explicit PaleEffect(QWidget& pale) : QGraphicsOpacityEffect(&pale) {
+    pale.installEventFilter(this);
+  }
+
+ protected:
+  bool eventFilter(QObject* pale, QEvent* event) override {
+    if (event->type() == QEvent::LanguageChange) describe(*static_cast<QWidget*>(pale));
+    return false;
+  }
+};
+
 }  // namespace
 
 /// Without an effect where nothing is pale: an effect costs a picture of its own at each painting.
@@ -97,7 +111,7 @@ void showPale(QWidget& widget, bool isPale) {
     widget.setGraphicsEffect(nullptr);
     return describe(widget);
   }
-  auto* effect = new QGraphicsOpacityEffect(&widget);
+  auto* effect = new PaleEffect(widget);
   const bool isButton = qobject_cast<QAbstractButton*>(&widget) != nullptr ||
                         qobject_cast<QComboBox*>(&widget) != nullptr;
   effect->setOpacity(isButton ? paleButtonOpacity : paleOpacity);

@@ -56,6 +56,7 @@ void WaveformButtons::loadCSV(const std::filesystem::path& path) {
       return isDrawn ? words.say("Loaded %1", {pathText(path)})
                      : words.say("%1 has no data", {pathText(path)});
     });
+    if (isDrawn) tellIfNotAsSaved(main_.status, main_.txtMsg.text());
   } catch (const Error& error) {
     throw Error(error.number(), error.source(), error.description() + ": " + pathText(path));
   }

@@ -138,7 +138,9 @@ void frmLoad::fileCSV_Click() {
 
 void frmLoad::cmdOK_Click() {
   try {
-    drawSet(readWaveforms(readWaveformFile(pathOf(dataPath_)), channel1Value_, channel2Value_));
+    const std::string text = readWaveformFile(pathOf(dataPath_));
+    if (drawSet(readWaveforms(text, channel1Value_, channel2Value_)))
+      tellIfNotAsSaved(main_.status, text);
     hide();
   } catch (const Error& error) {
     // Without a box: the window stays for another choice.
@@ -162,7 +164,7 @@ void frmLoad::sayWhyNot(const std::string& text) {
 }
 
 /// Into the first reference plot that is free and, for the second channel, the one behind it.
-void frmLoad::drawSet(const LoadedWaveforms& set) {
+bool frmLoad::drawSet(const LoadedWaveforms& set) {
   int number = ScopeGraph::firstReference;
   while (number <= ScopeGraph::plotCount && main_.graphDSO.plot(number).visible()) ++number;
   std::size_t drawn = 0;
@@ -188,6 +190,7 @@ void frmLoad::drawSet(const LoadedWaveforms& set) {
     main_.status.tellToo(StatusLine::happened, [replaced](const Words& words) {
       return words.say("Loaded in the place of %1", {replaced});
     });
+  return drawn > 0;
 }
 
 void frmLoad::sayWhatIsShown(std::size_t drawn, bool hasRoom) {
@@ -198,6 +201,13 @@ void frmLoad::sayWhatIsShown(std::size_t drawn, bool hasRoom) {
       return words.say("No room for all of %1: press %2 first", {path, main_.cmdRemove.caption()});
     return drawn == 0 ? words.say("%1 has no record of what was chosen", {path})
                       : words.say("Loaded %1", {path});
+  });
+}
+
+void tellIfNotAsSaved(StatusLine& status, std::string_view csvText) {
+  if (isAsSaved(csvText)) return;
+  status.tellToo(StatusLine::happened, [](const Words& words) {
+    return words.say("The file is not as a panel saves it: its trace may be wrong");
   });
 }
 

@@ -42,7 +42,8 @@ class frmLoad : public Window {
   void showSet(const std::string& dataPath);
   void fileCSV_Click();
   void cmdOK_Click();
-  void drawSet(const LoadedWaveforms& set);
+  /// True if something is drawn.
+  bool drawSet(const LoadedWaveforms& set);
   std::string whyNot(const Error& error) const;
   void sayWhyNot(const std::string& text);
   void sayWhatIsShown(std::size_t drawn, bool hasRoom);
@@ -59,5 +60,8 @@ class frmLoad : public Window {
   /// Entry of fileCSV whose description is shown.
   int shownFile_ = ListBox::noEntry;
 };
+
+/// A reference was drawn from this text.
+void tellIfNotAsSaved(StatusLine& status, std::string_view csvText);
 
 }  // namespace tracewell

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "WaveformSetReader.h"
 
+#include <algorithm>
 #include <optional>
 #include <string_view>
 
@@ -130,6 +131,17 @@ std::vector<double> readFirstColumn(const std::string& csvText) {
     points.push_back(sample(line.substr(0, line.find(','))));
   });
   return points;
+}
+
+bool isAsSaved(std::string_view csvText) {
+  std::string_view heading, line;
+  takeLine(csvText, heading);
+  const bool hasBoth = heading == "Channel 1,Channel 2";
+  if (!hasBoth && heading != "Channel 1" && heading != "Channel 2") return false;
+  int count = 0;
+  for (; takeLine(csvText, line); ++count)
+    if (std::ranges::count(line, ',') != (hasBoth ? 1 : 0)) return false;
+  return count == WaveformRecord::sampleCount && csvText.empty();
 }
 
 }  // namespace tracewell

@@ -16,8 +16,7 @@ constexpr RecordStore::Number farthestOther = 64;
 bool isUnderSameScales(const RecordFacts& one, const RecordFacts& other) {
   return one.madeUnder.voltsPerDivision == other.madeUnder.voltsPerDivision &&
          one.madeUnder.secondsPerDivision == other.madeUnder.secondsPerDivision &&
-         one.madeUnder.mathEntry == other.madeUnder.mathEntry &&
-         one.line.portNumber == other.line.portNumber;
+         one.madeUnder.mathEntry == other.madeUnder.mathEntry && one.line == other.line;
 }
 
 std::string number(std::size_t count) {
@@ -49,7 +48,9 @@ void RecorderView::follow(bool isFollowing) {
 RecorderView::Still::Still(RecorderView& view, File file)
     : view_(view), wasFollowing_(view.isFollowing_) {
   if (file == File::table && view.isMarked()) {
-    first_ = view.exported().first;
+    const Stretch stretch = view.stretch();
+    first_ = stretch.first;
+    while (*first_ < stretch.end && !view.isShown(view.store_.facts(*first_).channel)) ++*first_;
   } else {
     for (const auto& number : view.saved()) {
       if (number && file == File::set)

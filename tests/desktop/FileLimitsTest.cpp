@@ -106,7 +106,7 @@ TEST(FileLimits, RecordOfAnySizeCostsNothing) {
   const fs::path record = users.path() / "shipped-files";
   writeWholeFile(record, "");
   fs::resize_file(record, std::uintmax_t(1) << 30);
-  expectCheap([&] { fillProgramFolder(shipped.path(), users.path()); });
+  expectCheap([&] { filledFolder(shipped.path(), users.path()); });
   EXPECT_LT(fs::file_size(record), 2000u);
 }
 

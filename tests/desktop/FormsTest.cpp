@@ -39,6 +39,8 @@ TEST(DesktopWords, FollowTheLanguageInEveryWindowAndLeaveWhatIsShown) {
   main.known.typed(":TIM:SCAL 1");
   main.slideTrig.trust = [] { return Trust::unread; };
   main.slideTrig.notifyChanged();
+  main.opOff.trust = [] { return Trust::stale; };
+  main.opOff.notifyChanged();
   main.mnbLA3.choose();
   desktop.windows.show(desktop.program.rs232);
   QApplication::processEvents();
@@ -48,6 +50,8 @@ TEST(DesktopWords, FollowTheLanguageInEveryWindowAndLeaveWhatIsShown) {
   EXPECT_EQ(mark->accessibleName(), QStringLiteral("incertain"));
   EXPECT_EQ(fromQt(desktop.windows.widgetOf(main.slideTrig)->accessibleDescription()),
             tip(main.slideTrig) + ". L’instrument a peut-être une autre valeur");
+  EXPECT_EQ(fromQt(desktop.windows.widgetOf(main.opOff)->accessibleDescription()),
+            "Sans curseurs. L’instrument a peut-être une autre valeur");
   EXPECT_EQ(main.lblPort.caption(), "port 0 - instrument simulé");
   EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel"), QStringLiteral("Annuler"));
   const auto shown = [&](const Control& control) {
@@ -197,6 +201,8 @@ TEST_F(FormsTest, EnterOnATypedModeTakesItAndNoMore) {
     mode->setFocus();
     mode->lineEdit()->selectAll();
     QTest::keyClicks(mode, QLatin1String(name));
+    // As a new mark does.
+    window.cbMode.notifyChanged();
     QTest::keyClick(mode, Qt::Key_Tab);
     EXPECT_EQ(window.cbMode.text(), name);
   }

@@ -309,7 +309,14 @@ TEST_F(LookTest, SentencesFollowEachOtherWithTheSignsOfTheirWeight) {
   for (const int width : {300, 150, 110, 50, 30}) {
     line.resize(width, 20);
     expectDrawn(line, "sentences in " + std::to_string(width));
-    EXPECT_EQ(tip(), width == 300 ? QString() : line.text());
+    EXPECT_EQ(tip(), width == 300 ? QString() : QStringLiteral("<p>wwww<br>\nwwww wwww</p>"));
+  }
+  line.setSentences({{QStringLiteral("www <b> ").repeated(100), true}});
+  tip();
+  for (const QWidget* shown : QApplication::topLevelWidgets()) {
+    if (shown->windowType() == Qt::ToolTip) {
+      EXPECT_LT(shown->width(), shown->screen()->geometry().width());
+    }
   }
   line.setSentences({});
   line.setFrameShape(QFrame::Box);

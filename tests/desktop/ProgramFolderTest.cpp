@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ProgramFolder.h"
 
+#include <sys/resource.h>
+
+#include <csignal>
+
 #include "Bench.h"
 
 namespace tracewell {
@@ -45,7 +49,7 @@ TEST(ProgramFolder, FilesFollowTheVersionUnlessTheUserHasChangedThem) {
     writeWholeFile(older.path() / file.name, first);
     writeWholeFile(newer.path() / file.name, file.shippedNext);
   }
-  EXPECT_EQ(fillProgramFolder(older.path(), users), Lines());
+  EXPECT_EQ(filledFolder(older.path(), users).offered, Lines());
   for (const auto& file : cases) {
     EXPECT_EQ(contentOrNone(users / file.name), first) << file.name;
     fs::remove(users / file.name);
@@ -59,13 +63,14 @@ TEST(ProgramFolder, FilesFollowTheVersionUnlessTheUserHasChangedThem) {
     }
   };
   const auto after = [](const auto& file) { return file.after; };
-  EXPECT_EQ(fillProgramFolder(newer.path(), users), (Lines{"default.sit.new", "dso_la2.cap.new"}));
+  EXPECT_EQ(filledFolder(newer.path(), users).offered,
+            (Lines{"default.sit.new", "dso_la2.cap.new"}));
   expect(" after", after);
-  EXPECT_EQ(fillProgramFolder(newer.path(), users), Lines());
+  EXPECT_EQ(filledFolder(newer.path(), users).offered, Lines());
   expect(" at the next start", after);
-  EXPECT_EQ(fillProgramFolder(older.path(), users), Lines());
+  EXPECT_EQ(filledFolder(older.path(), users).offered, Lines());
   expect(" back", [](const auto& file) { return file.back; });
-  EXPECT_EQ(fillProgramFolder(newer.path(), users), Lines());
+  EXPECT_EQ(filledFolder(newer.path(), users).offered, Lines());
   expect(" again", after);
 }
 
@@ -75,11 +80,31 @@ TEST(ProgramFolder, FilesOfUnknownOriginAreKept) {
   for (const char* name : {"dso_la1.cap", "dso.cmd", "default.dso"})
     writeWholeFile(users.path() / name, own);
   writeWholeFile(users.path() / "shipped-version", "0.9");
-  EXPECT_EQ(fillProgramFolder(shipped.path(), users.path()), Lines{"dso.cmd.new"});
+  EXPECT_EQ(filledFolder(shipped.path(), users.path()).offered, Lines{"dso.cmd.new"});
   for (const char* name : {"dso_la1.cap.bad", "dso.cmd", "default.dso"})
     EXPECT_EQ(contentOf(users.path() / name), own) << name;
   EXPECT_EQ(contentOf(users.path() / "dso_la1.cap"), contentOf(shipped.path() / "dso_la1.cap"));
   EXPECT_FALSE(fs::exists(users.path() / "shipped-version"));
+}
+
+TEST(ProgramFolder, SaysWhyTheUsersOneCannotBeUsed) {
+  const ProgramFolderCopy shipped, parent;
+  const auto failureIn = [&](const fs::path& users) {
+    const ProgramFolder folder = filledFolder(shipped.path(), users);
+    EXPECT_EQ(folder.path, shipped.path());
+    return folder.failure;
+  };
+  const fs::path underAFile = parent.path() / "dso.cmd" / "tracewell";
+  EXPECT_EQ(failureIn(underAFile), "Cannot use " + underAFile.string() + " (Not a directory)");
+  // As on a full disk.
+  rlimit before{};
+  getrlimit(RLIMIT_FSIZE, &before);
+  std::signal(SIGXFSZ, SIG_IGN);
+  const rlimit none{0, before.rlim_max};
+  setrlimit(RLIMIT_FSIZE, &none);
+  const std::string failure = failureIn(parent.path() / "new");
+  setrlimit(RLIMIT_FSIZE, &before);
+  EXPECT_TRUE(failure.ends_with("(File too large)")) << failure;
 }
 
 }  // namespace

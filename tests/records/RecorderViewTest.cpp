@@ -84,15 +84,23 @@ TEST_F(RecorderViewTest, StepsThroughTheRecordsOfTheChannelsThatAreShown) {
 TEST_F(RecorderViewTest, ARecordThatGoesOutOfTheStoreIsPointedAtNoLonger) {
   ASSERT_TRUE(store.pin(keepLevel(1, 1), "first"));
   const auto second = keepLevel(1, 2);
+  const auto other = keepLevel(2, 3);
+  using Still = RecorderView::Still;
+  view.mark(0, other);
+  view.show(2);
+  const Still hidingFirst(view, Still::File::table);
+  view.show(0);
   view.mark(0, second);
   view.select(second);
-  using Still = RecorderView::Still;
   const Still table(view, Still::File::table);
   const Still set(view, Still::File::set);
   view.select(0);
   const Still pinned(view, Still::File::set);
   view.select(second);
-  for (int i = 0; i < 10001; ++i) keepLevel(1, 10 + i % 7);
+  for (int i = 0; store.first() < other; ++i) keepLevel(1, 10 + i % 7);
+  EXPECT_TRUE(hidingFirst.isWhole());
+  keepLevel(1, 9);
+  EXPECT_FALSE(hidingFirst.isWhole());
   EXPECT_FALSE(table.isWhole());
   EXPECT_FALSE(set.isWhole());
   EXPECT_TRUE(pinned.isWhole());
