@@ -215,7 +215,8 @@ class Oracle : public Held {
     static const Lines parts = partsOf(
         ":CHAN@:SCAL $|:trig:lev #|:tim:scal 1E-3|:chan@:scal $|:CHANNEL@:SCALE $|:CHAN@:OFFS #|"
         ":CHAN@:DISP %|:CHAN@:PROB 1|:CHAN@:COUP 2|CHAN1:MATH %|CHAN1:MATH 2|:TIM:SCAL $|"
-        ":TIM:DEL #|:TRIG:LEV #|:TRIG:SOUR %|:TRIG:MOD %|:RUN|:Stop|:SYST:UNL|*RST|:AUT|:SELF:TEST|"
+        ":TIM:DEL #|:TRIG:LEV #|:TRIG:SOUR %|:TRIG:MOD %|:TRIG:MOD 2|:trig:mod "
+        "2|:RUN|:Stop|:SYST:UNL|*RST|:AUT|:SELF:TEST|"
         "*IDN?|:CHAN@:SCAL?|:TRIG:LEV?|:TRIG:SOUR?|:TRIG:MOD?|:TIM:DEL?|:CHAN@:DISP?|:NONE?|"
         ":CHAN@:OFFS?",
         '|');

@@ -32,6 +32,8 @@ class TrueInstrument : public TrueTexts {
   int math = 0;
   bool isLocked = false;
   bool isStopped = false;
+  /// The panel has set the mode.
+  bool isModeSet = false;
   /// Whether the trigger comes.
   bool isTriggered = true;
   std::int64_t now = 0;
@@ -70,6 +72,7 @@ class TrueInstrument : public TrueTexts {
     level = history_.inTenths();
     source = below(4);
     mode = below(4);
+    isModeSet = false;
     hasChanged_ = true;
   }
   void setUpAnew() {
@@ -118,6 +121,7 @@ class TrueInstrument : public TrueTexts {
   void take(const std::string& header, const std::string& value) {
     const double number = std::atof(value.c_str());
     hasChanged_ = true;
+    isModeSet = isModeSet || header == "TRIG:MOD";
     if (const auto named = numbers_.find(header); named != numbers_.end()) {
       if (number > 0 || !header.ends_with(":SCAL")) named->second.first = number;
     } else if (header.ends_with(":PROB")) {
@@ -167,8 +171,9 @@ class TrueInstrument : public TrueTexts {
   /// Where the trigger does not come a sweep that was made before is sent, unless that would be one
   /// that nobody could know to be of another setting.
   std::string record(std::size_t channel) {
-    const bool isTakenForNew =
-        hasChanged_ && history_.held(channel) != history_.sweeps[sweep_].number;
+    const bool isTakenForNew = hasChanged_ &&
+                               history_.held(channel) != history_.sweeps[sweep_].number &&
+                               (mode < 2 || !isModeSet);
     if (!isStopped && (isTriggered || isTakenForNew)) sweep();
     TrueSweep& sent = history_.sweeps[sweep_];
     ++sent.sent[channel];

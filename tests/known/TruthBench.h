@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <set>
+
 #include "Bench.h"
 #include "PacedChannel.h"
 #include "TrueInstrument.h"
@@ -27,8 +29,9 @@ class Ports : public ChannelOpener {
   std::unique_ptr<ByteChannel> open(const LineSettings& settings) override {
     if (!plugged[settings.portNumber]) throw Error(deviceError, "RS232", "no such port");
     // What another panel may have left at it nobody can know here.
-    if (std::exchange(number_, settings.portNumber) != settings.portNumber)
-      plugged[settings.portNumber]->instrument->setUpAnew();
+    const bool isOther = std::exchange(number_, settings.portNumber) != settings.portNumber;
+    TrueInstrument& instrument = *plugged[settings.portNumber]->instrument;
+    if (opened_.insert(instrument.id).second && isOther) instrument.setUpAnew();
     line = plugged[settings.portNumber];
     line->end.byteTime = 10000.0 / settings.baudRate;
     line->end.lineFreeAt = 0;
@@ -56,6 +59,8 @@ class Ports : public ChannelOpener {
   VirtualClock& clock_;
   Channel* open_ = nullptr;
   std::int16_t number_ = 3;
+  /// Instruments by their id.
+  std::set<int> opened_;
 };
 
 /// The whole program on lines at whose ends the truth can be seen.
