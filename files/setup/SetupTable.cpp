@@ -7,14 +7,6 @@
 #include "Numbers.h"
 
 namespace tracewell {
-namespace {
-
-void checkCell(int row, int column) {
-  if (row < 0 || row >= SetupTable::rowCount || column < 0 || column >= SetupTable::columnCount)
-    throw subscriptError();
-}
-
-}  // namespace
 
 const std::vector<DesignRow>& SetupTable::shippedDesign() {
   static const std::vector<DesignRow> design{
@@ -55,13 +47,16 @@ void SetupTable::addNewValues(int row) {
 }
 
 const std::string& SetupTable::text(int row, int column) const {
-  checkCell(row, column);
-  return cells_[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)];
+  return cells_[placeOf(row, column)];
 }
 
 void SetupTable::setText(int row, int column, std::string text) {
-  checkCell(row, column);
-  cells_[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)] = std::move(text);
+  cells_[placeOf(row, column)] = std::move(text);
+}
+
+std::size_t SetupTable::placeOf(int row, int column) {
+  if (row >= rowCount || column >= columnCount) throw subscriptError();
+  return static_cast<std::size_t>(row * columnCount + column);
 }
 
 std::int16_t SetupTable::number(int row, int column) const {

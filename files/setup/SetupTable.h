@@ -62,7 +62,7 @@ class SetupTable {
   /// How many rows a setup file holds.
   int fileRows() const { return static_cast<int>(design_->size()); }
 
-  /// Raises "Subscript out of range" outside the table.
+  /// Raises "Subscript out of range" behind the end of the table or of a row.
   const std::string& text(int row, int column) const;
   void setText(int row, int column, std::string text);
 
@@ -75,8 +75,11 @@ class SetupTable {
   void addNewValues(int row);
 
  private:
+  static std::size_t placeOf(int row, int column);
+
   const std::vector<DesignRow>* design_;
-  std::array<std::array<std::string, columnCount>, rowCount> cells_;
+  /// Row by row.
+  std::array<std::string, rowCount * columnCount> cells_;
 };
 
 }  // namespace tracewell
