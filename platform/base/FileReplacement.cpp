@@ -57,7 +57,6 @@ bool isSecondName(const fs::path& aside, const fs::path& target) {
 
 /// Takes the name first, with an empty file, so that nobody else's is ever replaced.
 std::error_code renameToNew(const fs::path& target, const fs::path& aside) {
-  errno = 0;
   if (createExclusively(aside) == nullptr) return lastFailure();
   std::error_code failed;
   fs::rename(target, aside, failed);
@@ -96,12 +95,10 @@ class Replacement {
 
   void write(std::string_view bytes) {
     takeOwnerAndMode();
-    errno = 0;
     if (std::fwrite(bytes.data(), 1, bytes.size(), file_.get()) != bytes.size() ||
         std::fflush(file_.get()) != 0)
       throw cannotWrite(path_, lastFailure(), diskFull);
     if (usedDisk != nullptr) check(usedDisk->flush(*file_), diskFull);
-    errno = 0;
     if (std::fclose(file_.release()) != 0) throw cannotWrite(path_, lastFailure(), diskFull);
   }
 
@@ -112,11 +109,8 @@ class Replacement {
 
   /// Gives the old file a name of its own, by which it can come back.
   void keepOld() {
-    std::error_code failed = std::make_error_code(std::errc::file_exists);
-    for (int i = 0; i < mostTries && failed == std::errc::file_exists; ++i) {
-      old_ = nameBeside(".old");
-      failed = keepAs(old_, target_);
-    }
+    old_ = nameBeside(".old");
+    const std::error_code failed = keepAs(old_, target_);
     if (failed) old_.clear();
     // Where no file was there is nothing to keep.
     if (failed != std::errc::no_such_file_or_directory) check(failed);
@@ -146,19 +140,16 @@ class Replacement {
 
   fs::path folder() const { return target_.has_parent_path() ? target_.parent_path() : "."; }
 
-  /// A short name, since that of the target may already be as long as the system allows.
+  /// A short name, since that of the target may already be as long as the system allows. Chance
+  /// makes it one that nobody has.
   fs::path nameBeside(const char* extension) const {
     std::random_device random;
     return folder() / (".tracewell-" + std::to_string(random()) + extension);
   }
 
   void create() {
-    for (int i = 0; i < mostTries && file_ == nullptr; ++i) {
-      beside_ = nameBeside(".new");
-      errno = 0;
-      file_ = createExclusively(beside_);
-      if (file_ == nullptr && errno != EEXIST) break;
-    }
+    beside_ = nameBeside(".new");
+    file_ = createExclusively(beside_);
     if (file_ == nullptr) throw cannotWrite(path_);
   }
 
@@ -175,8 +166,6 @@ class Replacement {
       fs::permissions(beside_, old.permissions(), failed);
     check(failed);
   }
-
-  static constexpr int mostTries = 20;
 
   fs::path target_;
   const fs::path& path_;

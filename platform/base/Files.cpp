@@ -28,7 +28,6 @@ std::ifstream openForReading(const fs::path& path) {
 std::string readUpTo(std::ifstream& file, const fs::path& path, std::uintmax_t limit) {
   std::string bytes;
   std::array<char, 65536> block;
-  errno = 0;
   while (bytes.size() < limit) {
     const auto wanted = std::min<std::uintmax_t>(block.size(), limit - bytes.size());
     file.read(block.data(), static_cast<std::streamsize>(wanted));
