@@ -99,9 +99,7 @@ double atFifteenDigits(double value) {
   char* const start = buffer.data();
   const char* const end =
       std::to_chars(start, start + buffer.size(), value, std::chars_format::scientific, 14).ptr;
-  double rounded = 0;
-  std::from_chars(start, end, rounded);
-  return rounded;
+  return readNumber({start, end});
 }
 
 std::string_view numberAtStart(std::string_view text) {

@@ -8,9 +8,9 @@ std::string Words::say(const char* english, std::initializer_list<std::string> v
   const std::string sentence = translated(english);
   std::string said;
   for (std::size_t i = 0; i < sentence.size(); ++i) {
-    const std::size_t place = sentence[i] == '%' && i + 1 < sentence.size()
-                                  ? static_cast<std::size_t>(sentence[i + 1] - '1')
-                                  : values.size();
+    // Behind the last character is one that is no digit.
+    const std::size_t place =
+        sentence[i] == '%' ? static_cast<std::size_t>(sentence[i + 1] - '1') : values.size();
     if (place < values.size()) {
       said += values.begin()[place];
       ++i;
