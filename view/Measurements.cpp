@@ -133,8 +133,6 @@ void Measurements::measureFlagged(Inquiry& inquiry, int channel,
     inquiry.next();
     const std::string reply = askPatiently(channel, std::string(queries[item]));
     showNext(channel, labelText(names[item], channel) + ": ", reply, queries[item]);
-    // The list can be long. No handler runs in between: it would change what is being measured.
-    main_.services().standBy.turn();
     inquiry.note(!reply.empty());
   }
 }
