@@ -119,10 +119,7 @@ void Measurements::chooseSource(int channel) {
 
 void Measurements::ClearMeasureLabels() {
   results_ = {};
-  for (ValueLabel& label : main_.lblMeasure) {
-    label.caption = "";
-    label.notifyChanged();
-  }
+  for (ValueLabel& label : main_.lblMeasure) label.caption = "";
 }
 
 void Measurements::measureFlagged(Inquiry& inquiry, int channel,
