@@ -10,7 +10,7 @@ namespace {
 /// As much as leaves a log that was cut room to grow, so that the next run takes it whole.
 std::string newestLines(const std::string& log) {
   constexpr std::size_t most = fileLimit::errorLog / 2;
-  const std::size_t end = log.find('\n', log.size() - most - 1);
+  const std::size_t end = log.find('\n', log.size() - most);
   return end == std::string::npos ? "" : log.substr(end + 1);
 }
 
