@@ -75,9 +75,9 @@ TEST_F(LineNoticeTest, SaysOverAnOpenDialogThatNobodyIsThere) {
     EXPECT_EQ(main.lblStatus.caption().substr(0, 38), "The connection is lost: no such device");
     EXPECT_TRUE(source.isUnread());
     port.lineReport = {};
-    port.lineReport.unansweredInRow = 3;
+    port.lineReport.unansweredInRow = 2;
     clock.run(1000);
-    EXPECT_EQ(banner(), "No answer to the last 3 questions");
+    EXPECT_EQ(banner(), "No answer to the last 2 questions");
     port.lineReport = {};
     program.trigger.cmdCancel.press();
   };
