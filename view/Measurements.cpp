@@ -29,10 +29,9 @@ bool isNoValue(const std::string& reply) {
 /// "Vpp(1)\t1.000 V". A quick result has nothing between its name and its value.
 std::string rowOf(const std::string& result) {
   const std::string_view separator = ": ";
-  if (const std::size_t end = result.find(separator); end != std::string::npos) {
-    const std::size_t nameEnd = result.find_last_not_of(' ', end - 1) + 1;
-    return result.substr(0, nameEnd) + "\t" + result.substr(end + separator.size());
-  }
+  if (const std::size_t end = result.find(separator); end != std::string::npos)
+    return std::string(trimBlanks(result.substr(0, end))) + "\t" +
+           result.substr(end + separator.size());
   for (const std::string_view name : FreqMeasName)
     if (result.starts_with(name)) return std::string(name) + "\t" + result.substr(name.size());
   return result;
@@ -218,7 +217,7 @@ void Measurements::measureQuickly() {
 void Measurements::fmMeasure_Copied() {
   std::string table;
   for (const ValueLabel& label : main_.lblMeasure)
-    if (!label.caption().empty() && (!label.trust || label.trust() == Trust::holds))
+    if (!label.caption().empty() && label.trust() == Trust::holds)
       table += rowOf(label.caption()) + "\n";
   if (table.empty()) return;
   main_.services().clipboard.put(table, Image());
