@@ -45,8 +45,7 @@ GraphPage PagePrinting::page() {
   if (!main_.opOff.value()) page.captions.push_back(main_.graphDSO.axis("XAxis").caption());
   for (int number = 1; number <= printedPlots; ++number) {
     const Plot& plot = main_.graphDSO.plot(number);
-    if (plot.visible() && !plot.x().empty())
-      page.traces.push_back({number, plot.name(), plot.x(), plot.y()});
+    if (plot.isShown()) page.traces.push_back({number, plot.name(), plot.x(), plot.y()});
   }
   return page;
 }

@@ -55,8 +55,11 @@ void SetupTable::setText(int row, int column, std::string text) {
 }
 
 std::size_t SetupTable::placeOf(int row, int column) {
-  if (row >= rowCount || column >= columnCount) throw subscriptError();
-  return static_cast<std::size_t>(row * columnCount + column);
+  const auto line = static_cast<std::size_t>(row);
+  const auto place = static_cast<std::size_t>(column);
+  // Also what is below zero is outside.
+  if (line >= rowCount || place >= columnCount) throw subscriptError();
+  return line * columnCount + place;
 }
 
 std::int16_t SetupTable::number(int row, int column) const {

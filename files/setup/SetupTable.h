@@ -62,7 +62,7 @@ class SetupTable {
   /// How many rows a setup file holds.
   int fileRows() const { return static_cast<int>(design_->size()); }
 
-  /// Raises "Subscript out of range" behind the end of the table or of a row.
+  /// Raises "Subscript out of range" outside the table.
   const std::string& text(int row, int column) const;
   void setText(int row, int column, std::string text);
 

@@ -28,10 +28,13 @@ AppendedFile::AppendedFile(fs::path path) : path_(std::move(path)) {
 }
 
 std::error_code AppendedFile::append(std::string_view bytes) {
+  errno = 0;
   const std::size_t written = std::fwrite(bytes.data(), 1, bytes.size(), file_.get());
   size_ += written;
   if (written == bytes.size()) return {};
-  return lastFailure();
+  // What has not been written must never pass for it.
+  const std::error_code failure = lastFailure();
+  return failure ? failure : std::make_error_code(std::errc::io_error);
 }
 
 std::error_code AppendedFile::flush() {
