@@ -419,7 +419,8 @@ MadeUnder whicheverHolds(const MadeUnder& a, const MadeUnder& b) {
 
 KnownInstrument::Moment KnownInstrument::signalChangedAt(int channel) const {
   return std::max({changedAt(ofChannel(scale1, channel)), changedAt(ofChannel(probe1, channel)),
-                   changedAt(ofChannel(input1, channel)), changedAt(timeBase), changedAt(math)});
+                   changedAt(ofChannel(input1, channel)), changedAt(timeBase), changedAt(math),
+                   changedAt(acquireMode), changedAt(acquireAverage)});
 }
 
 bool KnownInstrument::isStopped() const {

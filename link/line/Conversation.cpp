@@ -120,6 +120,7 @@ void Conversation::forget() {
   state_ = State::idle;
   unanswered_ = 0;
   owedBytes_ = 0;
+  isBehindRecord_ = false;
   isStray_ = false;
   replies_.beginAnew();
   account_.beginAnew();
@@ -208,7 +209,8 @@ void Conversation::hearBehindRecord(std::string_view bytes) {
   hearLines(others, askedAt_);
 }
 
-/// The samples of a flat signal are blanks, too, but none of them is a line end.
+/// The samples of a flat signal are blanks, too. One that is a line end is a level far off the
+/// screen.
 bool Conversation::mayBeShifted() const {
   const bool isLineEnd = behind_.empty() || behind_ == "\r" || lineEnd.ends_with(behind_);
   return !isLineEnd && replies_.isDue(askedAt_);
