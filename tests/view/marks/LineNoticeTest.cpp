@@ -9,7 +9,7 @@ using LineNoticeTest = ProgramTest;
 TEST_F(LineNoticeTest, SaysWhatIsWrongOnTheLineAsLongAsItIs) {
   const std::int64_t then = clock.milliseconds();
   const LineReport::Tally once{1, then};
-  const LineReport::Tally often{3, then};
+  const LineReport::Tally often{2, then};
   using Report = LineReport;
   using Happened = std::vector<std::pair<Report::Tally Report::*, Report::Tally>>;
   // What has happened, and whether a record has come since.
@@ -23,7 +23,7 @@ TEST_F(LineNoticeTest, SaysWhatIsWrongOnTheLineAsLongAsItIs) {
       {{{&Report::missingRecords, once}}, false, ""},
       {{{&Report::missingRecords, often}, {&Report::unaskedBytes, often}},
        false,
-       "Bytes that nobody asked for: 3 in a minute; Records that did not come: 3 in a minute"},
+       "Bytes that nobody asked for: 2 in a minute; Records that did not come: 2 in a minute"},
       {{}, false, ""}};
   for (const auto& [happened, isOver, expected] : cases) {
     port.lineReport = {};
