@@ -72,8 +72,7 @@ std::error_code keepAs(const fs::path& aside, const fs::path& target) {
   if (isSecondName(aside, target)) return {};
   std::error_code failed;
   fs::create_hard_link(target, aside, failed);
-  const bool isAnswer =
-      !failed || failed == std::errc::file_exists || failed == std::errc::no_such_file_or_directory;
+  const bool isAnswer = !failed || failed == std::errc::no_such_file_or_directory;
   return isAnswer ? failed : renameToNew(target, aside);
 }
 
