@@ -40,9 +40,14 @@ bool isKnownAndSame(std::optional<double> made, std::optional<double> present) {
 }
 
 /// Each change wakes the program and the screen.
+bool isCountedExactly(const Channel& channel, std::int64_t now) {
+  return now - channel.record.fetchedAt < countedExactly;
+}
+
 std::string restingAge(const Words& words, const Channel& channel, std::int64_t now) {
   const std::int64_t age = now - channel.record.fetchedAt;
-  if (age < countedExactly || age >= countedInSeconds) return ageText(words, channel, now);
+  if (isCountedExactly(channel, now) || age >= countedInSeconds)
+    return ageText(words, channel, now);
   return words.say("%1: last record over %2 s ago",
                    {channel.display.caption(), std::to_string(age / countedExactly * 10)});
 }
@@ -85,7 +90,7 @@ std::string ageText(const Words& words, const Channel& channel, std::int64_t now
 int changeInterval(const frmDSO& main) {
   if (main.services().port.report().sureAt) return 1000;
   const auto hasJustCome = [&main](const Channel& channel) {
-    return channel.isDisplayed && now(main) - channel.record.fetchedAt < countedExactly;
+    return channel.isDisplayed && isCountedExactly(channel, now(main));
   };
   return main.tmDSO.enabled() || std::ranges::any_of(main.channels, hasJustCome) ? 1000 : 2000;
 }
