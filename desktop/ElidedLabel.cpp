@@ -3,12 +3,31 @@
 
 #include <QHelpEvent>
 #include <QPainter>
+#include <QTextLayout>
 #include <QToolTip>
 #include <algorithm>
 
 #include "BannerPainter.h"
 
 namespace tracewell {
+namespace {
+
+QString broken(const QString& text, const QFont& font, int width) {
+  QTextLayout layout(text, font);
+  QTextOption option;
+  option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+  layout.setTextOption(option);
+  layout.beginLayout();
+  QStringList lines;
+  for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+    line.setLineWidth(width);
+    lines << text.mid(line.textStart(), line.textLength()).trimmed();
+  }
+  layout.endLayout();
+  return lines.join(QLatin1Char('\n'));
+}
+
+}  // namespace
 
 ElidedLabel::ElidedLabel(QWidget* parent) : QLabel(parent) {
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
@@ -99,12 +118,13 @@ void ElidedLabel::paintEvent(QPaintEvent*) {
   }
 }
 
-/// A tip breaks the lines of rich text alone.
+/// Tips are plain here, and break no line of plain text.
 QString ElidedLabel::wholeText() const {
+  const int widest = 90 * fontMetrics().averageCharWidth();
+  if (sentences_.empty()) return broken(text(), font(), widest);
   QStringList lines;
-  for (const Sentence& sentence : sentences_) lines << sentence.text;
-  return Qt::convertFromPlainText(lines.isEmpty() ? text() : lines.join(QLatin1Char('\n')),
-                                  Qt::WhiteSpaceNormal);
+  for (const Sentence& sentence : sentences_) lines << broken(sentence.text, font(), widest);
+  return lines.join(QLatin1Char('\n'));
 }
 
 /// Shows the whole text as a tip where it is cut. Sets the letters' size as soon as it is told, so

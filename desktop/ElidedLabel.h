@@ -42,7 +42,7 @@ class ElidedLabel : public QLabel {
   int signWidth() const;
   int gapWidth() const;
   int neededWidth() const;
-  /// A line for each sentence.
+  /// Each sentence on lines of its own.
   QString wholeText() const;
   QFont fontThatFits() const;
   /// Returns what is left of the room; none where the sentence was cut.

@@ -33,8 +33,8 @@ void tellExplained(const QLabel& label, const QWidget& form) {
 std::vector<ElidedLabel::Sentence> shownSentences(const ValueLabel& control) {
   std::vector<ElidedLabel::Sentence> shown;
   for (const ValueLabel::Sentence& sentence : control.sentences)
-    shown.push_back({shownText(sentence.text, roomOfLine), sentence.isWarning});
-  if (shown.empty()) shown.push_back({shownText(control.caption(), roomOfLine), false});
+    shown.push_back({shownText(sentence.text, roomOfStatus), sentence.isWarning});
+  if (shown.empty()) shown.push_back({shownText(control.caption(), roomOfStatus), false});
   return shown;
 }
 
@@ -50,11 +50,13 @@ int widestOf(const QLabel& label) {
 void showValue(const ValueLabel& control, QLabel& label, const QWidget& form) {
   const QString before = label.text();
   showInLabel(label, control.caption(), widestOf(label));
+  if (auto* line = qobject_cast<ElidedLabel*>(&label); line && isOfKind(label, "status")) {
+    line->setText(shownText(control.caption(), roomOfStatus));
+    line->setSentences(shownSentences(control));
+  }
   if (label.text() != before) tellName(label);
   tellLamp(control, label, form);
   if (label.property("explains").isValid()) tellExplained(label, form);
-  auto* line = qobject_cast<ElidedLabel*>(&label);
-  if (line != nullptr && isOfKind(label, "status")) line->setSentences(shownSentences(control));
 }
 
 }  // namespace tracewell

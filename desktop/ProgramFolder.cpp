@@ -28,50 +28,60 @@ bool isProgramFile(const fs::path& path) {
          std::ranges::find(kinds, path.extension().string()) != kinds.end();
 }
 
-constexpr const char* firstFile = "dso_la1.msg";
-
 bool holdsProgramFiles(const fs::path& folder) {
   std::error_code ignored;
-  return fs::exists(folder / firstFile, ignored);
+  return fs::exists(folder / "dso_la1.msg", ignored);
 }
 
 bool isPortable(const fs::path& own) {
   return mayWriteInto(own) && holdsProgramFiles(own);
 }
 
-/// The reason with which the system refuses the first file that is read; empty where it does not.
-std::string refusal(const fs::path& from, const fs::path& to) {
-  try {
-    writeWholeFile(to / firstFile, readWholeFile(from / firstFile, fileLimit::shipped));
-    return "";
-  } catch (const Error& error) {
-    return ": " + error.description();
-  }
-}
-
-/// What cannot be copied is missed, and named, when it is first read.
-std::vector<std::string> copyShippedFiles(const fs::path& from, const fs::path& to) {
-  std::vector<std::string> offered;
-  ShippedFiles files(to);
+/// Calls `take` with name and content of each program file that can be read.
+template <class Take>
+void forEachProgramFile(const fs::path& folder, Take take) {
   std::error_code unread;
-  for (fs::directory_iterator entry(from, unread), end; !unread && entry != end;
+  for (fs::directory_iterator entry(folder, unread), end; !unread && entry != end;
        entry.increment(unread)) {
     std::error_code failed;
-    const fs::path& path = entry->path();
-    if (!isProgramFile(path) || !entry->is_regular_file(failed)) continue;
-    const std::string name = pathText(path.filename());
-    const bool isSetup = path.extension() == ".dso";
-    if (isSetup && fs::exists(fs::symlink_status(to / name, failed))) continue;
+    if (!isProgramFile(entry->path()) || !entry->is_regular_file(failed)) continue;
     try {
-      if (files.bring(name, readWholeFile(path, fileLimit::shipped)))
-        offered.push_back(name + ".new");
+      take(pathText(entry->path().filename()), readWholeFile(entry->path(), fileLimit::shipped));
     } catch (const Error&) {
       // The user's own copy, if there is one, serves.
     }
   }
+}
+
+bool isThere(const fs::path& path) {
+  std::error_code ignored;
+  return fs::exists(fs::symlink_status(path, ignored));
+}
+
+std::vector<std::string> copyShippedFiles(const fs::path& from, const fs::path& to) {
+  std::vector<std::string> offered;
+  ShippedFiles files(to);
+  forEachProgramFile(from, [&](const std::string& name, const std::string& content) {
+    const bool isUsersSetup = name.ends_with(".dso") && isThere(to / name);
+    if (!isUsersSetup && files.bring(name, content)) offered.push_back(name + ".new");
+  });
   files.keep();
   std::ranges::sort(offered);
   return offered;
+}
+
+/// The reason with which the system refuses a file that is not there; empty if all are.
+std::string refusal(const fs::path& from, const fs::path& to) {
+  std::string reason;
+  forEachProgramFile(from, [&](const std::string& name, const std::string& content) {
+    if (!reason.empty() || isThere(to / name)) return;
+    try {
+      writeWholeFile(to / name, content);
+    } catch (const Error& error) {
+      reason = ": " + error.description();
+    }
+  });
+  return reason;
 }
 
 }  // namespace
@@ -80,8 +90,8 @@ ProgramFolder filledFolder(const fs::path& from, const fs::path& to) {
   std::error_code failed;
   fs::create_directories(to, failed);
   ProgramFolder users{to, copyShippedFiles(from, to)};
-  if (holdsProgramFiles(to) || !holdsProgramFiles(from)) return users;
   const std::string reason = failed ? " (" + failed.message() + ")" : refusal(from, to);
+  if (reason.empty()) return users;
   return {from, {}, "Cannot use " + pathText(to) + reason};
 }
 

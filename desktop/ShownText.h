@@ -21,6 +21,8 @@ struct Room {
 inline constexpr Room roomOfCaption{60};
 inline constexpr Room roomOfLine{200};
 inline constexpr Room roomOfEntry{300};
+/// What has no room on the line stands in its tip.
+inline constexpr Room roomOfStatus{1000};
 inline constexpr Room roomOfEditor{4000};
 inline constexpr Room roomOfParagraph{1000, 20};
 /// Above the last part of an error log.

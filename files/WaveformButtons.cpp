@@ -56,7 +56,7 @@ void WaveformButtons::loadCSV(const std::filesystem::path& path) {
       return isDrawn ? words.say("Loaded %1", {pathText(path)})
                      : words.say("%1 has no data", {pathText(path)});
     });
-    if (isDrawn) tellIfNotAsSaved(main_.status, main_.txtMsg.text());
+    if (isDrawn && !channelsAsSaved(main_.txtMsg.text())) tellOfOddFile(main_.status);
   } catch (const Error& error) {
     throw Error(error.number(), error.source(), error.description() + ": " + pathText(path));
   }

@@ -139,8 +139,12 @@ void frmLoad::fileCSV_Click() {
 void frmLoad::cmdOK_Click() {
   try {
     const std::string text = readWaveformFile(pathOf(dataPath_));
-    if (drawSet(readWaveforms(text, channel1Value_, channel2Value_)))
-      tellIfNotAsSaved(main_.status, text);
+    if (drawSet(readWaveforms(text, channel1Value_, channel2Value_))) {
+      const auto saved = channelsAsSaved(text);
+      const bool isAsSaved = saved && saved->one == (channel1Value_ != notSaved) &&
+                             saved->two == (channel2Value_ != notSaved);
+      if (!isAsSaved) tellOfOddFile(main_.status);
+    }
     hide();
   } catch (const Error& error) {
     // Without a box: the window stays for another choice.
@@ -190,7 +194,7 @@ bool frmLoad::drawSet(const LoadedWaveforms& set) {
     main_.status.tellToo(StatusLine::happened, [replaced](const Words& words) {
       return words.say("Loaded in the place of %1", {replaced});
     });
-  return drawn > 0;
+  return hasRoom && drawn > 0;
 }
 
 void frmLoad::sayWhatIsShown(std::size_t drawn, bool hasRoom) {
@@ -204,8 +208,7 @@ void frmLoad::sayWhatIsShown(std::size_t drawn, bool hasRoom) {
   });
 }
 
-void tellIfNotAsSaved(StatusLine& status, std::string_view csvText) {
-  if (isAsSaved(csvText)) return;
+void tellOfOddFile(StatusLine& status) {
   status.tellToo(StatusLine::happened, [](const Words& words) {
     return words.say("The file is not as a panel saves it: its trace may be wrong");
   });

@@ -42,7 +42,7 @@ class frmLoad : public Window {
   void showSet(const std::string& dataPath);
   void fileCSV_Click();
   void cmdOK_Click();
-  /// True if something is drawn.
+  /// True if all that was chosen is drawn.
   bool drawSet(const LoadedWaveforms& set);
   std::string whyNot(const Error& error) const;
   void sayWhyNot(const std::string& text);
@@ -61,7 +61,7 @@ class frmLoad : public Window {
   int shownFile_ = ListBox::noEntry;
 };
 
-/// A reference was drawn from this text.
-void tellIfNotAsSaved(StatusLine& status, std::string_view csvText);
+/// A reference was drawn from a file that is not as a panel saves it.
+void tellOfOddFile(StatusLine& status);
 
 }  // namespace tracewell

@@ -82,7 +82,7 @@ void KnownInstrument::notSent(std::string_view line) {
     if (part.isQuery) continue;
     const WireEffect effect = effectOf(part);
     if (effect.isUnknown || effect.sets == math) here().isMathDoubted = true;
-    if (effect.isUnknown || effect.sets == triggerMode) entry(triggerMode).number.reset();
+    if (effect.isUnknown || effect.sets == triggerMode) here().isModeOpen = true;
     if (effect.sets == running && sentValue(running, part)->number == stoppedState)
       mayHaveStopped();
     else if (effect.sets)
@@ -116,10 +116,7 @@ void KnownInstrument::obey(const WirePart& command, bool isTrusted) {
   if (command.isQuery) return;
   const WireEffect effect = effectOf(command);
   for (const Setting setting : effect.touches) doubtful(setting, Doubt::mayHaveChanged);
-  if (effect.isUnknown) {
-    here().isMathDoubted = true;
-    entry(triggerMode).number.reset();
-  }
+  if (effect.isUnknown) here().isMathDoubted = here().isModeOpen = true;
   if (!effect.sets) return;
   const Setting setting = *effect.sets;
   const bool isPlain = setting == math || setting == running || setting == lock;
@@ -130,16 +127,20 @@ void KnownInstrument::obey(const WirePart& command, bool isTrusted) {
 }
 
 void KnownInstrument::upset() {
-  ++upsets_;
+  ++here().upsets;
   tell();
 }
 
 /// What was told or sent meanwhile may be of before.
-void KnownInstrument::upsetIsOver() {
-  --upsets_;
-  for (const Setting setting : effectOf({"AUT", "", false}).touches)
-    doubtful(setting, Doubt::mayHaveChanged);
-  upsetAt_ = now_;
+void KnownInstrument::upsetIsOver(std::int16_t port) {
+  BehindPort& there = ports_[port];
+  --there.upsets;
+  for (const Setting setting : effectOf({"AUT", "", false}).touches) {
+    Entry& doubted = there.entries[static_cast<std::size_t>(setting)];
+    if (doubted.doubt == Doubt::none) doubted.doubt = Doubt::mayHaveChanged;
+    doubted.changedAt = ++now_;
+  }
+  there.upsetAt = now_;
   tell();
 }
 
@@ -148,7 +149,7 @@ void KnownInstrument::upsetIsOver() {
 void KnownInstrument::leaveOpen(Setting setting) {
   doubtful(setting, Doubt::mayHaveChanged);
   if (setting == math) here().isMathDoubted = true;
-  if (setting == triggerMode) entry(setting).number.reset();
+  if (setting == triggerMode) here().isModeOpen = true;
 }
 
 std::optional<KnownInstrument::Value> KnownInstrument::sentValue(Setting setting,
@@ -238,6 +239,7 @@ void KnownInstrument::takeSent(Setting setting, const Value& value) {
 void KnownInstrument::take(Setting setting, Value value) {
   leave(setting);
   if (setting == math) here().isMathDoubted = false;
+  if (setting == triggerMode) here().isModeOpen = false;
   Entry& taken = entry(setting);
   taken.number = value.number;
   taken.caption = std::move(value.caption);
@@ -369,8 +371,8 @@ Doubt KnownInstrument::toldDoubt(Setting setting) const {
 template <class Condition>
 bool KnownInstrument::mayBeMode(Condition condition) const {
   const Entry& mode = entry(triggerMode);
-  const bool isOpen = mode.doubt == Doubt::mayHaveChanged || mode.doubt == Doubt::notSent;
-  return (mode.number ? condition(*mode.number) : isOpen) || sureness(mode) != Sureness::sure;
+  return here().isModeOpen || (mode.number && condition(*mode.number)) ||
+         sureness(mode) != Sureness::sure;
 }
 
 /// In one of its modes the instrument finds the trigger level by itself. The panel does not expect

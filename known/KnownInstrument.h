@@ -47,9 +47,9 @@ class KnownInstrument {
   void answered(std::string_view query, std::string_view reply, int replyNumber);
   void notAnswered(std::string_view query);
   /// The instrument changes its settings by itself, until upsetIsOver: meanwhile none is known.
-  /// As often as the one, the other.
+  /// Each upset ends by one upsetIsOver, with the port of its beginning.
   void upset();
-  void upsetIsOver();
+  void upsetIsOver(std::int16_t port);
   /// Scales and positions are about to be read; each is not known until its reply has arrived.
   void reading();
   /// A record is requested. The line decides when the request goes out.
@@ -68,9 +68,9 @@ class KnownInstrument {
   bool isKnown(Setting setting) const { return doubt(setting) == Doubt::none; }
   /// Its scales have been read on this line.
   bool isRead() const { return readOn_ == presentLine(); }
-  bool isUpset() const { return upsets_ > 0; }
+  bool isUpset() const { return here().upsets > 0; }
   /// When the instrument was upset last.
-  Moment upsetAt() const { return upsetAt_; }
+  Moment upsetAt() const { return here().upsetAt; }
   /// Since when the setting has had its value, or its doubt.
   Moment changedAt(Setting setting) const { return entry(setting).changedAt; }
 
@@ -127,8 +127,12 @@ class KnownInstrument {
   /// What was told behind one port. Whatever happens behind another, it may still be so.
   struct BehindPort {
     std::array<Entry, settingCount> entries;
+    int upsets = 0;
+    Moment upsetAt = 0;
     /// Something may have switched math on, for an unknown channel.
     bool isMathDoubted = false;
+    /// Something may have set the trigger to any mode.
+    bool isModeOpen = false;
     /// The newest request that brought a new sweep; that of each channel, and its line.
     Moment sweptAt = 0;
     std::array<Swept, 2> swept;
@@ -180,8 +184,6 @@ class KnownInstrument {
   mutable std::map<std::int16_t, BehindPort> ports_;
   mutable std::int16_t port_ = 0;
   Moment now_ = 1;
-  int upsets_ = 0;
-  Moment upsetAt_ = 0;
   std::optional<Line> readOn_;
 };
 

@@ -117,8 +117,8 @@ WireEffect effectOf(const WirePart& command) {
 }
 
 bool beginsAutoset(std::string_view line) {
-  const std::vector<WirePart> parts = wireParts(line);
-  return std::ranges::find(parts, "AUT", &WirePart::header) != parts.end();
+  return std::ranges::any_of(
+      wireParts(line), [](const WirePart& part) { return part.header == "AUT" && !part.isQuery; });
 }
 
 std::optional<Setting> askedBy(const WirePart& part) {

@@ -30,10 +30,7 @@ std::string replyValue(const std::string& line) {
 
 CommandExchange::CommandExchange(frmDSO& main, ErrorLog& errorLog)
     : main_(main), errorLog_(errorLog), inquiries_(main) {
-  autoset_.timer = [this] {
-    autoset_.enabled = false;
-    main_.known.upsetIsOver();
-  };
+  autoset_.timer = [this] { endAutosetInTime(); };
 }
 
 std::string CommandExchange::SendDSOCmd(const std::string& command) {
@@ -54,19 +51,33 @@ std::string CommandExchange::sendTyped(const std::string& line) {
     main_.known.typed(line);
   else
     noteFailed(line);
-  if (hasBegun_ && beginsAutoset(line)) noteAutoset();
+  if (hasBegun_ && beginsAutoset(line)) beginAutoset();
   if (isQuery(line)) noteAnswered(line, reply);
   return reply;
 }
 
 /// A second one begins the time anew.
-void CommandExchange::noteAutoset() {
-  if (!autoset_.enabled()) main_.known.upset();
-  autoset_.enabled = false;
+void CommandExchange::beginAutoset() {
+  if (autoset_.enabled()) endAutoset();
+  main_.known.upset();
+  autosetPort_ = main_.known.presentLine().portNumber;
+  autosetUntil_ = main_.services().clock.milliseconds() + autosetDuration;
   autoset_.enabled = true;
 }
 
+void CommandExchange::endAutoset() {
+  autoset_.enabled = false;
+  main_.known.upsetIsOver(autosetPort_);
+}
+
+/// Before each query, too, for a timer does not tick while one waits: what is asked behind the time
+/// is told behind it.
+void CommandExchange::endAutosetInTime() {
+  if (autoset_.enabled() && main_.services().clock.milliseconds() >= autosetUntil_) endAutoset();
+}
+
 std::string CommandExchange::transfer(const std::string& command) {
+  hasBegun_ = false;
   return isQuery(command) ? ask(command) : send(command, repeatLimit);
 }
 
@@ -129,7 +140,7 @@ std::string CommandExchange::exchange(const std::string& command) {
 }
 
 void CommandExchange::prepare() {
-  hasBegun_ = false;
+  endAutosetInTime();
   main_.services().port.prepare();
   hasBegun_ = true;
 }
@@ -142,6 +153,7 @@ std::string CommandExchange::query(const std::string& command) {
 
 void CommandExchange::LoadSetup() {
   if (!InRemote) return;
+  hasBegun_ = false;
   try {
     prepare();
     main_.services().port.command(":SYST:UNL\r\n", SerialPort::Reply::none);

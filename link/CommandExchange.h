@@ -43,7 +43,9 @@ class CommandExchange {
  private:
   static constexpr int repeatLimit = 8;
   std::string transfer(const std::string& command);
-  void noteAutoset();
+  void beginAutoset();
+  void endAutoset();
+  void endAutosetInTime();
   void noteFailed(const std::string& line);
   void noteAnswered(const std::string& query, const std::string& reply);
   std::string ask(const std::string& query);
@@ -61,8 +63,11 @@ class CommandExchange {
   /// Some of the last line may have gone out.
   bool hasBegun_ = false;
   Inquiries inquiries_;
-  /// Runs behind an autoset that was typed.
-  Timer autoset_{main_, autosetDuration};
+  /// Ticks while an autoset that was typed is under way: until when, on Clock's scale, and on which
+  /// port.
+  Timer autoset_{main_, 500};
+  std::int64_t autosetUntil_ = 0;
+  std::int16_t autosetPort_ = 0;
 };
 
 }  // namespace tracewell

@@ -59,11 +59,9 @@ std::string frmRS232::deviceAndState(std::int16_t number) const {
 
 void frmRS232::cmdOK_Click() {
   LineSettings& settings = services().port.settings;
-  const std::int16_t baudRate = toInt16(cbRS232(baudRateValue).text());
-  const std::int16_t portNumber = toInt16(cbRS232(portValue).text());
-  main_.state.BaudRate = baudRate;
-  settings.baudRate = baudRate;
-  settings.portNumber = portNumber;
+  main_.state.BaudRate = toInt16(cbRS232(baudRateValue).text());
+  settings.baudRate = main_.state.BaudRate;
+  settings.portNumber = toInt16(cbRS232(portValue).text());
   settings.dataBits = dataBitsCode(cbRS232(dataBitsValue).text());
   settings.stopBits = stopBitsCode(cbRS232(stopBitsValue).text());
   settings.parity = parityCode(cbRS232(parityValue).text());

@@ -37,7 +37,8 @@ void Autoset::cmdAutoset_Click() {
 void Autoset::waitUntilItIsOver() {
   struct Upset {
     KnownInstrument& known;
-    ~Upset() { known.upsetIsOver(); }
+    std::int16_t port = known.presentLine().portNumber;
+    ~Upset() { known.upsetIsOver(port); }
   };
   main_.known.upset();
   const Upset upset{main_.known};

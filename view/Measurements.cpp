@@ -69,7 +69,8 @@ Measurements::Measurements(frmDSO& main, CommandExchange& exchange, ErrorLog& er
 Trust Measurements::trustOf(const Result& result) const {
   if (!result.reply || !main_.services().port.isSure(*result.reply)) return Trust::unread;
   const KnownInstrument& known = main_.known;
-  const bool isOfNow = !result.isLeftOver && result.line == known.presentLine() &&
+  const bool isOfNow = !result.isLeftOver && !known.isUpset() &&
+                       result.line == known.presentLine() &&
                        known.signalChangedAt(result.channel) <= result.measuredAt;
   return isOfNow ? Trust::holds : Trust::stale;
 }

@@ -21,7 +21,7 @@ void PagePrinting::cmdPrint_Click() {
     acquisition_.StopAcq();
     const bool isPrinted =
         printAndSay(main_, [this](Printer& printer) { return printer.printPage(page()); });
-    if (const StatusLine::Sentence others = scalesNotOfTraces(main_); isPrinted && others)
+    if (const auto others = pageNotOfTraces(main_, printedPlots); isPrinted && others)
       main_.status.tellToo(StatusLine::happened, others);
   } catch (const Error& error) {
     errorLog_.ErrLog(error, "cmdPrint_Click : ");

@@ -34,6 +34,8 @@ struct Channel {
   std::int16_t positionCounts = 0;
   /// By how many units the trace was shifted when it was drawn: where its zero is.
   std::int16_t drawnShift = 0;
+  /// And whether that was the instrument's position then.
+  bool isDrawnAsKnown = false;
 
   /// 0 or 1.
   std::size_t index() const { return static_cast<std::size_t>(number - 1); }

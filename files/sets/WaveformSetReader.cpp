@@ -133,15 +133,18 @@ std::vector<double> readFirstColumn(const std::string& csvText) {
   return points;
 }
 
-bool isAsSaved(std::string_view csvText) {
+std::optional<SavedChannels> channelsAsSaved(std::string_view csvText) {
   std::string_view heading, line;
   takeLine(csvText, heading);
   const bool hasBoth = heading == "Channel 1,Channel 2";
-  if (!hasBoth && heading != "Channel 1" && heading != "Channel 2") return false;
+  const SavedChannels channels{hasBoth || heading == "Channel 1",
+                               hasBoth || heading == "Channel 2"};
+  if (!channels.one && !channels.two) return std::nullopt;
   int count = 0;
   for (; takeLine(csvText, line); ++count)
-    if (std::ranges::count(line, ',') != (hasBoth ? 1 : 0)) return false;
-  return count == WaveformRecord::sampleCount && csvText.empty();
+    if (std::ranges::count(line, ',') != (hasBoth ? 1 : 0)) return std::nullopt;
+  const bool isWhole = count == WaveformRecord::sampleCount && csvText.empty();
+  return isWhole ? std::optional(channels) : std::nullopt;
 }
 
 }  // namespace tracewell

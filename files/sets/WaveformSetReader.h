@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -44,9 +45,13 @@ LoadedWaveforms readWaveforms(const std::string& csvText, const std::string& pos
 /// The first column of a ".csv" text as it stands, under the same rules.
 std::vector<double> readFirstColumn(const std::string& csvText);
 
-/// The text has a heading and the lines that belong to it, as WaveformSetWriter writes them.
-/// Another one may be read without an error, as a trace that is cut or something else.
-bool isAsSaved(std::string_view csvText);
+/// The channels of a text whose heading and lines are as WaveformSetWriter writes them. None for
+/// another text, which may be read without an error, as a trace that is cut or something else.
+struct SavedChannels {
+  bool one;
+  bool two;
+};
+std::optional<SavedChannels> channelsAsSaved(std::string_view csvText);
 
 /// The whole file. Raises an error if it is larger than any waveform file can be.
 std::string readWaveformFile(const std::filesystem::path& path);

@@ -41,7 +41,10 @@ Conversation::Conversation(ChannelOpener& opener, Clock& clock, const EventDispa
     : opener_(opener), clock_(clock), dispatcher_(dispatcher), standBy_(standBy) {}
 
 void Conversation::use(const LineSettings& settings) {
-  if (channel_ && !(openSettings_ == settings)) close();
+  if (channel_ && !(openSettings_ == settings)) {
+    close();
+    ++openings_;
+  }
   if (!channel_) {
     channel_ = opener_.open(settings);
     if (openSettings_.portNumber != settings.portNumber) forget();

@@ -32,7 +32,7 @@ std::error_code AppendedFile::append(std::string_view bytes) {
   const std::size_t written = std::fwrite(bytes.data(), 1, bytes.size(), file_.get());
   size_ += written;
   if (written == bytes.size()) return {};
-  // What has not been written must never pass for it.
+  // A system that gives no reason must not make it a success.
   const std::error_code failure = lastFailure();
   return failure ? failure : std::make_error_code(std::errc::io_error);
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdlib>
+#include <limits>
 #include <map>
 #include <utility>
 
@@ -44,12 +45,17 @@ class TrueInstrument : public TrueTexts {
     const std::string stem = channel == 0 ? "CHAN1:" : "CHAN2:";
     std::string depended = text(channels[channel].volts, "V") + text(seconds, "s");
     for (const char* input : {"COUP", "INV", "BWL"}) depended += others_.at(stem + input) + ",";
+    for (const char* of : {"ACQ:MOD", "ACQ:AVER"}) depended += std::to_string(told(of)) + ",";
     return depended + std::to_string(math) + "," + std::to_string(channels[channel].probe);
   }
 
   /// What it sends back to a line.
   std::string receive(const std::string& line) {
     std::string answers;
+    if (now >= foundAt_) {
+      foundAt_ = never;
+      shuffle();
+    }
     for (std::size_t start = 0; start <= line.size();) {
       const std::size_t end = std::min(line.find_first_of(";\r\n", start), line.size());
       const std::string answer = obey(line.substr(start, end - start));
@@ -141,6 +147,8 @@ class TrueInstrument : public TrueTexts {
     } else if (header == "AUT" || header == "*RST" || header == "SELF:TEST") {
       shuffle();
       if (header == "SELF:TEST") return;
+      // It finds its settings as time goes by.
+      if (header == "AUT") foundAt_ = now + below(9500);
       math = 0;
       isStopped = false;
     } else {
@@ -191,6 +199,8 @@ class TrueInstrument : public TrueTexts {
   std::size_t sweep_ = 0;
   int stops_ = 0;
   bool hasChanged_ = true;
+  static constexpr auto never = std::numeric_limits<std::int64_t>::max();
+  std::int64_t foundAt_ = never;
   std::size_t measured_ = 0;
   /// What is answered as it was set.
   std::map<std::string, std::pair<double&, std::string>> numbers_ = {

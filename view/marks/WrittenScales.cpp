@@ -78,6 +78,7 @@ void addScalesOfTraces(Sentences& sentences, const frmDSO& main) {
   const auto add = [&](const std::string& name, const ValueLabel& label, std::string_view unit,
                        std::optional<double> made) {
     const Written written{name, label.caption(), made ? captionOf(*made, unit) : ""};
+    if (label.caption().empty() && unit == "s") return;
     if (!isOfTrace(label, unit, made))
       sentences.push_back([written](const Words& words) { return sentence(words, written); });
   };
@@ -87,6 +88,11 @@ void addScalesOfTraces(Sentences& sentences, const frmDSO& main) {
     add(channel.display.caption(), channel.scale, "V", made.voltsPerDivision);
     add(channel.display.caption(), main.lblTime, "s", made.secondsPerDivision);
   }
+  // One blank for all.
+  if (std::ranges::any_of(main.channels, hasTrace) && main.lblTime.caption().empty())
+    sentences.push_back([name = main.fmTime.caption()](const Words& words) {
+      return words.say("%1: scale not known", {name});
+    });
 }
 
 /// Those of the window are written without traces, too.
@@ -105,8 +111,8 @@ void addScalesWithoutTrace(Sentences& sentences, const frmDSO& main) {
 }
 
 /// References were made at scales of their own.
-void addReferences(Sentences& sentences, const frmDSO& main) {
-  for (int number = ScopeGraph::firstReference; number <= ScopeGraph::plotCount; ++number) {
+void addReferences(Sentences& sentences, const frmDSO& main, int plots) {
+  for (int number = ScopeGraph::firstReference; number <= plots; ++number) {
     const Plot& plot = main.graphDSO.plot(number);
     const bool isAsAll = std::ranges::all_of(main.channels, [&](const Channel& channel) {
       return !channel.isDisplayed || channel.scale.caption() == plot.scale();
@@ -132,19 +138,20 @@ void addPositions(Sentences& sentences, const frmDSO& main) {
                        {other.name, numberText(other.drawn), numberText(other.written)});
     });
   const auto addUnknown = [&](const Slide& slide) {
-    if (slide.trust() == Trust::holds) return;
     const std::string& caption = slide.caption();
     const std::string name(trimBlanks(caption.substr(0, caption.find(':'))));
     const Written unknown{name, numberText(slide.value()) + " Div", ""};
     sentences.push_back([unknown](const Words& words) { return sentence(words, unknown); });
   };
-  // Where the scale is another one, that has been said, and the position is in doubt for it.
-  for (const Channel& channel : main.channels)
-    if (hasTrace(channel) &&
-        isOfTrace(channel.scale, "V", channel.record.madeUnder.voltsPerDivision))
-      addUnknown(channel.slide);
+  for (const Channel& channel : main.channels) {
+    // Where the scale is another one, that has been said, and the position is in doubt for it.
+    const bool isAtItsScale =
+        isOfTrace(channel.scale, "V", channel.record.madeUnder.voltsPerDivision);
+    if (hasTrace(channel) && isAtItsScale && !channel.isDrawnAsKnown) addUnknown(channel.slide);
+  }
   // The delay is none of the trace, and perhaps nobody has touched it.
-  if (main.known.doubt(Setting::delay) != Doubt::neverRead) addUnknown(main.slideTime);
+  const bool isTouched = main.known.doubt(Setting::delay) != Doubt::neverRead;
+  if (isTouched && main.slideTime.trust() != Trust::holds) addUnknown(main.slideTime);
 }
 
 void addMissingRecords(Sentences& sentences, const frmDSO& main) {
@@ -165,11 +172,11 @@ StatusLine::Sentence joined(const Sentences& sentences) {
   };
 }
 
-Sentences scales(const frmDSO& main) {
+Sentences scales(const frmDSO& main, int plots = ScopeGraph::plotCount) {
   Sentences sentences;
   addScalesOfTraces(sentences, main);
   addScalesWithoutTrace(sentences, main);
-  addReferences(sentences, main);
+  addReferences(sentences, main, plots);
   addReadout(sentences, main);
   return sentences;
 }
@@ -178,6 +185,10 @@ Sentences scales(const frmDSO& main) {
 
 StatusLine::Sentence scalesNotOfTraces(const frmDSO& main) {
   return joined(scales(main));
+}
+
+StatusLine::Sentence pageNotOfTraces(const frmDSO& main, int plots) {
+  return joined(scales(main, plots));
 }
 
 StatusLine::Sentence setNotOfTraces(const frmDSO& main) {

@@ -10,6 +10,9 @@ namespace tracewell {
 /// that are not known, as of this call; none if all agree.
 StatusLine::Sentence scalesNotOfTraces(const frmDSO& main);
 
+/// The same of a page, which has the plots of these first numbers alone.
+StatusLine::Sentence pageNotOfTraces(const frmDSO& main, int plots);
+
 /// The same of a waveform set, which carries the positions, too. A trace can be drawn at another:
 /// channel 2 is at whole divisions, channel 1 until its next record. That of time may be another
 /// than the instrument's. And of its data, which are empty if a ticked channel has no whole record.
