@@ -348,7 +348,11 @@ Doubt KnownInstrument::doubt(Setting setting) const {
   const Doubt told = toldDoubt(setting);
   if (told != Doubt::none) return told;
   Sureness least = sureness(entry(setting));
-  if (const auto scale = scaleOf(setting)) least = std::max(least, sureness(entry(*scale)));
+  if (const auto scale = scaleOf(setting)) {
+    // Zero is zero in any scale.
+    if (toldDoubt(*scale) != Doubt::none && entry(setting).number != 0.0) return toldDoubt(*scale);
+    least = std::max(least, sureness(entry(*scale)));
+  }
   if (least == Sureness::sure) return Doubt::none;
   return least == Sureness::notYet ? Doubt::unsureAnswer : Doubt::wrongAnswer;
 }

@@ -1629,7 +1629,7 @@
     </message>
     <message>
         <source>The scales are not known: press %1 to read them, then F5 to go on</source>
-        <translation>Les échelles ne sont pas connues : appuyez sur %1 pour les lire, puis F5 pour continuer</translation>
+        <translation>Échelles inconnues : %1 pour les lire, puis F5 pour continuer</translation>
     </message>
     <message>
         <source>The scales may be those of another instrument: press %1 to read them</source>

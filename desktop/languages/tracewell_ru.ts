@@ -1629,7 +1629,7 @@
     </message>
     <message>
         <source>The scales are not known: press %1 to read them, then F5 to go on</source>
-        <translation>Масштабы неизвестны: нажмите %1, чтобы прочитать их, затем F5, чтобы продолжить</translation>
+        <translation>Масштабы неизвестны: %1 — прочитать, F5 — продолжить</translation>
     </message>
     <message>
         <source>The scales may be those of another instrument: press %1 to read them</source>

@@ -41,10 +41,7 @@ Conversation::Conversation(ChannelOpener& opener, Clock& clock, const EventDispa
     : opener_(opener), clock_(clock), dispatcher_(dispatcher), standBy_(standBy) {}
 
 void Conversation::use(const LineSettings& settings) {
-  if (channel_ && !(openSettings_ == settings)) {
-    close();
-    ++openings_;
-  }
+  if (channel_ && !(openSettings_ == settings)) close();
   if (!channel_) {
     channel_ = opener_.open(settings);
     if (openSettings_.portNumber != settings.portNumber) forget();
@@ -108,6 +105,7 @@ void Conversation::abandon() {
 /// Outstanding bytes may still arrive after the line is opened again, or meanwhile, unheard.
 void Conversation::close() {
   channel_.reset();
+  ++openings_;
   replies_.mayHaveHeardMissing(judgedAt());
   whole_.reset();
   held_.clear();

@@ -74,7 +74,7 @@ class Conversation {
   void use(const LineSettings& settings);
   /// The settings of the line that was opened last.
   const LineSettings& openSettings() const { return openSettings_; }
-  /// How often a line has been opened, or left for another one.
+  /// How often a line has been opened, has failed, or was left for another one.
   int openings() const { return openings_; }
   LineReport report() const;
   int lastReply() const { return replies_.last(); }

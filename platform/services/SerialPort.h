@@ -44,8 +44,8 @@ class SerialPort {
   /// never delivered.
   virtual std::int16_t openPort() const = 0;
 
-  /// How often a line has been opened; another instrument may be on it each time. At dataReady it
-  /// names the line of the record, as openPort does.
+  /// How often a line has been opened or closed; another instrument may be on it each time. At
+  /// dataReady it names the line of the record, as openPort does.
   virtual int openings() const = 0;
 
   /// What has gone wrong on the line lately.
