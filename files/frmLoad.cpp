@@ -194,7 +194,7 @@ bool frmLoad::drawSet(const LoadedWaveforms& set) {
     main_.status.tellToo(StatusLine::happened, [replaced](const Words& words) {
       return words.say("Loaded in the place of %1", {replaced});
     });
-  return hasRoom && drawn > 0;
+  return drawn > 0;
 }
 
 void frmLoad::sayWhatIsShown(std::size_t drawn, bool hasRoom) {

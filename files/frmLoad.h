@@ -42,7 +42,7 @@ class frmLoad : public Window {
   void showSet(const std::string& dataPath);
   void fileCSV_Click();
   void cmdOK_Click();
-  /// True if all that was chosen is drawn.
+  /// True if something is drawn.
   bool drawSet(const LoadedWaveforms& set);
   std::string whyNot(const Error& error) const;
   void sayWhyNot(const std::string& text);

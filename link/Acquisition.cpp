@@ -59,7 +59,7 @@ void Acquisition::DataReady(const LineRecord& record) {
   ignoringErrors([&] {
     main_.graphDSO.plot(record.channel).plotXvsY(main_.XIndex, samples);
     channel.drawnShift = shift;
-    channel.isDrawnAsKnown = main_.known.isKnown(ofChannel(Setting::position1, channel.number));
+    channel.isDrawnAsKnown = !channel.slide.isUnread() && !channel.slide.isStale();
   });
   main_.txtMsg.text = recordText(record.channel, samples);
   main_.marksDue.raise();

@@ -54,7 +54,7 @@ void ChannelControls::redraw(Channel& channel, std::int16_t shift) {
   if (channel.record.bytes.empty()) return;
   channel.plot.plotXvsY(main_.XIndex, shiftSamples(channel.record.bytes, shift));
   channel.drawnShift = shift;
-  channel.isDrawnAsKnown = main_.known.isKnown(ofChannel(Setting::position1, channel.number));
+  channel.isDrawnAsKnown = !channel.slide.isUnread() && !channel.slide.isStale();
 }
 
 }  // namespace tracewell
