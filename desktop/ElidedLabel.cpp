@@ -58,6 +58,11 @@ int ElidedLabel::neededWidth() const {
   return width;
 }
 
+QSize ElidedLabel::minimumSizeHint() const {
+  const int least = sentences_.empty() ? 0 : 12 * fontMetrics().averageCharWidth();
+  return {std::min(least, sizeHint().width()), QLabel::sizeHint().height()};
+}
+
 /// By the longest result and the narrowest column, so that all cells look the same.
 QFont ElidedLabel::fontThatFits() const {
   if (text().isEmpty() || property("kind").toString() != QLatin1String("cell")) return font();

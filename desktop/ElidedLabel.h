@@ -27,7 +27,8 @@ class ElidedLabel : public QLabel {
   QSize sizeHint() const override {
     return {neededWidth() + width() - contentsRect().width(), QLabel::sizeHint().height()};
   }
-  QSize minimumSizeHint() const override { return {0, QLabel::sizeHint().height()}; }
+  /// However much the others in the row have to say, sentences have some room.
+  QSize minimumSizeHint() const override;
   /// Together they are the label's text. They are painted from the left, the first one before the
   /// others.
   void setSentences(const std::vector<Sentence>& sentences);

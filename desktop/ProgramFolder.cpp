@@ -89,9 +89,10 @@ std::string refusal(const fs::path& from, const fs::path& to) {
 ProgramFolder filledFolder(const fs::path& from, const fs::path& to) {
   std::error_code failed;
   fs::create_directories(to, failed);
+  const bool wasFilled = holdsProgramFiles(to) && isThere(to / "default.dso");
   ProgramFolder users{to, copyShippedFiles(from, to)};
   const std::string reason = failed ? " (" + failed.message() + ")" : refusal(from, to);
-  if (reason.empty()) return users;
+  if (reason.empty() || wasFilled) return users;
   return {from, {}, "Cannot use " + pathText(to) + reason};
 }
 

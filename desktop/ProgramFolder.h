@@ -26,7 +26,8 @@ std::filesystem::path folderOfPorts();
 /// Copies the shipped files of `from` to `to`, which is made if need be and becomes the program's
 /// folder. A file that the user has not changed follows the shipped one. Beside a changed one the
 /// new one is put as "<name>.new", once, and offered. Setups are the user's. "shipped-files" lists
-/// what was copied and offered. If `to` cannot be made or filled, `from` is used as it is.
+/// what was copied and offered. If `to` cannot be made or filled, `from` is used as it is; but not
+/// if only files are missing from a `to` that has been in use.
 ProgramFolder filledFolder(const std::filesystem::path& from, const std::filesystem::path& to);
 
 }  // namespace tracewell

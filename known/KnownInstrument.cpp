@@ -2,56 +2,12 @@
 #include "KnownInstrument.h"
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
-
-#include "Numbers.h"
-#include "ScaleTables.h"
-#include "TrueNumbers.h"
 
 namespace tracewell {
 namespace {
 
 using enum Setting;
-
-constexpr double stoppedState = 0;
-constexpr double runningState = 1;
-/// Modes of the trigger. From normalMode on the instrument sweeps when there is a trigger, else
-/// freely.
-constexpr double autoLevel = 0;
-constexpr double normalMode = 2;
-constexpr double singleMode = 3;
-
-/// No position is farther: eight divisions of the largest scale. What is has lost its point. Volts.
-constexpr double farthestPosition = 40;
-
-bool isScale(Setting setting) {
-  return setting == scale1 || setting == scale2 || setting == timeBase;
-}
-
-/// The instrument's caption for the value of a scale command.
-std::optional<std::string> captionOf(Setting scale, std::string_view argument) {
-  const auto find = [&](const auto& values, const auto& texts) -> std::optional<std::string> {
-    const auto found = std::ranges::find(values, argument);
-    if (found == values.end()) return std::nullopt;
-    return std::string(texts[static_cast<std::size_t>(found - values.begin())]);
-  };
-  return scale == timeBase ? find(TimeDivValue, TimeDivText) : find(VoltDivValue, VoltDivText);
-}
-
-/// The instrument has no other scales, or says that it has none. What differs is damaged.
-bool isCaption(Setting scale, std::string_view reply) {
-  if (reply == "Null") return true;
-  const auto has = [&](const auto& texts) {
-    return std::ranges::find(texts, reply) != texts.end();
-  };
-  return scale == timeBase ? has(TimeDivText) : has(VoltDivText);
-}
-
-std::optional<double> plainNumber(std::string_view text) {
-  if (!isNumeric(text)) return std::nullopt;
-  return toDouble(text);
-}
 
 }  // namespace
 
@@ -76,7 +32,8 @@ void KnownInstrument::typed(std::string_view line) {
   tell();
 }
 
-void KnownInstrument::notSent(std::string_view line) {
+void KnownInstrument::notSent(std::string_view line, const Line& begunOn) {
+  failed_ = begunOn;
   lockUncertain();
   for (const WirePart& part : wireParts(line)) {
     if (part.isQuery) continue;
@@ -89,6 +46,7 @@ void KnownInstrument::notSent(std::string_view line) {
       doubtful(*effect.sets, Doubt::notSent);
     for (const Setting setting : effect.touches) doubtful(setting, Doubt::notSent);
   }
+  failed_.reset();
   tell();
 }
 
@@ -112,7 +70,7 @@ void KnownInstrument::requested() {
 
 /// Any command locks the instrument's own panel.
 void KnownInstrument::obey(const WirePart& command, bool isTrusted) {
-  takeSent(lock, {1.0, ""});
+  takeSent(lock, {1.0});
   if (command.isQuery) return;
   const WireEffect effect = effectOf(command);
   for (const Setting setting : effect.touches) doubtful(setting, Doubt::mayHaveChanged);
@@ -120,7 +78,8 @@ void KnownInstrument::obey(const WirePart& command, bool isTrusted) {
   if (!effect.sets) return;
   const Setting setting = *effect.sets;
   const bool isPlain = setting == math || setting == running || setting == lock;
-  const auto value = isTrusted || isPlain ? sentValue(setting, command) : std::nullopt;
+  const auto value =
+      isTrusted || isPlain ? inDivisions(setting, sentValue(setting, command)) : std::nullopt;
   if (!value) return leaveOpen(setting);
   if (setting == running && value->number == stoppedState && !isStopped()) stop();
   takeSent(setting, *value);
@@ -152,81 +111,18 @@ void KnownInstrument::leaveOpen(Setting setting) {
   if (setting == triggerMode) here().isModeOpen = true;
 }
 
-std::optional<KnownInstrument::Value> KnownInstrument::sentValue(Setting setting,
-                                                                 const WirePart& command) const {
-  if (isScale(setting)) {
-    const auto text = captionOf(setting, command.argument);
-    return text ? std::optional(Value{trueScale(*text, setting == timeBase ? "s" : "V"), *text})
-                : std::nullopt;
-  }
-  std::optional<double> value = plainNumber(command.argument);
-  switch (setting) {
-    case position1:
-    case position2:
-    case delay:
-      return inDivisions(setting, value);
-    case math: {
-      const auto known = std::ranges::find(mathCommands, command.header + " " + command.argument);
-      value = known == mathCommands.end()
-                  ? std::nullopt
-                  : std::optional(static_cast<double>(known - mathCommands.begin()));
-      break;
-    }
-    case running:
-      value = command.header == "RUN" ? runningState : stoppedState;
-      break;
-    case lock:
-      value = 0;
-      break;
-    case triggerMode:
-      if (value && (*value < autoLevel || *value > singleMode)) return std::nullopt;
-      break;
-    default:
-      break;
-  }
-  return value ? std::optional(Value{value, ""}) : std::nullopt;
-}
-
-/// Accepts an offset in any form that the panel makes a position of.
-std::optional<KnownInstrument::Value> KnownInstrument::toldValue(Setting setting,
-                                                                 std::string_view reply) const {
-  reply = trimBlanks(reply);
-  if (reply.empty()) return std::nullopt;
-  if (isScale(setting)) {
-    if (!isCaption(setting, reply)) return std::nullopt;
-    return Value{trueScale(reply, setting == timeBase ? "s" : "V"), std::string(reply)};
-  }
-  std::optional<double> value;
-  switch (setting) {
-    case position1:
-    case position2:
-      value = trueNumber(reply, "V");
-      if (!value && beginsWithNumber(captionNumber(reply))) value = ParseScaleCaption(reply);
-      return value && std::fabs(*value) > farthestPosition ? std::nullopt
-                                                           : inDivisions(setting, value);
-    case delay:
-      return inDivisions(setting, trueNumber(reply, "s"));
-    case triggerLevel:
-      value = trueNumber(reply, "V");
-      break;
-    case math:
-      break;
-    default:
-      value = plainNumber(reply);
-  }
-  return value ? std::optional(Value{value, ""}) : std::nullopt;
-}
-
-std::optional<KnownInstrument::Value> KnownInstrument::inDivisions(
-    Setting setting, std::optional<double> value) const {
-  const Setting scale = *scaleOf(setting);
-  const std::optional<double> perDivision = entry(scale).number;
-  if (!value || !perDivision || toldDoubt(scale) != Doubt::none) return std::nullopt;
-  return Value{*value / *perDivision, ""};
+/// Another setting's value is what went over the line.
+std::optional<WireValue> KnownInstrument::inDivisions(Setting setting,
+                                                      std::optional<WireValue> value) const {
+  const std::optional<Setting> scale = scaleOf(setting);
+  if (!value || !scale) return value;
+  const std::optional<double> perDivision = entry(*scale).number;
+  if (!perDivision || toldDoubt(*scale) != Doubt::none) return std::nullopt;
+  return WireValue{*value->number / *perDivision};
 }
 
 /// The same value again changes nothing.
-void KnownInstrument::takeSent(Setting setting, const Value& value) {
+void KnownInstrument::takeSent(Setting setting, const WireValue& value) {
   const Entry& before = entry(setting);
   const bool isSame =
       isKnown(setting) && before.number == value.number && before.caption == value.caption;
@@ -236,14 +132,14 @@ void KnownInstrument::takeSent(Setting setting, const Value& value) {
   followed(setting);
 }
 
-void KnownInstrument::take(Setting setting, Value value) {
+void KnownInstrument::take(Setting setting, WireValue value, std::optional<int> reply) {
   leave(setting);
   if (setting == math) here().isMathDoubted = false;
   if (setting == triggerMode) here().isModeOpen = false;
   Entry& taken = entry(setting);
   taken.number = value.number;
   taken.caption = std::move(value.caption);
-  taken.reply = value.reply;
+  taken.reply = reply;
   taken.doubt = Doubt::none;
   taken.line = presentLine();
 }
@@ -276,13 +172,13 @@ void KnownInstrument::followed(Setting setting) {
 
 /// With several queries in a line, which one is answered is unknown.
 void KnownInstrument::answered(std::string_view query, std::string_view reply, int replyNumber) {
-  takeSent(lock, {1.0, ""});
+  takeSent(lock, {1.0});
   const std::vector<WirePart> parts = wireParts(query);
   if (std::ranges::count(parts, true, &WirePart::isQuery) != 1) return notAnswered(query);
   for (const WirePart& part : parts) {
     const std::optional<Setting> setting = askedBy(part);
     if (!setting || *setting == math || *setting == running || *setting == lock) continue;
-    std::optional<Value> value = toldValue(*setting, reply);
+    const std::optional<WireValue> value = inDivisions(*setting, toldValue(*setting, reply));
     Entry& asked = entry(*setting);
     if (!value) {
       leaveUntold(asked);
@@ -292,12 +188,11 @@ void KnownInstrument::answered(std::string_view query, std::string_view reply, i
     // Whichever query it answers, what was known stands.
     if (isKnown(*setting) && asked.number == value->number && asked.caption == value->caption)
       continue;
-    value->reply = replyNumber;
     // The moment of the change is unknown: an earlier query may have asked either instrument.
     const bool wasTold = asked.line == presentLine() && (asked.number || !asked.caption.empty());
     const bool isOther =
         wasTold && (asked.number != value->number || asked.caption != value->caption);
-    take(*setting, *value);
+    take(*setting, *value, replyNumber);
     if (!isOther) continue;
     asked.changedAt = ++now_;
     followed(*setting);
@@ -339,7 +234,7 @@ void KnownInstrument::swept(int channel, Moment requested) {
   if (isStopped() || requested < changedAt(running)) return;
   Swept& last = here().swept[static_cast<std::size_t>(channel - 1)];
   const bool isSecond = last.line == presentLine() && last.requested >= changedAt(running);
-  if (isSecond && mayBeStopped()) take(running, {runningState, ""});
+  if (isSecond && mayBeStopped()) take(running, {runningState});
   last = {presentLine(), requested};
   here().sweptAt = std::max(here().sweptAt, requested);
 }

@@ -14,6 +14,7 @@
 #include "Setting.h"
 #include "Sureness.h"
 #include "WireRules.h"
+#include "WireValues.h"
 
 namespace tracewell {
 
@@ -42,8 +43,9 @@ class KnownInstrument {
   /// The user has typed a line, and it was sent. The instrument may refuse it, so what it sets is
   /// not known until it is read. Math, Run, Stop and the lock are taken as sent.
   void typed(std::string_view line);
-  /// Sending was begun and failed, or is not over: the instrument may have it or not.
-  void notSent(std::string_view line);
+  /// Sending was begun on that line and failed, or is not over: the instrument may have it or not.
+  /// A line that has failed is not the present one any more.
+  void notSent(std::string_view line, const Line& begunOn);
   void answered(std::string_view query, std::string_view reply, int replyNumber);
   void notAnswered(std::string_view query);
   /// The instrument changes its settings by itself, until upsetIsOver: meanwhile none is known.
@@ -62,7 +64,7 @@ class KnownInstrument {
 
   // What is known.
 
-  Line presentLine() const { return presentLine_(); }
+  Line presentLine() const { return failed_ ? *failed_ : presentLine_(); }
   Moment now() const { return now_; }
   Doubt doubt(Setting setting) const;
   bool isKnown(Setting setting) const { return doubt(setting) == Doubt::none; }
@@ -108,12 +110,6 @@ class KnownInstrument {
     Line line;
     Moment changedAt = 0;
   };
-  struct Value {
-    std::optional<double> number;
-    std::string caption;
-    std::optional<int> reply = std::nullopt;
-  };
-
   /// The settings of a record, and the replies that told its scales: these may become sure later.
   struct Told {
     MadeUnder made;
@@ -148,8 +144,8 @@ class KnownInstrument {
   Entry& entry(Setting setting) { return here().entries[static_cast<std::size_t>(setting)]; }
 
   void obey(const WirePart& command, bool isTrusted);
-  void take(Setting setting, Value value);
-  void takeSent(Setting setting, const Value& value);
+  void take(Setting setting, WireValue value, std::optional<int> reply = std::nullopt);
+  void takeSent(Setting setting, const WireValue& value);
   void doubtful(Setting setting, Doubt reason);
   void followed(Setting setting);
   void stop();
@@ -162,15 +158,13 @@ class KnownInstrument {
   Sureness sureness(const Entry& told) const {
     return told.reply ? sureness_(*told.reply) : Sureness::sure;
   }
-  /// A position or delay, of volts or seconds and the scale that was told last.
-  std::optional<Value> inDivisions(Setting setting, std::optional<double> value) const;
+  /// A position or delay in divisions of the scale that was told last, if that is known.
+  std::optional<WireValue> inDivisions(Setting setting, std::optional<WireValue> value) const;
   /// The trigger is in a mode for which this holds, or may be.
   template <class Condition>
   bool mayBeMode(Condition condition) const;
   bool mayMoveLevel() const;
   bool mayBeStopped() const;
-  std::optional<Value> sentValue(Setting setting, const WirePart& command) const;
-  std::optional<Value> toldValue(Setting setting, std::string_view reply) const;
   Told toldAt(int channel, Moment moment) const;
   MadeUnder sureOf(const Told& told) const;
   Moment sweptSince(int channel) const;
@@ -179,6 +173,8 @@ class KnownInstrument {
   }
 
   std::function<Line()> presentLine_;
+  /// In its place while notSent tells of a line that was lost.
+  std::optional<Line> failed_;
   std::function<Sureness(int)> sureness_;
   /// By number; made when the port is first used.
   mutable std::map<std::int16_t, BehindPort> ports_;

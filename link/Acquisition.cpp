@@ -58,8 +58,7 @@ void Acquisition::DataReady(const LineRecord& record) {
   const Samples samples = decodeSamples(record.bytes, shift);
   ignoringErrors([&] {
     main_.graphDSO.plot(record.channel).plotXvsY(main_.XIndex, samples);
-    channel.drawnShift = shift;
-    channel.isDrawnAsKnown = !channel.slide.isUnread() && !channel.slide.isStale();
+    channel.drawn(shift, main_.known);
   });
   main_.txtMsg.text = recordText(record.channel, samples);
   main_.marksDue.raise();

@@ -30,7 +30,7 @@ std::string replyValue(const std::string& line) {
 
 CommandExchange::CommandExchange(frmDSO& main, ErrorLog& errorLog)
     : main_(main), errorLog_(errorLog), inquiries_(main) {
-  autoset_.timer = [this] { endAutosetInTime(); };
+  autoset_.timer = [this] { endAutosetsInTime(); };
 }
 
 std::string CommandExchange::SendDSOCmd(const std::string& command) {
@@ -51,40 +51,45 @@ std::string CommandExchange::sendTyped(const std::string& line) {
     main_.known.typed(line);
   else
     noteFailed(line);
-  if (hasBegun_ && beginsAutoset(line)) beginAutoset();
+  if (begunOn_ && beginsAutoset(line)) beginAutoset();
   if (isQuery(line)) noteAnswered(line, reply);
   return reply;
 }
 
-/// A second one begins the time anew.
+/// A second one behind the same port begins the time anew.
 void CommandExchange::beginAutoset() {
-  if (autoset_.enabled()) endAutoset();
+  const std::int16_t port = main_.known.presentLine().portNumber;
+  if (autosets_.contains(port)) main_.known.upsetIsOver(port);
   main_.known.upset();
-  autosetPort_ = main_.known.presentLine().portNumber;
-  autosetUntil_ = main_.services().clock.milliseconds() + autosetDuration;
+  autosets_[port] = main_.services().clock.milliseconds() + autosetDuration;
   autoset_.enabled = true;
-}
-
-void CommandExchange::endAutoset() {
-  autoset_.enabled = false;
-  main_.known.upsetIsOver(autosetPort_);
 }
 
 /// Before each query, too, for a timer does not tick while one waits: what is asked behind the time
 /// is told behind it.
-void CommandExchange::endAutosetInTime() {
-  if (autoset_.enabled() && main_.services().clock.milliseconds() >= autosetUntil_) endAutoset();
+void CommandExchange::endAutosetsInTime() {
+  const std::int64_t now = main_.services().clock.milliseconds();
+  for (auto next = autosets_.begin(); next != autosets_.end();) {
+    const auto [port, until] = *next;
+    if (now < until) {
+      ++next;
+      continue;
+    }
+    next = autosets_.erase(next);
+    main_.known.upsetIsOver(port);
+  }
+  autoset_.enabled = !autosets_.empty();
 }
 
 std::string CommandExchange::transfer(const std::string& command) {
-  hasBegun_ = false;
+  begunOn_.reset();
   return isQuery(command) ? ask(command) : send(command, repeatLimit);
 }
 
 /// A line that never left the program changes nothing, but the panel no longer shows what is known.
 void CommandExchange::noteFailed(const std::string& line) {
-  if (hasBegun_)
-    main_.known.notSent(line);
+  if (begunOn_)
+    main_.known.notSent(line, *begunOn_);
   else
     main_.marksDue.raise();
 }
@@ -140,20 +145,20 @@ std::string CommandExchange::exchange(const std::string& command) {
 }
 
 void CommandExchange::prepare() {
-  endAutosetInTime();
+  endAutosetsInTime();
   main_.services().port.prepare();
-  hasBegun_ = true;
+  begunOn_ = main_.known.presentLine();
 }
 
 std::string CommandExchange::query(const std::string& command) {
   // Until its reply arrives, the line may have been sent or not.
-  main_.known.notSent(command);
+  main_.known.notSent(command, *begunOn_);
   return replyValue(main_.services().port.query(command + "\r\n", readTimeOut));
 }
 
 void CommandExchange::LoadSetup() {
   if (!InRemote) return;
-  hasBegun_ = false;
+  begunOn_.reset();
   try {
     prepare();
     main_.services().port.command(":SYST:UNL\r\n", SerialPort::Reply::none);

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstdint>
+#include <map>
+#include <optional>
 #include <string>
 
 #include "ErrorLog.h"
@@ -44,8 +47,7 @@ class CommandExchange {
   static constexpr int repeatLimit = 8;
   std::string transfer(const std::string& command);
   void beginAutoset();
-  void endAutoset();
-  void endAutosetInTime();
+  void endAutosetsInTime();
   void noteFailed(const std::string& line);
   void noteAnswered(const std::string& query, const std::string& reply);
   std::string ask(const std::string& query);
@@ -60,14 +62,13 @@ class CommandExchange {
   /// The instrument's own panel is locked because it has been sent a command.
   bool InRemote = false;
   bool wasSent_ = false;
-  /// Some of the last line may have gone out.
-  bool hasBegun_ = false;
+  /// Where some of the last command may have gone out.
+  std::optional<KnownInstrument::Line> begunOn_;
   Inquiries inquiries_;
-  /// Ticks while an autoset that was typed is under way: until when, on Clock's scale, and on which
-  /// port.
+  /// Until when the autosets that were typed are under way, by port, on Clock's scale.
+  std::map<std::int16_t, std::int64_t> autosets_;
+  /// Ticks meanwhile.
   Timer autoset_{main_, 500};
-  std::int64_t autosetUntil_ = 0;
-  std::int16_t autosetPort_ = 0;
 };
 
 }  // namespace tracewell

@@ -53,8 +53,7 @@ void ChannelControls::commitPosition(Channel& channel) {
 void ChannelControls::redraw(Channel& channel, std::int16_t shift) {
   if (channel.record.bytes.empty()) return;
   channel.plot.plotXvsY(main_.XIndex, shiftSamples(channel.record.bytes, shift));
-  channel.drawnShift = shift;
-  channel.isDrawnAsKnown = !channel.slide.isUnread() && !channel.slide.isStale();
+  channel.drawn(shift, main_.known);
 }
 
 }  // namespace tracewell

@@ -80,7 +80,10 @@ std::string ScriptedPort::write(std::string_view line, const std::string& toldTo
   EXPECT_TRUE(line.ends_with("\r\n"));
   wire.emplace_back(line.substr(0, line.size() - 2));
   told.raise(wire.back() + toldToo);
-  if (std::exchange(isBreaking, false)) throw Error(deviceError, "RS232", "gone");
+  if (std::exchange(isBreaking, false)) {
+    ++timesOpened;
+    throw Error(deviceError, "RS232", "gone");
+  }
   return wire.back();
 }
 

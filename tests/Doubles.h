@@ -180,7 +180,7 @@ class ScriptedPort : public SerialPort, public PortList {
   std::map<std::string, std::deque<std::string>> replies;
   /// While positive, each transfer fails with it and takes one away.
   int faults = 0;
-  /// The next line goes out, and then the line fails.
+  /// The next command goes out, and then the line fails: what is opened behind it is another one.
   bool isBreaking = false;
   /// Every line written, without CR LF.
   Lines wire;

@@ -48,7 +48,7 @@ bool isShortened(const QWidget& form) {
   });
 }
 
-/// Beside a status line that says nothing a notice has the whole row.
+/// Beside a status line that says nothing a notice has the whole row; beside a long one, a place.
 TEST_F(LayoutTest, ANoticeIsNotCutWhileTheRowHasRoom) {
   form->resize(1280, 800);
   auto* notice = find<QLabel>("lblNotice");
@@ -56,6 +56,9 @@ TEST_F(LayoutTest, ANoticeIsNotCutWhileTheRowHasRoom) {
   main.lblNotice.visible = true;
   QApplication::processEvents();
   EXPECT_GT(notice->width(), notice->fontMetrics().horizontalAdvance(notice->text()));
+  main.lblStatus.caption = std::string(900, 'y');
+  QApplication::processEvents();
+  EXPECT_GT(notice->width(), notice->fontMetrics().horizontalAdvance("default.dso"));
 }
 
 TEST_F(LayoutTest, EveryWindowFitsASmallScreenInEveryLanguageWithNothingCut) {

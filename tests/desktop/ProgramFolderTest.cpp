@@ -89,6 +89,7 @@ TEST(ProgramFolder, FilesOfUnknownOriginAreKept) {
 
 TEST(ProgramFolder, SaysWhyTheUsersOneCannotBeUsed) {
   const ProgramFolderCopy shipped, parent;
+  fs::remove(parent.path() / "about.jpg");
   const auto failureIn = [&](const fs::path& users) {
     const ProgramFolder folder = filledFolder(shipped.path(), users);
     EXPECT_EQ(folder.path, shipped.path());
@@ -103,8 +104,10 @@ TEST(ProgramFolder, SaysWhyTheUsersOneCannotBeUsed) {
   const rlimit none{0, before.rlim_max};
   setrlimit(RLIMIT_FSIZE, &none);
   const std::string failure = failureIn(parent.path() / "new");
+  const fs::path used = filledFolder(shipped.path(), parent.path()).path;
   setrlimit(RLIMIT_FSIZE, &before);
   EXPECT_TRUE(failure.ends_with("(File too large)")) << failure;
+  EXPECT_EQ(used, parent.path()) << "has all but one file";
 }
 
 }  // namespace

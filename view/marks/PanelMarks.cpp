@@ -2,7 +2,6 @@
 #include "PanelMarks.h"
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 #include "Numbers.h"
@@ -14,9 +13,6 @@ namespace tracewell {
 namespace {
 
 using enum Setting;
-
-/// Half of the last digit that a slide's caption shows.
-constexpr double shownPrecision = 0.005;
 
 /// Before an instrument has been read nothing of it is expected.
 Trust trustOf(const KnownInstrument& known, Setting setting, bool isShown) {
@@ -80,9 +76,8 @@ void PanelMarks::trustScale(Setting setting, ValueLabel& label, Knob& knob, Scal
 
 /// A slide in the user's hand shows what he wants.
 void PanelMarks::trustSlide(Slide& slide, Setting setting) {
-  trust(slide, setting, [&known = main_.known, &slide, setting] {
-    return std::fabs(known.number(setting).value_or(0) - slide.value()) <= shownPrecision;
-  });
+  trust(slide, setting,
+        [&known = main_.known, &slide, setting] { return showsKnown(slide, known, setting); });
   slide.trust = [&slide, asked = slide.trust] { return slide.isHeld() ? Trust::holds : asked(); };
 }
 

@@ -39,11 +39,11 @@ bool isKnownAndSame(std::optional<double> made, std::optional<double> present) {
   return made && made == present;
 }
 
-/// Each change wakes the program and the screen.
 bool isCountedExactly(const Channel& channel, std::int64_t now) {
   return now - channel.record.fetchedAt < countedExactly;
 }
 
+/// Each change wakes the program and the screen.
 std::string restingAge(const Words& words, const Channel& channel, std::int64_t now) {
   const std::int64_t age = now - channel.record.fetchedAt;
   if (isCountedExactly(channel, now) || age >= countedInSeconds)
@@ -55,8 +55,9 @@ std::string restingAge(const Words& words, const Channel& channel, std::int64_t 
 std::string traceAge(const frmDSO& main, const Channel& channel) {
   const Words& words = main.services().words;
   const std::string& name = channel.display.caption();
-  if (!isOfThisLine(main, channel)) return words.say("%1: no record yet", {name});
-  if (!main.tmDSO.enabled()) return restingAge(words, channel, now(main));
+  if (channel.record.bytes.empty()) return words.say("%1: no record yet", {name});
+  if (!main.tmDSO.enabled() || !isOfThisLine(main, channel))
+    return restingAge(words, channel, now(main));
   if (isOld(main, channel)) return ageText(words, channel, now(main));
   if (channel.record.sweepAt != channel.record.fetchedAt)
     return unchangedText(words, channel, now(main));

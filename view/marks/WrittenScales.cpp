@@ -61,6 +61,13 @@ std::string channelsWithoutRecord(const frmDSO& main) {
   return names;
 }
 
+/// Or it has been told since, and nothing has changed it.
+bool isDrawnAsKnown(const KnownInstrument& known, const Channel& channel) {
+  const Setting position = ofChannel(Setting::position1, channel.number);
+  const bool isSame = known.changedAt(position) <= channel.drawnAt;
+  return channel.isDrawnAsKnown || (isSame && showsKnown(channel.slide, known, position));
+}
+
 std::string sentence(const Words& words, const Written& written) {
   if (written.caption.empty()) return words.say("%1: scale not known", {written.name});
   if (written.made.empty())
@@ -147,7 +154,8 @@ void addPositions(Sentences& sentences, const frmDSO& main) {
     // Where the scale is another one, that has been said, and the position is in doubt for it.
     const bool isAtItsScale =
         isOfTrace(channel.scale, "V", channel.record.madeUnder.voltsPerDivision);
-    if (hasTrace(channel) && isAtItsScale && !channel.isDrawnAsKnown) addUnknown(channel.slide);
+    if (hasTrace(channel) && isAtItsScale && !isDrawnAsKnown(main.known, channel))
+      addUnknown(channel.slide);
   }
   // The delay is none of the trace, and perhaps nobody has touched it.
   const bool isTouched = main.known.doubt(Setting::delay) != Doubt::neverRead;
