@@ -6,8 +6,8 @@
 
 namespace tracewell {
 
-/// A line to an instrument: the port's number, and how often a line had been opened. Another
-/// instrument may be on it each time.
+/// A line to an instrument: the port's number, and how often a line had been opened or lost.
+/// Another instrument may be on it each time.
 struct InstrumentLine {
   std::int16_t portNumber = -1;
   int openings = -1;
