@@ -111,7 +111,7 @@ void frmLoad::chooseNone() {
 
 /// All or nothing: a set that cannot be shown leaves the one before it chosen.
 void frmLoad::showSet(const std::string& dataPath) {
-  const WaveformDescription txtCSV = readDescription(pathOf(descriptionPath(dataPath)));
+  WaveformDescription txtCSV = readDescription(pathOf(descriptionPath(dataPath)));
   if (!isPictureType(txtCSV.picturePath))
     throw Error(invalidProcedureCall, "Tracewell", "No picture: " + txtCSV.picturePath);
   pictureCSV.image = services().pictures.load(pathOf(txtCSV.picturePath));
@@ -119,9 +119,7 @@ void frmLoad::showSet(const std::string& dataPath) {
                  "\r\nDescription : " + txtCSV.description + "\r\nCh1 : " + txtCSV.channel1 +
                  "\r\nCh2 : " + txtCSV.channel2 + "\r\nTime : " + txtCSV.time + "\r\n";
   dataPath_ = dataPath;
-  channel1Value_ = txtCSV.channel1;
-  channel2Value_ = txtCSV.channel2;
-  scale1_ = txtCSV.time;
+  txtCSV_ = std::move(txtCSV);
 }
 
 void frmLoad::fileCSV_Click() {
@@ -139,10 +137,11 @@ void frmLoad::fileCSV_Click() {
 void frmLoad::cmdOK_Click() {
   try {
     const std::string text = readWaveformFile(pathOf(dataPath_));
-    if (drawSet(readWaveforms(text, channel1Value_, channel2Value_))) {
+    if (hasChanged()) return showChanged();
+    if (drawSet(readWaveforms(text, txtCSV_.channel1, txtCSV_.channel2))) {
       const auto saved = channelsAsSaved(text);
-      const bool isAsSaved = saved && saved->one == (channel1Value_ != notSaved) &&
-                             saved->two == (channel2Value_ != notSaved);
+      const bool isAsSaved = saved && saved->one == (txtCSV_.channel1 != notSaved) &&
+                             saved->two == (txtCSV_.channel2 != notSaved);
       if (!isAsSaved) tellOfOddFile(main_.status);
     }
     hide();
@@ -150,6 +149,18 @@ void frmLoad::cmdOK_Click() {
     // Without a box: the window stays for another choice.
     sayWhyNot(whyNot(error));
   }
+}
+
+/// The samples that have been read may be another set's then, with other positions and scales.
+bool frmLoad::hasChanged() const {
+  return readDescription(pathOf(descriptionPath(dataPath_))) != txtCSV_;
+}
+
+void frmLoad::showChanged() {
+  showSet(dataPath_);
+  sayWhyNot(
+      services().words.say("%1 has changed since you chose it: press %2 to load it as it is now",
+                           {dataPath_, cmdOK.caption()}));
 }
 
 std::string frmLoad::whyNot(const Error& error) const {
@@ -187,8 +198,9 @@ bool frmLoad::drawSet(const LoadedWaveforms& set) {
     ++number;
     ++drawn;
   };
-  if (cb1.isChecked() && channel1Value_ != notSaved) draw(set.channel1, scale1_);
-  if (cb2.isChecked() && channel2Value_ != notSaved) draw(set.channel2, "");
+  if (cb1.isChecked() && txtCSV_.channel1 != notSaved) draw(set.channel1, txtCSV_.time);
+  // The scale of the second channel stands in no description.
+  if (cb2.isChecked() && txtCSV_.channel2 != notSaved) draw(set.channel2, "");
   sayWhatIsShown(drawn, hasRoom);
   if (!replaced.empty())
     main_.status.tellToo(StatusLine::happened, [replaced](const Words& words) {

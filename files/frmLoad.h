@@ -46,17 +46,15 @@ class frmLoad : public Window {
   bool drawSet(const LoadedWaveforms& set);
   std::string whyNot(const Error& error) const;
   void sayWhyNot(const std::string& text);
+  bool hasChanged() const;
+  void showChanged();
   void sayWhatIsShown(std::size_t drawn, bool hasRoom);
 
   frmDSO& main_;
   std::filesystem::path folder_;
   /// Path of the chosen set's data file; empty for none.
   std::string dataPath_;
-  /// Positions at saving time.
-  std::string channel1Value_ = notSaved;
-  std::string channel2Value_ = notSaved;
-  /// Of channel 1 at saving time; that of channel 2 stands in no description.
-  std::string scale1_;
+  WaveformDescription txtCSV_;
   /// Entry of fileCSV whose description is shown.
   int shownFile_ = ListBox::noEntry;
 };

@@ -35,7 +35,7 @@ Report filledReport(std::string text, const SetupTable& table) {
     for (int i = 0; i < count; ++i) {
       const std::string& value = table.text(row, SetupTable::columnOf(i));
       const std::size_t bracket = find(text, "[", position);
-      isWhole = isWhole && bracket > 0;
+      isWhole = isWhole && bracket != 0;
       text.insert(bracket, value);
       position = find(text, "]", bracket + value.size());
     }

@@ -74,7 +74,6 @@ void Connect::showAcquisition() {
 void Connect::cmdRS232_Click() {
   instrument_.InitDSO();
   if (!main_.LinkOK) return showConnectFailed(main_);
-  main_.status.withdraw(StatusLine::stoppedByError);
   cmdStart_Click();
 }
 

@@ -12,6 +12,10 @@
         <translation>%1 n'a pas pu être lu en entier et sera conservé sous %2</translation>
     </message>
     <message>
+        <source>%1 has changed since you chose it: press %2 to load it as it is now</source>
+        <translation>%1 a changé depuis que vous l'avez choisi : appuyez sur %2 pour le charger tel qu'il est maintenant</translation>
+    </message>
+    <message>
         <source>%1 has lines of another program too; they are in the log now</source>
         <translation>%1 contient aussi des lignes d'un autre programme ; elles sont maintenant dans le journal</translation>
     </message>

@@ -12,6 +12,10 @@
         <translation>%1 прочитан не полностью и будет сохранён как %2</translation>
     </message>
     <message>
+        <source>%1 has changed since you chose it: press %2 to load it as it is now</source>
+        <translation>Файл %1 изменился после того, как вы его выбрали: нажмите %2, чтобы загрузить его таким, какой он теперь</translation>
+    </message>
+    <message>
         <source>%1 has lines of another program too; they are in the log now</source>
         <translation>В %1 есть и строки другой программы; теперь они в журнале</translation>
     </message>

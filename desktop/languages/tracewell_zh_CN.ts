@@ -12,6 +12,10 @@
         <translation>%1 未能完整读取，将保留为 %2</translation>
     </message>
     <message>
+        <source>%1 has changed since you chose it: press %2 to load it as it is now</source>
+        <translation>%1 在您选择之后已改变：请按 %2 加载现在的内容</translation>
+    </message>
+    <message>
         <source>%1 has lines of another program too; they are in the log now</source>
         <translation>%1 中还有另一个程序写入的行，现已并入日志</translation>
     </message>

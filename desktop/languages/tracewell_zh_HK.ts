@@ -12,6 +12,10 @@
         <translation>%1 讀唔晒，會保留做 %2</translation>
     </message>
     <message>
+        <source>%1 has changed since you chose it: press %2 to load it as it is now</source>
+        <translation>%1 喺你揀咗之後改變咗：請撳 %2 載入而家嘅內容</translation>
+    </message>
+    <message>
         <source>%1 has lines of another program too; they are in the log now</source>
         <translation>%1 入面仲有另一個程式寫嘅行，而家已經併入記錄</translation>
     </message>

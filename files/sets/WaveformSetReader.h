@@ -20,10 +20,11 @@ struct WaveformDescription {
   std::string author;
   std::string description;
   /// Positions at saving time in divisions, or notSaved.
-  std::string channel1;
-  std::string channel2;
+  std::string channel1 = notSaved;
+  std::string channel2 = notSaved;
   /// What stands in the line of the time: the volts per division of channel 1.
   std::string time;
+  bool operator==(const WaveformDescription&) const = default;
 };
 
 /// Raises an error if the file is missing, too large or has fewer than seven lines.

@@ -90,7 +90,6 @@ class Replacement {
     if (!isDone_) fs::remove(beside_, ignored);
     if (!old_.empty()) fs::remove(old_, ignored);
   }
-  Replacement(const Replacement&) = delete;
 
   void write(std::string_view bytes) {
     takeOwnerAndMode();

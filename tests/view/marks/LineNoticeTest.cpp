@@ -42,7 +42,7 @@ TEST_F(LineNoticeTest, SaysWhatIsWrongOnTheLineAsLongAsItIs) {
   port.lineReport.noRecordSince = clock.milliseconds();
   clock.run(3000);
   EXPECT_EQ(main.lblStatus.caption(), "");
-  clock.run(2500);
+  clock.run(2000);
   EXPECT_EQ(main.graphDSO.marks().banner.text, "No record for 5 s");
   port.lineReport.unaskedBytes.inLastMinute = 1;
   clock.run(1000);
