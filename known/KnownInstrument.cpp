@@ -229,14 +229,18 @@ void KnownInstrument::reading() {
   tell();
 }
 
-/// A stopped instrument keeps one sweep, not two.
+/// A stopped instrument keeps one sweep, not two. With other settings it may show that one
+/// differently.
 void KnownInstrument::swept(int channel, Moment requested) {
-  if (isStopped() || requested < changedAt(running)) return;
-  Swept& last = here().swept[static_cast<std::size_t>(channel - 1)];
-  const bool isSecond = last.line == presentLine() && last.requested >= changedAt(running);
-  if (isSecond && mayBeStopped()) take(running, {runningState});
+  if (requested < changedAt(running)) return;
+  auto& lasts = isStopped() ? here().sweptBehindStop : here().swept;
+  Swept& last = lasts[static_cast<std::size_t>(channel - 1)];
+  const Moment since = std::max({changedAt(running), changedAt(ofChannel(position1, channel)),
+                                 changedAt(delay), signalChangedAt(channel)});
+  const bool isSecond = last.line == presentLine() && last.requested >= since;
+  if (isSecond && (isStopped() || mayBeStopped())) take(running, {runningState});
   last = {presentLine(), requested};
-  here().sweptAt = std::max(here().sweptAt, requested);
+  if (!isStopped()) here().sweptAt = std::max(here().sweptAt, requested);
 }
 
 Doubt KnownInstrument::doubt(Setting setting) const {

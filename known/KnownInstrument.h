@@ -56,7 +56,8 @@ class KnownInstrument {
   void reading();
   /// A record is requested. The line decides when the request goes out.
   void requested();
-  /// A record of a channel, requested at that moment, has brought a new sweep.
+  /// A record of a channel, requested at that moment, has brought a new sweep. The second one under
+  /// the same settings proves that an instrument runs that was taken to be stopped.
   void swept(int channel, Moment requested);
 
   /// Called after each of these.
@@ -132,6 +133,8 @@ class KnownInstrument {
     /// The newest request that brought a new sweep; that of each channel, and its line.
     Moment sweptAt = 0;
     std::array<Swept, 2> swept;
+    /// Of those that came while the instrument was taken to be stopped.
+    std::array<Swept, 2> sweptBehindStop;
     /// The settings under which a stopped instrument made the records that it sends.
     std::array<Told, 2> atStop;
   };

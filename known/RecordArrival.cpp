@@ -18,6 +18,8 @@ bool takeRecord(ChannelRecord& held, const std::string& bytes, const RecordArriv
     made = whicheverHolds(made, held.madeUnder);
   else
     known.swept(arrival.channel, arrival.requested);
+  // It has proved that the instrument runs.
+  if (made.stop && !known.isStopped()) made = known.madeUnder(arrival.channel, arrival.requested);
   held = {bytes, arrival.line, made, arrival.now, arrival.now};
   return true;
 }

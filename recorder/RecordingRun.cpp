@@ -174,6 +174,7 @@ void RecordingRun::arrived(const LineRecord& fetched) {
 void RecordingRun::take(int channel, const ChannelRecord& record) {
   const OwnMeasurements values = measure(record, records_[channel == 1 ? 1 : 0]);
   isLimitPassed_ = isLimitPassed_ || !options_.columns.passed(values).empty();
+  if (options_.columns.isUnchecked(values)) ++uncheckedRows_;
   output_.take(channel, record, values, wallTimeNow(), clock_.milliseconds());
   ++countOf(channel);
   tellProgress(channel, values);
@@ -229,6 +230,9 @@ void RecordingRun::end(RecorderEnd how) {
     told_.message(output_.trouble().value_or("Not all has been written"));
     how = RecorderEnd::notWritten;
   }
+  if (uncheckedRows_ > 0)
+    told_.message("Rows not held against every limit, for want of a value: " +
+                  std::to_string(uncheckedRows_));
   if (how == RecorderEnd::done && isLimitPassed_) how = RecorderEnd::limitPassed;
   told_.ended(how);
 }

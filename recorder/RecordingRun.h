@@ -96,6 +96,7 @@ class RecordingRun {
   /// The opening of the line on which the scales were read; none if they are to be read again.
   std::optional<int> readOn_;
   bool isLimitPassed_ = false;
+  int uncheckedRows_ = 0;
   bool isLocked_ = false;
   bool isOver_ = false;
   /// As long as this object lives, for ticks that are due later.

@@ -11,10 +11,14 @@
 
 namespace tracewell {
 
-bool MeasurementLimit::isPassed(const OwnMeasurements& values) const {
+std::optional<double> MeasurementLimit::toldBy(const OwnMeasurements& values) const {
   const OwnValue& own = values[quantity];
-  const auto& bound = isUpper ? own.atLeast : own.atMost;
-  const auto& told = own.value ? own.value : bound;
+  if (own.value) return own.value;
+  return isUpper ? own.atLeast : own.atMost;
+}
+
+bool MeasurementLimit::isPassed(const OwnMeasurements& values) const {
+  const std::optional<double> told = toldBy(values);
   return told && (isUpper ? *told > value : *told < value);
 }
 
@@ -96,6 +100,11 @@ std::string MeasurementColumns::passed(const OwnMeasurements& values) const {
   for (const MeasurementLimit& limit : limits)
     if (limit.isPassed(values)) text += (text.empty() ? "" : "; ") + limit.text;
   return text;
+}
+
+bool MeasurementColumns::isUnchecked(const OwnMeasurements& values) const {
+  return std::ranges::any_of(
+      limits, [&values](const MeasurementLimit& limit) { return !limit.toldBy(values); });
 }
 
 }  // namespace tracewell

@@ -20,7 +20,8 @@ struct MeasurementLimit {
   /// As it is written into rows.
   std::string text;
 
-  /// Where there is no value, its bounds decide: a clipped maximum above the limit passes it.
+  /// What is held against it: the value, or where there is none its bound, as of a clipped maximum.
+  std::optional<double> toldBy(const OwnMeasurements& values) const;
   bool isPassed(const OwnMeasurements& values) const;
 };
 
@@ -48,6 +49,8 @@ struct MeasurementColumns {
   bool isRow(std::string_view line) const;
   /// The limits passed, "; " between them.
   std::string passed(const OwnMeasurements& values) const;
+  /// For some limit there is no value: it may be passed or not.
+  bool isUnchecked(const OwnMeasurements& values) const;
 };
 
 }  // namespace tracewell
