@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Accessible.h"
 
-#include <QAccessible>
 #include <QAccessibleWidget>
 #include <QLabel>
 
@@ -19,6 +18,7 @@ namespace tracewell {
 namespace {
 
 constexpr const char* toldProperty = "toldDescription";
+constexpr const char* roleProperty = "accessibleRole";
 
 QString sentences(QStringList parts) {
   parts.removeAll(QString());
@@ -171,6 +171,13 @@ QAccessibleInterface* pictureInterface(QObject* object) {
   return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::StaticText);
 }
 
+QAccessibleInterface* roleInterface(QObject* object) {
+  const QVariant role = object->property(roleProperty);
+  if (!role.isValid()) return nullptr;
+  return new QAccessibleWidget(static_cast<QWidget*>(object),
+                               static_cast<QAccessible::Role>(role.toInt()));
+}
+
 /// The toolkit calls it with the object's class first, then with each base class.
 QAccessibleInterface* makeInterface(const QString& className, QObject* object) {
   if (object == nullptr || object->metaObject()->className() != className) return nullptr;
@@ -180,7 +187,7 @@ QAccessibleInterface* makeInterface(const QString& className, QObject* object) {
         interfaceOf<AccessibleDial, SlideWidget>(object, QAccessible::Slider),
         interfaceOf<AccessibleThing, LampWidget>(object, QAccessible::Graphic),
         interfaceOf<AccessibleThing, GraphView>(object, QAccessible::Graphic),
-        labelInterface(object), pictureInterface(object)})
+        labelInterface(object), pictureInterface(object), roleInterface(object)})
     if (made != nullptr) return made;
   return nullptr;
 }
@@ -212,6 +219,10 @@ void installAccessible() {
     return true;
   }();
   Q_UNUSED(isInstalled);
+}
+
+void setRole(QWidget& widget, QAccessible::Role role) {
+  widget.setProperty(roleProperty, static_cast<int>(role));
 }
 
 /// Qt has kept what it had made for their texts.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QAccessible>
 #include <QWidget>
 
 namespace tracewell {
@@ -12,6 +13,9 @@ void installAccessible();
 
 /// Labels of a new form that have got their names only after their texts are asked for anew.
 void takeNamedLabels(QWidget& form);
+
+/// What a widget is that the toolkit takes for a mere frame. Before anybody asks.
+void setRole(QWidget& widget, QAccessible::Role role);
 
 /// Tells those who listen, if anybody does, that a knob or slide stands at another value.
 void tellValue(QWidget& widget);

@@ -279,6 +279,16 @@ void bind(Graph& control, const FormParts& parts) {
                        [widget](bool isEnlarged) { widget->setVisible(!isEnlarged); });
 }
 
+/// Enter means the entry at which the keys are, and not one chosen before that the program has kept.
+void chooseOnEnter(ListBox& control, QListWidget& list) {
+  onEnter(&list, [&control, &list] {
+    const int row = list.currentRow();
+    if (row < 0 || row == control.chosen()) return false;
+    control.choose(row);
+    return true;
+  });
+}
+
 void bind(ListBox& control, const FormParts& parts) {
   auto* list = parts.of<QListWidget>(control);
   showWith(control, list, [&control, list] {
@@ -305,9 +315,10 @@ void bind(ListBox& control, const FormParts& parts) {
     const int row = selected.isEmpty() ? ListBox::noEntry : list->row(selected.first());
     if (row >= 0 && row != control.chosen()) control.choose(row);
   });
-  if (!control.opened) return;
+  if (!control.opened) return chooseOnEnter(control, *list);
   const auto open = [&control, list] {
     if (list->currentRow() >= 0) control.open(list->currentRow());
+    return true;
   };
   QObject::connect(list, &QListWidget::itemDoubleClicked, list, open);
   onEnter(list, open);

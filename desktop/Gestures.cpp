@@ -63,13 +63,12 @@ void onDoubleClick(QObject* watched, const std::function<void()>& action) {
   });
 }
 
-void onEnter(QObject* watched, const std::function<void()>& action) {
+void onEnter(QObject* watched, const std::function<bool()>& action) {
   new EventWatch(watched, [action](const QEvent& event) {
     if (event.type() != QEvent::KeyPress) return false;
     const int key = static_cast<const QKeyEvent&>(event).key();
     const bool isEnter = key == Qt::Key_Return || key == Qt::Key_Enter;
-    if (isEnter) action();
-    return isEnter;
+    return isEnter && action();
   });
 }
 

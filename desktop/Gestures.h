@@ -15,8 +15,8 @@ namespace tracewell {
 
 void onDoubleClick(QObject* watched, const std::function<void()>& action);
 
-/// Runs `action` at Enter, which a dialog would otherwise take for its default button.
-void onEnter(QObject* watched, const std::function<void()>& action);
+/// Runs `action` at Enter, which a dialog takes for its default button unless the result is true.
+void onEnter(QObject* watched, const std::function<bool()>& action);
 
 /// Enter on a text that is not taken yet only takes it: the user sees what it opens before the
 /// dialog closes. Tab takes it before it looks for the next box, which may be the one that opens.

@@ -11,6 +11,7 @@
 
 #include "Accessible.h"
 #include "KnobValues.h"
+#include "PanelText.h"
 #include "TextGrowth.h"
 
 namespace tracewell {
@@ -60,6 +61,8 @@ void KnobWidget::setValue(double value) {
 }
 
 QString KnobWidget::inWords() const {
+  if (!typed_.isEmpty())
+    return typedValue(typed_, unit_) ? typed_ : panelText("%1 is no value").arg(typed_);
   const KnobValue value = captionValue(captions_[value_]);
   if (unit_.isEmpty() || value.number <= 0) return captions_[value_];
   static const QStringList prefixes = {QStringLiteral("n"), QStringLiteral("\u00b5"),
@@ -173,6 +176,7 @@ bool KnobWidget::hasCaption(int detent) const {
 }
 
 void KnobWidget::turnTo(int detent) {
+  setTyped({});
   emit turned(qBound(0, detent, lastDetent()));
 }
 
@@ -267,8 +271,10 @@ void KnobWidget::wheelEvent(QWheelEvent* event) {
 }
 
 void KnobWidget::setTyped(const QString& typed) {
+  if (typed == typed_) return;
   typed_ = typed;
   update();
+  tellWords(*this);
 }
 
 bool KnobWidget::takeTyped(const QKeyEvent& event) {
@@ -286,8 +292,10 @@ bool KnobWidget::takeTyped(const QKeyEvent& event) {
   switch (event.key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-      if (!typed) return true;
-      setTyped({});
+      if (!typed) {
+        tellWords(*this);
+        return true;
+      }
       turnTo(nearestCaption(captions_, *typed, value_));
       return true;
     case Qt::Key_Escape:

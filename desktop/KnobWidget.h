@@ -31,7 +31,7 @@ class KnobWidget : public QWidget {
   /// What the captions count in: "V".
   QString unit() const { return unit_; }
   void setUnit(const QString& unit) { unit_ = unit; }
-  /// The value with its unit: "500 mV" for ".5".
+  /// The value with its unit: "500 mV" for ".5"; or what is being typed.
   QString inWords() const;
   QColor accent() const { return accent_; }
   void setAccent(const QColor& accent);

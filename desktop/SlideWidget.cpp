@@ -138,9 +138,13 @@ void SlideWidget::paintEvent(QPaintEvent*) {
                        size.height());
   const QColor accent = isPale_ ? text : accent_;
   painter.setBrush(isEnabled() ? accent : palette().color(QPalette::Mid));
-  painter.setPen(hasFocus() ? QPen(palette().color(QPalette::Highlight), 2)
-                            : QPen(accent.darker(160), 1));
+  painter.setPen(QPen(accent.darker(160), 1));
   painter.drawRoundedRect(pointer, 3, 3);
+  if (!hasFocus()) return;
+  // Apart from the pointer, which may have the same colour.
+  painter.setBrush(Qt::NoBrush);
+  painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+  painter.drawRoundedRect(pointer.adjusted(-3, -3, 3, 3), 5, 5);
 }
 
 void SlideWidget::paintNumber(QPainter& painter, double mark) {

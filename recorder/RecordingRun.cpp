@@ -161,7 +161,8 @@ void RecordingRun::arrived(const LineRecord& fetched) {
   const int channel = fetched.channel;
   ChannelRecord& record = records_[static_cast<std::size_t>(channel - 1)];
   const RecordArrival arrival{channel, line(), fetched.stamp, now};
-  if (!takeRecord(record, fetched.bytes, arrival, known_) || isComplete(channel)) return;
+  if (!takeRecord(record, fetched.bytes, arrival, known_)) return tellSame(record);
+  if (isComplete(channel)) return;
   try {
     take(channel, record);
   } catch (const Error& error) {
@@ -175,9 +176,17 @@ void RecordingRun::take(int channel, const ChannelRecord& record) {
   const OwnMeasurements values = measure(record, records_[channel == 1 ? 1 : 0]);
   isLimitPassed_ = isLimitPassed_ || !options_.columns.passed(values).empty();
   if (options_.columns.isUnchecked(values)) ++uncheckedRows_;
+  isSameTold_ = false;
   output_.take(channel, record, values, wallTimeNow(), clock_.milliseconds());
   ++countOf(channel);
   tellProgress(channel, values);
+}
+
+/// An instrument may wait for its trigger for hours.
+void RecordingRun::tellSame(const ChannelRecord& record) {
+  if (record.fetchedAt - record.sweepAt < options_.patience || std::exchange(isSameTold_, true))
+    return;
+  told_.message("The same sweep again and again: the instrument is stopped or waits for its trigger");
 }
 
 void RecordingRun::tellTrouble() {

@@ -61,6 +61,7 @@ class RecordingRun {
   void ask(const std::string& query);
   void arrived(const LineRecord& fetched);
   void take(int channel, const ChannelRecord& record);
+  void tellSame(const ChannelRecord& record);
   void failed(const std::string& why);
   void tellTrouble();
   void tellProgress(int channel, const OwnMeasurements& values);
@@ -97,6 +98,7 @@ class RecordingRun {
   std::optional<int> readOn_;
   bool isLimitPassed_ = false;
   int uncheckedRows_ = 0;
+  bool isSameTold_ = false;
   bool isLocked_ = false;
   bool isOver_ = false;
   /// As long as this object lives, for ticks that are due later.

@@ -65,11 +65,12 @@ Measurements::Measurements(frmDSO& main, CommandExchange& exchange, ErrorLog& er
     };
 }
 
-/// It is of the signal and the settings of its time.
+/// It is of the signal and the settings of its time. Math takes the place of its channel.
 Trust Measurements::trustOf(const Result& result) const {
   if (!result.reply || !main_.services().port.isSure(*result.reply)) return Trust::unread;
   const KnownInstrument& known = main_.known;
-  const bool isOfNow = !result.isLeftOver && !known.isUpset() &&
+  const bool isMath = known.mathChannel() == result.channel || known.mayMathBeOn();
+  const bool isOfNow = !result.isLeftOver && !known.isUpset() && !isMath &&
                        result.line == known.presentLine() &&
                        known.signalChangedAt(result.channel) <= result.measuredAt;
   return isOfNow ? Trust::holds : Trust::stale;

@@ -52,6 +52,10 @@
         <translation>%1 est écrêtée : niveaux et harmoniques ne sont pas ceux du signal</translation>
     </message>
     <message>
+        <source>%1 is no value</source>
+        <translation>%1 n'est pas une valeur</translation>
+    </message>
+    <message>
         <source>%1 records</source>
         <translation>%1 enregistrements</translation>
     </message>

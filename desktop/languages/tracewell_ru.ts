@@ -52,6 +52,10 @@
         <translation>%1 обрезан: уровни и гармоники не принадлежат самому сигналу</translation>
     </message>
     <message>
+        <source>%1 is no value</source>
+        <translation>%1 — не значение</translation>
+    </message>
+    <message>
         <source>%1 records</source>
         <translation>записей: %1</translation>
     </message>

@@ -52,6 +52,10 @@
         <translation>%1 被削波：电平和谐波并非信号本身的</translation>
     </message>
     <message>
+        <source>%1 is no value</source>
+        <translation>%1 不是有效值</translation>
+    </message>
+    <message>
         <source>%1 records</source>
         <translation>%1 条记录</translation>
     </message>

@@ -52,6 +52,10 @@
         <translation>%1 畀削波：電平同諧波唔係訊號本身嘅</translation>
     </message>
     <message>
+        <source>%1 is no value</source>
+        <translation>%1 唔係有效值</translation>
+    </message>
+    <message>
         <source>%1 records</source>
         <translation>%1 條記錄</translation>
     </message>

@@ -8,6 +8,7 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
+#include "Accessible.h"
 #include "DesktopWords.h"
 #include "ElidedLabel.h"
 #include "Error.h"
@@ -43,6 +44,22 @@ std::string nameOf(const RecordStore& store, RecordStore::Number number) {
   return name == own ? own : own + " " + name;
 }
 
+/// A reader hears of each description that is set, changed or not.
+void describe(QWidget& widget, const QString& text) {
+  if (widget.accessibleDescription() != text) widget.setAccessibleDescription(text);
+}
+
+/// Nor is a list filled again that stays as it is.
+void fill(QComboBox& box, const QStringList& entries, const QVariantList& numbers) {
+  bool isSame = box.count() == entries.size();
+  for (int i = 0; isSame && i < box.count(); ++i)
+    isSame = box.itemText(i) == entries[i] && box.itemData(i) == numbers[i];
+  if (isSame) return;
+  const QSignalBlocker blocker(box);
+  box.clear();
+  for (qsizetype i = 0; i < entries.size(); ++i) box.addItem(entries[i], numbers[i]);
+}
+
 void showSentence(ElidedLabel& label, const QString& text, bool isTrouble) {
   label.setText(text);
   label.setSentences({{text, isTrouble}});
@@ -63,6 +80,9 @@ RecorderWindow::RecorderWindow(Recorder& recorder)
       logState_(new ElidedLabel(this)) {
   setObjectName(QStringLiteral("recorderWindow"));
   setAttribute(Qt::WA_QuitOnClose, false);
+  setRole(*this, QAccessible::Window);
+  setRole(*graph_, QAccessible::Graphic);
+  setRole(*strip_, QAccessible::Graphic);
   layOut();
   sayTexts();
   connectParts();
@@ -241,8 +261,8 @@ void RecorderWindow::showAll() {
   QString said;
   for (const auto* list : {&texts, &picture.notes})
     for (const std::string& text : *list) said += toQt(text) + QStringLiteral(". ");
-  graph_->setAccessibleDescription(said);
-  strip_->setAccessibleDescription(toQt(view_.title()));
+  describe(*graph_, said.trimmed());
+  tellStrip(pointed);
   strip_->update();
   bar_->showState();
   tables_->showState();
@@ -251,6 +271,17 @@ void RecorderWindow::showAll() {
   for (QPushButton* button : {pin_, showInPanel_, copy_, save_, export_})
     button->setEnabled(pointed.has_value());
   measuring_.start(betweenMeasuring);
+}
+
+/// The number of those that are kept goes on counting, and the newest is another one all the time:
+/// neither is told.
+void RecorderWindow::tellStrip(std::optional<RecordStore::Number> pointed) {
+  const bool isSame = !view_.isFollowing() && pointed == told_;
+  told_ = view_.isFollowing() ? std::nullopt : pointed;
+  if (view_.isFollowing())
+    describe(*strip_, panelText("Goes with the newest record (F)"));
+  else if (!isSame)
+    describe(*strip_, toQt(view_.title()));
 }
 
 void RecorderWindow::measureSome() {
@@ -266,19 +297,20 @@ void RecorderWindow::showPins() {
   if (pins_->view()->isVisible()) return;
   const auto pinned = recorder_.store().pinned();
   const auto pointed = view_.selected();
-  const QSignalBlocker blocker(pins_);
-  pins_->clear();
-  pins_->addItem(pinned.empty() ? panelText("Nothing pinned")
-                                : panelText("Pinned: %1").arg(pinned.size()));
-  bool isPinned = false;
+  QStringList entries = {pinned.empty() ? panelText("Nothing pinned")
+                                        : panelText("Pinned: %1").arg(pinned.size())};
+  QVariantList numbers = {QVariant()};
+  int current = 0;
   for (const auto& [number, name] : pinned) {
     const std::string own = ownNameOf(recorder_.store().facts(number));
-    pins_->addItem(shownText(name == own ? own : name + " " + own, roomOfCaption),
-                   static_cast<qlonglong>(number));
-    if (number != pointed) continue;
-    isPinned = true;
-    pins_->setCurrentIndex(pins_->count() - 1);
+    entries << shownText(name == own ? own : name + " " + own, roomOfCaption);
+    numbers << static_cast<qlonglong>(number);
+    if (number == pointed) current = static_cast<int>(entries.size()) - 1;
   }
+  fill(*pins_, entries, numbers);
+  const bool isPinned = current > 0;
+  const QSignalBlocker blocker(pins_);
+  if (pins_->currentIndex() != current) pins_->setCurrentIndex(current);
   pins_->setEnabled(!pinned.empty());
   const bool isLetGo = isPinned && pinName_->text().trimmed().isEmpty();
   pin_->setText(isLetGo ? panelText("Let go") : isPinned ? panelText("Rename") : panelText("Pin"));
@@ -379,6 +411,7 @@ void RecorderWindow::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
   if (event->type() == QEvent::LanguageChange) {
     texts_.sayAgain();
+    told_.reset();
     // What it says of the past cannot be said again.
     say({});
     bar_->sayAgain();

@@ -54,6 +54,7 @@ class RecorderWindow : public QWidget {
   /// All that shows has changed; painted once an event-loop turn.
   void showSoon();
   void showAll();
+  void tellStrip(std::optional<RecordStore::Number> pointed);
   void showPins();
   void showLog();
   void measureSome();
@@ -91,6 +92,8 @@ class RecorderWindow : public QWidget {
   QTimer measuring_;
   QTimer everySecond_;
   bool isShowDue_ = false;
+  /// The record that the strip has told of.
+  std::optional<RecordStore::Number> told_;
 };
 
 }  // namespace tracewell

@@ -1,43 +1,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <private/qguiapplication_p.h>
-#include <qpa/qplatformaccessibility.h>
-#include <qpa/qplatformintegration.h>
-#include <QAccessible>
 #include <QRadioButton>
 #include <set>
 
 #include "GraphView.h"
+#include "Listener.h"
 #include "MainFormTest.h"
 #include "QtValues.h"
 
 namespace tracewell {
 namespace {
 
-/// With a reader that hears what it is told.
 class AccessibilityTest : public EveryFormTest {
  protected:
-  AccessibilityTest() {
-    heard.clear();
-    setActive(true);
-    QAccessible::installUpdateHandler(hear);
-  }
-  ~AccessibilityTest() override {
-    QAccessible::installUpdateHandler(nullptr);
-    setActive(false);
-  }
-
-  /// Only a platform's own code may.
-  static void setActive(bool isActive) {
-    QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(isActive);
-  }
-
-  static void hear(QAccessibleEvent* event) {
-    const std::string name = fromQt(event->object()->objectName());
-    if (event->type() == QAccessible::ValueChanged)
+  void hear(QAccessibleEvent& event) {
+    const std::string name = fromQt(event.object()->objectName());
+    if (event.type() == QAccessible::ValueChanged)
       heard.push_back(name + " = " +
-                      fromQt(static_cast<QAccessibleValueChangeEvent*>(event)->value().toString()));
-    if (event->type() == QAccessible::DescriptionChanged && !said(*event->object()).empty())
-      heard.push_back(name + ": " + said(*event->object()));
+                      fromQt(static_cast<QAccessibleValueChangeEvent&>(event).value().toString()));
+    if (event.type() == QAccessible::DescriptionChanged && !said(*event.object()).empty())
+      heard.push_back(name + ": " + said(*event.object()));
   }
   static QAccessibleInterface& reader(QObject& object) {
     return *QAccessible::queryAccessibleInterface(&object);
@@ -46,7 +27,8 @@ class AccessibilityTest : public EveryFormTest {
     return fromQt(reader(object).text(QAccessible::Value));
   }
 
-  static inline Lines heard;
+  Lines heard;
+  const Listener listener{[this](QAccessibleEvent& event) { hear(event); }};
 };
 
 /// What is no more to a reader than a part of a window.
@@ -120,6 +102,11 @@ TEST_F(AccessibilityTest, WhatChangesIsTold) {
     main.knobTime.turn(detent);
     EXPECT_EQ(said(*find("knobTime")), text);
   }
+  heard.clear();
+  for (const auto key : {Qt::Key_2, Qt::Key_Q, Qt::Key_Return, Qt::Key_Escape})
+    QTest::keyClick(find("knobTime"), key, Qt::NoModifier);
+  EXPECT_EQ(heard, (Lines{"knobTime: 2", "knobTime: 2q is no value", "knobTime: 2q is no value",
+                          "knobTime: 5 s"}));
   heard.clear();
   main.slideTime.drag(1.5);
   EXPECT_EQ(heard, (Lines{"slideTime = 1.5", "slideTime: 1.50 Div"}));

@@ -264,6 +264,11 @@ TEST_F(FormsTest, ListKeepsTheEntryThatTheProgramGoesBackTo) {
     for (int i = 0; i < 3; ++i) QTest::keyClick(list, Qt::Key_Down);
     QTest::keyClick(list, Qt::Key_Shift);
     EXPECT_EQ(tried, (Lines{"bad.csv", "worse.csv", "good.csv"}));
+    // Enter is for the entry at which the keys are.
+    window.cmdOK.click = [] { ADD_FAILURE() << "pressed"; };
+    tried.clear();
+    for (const auto key : {Qt::Key_Up, Qt::Key_Return}) QTest::keyClick(list, key);
+    EXPECT_EQ(tried, (Lines{"worse.csv", "worse.csv"}));
     // A key on an empty list, and the release of one that was pressed elsewhere, choose nothing.
     window.fileCSV.click = [] { ADD_FAILURE() << "chosen"; };
     QTest::keyRelease(list, Qt::Key_Escape);
@@ -273,7 +278,6 @@ TEST_F(FormsTest, ListKeepsTheEntryThatTheProgramGoesBackTo) {
     auto* folders = dialog.findChild<QListWidget*>(QStringLiteral("dirCSV"));
     int opened = 0;
     window.dirCSV.opened = [&] { ++opened; };
-    window.cmdOK.click = [] { ADD_FAILURE() << "pressed"; };
     window.dirCSV.items = {"..", "a"};
     folders->setFocus();
     for (const char* reached : {"..", "a"}) {

@@ -17,6 +17,7 @@
 #include "DesktopProgram.h"
 #include "DesktopRecorder.h"
 #include "Drawn.h"
+#include "Listener.h"
 #include "MainFormTest.h"
 #include "QtValues.h"
 #include "RecorderGraph.h"
@@ -65,6 +66,28 @@ class RecorderWindowTest : public testing::Test {
   DesktopProgram desktop{folder.path()};
   RecorderWindow* window = nullptr;
 };
+
+/// While it stands at a record, others that come are no news to whoever listens.
+TEST_F(RecorderWindowTest, TellsAReaderWhatItsPartsAreAndOfChangesAlone) {
+  const auto roleOf = [](QWidget& part) {
+    return QAccessible::queryAccessibleInterface(&part)->role();
+  };
+  EXPECT_EQ(roleOf(*window), QAccessible::Window);
+  for (const char* const part : {"recorderGraph", "recordStrip"})
+    EXPECT_EQ(roleOf(find<QWidget>(part)), QAccessible::Graphic);
+  window->view().follow(false);
+  waitForRecords(3);
+  Lines told;
+  const Listener listener([&](QAccessibleEvent& event) {
+    const std::string name = fromQt(event.object()->objectName());
+    if (name == "recorderGraph" || name == "recordStrip" || name == "pins") told.push_back(name);
+  });
+  waitForRecords(5);
+  EXPECT_EQ(told, Lines());
+  window->view().step(-1);
+  waitForRecords(6);
+  EXPECT_EQ(told, Lines{"recordStrip"});
+}
 
 TEST_F(RecorderWindowTest, KeepsFollowsStepsPinsShowsLogsAndExports) {
   const RecordStore& store = recorder().recorder().store();
@@ -140,7 +163,7 @@ TEST_F(RecorderWindowTest, KeepsFollowsStepsPinsShowsLogsAndExports) {
 
   choose("cursors", 1);
   EXPECT_EQ(fromQt(find<QWidget>("recorderGraph").accessibleDescription()),
-            "|Δt| = 1.50 ms. 1/|Δt| = 667 Hz. ");
+            "|Δt| = 1.50 ms. 1/|Δt| = 667 Hz.");
   QTest::keyClick(&find<QWidget>("recorderGraph"), Qt::Key_Right, Qt::ShiftModifier);
   EXPECT_TRUE(QTest::qWaitFor([&] {
     return find<QWidget>("recorderGraph").accessibleDescription().contains("= 1.40 ms");
