@@ -279,7 +279,8 @@ void bind(Graph& control, const FormParts& parts) {
                        [widget](bool isEnlarged) { widget->setVisible(!isEnlarged); });
 }
 
-/// Enter means the entry at which the keys are, and not one chosen before that the program has kept.
+/// Enter means the entry at which the keys are, and not one chosen before that the program has
+/// kept.
 void chooseOnEnter(ListBox& control, QListWidget& list) {
   onEnter(&list, [&control, &list] {
     const int row = list.currentRow();

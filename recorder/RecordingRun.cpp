@@ -186,7 +186,8 @@ void RecordingRun::take(int channel, const ChannelRecord& record) {
 void RecordingRun::tellSame(const ChannelRecord& record) {
   if (record.fetchedAt - record.sweepAt < options_.patience || std::exchange(isSameTold_, true))
     return;
-  told_.message("The same sweep again and again: the instrument is stopped or waits for its trigger");
+  told_.message(
+      "The same sweep again and again: the instrument is stopped or waits for its trigger");
 }
 
 void RecordingRun::tellTrouble() {

@@ -77,7 +77,7 @@ class RecorderTest(unittest.TestCase):
         self.assertEqual(self.record(*options)[0], 0)
         self.assertEqual(len((self.folder / "log.csv").read_text().splitlines()), 3)
         self.assertEqual(self.record(*options, "--limit", "phase > 1")[::2],
-                         (0, "Rows not held against every limit, for want of a value: 1\n"))
+                         (0, "tracewell-record: Rows not held against every limit, for want of a value: 1\n"))
         rows = list(csv.reader((self.folder / "samples.csv").read_text().splitlines()))
         self.assertEqual(rows[0], ["Time (s)", "CH1 (V)"])
         self.assertEqual(len(rows), 501)
