@@ -12,13 +12,15 @@ namespace {
 
 constexpr std::array behindCounts = {0, 1, 5, 20, 100};
 
-/// The texts of a box's entries; the entry that is chosen stays.
+/// The texts of a box's entries; the entry that is chosen stays. Unlike a label, a box that is too
+/// narrow cuts its text without a sign.
 void setEntries(QComboBox& box, const QStringList& entries) {
   const QSignalBlocker blocker(box);
   const int chosen = std::max(box.currentIndex(), 0);
   box.clear();
   box.addItems(entries);
   box.setCurrentIndex(chosen);
+  box.setMinimumWidth(box.sizeHint().width());
 }
 
 }  // namespace

@@ -135,6 +135,7 @@ QLayout* RecorderWindow::actionRow() {
   pinName_ = new QLineEdit(this);
   pinName_->setObjectName(QStringLiteral("pinName"));
   pinName_->setMaxLength(60);
+  pinName_->setMinimumWidth(90);
   pinName_->setMaximumWidth(150);
   row->addWidget(pinName_);
   pin_ = addButton(*row, "pin");

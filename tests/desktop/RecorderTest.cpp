@@ -283,6 +283,8 @@ TEST_F(RecorderWindowTest, FitsASmallScreenInEveryLanguage) {
       choose("mode", mode);
       EXPECT_LE(window->minimumSizeHint().width(), 1024) << language << mode;
       EXPECT_LE(window->minimumSizeHint().height(), 700 - 40) << language << mode;
+      for (const char* const box : {"channel", "mode", "behind", "cursors"})
+        EXPECT_GE(find<QComboBox>(box).minimumWidth(), find<QComboBox>(box).sizeHint().width());
     }
     for (const auto& [button, keys] : {std::pair("copy", "Ctrl+C"),
                                        {"save", "Ctrl+S"},

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Bench.h"
 #include "Doing.h"
+#include "TraceMarks.h"
 
 namespace tracewell {
 
@@ -92,6 +93,15 @@ TEST_F(LineNoticeTest, SaysOverAnOpenDialogThatNobodyIsThere) {
       EXPECT_EQ(banner(), outer);
     }
   }
+}
+
+TEST_F(LineNoticeTest, CountsMinutesFromTwoOn) {
+  Channel& one = main.channels[0];
+  one.record.sweepAt = one.record.fetchedAt = 60000;
+  const Words& words = main.services().words;
+  EXPECT_EQ(unchangedText(words, one, 179999), "CH1: unchanged for 119 s");
+  EXPECT_EQ(unchangedText(words, one, 180000), "CH1: unchanged for 2 min");
+  EXPECT_EQ(ageText(words, one, 180000), "CH1: last record 2 min ago");
 }
 
 }  // namespace tracewell
