@@ -19,6 +19,7 @@ namespace {
 
 constexpr const char* toldProperty = "toldDescription";
 constexpr const char* roleProperty = "accessibleRole";
+constexpr const char* wordsProperty = "accessibleWords";
 
 QString sentences(QStringList parts) {
   parts.removeAll(QString());
@@ -171,11 +172,21 @@ QAccessibleInterface* pictureInterface(QObject* object) {
   return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::StaticText);
 }
 
+class AccessibleFrame : public QAccessibleWidget {
+ public:
+  using QAccessibleWidget::QAccessibleWidget;
+  QString text(QAccessible::Text kind) const override {
+    const QVariant words = object()->property(wordsProperty);
+    const bool hasWords = kind == QAccessible::Description && words.isValid();
+    return hasWords ? words.toString() : QAccessibleWidget::text(kind);
+  }
+};
+
 QAccessibleInterface* roleInterface(QObject* object) {
   const QVariant role = object->property(roleProperty);
   if (!role.isValid()) return nullptr;
-  return new QAccessibleWidget(static_cast<QWidget*>(object),
-                               static_cast<QAccessible::Role>(role.toInt()));
+  return new AccessibleFrame(static_cast<QWidget*>(object),
+                             static_cast<QAccessible::Role>(role.toInt()));
 }
 
 /// The toolkit calls it with the object's class first, then with each base class.
@@ -223,6 +234,10 @@ void installAccessible() {
 
 void setRole(QWidget& widget, QAccessible::Role role) {
   widget.setProperty(roleProperty, static_cast<int>(role));
+}
+
+void setWords(QWidget& widget, const QString& words) {
+  widget.setProperty(wordsProperty, words);
 }
 
 /// Qt has kept what it had made for their texts.

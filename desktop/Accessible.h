@@ -17,6 +17,9 @@ void takeNamedLabels(QWidget& form);
 /// What a widget is that the toolkit takes for a mere frame. Before anybody asks.
 void setRole(QWidget& widget, QAccessible::Role role);
 
+/// What such a widget describes from now on. Nobody is told: tellWords does.
+void setWords(QWidget& widget, const QString& words);
+
 /// Tells those who listen, if anybody does, that a knob or slide stands at another value.
 void tellValue(QWidget& widget);
 

@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QRadialGradient>
 #include <QWheelEvent>
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 
@@ -61,8 +62,11 @@ void KnobWidget::setValue(double value) {
 }
 
 QString KnobWidget::inWords() const {
-  if (!typed_.isEmpty())
-    return typedValue(typed_, unit_) ? typed_ : panelText("%1 is no value").arg(typed_);
+  if (!typed_.isEmpty()) {
+    const bool isBegun = std::ranges::any_of(typed_, [](QChar c) { return c.isDigit(); });
+    const bool isWrong = isBegun && !typedValue(typed_, unit_);
+    return isWrong ? panelText("%1 is no value").arg(typed_) : typed_;
+  }
   const KnobValue value = captionValue(captions_[value_]);
   if (unit_.isEmpty() || value.number <= 0) return captions_[value_];
   static const QStringList prefixes = {QStringLiteral("n"), QStringLiteral("\u00b5"),
@@ -175,9 +179,14 @@ bool KnobWidget::hasCaption(int detent) const {
   return detent == value_ || (detent % (every + (every > 1 ? 1 : 0)) == 0);
 }
 
+/// Who listens hears where it stands then, and not the value before.
 void KnobWidget::turnTo(int detent) {
-  setTyped({});
+  const bool wasTyped = !typed_.isEmpty();
+  const int before = value_;
+  typed_.clear();
+  update();
   emit turned(qBound(0, detent, lastDetent()));
+  if (wasTyped && value_ == before) tellWords(*this);
 }
 
 void KnobWidget::resizeEvent(QResizeEvent*) {

@@ -19,6 +19,8 @@ struct ChannelRecord {
   /// bytes again are the same sweep.
   std::int64_t sweepAt = 0;
   std::int64_t fetchedAt = 0;
+  /// What was received before these bytes.
+  std::string before = "";
 
   bool isSameSweep(const std::string& others, const InstrumentLine& othersLine) const {
     return bytes == others && line == othersLine;

@@ -233,14 +233,36 @@ void KnownInstrument::reading() {
 /// differently.
 void KnownInstrument::swept(int channel, Moment requested) {
   if (requested < changedAt(running)) return;
-  auto& lasts = isStopped() ? here().sweptBehindStop : here().swept;
-  Swept& last = lasts[static_cast<std::size_t>(channel - 1)];
-  const Moment since = std::max({changedAt(running), changedAt(ofChannel(position1, channel)),
-                                 changedAt(delay), signalChangedAt(channel)});
-  const bool isSecond = last.line == presentLine() && last.requested >= since;
-  if (isSecond && (isStopped() || mayBeStopped())) take(running, {runningState});
+  if (isStopped()) return sweptBehindStop(channel, requested);
+  Swept& last = here().swept[static_cast<std::size_t>(channel - 1)];
+  if (mayBeStopped() && isOfNow(last)) take(running, {runningState});
   last = {presentLine(), requested};
-  if (!isStopped()) here().sweptAt = std::max(here().sweptAt, requested);
+  here().sweptAt = std::max(here().sweptAt, requested);
+}
+
+/// Of three one may be damaged; the next is the one before it again then.
+void KnownInstrument::sweptBehindStop(int channel, Moment requested) {
+  constexpr int proof = 3;
+  const auto place = static_cast<std::size_t>(channel - 1);
+  Swept& last = here().sweptBehindStop[place];
+  int& inARow = here().inARow[place];
+  inARow = isOfNow(last) ? inARow + 1 : 1;
+  last = {presentLine(), requested};
+  if (inARow < proof) return;
+  take(running, {runningState});
+  here().sweptAt = std::max(here().sweptAt, requested);
+}
+
+void KnownInstrument::cameBack(int channel) {
+  here().inARow[static_cast<std::size_t>(channel - 1)] = 1;
+}
+
+/// Since it was requested nothing has changed that a sweep shows. Math shows both channels.
+bool KnownInstrument::isOfNow(const Swept& sweep) const {
+  const Moment since =
+      std::max({changedAt(running), changedAt(position1), changedAt(position2), changedAt(delay),
+                changedAt(acquireLength), signalChangedAt(1), signalChangedAt(2)});
+  return sweep.line == presentLine() && sweep.requested >= since;
 }
 
 Doubt KnownInstrument::doubt(Setting setting) const {

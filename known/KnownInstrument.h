@@ -56,9 +56,11 @@ class KnownInstrument {
   void reading();
   /// A record is requested. The line decides when the request goes out.
   void requested();
-  /// A record of a channel, requested at that moment, has brought a new sweep. The second one under
-  /// the same settings proves that an instrument runs that was taken to be stopped.
+  /// A record of a channel, requested at that moment, has brought a new sweep. Three in a row under
+  /// the same settings prove that an instrument runs that was taken to be stopped.
   void swept(int channel, Moment requested);
+  /// A record of the channel is the one before the last again: the last was damaged.
+  void cameBack(int channel);
 
   /// Called after each of these.
   std::function<void()> changed;
@@ -133,8 +135,9 @@ class KnownInstrument {
     /// The newest request that brought a new sweep; that of each channel, and its line.
     Moment sweptAt = 0;
     std::array<Swept, 2> swept;
-    /// Of those that came while the instrument was taken to be stopped.
+    /// Of those that came while the instrument was taken to be stopped, and how many there were.
     std::array<Swept, 2> sweptBehindStop;
+    std::array<int, 2> inARow{};
     /// The settings under which a stopped instrument made the records that it sends.
     std::array<Told, 2> atStop;
   };
@@ -171,6 +174,8 @@ class KnownInstrument {
   Told toldAt(int channel, Moment moment) const;
   MadeUnder sureOf(const Told& told) const;
   Moment sweptSince(int channel) const;
+  void sweptBehindStop(int channel, Moment requested);
+  bool isOfNow(const Swept& sweep) const;
   void tell() const {
     if (changed) changed();
   }

@@ -6,7 +6,7 @@
 
 namespace tracewell {
 
-/// A line to an instrument: the port's number, and how often a line had been opened or lost.
+/// A line to an instrument: the port's number, and how often a line had been opened or closed.
 /// Another instrument may be on it each time.
 struct InstrumentLine {
   std::int16_t portNumber = -1;

@@ -16,11 +16,13 @@ bool takeRecord(ChannelRecord& held, const std::string& bytes, const RecordArriv
   // On another line the same bytes may be of the same sweep, too.
   if (held.bytes == bytes)
     made = whicheverHolds(made, held.madeUnder);
+  else if (held.before == bytes)
+    known.cameBack(arrival.channel);
   else
     known.swept(arrival.channel, arrival.requested);
-  // It has proved that the instrument runs.
+  // The record has disproved the stop.
   if (made.stop && !known.isStopped()) made = known.madeUnder(arrival.channel, arrival.requested);
-  held = {bytes, arrival.line, made, arrival.now, arrival.now};
+  held = {bytes, arrival.line, made, arrival.now, arrival.now, std::move(held.bytes)};
   return true;
 }
 

@@ -161,7 +161,7 @@ void RecordingRun::arrived(const LineRecord& fetched) {
   const int channel = fetched.channel;
   ChannelRecord& record = records_[static_cast<std::size_t>(channel - 1)];
   const RecordArrival arrival{channel, line(), fetched.stamp, now};
-  if (!takeRecord(record, fetched.bytes, arrival, known_)) return tellSame(record);
+  if (!takeRecord(record, fetched.bytes, arrival, known_)) return tellSame();
   if (isComplete(channel)) return;
   try {
     take(channel, record);
@@ -175,16 +175,19 @@ void RecordingRun::arrived(const LineRecord& fetched) {
 void RecordingRun::take(int channel, const ChannelRecord& record) {
   const OwnMeasurements values = measure(record, records_[channel == 1 ? 1 : 0]);
   isLimitPassed_ = isLimitPassed_ || !options_.columns.passed(values).empty();
-  if (options_.columns.isUnchecked(values)) ++uncheckedRows_;
+  if (!options_.columns.areDecided(values)) ++undecidedRows_;
   isSameTold_ = false;
   output_.take(channel, record, values, wallTimeNow(), clock_.milliseconds());
   ++countOf(channel);
   tellProgress(channel, values);
 }
 
-/// An instrument may wait for its trigger for hours.
-void RecordingRun::tellSame(const ChannelRecord& record) {
-  if (record.fetchedAt - record.sweepAt < options_.patience || std::exchange(isSameTold_, true))
+/// An instrument may wait for its trigger for hours. One channel may be flat while the other
+/// sweeps.
+void RecordingRun::tellSame() {
+  std::int64_t newest = 0;
+  for (const ChannelRecord& record : records_) newest = std::max(newest, record.sweepAt);
+  if (clock_.milliseconds() - newest < options_.patience || std::exchange(isSameTold_, true))
     return;
   told_.message(
       "The same sweep again and again: the instrument is stopped or waits for its trigger");
@@ -240,9 +243,8 @@ void RecordingRun::end(RecorderEnd how) {
     told_.message(output_.trouble().value_or("Not all has been written"));
     how = RecorderEnd::notWritten;
   }
-  if (uncheckedRows_ > 0)
-    told_.message("Rows not held against every limit, for want of a value: " +
-                  std::to_string(uncheckedRows_));
+  if (undecidedRows_ > 0)
+    told_.message("Rows for which a limit could not be decided: " + std::to_string(undecidedRows_));
   if (how == RecorderEnd::done && isLimitPassed_) how = RecorderEnd::limitPassed;
   told_.ended(how);
 }

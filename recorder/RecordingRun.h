@@ -61,7 +61,7 @@ class RecordingRun {
   void ask(const std::string& query);
   void arrived(const LineRecord& fetched);
   void take(int channel, const ChannelRecord& record);
-  void tellSame(const ChannelRecord& record);
+  void tellSame();
   void failed(const std::string& why);
   void tellTrouble();
   void tellProgress(int channel, const OwnMeasurements& values);
@@ -97,7 +97,7 @@ class RecordingRun {
   /// The opening of the line on which the scales were read; none if they are to be read again.
   std::optional<int> readOn_;
   bool isLimitPassed_ = false;
-  int uncheckedRows_ = 0;
+  int undecidedRows_ = 0;
   bool isSameTold_ = false;
   bool isLocked_ = false;
   bool isOver_ = false;

@@ -11,15 +11,18 @@
 
 namespace tracewell {
 
-std::optional<double> MeasurementLimit::toldBy(const OwnMeasurements& values) const {
+bool MeasurementLimit::isPassed(const OwnMeasurements& values) const {
   const OwnValue& own = values[quantity];
-  if (own.value) return own.value;
-  return isUpper ? own.atLeast : own.atMost;
+  const auto& bound = isUpper ? own.atLeast : own.atMost;
+  const auto& told = own.value ? own.value : bound;
+  return told && (isUpper ? *told > value : *told < value);
 }
 
-bool MeasurementLimit::isPassed(const OwnMeasurements& values) const {
-  const std::optional<double> told = toldBy(values);
-  return told && (isUpper ? *told > value : *told < value);
+bool MeasurementLimit::isDecided(const OwnMeasurements& values) const {
+  const OwnValue& own = values[quantity];
+  const bool isRuledOut =
+      isUpper ? own.atMost && *own.atMost <= value : own.atLeast && *own.atLeast >= value;
+  return own.value || isRuledOut || isPassed(values);
 }
 
 /// None for what is no number, or larger than one can be.
@@ -102,9 +105,9 @@ std::string MeasurementColumns::passed(const OwnMeasurements& values) const {
   return text;
 }
 
-bool MeasurementColumns::isUnchecked(const OwnMeasurements& values) const {
-  return std::ranges::any_of(
-      limits, [&values](const MeasurementLimit& limit) { return !limit.toldBy(values); });
+bool MeasurementColumns::areDecided(const OwnMeasurements& values) const {
+  return std::ranges::all_of(
+      limits, [&values](const MeasurementLimit& limit) { return limit.isDecided(values); });
 }
 
 }  // namespace tracewell

@@ -20,9 +20,10 @@ struct MeasurementLimit {
   /// As it is written into rows.
   std::string text;
 
-  /// What is held against it: the value, or where there is none its bound, as of a clipped maximum.
-  std::optional<double> toldBy(const OwnMeasurements& values) const;
+  /// Where there is no value, its bounds decide: a clipped maximum above the limit passes it.
   bool isPassed(const OwnMeasurements& values) const;
+  /// Otherwise it may be passed or not.
+  bool isDecided(const OwnMeasurements& values) const;
 };
 
 /// A short name, "<" or ">", and a number or one with its unit: "vpp > 1.2", "freq<1 kHz". None for
@@ -49,8 +50,8 @@ struct MeasurementColumns {
   bool isRow(std::string_view line) const;
   /// The limits passed, "; " between them.
   std::string passed(const OwnMeasurements& values) const;
-  /// For some limit there is no value: it may be passed or not.
-  bool isUnchecked(const OwnMeasurements& values) const;
+  /// All limits are decided.
+  bool areDecided(const OwnMeasurements& values) const;
 };
 
 }  // namespace tracewell

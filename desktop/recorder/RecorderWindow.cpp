@@ -49,7 +49,7 @@ void describe(QWidget& widget, const QString& text) {
   if (widget.accessibleDescription() != text) widget.setAccessibleDescription(text);
 }
 
-/// Nor is a list filled again that stays as it is.
+/// A reader hears of each entry, too.
 void fill(QComboBox& box, const QStringList& entries, const QVariantList& numbers) {
   bool isSame = box.count() == entries.size();
   for (int i = 0; isSame && i < box.count(); ++i)
@@ -275,14 +275,11 @@ void RecorderWindow::showAll() {
 }
 
 /// The number of those that are kept goes on counting, and the newest is another one all the time:
-/// neither is told.
+/// neither is told, but both can be asked for.
 void RecorderWindow::tellStrip(std::optional<RecordStore::Number> pointed) {
-  const bool isSame = !view_.isFollowing() && pointed == told_;
+  setWords(*strip_, toQt(view_.title()));
+  if (!view_.isFollowing() && pointed != told_) tellWords(*strip_);
   told_ = view_.isFollowing() ? std::nullopt : pointed;
-  if (view_.isFollowing())
-    describe(*strip_, panelText("Goes with the newest record (F)"));
-  else if (!isSame)
-    describe(*strip_, toQt(view_.title()));
 }
 
 void RecorderWindow::measureSome() {
@@ -412,7 +409,6 @@ void RecorderWindow::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
   if (event->type() == QEvent::LanguageChange) {
     texts_.sayAgain();
-    told_.reset();
     // What it says of the past cannot be said again.
     say({});
     bar_->sayAgain();

@@ -108,6 +108,11 @@ TEST_F(AccessibilityTest, WhatChangesIsTold) {
   EXPECT_EQ(heard, (Lines{"knobTime: 2", "knobTime: 2q is no value", "knobTime: 2q is no value",
                           "knobTime: 5 s"}));
   heard.clear();
+  for (const auto key : {Qt::Key_Period, Qt::Key_5, Qt::Key_Return})
+    QTest::keyClick(find("knobTime"), key, Qt::NoModifier);
+  heard.resize(4);
+  EXPECT_EQ(heard, (Lines{"knobTime: .", "knobTime: .5", "knobTime = 25", "knobTime: 500 ms"}));
+  heard.clear();
   main.slideTime.drag(1.5);
   EXPECT_EQ(heard, (Lines{"slideTime = 1.5", "slideTime: 1.50 Div"}));
   heard.clear();

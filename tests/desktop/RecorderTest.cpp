@@ -57,6 +57,9 @@ class RecorderWindowTest : public testing::Test {
     if (found == nullptr) throw std::runtime_error(name);
     return *found;
   }
+  static QString described(QWidget& part) {
+    return QAccessible::queryAccessibleInterface(&part)->text(QAccessible::Description);
+  }
   void choose(const char* box, int index) {
     find<QComboBox>(box).setCurrentIndex(index);
     QApplication::processEvents();
@@ -87,6 +90,7 @@ TEST_F(RecorderWindowTest, TellsAReaderWhatItsPartsAreAndOfChangesAlone) {
   window->view().step(-1);
   waitForRecords(6);
   EXPECT_EQ(told, Lines{"recordStrip"});
+  EXPECT_EQ(fromQt(described(find<QWidget>("recordStrip"))), window->view().title());
 }
 
 TEST_F(RecorderWindowTest, KeepsFollowsStepsPinsShowsLogsAndExports) {
@@ -168,7 +172,7 @@ TEST_F(RecorderWindowTest, KeepsFollowsStepsPinsShowsLogsAndExports) {
   EXPECT_TRUE(QTest::qWaitFor([&] {
     return find<QWidget>("recorderGraph").accessibleDescription().contains("= 1.40 ms");
   }));
-  EXPECT_EQ(strip.accessibleDescription(), find<QLabel>("title").text());
+  EXPECT_EQ(described(strip), find<QLabel>("title").text());
   choose("mode", 2);
   const auto picture = view.picture();
   ASSERT_FALSE(picture.labels.empty());

@@ -221,6 +221,11 @@ TEST_F(RecorderViewTest, WhatIsClippedHasNoLevelsAndPassesALimitOnlyWhereThatIsS
     EXPECT_TRUE(limitOf(text)->isPassed(own)) << text;
   for (const char* const text : {"vpp > 7 V", "vpp < 9 V", "max < 9 V", "min > -9 V", "rms > 0 V"})
     EXPECT_FALSE(limitOf(text)->isPassed(own)) << text;
+  for (const auto& [text, isDecided] : {std::pair("max > 2 V", true),
+                                        {"max > 9 V", false},
+                                        {"max < 1 V", true},
+                                        {"freq > 1 Hz", true}})
+    EXPECT_EQ(limitOf(text)->isDecided(own), isDecided) << text;
   EXPECT_EQ(value(Quantity::minimum), "clipped");
 }
 

@@ -77,7 +77,7 @@ class RecorderTest(unittest.TestCase):
         self.assertEqual(self.record(*options)[0], 0)
         self.assertEqual(len((self.folder / "log.csv").read_text().splitlines()), 3)
         self.assertEqual(self.record(*options, "--limit", "phase > 1")[::2],
-                         (0, "tracewell-record: Rows not held against every limit, for want of a value: 1\n"))
+                         (0, "tracewell-record: Rows for which a limit could not be decided: 1\n"))
         rows = list(csv.reader((self.folder / "samples.csv").read_text().splitlines()))
         self.assertEqual(rows[0], ["Time (s)", "CH1 (V)"])
         self.assertEqual(len(rows), 501)
@@ -121,13 +121,14 @@ print(json.dumps([table.to_dict("list"), log["max (V)"][0], str(log["time"].dtyp
         tty.setraw(far)
         (self.ports / "com7").symlink_to(os.ttyname(far))
         lines = []
+        values = iter(range(1, 100))
         replies = {b":CHAN1:SCAL?": b"500.0 mV\n", b":CHAN2:SCAL?": b"1.000 V\n", b":TIM:SCAL?": b"1.000 ms\n"}
 
         def serve():
             with open(end, "r+b", buffering=0) as line:
                 for asked in line:
                     lines.append(asked.strip())
-                    sweep = bytes([0, len(lines)] * 500)
+                    sweep = bytes([0, next(values, 100)] * 500)
                     os.write(end, replies.get(lines[-1], b"a header of 14" + sweep if b"POIN" in asked else b""))
 
         threading.Thread(target=serve, daemon=True).start()
@@ -143,6 +144,11 @@ print(json.dumps([table.to_dict("list"), log["max (V)"][0], str(log["time"].dtyp
             self.assertEqual(lines[:3], list(replies))
             self.assertEqual(set(lines[3:-1]), {b":ACQ1:POIN"})
             self.assertEqual(lines[-1], b":SYST:UNL")
+        values = iter(())
+        program = self.begin("--interval", "0.1", "--patience", "0.5", "--count", "5")
+        self.assertIn("The same sweep again and again", program.stderr.readline())
+        program.send_signal(signal.SIGINT)
+        self.assertEqual((program.communicate(timeout=10)[1], program.returncode), ("", 6))
 
     def test_what_is_wrong_shows_in_the_status(self):
         files = ("--csv", "log.csv", "--samples", "samples.csv")

@@ -125,6 +125,7 @@ TEST_F(FilesTest, LimitIsExact) {
     writeWholeFile(file, text);
     EXPECT_EQ(readWholeFile(file, size), text);
     EXPECT_NE(errorOf([&] { readWholeFile(file, size - 1); }), "");
+    EXPECT_EQ(errorOf([&] { checkReadable(file, text, size); }), "");
     EXPECT_TRUE(readFileEnd(file, size).isWhole());
     EXPECT_EQ(readFileEnd(file, size - 1).bytes, text.substr(1));
     EXPECT_FALSE(readFileEnd(file, size - 1).isWhole());
