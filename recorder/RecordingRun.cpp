@@ -124,27 +124,35 @@ void RecordingRun::readScales() {
   known_.reading();
   for (const auto& [query, setting] : scales) {
     try {
-      ask(query);
+      ask(query, setting);
     } catch (const Error& error) {
       if (error.number() != portReadTimeOut || setting == Setting::scale1) throw;
     }
-    const Doubt doubt = known_.doubt(setting);
-    if (doubt != Doubt::none && doubt != Doubt::unsureAnswer)
+    if (!isTold(setting))
       told_.message(std::string(query) + " has no answer: what depends on it has no value");
   }
   readOn_ = port_.openings();
 }
 
-/// Once again where the reply is blank or does not come.
-void RecordingRun::ask(const std::string& query) {
+/// Surely or not.
+bool RecordingRun::isTold(Setting scale) const {
+  const Doubt doubt = known_.doubt(scale);
+  return doubt == Doubt::none || doubt == Doubt::unsureAnswer;
+}
+
+/// Once again where the reply is blank, or no scale, or does not come.
+void RecordingRun::ask(const std::string& query, Setting scale) {
   constexpr int tries = 2;
   for (int i = 1; i <= tries; ++i) {
     isLocked_ = true;
     try {
       const std::string line = port_.query(query + "\r\n", SerialPort::defaultReadTimeOut);
       const std::string_view reply = trimBlanks(std::string_view(line).substr(0, line.find('\n')));
-      if (!reply.empty()) return known_.answered(query, reply, port_.lastReply());
-      known_.notAnswered(query);
+      if (reply.empty())
+        known_.notAnswered(query);
+      else
+        known_.answered(query, reply, port_.lastReply());
+      if (isTold(scale)) return;
     } catch (const Error& error) {
       known_.notAnswered(query);
       if (error.number() != portReadTimeOut || i == tries) throw;

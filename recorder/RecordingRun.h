@@ -58,7 +58,8 @@ class RecordingRun {
   void request(std::int64_t now);
   void readScales();
   bool isScaleWrong() const;
-  void ask(const std::string& query);
+  bool isTold(Setting scale) const;
+  void ask(const std::string& query, Setting scale);
   void arrived(const LineRecord& fetched);
   void take(int channel, const ChannelRecord& record);
   void tellSame();

@@ -122,6 +122,7 @@ print(json.dumps([table.to_dict("list"), log["max (V)"][0], str(log["time"].dtyp
         (self.ports / "com7").symlink_to(os.ttyname(far))
         lines = []
         values = iter(range(1, 100))
+        damaged = iter(())
         replies = {b":CHAN1:SCAL?": b"500.0 mV\n", b":CHAN2:SCAL?": b"1.000 V\n", b":TIM:SCAL?": b"1.000 ms\n"}
 
         def serve():
@@ -129,7 +130,8 @@ print(json.dumps([table.to_dict("list"), log["max (V)"][0], str(log["time"].dtyp
                 for asked in line:
                     lines.append(asked.strip())
                     sweep = bytes([0, next(values, 100)] * 500)
-                    os.write(end, replies.get(lines[-1], b"a header of 14" + sweep if b"POIN" in asked else b""))
+                    answer = b"a header of 14" + sweep if b"POIN" in asked else replies.get(lines[-1], b"")
+                    os.write(end, next(damaged, answer) if b"SCAL" in asked else answer)
 
         threading.Thread(target=serve, daemon=True).start()
         for options, expected in (((), 0), (("--count", "99"), 6)):
@@ -144,11 +146,13 @@ print(json.dumps([table.to_dict("list"), log["max (V)"][0], str(log["time"].dtyp
             self.assertEqual(lines[:3], list(replies))
             self.assertEqual(set(lines[3:-1]), {b":ACQ1:POIN"})
             self.assertEqual(lines[-1], b":SYST:UNL")
-        values = iter(())
+        values, damaged = iter(()), iter((b"50.0 mV\n",))
         program = self.begin("--interval", "0.1", "--patience", "0.5", "--count", "5")
         self.assertIn("The same sweep again and again", program.stderr.readline())
         program.send_signal(signal.SIGINT)
-        self.assertEqual((program.communicate(timeout=10)[1], program.returncode), ("", 6))
+        rows, said = program.communicate(timeout=10)
+        self.assertEqual((said, program.returncode), ("", 6))
+        self.assertTrue(rows.splitlines()[1].split(",")[2])
 
     def test_what_is_wrong_shows_in_the_status(self):
         files = ("--csv", "log.csv", "--samples", "samples.csv")
