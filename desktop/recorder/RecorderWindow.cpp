@@ -44,12 +44,7 @@ std::string nameOf(const RecordStore& store, RecordStore::Number number) {
   return name == own ? own : own + " " + name;
 }
 
-/// A reader hears of each description that is set, changed or not.
-void describe(QWidget& widget, const QString& text) {
-  if (widget.accessibleDescription() != text) widget.setAccessibleDescription(text);
-}
-
-/// A reader hears of each entry, too.
+/// Whoever listens hears of each entry.
 void fill(QComboBox& box, const QStringList& entries, const QVariantList& numbers) {
   bool isSame = box.count() == entries.size();
   for (int i = 0; isSame && i < box.count(); ++i)
@@ -259,10 +254,7 @@ void RecorderWindow::showAll() {
   const RecorderPicture picture = view_.picture();
   const auto texts = cursorTexts(cursors_, picture, channel);
   graph_->showPicture(picture, cursors_, texts);
-  QString said;
-  for (const auto* list : {&texts, &picture.notes})
-    for (const std::string& text : *list) said += toQt(text) + QStringLiteral(". ");
-  describe(*graph_, said.trimmed());
+  tellGraph(texts, picture);
   tellStrip(pointed);
   strip_->update();
   bar_->showState();
@@ -272,6 +264,20 @@ void RecorderWindow::showAll() {
   for (QPushButton* button : {pin_, showInPanel_, copy_, save_, export_})
     button->setEnabled(pointed.has_value());
   measuring_.start(betweenMeasuring);
+}
+
+/// What changes with each record can be asked for, and is not told.
+void RecorderWindow::tellGraph(const std::vector<std::string>& cursors,
+                               const RecorderPicture& picture) {
+  QStringList said;
+  for (const auto* list : {&cursors, &picture.notes})
+    for (const std::string& text : *list) said << toQt(text);
+  for (const RecorderPicture::Label& label : picture.labels)
+    said << toQt(label.text).replace(QLatin1Char('\n'), QLatin1Char(' '));
+  if (said == toldOfGraph_) return;
+  toldOfGraph_ = said;
+  setWords(*graph_, said.join(QStringLiteral(". ")));
+  if (!view_.isFollowing()) tellWords(*graph_);
 }
 
 /// The number of those that are kept goes on counting, and the newest is another one all the time:

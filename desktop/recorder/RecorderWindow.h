@@ -54,6 +54,7 @@ class RecorderWindow : public QWidget {
   /// All that shows has changed; painted once an event-loop turn.
   void showSoon();
   void showAll();
+  void tellGraph(const std::vector<std::string>& cursors, const RecorderPicture& picture);
   void tellStrip(std::optional<RecordStore::Number> pointed);
   void showPins();
   void showLog();
@@ -92,6 +93,7 @@ class RecorderWindow : public QWidget {
   QTimer measuring_;
   QTimer everySecond_;
   bool isShowDue_ = false;
+  QStringList toldOfGraph_;
   /// The record that the strip has told of.
   std::optional<RecordStore::Number> told_;
 };
