@@ -15,6 +15,7 @@
 #include "SavedRecords.h"
 #include "ShownText.h"
 #include "WaveformSetWriter.h"
+#include "WrittenScales.h"
 
 namespace tracewell {
 namespace {
@@ -110,6 +111,11 @@ QString saveAsSet(Recorder& recorder, const RecorderView& view, const RecorderLo
     if (view.shownOf(channel) && !numbers.at(static_cast<std::size_t>(channel - 1)))
       text +=
           QStringLiteral(". ") + panelText("Without CH%1, which is of another sweep").arg(channel);
+  // The set carries the panel's positions.
+  for (const Channel& channel : recorder.main().channels)
+    if (numbers.at(channel.index()) && (channel.slide.isUnread() || channel.slide.isStale()))
+      text += QStringLiteral(". ") +
+              shownText(positionNotKnown(services.words, channel.slide), roomOfLine);
   return text;
 }
 

@@ -153,6 +153,13 @@ TEST_F(RecorderWindowTest, KeepsFollowsStepsPinsShowsLogsAndExports) {
 
   // What is saved can be loaded, and lies where the record lies already.
   window->saveSetInto(folder.path() / "set.png");
+  EXPECT_FALSE(find<QLabel>("recorderStatus").text().contains("not known"));
+  desktop.program.main.channels[0].slide.trust = [] { return Trust::unread; };
+  window->saveSetInto(folder.path() / "set.png");
+  EXPECT_TRUE(find<QLabel>("recorderStatus")
+                  .text()
+                  .contains("Channel One Position: not known whether recorded at"))
+      << fromQt(find<QLabel>("recorderStatus").text());
   frmLoad& load = desktop.program.loadWindow;
   load.load();
   load.formActivate.raise();

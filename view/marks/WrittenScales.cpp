@@ -75,6 +75,12 @@ std::string sentence(const Words& words, const Written& written) {
   return words.say("%1: recorded at %2, not at %3", {written.name, written.made, written.caption});
 }
 
+Written writtenPosition(const Slide& slide) {
+  const std::string& caption = slide.caption();
+  return {std::string(trimBlanks(caption.substr(0, caption.find(':')))),
+          numberText(slide.value()) + " Div", ""};
+}
+
 bool isOfTrace(const ValueLabel& label, std::string_view unit, std::optional<double> made) {
   return made && trueScale(label.caption(), unit) == made;
 }
@@ -145,10 +151,9 @@ void addPositions(Sentences& sentences, const frmDSO& main) {
                        {other.name, numberText(other.drawn), numberText(other.written)});
     });
   const auto addUnknown = [&](const Slide& slide) {
-    const std::string& caption = slide.caption();
-    const std::string name(trimBlanks(caption.substr(0, caption.find(':'))));
-    const Written unknown{name, numberText(slide.value()) + " Div", ""};
-    sentences.push_back([unknown](const Words& words) { return sentence(words, unknown); });
+    sentences.push_back([unknown = writtenPosition(slide)](const Words& words) {
+      return sentence(words, unknown);
+    });
   };
   for (const Channel& channel : main.channels) {
     // Where the scale is another one, that has been said, and the position is in doubt for it.
@@ -190,6 +195,10 @@ Sentences scales(const frmDSO& main, int plots = ScopeGraph::plotCount) {
 }
 
 }  // namespace
+
+std::string positionNotKnown(const Words& words, const Slide& slide) {
+  return sentence(words, writtenPosition(slide));
+}
 
 StatusLine::Sentence scalesNotOfTraces(const frmDSO& main) {
   return joined(scales(main));

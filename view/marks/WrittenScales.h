@@ -18,4 +18,8 @@ StatusLine::Sentence pageNotOfTraces(const frmDSO& main, int plots);
 /// than the instrument's. And of its data, which are empty if a ticked channel has no whole record.
 StatusLine::Sentence setNotOfTraces(const frmDSO& main);
 
+/// The sentence of a set about a position or delay of which it is not known whether it is the
+/// instrument's.
+std::string positionNotKnown(const Words& words, const Slide& slide);
+
 }  // namespace tracewell
