@@ -66,7 +66,7 @@ void Conversation::command(std::string_view line, bool isAnswered) {
 std::string Conversation::ask(std::string_view query, int timeOut) {
   makeReadyToAsk(timeOut);
   // At rest, nothing more of one comes.
-  if (state_ == State::idle) isBehindRecord_ = false;
+  if (state_ == State::idle) outstanding_.heardOther();
   send(query);
   askedAt_ = clock_.milliseconds();
   ++unanswered_;
@@ -76,7 +76,7 @@ std::string Conversation::ask(std::string_view query, int timeOut) {
     std::string reply = awaitReply(askedAt_ + timeOut);
     unanswered_ = 0;
     // Unless it may be that to an earlier query, all that was requested before has come.
-    if (!replies_.isDue(askedAt_)) owedBytes_ = 0;
+    if (!replies_.isDue(askedAt_)) outstanding_.clear();
     state_ = State::idle;
     replies_.returned(askedAt_, clock_.milliseconds());
     account_.gaveAnswer();
@@ -120,8 +120,8 @@ void Conversation::close() {
 void Conversation::forget() {
   state_ = State::idle;
   unanswered_ = 0;
-  owedBytes_ = 0;
-  isBehindRecord_ = false;
+  outstanding_.clear();
+  outstanding_.heardOther();
   isStray_ = false;
   replies_.beginAnew();
   account_.beginAnew();
@@ -189,8 +189,8 @@ void Conversation::hearRecord(const std::string& bytes) {
   if (record_.bytes.size() < record_.count) return restUntilMoreHasCome();
   const std::string behind = record_.bytes.substr(record_.count);
   record_.bytes.resize(record_.count);
-  isBehindRecord_ = true;
-  if (owedBytes_ > 0) return refuseRecord(behind);
+  outstanding_.heardRecord();
+  if (outstanding_.areAny()) return refuseRecord(behind);
   state_ = State::recordHeard;
   behind_.clear();
   clock_.callAfter(settlingTime(), [this, alive = std::weak_ptr(alive_)] {
@@ -250,7 +250,7 @@ void Conversation::hearLines(std::string_view bytes, std::int64_t since) {
   const std::int64_t now = clock_.milliseconds();
   state_ = State::draining;
   heardAt_ = now;
-  if (!bytes.empty()) isBehindRecord_ = false;
+  if (!bytes.empty()) outstanding_.heardOther();
   int unasked = 0;
   for (const char byte : bytes) {
     const bool isBehindALine = now < lineEndAt_ + settling;
@@ -268,32 +268,24 @@ void Conversation::hearLines(std::string_view bytes, std::int64_t since) {
 
 /// Bytes that no query waits for belong to outstanding records first, then to lines.
 void Conversation::hearOwed(std::string_view bytes) {
-  if (state_ == State::idle && owedBytes_ == 0 && isBlank(bytes)) return;
-  const auto ownEndTaken = [this](std::string_view rest) {
-    return isBehindRecord_ ? withoutRecordEnd(rest) : rest;
-  };
-  bytes = ownEndTaken(bytes);
+  if (state_ == State::idle && !outstanding_.areAny() && isBlank(bytes)) return;
   bytes.remove_prefix(payWith(bytes));
-  hearLines(ownEndTaken(bytes), clock_.milliseconds());
+  hearLines(bytes, clock_.milliseconds());
 }
 
 /// Takes outstanding records off the front of the bytes. Returns how many bytes these had.
 std::size_t Conversation::payWith(std::string_view bytes) {
-  const std::size_t paid = std::min(owedBytes_, bytes.size());
-  if (paid == 0) return 0;
+  const OutstandingRecords::Taken taken = outstanding_.take(bytes);
+  if (!taken.haveSamples) return taken.bytes;
   replies_.mayHaveHeardMissing(askedAt_);
-  const auto records = [this] { return (owedBytes_ + record_.count - 1) / record_.count; };
-  const std::size_t before = records();
-  owedBytes_ -= paid;
   isOwedComing_ = true;
-  isBehindRecord_ = owedBytes_ % record_.count == 0;
   drainTime_ = std::max(drainTime_, recordDrain);
-  for (std::size_t i = records(); i < before; ++i) account_.heardLateRecord(clock_.milliseconds());
-  return paid;
+  for (std::size_t i = 0; i < taken.whole; ++i) account_.heardLateRecord(clock_.milliseconds());
+  return taken.bytes;
 }
 
 void Conversation::owe() {
-  owedBytes_ += record_.count;
+  outstanding_.add(record_.count);
   isOwedComing_ = false;
 }
 
@@ -302,7 +294,7 @@ std::int64_t Conversation::trustedAt() const {
   const std::int64_t quietSince = std::max(askedAt_, heardAt_);
   if (state_ == State::recordAwaited) return quietSince + longestThought;
   if (state_ == State::recordHeard) return heardAt_ + settlingTime();
-  const bool isAllThere = unanswered_ == 0 && owedBytes_ == 0 && !isStray_;
+  const bool isAllThere = unanswered_ == 0 && !outstanding_.areAny() && !isStray_;
   return quietSince + (isAllThere ? settling : drainTime_);
 }
 
@@ -324,7 +316,7 @@ void Conversation::review() {
   }
   const bool isOwedOver = isOwedComing_ && now >= std::max(askedAt_, heardAt_) + recordDrain;
   if (state_ == State::draining && isOwedOver) {
-    owedBytes_ = 0;
+    outstanding_.clear();
     isOwedComing_ = false;
   }
   // A query sent while the record arrived is answered after it.
@@ -396,7 +388,7 @@ std::string Conversation::awaitReply(std::int64_t deadline) {
 /// reply is not one. While a record is outstanding, bytes as long as a record begin with it.
 std::string Conversation::onlyLine(std::string received, std::size_t length) {
   const std::int64_t until = clock_.milliseconds() + settlingTime();
-  const bool hasRecord = owedBytes_ > 0 && length >= record_.count;
+  const bool hasRecord = outstanding_.areAny() && length >= record_.count;
   const auto isAlone = [&] {
     return unanswered_ == 1 && !hasRecord && isBlank(std::string_view(received).substr(length));
   };

@@ -15,6 +15,7 @@
 #include "EventDispatcher.h"
 #include "LineAccount.h"
 #include "LineRecord.h"
+#include "OutstandingRecords.h"
 #include "StandBy.h"
 #include "SureReplies.h"
 
@@ -165,14 +166,10 @@ class Conversation {
   bool isWanted_ = false;
   /// The first blanks and line ends that have arrived behind it.
   std::string behind_;
-  /// Nothing but blanks and line ends has arrived since the last byte of a record, also of one that
-  /// was given up.
-  bool isBehindRecord_ = false;
   /// A record that is whole and not delivered yet.
   std::optional<LineRecord> whole_;
-  /// Bytes of records that were given up and may still arrive, and whether any has arrived since
-  /// the last of them was given up.
-  std::size_t owedBytes_ = 0;
+  /// Records that were given up, and whether any byte of them has arrived since the last one was.
+  OutstandingRecords outstanding_;
   bool isOwedComing_ = false;
   /// Requests that wait for the line, the oldest first.
   std::deque<LineRecord> held_;

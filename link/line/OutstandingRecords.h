@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstddef>
+#include <deque>
+#include <string_view>
+
+namespace tracewell {
+
+/// The records that were given up and may still arrive. It tells which of the bytes that nobody
+/// waits for are theirs.
+///
+/// Behind each record may stand a line end of its own. While another one is outstanding that is at
+/// most CR LF, for what follows are samples. Behind the last one it is any number of blanks
+/// and line ends, as the record may have been shifted.
+class OutstandingRecords {
+ public:
+  struct Taken {
+    /// How many bytes at the front are theirs, line ends included.
+    std::size_t bytes = 0;
+    /// Some of these are samples, and so many records became whole.
+    bool haveSamples = false;
+    std::size_t whole = 0;
+  };
+
+  bool areAny() const { return !missing_.empty(); }
+  /// How many bytes of the first one are missing; 0 if there is none.
+  std::size_t missingOfFirst() const { return missing_.empty() ? 0 : missing_.front(); }
+
+  /// A record of `count` bytes, more than none, was given up.
+  void add(std::size_t count) { missing_.push_back(count); }
+  /// None of them will arrive.
+  void clear() { missing_.clear(); }
+  /// The last byte of a record has arrived, or bytes that are no record's.
+  void heardRecord();
+  void heardOther() { isBehindRecord_ = false; }
+
+  /// Takes off the front of `bytes` what is theirs.
+  Taken take(std::string_view bytes);
+
+ private:
+  std::size_t ownEndOf(std::string_view bytes) const;
+
+  /// Bytes that are missing of each, the first that was requested first.
+  std::deque<std::size_t> missing_;
+  /// No more than line ends and blanks have arrived since the last byte of a record, and how many.
+  bool isBehindRecord_ = false;
+  std::size_t endBytes_ = 0;
+};
+
+}  // namespace tracewell
