@@ -19,8 +19,9 @@ struct ChannelRecord {
   /// bytes again are the same sweep.
   std::int64_t sweepAt = 0;
   std::int64_t fetchedAt = 0;
-  /// What was received before these bytes.
+  /// What was received before these bytes, and how that was made.
   std::string before = "";
+  MadeUnder beforeMadeUnder = {};
 
   bool isSameSweep(const std::string& others, const InstrumentLine& othersLine) const {
     return bytes == others && line == othersLine;

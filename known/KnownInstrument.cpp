@@ -229,32 +229,22 @@ void KnownInstrument::reading() {
   tell();
 }
 
-/// A stopped instrument keeps one sweep, not two. With other settings it may show that one
-/// differently.
-void KnownInstrument::swept(int channel, Moment requested) {
-  if (requested < changedAt(running)) return;
-  if (isStopped()) return sweptBehindStop(channel, requested);
-  Swept& last = here().swept[static_cast<std::size_t>(channel - 1)];
-  if (mayBeStopped() && isOfNow(last)) take(running, {runningState});
-  last = {presentLine(), requested};
-  here().sweptAt = std::max(here().sweptAt, requested);
-}
-
-/// Of three one may be damaged; the next is the one before it again then.
-void KnownInstrument::sweptBehindStop(int channel, Moment requested) {
+/// A stopped instrument keeps one sweep. It may sweep once more as it is stopped, and one of three
+/// records may be damaged.
+bool KnownInstrument::swept(int channel, Moment requested) {
   constexpr int proof = 3;
-  const auto place = static_cast<std::size_t>(channel - 1);
-  Swept& last = here().sweptBehindStop[place];
-  int& inARow = here().inARow[place];
-  inARow = isOfNow(last) ? inARow + 1 : 1;
-  last = {presentLine(), requested};
-  if (inARow < proof) return;
-  take(running, {runningState});
-  here().sweptAt = std::max(here().sweptAt, requested);
+  if (requested < changedAt(running)) return false;
+  const Moment since = std::min(requested, sweptSince(channel, requested));
+  Swept& last = sweptLast(channel);
+  last = {presentLine(), requested, isOfNow(last) ? last.inARow + 1 : 1};
+  const bool isProof = last.inARow >= proof && (isStopped() || mayBeStopped());
+  if (isProof) take(running, {runningState});
+  if (!isStopped()) here().sweptAt = std::max(here().sweptAt, since);
+  return isProof;
 }
 
 void KnownInstrument::cameBack(int channel) {
-  here().inARow[static_cast<std::size_t>(channel - 1)] = 1;
+  sweptLast(channel).inARow = 1;
 }
 
 /// Since it was requested nothing has changed that a sweep shows. Math shows both channels.
@@ -402,11 +392,13 @@ KnownInstrument::Told KnownInstrument::toldAt(int channel, Moment moment) const 
   return at;
 }
 
-/// The moment since when a new sweep is certain: a free-running instrument has swept after the
-/// request, one that waits for its trigger after the sweep before.
-KnownInstrument::Moment KnownInstrument::sweptSince(int channel) const {
-  if (!mayBeMode([](double mode) { return mode >= normalMode; })) return now_;
+/// The moment since when a new sweep is certain that was requested then: a free-running instrument
+/// has swept after the request, one that waits for its trigger after the sweep before.
+KnownInstrument::Moment KnownInstrument::sweptSince(int channel, Moment requested) const {
+  const bool mayHaveWaited = changedAt(triggerMode) > requested ||
+                             mayBeMode([](double mode) { return mode >= normalMode; });
   const Swept& last = here().swept[static_cast<std::size_t>(channel - 1)];
+  if (!mayHaveWaited) return now_;
   return last.line == presentLine() ? last.requested : 0;
 }
 
@@ -414,7 +406,8 @@ MadeUnder KnownInstrument::madeUnder(int channel, Moment requested) const {
   MadeUnder frozen = sureOf(here().atStop[static_cast<std::size_t>(channel - 1)]);
   if (isStopped() && changedAt(running) <= requested) frozen.stop = changedAt(running);
   if (isStopped()) return frozen;
-  const MadeUnder present = sureOf(toldAt(channel, std::min(requested, sweptSince(channel))));
+  const MadeUnder present =
+      sureOf(toldAt(channel, std::min(requested, sweptSince(channel, requested))));
   const bool isEither = changedAt(running) > requested || mayBeStopped();
   return isEither ? whicheverHolds(frozen, present) : present;
 }

@@ -57,8 +57,9 @@ class KnownInstrument {
   /// A record is requested. The line decides when the request goes out.
   void requested();
   /// A record of a channel, requested at that moment, has brought a new sweep. Three in a row under
-  /// the same settings prove that an instrument runs that was taken to be stopped.
-  void swept(int channel, Moment requested);
+  /// the same settings prove that an instrument runs that was, or may have been, stopped: true
+  /// then, and the record was made under the present settings.
+  bool swept(int channel, Moment requested);
   /// A record of the channel is the one before the last again: the last was damaged.
   void cameBack(int channel);
 
@@ -122,6 +123,8 @@ class KnownInstrument {
   struct Swept {
     Line line;
     Moment requested = 0;
+    /// How many have come one behind another under the same settings.
+    int inARow = 0;
   };
   /// What was told behind one port. Whatever happens behind another, it may still be so.
   struct BehindPort {
@@ -132,12 +135,10 @@ class KnownInstrument {
     bool isMathDoubted = false;
     /// Something may have set the trigger to any mode.
     bool isModeOpen = false;
-    /// The newest request that brought a new sweep; that of each channel, and its line.
+    /// Since when a sweep has come for certain, of whichever channel.
     Moment sweptAt = 0;
+    /// The last new sweep of each channel.
     std::array<Swept, 2> swept;
-    /// Of those that came while the instrument was taken to be stopped, and how many there were.
-    std::array<Swept, 2> sweptBehindStop;
-    std::array<int, 2> inARow{};
     /// The settings under which a stopped instrument made the records that it sends.
     std::array<Told, 2> atStop;
   };
@@ -173,8 +174,8 @@ class KnownInstrument {
   bool mayBeStopped() const;
   Told toldAt(int channel, Moment moment) const;
   MadeUnder sureOf(const Told& told) const;
-  Moment sweptSince(int channel) const;
-  void sweptBehindStop(int channel, Moment requested);
+  Moment sweptSince(int channel, Moment requested) const;
+  Swept& sweptLast(int channel) { return here().swept[static_cast<std::size_t>(channel - 1)]; }
   bool isOfNow(const Swept& sweep) const;
   void tell() const {
     if (changed) changed();

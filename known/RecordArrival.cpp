@@ -14,15 +14,15 @@ bool takeRecord(ChannelRecord& held, const std::string& bytes, const RecordArriv
     return false;
   }
   // On another line the same bytes may be of the same sweep, too.
-  if (held.bytes == bytes)
+  if (held.bytes == bytes) {
     made = whicheverHolds(made, held.madeUnder);
-  else if (held.before == bytes)
+  } else if (held.before == bytes) {
+    made = whicheverHolds(made, held.beforeMadeUnder);
     known.cameBack(arrival.channel);
-  else
-    known.swept(arrival.channel, arrival.requested);
-  // The record has disproved the stop.
-  if (made.stop && !known.isStopped()) made = known.madeUnder(arrival.channel, arrival.requested);
-  held = {bytes, arrival.line, made, arrival.now, arrival.now, std::move(held.bytes)};
+  } else if (known.swept(arrival.channel, arrival.requested)) {
+    made = known.madeUnder(arrival.channel, arrival.requested);
+  }
+  held = {bytes, arrival.line, made, arrival.now, arrival.now, held.bytes, held.madeUnder};
   return true;
 }
 
