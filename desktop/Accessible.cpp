@@ -260,6 +260,12 @@ void tellWords(QWidget& widget) {
   if (isHeard()) tell(widget, QAccessible::DescriptionChanged);
 }
 
+void tellTips(QWidget& form) {
+  if (!isHeard()) return;
+  for (QWidget* part : form.findChildren<QWidget*>())
+    if (!part->toolTip().isEmpty()) tell(*part, QAccessible::DescriptionChanged);
+}
+
 void tellName(QWidget& label) {
   if (isHeard() && !label.accessibleName().isEmpty()) tell(label, QAccessible::NameChanged);
 }

@@ -26,6 +26,9 @@ void tellValue(QWidget& widget);
 /// The same of the words for a value or a state.
 void tellWords(QWidget& widget);
 
+/// The same of everything on a form whose description is a tip: these are in another language.
+void tellTips(QWidget& form);
+
 /// The same of the name of a label, which holds its text.
 void tellName(QWidget& label);
 

@@ -9,8 +9,10 @@
 #include <QRadioButton>
 #include <QScreen>
 #include <QShortcut>
+#include <QTimer>
 #include <algorithm>
 
+#include "Accessible.h"
 #include "Binder.h"
 #include "Control.h"
 #include "DesktopWords.h"
@@ -98,7 +100,7 @@ class DesktopWindows::Form : public QObject {
   QDialog& dialog() { return *qobject_cast<QDialog*>(widget_.get()); }
 
   bool eventFilter(QObject*, QEvent* event) override {
-    if (event->type() == QEvent::LanguageChange) sayInLanguage(*widget_);
+    if (event->type() == QEvent::LanguageChange) sayAgain();
     const bool isEscape = event->type() == QEvent::KeyPress && !isMain() &&
                           static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape;
     if (!isEscape && event->type() != QEvent::Close) return false;
@@ -114,6 +116,12 @@ class DesktopWindows::Form : public QObject {
 
  private:
   QMainWindow* mainWindow() const { return qobject_cast<QMainWindow*>(widget_.get()); }
+
+  /// The parts of the form are told of the language behind this.
+  void sayAgain() {
+    sayInLanguage(*widget_);
+    QTimer::singleShot(0, this, [this] { tellTips(*widget_); });
+  }
 
   /// The captions of the menus come from files and name no keys.
   void reachMenusByKey() {

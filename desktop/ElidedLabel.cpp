@@ -90,7 +90,18 @@ bool ElidedLabel::isCut() const {
   return QFontMetrics(fontThatFits()).horizontalAdvance(text()) > room;
 }
 
-QRect ElidedLabel::paintSentence(QPainter& painter, const Sentence& sentence, QRect room) const {
+int ElidedLabel::keptFor(std::size_t done) const {
+  const int least = 10 * fontMetrics().averageCharWidth();
+  int width = 0;
+  for (; done < sentences_.size(); ++done)
+    if (sentences_[done].isWarning)
+      width += gapWidth() + signWidth() +
+               std::min(least, fontMetrics().horizontalAdvance(sentences_[done].text));
+  return width;
+}
+
+QRect ElidedLabel::paintSentence(QPainter& painter, const Sentence& sentence, QRect room,
+                                 int kept) const {
   const qreal side = fontMetrics().ascent() * 1.15;
   // Of a sentence a few letters at least.
   const bool isRoom = room.width() > 3 * signWidth();
@@ -100,10 +111,10 @@ QRect ElidedLabel::paintSentence(QPainter& painter, const Sentence& sentence, QR
     room.setLeft(room.left() + signWidth());
   }
   const QString all = isRoom ? sentence.text : QString(QChar(0x2026));
-  const QString line = fontMetrics().elidedText(all, Qt::ElideRight, room.width());
+  const QString line = fontMetrics().elidedText(all, Qt::ElideRight, room.width() - kept);
   painter.setPen(sentence.isWarning ? warningColour_ : palette().color(QPalette::WindowText));
   painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, line);
-  if (line != sentence.text) return {};
+  if (line != sentence.text && kept == 0) return {};
   room.setLeft(room.left() + fontMetrics().horizontalAdvance(line) + gapWidth());
   return room;
 }
@@ -117,9 +128,13 @@ void ElidedLabel::paintEvent(QPaintEvent*) {
     const QString line = painter.fontMetrics().elidedText(text(), Qt::ElideRight, room.width());
     painter.drawText(room, static_cast<int>(alignment()) | Qt::TextSingleLine, line);
   }
-  for (const Sentence& sentence : sentences_) {
-    if (sentence.text.isEmpty() || room.isEmpty()) return;
-    room = paintSentence(painter, sentence, room);
+  for (std::size_t i = 0; i < sentences_.size(); ++i) {
+    if (sentences_[i].text.isEmpty() || room.isEmpty()) return;
+    const int kept = keptFor(i + 1);
+    const bool isRoom = room.width() >= kept + 2 * signWidth();
+    // Of several that are cut, the warnings alone are left.
+    if (!isRoom && !sentences_[i].isWarning && kept > 0) continue;
+    room = paintSentence(painter, sentences_[i], room, isRoom ? kept : 0);
   }
 }
 

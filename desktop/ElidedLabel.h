@@ -30,7 +30,7 @@ class ElidedLabel : public QLabel {
   /// However much the others in the row have to say, sentences have some room.
   QSize minimumSizeHint() const override;
   /// Together they are the label's text. They are painted from the left, the first one before the
-  /// others.
+  /// others; where there is no room for all, a warning keeps its sign and some letters.
   void setSentences(const std::vector<Sentence>& sentences);
   /// Part of the text does not show.
   bool isCut() const;
@@ -46,8 +46,10 @@ class ElidedLabel : public QLabel {
   /// Each sentence on lines of its own.
   QString wholeText() const;
   QFont fontThatFits() const;
-  /// Returns what is left of the room; none where the sentence was cut.
-  QRect paintSentence(QPainter& painter, const Sentence& sentence, QRect room) const;
+  /// What the warnings among the last sentences need at least, `done` being those in front.
+  int keptFor(std::size_t done) const;
+  /// Returns what is left of the room; none where the sentence was cut for want of it.
+  QRect paintSentence(QPainter& painter, const Sentence& sentence, QRect room, int kept) const;
 
   std::vector<Sentence> sentences_;
   QColor warningColour_;

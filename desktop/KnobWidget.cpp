@@ -64,7 +64,7 @@ void KnobWidget::setValue(double value) {
 QString KnobWidget::inWords() const {
   if (!typed_.isEmpty()) {
     const bool isBegun = std::ranges::any_of(typed_, [](QChar c) { return c.isDigit(); });
-    const bool isWrong = isBegun && !typedValue(typed_, unit_);
+    const bool isWrong = (isBegun || isRefused_) && !typedValue(typed_, unit_);
     return isWrong ? panelText("%1 is no value").arg(typed_) : typed_;
   }
   const KnobValue value = captionValue(captions_[value_]);
@@ -282,6 +282,7 @@ void KnobWidget::wheelEvent(QWheelEvent* event) {
 void KnobWidget::setTyped(const QString& typed) {
   if (typed == typed_) return;
   typed_ = typed;
+  isRefused_ = false;
   update();
   tellWords(*this);
 }
@@ -302,6 +303,7 @@ bool KnobWidget::takeTyped(const QKeyEvent& event) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
       if (!typed) {
+        isRefused_ = true;
         tellWords(*this);
         return true;
       }

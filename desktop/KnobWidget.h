@@ -102,6 +102,7 @@ class KnobWidget : public QWidget {
   /// The typed text, shown on the cap until Enter takes it or the user gives it up. Enter does
   /// nothing while it is no value.
   QString typed_;
+  bool isRefused_ = false;
   WheelTravel wheel_;
   /// State of a drag: its first detent, the last angle, and degrees turned to the right.
   int draggedFrom_ = 0;

@@ -148,6 +148,9 @@ class frmDSO : public Window {
   /// Number of the message that stands on each of these captions; 0 while it is the caption file's.
   /// Kept through app/window/ConnectionIndicator.h.
   struct ShownMessages {
+    /// With these the start button starts, and Run/Stop runs the instrument.
+    static constexpr std::size_t start = 3;
+    static constexpr std::size_t run = 5;
     std::size_t lblConnect = 0;
     std::size_t cmdStart = 0;
     std::size_t cmdRunStop = 0;

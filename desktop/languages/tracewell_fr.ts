@@ -524,8 +524,8 @@
         <translation>Vider</translation>
     </message>
     <message>
-        <source>Click or drag: a record. Shift + drag: a stretch. Wheel: zoom. Arrow keys, Page Up and Down, Home, End: step. Dotted line: a gap</source>
-        <translation>Clic ou glisser : un enregistrement. Maj + glisser : une plage. Molette : zoom. Flèches, Page préc. et suiv., Début, Fin : pas à pas. Pointillé : une lacune</translation>
+        <source>Click or drag: a record. Shift + drag: a stretch, Esc: none. Wheel: zoom. Arrow keys, Page Up and Down, Home, End: step. Dotted line: a gap</source>
+        <translation>Clic ou glisser : un enregistrement. Maj + glisser : une plage, Échap : aucune. Molette : zoom. Flèches, Page préc. et suiv., Début, Fin : pas à pas. Pointillé : une lacune</translation>
     </message>
     <message>
         <source>Close</source>
@@ -706,6 +706,10 @@
     <message>
         <source>Export</source>
         <translation>Exporter</translation>
+    </message>
+    <message>
+        <source>Export stretch…</source>
+        <translation>Exporter la plage…</translation>
     </message>
     <message>
         <source>Export…</source>
@@ -1582,6 +1586,10 @@
     <message>
         <source>The instrument is stopped: press %1</source>
         <translation>L'appareil est arrêté : appuyez sur %1</translation>
+    </message>
+    <message>
+        <source>The instrument is stopped: press %1 twice</source>
+        <translation>L'appareil est arrêté : appuyez deux fois sur %1</translation>
     </message>
     <message>
         <source>The instrument may have another value</source>

@@ -524,8 +524,8 @@
         <translation>Очистить</translation>
     </message>
     <message>
-        <source>Click or drag: a record. Shift + drag: a stretch. Wheel: zoom. Arrow keys, Page Up and Down, Home, End: step. Dotted line: a gap</source>
-        <translation>Щелчок или перетаскивание: запись. Shift + перетаскивание: участок. Колесо: масштаб. Стрелки, Page Up и Down, Home, End: шаг. Пунктир: разрыв</translation>
+        <source>Click or drag: a record. Shift + drag: a stretch, Esc: none. Wheel: zoom. Arrow keys, Page Up and Down, Home, End: step. Dotted line: a gap</source>
+        <translation>Щелчок или перетаскивание: запись. Shift + перетаскивание: участок, Esc: снять. Колесо: масштаб. Стрелки, Page Up и Down, Home, End: шаг. Пунктир: разрыв</translation>
     </message>
     <message>
         <source>Close</source>
@@ -706,6 +706,10 @@
     <message>
         <source>Export</source>
         <translation>Экспорт</translation>
+    </message>
+    <message>
+        <source>Export stretch…</source>
+        <translation>Экспорт участка…</translation>
     </message>
     <message>
         <source>Export…</source>
@@ -1582,6 +1586,10 @@
     <message>
         <source>The instrument is stopped: press %1</source>
         <translation>Прибор остановлен: нажмите %1</translation>
+    </message>
+    <message>
+        <source>The instrument is stopped: press %1 twice</source>
+        <translation>Прибор остановлен: дважды нажмите %1</translation>
     </message>
     <message>
         <source>The instrument may have another value</source>

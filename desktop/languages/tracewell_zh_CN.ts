@@ -524,8 +524,8 @@
         <translation>清空</translation>
     </message>
     <message>
-        <source>Click or drag: a record. Shift + drag: a stretch. Wheel: zoom. Arrow keys, Page Up and Down, Home, End: step. Dotted line: a gap</source>
-        <translation>单击或拖动：选记录。Shift+拖动：选区段。滚轮：缩放。方向键、Page Up/Down、Home、End：逐条移动。虚线：中断</translation>
+        <source>Click or drag: a record. Shift + drag: a stretch, Esc: none. Wheel: zoom. Arrow keys, Page Up and Down, Home, End: step. Dotted line: a gap</source>
+        <translation>单击或拖动：选记录。Shift+拖动：选区段，Esc：取消区段。滚轮：缩放。方向键、Page Up/Down、Home、End：逐条移动。虚线：中断</translation>
     </message>
     <message>
         <source>Close</source>
@@ -706,6 +706,10 @@
     <message>
         <source>Export</source>
         <translation>导出</translation>
+    </message>
+    <message>
+        <source>Export stretch…</source>
+        <translation>导出区段…</translation>
     </message>
     <message>
         <source>Export…</source>
@@ -1582,6 +1586,10 @@
     <message>
         <source>The instrument is stopped: press %1</source>
         <translation>仪器已停止：按 %1</translation>
+    </message>
+    <message>
+        <source>The instrument is stopped: press %1 twice</source>
+        <translation>仪器已停止：按两次 %1</translation>
     </message>
     <message>
         <source>The instrument may have another value</source>

@@ -524,8 +524,8 @@
         <translation>清空</translation>
     </message>
     <message>
-        <source>Click or drag: a record. Shift + drag: a stretch. Wheel: zoom. Arrow keys, Page Up and Down, Home, End: step. Dotted line: a gap</source>
-        <translation>撳或者拖：揀記錄。Shift+拖：揀區段。滾輪：縮放。方向鍵、Page Up/Down、Home、End：逐條移動。虛線：中斷</translation>
+        <source>Click or drag: a record. Shift + drag: a stretch, Esc: none. Wheel: zoom. Arrow keys, Page Up and Down, Home, End: step. Dotted line: a gap</source>
+        <translation>撳或者拖：揀記錄。Shift+拖：揀區段，Esc：取消區段。滾輪：縮放。方向鍵、Page Up/Down、Home、End：逐條移動。虛線：中斷</translation>
     </message>
     <message>
         <source>Close</source>
@@ -706,6 +706,10 @@
     <message>
         <source>Export</source>
         <translation>匯出</translation>
+    </message>
+    <message>
+        <source>Export stretch…</source>
+        <translation>匯出區段…</translation>
     </message>
     <message>
         <source>Export…</source>
@@ -1582,6 +1586,10 @@
     <message>
         <source>The instrument is stopped: press %1</source>
         <translation>儀器停咗：撳 %1</translation>
+    </message>
+    <message>
+        <source>The instrument is stopped: press %1 twice</source>
+        <translation>儀器停咗：撳兩下 %1</translation>
     </message>
     <message>
         <source>The instrument may have another value</source>

@@ -223,6 +223,10 @@ void RecordStrip::keyPressEvent(QKeyEvent* event) {
     if (isMarking && !anchor_) anchor_ = before;
     if (isMarking && anchor_ && view_.selected()) view_.mark(*anchor_, *view_.selected());
     emit used();
+  } else if (event->key() == Qt::Key_Escape && view_.isMarked()) {
+    view_.unmark();
+    anchor_.reset();
+    emit used();
   } else if (event->key() == Qt::Key_Plus || event->key() == Qt::Key_Minus) {
     const auto pointed = view_.selected();
     const double share =

@@ -188,8 +188,8 @@ void RecorderWindow::sayTexts() {
     graph_->setAccessibleName(panelText("Graph of the record"));
     strip_->setAccessibleName(panelText("Records along time"));
     strip_->setToolTip(
-        panelText("Click or drag: a record. Shift + drag: a stretch. Wheel: zoom. Arrow keys, Page "
-                  "Up and Down, Home, End: step. Dotted line: a gap"));
+        panelText("Click or drag: a record. Shift + drag: a stretch, Esc: none. Wheel: zoom. Arrow "
+                  "keys, Page Up and Down, Home, End: step. Dotted line: a gap"));
     pinName_->setPlaceholderText(panelText("Name"));
     pinName_->setAccessibleName(panelText("Name of the pinned record"));
     pins_->setAccessibleName(panelText("Pinned records"));
@@ -203,14 +203,19 @@ void RecorderWindow::sayTexts() {
     save_->setToolTip(
         panelText("Saves this record as a waveform set, which Load in the panel shows (Ctrl+S)"));
     save_->setShortcut(QKeySequence::Save);
-    export_->setText(panelText("Export…"));
+    sayExport();
     export_->setToolTip(panelText(
         "Writes the marked stretch, else this record, as CSV in volts and seconds (Ctrl+E)"));
-    export_->setShortcut(Qt::CTRL | Qt::Key_E);
     log_->setText(panelText("Log"));
     log_->setToolTip(panelText("Measurements of each record into a file, for hours (Ctrl+L)"));
     log_->setShortcut(Qt::CTRL | Qt::Key_L);
   });
+}
+
+/// The stretch may be out of sight.
+void RecorderWindow::sayExport() {
+  export_->setText(view_.isMarked() ? panelText("Export stretch…") : panelText("Export…"));
+  export_->setShortcut(Qt::CTRL | Qt::Key_E);
 }
 
 RecorderLook RecorderWindow::look() const {
@@ -260,6 +265,7 @@ void RecorderWindow::showAll() {
   bar_->showState();
   tables_->showState();
   showPins();
+  sayExport();
   showLog();
   for (QPushButton* button : {pin_, showInPanel_, copy_, save_, export_})
     button->setEnabled(pointed.has_value());
@@ -420,6 +426,7 @@ void RecorderWindow::changeEvent(QEvent* event) {
     bar_->sayAgain();
     tables_->sayAgain();
     logBar_->sayAgain();
+    tellTips(*this);
     showSoon();
   }
   if (event->type() == QEvent::PaletteChange) showSoon();

@@ -48,6 +48,7 @@ class RecorderWindow : public QWidget {
   QPushButton* addButton(QLayout& row, const char* name);
   void connectParts();
   void sayTexts();
+  void sayExport();
   RecorderLook look() const;
   void takeLook();
   void goOn();

@@ -108,6 +108,11 @@ TEST_F(AccessibilityTest, WhatChangesIsTold) {
   EXPECT_EQ(heard, (Lines{"knobTime: 2", "knobTime: 2q is no value", "knobTime: 2q is no value",
                           "knobTime: 5 s"}));
   heard.clear();
+  for (const auto key : {Qt::Key_Period, Qt::Key_Return, Qt::Key_5, Qt::Key_Escape})
+    QTest::keyClick(find("knobTime"), key, Qt::NoModifier);
+  EXPECT_EQ(heard,
+            (Lines{"knobTime: .", "knobTime: . is no value", "knobTime: .5", "knobTime: 5 s"}));
+  heard.clear();
   for (const auto key : {Qt::Key_Period, Qt::Key_5, Qt::Key_Return})
     QTest::keyClick(find("knobTime"), key, Qt::NoModifier);
   heard.resize(4);

@@ -312,6 +312,12 @@ TEST_F(LookTest, SentencesFollowEachOtherWithTheSignsOfTheirWeight) {
     expectDrawn(line, "sentences in " + std::to_string(width));
     EXPECT_EQ(tip(), width == 300 ? QString() : wholeTip);
   }
+  // A warning behind others keeps its sign.
+  line.setSentences({{QStringLiteral("wwww wwww"), false},
+                     {QStringLiteral("wwww"), false},
+                     {QStringLiteral("wwww wwww"), true}});
+  line.resize(150, 20);
+  expectDrawn(line, "warning behind others");
   line.setSentences({{QStringLiteral("www <w> ").repeated(100), true}});
   tip();
   for (const QWidget* shown : QApplication::topLevelWidgets()) {

@@ -83,7 +83,9 @@ TEST_F(RecorderWindowTest, TellsAReaderWhatItsPartsAreAndOfChangesAlone) {
   Lines told;
   const Listener listener([&](QAccessibleEvent& event) {
     const std::string name = fromQt(event.object()->objectName());
-    if (name == "recorderGraph" || name == "recordStrip" || name == "pins") told.push_back(name);
+    const bool isOfPanel = name == "cmdStart" && event.type() == QAccessible::DescriptionChanged;
+    if (isOfPanel || name == "recorderGraph" || name == "recordStrip" || name == "pins")
+      told.push_back(name);
   });
   waitForRecords(5);
   EXPECT_EQ(told, Lines());
@@ -91,6 +93,11 @@ TEST_F(RecorderWindowTest, TellsAReaderWhatItsPartsAreAndOfChangesAlone) {
   waitForRecords(6);
   EXPECT_EQ(told, Lines{"recordStrip"});
   EXPECT_EQ(fromQt(described(find<QWidget>("recordStrip"))), window->view().title());
+  // In another language all is described anew.
+  told.clear();
+  desktop.program.languageMenu.mnbLA_Click(3);
+  for (const char* const part : {"cmdStart", "recordStrip"})
+    EXPECT_TRUE(QTest::qWaitFor([&] { return std::ranges::count(told, part) > 0; })) << part;
 }
 
 TEST_F(RecorderWindowTest, KeepsFollowsStepsPinsShowsLogsAndExports) {
@@ -207,6 +214,13 @@ TEST_F(RecorderWindowTest, KeepsFollowsStepsPinsShowsLogsAndExports) {
   EXPECT_THROW(window->exportInto(folder.path() / "part.csv"), Error);
   setrlimit(RLIMIT_FSIZE, &before);
   EXPECT_EQ(lines("part.csv"), 1 + 500 * (exported.end - exported.first));
+
+  QApplication::processEvents();
+  EXPECT_EQ(find<QPushButton>("export").text(), QStringLiteral("Export stretch…"));
+  QTest::keyClick(&strip, Qt::Key_Escape);
+  QApplication::processEvents();
+  EXPECT_FALSE(view.isMarked());
+  EXPECT_EQ(find<QPushButton>("export").text(), QStringLiteral("Export…"));
 
   auto& bar = find<RecorderLogBar>("logBar");
   find<QPushButton>("log").click();

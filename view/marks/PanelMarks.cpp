@@ -27,9 +27,6 @@ Trust trustOf(const KnownInstrument& known, Setting setting, bool isShown) {
   }
 }
 
-/// The button says what it would do next; its caption of the start says nothing of the instrument.
-constexpr std::size_t runMessage = 5;
-
 }  // namespace
 
 PanelMarks::PanelMarks(frmDSO& main) : main_(main) {
@@ -48,8 +45,9 @@ PanelMarks::PanelMarks(frmDSO& main) : main_(main) {
   trust(main.cbMath, math, [&main] { return main.known.number(math) == main.cbMath.listIndex(); });
   trust(main.cmdLock, lock,
         [&main] { return (main.known.number(lock) == 1) == main.cmdLock.value(); });
+  // The button says what it would do next; its caption of the start says nothing of the instrument.
   trust(main.cmdRunStop, running, [&main] {
-    return main.known.isStopped() == (main.shownMessages.cmdRunStop == runMessage);
+    return main.known.isStopped() == (main.shownMessages.cmdRunStop == frmDSO::ShownMessages::run);
   });
   main.cmdRunStop.trust = [&main, asked = main.cmdRunStop.trust] {
     return main.shownMessages.cmdRunStop == 0 ? Trust::holds : asked();

@@ -12,9 +12,6 @@ namespace {
 /// A signal of the usual kind has changed by then. Milliseconds.
 constexpr std::int64_t longUnchanged = 10000;
 
-/// With this caption the start button says what it does.
-constexpr std::size_t startMessage = 3;
-
 template <class Condition>
 const Channel* firstTrace(const frmDSO& main, Condition condition) {
   for (const Channel& channel : main.channels)
@@ -99,11 +96,16 @@ std::string notice(const frmDSO& main, const Words& words) {
   if (!main.tmDSO.enabled()) {
     if (!hasTraces) return "";
     // The button may still read "Stop"; its key starts the traces all the same.
-    const bool readsStart = main.shownMessages.cmdStart == startMessage;
+    const bool readsStart = main.shownMessages.cmdStart == frmDSO::ShownMessages::start;
     return words.say("Stopped: press %1 to go on", {readsStart ? main.cmdStart.caption() : "F5"});
   }
-  if (main.known.isStopped())
-    return words.say("The instrument is stopped: press %1", {main.cmdRunStop.caption()});
+  if (main.known.isStopped()) {
+    // A stop that was typed leaves the button as it was: pressed once, it stops again.
+    const std::string button = main.cmdRunStop.caption();
+    return main.shownMessages.cmdRunStop == frmDSO::ShownMessages::run
+               ? words.say("The instrument is stopped: press %1", {button})
+               : words.say("The instrument is stopped: press %1 twice", {button});
+  }
   const std::int64_t now = main.services().clock.milliseconds();
   const Channel* const still = firstTrace(main, [&](const Channel& channel) {
     const ChannelRecord& record = channel.record;
