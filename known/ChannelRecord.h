@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "MadeUnder.h"
@@ -19,6 +20,8 @@ struct ChannelRecord {
   /// bytes again are the same sweep.
   std::int64_t sweepAt = 0;
   std::int64_t fetchedAt = 0;
+  /// The stop that this sweep has disproved: what was fetched behind it is of several sweeps.
+  std::optional<std::int64_t> disprovedStop = {};
   /// What was received before these bytes, and how that was made.
   std::string before = "";
   MadeUnder beforeMadeUnder = {};

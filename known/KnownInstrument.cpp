@@ -404,7 +404,9 @@ KnownInstrument::Moment KnownInstrument::sweptSince(int channel, Moment requeste
 
 MadeUnder KnownInstrument::madeUnder(int channel, Moment requested) const {
   MadeUnder frozen = sureOf(here().atStop[static_cast<std::size_t>(channel - 1)]);
-  if (isStopped() && changedAt(running) <= requested) frozen.stop = changedAt(running);
+  const Moment stoppedAt = changedAt(running);
+  if (isStopped() && stoppedAt <= requested && here().severalBehind != stoppedAt)
+    frozen.stop = stoppedAt;
   if (isStopped()) return frozen;
   const MadeUnder present =
       sureOf(toldAt(channel, std::min(requested, sweptSince(channel, requested))));

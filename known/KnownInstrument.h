@@ -60,6 +60,9 @@ class KnownInstrument {
   /// the same settings prove that an instrument runs that was, or may have been, stopped: true
   /// then, and the record was made under the present settings.
   bool swept(int channel, Moment requested);
+  /// Two sweeps of a channel were fetched behind the present stop: what is fetched is of one sweep
+  /// no longer.
+  void sweptTwiceBehindStop() { here().severalBehind = changedAt(Setting::running); }
   /// A record of the channel is the one before the last again: the last was damaged.
   void cameBack(int channel);
 
@@ -139,6 +142,8 @@ class KnownInstrument {
     Moment sweptAt = 0;
     /// The last new sweep of each channel.
     std::array<Swept, 2> swept;
+    /// The stop behind which there were several sweeps.
+    std::optional<Moment> severalBehind;
     /// The settings under which a stopped instrument made the records that it sends.
     std::array<Told, 2> atStop;
   };

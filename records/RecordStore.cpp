@@ -60,6 +60,7 @@ std::optional<RecordStore::Number> RecordStore::keep(int channel, const ChannelR
     ++before->fetches;
     return newest;
   }
+  if (record.disprovedStop) disprove(*record.disprovedStop, record.line);
   RecordFacts facts;
   facts.channel = channel;
   facts.line = record.line;
@@ -78,6 +79,14 @@ std::optional<RecordStore::Number> RecordStore::keep(int channel, const ChannelR
   newest_.at(static_cast<std::size_t>(channel - 1)) = end_++;
   forgetOldest();
   return end_ - 1;
+}
+
+void RecordStore::disprove(std::int64_t stop, const InstrumentLine& line) {
+  const auto take = [&](RecordFacts& facts) {
+    if (facts.line == line && facts.madeUnder.stop == stop) facts.madeUnder.stop.reset();
+  };
+  for (Number number = first_; number < end_; ++number) take(slot(number).facts);
+  for (auto& [number, held] : pinned_) take(held.kept.facts);
 }
 
 void RecordStore::forgetOldest() {

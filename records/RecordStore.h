@@ -100,7 +100,7 @@ class RecordStore {
   /// The first whose sweep came at a time of Clock or later; end() if none did.
   Number firstSince(std::int64_t sweepAt) const;
   /// The one of the other channel that is of the same sweep: both were fetched behind the same
-  /// stop. Of several the newest.
+  /// stop, and no other sweep of it was.
   std::optional<Number> partnerOf(Number number) const;
 
   /// Stays whatever comes, until it is let go; another name for one that is pinned renames it.
@@ -131,6 +131,8 @@ class RecordStore {
   std::string bytesOf(Number number) const;
   const std::string& unpacked(Number number) const;
   void forgetOldest();
+  /// What was fetched behind a stop on that line was of several sweeps.
+  void disprove(std::int64_t stop, const InstrumentLine& line);
 
   /// A ring: number n is in place n % capacity.
   std::vector<std::unique_ptr<std::array<Kept, blockSize>>> blocks_;

@@ -112,10 +112,14 @@ QString saveAsSet(Recorder& recorder, const RecorderView& view, const RecorderLo
       text +=
           QStringLiteral(". ") + panelText("Without CH%1, which is of another sweep").arg(channel);
   // The set carries the panel's positions.
-  for (const Channel& channel : recorder.main().channels)
+  const frmDSO& main = recorder.main();
+  const auto sayNotKnown = [&](const Slide& slide) {
+    text += QStringLiteral(". ") + shownText(positionNotKnown(services.words, slide), roomOfLine);
+  };
+  for (const Channel& channel : main.channels)
     if (numbers.at(channel.index()) && (channel.slide.isUnread() || channel.slide.isStale()))
-      text += QStringLiteral(". ") +
-              shownText(positionNotKnown(services.words, channel.slide), roomOfLine);
+      sayNotKnown(channel.slide);
+  if (isDelayInDoubt(main)) sayNotKnown(main.slideTime);
   return text;
 }
 

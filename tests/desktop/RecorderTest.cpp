@@ -161,12 +161,19 @@ TEST_F(RecorderWindowTest, KeepsFollowsStepsPinsShowsLogsAndExports) {
   // What is saved can be loaded, and lies where the record lies already.
   window->saveSetInto(folder.path() / "set.png");
   EXPECT_FALSE(find<QLabel>("recorderStatus").text().contains("not known"));
-  desktop.program.main.channels[0].slide.trust = [] { return Trust::unread; };
+  frmDSO& main = desktop.program.main;
+  main.slideTime.drag(1);
+  main.slideTime.release();
+  for (Slide* slide : {&main.channels[0].slide, &main.slideTime})
+    slide->trust = [] { return Trust::unread; };
   window->saveSetInto(folder.path() / "set.png");
-  EXPECT_TRUE(find<QLabel>("recorderStatus")
-                  .text()
-                  .contains("Channel One Position: not known whether recorded at"))
-      << fromQt(find<QLabel>("recorderStatus").text());
+  for (const char* slide : {"Channel One", "Time"})
+    EXPECT_TRUE(find<QLabel>("recorderStatus")
+                    .text()
+                    .contains(QLatin1String(slide) +
+                              QLatin1String(" Position: not known whether recorded at")))
+        << fromQt(find<QLabel>("recorderStatus").text());
+  main.slideTime.drag(0);
   frmLoad& load = desktop.program.loadWindow;
   load.load();
   load.formActivate.raise();

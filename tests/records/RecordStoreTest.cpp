@@ -114,6 +114,11 @@ TEST_F(RecordStoreTest, RecordsOfOneStopArePartnersAndShareRowsOfTheTable) {
   keep(2, 400, 2500);
   // The fourth record of the channel's, 6.1 s behind its first.
   EXPECT_NE(csv(2).find("\n6.1,4\n6.10002,4.01\n"), std::string::npos);
+  // Another sweep has come behind that stop.
+  store.pin(1, "pinned");
+  next.disprovedStop = 3;
+  keep(2, 500);
+  EXPECT_FALSE(store.partnerOf(0) || store.record(1).madeUnder.stop);
 }
 
 }  // namespace tracewell

@@ -162,9 +162,7 @@ void addPositions(Sentences& sentences, const frmDSO& main) {
     if (hasTrace(channel) && isAtItsScale && !isDrawnAsKnown(main.known, channel))
       addUnknown(channel.slide);
   }
-  // The delay is none of the trace, and perhaps nobody has touched it.
-  const bool isTouched = main.known.doubt(Setting::delay) != Doubt::neverRead;
-  if (isTouched && main.slideTime.trust() != Trust::holds) addUnknown(main.slideTime);
+  if (isDelayInDoubt(main)) addUnknown(main.slideTime);
 }
 
 void addMissingRecords(Sentences& sentences, const frmDSO& main) {
@@ -195,6 +193,12 @@ Sentences scales(const frmDSO& main, int plots = ScopeGraph::plotCount) {
 }
 
 }  // namespace
+
+/// It is none of the trace, and perhaps nobody has touched it.
+bool isDelayInDoubt(const frmDSO& main) {
+  const bool isTouched = main.known.doubt(Setting::delay) != Doubt::neverRead;
+  return isTouched && main.slideTime.trust() != Trust::holds;
+}
 
 std::string positionNotKnown(const Words& words, const Slide& slide) {
   return sentence(words, writtenPosition(slide));

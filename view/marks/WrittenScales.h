@@ -22,4 +22,7 @@ StatusLine::Sentence setNotOfTraces(const frmDSO& main);
 /// instrument's.
 std::string positionNotKnown(const Words& words, const Slide& slide);
 
+/// The delay that is written into sets was touched, and is not known to be the instrument's.
+bool isDelayInDoubt(const frmDSO& main);
+
 }  // namespace tracewell
