@@ -114,7 +114,6 @@ void frmChannel::keepSelected(ControlArray<OptionButton>& options, int column) {
 }
 
 void frmChannel::cmdCancel_Click() {
-  outcome = Outcome::cancelled;
   hide();
 }
 

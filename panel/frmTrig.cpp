@@ -37,10 +37,7 @@ frmTrig::frmTrig(frmDSO& main, CommandExchange& exchange, Acquisition& acquisiti
   for (TextBox& box : txtTrigAdv) unanswered_.watch(box);
   for (ComboBox& box : cbTrig) box.click = [this, &box] { cbTrig_Click(box.index()); };
   cmdOK.click = [this] { cmdOK_Click(); };
-  cmdCancel.click = [this] {
-    outcome = Outcome::cancelled;
-    hide();
-  };
+  cmdCancel.click = [this] { hide(); };
 }
 
 void frmTrig::cmdTrig_Click() {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "WaveformSetWriter.h"
 
+#include <string_view>
+
 #include "Error.h"
 #include "Files.h"
 #include "Numbers.h"
@@ -92,14 +94,17 @@ std::string setWasSaved(const Words& words, const std::filesystem::path& picture
 
 std::string withoutExtension(const std::string& path) {
   constexpr int extensionLength = 4;
-  std::size_t end = path.size();
+  std::string_view left = path;
   for (int i = 0; i < extensionLength; ++i) {
-    if (end == 0) throw invalidCallError();
-    --end;
+    if (left.empty()) throw invalidCallError();
     // A character is one byte and those that continue it.
-    while (end > 0 && (static_cast<unsigned char>(path[end]) & 0xC0) == 0x80) --end;
+    bool continues = true;
+    while (continues && !left.empty()) {
+      continues = (static_cast<unsigned char>(left.back()) & 0xC0) == 0x80;
+      left.remove_suffix(1);
+    }
   }
-  return path.substr(0, end);
+  return std::string(left);
 }
 
 }  // namespace tracewell

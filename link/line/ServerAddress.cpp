@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <memory>
 #include <optional>
 #include <string_view>
 
@@ -28,8 +29,9 @@ bool isHost(std::string_view text) {
 
 std::optional<std::uint16_t> portNumber(std::string_view text) {
   std::uint16_t number = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-  const bool isWhole = error == std::errc() && end == text.data() + text.size();
+  const char* const behind = std::to_address(text.end());
+  const auto [end, error] = std::from_chars(text.data(), behind, number);
+  const bool isWhole = error == std::errc() && end == behind;
   return isWhole && number != 0 ? std::optional(number) : std::nullopt;
 }
 

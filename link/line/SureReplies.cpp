@@ -7,8 +7,8 @@
 namespace tracewell {
 
 Sureness SureReplies::sureness(int reply, std::int64_t now) const {
-  const auto next = std::ranges::upper_bound(doubted_, reply, {}, &Series::first);
-  if (next != doubted_.begin() && reply <= std::prev(next)->last) return Sureness::never;
+  const auto next = doubted_.upper_bound(reply);
+  if (next != doubted_.begin() && reply <= std::prev(next)->second) return Sureness::never;
   return sureAt(now) && reply > missing_->behind ? Sureness::notYet : Sureness::sure;
 }
 
@@ -59,18 +59,18 @@ void SureReplies::heardRecord() {
 /// Each reply behind it is then that to the query before.
 void SureReplies::mayHaveHeardMissing(std::int64_t at) {
   if (!sureAt(at)) return;
-  doubt({missing_->behind + 1, last_});
+  doubtSince(missing_->behind + 1);
   missing_->behind = last_;
 }
 
 void SureReplies::heardUnasked(std::int64_t at) {
   mayHaveHeardMissing(at);
-  if (lastAt_ && at < *lastAt_ + longestThought_) doubt({seriesFrom_, last_});
+  if (lastAt_ && at < *lastAt_ + longestThought_) doubtSince(seriesFrom_);
 }
 
-void SureReplies::doubt(Series replies) {
-  while (!doubted_.empty() && doubted_.back().first >= replies.first) doubted_.pop_back();
-  doubted_.push_back(replies);
+void SureReplies::doubtSince(int first) {
+  doubted_.erase(doubted_.lower_bound(first), doubted_.end());
+  doubted_[first] = last_;
 }
 
 }  // namespace tracewell

@@ -2,8 +2,8 @@
 #pragma once
 
 #include <cstdint>
+#include <map>
 #include <optional>
-#include <vector>
 
 #include "Sureness.h"
 
@@ -62,13 +62,9 @@ class SureReplies {
     /// When the last one was missed.
     std::int64_t lastAt;
   };
-  struct Series {
-    int first;
-    int last;
-  };
 
   std::int64_t dueUntil() const;
-  void doubt(Series replies);
+  void doubtSince(int first);
 
   int longestThought_;
   int last_ = 0;
@@ -76,8 +72,8 @@ class SureReplies {
   /// The first reply of the last series.
   int seriesFrom_ = 0;
   std::optional<Missing> missing_;
-  /// Never sure, in ascending order.
-  std::vector<Series> doubted_;
+  /// The first and the last of each series that is never sure.
+  std::map<int, int> doubted_;
 };
 
 }  // namespace tracewell
