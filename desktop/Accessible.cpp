@@ -260,6 +260,12 @@ void tellWords(QWidget& widget) {
   if (isHeard()) tell(widget, QAccessible::DescriptionChanged);
 }
 
+void setTip(QWidget& widget, const QString& tip) {
+  if (tip == widget.toolTip()) return;
+  widget.setToolTip(tip);
+  tellWords(widget);
+}
+
 void tellTips(QWidget& form) {
   if (!isHeard()) return;
   for (QWidget* part : form.findChildren<QWidget*>())

@@ -36,4 +36,7 @@ void tellName(QWidget& label);
 /// change all the time: they are described and not told.
 void tellGraph(QWidget& graphView);
 
+/// Sets a tip that goes with the state of the widget, and tells it.
+void setTip(QWidget& widget, const QString& tip);
+
 }  // namespace tracewell

@@ -130,11 +130,11 @@ void ElidedLabel::paintEvent(QPaintEvent*) {
   }
   for (std::size_t i = 0; i < sentences_.size(); ++i) {
     if (sentences_[i].text.isEmpty() || room.isEmpty()) return;
-    const int kept = keptFor(i + 1);
-    const bool isRoom = room.width() >= kept + 2 * signWidth();
+    const int own = 2 * signWidth();
+    const int kept = std::min(keptFor(i + 1), std::max(room.width() - own, 0));
     // Of several that are cut, the warnings alone are left.
-    if (!isRoom && !sentences_[i].isWarning && kept > 0) continue;
-    room = paintSentence(painter, sentences_[i], room, isRoom ? kept : 0);
+    if (kept < keptFor(i + 1) && !sentences_[i].isWarning) continue;
+    room = paintSentence(painter, sentences_[i], room, kept);
   }
 }
 

@@ -20,7 +20,7 @@ struct ChannelRecord {
   /// bytes again are the same sweep.
   std::int64_t sweepAt = 0;
   std::int64_t fetchedAt = 0;
-  /// The stop that this sweep has disproved: what was fetched behind it is of several sweeps.
+  /// The stop behind which, as this record has proved, several sweeps were fetched.
   std::optional<std::int64_t> disprovedStop = {};
   /// What was received before these bytes, and how that was made.
   std::string before = "";

@@ -96,7 +96,8 @@ void KnownInstrument::upsetIsOver(std::int16_t port) {
   --there.upsets;
   for (const Setting setting : effectOf({"AUT", "", false}).touches) {
     Entry& doubted = there.entries[static_cast<std::size_t>(setting)];
-    if (doubted.doubt == Doubt::none) doubted.doubt = Doubt::mayHaveChanged;
+    if (doubted.doubt == Doubt::none || doubted.doubt == Doubt::noAnswer)
+      doubted.doubt = Doubt::mayHaveChanged;
     doubted.changedAt = ++now_;
   }
   there.upsetAt = now_;
@@ -229,30 +230,21 @@ void KnownInstrument::reading() {
   tell();
 }
 
-/// A stopped instrument keeps one sweep. It may sweep once more as it is stopped, and one of three
-/// records may be damaged.
-bool KnownInstrument::swept(int channel, Moment requested) {
-  constexpr int proof = 3;
-  if (requested < changedAt(running)) return false;
-  const Moment since = std::min(requested, sweptSince(channel, requested));
-  Swept& last = sweptLast(channel);
-  last = {presentLine(), requested, isOfNow(last) ? last.inARow + 1 : 1};
-  const bool isProof = last.inARow >= proof && (isStopped() || mayBeStopped());
-  if (isProof) take(running, {runningState});
-  if (!isStopped()) here().sweptAt = std::max(here().sweptAt, since);
-  return isProof;
+FetchedSweeps::Proof KnownInstrument::fetched(int channel, Moment requested,
+                                              FetchedSweeps::Bytes bytes) {
+  FetchedSweeps& fetches = here().fetches[static_cast<std::size_t>(channel - 1)];
+  const FetchedSweeps::Proof proof =
+      fetches.take({bytes, presentLine(), requested, shownSince(), changedAt(running), isStopped(),
+                    mayBeStopped(), mayHaveWaited(requested)});
+  if (proof.isStopDisproved) here().disprovedStop = changedAt(running);
+  if (proof.isRunning) take(running, {runningState});
+  return proof;
 }
 
-void KnownInstrument::cameBack(int channel) {
-  sweptLast(channel).inARow = 1;
-}
-
-/// Since it was requested nothing has changed that a sweep shows. Math shows both channels.
-bool KnownInstrument::isOfNow(const Swept& sweep) const {
-  const Moment since =
-      std::max({changedAt(running), changedAt(position1), changedAt(position2), changedAt(delay),
-                changedAt(acquireLength), signalChangedAt(1), signalChangedAt(2)});
-  return sweep.line == presentLine() && sweep.requested >= since;
+/// Math shows both channels.
+KnownInstrument::Moment KnownInstrument::shownSince() const {
+  return std::max({changedAt(position1), changedAt(position2), changedAt(delay),
+                   changedAt(acquireLength), signalChangedAt(1), signalChangedAt(2)});
 }
 
 Doubt KnownInstrument::doubt(Setting setting) const {
@@ -354,7 +346,7 @@ bool KnownInstrument::mayBeStopped() const {
 void KnownInstrument::stop() {
   for (const int channel : {1, 2}) {
     Told& frozen = here().atStop[static_cast<std::size_t>(channel - 1)];
-    Told now = toldAt(channel, here().sweptAt);
+    Told now = toldAt(channel, sweptAt());
     if (mayBeStopped()) {
       now.made = whicheverHolds(frozen.made, now.made);
       now.voltsReplies.merge(frozen.voltsReplies);
@@ -392,21 +384,26 @@ KnownInstrument::Told KnownInstrument::toldAt(int channel, Moment moment) const 
   return at;
 }
 
+bool KnownInstrument::mayHaveWaited(Moment requested) const {
+  return changedAt(triggerMode) > requested ||
+         mayBeMode([](double mode) { return mode >= normalMode; });
+}
+
 /// The moment since when a new sweep is certain that was requested then: a free-running instrument
 /// has swept after the request, one that waits for its trigger after the sweep before.
 KnownInstrument::Moment KnownInstrument::sweptSince(int channel, Moment requested) const {
-  const bool mayHaveWaited = changedAt(triggerMode) > requested ||
-                             mayBeMode([](double mode) { return mode >= normalMode; });
-  const Swept& last = here().swept[static_cast<std::size_t>(channel - 1)];
-  if (!mayHaveWaited) return now_;
-  return last.line == presentLine() ? last.requested : 0;
+  const FetchedSweeps& fetches = here().fetches[static_cast<std::size_t>(channel - 1)];
+  return mayHaveWaited(requested) ? fetches.lastOn(presentLine()) : now_;
+}
+
+KnownInstrument::Moment KnownInstrument::sweptAt() const {
+  return std::max(here().fetches[0].since(), here().fetches[1].since());
 }
 
 MadeUnder KnownInstrument::madeUnder(int channel, Moment requested) const {
   MadeUnder frozen = sureOf(here().atStop[static_cast<std::size_t>(channel - 1)]);
-  const Moment stoppedAt = changedAt(running);
-  if (isStopped() && stoppedAt <= requested && here().severalBehind != stoppedAt)
-    frozen.stop = stoppedAt;
+  if (isStopped() && changedAt(running) <= requested) frozen.stop = changedAt(running);
+  frozen.isOther = here().disprovedStop == changedAt(running);
   if (isStopped()) return frozen;
   const MadeUnder present =
       sureOf(toldAt(channel, std::min(requested, sweptSince(channel, requested))));

@@ -10,6 +10,7 @@
 #include <string>
 #include <string_view>
 
+#include "FetchedSweeps.h"
 #include "MadeUnder.h"
 #include "Setting.h"
 #include "Sureness.h"
@@ -56,15 +57,9 @@ class KnownInstrument {
   void reading();
   /// A record is requested. The line decides when the request goes out.
   void requested();
-  /// A record of a channel, requested at that moment, has brought a new sweep. Three in a row under
-  /// the same settings prove that an instrument runs that was, or may have been, stopped: true
-  /// then, and the record was made under the present settings.
-  bool swept(int channel, Moment requested);
-  /// Two sweeps of a channel were fetched behind the present stop: what is fetched is of one sweep
-  /// no longer.
-  void sweptTwiceBehindStop() { here().severalBehind = changedAt(Setting::running); }
-  /// A record of the channel is the one before the last again: the last was damaged.
-  void cameBack(int channel);
+  /// A record of a channel, requested at that moment, has arrived on the present line. Tells what
+  /// that proves.
+  FetchedSweeps::Proof fetched(int channel, Moment requested, FetchedSweeps::Bytes bytes);
 
   /// Called after each of these.
   std::function<void()> changed;
@@ -123,12 +118,6 @@ class KnownInstrument {
     std::set<int> voltsReplies;
     std::set<int> secondsReplies;
   };
-  struct Swept {
-    Line line;
-    Moment requested = 0;
-    /// How many have come one behind another under the same settings.
-    int inARow = 0;
-  };
   /// What was told behind one port. Whatever happens behind another, it may still be so.
   struct BehindPort {
     std::array<Entry, settingCount> entries;
@@ -138,12 +127,10 @@ class KnownInstrument {
     bool isMathDoubted = false;
     /// Something may have set the trigger to any mode.
     bool isModeOpen = false;
-    /// Since when a sweep has come for certain, of whichever channel.
-    Moment sweptAt = 0;
-    /// The last new sweep of each channel.
-    std::array<Swept, 2> swept;
-    /// The stop behind which there were several sweeps.
-    std::optional<Moment> severalBehind;
+    /// Of each channel.
+    std::array<FetchedSweeps, 2> fetches;
+    /// The stop behind which several sweeps were fetched.
+    std::optional<Moment> disprovedStop;
     /// The settings under which a stopped instrument made the records that it sends.
     std::array<Told, 2> atStop;
   };
@@ -179,9 +166,10 @@ class KnownInstrument {
   bool mayBeStopped() const;
   Told toldAt(int channel, Moment moment) const;
   MadeUnder sureOf(const Told& told) const;
+  bool mayHaveWaited(Moment requested) const;
   Moment sweptSince(int channel, Moment requested) const;
-  Swept& sweptLast(int channel) { return here().swept[static_cast<std::size_t>(channel - 1)]; }
-  bool isOfNow(const Swept& sweep) const;
+  Moment sweptAt() const;
+  Moment shownSince() const;
   void tell() const {
     if (changed) changed();
   }

@@ -21,12 +21,19 @@ struct MadeUnder {
   std::optional<double> secondsPerDivision;
   /// The instrument's math in place of the channel: its entry in the math box.
   std::optional<int> mathEntry;
-  /// The stop after which it was fetched: records of one stop are of one sweep.
+  /// The stop behind which it was fetched.
   std::optional<std::int64_t> stop;
+  /// It may be another sweep than the one that the instrument kept at that stop.
+  bool isOther = false;
   bool operator==(const MadeUnder&) const = default;
 };
 
 /// What is certain whichever of the two holds.
 MadeUnder whicheverHolds(const MadeUnder& a, const MadeUnder& b);
+
+/// Two channels of one instrument, fetched behind one stop.
+inline bool areOfOneSweep(const MadeUnder& a, const MadeUnder& b) {
+  return a.stop && a.stop == b.stop && !a.isOther && !b.isOther;
+}
 
 }  // namespace tracewell

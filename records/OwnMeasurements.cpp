@@ -347,8 +347,7 @@ OwnMeasurements measure(const ChannelRecord& record, const ChannelRecord& second
 }
 
 bool areOfOneSweep(const ChannelRecord& first, const ChannelRecord& second) {
-  return first.madeUnder.stop && first.madeUnder.stop == second.madeUnder.stop &&
-         first.line == second.line;
+  return areOfOneSweep(first.madeUnder, second.madeUnder) && first.line == second.line;
 }
 
 void Statistics::add(const OwnValue& measurement) {

@@ -51,16 +51,17 @@ std::optional<RecordStore::Number> RecordStore::keep(int channel, const ChannelR
   if (record.bytes.empty()) return std::nullopt;
   const std::string_view bytes =
       std::string_view(record.bytes).substr(0, WaveformRecord::byteCount);
+  if (record.disprovedStop) disprove(*record.disprovedStop, record.line);
   const auto newest = newestOf(channel);
   RecordFacts* const before = newest ? &slot(*newest).facts : nullptr;
   if (before != nullptr && before->line == record.line && bytesOf(*newest) == bytes) {
     // What it was made under stays what it was; behind which stop it is fetched may be new.
     before->madeUnder.stop = record.madeUnder.stop;
+    before->madeUnder.isOther = record.madeUnder.isOther;
     before->fetchedAt = record.fetchedAt;
     ++before->fetches;
     return newest;
   }
-  if (record.disprovedStop) disprove(*record.disprovedStop, record.line);
   RecordFacts facts;
   facts.channel = channel;
   facts.line = record.line;
@@ -83,7 +84,7 @@ std::optional<RecordStore::Number> RecordStore::keep(int channel, const ChannelR
 
 void RecordStore::disprove(std::int64_t stop, const InstrumentLine& line) {
   const auto take = [&](RecordFacts& facts) {
-    if (facts.line == line && facts.madeUnder.stop == stop) facts.madeUnder.stop.reset();
+    if (facts.line == line && facts.madeUnder.stop == stop) facts.madeUnder.isOther = true;
   };
   for (Number number = first_; number < end_; ++number) take(slot(number).facts);
   for (auto& [number, held] : pinned_) take(held.kept.facts);
@@ -153,7 +154,7 @@ std::optional<RecordStore::Number> RecordStore::partnerOf(Number number) const {
   for (Number other = std::min(end_, number + farthest) - 1; other >= lowest; --other) {
     const RecordFacts& known = facts(other);
     if (known.channel != wanted.channel && known.line == wanted.line &&
-        known.madeUnder.stop == wanted.madeUnder.stop)
+        areOfOneSweep(known.madeUnder, wanted.madeUnder))
       return other;
   }
   return std::nullopt;

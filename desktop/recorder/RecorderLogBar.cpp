@@ -7,6 +7,7 @@
 #include <QMenu>
 #include <QMouseEvent>
 
+#include "Accessible.h"
 #include "DesktopWords.h"
 #include "Files.h"
 #include "QtValues.h"
@@ -104,9 +105,8 @@ void RecorderLogBar::sayTexts() {
 void RecorderLogBar::showState() {
   const bool isOn = recorder_.log() != nullptr;
   start_->setText(isOn ? panelText("Stop the log") : panelText("Start the log…"));
-  start_->setToolTip(
-      isOn ? panelText("Ends the log; the file is whole")
-           : panelText("Chooses the file. A file with the same columns is continued"));
+  setTip(*start_, isOn ? panelText("Ends the log; the file is whole")
+                       : panelText("Chooses the file. A file with the same columns is continued"));
   for (QWidget* widget : std::initializer_list<QWidget*>{quantities_, limits_, pins_, rings_})
     widget->setEnabled(!isOn);
 }

@@ -7,6 +7,7 @@
 #include <QScreen>
 #include <QShortcut>
 #include <QVBoxLayout>
+#include <utility>
 
 #include "Accessible.h"
 #include "DesktopWords.h"
@@ -278,8 +279,12 @@ void RecorderWindow::tellGraph(const std::vector<std::string>& cursors,
   QStringList said;
   for (const auto* list : {&cursors, &picture.notes})
     for (const std::string& text : *list) said << toQt(text);
-  for (const RecorderPicture::Label& label : picture.labels)
-    said << toQt(label.text).replace(QLatin1Char('\n'), QLatin1Char(' '));
+  int channel = 0;
+  for (const RecorderPicture::Label& label : picture.labels) {
+    const bool isFirst = std::exchange(channel, label.channel) != label.channel;
+    said << toQt((isFirst ? channelName(channel) + ": " : "") + label.text)
+                .replace(QLatin1Char('\n'), QLatin1Char(' '));
+  }
   if (said == toldOfGraph_) return;
   toldOfGraph_ = said;
   setWords(*graph_, said.join(QStringLiteral(". ")));
@@ -324,8 +329,8 @@ void RecorderWindow::showPins() {
   pins_->setEnabled(!pinned.empty());
   const bool isLetGo = isPinned && pinName_->text().trimmed().isEmpty();
   pin_->setText(isLetGo ? panelText("Let go") : isPinned ? panelText("Rename") : panelText("Pin"));
-  pin_->setToolTip(isLetGo ? panelText("This record may go with the others again")
-                           : panelText("Keeps this record, under the name, when others go"));
+  setTip(*pin_, isLetGo ? panelText("This record may go with the others again")
+                        : panelText("Keeps this record, under the name, when others go"));
 }
 
 void RecorderWindow::showLog() {
@@ -426,8 +431,9 @@ void RecorderWindow::changeEvent(QEvent* event) {
     bar_->sayAgain();
     tables_->sayAgain();
     logBar_->sayAgain();
-    tellTips(*this);
     showSoon();
+    // Behind that.
+    QTimer::singleShot(0, this, [this] { tellTips(*this); });
   }
   if (event->type() == QEvent::PaletteChange) showSoon();
 }

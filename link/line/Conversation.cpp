@@ -23,6 +23,11 @@ bool isBlank(char byte) {
 
 constexpr std::string_view lineEnd = "\r\n";
 
+/// The upper half of a sample within the screen's height. No reply has such a byte.
+bool hasSample(std::string_view bytes) {
+  return bytes.find_first_of(std::string_view("\0\xFF", 2)) != std::string_view::npos;
+}
+
 bool isBlank(std::string_view bytes) {
   return std::ranges::all_of(bytes, [](char byte) { return isBlank(byte); });
 }
@@ -72,8 +77,9 @@ std::string Conversation::ask(std::string_view query, int timeOut) {
   ++unanswered_;
   replies_.asked();
   state_ = State::replyAwaited;
+  std::string received;
   try {
-    std::string reply = awaitReply(askedAt_ + timeOut);
+    std::string reply = awaitReply(received, askedAt_ + timeOut);
     unanswered_ = 0;
     // Unless it may be that to an earlier query, all that was requested before has come.
     if (!replies_.isDue(askedAt_)) outstanding_.clear();
@@ -82,6 +88,10 @@ std::string Conversation::ask(std::string_view query, int timeOut) {
     account_.gaveAnswer();
     return reply;
   } catch (...) {
+    // They have come, whether the user has given up meanwhile or the line has failed.
+    const std::int64_t cameAt = heardAt_;
+    if (!received.empty()) hearOwed(received);
+    heardAt_ = cameAt;
     leaveUnanswered();
     throw;
   }
@@ -232,7 +242,7 @@ void Conversation::refuseRecord(std::string_view behind) {
     record_.bytes.clear();
     held_.push_front(record_);
   }
-  if (const auto others = withoutRecordEnd(behind); !others.empty()) hearOwed(others);
+  if (!behind.empty()) hearOwed(behind);
 }
 
 /// Rests for nine tenths of the time that the missing bytes take, repeatedly, so that the last
@@ -367,8 +377,7 @@ void Conversation::drain(int timeOut) {
   isRestless_ = false;
 }
 
-std::string Conversation::awaitReply(std::int64_t deadline) {
-  std::string received;
+std::string Conversation::awaitReply(std::string& received, std::int64_t deadline) {
   while (true) {
     const std::size_t searched = received.size();
     received += listen(deadline);
@@ -376,29 +385,24 @@ std::string Conversation::awaitReply(std::int64_t deadline) {
     const std::size_t end = received.find('\n', searched);
     if (end < longestReply) return onlyLine(received, end + 1);
     if (received.size() <= longestReply && clock_.milliseconds() < deadline) continue;
-    if (!received.empty()) {
-      account_.missedLineEnd(received.size(), clock_.milliseconds());
-      payWith(received);
-    }
+    if (!received.empty()) account_.missedLineEnd(received.size(), clock_.milliseconds());
     throw timeOutError();
   }
 }
 
 /// A line is the reply if no other reply is outstanding and nothing follows it: half of a damaged
-/// reply is not one. While a record is outstanding, bytes as long as a record begin with it.
-std::string Conversation::onlyLine(std::string received, std::size_t length) {
+/// reply is not one. While a record is outstanding, bytes as long as a record begin with it, and
+/// those that have bytes of samples may be one that was cut.
+std::string Conversation::onlyLine(std::string& received, std::size_t length) {
   const std::int64_t until = clock_.milliseconds() + settlingTime();
-  const bool hasRecord = outstanding_.areAny() && length >= record_.count;
+  const bool hasRecord =
+      outstanding_.areAny() && (length >= outstanding_.missingOfFirst() || hasSample(received));
   const auto isAlone = [&] {
     return unanswered_ == 1 && !hasRecord && isBlank(std::string_view(received).substr(length));
   };
   while (isAlone() && clock_.milliseconds() < until) received += listen(until);
-  if (!isAlone()) {
-    hearOwed(received);
-    throw timeOutError();
-  }
-  received.resize(length);
-  return received;
+  if (!isAlone()) throw timeOutError();
+  return received.substr(0, length);
 }
 
 void Conversation::leaveUnanswered() {

@@ -143,8 +143,9 @@ class Conversation {
   void makeReadyToAsk(int timeOut);
   void finishRecord();
   void drain(int timeOut);
-  std::string awaitReply(std::int64_t deadline);
-  std::string onlyLine(std::string received, std::size_t length);
+  /// What arrives stands in `received`, also if they throw.
+  std::string awaitReply(std::string& received, std::int64_t deadline);
+  std::string onlyLine(std::string& received, std::size_t length);
   void leaveUnanswered();
   bool isSilent() const;
 

@@ -24,8 +24,8 @@ class OutstandingRecords {
   };
 
   bool areAny() const { return !missing_.empty(); }
-  /// How many bytes of the first one are missing; 0 if there is none.
-  std::size_t missingOfFirst() const { return missing_.empty() ? 0 : missing_.front(); }
+  /// How many bytes of the first one are missing. There must be one.
+  std::size_t missingOfFirst() const { return missing_.front(); }
 
   /// A record of `count` bytes, more than none, was given up.
   void add(std::size_t count) { missing_.push_back(count); }

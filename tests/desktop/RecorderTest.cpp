@@ -197,7 +197,7 @@ TEST_F(RecorderWindowTest, KeepsFollowsStepsPinsShowsLogsAndExports) {
   ASSERT_FALSE(picture.labels.empty());
   EXPECT_NEAR(picture.labels[0].x, 1000, 5);
   QApplication::processEvents();
-  const QString peak = toQt(picture.labels[0].text).section(QLatin1Char('\n'), 0, 0);
+  const QString peak = toQt("CH1: " + picture.labels[0].text).section(QLatin1Char('\n'), 0, 0);
   EXPECT_TRUE(described(find<QWidget>("recorderGraph")).contains(peak)) << fromQt(peak);
   choose("mode", 0);
 

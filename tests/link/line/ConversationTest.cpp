@@ -61,6 +61,11 @@ class LineScript : OnALine<PacedOpener> {
     if (name == "free") farEnd.lineFreeAt = 0;
     if (name == "hang up") farEnd.hangUpAfter = value.empty() ? std::string::npos : 0;
     if (name == "behind") behind_ = toLine(value);
+    if (name == "give up") {
+      burst_.emplace(standBy);
+      clock.callAfter(static_cast<int>(number), [this] { standBy.giveUp(); });
+    }
+    if (name == "go on") burst_.reset();
     if (name == "again") again_ = static_cast<int>(number);
     if (name == "report") report();
     if (name == "unasked")
@@ -73,7 +78,7 @@ class LineScript : OnALine<PacedOpener> {
   }
 
   static std::string toLine(std::string text) {
-    for (char& byte : text) byte = byte == '^' ? '\n' : byte == '<' ? '\r' : byte;
+    for (char& byte : text) byte = byte == '^' ? '\n' : byte == '<' ? '\r' : byte == '_' ? 0 : byte;
     return text;
   }
 
@@ -152,6 +157,7 @@ class LineScript : OnALine<PacedOpener> {
   Lines events_;
   int ignored_ = 0;
   int asked_ = 0;
+  std::optional<StandBy::Burst> burst_;
   std::size_t length_ = 1014;
   std::string bytes_;
   std::string behind_;

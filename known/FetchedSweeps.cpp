@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "FetchedSweeps.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tracewell {
+
+FetchedSweeps::Proof FetchedSweeps::take(const Fetch& fetch) {
+  Proof proof;
+  if (fetch.bytes == Bytes::asBefore) {
+    std::swap(last_, before_);
+    proof.mayBeSame = fetch.isStopped || fetch.mayBeStopped || fetch.mayHaveWaited;
+  } else if (fetch.bytes == Bytes::other) {
+    proof = takeOther(fetch);
+  }
+  proof.isOther = fetch.isStopped && last_.otherBehind == fetch.runningSince;
+  // A damaged record does not come twice.
+  if (fetch.bytes == Bytes::same) proof.isStopDisproved = proof.isOther;
+  line_ = fetch.line;
+  requested_ = fetch.requested;
+  return proof;
+}
+
+/// A stopped instrument keeps one sweep. That may never have been fetched, and it may sweep once
+/// more as it is stopped; one record more may be damaged.
+FetchedSweeps::Proof FetchedSweeps::takeOther(const Fetch& fetch) {
+  constexpr int proof = 4;
+  const Moment stableSince = std::max(fetch.shownSince, fetch.runningSince);
+  const Moment certain = fetch.mayHaveWaited ? lastOn(fetch.line) : fetch.requested;
+  // What is shown differently need not be another sweep.
+  const bool isOther = fetch.isStopped && line_ == fetch.line && requested_ >= stableSince;
+  const bool isInARow = lastOn(fetch.line) >= stableSince;
+  before_ = last_;
+  last_ = {fetch.line, fetch.requested, isInARow ? before_.inARow + 1 : 1, before_.since,
+           isOther ? fetch.runningSince : 0};
+  Proof proved;
+  proved.mayBeSame = fetch.mayHaveWaited && before_.requested < fetch.shownSince;
+  if (fetch.requested < fetch.runningSince) return proved;
+  proved.isStopDisproved = isOther && before_.otherBehind == fetch.runningSince;
+  const bool isDoubted = fetch.isStopped || fetch.mayBeStopped;
+  proved.isRunning = isDoubted && last_.inARow >= proof;
+  const bool isSwept = (proved.isRunning || !isDoubted) && !proved.mayBeSame;
+  if (isSwept) last_.since = std::max(last_.since, certain);
+  return proved;
+}
+
+}  // namespace tracewell
