@@ -2,6 +2,7 @@
 #include "TrueNumbers.h"
 
 #include <algorithm>
+#include <cctype>
 #include <cmath>
 
 #include "Numbers.h"
@@ -23,8 +24,10 @@ std::optional<double> trueNumber(std::string_view text, std::string_view unit) {
   const auto known = std::ranges::find(unitPrefixes, prefix, &UnitPrefix::text);
   // A long reply must not overflow.
   constexpr std::size_t longest = 12;
-  const bool isPlain = number.size() <= longest &&
-                       number.find_first_not_of("-0123456789.") == std::string_view::npos;
+  const auto isOfNumber = [](unsigned char c) {
+    return std::isdigit(c) != 0 || c == '-' || c == '.';
+  };
+  const bool isPlain = number.size() <= longest && std::ranges::all_of(number, isOfNumber);
   if (known == unitPrefixes.end() || !isPlain || !isNumeric(number)) return std::nullopt;
   return scaled(leadingNumber(number), known->exponent);
 }

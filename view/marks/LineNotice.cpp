@@ -35,7 +35,7 @@ std::string lineTrouble(const frmDSO& main, const Words& words) {
   if (report.endlessReplies.inLastMinute > 0)
     say(words.say("Answers without a line end: %1 in a minute", {times(report.endlessReplies)}));
   // The graph itself says that none comes at all.
-  if (millisecondsWithoutRecord(main) == 0 && report.missingRecords.inLastMinute > 1)
+  if (!millisecondsWithoutRecord(main) && report.missingRecords.inLastMinute > 1)
     say(words.say("Records that did not come: %1 in a minute", {times(report.missingRecords)}));
   return text;
 }

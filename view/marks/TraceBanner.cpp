@@ -67,8 +67,8 @@ std::string outOfReach(const frmDSO& main, const Words& words) {
 std::string warning(const frmDSO& main, const Words& words) {
   if (!main.tmDSO.enabled() && main.status.says(StatusLine::stoppedByError))
     return words.say("An error has stopped the acquisition");
-  if (const std::int64_t time = millisecondsWithoutRecord(main); time > 0)
-    return words.say("No record for %1 s", {std::to_string(time / 1000)});
+  if (const auto time = millisecondsWithoutRecord(main))
+    return words.say("No record for %1 s", {std::to_string(*time / 1000)});
   if (firstTrace(main, [&](const Channel& channel) { return !isOfThisLine(main, channel); }))
     return words.say("These traces are of an earlier connection");
   const auto isLateNow = [&](const Channel& channel) { return isLate(main, channel); };

@@ -103,11 +103,11 @@ std::string unchangedText(const Words& words, const Channel& channel, std::int64
                             : words.say("%1: unchanged for %2 s", {name, passed.number});
 }
 
-std::int64_t millisecondsWithoutRecord(const frmDSO& main) {
+std::optional<std::int64_t> millisecondsWithoutRecord(const frmDSO& main) {
   const std::optional<std::int64_t> since = main.services().port.report().noRecordSince;
-  if (!main.tmDSO.enabled() || !since) return 0;
+  if (!main.tmDSO.enabled() || !since) return std::nullopt;
   const std::int64_t passed = now(main) - std::max(*since, fetchingSince(main));
-  return passed > oldAfter * recordPeriod(main) ? passed : 0;
+  return passed > oldAfter * recordPeriod(main) ? std::optional(passed) : std::nullopt;
 }
 
 bool hasTrace(const Channel& channel) {

@@ -29,8 +29,8 @@ std::int64_t recordPeriod(const frmDSO& main);
 /// The trace arrived on the present line.
 bool isOfThisLine(const frmDSO& main, const Channel& channel);
 
-/// Milliseconds without a record while records are requested; 0 while that is normal.
-std::int64_t millisecondsWithoutRecord(const frmDSO& main);
+/// Milliseconds without a record while records are requested; none while that is normal.
+std::optional<std::int64_t> millisecondsWithoutRecord(const frmDSO& main);
 
 /// The channel's record is older than the time that another one should take, and the fetch has gone
 /// on for as long.

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 #include <optional>
+#include <span>
 #include <vector>
 
 #include "Numbers.h"
@@ -24,12 +25,11 @@ struct Written {
 
 /// As the instrument writes it.
 std::string captionOf(double perDivision, std::string_view unit) {
-  const auto find = [&](const auto& captions) {
-    const auto found = std::ranges::find_if(
-        captions, [&](std::string_view text) { return trueScale(text, unit) == perDivision; });
-    return found == captions.end() ? std::string() : std::string(*found);
-  };
-  return unit == "s" ? find(TimeDivText) : find(VoltDivText);
+  using Captions = std::span<const std::string_view>;
+  for (const Captions captions : {Captions(TimeDivText), Captions(VoltDivText)})
+    for (const std::string_view text : captions)
+      if (trueScale(text, unit) == perDivision) return std::string(text);
+  return "";
 }
 
 /// A position that is written beside a trace, and the one at which that was drawn. In divisions.
