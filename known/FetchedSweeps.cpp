@@ -10,12 +10,13 @@ FetchedSweeps::Proof FetchedSweeps::take(const Fetch& fetch) {
   Proof proof;
   if (fetch.bytes == Bytes::asBefore) {
     std::swap(last_, before_);
-    proof.mayBeSame = fetch.isStopped || fetch.mayBeStopped || fetch.mayHaveWaited;
+    proof.mayBeSame = !fetch.isFreeRunning;
   } else if (fetch.bytes == Bytes::other) {
     proof = takeOther(fetch);
   }
   proof.isOther = fetch.isStopped && last_.otherBehind == fetch.runningSince;
-  // A damaged record does not come twice.
+  // A damaged record does not come twice: the one before it may have been, or there were two
+  // sweeps.
   if (fetch.bytes == Bytes::same) proof.isStopDisproved = proof.isOther;
   line_ = fetch.line;
   requested_ = fetch.requested;
@@ -28,16 +29,17 @@ FetchedSweeps::Proof FetchedSweeps::takeOther(const Fetch& fetch) {
   constexpr int proof = 4;
   const Moment stableSince = std::max(fetch.shownSince, fetch.runningSince);
   const Moment certain = fetch.mayHaveWaited ? lastOn(fetch.line) : fetch.requested;
-  // What is shown differently need not be another sweep.
-  const bool isOther = fetch.isStopped && line_ == fetch.line && requested_ >= stableSince;
+  // What is shown differently need not be another sweep than the one before.
+  const bool isChanged = line_ == fetch.line && requested_ >= stableSince;
+  const bool wasOther = last_.otherBehind == fetch.runningSince;
   const bool isInARow = lastOn(fetch.line) >= stableSince;
   before_ = last_;
   last_ = {fetch.line, fetch.requested, isInARow ? before_.inARow + 1 : 1, before_.since,
-           isOther ? fetch.runningSince : 0};
+           fetch.isStopped && (isChanged || wasOther) ? fetch.runningSince : 0};
   Proof proved;
   proved.mayBeSame = fetch.mayHaveWaited && before_.requested < fetch.shownSince;
   if (fetch.requested < fetch.runningSince) return proved;
-  proved.isStopDisproved = isOther && before_.otherBehind == fetch.runningSince;
+  proved.isStopDisproved = fetch.isStopped && isChanged && wasOther;
   const bool isDoubted = fetch.isStopped || fetch.mayBeStopped;
   proved.isRunning = isDoubted && last_.inARow >= proof;
   const bool isSwept = (proved.isRunning || !isDoubted) && !proved.mayBeSame;

@@ -28,8 +28,9 @@ class FetchedSweeps {
     Moment runningSince = 0;
     bool isStopped = false;
     bool mayBeStopped = false;
-    /// The instrument may have waited for its trigger.
+    /// The instrument may have waited for its trigger; or it is known that it does not wait.
     bool mayHaveWaited = false;
+    bool isFreeRunning = false;
   };
   struct Proof {
     /// The instrument runs that was, or may have been, stopped, and this record was made under the

@@ -235,7 +235,7 @@ FetchedSweeps::Proof KnownInstrument::fetched(int channel, Moment requested,
   FetchedSweeps& fetches = here().fetches[static_cast<std::size_t>(channel - 1)];
   const FetchedSweeps::Proof proof =
       fetches.take({bytes, presentLine(), requested, shownSince(), changedAt(running), isStopped(),
-                    mayBeStopped(), mayHaveWaited(requested)});
+                    mayBeStopped(), mayHaveWaited(requested), isFreeRunning(requested)});
   if (proof.isStopDisproved) here().disprovedStop = changedAt(running);
   if (proof.isRunning) take(running, {runningState});
   return proof;
@@ -387,6 +387,11 @@ KnownInstrument::Told KnownInstrument::toldAt(int channel, Moment moment) const 
 bool KnownInstrument::mayHaveWaited(Moment requested) const {
   return changedAt(triggerMode) > requested ||
          mayBeMode([](double mode) { return mode >= normalMode; });
+}
+
+bool KnownInstrument::isFreeRunning(Moment requested) const {
+  const bool isRunning = !isStopped() && !mayBeStopped();
+  return isRunning && isKnown(triggerMode) && !mayHaveWaited(requested);
 }
 
 /// The moment since when a new sweep is certain that was requested then: a free-running instrument

@@ -167,6 +167,7 @@ class KnownInstrument {
   Told toldAt(int channel, Moment moment) const;
   MadeUnder sureOf(const Told& told) const;
   bool mayHaveWaited(Moment requested) const;
+  bool isFreeRunning(Moment requested) const;
   Moment sweptSince(int channel, Moment requested) const;
   Moment sweptAt() const;
   Moment shownSince() const;
