@@ -11,12 +11,15 @@ FetchedSweeps::Proof FetchedSweeps::take(const Fetch& fetch) {
   if (fetch.bytes == Bytes::asBefore) {
     std::swap(last_, before_);
     proof.mayBeSame = !fetch.isFreeRunning;
+    // A damaged record does not come twice.
+    proof.isStopDisproved = ++returns_ > 1 && fetch.isStopped;
+    if (proof.isStopDisproved) last_.otherBehind = before_.otherBehind = fetch.runningSince;
   } else if (fetch.bytes == Bytes::other) {
     proof = takeOther(fetch);
+    returns_ = 0;
   }
   proof.isOther = fetch.isStopped && last_.otherBehind == fetch.runningSince;
-  // A damaged record does not come twice: the one before it may have been, or there were two
-  // sweeps.
+  // Nor does it here: the one before may have been damaged, or there were two sweeps.
   if (fetch.bytes == Bytes::same) proof.isStopDisproved = proof.isOther;
   line_ = fetch.line;
   requested_ = fetch.requested;
@@ -37,7 +40,8 @@ FetchedSweeps::Proof FetchedSweeps::takeOther(const Fetch& fetch) {
   last_ = {fetch.line, fetch.requested, isInARow ? before_.inARow + 1 : 1, before_.since,
            fetch.isStopped && (isChanged || wasOther) ? fetch.runningSince : 0};
   Proof proved;
-  proved.mayBeSame = fetch.mayHaveWaited && before_.requested < fetch.shownSince;
+  proved.mayBeSame =
+      fetch.mayHaveWaited && !fetch.isStopped && before_.requested < fetch.shownSince;
   if (fetch.requested < fetch.runningSince) return proved;
   proved.isStopDisproved = fetch.isStopped && isChanged && wasOther;
   const bool isDoubted = fetch.isStopped || fetch.mayBeStopped;

@@ -69,6 +69,8 @@ class FetchedSweeps {
 
   Swept last_;
   Swept before_;
+  /// How often one came back, with no other in between.
+  int returns_ = 0;
   /// Of the newest record, whatever its bytes.
   InstrumentLine line_;
   Moment requested_ = 0;

@@ -233,10 +233,12 @@ void KnownInstrument::reading() {
 FetchedSweeps::Proof KnownInstrument::fetched(int channel, Moment requested,
                                               FetchedSweeps::Bytes bytes) {
   FetchedSweeps& fetches = here().fetches[static_cast<std::size_t>(channel - 1)];
-  const FetchedSweeps::Proof proof =
+  FetchedSweeps::Proof proof =
       fetches.take({bytes, presentLine(), requested, shownSince(), changedAt(running), isStopped(),
                     mayBeStopped(), mayHaveWaited(requested), isFreeRunning(requested)});
-  if (proof.isStopDisproved) here().disprovedStop = changedAt(running);
+  if (proof.isStopDisproved)
+    proof.isStopDisproved =
+        std::exchange(here().disprovedStop, changedAt(running)) != changedAt(running);
   if (proof.isRunning) take(running, {runningState});
   return proof;
 }

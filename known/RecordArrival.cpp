@@ -21,7 +21,7 @@ bool takeRecord(ChannelRecord& held, const std::string& bytes, const RecordArriv
   FetchedSweeps::Proof proof;
   if (arrival.line == known.presentLine()) {
     made = known.madeUnder(arrival.channel, arrival.requested);
-    if (!isOfOtherLine) proof = known.fetched(arrival.channel, arrival.requested, which);
+    proof = known.fetched(arrival.channel, arrival.requested, which);
     if (proof.isRunning) made = known.madeUnder(arrival.channel, arrival.requested);
     made.isOther = made.isOther || proof.isOther;
   }

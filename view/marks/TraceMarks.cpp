@@ -61,9 +61,9 @@ std::string traceAge(const frmDSO& main, const Channel& channel) {
   if (isOld(main, channel)) return ageText(words, channel, now(main));
   if (channel.record.sweepAt != channel.record.fetchedAt)
     return unchangedText(words, channel, now(main));
-  // Nothing live comes of an instrument that was stopped.
-  return channel.record.madeUnder.stop ? ageText(words, channel, now(main))
-                                       : words.say("%1: live", {name});
+  // Nothing live comes of an instrument that is taken to be stopped.
+  const bool isLive = !channel.record.madeUnder.stop && !main.known.isStopped();
+  return isLive ? words.say("%1: live", {name}) : ageText(words, channel, now(main));
 }
 
 }  // namespace
