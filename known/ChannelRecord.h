@@ -20,11 +20,13 @@ struct ChannelRecord {
   /// bytes again are the same sweep.
   std::int64_t sweepAt = 0;
   std::int64_t fetchedAt = 0;
-  /// The stop behind which, as this record has proved, several sweeps were fetched.
-  std::optional<std::int64_t> disprovedStop = {};
-  /// What was received before these bytes, and how that was made.
-  std::string before = "";
-  MadeUnder beforeMadeUnder = {};
+  /// What was received before these bytes.
+  struct Before {
+    std::string bytes;
+    MadeUnder madeUnder;
+    std::int64_t sweepAt = 0;
+  };
+  Before before = {};
 
   bool isSameSweep(const std::string& others, const InstrumentLine& othersLine) const {
     return bytes == others && line == othersLine;

@@ -28,26 +28,27 @@ class FetchedSweeps {
     Moment runningSince = 0;
     bool isStopped = false;
     bool mayBeStopped = false;
-    /// The instrument may have waited for its trigger; or it is known that it does not wait.
+    /// The instrument may have waited for its trigger; or it is known to run without.
     bool mayHaveWaited = false;
     bool isFreeRunning = false;
   };
   struct Proof {
+    /// The record was swept at that moment or later: behind its request if the instrument sweeps
+    /// freely, else behind the sweep before. 0 where nothing is known.
+    Moment sweptSince = 0;
     /// The instrument runs that was, or may have been, stopped, and this record was made under the
     /// present settings.
     bool isRunning = false;
     /// It may be the sweep of the record that it was compared with, as it is shown now.
     bool mayBeSame = false;
-    /// It may be another sweep than the one that the instrument kept at its stop.
+    /// It may be another sweep than the one that was fetched behind the stop before.
     bool isOther = false;
-    /// What was fetched behind the stop is of several sweeps.
-    bool isStopDisproved = false;
   };
 
   Proof take(const Fetch& fetch);
 
-  /// Since when a sweep has come for certain.
-  Moment since() const { return last_.since; }
+  /// Since when a sweep has come for certain on that line; 0 if none has.
+  Moment since(const InstrumentLine& line) const { return last_.line == line ? last_.since : 0; }
   /// The newest sweep was there at that moment: another one that comes later was made behind it. 0
   /// if there was none on that line.
   Moment lastOn(const InstrumentLine& line) const {
@@ -65,7 +66,8 @@ class FetchedSweeps {
     Moment otherBehind = 0;
   };
 
-  Proof takeOther(const Fetch& fetch);
+  Proof takeOther(const Fetch& fetch, Moment sweptSince);
+  bool wasFetchedBehindStop(const Fetch& fetch) const;
 
   Swept last_;
   Swept before_;

@@ -183,6 +183,7 @@ void KnownInstrument::answered(std::string_view query, std::string_view reply, i
     Entry& asked = entry(*setting);
     if (!value) {
       leaveUntold(asked);
+      if (*setting == triggerMode) here().isModeOpen = true;
       continue;
     }
     if (isScale(*setting)) readOn_ = presentLine();
@@ -230,17 +231,16 @@ void KnownInstrument::reading() {
   tell();
 }
 
-FetchedSweeps::Proof KnownInstrument::fetched(int channel, Moment requested,
-                                              FetchedSweeps::Bytes bytes) {
+KnownInstrument::Fetched KnownInstrument::fetched(int channel, Moment requested,
+                                                  FetchedSweeps::Bytes bytes) {
   FetchedSweeps& fetches = here().fetches[static_cast<std::size_t>(channel - 1)];
-  FetchedSweeps::Proof proof =
+  const FetchedSweeps::Proof proof =
       fetches.take({bytes, presentLine(), requested, shownSince(), changedAt(running), isStopped(),
                     mayBeStopped(), mayHaveWaited(requested), isFreeRunning(requested)});
-  if (proof.isStopDisproved)
-    proof.isStopDisproved =
-        std::exchange(here().disprovedStop, changedAt(running)) != changedAt(running);
   if (proof.isRunning) take(running, {runningState});
-  return proof;
+  MadeUnder made = madeUnder(channel, requested, proof.sweptSince);
+  made.isOther = proof.isOther;
+  return {made, proof.mayBeSame};
 }
 
 /// Math shows both channels.
@@ -396,26 +396,21 @@ bool KnownInstrument::isFreeRunning(Moment requested) const {
   return isRunning && isKnown(triggerMode) && !mayHaveWaited(requested);
 }
 
-/// The moment since when a new sweep is certain that was requested then: a free-running instrument
-/// has swept after the request, one that waits for its trigger after the sweep before.
-KnownInstrument::Moment KnownInstrument::sweptSince(int channel, Moment requested) const {
-  const FetchedSweeps& fetches = here().fetches[static_cast<std::size_t>(channel - 1)];
-  return mayHaveWaited(requested) ? fetches.lastOn(presentLine()) : now_;
-}
-
 KnownInstrument::Moment KnownInstrument::sweptAt() const {
-  return std::max(here().fetches[0].since(), here().fetches[1].since());
+  const auto& [first, second] = here().fetches;
+  return std::max(first.since(presentLine()), second.since(presentLine()));
 }
 
-MadeUnder KnownInstrument::madeUnder(int channel, Moment requested) const {
-  MadeUnder frozen = sureOf(here().atStop[static_cast<std::size_t>(channel - 1)]);
-  if (isStopped() && changedAt(running) <= requested) frozen.stop = changedAt(running);
-  frozen.isOther = here().disprovedStop == changedAt(running);
-  if (isStopped()) return frozen;
-  const MadeUnder present =
-      sureOf(toldAt(channel, std::min(requested, sweptSince(channel, requested))));
-  const bool isEither = changedAt(running) > requested || mayBeStopped();
-  return isEither ? whicheverHolds(frozen, present) : present;
+/// The settings under which a record was made that was requested then, swept at that moment or
+/// later, and arrives now. A stopped instrument made it at its stop, unless that came to nothing:
+/// then what has changed behind it counts.
+MadeUnder KnownInstrument::madeUnder(int channel, Moment requested, Moment sweptSince) const {
+  const Moment stop = changedAt(running);
+  MadeUnder made = sureOf(toldAt(channel, isStopped() ? std::min(requested, stop) : sweptSince));
+  if (isStopped() || mayBeStopped() || stop > requested)
+    made = whicheverHolds(sureOf(here().atStop[static_cast<std::size_t>(channel - 1)]), made);
+  if (isStopped() && stop <= requested) made.stop = stop;
+  return made;
 }
 
 }  // namespace tracewell

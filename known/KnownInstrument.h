@@ -30,6 +30,12 @@ class KnownInstrument {
   using Line = InstrumentLine;
   /// A count of facts. Only the order matters.
   using Moment = std::int64_t;
+  /// What is known of a record that has arrived.
+  struct Fetched {
+    MadeUnder made;
+    /// It may be the sweep of the record that it was compared with, as it is shown now.
+    bool mayBeSame = false;
+  };
 
   /// `presentLine` returns the line on which the next command goes out. `sureness` says of the
   /// number of a reply whether it is the one to its query.
@@ -57,9 +63,8 @@ class KnownInstrument {
   void reading();
   /// A record is requested. The line decides when the request goes out.
   void requested();
-  /// A record of a channel, requested at that moment, has arrived on the present line. Tells what
-  /// that proves.
-  FetchedSweeps::Proof fetched(int channel, Moment requested, FetchedSweeps::Bytes bytes);
+  /// A record of a channel, requested at that moment, has arrived on the present line.
+  Fetched fetched(int channel, Moment requested, FetchedSweeps::Bytes bytes);
 
   /// Called after each of these.
   std::function<void()> changed;
@@ -97,10 +102,6 @@ class KnownInstrument {
   /// The panel has stopped the instrument.
   bool isStopped() const;
 
-  /// The settings under which a record was made that was requested at that moment and has arrived
-  /// now. A stopped instrument sends what it had at its stop.
-  MadeUnder madeUnder(int channel, Moment requested) const;
-
  private:
   struct Entry {
     std::optional<double> number;
@@ -129,8 +130,6 @@ class KnownInstrument {
     bool isModeOpen = false;
     /// Of each channel.
     std::array<FetchedSweeps, 2> fetches;
-    /// The stop behind which several sweeps were fetched.
-    std::optional<Moment> disprovedStop;
     /// The settings under which a stopped instrument made the records that it sends.
     std::array<Told, 2> atStop;
   };
@@ -168,7 +167,7 @@ class KnownInstrument {
   MadeUnder sureOf(const Told& told) const;
   bool mayHaveWaited(Moment requested) const;
   bool isFreeRunning(Moment requested) const;
-  Moment sweptSince(int channel, Moment requested) const;
+  MadeUnder madeUnder(int channel, Moment requested, Moment sweptSince) const;
   Moment sweptAt() const;
   Moment shownSince() const;
   void tell() const {

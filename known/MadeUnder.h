@@ -21,9 +21,9 @@ struct MadeUnder {
   std::optional<double> secondsPerDivision;
   /// The instrument's math in place of the channel: its entry in the math box.
   std::optional<int> mathEntry;
-  /// The stop behind which it was fetched.
+  /// The stop behind which it was fetched: its moment, which no other stop has, on any line.
   std::optional<std::int64_t> stop;
-  /// It may be another sweep than the one that the instrument kept at that stop.
+  /// It may be another sweep than what was fetched behind that stop before.
   bool isOther = false;
   bool operator==(const MadeUnder&) const = default;
 };
@@ -31,7 +31,7 @@ struct MadeUnder {
 /// What is certain whichever of the two holds.
 MadeUnder whicheverHolds(const MadeUnder& a, const MadeUnder& b);
 
-/// Two channels of one instrument, fetched behind one stop.
+/// Both were fetched behind one stop, and nothing else was.
 inline bool areOfOneSweep(const MadeUnder& a, const MadeUnder& b) {
   return a.stop && a.stop == b.stop && !a.isOther && !b.isOther;
 }

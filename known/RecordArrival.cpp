@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "RecordArrival.h"
 
+#include <utility>
+
 namespace tracewell {
 namespace {
 
@@ -8,7 +10,7 @@ using Bytes = FetchedSweeps::Bytes;
 
 Bytes compared(const ChannelRecord& held, const std::string& bytes) {
   if (held.bytes == bytes) return Bytes::same;
-  return held.before == bytes ? Bytes::asBefore : Bytes::other;
+  return held.before.bytes == bytes ? Bytes::asBefore : Bytes::other;
 }
 
 }  // namespace
@@ -17,30 +19,26 @@ bool takeRecord(ChannelRecord& held, const std::string& bytes, const RecordArriv
                 KnownInstrument& known) {
   const Bytes which = compared(held, bytes);
   const bool isOfOtherLine = which == Bytes::same && held.line != arrival.line;
-  MadeUnder made;
-  FetchedSweeps::Proof proof;
-  if (arrival.line == known.presentLine()) {
-    made = known.madeUnder(arrival.channel, arrival.requested);
-    proof = known.fetched(arrival.channel, arrival.requested, which);
-    if (proof.isRunning) made = known.madeUnder(arrival.channel, arrival.requested);
-    made.isOther = made.isOther || proof.isOther;
-  }
+  const KnownInstrument::Fetched fetched =
+      arrival.line == known.presentLine() ? known.fetched(arrival.channel, arrival.requested, which)
+                                          : KnownInstrument::Fetched();
   held.fetchedAt = arrival.now;
-  held.disprovedStop = proof.isStopDisproved ? made.stop : std::nullopt;
   if (which == Bytes::same && !isOfOtherLine) {
-    held.madeUnder.stop = made.stop;
-    held.madeUnder.isOther = made.isOther;
+    held.madeUnder.stop = fetched.made.stop;
+    held.madeUnder.isOther = fetched.made.isOther;
     return false;
   }
+  MadeUnder made = fetched.made;
+  const bool isBack = which == Bytes::asBefore && fetched.mayBeSame;
   // On another line the same bytes may be of the same sweep, too.
-  const MadeUnder& then = which == Bytes::asBefore ? held.beforeMadeUnder : held.madeUnder;
-  if (isOfOtherLine || proof.mayBeSame) {
-    const MadeUnder either = whicheverHolds(made, then);
-    made = {either.voltsPerDivision, either.secondsPerDivision, either.mathEntry, made.stop,
-            made.isOther};
+  if (isOfOtherLine || fetched.mayBeSame) {
+    made = whicheverHolds(made, isBack ? held.before.madeUnder : held.madeUnder);
+    made.stop = fetched.made.stop;
+    made.isOther = fetched.made.isOther;
   }
-  held = {bytes,       arrival.line,       made,       arrival.now,
-          arrival.now, held.disprovedStop, held.bytes, held.madeUnder};
+  const std::int64_t sweepAt = isBack && !made.isOther ? held.before.sweepAt : arrival.now;
+  held = {bytes,   arrival.line, made,
+          sweepAt, arrival.now,  {std::move(held.bytes), held.madeUnder, held.sweepAt}};
   return true;
 }
 

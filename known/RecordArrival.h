@@ -20,8 +20,8 @@ struct RecordArrival {
   std::int64_t now = 0;
 };
 
-/// Takes a record of a channel in the place of the one that is held, and tells `known` of a new
-/// sweep. Of a sweep that was fetched before, only that it is there still is new; false then.
+/// Takes a record of a channel in the place of the one that is held, and tells `known` of it. False
+/// if it is the same one again: then no more than that it is there still, and behind which stop.
 bool takeRecord(ChannelRecord& held, const std::string& bytes, const RecordArrival& arrival,
                 KnownInstrument& known);
 

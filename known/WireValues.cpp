@@ -43,6 +43,12 @@ std::optional<double> plainNumber(std::string_view text) {
   return toDouble(text);
 }
 
+/// The instrument has no other trigger modes.
+std::optional<double> modeNumber(std::string_view text) {
+  const std::optional<double> number = plainNumber(text);
+  return number >= autoLevel && number <= singleMode ? number : std::nullopt;
+}
+
 std::optional<double> sentMath(const WirePart& command) {
   const auto entry = std::ranges::find(mathCommands, command.header + " " + command.argument);
   if (entry == mathCommands.end()) return std::nullopt;
@@ -53,9 +59,8 @@ std::optional<double> sentNumber(Setting setting, const WirePart& command) {
   if (setting == math) return sentMath(command);
   if (setting == running) return command.header == "RUN" ? runningState : stoppedState;
   if (setting == lock) return 0;
-  const std::optional<double> number = plainNumber(command.argument);
-  const bool isMode = number >= autoLevel && number <= singleMode;
-  return setting == triggerMode && !isMode ? std::nullopt : number;
+  if (setting == triggerMode) return modeNumber(command.argument);
+  return plainNumber(command.argument);
 }
 
 std::optional<double> toldPosition(std::string_view reply) {
@@ -75,6 +80,8 @@ std::optional<double> toldNumber(Setting setting, std::string_view reply) {
       return trueNumber(reply, "V");
     case math:
       return std::nullopt;
+    case triggerMode:
+      return modeNumber(reply);
     default:
       return plainNumber(reply);
   }

@@ -337,17 +337,13 @@ OwnMeasurements measure(const ChannelRecord& record) {
 }
 
 OwnMeasurements measure(const ChannelRecord& record, const ChannelRecord& second) {
-  if (!isWhole(record) || !isWhole(second) || !areOfOneSweep(record, second))
+  if (!isWhole(record) || !isWhole(second) || !areOfOneSweep(record.madeUnder, second.madeUnder))
     return measure(record);
   const Shape shape = shapeOf(decodeSamples(record.bytes, 0));
   OwnMeasurements found = measured(shape);
   measureDelay(shape, shapeOf(decodeSamples(second.bytes, 0)), found);
   scaleAll(found, record.madeUnder);
   return found;
-}
-
-bool areOfOneSweep(const ChannelRecord& first, const ChannelRecord& second) {
-  return areOfOneSweep(first.madeUnder, second.madeUnder) && first.line == second.line;
 }
 
 void Statistics::add(const OwnValue& measurement) {

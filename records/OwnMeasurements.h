@@ -125,9 +125,6 @@ OwnMeasurements measure(const ChannelRecord& record, const ChannelRecord& second
 /// The same in units, samples and periods per sample, for samples that are whole.
 OwnMeasurements measureSamples(const Samples& samples);
 
-/// Both are of one stop of one instrument.
-bool areOfOneSweep(const ChannelRecord& first, const ChannelRecord& second);
-
 /// Over many values: mean and standard deviation by Welford's method. Values that are none do not
 /// count.
 class Statistics {

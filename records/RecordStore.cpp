@@ -51,7 +51,7 @@ std::optional<RecordStore::Number> RecordStore::keep(int channel, const ChannelR
   if (record.bytes.empty()) return std::nullopt;
   const std::string_view bytes =
       std::string_view(record.bytes).substr(0, WaveformRecord::byteCount);
-  if (record.disprovedStop) disprove(*record.disprovedStop, record.line);
+  if (record.madeUnder.stop && record.madeUnder.isOther) disprove(*record.madeUnder.stop);
   const auto newest = newestOf(channel);
   RecordFacts* const before = newest ? &slot(*newest).facts : nullptr;
   if (before != nullptr && before->line == record.line && bytesOf(*newest) == bytes) {
@@ -66,7 +66,8 @@ std::optional<RecordStore::Number> RecordStore::keep(int channel, const ChannelR
   facts.channel = channel;
   facts.line = record.line;
   facts.madeUnder = record.madeUnder;
-  facts.sweepAt = record.sweepAt;
+  // One that came back takes its place behind the one in between.
+  facts.sweepAt = record.fetchedAt;
   facts.fetchedAt = record.fetchedAt;
   facts.wallTime = moment.wallTime;
   facts.isSimulated = moment.isSimulated;
@@ -82,9 +83,9 @@ std::optional<RecordStore::Number> RecordStore::keep(int channel, const ChannelR
   return end_ - 1;
 }
 
-void RecordStore::disprove(std::int64_t stop, const InstrumentLine& line) {
-  const auto take = [&](RecordFacts& facts) {
-    if (facts.line == line && facts.madeUnder.stop == stop) facts.madeUnder.isOther = true;
+void RecordStore::disprove(std::int64_t stop) {
+  const auto take = [stop](RecordFacts& facts) {
+    if (facts.madeUnder.stop == stop) facts.madeUnder.isOther = true;
   };
   for (Number number = first_; number < end_; ++number) take(slot(number).facts);
   for (auto& [number, held] : pinned_) take(held.kept.facts);
@@ -153,8 +154,7 @@ std::optional<RecordStore::Number> RecordStore::partnerOf(Number number) const {
   const Number lowest = std::max(first_, number - farthest);
   for (Number other = std::min(end_, number + farthest) - 1; other >= lowest; --other) {
     const RecordFacts& known = facts(other);
-    if (known.channel != wanted.channel && known.line == wanted.line &&
-        areOfOneSweep(known.madeUnder, wanted.madeUnder))
+    if (known.channel != wanted.channel && areOfOneSweep(known.madeUnder, wanted.madeUnder))
       return other;
   }
   return std::nullopt;

@@ -57,7 +57,7 @@ struct RecordFacts {
 
 /// The last records of both channels in their order, and those that have been pinned. Memory grows
 /// in blocks up to the capacity, 9 MB, and no further; what it costs to keep a record does not
-/// depend on how many there are, unless it disproves a stop.
+/// depend on how many there are, unless it is another sweep behind a stop.
 class RecordStore {
  public:
   static constexpr std::size_t capacity = 10000;
@@ -131,8 +131,8 @@ class RecordStore {
   std::string bytesOf(Number number) const;
   const std::string& unpacked(Number number) const;
   void forgetOldest();
-  /// What was fetched behind a stop on that line is of several sweeps.
-  void disprove(std::int64_t stop, const InstrumentLine& line);
+  /// What was fetched behind that stop is of several sweeps.
+  void disprove(std::int64_t stop);
 
   /// A ring: number n is in place n % capacity.
   std::vector<std::unique_ptr<std::array<Kept, blockSize>>> blocks_;

@@ -20,6 +20,9 @@ struct FarEnd {
   /// `answer` for the answer that it gives.
   double thought = 5;
   double byteTime = 0.5;
+  /// It pauses once, behind so many bytes of an answer that is longer.
+  std::size_t pauseBehind = std::string::npos;
+  double pause = 3500;
   /// Bytes that nobody has asked for. They go out from the next time on that the channel is read.
   std::string unasked;
   /// When all that is to be sent has been sent.
@@ -59,7 +62,12 @@ class PacedChannel : public ByteChannel {
 
   void sendFrom(double at, const std::string& bytes) {
     farEnd_.lineFreeAt = std::max(farEnd_.lineFreeAt, at);
-    for (const char byte : bytes) due_.emplace_back(farEnd_.lineFreeAt += farEnd_.byteTime, byte);
+    const bool isPausing = bytes.size() > farEnd_.pauseBehind;
+    for (std::size_t i = 0; i < bytes.size(); ++i) {
+      if (isPausing && i == farEnd_.pauseBehind) farEnd_.lineFreeAt += farEnd_.pause;
+      due_.emplace_back(farEnd_.lineFreeAt += farEnd_.byteTime, bytes[i]);
+    }
+    if (isPausing) farEnd_.pauseBehind = std::string::npos;
   }
 
   std::string take() {

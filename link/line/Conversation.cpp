@@ -23,20 +23,14 @@ bool isBlank(char byte) {
 
 constexpr std::string_view lineEnd = "\r\n";
 
-/// The upper half of a sample within the screen's height. No reply has such a byte.
-bool hasSample(std::string_view bytes) {
-  return bytes.find_first_of(std::string_view("\0\xFF", 2)) != std::string_view::npos;
-}
-
 bool isBlank(std::string_view bytes) {
   return std::ranges::all_of(bytes, [](char byte) { return isBlank(byte); });
 }
 
-/// Blanks and line ends right behind a record are its own, or were its last samples before it was
-/// shifted. No reply is among them.
-std::string_view withoutRecordEnd(std::string_view bytes) {
-  const auto isOwn = [](char byte) { return isBlank(byte) || byte == '\n'; };
-  return {std::ranges::find_if_not(bytes, isOwn), bytes.end()};
+/// The upper half of a sample within the screen's height. No reply has such a byte within.
+bool hasSample(std::string_view line) {
+  const auto first = std::ranges::find_if_not(line, [](char byte) { return isBlank(byte); });
+  return std::any_of(first, line.end(), [](char byte) { return byte == '\0' || byte == '\xFF'; });
 }
 
 }  // namespace
@@ -70,7 +64,7 @@ void Conversation::command(std::string_view line, bool isAnswered) {
 
 std::string Conversation::ask(std::string_view query, int timeOut) {
   makeReadyToAsk(timeOut);
-  // At rest, nothing more of one comes.
+  // At rest, the line end of the last one has come.
   if (state_ == State::idle) outstanding_.heardOther();
   send(query);
   askedAt_ = clock_.milliseconds();
@@ -211,13 +205,11 @@ void Conversation::hearRecord(const std::string& bytes) {
 
 /// Anything but a record's own end shows that a late reply may have come first and shifted all.
 void Conversation::hearBehindRecord(std::string_view bytes) {
-  const std::string_view others = withoutRecordEnd(bytes);
-  behind_ += bytes.substr(0, bytes.size() - others.size());
-  // More than a line end is all the same.
-  behind_.resize(std::min(behind_.size(), lineEnd.size() + 1));
-  if (others.empty()) return;
+  const std::size_t own = outstanding_.take(bytes).bytes;
+  behind_ += bytes.substr(0, own);
+  if (own == bytes.size()) return;
   replies_.mayHaveHeardMissing(askedAt_);
-  hearLines(others, askedAt_);
+  hearLines(bytes.substr(own), askedAt_);
 }
 
 /// The samples of a flat signal are blanks, too. One that is a line end is a level far off the
@@ -286,7 +278,7 @@ void Conversation::hearOwed(std::string_view bytes) {
 /// Takes outstanding records off the front of the bytes. Returns how many bytes these had.
 std::size_t Conversation::payWith(std::string_view bytes) {
   const OutstandingRecords::Taken taken = outstanding_.take(bytes);
-  if (!taken.haveSamples) return taken.bytes;
+  if (!taken.areOfRecord) return taken.bytes;
   replies_.mayHaveHeardMissing(askedAt_);
   isOwedComing_ = true;
   drainTime_ = std::max(drainTime_, recordDrain);
@@ -297,6 +289,12 @@ std::size_t Conversation::payWith(std::string_view bytes) {
 void Conversation::owe() {
   outstanding_.add(record_.count);
   isOwedComing_ = false;
+}
+
+/// A record has broken off. Its rest is nothing that can be waited for, but it may come in front of
+/// a reply or of another record, just like a missing reply.
+void Conversation::mayResume() {
+  replies_.missed(clock_.milliseconds());
 }
 
 /// When the line can be trusted again if nothing more arrives.
@@ -316,7 +314,10 @@ void Conversation::review() {
     account_.gaveUpRecord(record_.bytes.size(), record_.count, now);
     if (!record_.bytes.empty()) replies_.mayHaveHeardMissing(askedAt_);
     // A few bytes may have been the late reply to something else.
-    if (2 * record_.bytes.size() < record_.count) owe();
+    if (2 * record_.bytes.size() < record_.count)
+      owe();
+    else
+      mayResume();
   }
   if (state_ == State::recordHeard) {
     if (mayBeShifted())
@@ -329,6 +330,7 @@ void Conversation::review() {
     outstanding_.clear();
     isOwedComing_ = false;
   }
+  if (state_ == State::draining && outstanding_.dropBrokenOff()) mayResume();
   // A query sent while the record arrived is answered after it.
   const bool isMoreOwed = state_ == State::recordHeard && unanswered_ > 0;
   state_ = isMoreOwed ? State::draining : State::idle;
@@ -395,8 +397,10 @@ std::string Conversation::awaitReply(std::string& received, std::int64_t deadlin
 /// those that have bytes of samples may be one that was cut.
 std::string Conversation::onlyLine(std::string& received, std::size_t length) {
   const std::int64_t until = clock_.milliseconds() + settlingTime();
+  const bool mayHaveSamples = outstanding_.areAny() || replies_.isDue(askedAt_);
   const bool hasRecord =
-      outstanding_.areAny() && (length >= outstanding_.missingOfFirst() || hasSample(received));
+      (outstanding_.areAny() && length >= outstanding_.missingOfFirst()) ||
+      (mayHaveSamples && hasSample(std::string_view(received).substr(0, length)));
   const auto isAlone = [&] {
     return unanswered_ == 1 && !hasRecord && isBlank(std::string_view(received).substr(length));
   };

@@ -138,6 +138,7 @@ class Conversation {
   void hearLines(std::string_view bytes, std::int64_t since);
   void review();
   void owe();
+  void mayResume();
   std::int64_t trustedAt() const;
 
   void makeReadyToAsk(int timeOut);
@@ -165,7 +166,7 @@ class Conversation {
   /// The pending record (recordAwaited), and whether it is still wanted.
   LineRecord record_;
   bool isWanted_ = false;
-  /// The first blanks and line ends that have arrived behind it.
+  /// The blanks and line ends that have arrived behind it.
   std::string behind_;
   /// A record that is whole and not delivered yet.
   std::optional<LineRecord> whole_;

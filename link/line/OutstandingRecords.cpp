@@ -25,16 +25,23 @@ OutstandingRecords::Taken OutstandingRecords::take(std::string_view bytes) {
     taken.bytes += end;
     endBytes_ += end;
     if (!areAny() || taken.bytes == bytes.size()) return taken;
-    const std::size_t samples = std::min(missing_.front(), bytes.size() - taken.bytes);
+    const std::size_t samples = std::min(records_.front().missing, bytes.size() - taken.bytes);
     taken.bytes += samples;
-    taken.haveSamples = true;
+    taken.areOfRecord = true;
     isBehindRecord_ = false;
-    missing_.front() -= samples;
-    if (missing_.front() > 0) return taken;
-    missing_.pop_front();
+    records_.front().missing -= samples;
+    if (records_.front().missing > 0) return taken;
+    records_.pop_front();
     ++taken.whole;
     heardRecord();
   }
+}
+
+/// A few bytes may have been something else, and all of it is still to come.
+bool OutstandingRecords::dropBrokenOff() {
+  if (!areAny() || 2 * records_.front().missing > records_.front().count) return false;
+  records_.pop_front();
+  return true;
 }
 
 }  // namespace tracewell

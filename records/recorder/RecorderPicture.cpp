@@ -184,8 +184,8 @@ RecorderPicture xyPicture(const RecordStore& store, std::span<const DrawnRecords
   RecorderPicture picture;
   picture.mode = RecorderMode::xy;
   const bool isOfOneSweep =
-      channels.size() == 2 &&
-      areOfOneSweep(store.record(channels[0].numbers[0]), store.record(channels[1].numbers[0]));
+      channels.size() == 2 && areOfOneSweep(store.facts(channels[0].numbers[0]).madeUnder,
+                                            store.facts(channels[1].numbers[0]).madeUnder);
   std::array<std::vector<double>, 2> values;
   for (const DrawnRecords& drawn : channels) {
     const RecordStore::Number number = drawn.numbers[0];

@@ -116,7 +116,7 @@ TEST_F(RecordStoreTest, RecordsOfOneStopArePartnersAndShareRowsOfTheTable) {
   EXPECT_NE(csv(2).find("\n6.1,4\n6.10002,4.01\n"), std::string::npos);
   // Another sweep has come behind that stop.
   store.pin(1, "pinned");
-  next.disprovedStop = 3;
+  next.madeUnder = {0.5, 1e-3, std::nullopt, 3, true};
   keep(2, 500);
   EXPECT_FALSE(store.partnerOf(0));
   EXPECT_TRUE(store.record(1).madeUnder.isOther);

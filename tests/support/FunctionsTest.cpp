@@ -2,6 +2,7 @@
 #include <map>
 
 #include "Numbers.h"
+#include "OutstandingRecords.h"
 #include "Played.h"
 #include "ScaleTables.h"
 #include "ServerAddress.h"
@@ -72,10 +73,33 @@ std::string timeOuts(const Lines& of) {
   return std::to_string(ReplyTimeout(state)) + " " + std::to_string(ShortReplyTimeout(state));
 }
 
+/// Records of so many bytes were given up; then what is heard, and how many bytes of it are theirs.
+/// "<", "^", "_" stand for CR, LF, 0; "*" behind a number for each record that became whole.
+std::string outstandingRecords(const Lines& of) {
+  OutstandingRecords records;
+  std::string taken;
+  for (std::string heard : of) {
+    if (heard == "record") records.heardRecord();
+    if (heard == "other") records.heardOther();
+    if (heard == "record" || heard == "other") continue;
+    if (std::isdigit(heard[0]) != 0 && heard.size() == 1) {
+      records.add(std::stoul(heard));
+      continue;
+    }
+    for (char& byte : heard)
+      byte = byte == '<' ? '\r' : byte == '^' ? '\n' : byte == '_' ? 0 : byte;
+    const OutstandingRecords::Taken its = records.take(heard);
+    taken += (taken.empty() ? "" : " ") + std::to_string(its.bytes) + std::string(its.whole, '*') +
+             (its.areOfRecord ? "" : "-");
+  }
+  return taken;
+}
+
 using Function = std::function<std::string(const Lines& of)>;
 
 /// By the name under which tests/scripts/functions.txt calls them.
 const std::map<std::string, Function> functions = {
+    {"outstandingRecords", outstandingRecords},
     {"toInt16", [](auto& of) { return std::to_string(toInt16(number(of[0]))); }},
     {"addInt16", [](auto& of) { return std::to_string(addInt16(whole(of[0]), whole(of[1]))); }},
     {"mulInt16", [](auto& of) { return std::to_string(mulInt16(whole(of[0]), whole(of[1]))); }},

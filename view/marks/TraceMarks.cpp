@@ -190,8 +190,7 @@ bool isReadoutPale(const frmDSO& main) {
 }
 
 bool areOfOneSweep(const frmDSO& main) {
-  const auto [first, second] = std::tie(main.channels[0].record, main.channels[1].record);
-  return areOfOneSweep(first.madeUnder, second.madeUnder) && first.line == second.line;
+  return areOfOneSweep(main.channels[0].record.madeUnder, main.channels[1].record.madeUnder);
 }
 
 std::string traceAges(const frmDSO& main) {

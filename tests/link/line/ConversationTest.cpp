@@ -58,6 +58,8 @@ class LineScript : OnALine<PacedOpener> {
     if (name == "time") user_.timeOut = static_cast<int>(number);
     if (name == "thought") farEnd.thought = number;
     if (name == "byte") farEnd.byteTime = number;
+    if (name == "pause behind") farEnd.pauseBehind = static_cast<std::size_t>(number);
+    if (name == "blanks") blanks_ = static_cast<std::size_t>(number);
     if (name == "free") farEnd.lineFreeAt = 0;
     if (name == "hang up") farEnd.hangUpAfter = value.empty() ? std::string::npos : 0;
     if (name == "behind") behind_ = toLine(value);
@@ -145,7 +147,8 @@ class LineScript : OnALine<PacedOpener> {
     if (!isRecord && line.find('?') == std::string::npos) return "";
     if (ignored_ > 0 && ++asked_ % ignored_ == 0) return "";
     if (!bytes_.empty()) return bytes_;
-    return isRecord ? std::string(length_, line[4]) : line + "\n";
+    return isRecord ? std::string(length_ - blanks_, line[4]) + std::string(blanks_, '\0')
+                    : line + "\n";
   }
 
   void note(const std::string& event) {
@@ -159,6 +162,8 @@ class LineScript : OnALine<PacedOpener> {
   int asked_ = 0;
   std::optional<StandBy::Burst> burst_;
   std::size_t length_ = 1014;
+  /// The last bytes of a record that are 0.
+  std::size_t blanks_ = 0;
   std::string bytes_;
   std::string behind_;
   /// After so many milliseconds each answer comes once more.
