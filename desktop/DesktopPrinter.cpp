@@ -2,13 +2,16 @@
 #include "DesktopPrinter.h"
 
 #include <QApplication>
+#include <QBuffer>
 #include <QFileInfo>
 #include <QPainter>
+#include <QPdfWriter>
 #include <QPrintDialog>
 #include <QPrinterInfo>
 #include <QTextDocument>
 
 #include "Error.h"
+#include "Files.h"
 #include "PaperGraph.h"
 #include "QtImages.h"
 #include "QtValues.h"
@@ -20,8 +23,8 @@ namespace {
 /// Points; texts on paper.
 constexpr qreal textSize = 9;
 
-Error printError(const QString& reason) {
-  return {deviceError, "Printer", fromQt(reason)};
+Error printError() {
+  return {deviceError, "Printer", "Printing has failed"};
 }
 
 }  // namespace
@@ -64,19 +67,37 @@ void DesktopPrinter::finished() {
   isPaperTurned_ = false;
 }
 
+/// A PDF file is made in memory first: what the disk does not take must not cost the file before.
 template <class Paint>
-bool DesktopPrinter::paintAcross(Paint paintPage) {
-  if (!isReady(QPageLayout::Landscape)) return false;
-  QPainter painter;
-  if (!painter.begin(&printer()))
-    throw printError(QStringLiteral("Cannot print to %1")
-                         .arg(printer().outputFileName().isEmpty() ? printer().printerName()
-                                                                   : printer().outputFileName()));
-  paintPage(painter,
-            QRectF(QPointF(0, 0), QSizeF(printer().pageRect(QPrinter::DevicePixel).size())));
-  if (!painter.end()) throw printError(QStringLiteral("Printing has failed"));
+bool DesktopPrinter::print(QPageLayout::Orientation orientation, Paint paint) {
+  if (!isReady(orientation)) return false;
+  if (const QString name = printer().outputFileName(); name.isEmpty()) {
+    paint(printer());
+    if (printer().printerState() == QPrinter::Error) throw printError();
+  } else {
+    QByteArray document;
+    QBuffer buffer(&document);
+    buffer.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&buffer);
+    writer.setPageLayout(printer().pageLayout());
+    writer.setPageRanges(printer().pageRanges());
+    writer.setResolution(printer().resolution());
+    paint(writer);
+    writeWholeFile(toPath(name), document.toStdString());
+  }
   finished();
   return true;
+}
+
+template <class Paint>
+bool DesktopPrinter::printAcross(Paint paintPage) {
+  return print(QPageLayout::Landscape, [&](QPagedPaintDevice& device) {
+    QPainter painter;
+    if (!painter.begin(&device)) throw printError();
+    const QRect page = device.pageLayout().paintRectPixels(device.logicalDpiX());
+    paintPage(painter, QRectF(QPointF(0, 0), QSizeF(page.size())));
+    if (!painter.end()) throw printError();
+  });
 }
 
 std::string DesktopPrinter::file() const {
@@ -85,7 +106,7 @@ std::string DesktopPrinter::file() const {
 }
 
 bool DesktopPrinter::printImage(const Image& image) {
-  return paintAcross([&](QPainter& painter, const QRectF& paper) {
+  return printAcross([&](QPainter& painter, const QRectF& paper) {
     const QImage picture = toQt(image);
     QSizeF size = picture.size();
     size.scale(paper.size(), Qt::KeepAspectRatio);
@@ -94,22 +115,19 @@ bool DesktopPrinter::printImage(const Image& image) {
 }
 
 bool DesktopPrinter::printText(const std::string& text) {
-  if (!isReady(QPageLayout::Portrait)) return false;
-  QTextDocument document;
-  QFont font(QStringLiteral("monospace"));
-  font.setStyleHint(QFont::Monospace);
-  font.setPointSizeF(textSize);
-  document.setDefaultFont(font);
-  document.setPlainText(shownText(text, roomOfPage));
-  document.print(&printer());
-  if (printer().printerState() == QPrinter::Error)
-    throw printError(QStringLiteral("Printing has failed"));
-  finished();
-  return true;
+  return print(QPageLayout::Portrait, [&](QPagedPaintDevice& device) {
+    QTextDocument document;
+    QFont font(QStringLiteral("monospace"));
+    font.setStyleHint(QFont::Monospace);
+    font.setPointSizeF(textSize);
+    document.setDefaultFont(font);
+    document.setPlainText(shownText(text, roomOfPage));
+    document.print(&device);
+  });
 }
 
 bool DesktopPrinter::printPage(const GraphPage& page) {
-  return paintAcross(
+  return printAcross(
       [&](QPainter& painter, const QRectF& paper) { paintOnPaper(page, painter, paper); });
 }
 

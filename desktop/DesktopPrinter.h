@@ -28,7 +28,9 @@ class DesktopPrinter : public Printer {
   bool isReady(QPageLayout::Orientation orientation);
   void finished();
   template <class Paint>
-  bool paintAcross(Paint paintPage);
+  bool print(QPageLayout::Orientation orientation, Paint paint);
+  template <class Paint>
+  bool printAcross(Paint paintPage);
 
   std::optional<QPrinter> printer_;
   bool isSetUp_ = false;

@@ -148,6 +148,10 @@
         <translation>%1 : on ignore si l'enregistrement est à %2</translation>
     </message>
     <message>
+        <source>%1: not the channel, but %2</source>
+        <translation>%1 : non la voie, mais %2</translation>
+    </message>
+    <message>
         <source>%1: question %2 of %3</source>
         <translation>%1 : question %2 sur %3</translation>
     </message>

@@ -148,6 +148,10 @@
         <translation>%1: неизвестно, записано ли при %2</translation>
     </message>
     <message>
+        <source>%1: not the channel, but %2</source>
+        <translation>%1: не канал, а %2</translation>
+    </message>
+    <message>
         <source>%1: question %2 of %3</source>
         <translation>%1: запрос %2 из %3</translation>
     </message>

@@ -148,6 +148,10 @@
         <translation>%1：不知是否在 %2 下记录</translation>
     </message>
     <message>
+        <source>%1: not the channel, but %2</source>
+        <translation>%1：不是通道本身，而是 %2</translation>
+    </message>
+    <message>
         <source>%1: question %2 of %3</source>
         <translation>%1：第 %2 个查询，共 %3 个</translation>
     </message>

@@ -148,6 +148,10 @@
         <translation>%1：唔知係咪用 %2 記錄</translation>
     </message>
     <message>
+        <source>%1: not the channel, but %2</source>
+        <translation>%1：唔係通道本身，而係 %2</translation>
+    </message>
+    <message>
         <source>%1: question %2 of %3</source>
         <translation>%1：第 %2 個查詢，共 %3 個</translation>
     </message>

@@ -10,6 +10,7 @@
 #include "Bench.h"
 #include "DesktopProgram.h"
 #include "Drawn.h"
+#include "FullDisk.h"
 #include "PaperGraph.h"
 #include "QtImages.h"
 #include "QtValues.h"
@@ -111,6 +112,16 @@ TEST_F(PaperTest, AUserWhoIsAskedFindsThePaperAsItFitsOrAsItWasTurned) {
 TEST_F(PaperTest, PlaceThatCannotBeWrittenIsAnErrorThatNamesIt) {
   printer.printToFile(folder.filePath(QStringLiteral("no/such/folder.pdf")));
   EXPECT_NE(errorOf([this] { printer.printPage({}); }).find("folder.pdf"), std::string::npos);
+}
+
+TEST_F(PaperTest, FullDiskLeavesTheDocumentOfBefore) {
+  printer.printToFile(path);
+  printer.printText("Trigger ... [2]\r\n");
+  std::optional<FullDisk> disk(100);
+  const std::string error = errorOf([this] { printer.printPage({}); });
+  disk.reset();
+  EXPECT_NE(error.find(fromQt(path)), std::string::npos) << error;
+  EXPECT_NE(pdfText().find("Trigger ... [2]"), std::string::npos);
 }
 
 TEST_F(PaperTest, PictureOfTheGraphTakesNotesWhereItIsClicked) {

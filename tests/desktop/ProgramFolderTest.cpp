@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ProgramFolder.h"
 
-#include <sys/resource.h>
-
-#include <csignal>
+#include <optional>
 
 #include "Bench.h"
+#include "FullDisk.h"
 
 namespace tracewell {
 namespace {
@@ -97,15 +96,10 @@ TEST(ProgramFolder, SaysWhyTheUsersOneCannotBeUsed) {
   };
   const fs::path underAFile = parent.path() / "dso.cmd" / "tracewell";
   EXPECT_EQ(failureIn(underAFile), "Cannot use " + underAFile.string() + " (Not a directory)");
-  // As on a full disk.
-  rlimit before{};
-  getrlimit(RLIMIT_FSIZE, &before);
-  std::signal(SIGXFSZ, SIG_IGN);
-  const rlimit none{0, before.rlim_max};
-  setrlimit(RLIMIT_FSIZE, &none);
+  std::optional<FullDisk> disk(0);
   const std::string failure = failureIn(parent.path() / "new");
   const fs::path used = filledFolder(shipped.path(), parent.path()).path;
-  setrlimit(RLIMIT_FSIZE, &before);
+  disk.reset();
   EXPECT_TRUE(failure.ends_with("(File too large)")) << failure;
   EXPECT_EQ(used, parent.path()) << "has all but one file";
 }

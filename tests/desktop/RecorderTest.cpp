@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <sys/resource.h>
-
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
@@ -10,13 +8,13 @@
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QTableWidget>
-#include <csignal>
 #include <fstream>
 
 #include "Bench.h"
 #include "DesktopProgram.h"
 #include "DesktopRecorder.h"
 #include "Drawn.h"
+#include "FullDisk.h"
 #include "Listener.h"
 #include "MainFormTest.h"
 #include "QtValues.h"
@@ -211,15 +209,10 @@ TEST_F(RecorderWindowTest, KeepsFollowsStepsPinsShowsLogsAndExports) {
   const auto exported = view.exported();
   EXPECT_EQ(lines("part.csv"), 1 + 500 * (exported.end - exported.first));
   EXPECT_EQ(said(), "Saved " + (folder.path() / "part.csv").string());
-  // As on a full disk. The file that is there stays.
-  rlimit before{};
-  getrlimit(RLIMIT_FSIZE, &before);
-  std::signal(SIGXFSZ, SIG_IGN);
-  const rlimit few{100, before.rlim_max};
-  setrlimit(RLIMIT_FSIZE, &few);
+  std::optional<FullDisk> disk(100);
   view.select(exported.first);
   EXPECT_THROW(window->exportInto(folder.path() / "part.csv"), Error);
-  setrlimit(RLIMIT_FSIZE, &before);
+  disk.reset();
   EXPECT_EQ(lines("part.csv"), 1 + 500 * (exported.end - exported.first));
 
   QApplication::processEvents();

@@ -87,6 +87,12 @@ bool isOfTrace(const ValueLabel& label, std::string_view unit, std::optional<dou
 
 using Sentences = std::vector<StatusLine::Sentence>;
 
+void addMath(Sentences& sentences, const Channel& channel, const std::string& entry) {
+  sentences.push_back([name = channel.display.caption(), entry](const Words& words) {
+    return words.say("%1: not the channel, but %2", {name, entry});
+  });
+}
+
 void addScalesOfTraces(Sentences& sentences, const frmDSO& main) {
   const auto add = [&](const std::string& name, const ValueLabel& label, std::string_view unit,
                        std::optional<double> made) {
@@ -98,7 +104,11 @@ void addScalesOfTraces(Sentences& sentences, const frmDSO& main) {
   for (const Channel& channel : main.channels) {
     if (!hasTrace(channel)) continue;
     const MadeUnder& made = channel.record.madeUnder;
-    add(channel.display.caption(), channel.scale, "V", made.voltsPerDivision);
+    if (made.mathEntry)
+      addMath(sentences, channel,
+              main.cbMath.items().at(static_cast<std::size_t>(*made.mathEntry)));
+    else
+      add(channel.display.caption(), channel.scale, "V", made.voltsPerDivision);
     add(channel.display.caption(), main.lblTime, "s", made.secondsPerDivision);
   }
   // One blank for all.
