@@ -44,7 +44,7 @@ void makeRoom(QLabel& label, bool isMarked) {
 
 /// Between the mark and the end of a button, which may be round.
 int edgeOf(const QPushButton& button) {
-  return button.property("kind").toString() == QLatin1String("lock") ? 6 : 3;
+  return button.property("kind").toString() == QLatin1String("lock") ? 4 : 3;
 }
 
 /// Beside the text, and in the same place when it is there again.
