@@ -2,13 +2,12 @@
 #include "TraceTable.h"
 
 #include <algorithm>
-#include <array>
-#include <charconv>
 #include <iterator>
 #include <optional>
 #include <utility>
 #include <vector>
 
+#include "Numbers.h"
 #include "WaveformRecord.h"
 
 namespace tracewell {
@@ -20,14 +19,8 @@ struct Column {
   std::vector<double> values;
 };
 
-/// More digits than a sample of 16 bits and a scale of three can have between them.
-std::string shortNumber(double value) {
-  std::array<char, 32> digits;
-  constexpr int precision = 7;
-  const auto [end, error] = std::to_chars(digits.data(), digits.data() + digits.size(), value,
-                                          std::chars_format::general, precision);
-  return {digits.data(), end};
-}
+/// More than a sample of 16 bits and a scale of three can have between them.
+constexpr int digits = 7;
 
 /// In divisions, unless it is known what one of them is.
 template <class Samples>
@@ -61,7 +54,7 @@ std::string tableOf(const std::vector<Column>& columns) {
   for (std::size_t row = 0; row < columns[0].values.size(); ++row) {
     for (const Column& column : columns) {
       if (&column != &columns[0]) table += "\t";
-      if (row < column.values.size()) table += shortNumber(column.values[row]);
+      if (row < column.values.size()) table += shortNumberText(column.values[row], digits);
     }
     table += "\n";
   }

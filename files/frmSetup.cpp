@@ -22,7 +22,7 @@ std::size_t find(const std::string& text, const char* what, std::size_t start) {
 struct Report {
   std::string text;
   /// Each value found a bracket of its own.
-  bool isWhole = true;
+  bool isWhole;
 };
 
 /// `text` with every value behind the next "[" from "(RS)" on. A value for which there is no

@@ -5,7 +5,6 @@
 
 #include "Error.h"
 #include "Numbers.h"
-#include "SamplesCsv.h"
 #include "TrueNumbers.h"
 #include "WallTime.h"
 

@@ -3,8 +3,9 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <cmath>
+
+#include "Numbers.h"
 
 namespace tracewell {
 namespace {
@@ -73,13 +74,6 @@ std::string SamplesTable::rows(const ChannelRecord* first, const ChannelRecord* 
     text += "\n";
   }
   return text;
-}
-
-std::string shortNumberText(double value, int digits) {
-  std::array<char, 40> text;
-  const auto [end, error] = std::to_chars(text.data(), text.data() + text.size(), value,
-                                          std::chars_format::general, digits);
-  return {text.data(), end};
 }
 
 SamplesCsvResult writeSamples(const RecordStore& store, const Stretch& stretch,

@@ -58,7 +58,4 @@ struct Stretch {
 SamplesCsvResult writeSamples(const RecordStore& store, const Stretch& stretch,
                               const std::function<void(std::string_view)>& write);
 
-/// The shortest text of a number with so many digits that count, as 1.5e-06.
-std::string shortNumberText(double value, int digits);
-
 }  // namespace tracewell

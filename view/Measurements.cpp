@@ -149,7 +149,6 @@ void Measurements::showResult(int label, int channel, const std::string& title,
   results_.at(static_cast<std::size_t>(label)) =
       Result{channel, number, known.presentLine(), known.now(), false};
   main_.lblMeasure(label).caption = title + reply;
-  main_.lblMeasure(label).notifyChanged();
 }
 
 bool Measurements::isFlagged(int row, std::size_t item) const {

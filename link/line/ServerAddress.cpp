@@ -28,7 +28,7 @@ bool isHost(std::string_view text) {
 }
 
 std::optional<std::uint16_t> portNumber(std::string_view text) {
-  std::uint16_t number = 0;
+  std::uint16_t number{};
   const char* const behind = std::to_address(text.end());
   const auto [end, error] = std::from_chars(text.data(), behind, number);
   const bool isWhole = error == std::errc() && end == behind;

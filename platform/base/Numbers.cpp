@@ -212,6 +212,13 @@ std::string numberText(double value) {
   return text == "-0" ? "0" : text;
 }
 
+std::string shortNumberText(double value, int digits) {
+  NumberBuffer buffer;
+  const auto [end, error] = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
+                                          std::chars_format::general, digits);
+  return {buffer.data(), end};
+}
+
 bool isWholeNumber(std::string_view text) {
   return isNumeric(text) && std::nearbyint(toDouble(text)) == toDouble(text);
 }

@@ -49,6 +49,8 @@ std::string formatTwoDecimals(double value);
 std::string formatDecimals(double value, int decimals);
 /// The shortest decimal text that reads back as the same number, without an exponent.
 std::string numberText(double value);
+/// The shortest text of a number with so many digits that count, as 1.5e-06.
+std::string shortNumberText(double value, int digits);
 
 /// A number without a fraction.
 bool isWholeNumber(std::string_view text);

@@ -6,9 +6,9 @@
 #include <string_view>
 
 #include "Graph.h"
+#include "Numbers.h"
 #include "OwnMeasurements.h"
 #include "RecorderWords.h"
-#include "SamplesCsv.h"
 
 namespace tracewell {
 namespace {
