@@ -33,6 +33,8 @@ struct FarEnd {
   /// It takes nothing more, but may still send.
   bool isDeaf = false;
   int opened = 0;
+  /// How often it was looked whether anything had come.
+  int looks = 0;
 };
 
 class PacedChannel : public ByteChannel {
@@ -47,7 +49,11 @@ class PacedChannel : public ByteChannel {
     announce();
   }
 
+  void rest(int milliseconds) override { restsUntil_ = clock_.milliseconds() + milliseconds; }
+
   std::string read(int timeOut) override {
+    ++farEnd_.looks;
+    restsUntil_ = 0;
     std::string bytes = take();
     for (int waited = 0; bytes.empty() && waited < timeOut && !isGone(); ++waited) {
       clock_.sleep(1);
@@ -88,7 +94,7 @@ class PacedChannel : public ByteChannel {
       if (alive.expired()) return;
       if (!due_.empty() && !isGone()) announce();
       const std::function<void()> tell = readable;
-      if (tell) tell();
+      if (tell && (isGone() || clock_.milliseconds() >= restsUntil_)) tell();
     });
   }
 
@@ -96,6 +102,7 @@ class PacedChannel : public ByteChannel {
   VirtualClock& clock_;
   std::deque<std::pair<double, char>> due_;
   std::size_t taken_ = 0;
+  std::int64_t restsUntil_ = 0;
   std::shared_ptr<int> alive_ = std::make_shared<int>();
 };
 

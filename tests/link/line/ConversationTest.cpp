@@ -70,6 +70,7 @@ class LineScript : OnALine<PacedOpener> {
     if (name == "go on") burst_.reset();
     if (name == "again") again_ = static_cast<int>(number);
     if (name == "report") report();
+    if (name == "looks") note("looks " + std::to_string(farEnd.looks));
     if (name == "unasked")
       for (int i = 0; i < number; ++i) farEnd.unasked += i % 10 == 9 ? '\n' : '5';
     if (name == "refuse") farEnd.isDeaf = number != 0;
