@@ -13,9 +13,10 @@ FetchedSweeps::Proof FetchedSweeps::take(const Fetch& fetch) {
   if (!wasFetchedBehindStop(fetch)) returns_ = 0;
   if (fetch.bytes == Bytes::asBefore) {
     std::swap(last_, before_);
-    proof.mayBeSame = !fetch.isFreeRunning;
     // A damaged record does not come twice.
-    if (++returns_ > 1) last_.otherBehind = before_.otherBehind = fetch.runningSince;
+    proof.isBack = ++returns_ == 1;
+    proof.mayBeSame = proof.isBack || !fetch.isFreeRunning;
+    if (!proof.isBack) last_.otherBehind = before_.otherBehind = fetch.runningSince;
   } else if (fetch.bytes == Bytes::other) {
     proof = takeOther(fetch, sweptSince);
     returns_ = 0;
@@ -27,6 +28,7 @@ FetchedSweeps::Proof FetchedSweeps::take(const Fetch& fetch) {
   return proof;
 }
 
+/// The newest record was requested behind the last stop, or run, of the instrument.
 bool FetchedSweeps::wasFetchedBehindStop(const Fetch& fetch) const {
   return line_ == fetch.line && requested_ >= fetch.runningSince;
 }

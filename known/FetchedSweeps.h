@@ -39,6 +39,8 @@ class FetchedSweeps {
     /// The instrument runs that was, or may have been, stopped, and this record was made under the
     /// present settings.
     bool isRunning = false;
+    /// The sweep of before is there again: the record in between was damaged.
+    bool isBack = false;
     /// It may be the sweep of the record that it was compared with, as it is shown now.
     bool mayBeSame = false;
     /// It may be another sweep than the one that was fetched behind the stop before.

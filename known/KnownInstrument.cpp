@@ -240,7 +240,7 @@ KnownInstrument::Fetched KnownInstrument::fetched(int channel, Moment requested,
   if (proof.isRunning) take(running, {runningState});
   MadeUnder made = madeUnder(channel, requested, proof.sweptSince);
   made.isOther = proof.isOther;
-  return {made, proof.mayBeSame};
+  return {made, proof.isBack, proof.mayBeSame};
 }
 
 /// Math shows both channels.

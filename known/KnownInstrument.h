@@ -33,7 +33,8 @@ class KnownInstrument {
   /// What is known of a record that has arrived.
   struct Fetched {
     MadeUnder made;
-    /// It may be the sweep of the record that it was compared with, as it is shown now.
+    /// As in FetchedSweeps::Proof.
+    bool isBack = false;
     bool mayBeSame = false;
   };
 

@@ -29,14 +29,14 @@ bool takeRecord(ChannelRecord& held, const std::string& bytes, const RecordArriv
     return false;
   }
   MadeUnder made = fetched.made;
-  const bool isBack = which == Bytes::asBefore && fetched.mayBeSame;
   // On another line the same bytes may be of the same sweep, too.
   if (isOfOtherLine || fetched.mayBeSame) {
-    made = whicheverHolds(made, isBack ? held.before.madeUnder : held.madeUnder);
+    const bool isBefore = which == Bytes::asBefore;
+    made = whicheverHolds(made, isBefore ? held.before.madeUnder : held.madeUnder);
     made.stop = fetched.made.stop;
     made.isOther = fetched.made.isOther;
   }
-  const std::int64_t sweepAt = isBack && !made.isOther ? held.before.sweepAt : arrival.now;
+  const std::int64_t sweepAt = fetched.isBack ? held.before.sweepAt : arrival.now;
   held = {bytes,   arrival.line, made,
           sweepAt, arrival.now,  {std::move(held.bytes), held.madeUnder, held.sweepAt}};
   return true;

@@ -45,7 +45,7 @@ std::optional<double> plainNumber(std::string_view text) {
 
 /// The instrument has no other trigger modes.
 std::optional<double> modeNumber(std::string_view text) {
-  const std::optional<double> number = plainNumber(text);
+  const std::optional<double> number = isWholeNumber(text) ? plainNumber(text) : std::nullopt;
   return number >= autoLevel && number <= singleMode ? number : std::nullopt;
 }
 

@@ -40,7 +40,8 @@ struct RecordFacts {
   int channel = 0;
   InstrumentLine line;
   MadeUnder madeUnder;
-  /// As in ChannelRecord; milliseconds of Clock.
+  /// Milliseconds of Clock: when it arrived, for the first time or back again, and when it was last
+  /// fetched.
   std::int64_t sweepAt = 0;
   std::int64_t fetchedAt = 0;
   /// Milliseconds since 1970 when it came first, of the clock on the wall.

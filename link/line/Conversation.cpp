@@ -29,8 +29,11 @@ bool isBlank(std::string_view bytes) {
 
 /// The upper half of a sample within the screen's height. No reply has such a byte within.
 bool hasSample(std::string_view line) {
-  const auto first = std::ranges::find_if_not(line, [](char byte) { return isBlank(byte); });
-  return std::any_of(first, line.end(), [](char byte) { return byte == '\0' || byte == '\xFF'; });
+  constexpr std::string_view ends("\r\n \0", 4);
+  const std::size_t first = line.find_first_not_of(ends);
+  if (first == std::string_view::npos) return false;
+  line = line.substr(first, line.find_last_not_of(ends) + 1 - first);
+  return line.find_first_of(std::string_view("\0\xFF", 2)) != std::string_view::npos;
 }
 
 }  // namespace
@@ -216,7 +219,8 @@ void Conversation::hearBehindRecord(std::string_view bytes) {
 /// screen.
 bool Conversation::mayBeShifted() const {
   const bool isLineEnd = behind_.empty() || behind_ == "\r" || lineEnd.ends_with(behind_);
-  return !isLineEnd && replies_.isDue(askedAt_);
+  const bool isRest = missingRest_ > 0 && behind_.size() == missingRest_;
+  return (!isLineEnd || isRest) && replies_.isDue(askedAt_);
 }
 
 /// The record may be an earlier one that was given up. The outstanding count stays the same: either
@@ -293,7 +297,9 @@ void Conversation::owe() {
 
 /// A record has broken off. Its rest is nothing that can be waited for, but it may come in front of
 /// a reply or of another record, just like a missing reply.
-void Conversation::mayResume() {
+void Conversation::mayResume(std::size_t missing) {
+  missingRest_ = missing;
+  replies_.asked();
   replies_.missed(clock_.milliseconds());
 }
 
@@ -317,7 +323,7 @@ void Conversation::review() {
     if (2 * record_.bytes.size() < record_.count)
       owe();
     else
-      mayResume();
+      mayResume(record_.count - record_.bytes.size());
   }
   if (state_ == State::recordHeard) {
     if (mayBeShifted())
@@ -330,7 +336,8 @@ void Conversation::review() {
     outstanding_.clear();
     isOwedComing_ = false;
   }
-  if (state_ == State::draining && outstanding_.dropBrokenOff()) mayResume();
+  if (state_ == State::draining)
+    if (const std::size_t missing = outstanding_.dropBrokenOff()) mayResume(missing);
   // A query sent while the record arrived is answered after it.
   const bool isMoreOwed = state_ == State::recordHeard && unanswered_ > 0;
   state_ = isMoreOwed ? State::draining : State::idle;

@@ -138,7 +138,7 @@ class Conversation {
   void hearLines(std::string_view bytes, std::int64_t since);
   void review();
   void owe();
-  void mayResume();
+  void mayResume(std::size_t missing);
   std::int64_t trustedAt() const;
 
   void makeReadyToAsk(int timeOut);
@@ -173,6 +173,8 @@ class Conversation {
   /// Records that were given up, and whether any byte of them has arrived since the last one was.
   OutstandingRecords outstanding_;
   bool isOwedComing_ = false;
+  /// Of the record that broke off last.
+  std::size_t missingRest_ = 0;
   /// Requests that wait for the line, the oldest first.
   std::deque<LineRecord> held_;
 

@@ -38,10 +38,11 @@ OutstandingRecords::Taken OutstandingRecords::take(std::string_view bytes) {
 }
 
 /// A few bytes may have been something else, and all of it is still to come.
-bool OutstandingRecords::dropBrokenOff() {
-  if (!areAny() || 2 * records_.front().missing > records_.front().count) return false;
+std::size_t OutstandingRecords::dropBrokenOff() {
+  if (!areAny() || 2 * records_.front().missing > records_.front().count) return 0;
+  const std::size_t missing = records_.front().missing;
   records_.pop_front();
-  return true;
+  return missing;
 }
 
 }  // namespace tracewell

@@ -31,8 +31,9 @@ class OutstandingRecords {
   void add(std::size_t count) { records_.push_back({count, count}); }
   /// None of them will arrive.
   void clear() { records_.clear(); }
-  /// Drops the first one if most of it has arrived, and nothing for long. False if it stays.
-  bool dropBrokenOff();
+  /// Nothing has arrived for long: drops the first one if most of it has, and tells how many bytes
+  /// are missing. 0 if it stays.
+  std::size_t dropBrokenOff();
   /// The last byte of a record has arrived, or bytes that are no record's.
   void heardRecord();
   void heardOther() { isBehindRecord_ = false; }
