@@ -125,6 +125,7 @@ class LineScript : OnALine<PacedOpener> {
       if (reply == query + "\n") reply = "right";
       if (reply == std::to_string(portReadTimeOut)) reply = "none";
       if (reply.ends_with('\n')) reply.back() = '^';
+      std::ranges::replace(reply, '\0', '_');
       note(query + " " + (reply.size() > 60 ? std::to_string(reply.size()) : reply));
     });
   }
