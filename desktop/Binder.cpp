@@ -107,7 +107,8 @@ void bind(Switch& control, const FormParts& parts) {
     button->setText(shownCaption(control.caption()));
     button->setChecked(control.value());
   });
-  QObject::connect(button, &QAbstractButton::clicked, button, [&control] { control.press(); });
+  // Not clicked: a screen reader toggles.
+  QObject::connect(button, &QAbstractButton::toggled, button, [&control] { control.press(); });
 }
 
 void bind(MenuEntry& control, const FormParts& parts) {
@@ -136,7 +137,7 @@ void bind(CheckBox& control, const FormParts& parts) {
     box->setText(shownCaption(control.caption()));
     box->setChecked(control.isChecked());
   });
-  QObject::connect(box, &QCheckBox::clicked, box, [&control] {
+  QObject::connect(box, &QCheckBox::toggled, box, [&control] {
     control.toggle();
     // Also where the program has not taken it.
     control.notifyChanged();
@@ -149,7 +150,7 @@ void bind(OptionButton& control, const FormParts& parts) {
     button->setText(shownCaption(control.caption()));
     showSelected(*button, control.value());
   });
-  QObject::connect(button, &QRadioButton::clicked, button, [&control] { selectByUser(control); });
+  selectWhenChosen(*button, control);
 }
 
 QStringList shownEntries(const std::vector<std::string>& entries) {

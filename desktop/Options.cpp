@@ -2,6 +2,7 @@
 #include "Options.h"
 
 #include <algorithm>
+#include <memory>
 
 #include "Controls.h"
 
@@ -22,6 +23,14 @@ void shareTabStop(const QRadioButton& button) {
     (*option)->setFocusPolicy(option == stop ? Qt::StrongFocus : Qt::ClickFocus);
 }
 
+void selectByUser(OptionButton& option) {
+  option.select();
+  for (Control* control : option.owner().controls()) {
+    const auto* other = dynamic_cast<const OptionButton*>(control);
+    if (other != nullptr && other->group() == option.group()) control->notifyChanged();
+  }
+}
+
 }  // namespace
 
 void showSelected(QRadioButton& button, bool isSelected) {
@@ -31,12 +40,19 @@ void showSelected(QRadioButton& button, bool isSelected) {
   shareTabStop(button);
 }
 
-void selectByUser(OptionButton& option) {
-  option.select();
-  for (Control* control : option.owner().controls()) {
-    const auto* other = dynamic_cast<const OptionButton*>(control);
-    if (other != nullptr && other->group() == option.group()) control->notifyChanged();
-  }
+void selectWhenChosen(QRadioButton& button, OptionButton& option) {
+  // A screen reader toggles without a press or a click; a click on the one that is selected toggles
+  // nothing.
+  const auto isTaken = std::make_shared<bool>(false);
+  QObject::connect(&button, &QRadioButton::pressed, &button, [isTaken] { *isTaken = false; });
+  QObject::connect(&button, &QRadioButton::toggled, &button, [&option, isTaken](bool isOn) {
+    if (!isOn) return;
+    *isTaken = true;
+    selectByUser(option);
+  });
+  QObject::connect(&button, &QRadioButton::clicked, &button, [&option, isTaken] {
+    if (!*isTaken) selectByUser(option);
+  });
 }
 
 }  // namespace tracewell

@@ -12,7 +12,8 @@ class OptionButton;
 /// as a group with arrow keys.
 void showSelected(QRadioButton& button, bool isSelected);
 
-/// What the user selects is the model's; where it has refused, all options show again what holds.
-void selectByUser(OptionButton& option);
+/// From now on what the user selects is the model's; where it has refused, all options show again
+/// what holds.
+void selectWhenChosen(QRadioButton& button, OptionButton& option);
 
 }  // namespace tracewell

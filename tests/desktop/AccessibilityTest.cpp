@@ -135,7 +135,7 @@ TEST_F(AccessibilityTest, WhatChangesIsTold) {
   EXPECT_EQ(heard, Lines{"graphDSO: Stopped. CH1: live"});
 }
 
-TEST_F(AccessibilityTest, ReaderTurnsAKnobAsTheUserDoes) {
+TEST_F(AccessibilityTest, ReaderTurnsAndTicksAsTheUserDoes) {
   QAccessibleValueInterface* knob = reader(*find("knobTime")).valueInterface();
   EXPECT_EQ(knob->maximumValue(), 28);
   knob->setCurrentValue(18);
@@ -145,6 +145,21 @@ TEST_F(AccessibilityTest, ReaderTurnsAKnobAsTheUserDoes) {
   EXPECT_EQ(main.slideTrig.value(), slide->maximumValue().toDouble());
   EXPECT_FALSE(takeWire().empty());
   EXPECT_EQ(takeWire(), Lines());
+  const auto toggle = [this](const char* name) {
+    reader(*find(name)).actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+  };
+  for (const int value : {1, 0}) {
+    toggle("cbCh2");
+    EXPECT_EQ(takeWire(), Lines{":CHAN2:DISP " + std::to_string(value)});
+  }
+  const bool isLocked = main.cmdLock.value();
+  toggle("cmdLock");
+  EXPECT_EQ(find("cmdLock")->property("checked").toBool(), isLocked);
+  for (const char* option : {"opVoltage", "opTime"}) {
+    toggle(option);
+    EXPECT_EQ(main.opTime.value(), option == std::string("opTime"));
+    EXPECT_TRUE(main.graphDSO.cursor("cur1").visible());
+  }
 }
 
 /// The mark adds to what the widget says of itself.
