@@ -60,8 +60,8 @@ bool DesktopPrinter::isReady(QPageLayout::Orientation orientation) {
   return isSetUp_;
 }
 
-/// A file that the user has named takes one print.
-void DesktopPrinter::finished() {
+/// A file that the user has named takes one print, whatever comes of it.
+void DesktopPrinter::askAgain() {
   if (isFileFixed_ || printer().outputFileName().isEmpty()) return;
   isSetUp_ = false;
   isPaperTurned_ = false;
@@ -71,6 +71,7 @@ void DesktopPrinter::finished() {
 template <class Paint>
 bool DesktopPrinter::print(QPageLayout::Orientation orientation, Paint paint) {
   if (!isReady(orientation)) return false;
+  askAgain();
   if (const QString name = printer().outputFileName(); name.isEmpty()) {
     paint(printer());
     if (printer().printerState() == QPrinter::Error) throw printError();
@@ -85,7 +86,6 @@ bool DesktopPrinter::print(QPageLayout::Orientation orientation, Paint paint) {
     paint(writer);
     writeWholeFile(toPath(name), document.toStdString());
   }
-  finished();
   return true;
 }
 

@@ -26,7 +26,7 @@ class DesktopPrinter : public Printer {
   QPrinter& printer();
   /// False if there is no printer and the user has chosen none.
   bool isReady(QPageLayout::Orientation orientation);
-  void finished();
+  void askAgain();
   template <class Paint>
   bool print(QPageLayout::Orientation orientation, Paint paint);
   template <class Paint>

@@ -114,6 +114,20 @@ TEST_F(PaperTest, PlaceThatCannotBeWrittenIsAnErrorThatNamesIt) {
   EXPECT_NE(errorOf([this] { printer.printPage({}); }).find("folder.pdf"), std::string::npos);
 }
 
+TEST_F(PaperTest, FileThatCannotBeWrittenIsAskedForAgain) {
+  int asked = 0;
+  for (int i = 0; i < 2; ++i) {
+    QTimer::singleShot(0, [&] {
+      auto* dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
+      dialog->printer()->setOutputFileName(folder.filePath(QStringLiteral("no/such/folder.pdf")));
+      dialog->done(QDialog::Accepted);
+      ++asked;
+    });
+    EXPECT_FALSE(errorOf([this] { printer.printPage({}); }).empty());
+  }
+  EXPECT_EQ(asked, 2);
+}
+
 TEST_F(PaperTest, FullDiskLeavesTheDocumentOfBefore) {
   printer.printToFile(path);
   printer.printText("Trigger ... [2]\r\n");
