@@ -64,8 +64,7 @@ std::optional<double> sentNumber(Setting setting, const WirePart& command) {
 }
 
 std::optional<double> toldPosition(std::string_view reply) {
-  std::optional<double> volts = trueNumber(reply, "V");
-  if (!volts && beginsWithNumber(captionNumber(reply))) volts = ParseScaleCaption(reply);
+  const std::optional<double> volts = trueNumber(reply, "V");
   return volts && std::fabs(*volts) <= farthestPosition ? volts : std::nullopt;
 }
 

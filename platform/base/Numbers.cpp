@@ -165,10 +165,6 @@ double leadingNumber(std::string_view text) {
   return number.empty() ? 0 : readNumber(number);
 }
 
-bool beginsWithNumber(std::string_view text) {
-  return !numberAtStart(text).empty();
-}
-
 std::string formatExponent(double value) {
   constexpr int decimals = 11;
   NumberBuffer buffer;

@@ -34,8 +34,6 @@ double toDouble(std::string_view text);
 /// The longest number at the start of `text`: leading blanks are skipped, a blank or a letter ends
 /// it (so there is no exponent). 0 if there is none.
 double leadingNumber(std::string_view text);
-/// Whether leadingNumber finds one.
-bool beginsWithNumber(std::string_view text);
 
 /// `text` without the blanks (not tabs, not line ends) at both ends.
 std::string_view trimBlanks(std::string_view text);
