@@ -10,7 +10,7 @@ FetchedSweeps::Proof FetchedSweeps::take(const Fetch& fetch) {
   Proof proof;
   const Moment sweptSince = fetch.mayHaveWaited ? lastOn(fetch.line) : fetch.requested;
   // What came back before a stop says nothing of it.
-  if (!wasFetchedBehindStop(fetch)) returns_ = 0;
+  if (!isLastBehindChange(fetch)) returns_ = 0;
   if (fetch.bytes == Bytes::asBefore) {
     std::swap(last_, before_);
     // A damaged record does not come twice.
@@ -28,8 +28,8 @@ FetchedSweeps::Proof FetchedSweeps::take(const Fetch& fetch) {
   return proof;
 }
 
-/// The newest record was requested behind the last stop, or run, of the instrument.
-bool FetchedSweeps::wasFetchedBehindStop(const Fetch& fetch) const {
+/// The newest record was requested since the instrument runs, or is stopped, as it does now.
+bool FetchedSweeps::isLastBehindChange(const Fetch& fetch) const {
   return line_ == fetch.line && requested_ >= fetch.runningSince;
 }
 
@@ -38,11 +38,11 @@ bool FetchedSweeps::wasFetchedBehindStop(const Fetch& fetch) const {
 FetchedSweeps::Proof FetchedSweeps::takeOther(const Fetch& fetch, Moment sweptSince) {
   constexpr int runningInARow = 4;
   const Moment stableSince = std::max(fetch.shownSince, fetch.runningSince);
-  const bool isOther = wasFetchedBehindStop(fetch) || last_.otherBehind == fetch.runningSince;
+  const bool isOther = isLastBehindChange(fetch) || last_.otherBehind == fetch.runningSince;
   const bool isInARow = lastOn(fetch.line) >= stableSince;
   before_ = last_;
   last_ = {fetch.line, fetch.requested, isInARow ? before_.inARow + 1 : 1, since(fetch.line),
-           fetch.isStopped && isOther ? fetch.runningSince : 0};
+           isOther ? fetch.runningSince : 0};
   Proof proved;
   proved.mayBeSame =
       fetch.mayHaveWaited && !fetch.isStopped && before_.requested < fetch.shownSince;

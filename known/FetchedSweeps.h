@@ -64,12 +64,12 @@ class FetchedSweeps {
     /// How many have come one behind another under the same settings.
     int inARow = 0;
     Moment since = 0;
-    /// The stop behind which another one had been fetched; 0 if none had.
+    /// The stop, or run, behind which another one had been fetched; 0 if none had.
     Moment otherBehind = 0;
   };
 
   Proof takeOther(const Fetch& fetch, Moment sweptSince);
-  bool wasFetchedBehindStop(const Fetch& fetch) const;
+  bool isLastBehindChange(const Fetch& fetch) const;
 
   Swept last_;
   Swept before_;

@@ -21,8 +21,6 @@ bool isBlank(char byte) {
   return byte == '\r' || byte == ' ' || byte == '\0';
 }
 
-constexpr std::string_view lineEnd = "\r\n";
-
 bool isBlank(std::string_view bytes) {
   return std::ranges::all_of(bytes, [](char byte) { return isBlank(byte); });
 }
@@ -60,8 +58,7 @@ void Conversation::command(std::string_view line, bool isAnswered) {
   if (!isAnswered) return;
   askedAt_ = clock_.milliseconds();
   ++unanswered_;
-  replies_.asked();
-  replies_.missed(askedAt_);
+  replies_.mayComeUnasked(askedAt_);
   if (state_ == State::idle) state_ = State::draining;
 }
 
@@ -199,7 +196,6 @@ void Conversation::hearRecord(const std::string& bytes) {
   outstanding_.heardRecord();
   if (outstanding_.areAny()) return refuseRecord(behind);
   state_ = State::recordHeard;
-  behind_.clear();
   clock_.callAfter(settlingTime(), [this, alive = std::weak_ptr(alive_)] {
     if (!alive.expired()) dispatcher_.dispatch([this] { arrived(); });
   });
@@ -209,18 +205,9 @@ void Conversation::hearRecord(const std::string& bytes) {
 /// Anything but a record's own end shows that a late reply may have come first and shifted all.
 void Conversation::hearBehindRecord(std::string_view bytes) {
   const std::size_t own = outstanding_.take(bytes).bytes;
-  behind_ += bytes.substr(0, own);
   if (own == bytes.size()) return;
   replies_.mayHaveHeardMissing(askedAt_);
   hearLines(bytes.substr(own), askedAt_);
-}
-
-/// The samples of a flat signal are blanks, too. One that is a line end is a level far off the
-/// screen.
-bool Conversation::mayBeShifted() const {
-  const bool isLineEnd = behind_.empty() || behind_ == "\r" || lineEnd.ends_with(behind_);
-  const bool isRest = missingRest_ > 0 && behind_.size() == missingRest_;
-  return (!isLineEnd || isRest) && replies_.isDue(askedAt_);
 }
 
 /// The record may be an earlier one that was given up. The outstanding count stays the same: either
@@ -290,17 +277,13 @@ std::size_t Conversation::payWith(std::string_view bytes) {
   return taken.bytes;
 }
 
+/// The pending record is given up. The rest of one that has broken off may come in front of a reply
+/// or of another record, just like a missing reply.
 void Conversation::owe() {
-  outstanding_.add(record_.count);
-  isOwedComing_ = false;
-}
-
-/// A record has broken off. Its rest is nothing that can be waited for, but it may come in front of
-/// a reply or of another record, just like a missing reply.
-void Conversation::mayResume(std::size_t missing) {
-  missingRest_ = missing;
-  replies_.asked();
-  replies_.missed(clock_.milliseconds());
+  if (outstanding_.add(record_.count, record_.bytes.size()))
+    isOwedComing_ = false;
+  else
+    replies_.mayComeUnasked(clock_.milliseconds());
 }
 
 /// When the line can be trusted again if nothing more arrives.
@@ -319,14 +302,10 @@ void Conversation::review() {
   if (state_ == State::recordAwaited) {
     account_.gaveUpRecord(record_.bytes.size(), record_.count, now);
     if (!record_.bytes.empty()) replies_.mayHaveHeardMissing(askedAt_);
-    // A few bytes may have been the late reply to something else.
-    if (2 * record_.bytes.size() < record_.count)
-      owe();
-    else
-      mayResume(record_.count - record_.bytes.size());
+    owe();
   }
   if (state_ == State::recordHeard) {
-    if (mayBeShifted())
+    if (outstanding_.mayBeShifted() && replies_.isDue(askedAt_))
       replies_.mayHaveHeardMissing(askedAt_);
     else if (isWanted_)
       whole_ = std::move(record_);
@@ -336,8 +315,7 @@ void Conversation::review() {
     outstanding_.clear();
     isOwedComing_ = false;
   }
-  if (state_ == State::draining)
-    if (const std::size_t missing = outstanding_.dropBrokenOff()) mayResume(missing);
+  if (state_ == State::draining && outstanding_.dropBrokenOff()) replies_.mayComeUnasked(now);
   // A query sent while the record arrived is answered after it.
   const bool isMoreOwed = state_ == State::recordHeard && unanswered_ > 0;
   state_ = isMoreOwed ? State::draining : State::idle;

@@ -130,7 +130,6 @@ class Conversation {
   void hear(const std::string& bytes);
   void hearRecord(const std::string& bytes);
   void hearBehindRecord(std::string_view bytes);
-  bool mayBeShifted() const;
   void restUntilMoreHasCome();
   void refuseRecord(std::string_view behind);
   void hearOwed(std::string_view bytes);
@@ -138,7 +137,6 @@ class Conversation {
   void hearLines(std::string_view bytes, std::int64_t since);
   void review();
   void owe();
-  void mayResume(std::size_t missing);
   std::int64_t trustedAt() const;
 
   void makeReadyToAsk(int timeOut);
@@ -166,15 +164,11 @@ class Conversation {
   /// The pending record (recordAwaited), and whether it is still wanted.
   LineRecord record_;
   bool isWanted_ = false;
-  /// The blanks and line ends that have arrived behind it.
-  std::string behind_;
   /// A record that is whole and not delivered yet.
   std::optional<LineRecord> whole_;
   /// Records that were given up, and whether any byte of them has arrived since the last one was.
   OutstandingRecords outstanding_;
   bool isOwedComing_ = false;
-  /// Of the record that broke off last.
-  std::size_t missingRest_ = 0;
   /// Requests that wait for the line, the oldest first.
   std::deque<LineRecord> held_;
 

@@ -5,9 +5,41 @@
 
 namespace tracewell {
 
+bool OutstandingRecords::add(std::size_t count, std::size_t arrived) {
+  if (breaksOff({count, count - arrived})) return false;
+  // A few bytes may have been something else, and all of it is still to come.
+  records_.push_back({count, count});
+  return true;
+}
+
+bool OutstandingRecords::dropBrokenOff() {
+  if (!areAny() || !breaksOff(records_.front())) return false;
+  records_.pop_front();
+  return true;
+}
+
+bool OutstandingRecords::breaksOff(const Record& record) {
+  const bool isMostThere = 2 * record.missing <= record.count;
+  if (isMostThere) missingRest_ = record.missing;
+  return isMostThere;
+}
+
 void OutstandingRecords::heardRecord() {
   isBehindRecord_ = true;
   endBytes_ = 0;
+  endBegin_.clear();
+}
+
+void OutstandingRecords::heardEnd(std::string_view bytes) {
+  constexpr std::size_t telling = 3;
+  endBytes_ += bytes.size();
+  endBegin_.append(bytes.substr(0, telling - endBegin_.size()));
+}
+
+bool OutstandingRecords::mayBeShifted() const {
+  constexpr std::string_view lineEnd = "\r\n";
+  const bool isLineEnd = endBegin_ == "\r" || lineEnd.ends_with(endBegin_);
+  return !isLineEnd || (missingRest_ > 0 && endBytes_ == missingRest_);
 }
 
 std::size_t OutstandingRecords::ownEndOf(std::string_view bytes) const {
@@ -23,7 +55,7 @@ OutstandingRecords::Taken OutstandingRecords::take(std::string_view bytes) {
   while (true) {
     const std::size_t end = ownEndOf(bytes.substr(taken.bytes));
     taken.bytes += end;
-    endBytes_ += end;
+    heardEnd(bytes.substr(taken.bytes - end, end));
     if (!areAny() || taken.bytes == bytes.size()) return taken;
     const std::size_t samples = std::min(records_.front().missing, bytes.size() - taken.bytes);
     taken.bytes += samples;
@@ -35,14 +67,6 @@ OutstandingRecords::Taken OutstandingRecords::take(std::string_view bytes) {
     ++taken.whole;
     heardRecord();
   }
-}
-
-/// A few bytes may have been something else, and all of it is still to come.
-std::size_t OutstandingRecords::dropBrokenOff() {
-  if (!areAny() || 2 * records_.front().missing > records_.front().count) return 0;
-  const std::size_t missing = records_.front().missing;
-  records_.pop_front();
-  return missing;
 }
 
 }  // namespace tracewell

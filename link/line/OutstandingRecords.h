@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <deque>
+#include <string>
 #include <string_view>
 
 namespace tracewell {
@@ -27,19 +28,23 @@ class OutstandingRecords {
   /// How many bytes of the first one are missing. There must be one.
   std::size_t missingOfFirst() const { return records_.front().missing; }
 
-  /// A record of `count` bytes, more than none, was given up.
-  void add(std::size_t count) { records_.push_back({count, count}); }
+  /// A record was given up, of which so many bytes have arrived. False if most of it has: its rest
+  /// is nothing to wait for.
+  bool add(std::size_t count, std::size_t arrived);
   /// None of them will arrive.
   void clear() { records_.clear(); }
-  /// Nothing has arrived for long: drops the first one if most of it has, and tells how many bytes
-  /// are missing. 0 if it stays.
-  std::size_t dropBrokenOff();
+  /// Nothing has arrived for long. True if the first one is dropped, since most of it has arrived.
+  bool dropBrokenOff();
   /// The last byte of a record has arrived, or bytes that are no record's.
   void heardRecord();
   void heardOther() { isBehindRecord_ = false; }
 
   /// Takes off the front of `bytes` what is theirs.
   Taken take(std::string_view bytes);
+  /// What stands behind the last record is more than a line end, or is as long as the rest of one
+  /// that broke off: other bytes may have come first and shifted it. The samples of a flat signal
+  /// are blanks, too; one that is a line end is a level far off the screen.
+  bool mayBeShifted() const;
 
  private:
   struct Record {
@@ -48,12 +53,18 @@ class OutstandingRecords {
   };
 
   std::size_t ownEndOf(std::string_view bytes) const;
+  void heardEnd(std::string_view bytes);
+  bool breaksOff(const Record& record);
 
   /// The first that was requested first.
   std::deque<Record> records_;
-  /// No more than line ends and blanks have arrived since the last byte of a record, and how many.
+  /// No more than line ends and blanks have arrived since the last byte of a record.
   bool isBehindRecord_ = false;
+  /// How many, and the first of them.
   std::size_t endBytes_ = 0;
+  std::string endBegin_;
+  /// Of the record that broke off last.
+  std::size_t missingRest_ = 0;
 };
 
 }  // namespace tracewell

@@ -34,6 +34,11 @@ void SureReplies::missed(std::int64_t now) {
   missing_->lastAt = now;
 }
 
+void SureReplies::mayComeUnasked(std::int64_t now) {
+  asked();
+  missed(now);
+}
+
 void SureReplies::returned(std::int64_t askedAt, std::int64_t now) {
   if (!isDue(askedAt)) missing_.reset();
   if (missing_) {

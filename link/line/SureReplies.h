@@ -42,6 +42,9 @@ class SureReplies {
   void asked();
   /// Nobody waits for its reply any more.
   void missed(std::int64_t now);
+  /// Bytes that nobody will wait for may come in front of a reply: that to a query in a command, or
+  /// the rest of a record that broke off.
+  void mayComeUnasked(std::int64_t now);
   /// The reply to a query sent at `askedAt` is returned.
   void returned(std::int64_t askedAt, std::int64_t now);
   /// A line arrived while a reply was outstanding, and is not returned.

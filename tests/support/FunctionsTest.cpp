@@ -83,7 +83,7 @@ std::string outstandingRecords(const Lines& of) {
     if (heard == "other") records.heardOther();
     if (heard == "record" || heard == "other") continue;
     if (std::isdigit(heard[0]) != 0 && heard.size() == 1) {
-      records.add(std::stoul(heard));
+      records.add(std::stoul(heard), 0);
       continue;
     }
     for (char& byte : heard)
