@@ -23,6 +23,7 @@ struct ChannelRecord {
   /// What was received before these bytes.
   struct Before {
     std::string bytes;
+    InstrumentLine line;
     MadeUnder madeUnder;
     std::int64_t sweepAt = 0;
   };

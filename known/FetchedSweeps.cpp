@@ -17,6 +17,7 @@ FetchedSweeps::Proof FetchedSweeps::take(const Fetch& fetch) {
     proof.isBack = ++returns_ == 1;
     proof.mayBeSame = proof.isBack || !fetch.isFreeRunning;
     if (!proof.isBack) last_.otherBehind = before_.otherBehind = fetch.runningSince;
+    if (!proof.mayBeSame) last_.since = std::max({last_.since, before_.since, sweptSince});
   } else if (fetch.bytes == Bytes::other) {
     proof = takeOther(fetch, sweptSince);
     returns_ = 0;

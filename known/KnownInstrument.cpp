@@ -392,7 +392,7 @@ bool KnownInstrument::mayHaveWaited(Moment requested) const {
 }
 
 bool KnownInstrument::isFreeRunning(Moment requested) const {
-  const bool isRunning = !isStopped() && !mayBeStopped();
+  const bool isRunning = !isStopped() && !mayBeStopped() && changedAt(running) <= requested;
   return isRunning && isKnown(triggerMode) && !mayHaveWaited(requested);
 }
 

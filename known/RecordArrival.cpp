@@ -8,22 +8,31 @@ namespace {
 
 using Bytes = FetchedSweeps::Bytes;
 
-Bytes compared(const ChannelRecord& held, const std::string& bytes) {
-  if (held.bytes == bytes) return Bytes::same;
-  return held.before.bytes == bytes ? Bytes::asBefore : Bytes::other;
-}
+/// A record of this channel that has the same bytes, of two that are held.
+struct Earlier {
+  const InstrumentLine& line;
+  const MadeUnder& madeUnder;
+  std::int64_t sweepAt;
+};
 
 }  // namespace
 
 bool takeRecord(ChannelRecord& held, const std::string& bytes, const RecordArrival& arrival,
                 KnownInstrument& known) {
-  const Bytes which = compared(held, bytes);
-  const bool isOfOtherLine = which == Bytes::same && held.line != arrival.line;
+  const ChannelRecord::Before& before = held.before;
+  const bool isSame = held.bytes == bytes;
+  const bool isBefore = !isSame && before.bytes == bytes;
+  const Earlier earlier = isBefore ? Earlier{before.line, before.madeUnder, before.sweepAt}
+                                   : Earlier{held.line, held.madeUnder, held.sweepAt};
+  const bool isOfOtherLine = (isSame || isBefore) && earlier.line != arrival.line;
+  const Bytes which = isSame                       ? Bytes::same
+                      : isBefore && !isOfOtherLine ? Bytes::asBefore
+                                                   : Bytes::other;
   const KnownInstrument::Fetched fetched =
       arrival.line == known.presentLine() ? known.fetched(arrival.channel, arrival.requested, which)
                                           : KnownInstrument::Fetched();
   held.fetchedAt = arrival.now;
-  if (which == Bytes::same && !isOfOtherLine) {
+  if (isSame && !isOfOtherLine) {
     held.madeUnder.stop = fetched.made.stop;
     held.madeUnder.isOther = fetched.made.isOther;
     return false;
@@ -31,14 +40,13 @@ bool takeRecord(ChannelRecord& held, const std::string& bytes, const RecordArriv
   MadeUnder made = fetched.made;
   // On another line the same bytes may be of the same sweep, too.
   if (isOfOtherLine || fetched.mayBeSame) {
-    const bool isBefore = which == Bytes::asBefore;
-    made = whicheverHolds(made, isBefore ? held.before.madeUnder : held.madeUnder);
+    made = whicheverHolds(made, earlier.madeUnder);
     made.stop = fetched.made.stop;
     made.isOther = fetched.made.isOther;
   }
-  const std::int64_t sweepAt = fetched.isBack ? held.before.sweepAt : arrival.now;
+  const std::int64_t sweepAt = isOfOtherLine || fetched.isBack ? earlier.sweepAt : arrival.now;
   held = {bytes,   arrival.line, made,
-          sweepAt, arrival.now,  {std::move(held.bytes), held.madeUnder, held.sweepAt}};
+          sweepAt, arrival.now,  {std::move(held.bytes), held.line, held.madeUnder, held.sweepAt}};
   return true;
 }
 

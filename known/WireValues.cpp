@@ -38,14 +38,9 @@ std::optional<WireValue> toldScale(Setting scale, std::string_view reply) {
   return isCaption || reply == "Null" ? scaleValue(scale, reply) : std::nullopt;
 }
 
-std::optional<double> plainNumber(std::string_view text) {
-  if (!isNumeric(text)) return std::nullopt;
-  return toDouble(text);
-}
-
 /// The instrument has no other trigger modes.
 std::optional<double> modeNumber(std::string_view text) {
-  const std::optional<double> number = isWholeNumber(text) ? plainNumber(text) : std::nullopt;
+  const std::optional<double> number = isWholeNumber(text) ? finiteNumber(text) : std::nullopt;
   return number >= autoLevel && number <= singleMode ? number : std::nullopt;
 }
 
@@ -60,7 +55,7 @@ std::optional<double> sentNumber(Setting setting, const WirePart& command) {
   if (setting == running) return command.header == "RUN" ? runningState : stoppedState;
   if (setting == lock) return 0;
   if (setting == triggerMode) return modeNumber(command.argument);
-  return plainNumber(command.argument);
+  return finiteNumber(command.argument);
 }
 
 std::optional<double> toldPosition(std::string_view reply) {
@@ -82,7 +77,7 @@ std::optional<double> toldNumber(Setting setting, std::string_view reply) {
     case triggerMode:
       return modeNumber(reply);
     default:
-      return plainNumber(reply);
+      return finiteNumber(reply);
   }
 }
 

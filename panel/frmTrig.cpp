@@ -108,8 +108,8 @@ void frmTrig::showStoredAdvancedSettings() {
   for (TextBox& box : txtTrigAdv) {
     box.text = main_.gridMeasure.text(SetupTable::advancedTrigger, column++);
     unanswered_.note(box, [this, &box, its = *setting++] {
-      return !fmAdv.enabled() ||
-             (isNumeric(box.text()) && main_.known.number(its) == toDouble(box.text()));
+      const std::optional<double> typed = finiteNumber(box.text());
+      return !fmAdv.enabled() || (typed && main_.known.number(its) == typed);
     });
   }
 }

@@ -311,11 +311,11 @@ void Conversation::review() {
       whole_ = std::move(record_);
   }
   const bool isOwedOver = isOwedComing_ && now >= std::max(askedAt_, heardAt_) + recordDrain;
-  if (state_ == State::draining && isOwedOver) {
-    outstanding_.clear();
-    isOwedComing_ = false;
+  if (state_ == State::draining) {
+    const bool mayRestCome = isOwedOver ? outstanding_.giveUp() : outstanding_.dropBrokenOff();
+    if (mayRestCome) replies_.mayComeUnasked(now);
+    if (isOwedOver) isOwedComing_ = false;
   }
-  if (state_ == State::draining && outstanding_.dropBrokenOff()) replies_.mayComeUnasked(now);
   // A query sent while the record arrived is answered after it.
   const bool isMoreOwed = state_ == State::recordHeard && unanswered_ > 0;
   state_ = isMoreOwed ? State::draining : State::idle;
@@ -410,7 +410,10 @@ void Conversation::arrived() {
     if (whole_) {
       const LineRecord record = *std::exchange(whole_, std::nullopt);
       account_.gaveRecord(clock_.milliseconds());
-      if (unanswered_ == 0) replies_.heardRecord();
+      if (unanswered_ == 0) {
+        replies_.heardRecord();
+        outstanding_.clear();
+      }
       delivered(record);
     }
     if (dispatcher_.isOpen()) sendHeld();

@@ -4,6 +4,11 @@
 #include <algorithm>
 
 namespace tracewell {
+namespace {
+
+constexpr std::string_view lineEnd = "\r\n";
+
+}  // namespace
 
 bool OutstandingRecords::add(std::size_t count, std::size_t arrived) {
   if (breaksOff({count, count - arrived})) return false;
@@ -18,10 +23,29 @@ bool OutstandingRecords::dropBrokenOff() {
   return true;
 }
 
+bool OutstandingRecords::giveUp() {
+  const bool hasBegun = areAny() && records_.front().missing < records_.front().count;
+  if (hasBegun) restMayCome(records_.front().missing);
+  records_.clear();
+  return hasBegun;
+}
+
+void OutstandingRecords::clear() {
+  records_.clear();
+  rests_.clear();
+}
+
 bool OutstandingRecords::breaksOff(const Record& record) {
   const bool isMostThere = 2 * record.missing <= record.count;
-  if (isMostThere) missingRest_ = record.missing;
+  if (isMostThere) restMayCome(record.missing);
   return isMostThere;
+}
+
+void OutstandingRecords::restMayCome(std::size_t missing) {
+  std::set<std::size_t> more = {missing};
+  for (const std::size_t rest : rests_) more.insert(rest + missing);
+  rests_.merge(more);
+  rests_.erase(rests_.upper_bound(lineEnd.size()), rests_.end());
 }
 
 void OutstandingRecords::heardRecord() {
@@ -37,17 +61,15 @@ void OutstandingRecords::heardEnd(std::string_view bytes) {
 }
 
 bool OutstandingRecords::mayBeShifted() const {
-  constexpr std::string_view lineEnd = "\r\n";
   const bool isLineEnd = endBegin_ == "\r" || lineEnd.ends_with(endBegin_);
-  return !isLineEnd || (missingRest_ > 0 && endBytes_ == missingRest_);
+  return !isLineEnd || rests_.contains(endBytes_);
 }
 
 std::size_t OutstandingRecords::ownEndOf(std::string_view bytes) const {
   constexpr std::string_view blanks("\r\n \0", 4);
-  constexpr std::size_t longestEnd = 2;
   if (!isBehindRecord_) return 0;
   const std::size_t blank = std::min(bytes.find_first_not_of(blanks), bytes.size());
-  return areAny() ? std::min(blank, longestEnd - std::min(endBytes_, longestEnd)) : blank;
+  return areAny() ? std::min(blank, lineEnd.size() - std::min(endBytes_, lineEnd.size())) : blank;
 }
 
 OutstandingRecords::Taken OutstandingRecords::take(std::string_view bytes) {

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <deque>
+#include <set>
 #include <string>
 #include <string_view>
 
@@ -31,17 +32,21 @@ class OutstandingRecords {
   /// A record was given up, of which so many bytes have arrived. False if most of it has: its rest
   /// is nothing to wait for.
   bool add(std::size_t count, std::size_t arrived);
-  /// None of them will arrive.
-  void clear() { records_.clear(); }
-  /// Nothing has arrived for long. True if the first one is dropped, since most of it has arrived.
+  /// All that will arrive of them has.
+  void clear();
+  /// Nothing has arrived for long: the first one is dropped if most of it has arrived. True if its
+  /// rest may still come.
   bool dropBrokenOff();
+  /// Nothing has arrived for so long that none of them will. True if the rest of one may still
+  /// come.
+  bool giveUp();
   /// The last byte of a record has arrived, or bytes that are no record's.
   void heardRecord();
   void heardOther() { isBehindRecord_ = false; }
 
   /// Takes off the front of `bytes` what is theirs.
   Taken take(std::string_view bytes);
-  /// What stands behind the last record is more than a line end, or is as long as the rest of one
+  /// What stands behind the last record is more than a line end, or is as long as the rest of some
   /// that broke off: other bytes may have come first and shifted it. The samples of a flat signal
   /// are blanks, too; one that is a line end is a level far off the screen.
   bool mayBeShifted() const;
@@ -55,6 +60,7 @@ class OutstandingRecords {
   std::size_t ownEndOf(std::string_view bytes) const;
   void heardEnd(std::string_view bytes);
   bool breaksOff(const Record& record);
+  void restMayCome(std::size_t missing);
 
   /// The first that was requested first.
   std::deque<Record> records_;
@@ -63,8 +69,9 @@ class OutstandingRecords {
   /// How many, and the first of them.
   std::size_t endBytes_ = 0;
   std::string endBegin_;
-  /// Of the record that broke off last.
-  std::size_t missingRest_ = 0;
+  /// How many bytes the rests of records that broke off may have together, up to those of a line
+  /// end.
+  std::set<std::size_t> rests_;
 };
 
 }  // namespace tracewell

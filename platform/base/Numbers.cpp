@@ -60,8 +60,8 @@ std::size_t decimalLength(std::string_view text) {
   return digits == 0 ? 0 : end;
 }
 
-/// Reads a text that is known to be a number; from_chars knows no "+".
-double readNumber(std::string_view text) {
+/// Reads a text that is known to be a number; nothing if it is too large. from_chars knows no "+".
+std::optional<double> readNumber(std::string_view text) {
   if (text.starts_with('+')) text.remove_prefix(1);
   double value = 0;
   const auto [end, status] = std::from_chars(text.data(), text.data() + text.size(), value);
@@ -71,7 +71,7 @@ double readNumber(std::string_view text) {
   if (exponent != std::string_view::npos &&
       text.substr(exponent).find('-') != std::string_view::npos)
     return 0;
-  throw overflowError();
+  return std::nullopt;
 }
 
 std::string withoutTrailingZeros(std::string mantissa) {
@@ -99,7 +99,12 @@ double atFifteenDigits(double value) {
   char* const start = buffer.data();
   const char* const end =
       std::to_chars(start, start + buffer.size(), value, std::chars_format::scientific, 14).ptr;
-  return readNumber({start, end});
+  return *readNumber({start, end});
+}
+
+double orOverflow(std::optional<double> number) {
+  if (!number) throw overflowError();
+  return *number;
 }
 
 std::string_view numberAtStart(std::string_view text) {
@@ -155,14 +160,18 @@ bool isNumeric(std::string_view text) {
   return exponent < text.size() && skipDigits(text, exponent) == text.size();
 }
 
+std::optional<double> finiteNumber(std::string_view text) {
+  return isNumeric(text) ? readNumber(trimBlanks(text)) : std::nullopt;
+}
+
 double toDouble(std::string_view text) {
   if (!isNumeric(text)) throw typeMismatchError();
-  return readNumber(trimBlanks(text));
+  return orOverflow(finiteNumber(text));
 }
 
 double leadingNumber(std::string_view text) {
   const std::string_view number = numberAtStart(text);
-  return number.empty() ? 0 : readNumber(number);
+  return number.empty() ? 0 : orOverflow(readNumber(number));
 }
 
 std::string formatExponent(double value) {
@@ -216,7 +225,8 @@ std::string shortNumberText(double value, int digits) {
 }
 
 bool isWholeNumber(std::string_view text) {
-  return isNumeric(text) && std::nearbyint(toDouble(text)) == toDouble(text);
+  const std::optional<double> number = finiteNumber(text);
+  return number && std::nearbyint(*number) == *number;
 }
 
 std::string smallLetters(std::string text) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -29,7 +30,9 @@ double divide(double a, double b);
 /// True for one number: digits with at most one point. Blanks around it, one sign and an exponent
 /// are allowed, nothing else.
 bool isNumeric(std::string_view text);
-/// The number in `text`; raises "Type mismatch" unless isNumeric(text), "Overflow" if too large.
+/// The number in `text`; nothing unless isNumeric(text), or if it is too large.
+std::optional<double> finiteNumber(std::string_view text);
+/// The same; raises "Type mismatch" unless isNumeric(text), "Overflow" if too large.
 double toDouble(std::string_view text);
 /// The longest number at the start of `text`: leading blanks are skipped, a blank or a letter ends
 /// it (so there is no exponent). 0 if there is none.
@@ -50,7 +53,7 @@ std::string numberText(double value);
 /// The shortest text of a number with so many digits that count, as 1.5e-06.
 std::string shortNumberText(double value, int digits);
 
-/// A number without a fraction.
+/// A finite number without a fraction.
 bool isWholeNumber(std::string_view text);
 
 /// With small letters for A to Z, whatever the locale is.

@@ -59,6 +59,7 @@ class LineScript : OnALine<PacedOpener> {
     if (name == "thought") farEnd.thought = number;
     if (name == "byte") farEnd.byteTime = number;
     if (name == "pause behind") farEnd.pauseBehind = static_cast<std::size_t>(number);
+    if (name == "pause") farEnd.pause = number;
     if (name == "blanks") blanks_ = static_cast<std::size_t>(number);
     if (name == "free") farEnd.lineFreeAt = 0;
     if (name == "hang up") farEnd.hangUpAfter = value.empty() ? std::string::npos : 0;
