@@ -23,8 +23,8 @@ namespace {
 /// Points; texts on paper.
 constexpr qreal textSize = 9;
 
-Error printError() {
-  return {deviceError, "Printer", "Printing has failed"};
+Error printError(const QString& printerName) {
+  return {deviceError, "Printer", "Printing has failed: " + fromQt(printerName)};
 }
 
 }  // namespace
@@ -49,11 +49,19 @@ void DesktopPrinter::printToFile(const QString& path) {
   isFileFixed_ = true;
 }
 
+/// A printer, too, may have the name of a file, which its driver asks for.
+bool DesktopPrinter::isForFile() {
+  return printer().outputFormat() == QPrinter::PdfFormat && !printer().outputFileName().isEmpty();
+}
+
+bool DesktopPrinter::isGrey() {
+  return printer().colorMode() == QPrinter::GrayScale;
+}
+
 /// The paper lies as it fits before the user is asked, who may turn it.
 bool DesktopPrinter::isReady(QPageLayout::Orientation orientation) {
   if (!isPaperTurned_) printer().setPageOrientation(orientation);
-  const bool isForFile = !printer().outputFileName().isEmpty();
-  if (!isSetUp_ && (isForFile || QPrinterInfo::defaultPrinter().isNull()))
+  if (!isSetUp_ && (isForFile() || QPrinterInfo::defaultPrinter().isNull()))
     setUp();
   else
     isSetUp_ = true;
@@ -62,7 +70,7 @@ bool DesktopPrinter::isReady(QPageLayout::Orientation orientation) {
 
 /// A file that the user has named takes one print, whatever comes of it.
 void DesktopPrinter::askAgain() {
-  if (isFileFixed_ || printer().outputFileName().isEmpty()) return;
+  if (isFileFixed_ || !isForFile()) return;
   isSetUp_ = false;
   isPaperTurned_ = false;
 }
@@ -72,9 +80,9 @@ template <class Paint>
 bool DesktopPrinter::print(QPageLayout::Orientation orientation, Paint paint) {
   if (!isReady(orientation)) return false;
   askAgain();
-  if (const QString name = printer().outputFileName(); name.isEmpty()) {
+  if (!isForFile()) {
     paint(printer());
-    if (printer().printerState() == QPrinter::Error) throw printError();
+    if (printer().printerState() == QPrinter::Error) throw printError(printer().printerName());
   } else {
     QByteArray document;
     QBuffer buffer(&document);
@@ -84,7 +92,7 @@ bool DesktopPrinter::print(QPageLayout::Orientation orientation, Paint paint) {
     writer.setPageRanges(printer().pageRanges());
     writer.setResolution(printer().resolution());
     paint(writer);
-    writeWholeFile(toPath(name), document.toStdString());
+    writeWholeFile(toPath(printer().outputFileName()), document.toStdString());
   }
   return true;
 }
@@ -93,10 +101,10 @@ template <class Paint>
 bool DesktopPrinter::printAcross(Paint paintPage) {
   return print(QPageLayout::Landscape, [&](QPagedPaintDevice& device) {
     QPainter painter;
-    if (!painter.begin(&device)) throw printError();
+    if (!painter.begin(&device)) throw printError(printer().printerName());
     const QRect page = device.pageLayout().paintRectPixels(device.logicalDpiX());
     paintPage(painter, QRectF(QPointF(0, 0), QSizeF(page.size())));
-    if (!painter.end()) throw printError();
+    if (!painter.end()) throw printError(printer().printerName());
   });
 }
 
@@ -107,7 +115,8 @@ std::string DesktopPrinter::file() const {
 
 bool DesktopPrinter::printImage(const Image& image) {
   return printAcross([&](QPainter& painter, const QRectF& paper) {
-    const QImage picture = toQt(image);
+    QImage picture = toQt(image);
+    if (isGrey()) picture.convertTo(QImage::Format_Grayscale8);
     QSizeF size = picture.size();
     size.scale(paper.size(), Qt::KeepAspectRatio);
     painter.drawImage(QRectF(paper.topLeft(), size), picture);
@@ -127,8 +136,9 @@ bool DesktopPrinter::printText(const std::string& text) {
 }
 
 bool DesktopPrinter::printPage(const GraphPage& page) {
-  return printAcross(
-      [&](QPainter& painter, const QRectF& paper) { paintOnPaper(page, painter, paper); });
+  return printAcross([&](QPainter& painter, const QRectF& paper) {
+    paintOnPaper(page, painter, paper, isGrey() ? PaperInk::grey : PaperInk::coloured);
+  });
 }
 
 }  // namespace tracewell

@@ -24,6 +24,9 @@ class DesktopPrinter : public Printer {
  private:
   /// Created when first needed: it asks the print system for the default printer.
   QPrinter& printer();
+  /// What is printed goes to a PDF file that has a name.
+  bool isForFile();
+  bool isGrey();
   /// False if there is no printer and the user has chosen none.
   bool isReady(QPageLayout::Orientation orientation);
   void askAgain();

@@ -2,7 +2,6 @@
 #include "Options.h"
 
 #include <algorithm>
-#include <memory>
 
 #include "Controls.h"
 
@@ -41,17 +40,13 @@ void showSelected(QRadioButton& button, bool isSelected) {
 }
 
 void selectWhenChosen(QRadioButton& button, OptionButton& option) {
-  // A screen reader toggles without a press or a click; a click on the one that is selected toggles
-  // nothing.
-  const auto isTaken = std::make_shared<bool>(false);
-  QObject::connect(&button, &QRadioButton::pressed, &button, [isTaken] { *isTaken = false; });
-  QObject::connect(&button, &QRadioButton::toggled, &button, [&option, isTaken](bool isOn) {
-    if (!isOn) return;
-    *isTaken = true;
-    selectByUser(option);
+  // A screen reader toggles without a click; a click on the one that is selected toggles nothing,
+  // and selects it once more.
+  QObject::connect(&button, &QRadioButton::toggled, &button, [&option](bool isOn) {
+    if (isOn) selectByUser(option);
   });
-  QObject::connect(&button, &QRadioButton::clicked, &button, [&option, isTaken] {
-    if (!*isTaken) selectByUser(option);
+  QObject::connect(&button, &QRadioButton::clicked, &button, [&button, &option] {
+    if (button.isChecked()) selectByUser(option);
   });
 }
 

@@ -24,8 +24,10 @@ const std::array<Ink, 5> inks = {{{QColor(0x9a, 0x5b, 0x00), Qt::SolidLine},
                                   {QColor(0x8a, 0x1c, 0x5a), Qt::DashDotLine},
                                   {QColor(0x44, 0x44, 0x44), Qt::DotLine}}};
 
-const Ink& inkOf(const GraphPage::Trace& trace) {
-  return inks[static_cast<std::size_t>(trace.number - 1) % inks.size()];
+QPen penOf(const GraphPage::Trace& trace, PaperInk kind, qreal width) {
+  const Ink& ink = inks[static_cast<std::size_t>(trace.number - 1) % inks.size()];
+  const int grey = qGray(ink.colour.rgb());
+  return {kind == PaperInk::grey ? QColor(grey, grey, grey) : ink.colour, width, ink.line};
 }
 
 /// One millimetre or so: everything is measured by it.
@@ -34,7 +36,7 @@ qreal unitOf(const QRectF& paper) {
 }
 
 void paintGrid(QPainter& painter, const QRectF& grid, qreal unit) {
-  painter.setPen(QPen(QColor(0xb8, 0xbe, 0xc4), unit * 0.15));
+  painter.setPen(QPen(QColor(0xbd, 0xbd, 0xbd), unit * 0.15));
   for (int i = 1; i < divisionsAcross; ++i) {
     const qreal x = grid.left() + grid.width() * i / divisionsAcross;
     painter.drawLine(QPointF(x, grid.top()), QPointF(x, grid.bottom()));
@@ -63,7 +65,7 @@ QPolygonF lineOf(const GraphPage::Trace& trace, const QRectF& grid) {
 
 }  // namespace
 
-void paintOnPaper(const GraphPage& page, QPainter& painter, const QRectF& paper) {
+void paintOnPaper(const GraphPage& page, QPainter& painter, const QRectF& paper, PaperInk ink) {
   const qreal unit = unitOf(paper);
   QFont font = painter.font();
   font.setPixelSize(static_cast<int>(unit * 4.5));
@@ -79,8 +81,7 @@ void paintOnPaper(const GraphPage& page, QPainter& painter, const QRectF& paper)
   painter.save();
   painter.setClipRect(grid);
   for (std::size_t i = 0; i < page.traces.size(); ++i) {
-    const Ink& ink = inkOf(page.traces[i]);
-    painter.setPen(QPen(ink.colour, unit * 0.5, ink.line));
+    painter.setPen(penOf(page.traces[i], ink, unit * 0.5));
     painter.drawPolyline(lineOf(page.traces[i], grid));
   }
   painter.restore();
@@ -88,8 +89,7 @@ void paintOnPaper(const GraphPage& page, QPainter& painter, const QRectF& paper)
   qreal y = grid.bottom() + lineHeight * 0.3;
   qreal x = paper.left();
   for (std::size_t i = 0; i < page.traces.size(); ++i) {
-    const Ink& ink = inkOf(page.traces[i]);
-    painter.setPen(QPen(ink.colour, unit * 0.5, ink.line));
+    painter.setPen(penOf(page.traces[i], ink, unit * 0.5));
     painter.drawLine(QPointF(x, y + lineHeight / 2), QPointF(x + unit * 12, y + lineHeight / 2));
     painter.drawText(QPointF(x + unit * 14, y + lineHeight * 0.72),
                      shownText(page.traces[i].name, roomOfLine));

@@ -7,8 +7,11 @@
 
 namespace tracewell {
 
+enum class PaperInk { coloured, grey };
+
 /// Draws the page in the colours of paper: dark lines of different kinds on white, so that the
 /// traces can be told apart in grey, too.
-void paintOnPaper(const GraphPage& page, QPainter& painter, const QRectF& paper);
+void paintOnPaper(const GraphPage& page, QPainter& painter, const QRectF& paper,
+                  PaperInk ink = PaperInk::coloured);
 
 }  // namespace tracewell

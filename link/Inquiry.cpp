@@ -32,8 +32,6 @@ Inquiry::Inquiry(Inquiries& all, const std::string& question)
 Inquiry::~Inquiry() {
   finishItem();
   all_.current_ = outer_;
-  // What was left out because of that has no answer either.
-  if (missing_ > 0 && items_ == Of::questions) missing_ = count_ - answered_;
   if (missing_ > 0) showMissed();
   if (outer_ != nullptr)
     outer_->showProgress();
@@ -91,17 +89,23 @@ std::string Inquiry::progress(const Words& words) const {
 }
 
 StatusLine::Sentence Inquiry::missed() const {
-  return [name = name_, items = items_, isGivenUp = isGivenUp(), missing = std::to_string(missing_),
-          count = std::to_string(count_)](const Words& words) {
-    if (items == Of::oneQuestion)
-      return isGivenUp ? words.say("%1: given up", {name()})
-                       : words.say("No answer to %1", {name()});
-    if (isGivenUp)
-      return words.say("%1: given up, %2 of %3 not answered", {name(), missing, count});
-    return items == Of::questions
-               ? words.say("%1: no answer to %2 of %3 questions", {name(), missing, count})
-               : words.say("%1: %2 of %3 settings not confirmed", {name(), missing, count});
-  };
+  const int unasked = count_ - answered_ - missing_;
+  const int unanswered = isGivenUp() && items_ == Of::questions ? missing_ + unasked : missing_;
+  return
+      [name = name_, items = items_, isGivenUp = isGivenUp(), missing = std::to_string(unanswered),
+       count = std::to_string(count_), unasked](const Words& words) {
+        if (items == Of::oneQuestion)
+          return isGivenUp ? words.say("%1: given up", {name()})
+                           : words.say("No answer to %1", {name()});
+        if (isGivenUp)
+          return words.say("%1: given up, %2 of %3 not answered", {name(), missing, count});
+        if (items == Of::settings)
+          return words.say("%1: %2 of %3 settings not confirmed", {name(), missing, count});
+        if (unasked > 0)
+          return words.say("%1: no answer to %2 of %3 questions, %4 not asked",
+                           {name(), missing, count, std::to_string(unasked)});
+        return words.say("%1: no answer to %2 of %3 questions", {name(), missing, count});
+      };
 }
 
 }  // namespace tracewell

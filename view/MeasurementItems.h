@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <limits>
 #include <string_view>
 
 /// What the instrument can measure by itself: names as they are shown, and the queries to them.
@@ -17,5 +18,15 @@ extern const std::array<std::string_view, timeItems> FreqMeasQuery;
 
 /// Of the result of a query.
 std::string_view measuredUnit(std::string_view query);
+
+/// The scales under which a result was measured; infinite where they are not known.
+struct MeasuredUnder {
+  double voltsPerDivision = std::numeric_limits<double>::infinity();
+  double secondsPerDivision = std::numeric_limits<double>::infinity();
+};
+
+/// A reply to that query is a value in its unit, which can have been measured on a screen of these
+/// scales, or the word that there is none. What lost a letter or a point is damaged.
+bool isResult(std::string_view reply, std::string_view query, const MeasuredUnder& scales);
 
 }  // namespace tracewell

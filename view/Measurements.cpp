@@ -7,7 +7,6 @@
 #include "Doing.h"
 #include "MeasurementItems.h"
 #include "Numbers.h"
-#include "TrueNumbers.h"
 #include "Waiting.h"
 
 namespace tracewell {
@@ -41,11 +40,13 @@ std::string sayMeasuring(const Words& words) {
   return words.say("Measuring");
 }
 
-/// A value in its unit, or the word that there is none. What lost a letter is damaged.
-bool isTold(std::string_view reply, std::string_view unit) {
-  if (reply.starts_with('N') || trueNumber(reply, unit)) return true;
-  if (unit == "s") return trueNumber(reply, "ps").has_value();
-  return unit == "%" && reply.ends_with('%') && isNumeric(reply.substr(0, reply.size() - 1));
+/// A stopped instrument measures what it made under the scales of its stop.
+MeasuredUnder measuredUnder(const KnownInstrument& known, int channel) {
+  MeasuredUnder scales;
+  if (known.isStopped()) return scales;
+  scales.voltsPerDivision = known.voltsPerDivision(channel).value_or(scales.voltsPerDivision);
+  scales.secondsPerDivision = known.secondsPerDivision().value_or(scales.secondsPerDivision);
+  return scales;
 }
 
 }  // namespace
@@ -145,7 +146,8 @@ void Measurements::showResult(int label, int channel, const std::string& title,
                               const std::string& reply, std::string_view query) {
   const KnownInstrument& known = main_.known;
   std::optional<int> number;
-  if (isTold(reply, measuredUnit(query))) number = main_.services().port.lastReply();
+  if (isResult(reply, query, measuredUnder(known, channel)))
+    number = main_.services().port.lastReply();
   results_.at(static_cast<std::size_t>(label)) =
       Result{channel, number, known.presentLine(), known.now(), false};
   main_.lblMeasure(label).caption = title + reply;

@@ -140,6 +140,10 @@
         <translation>%1 : %2 questions sur %3 sans réponse</translation>
     </message>
     <message>
+        <source>%1: no answer to %2 of %3 questions, %4 not asked</source>
+        <translation>%1 : %2 questions sur %3 sans réponse, %4 non posées</translation>
+    </message>
+    <message>
         <source>%1: no record yet</source>
         <translation>%1 : pas encore d'enregistrement</translation>
     </message>
@@ -432,8 +436,8 @@
         <translation>Une erreur a arrêté l'acquisition</translation>
     </message>
     <message>
-        <source>Answers without a line end: %1 in a minute</source>
-        <translation>Réponses sans fin de ligne : %1 en une minute</translation>
+        <source>Answers that did not end in time: %1 in a minute</source>
+        <translation>Réponses inachevées à temps : %1 en une minute</translation>
     </message>
     <message>
         <source>Attenuation of the probe</source>

@@ -140,6 +140,10 @@
         <translation>%1: нет ответа на запросы: %2 из %3</translation>
     </message>
     <message>
+        <source>%1: no answer to %2 of %3 questions, %4 not asked</source>
+        <translation>%1: нет ответа на запросы: %2 из %3, не задано: %4</translation>
+    </message>
+    <message>
         <source>%1: no record yet</source>
         <translation>%1: записи ещё не было</translation>
     </message>
@@ -432,8 +436,8 @@
         <translation>Сбор данных остановлен из-за ошибки</translation>
     </message>
     <message>
-        <source>Answers without a line end: %1 in a minute</source>
-        <translation>Ответы без конца строки: %1 за минуту</translation>
+        <source>Answers that did not end in time: %1 in a minute</source>
+        <translation>Ответы, не законченные в срок: %1 за минуту</translation>
     </message>
     <message>
         <source>Attenuation of the probe</source>

@@ -140,6 +140,10 @@
         <translation>%1：%3 个查询中有 %2 个无应答</translation>
     </message>
     <message>
+        <source>%1: no answer to %2 of %3 questions, %4 not asked</source>
+        <translation>%1：%3 个查询中有 %2 个无应答，%4 个未发出</translation>
+    </message>
+    <message>
         <source>%1: no record yet</source>
         <translation>%1：尚无记录</translation>
     </message>
@@ -432,8 +436,8 @@
         <translation>采集因错误而停止</translation>
     </message>
     <message>
-        <source>Answers without a line end: %1 in a minute</source>
-        <translation>没有行结束符的应答：一分钟内 %1 次</translation>
+        <source>Answers that did not end in time: %1 in a minute</source>
+        <translation>未按时结束的应答：一分钟内 %1 个</translation>
     </message>
     <message>
         <source>Attenuation of the probe</source>

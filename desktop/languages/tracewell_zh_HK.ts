@@ -140,6 +140,10 @@
         <translation>%1：%3 個查詢有 %2 個冇回應</translation>
     </message>
     <message>
+        <source>%1: no answer to %2 of %3 questions, %4 not asked</source>
+        <translation>%1：%3 個查詢有 %2 個冇回應，%4 個冇發出</translation>
+    </message>
+    <message>
         <source>%1: no record yet</source>
         <translation>%1：未有記錄</translation>
     </message>
@@ -432,8 +436,8 @@
         <translation>採集因為出錯而停咗</translation>
     </message>
     <message>
-        <source>Answers without a line end: %1 in a minute</source>
-        <translation>冇行尾嘅回應：一分鐘內 %1 次</translation>
+        <source>Answers that did not end in time: %1 in a minute</source>
+        <translation>冇按時完結嘅回應：一分鐘內 %1 個</translation>
     </message>
     <message>
         <source>Attenuation of the probe</source>

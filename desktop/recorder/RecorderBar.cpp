@@ -46,7 +46,8 @@ RecorderBar::RecorderBar(RecorderView& view, RecorderCursors& cursors, QWidget* 
     connect(box, &QComboBox::currentIndexChanged, this, [this] { take(); });
   for (QCheckBox* tick : {fading_, envelope_, mean_})
     connect(tick, &QCheckBox::toggled, this, [this] { take(); });
-  connect(follow_, &QCheckBox::clicked, this, [this](bool isOn) {
+  connect(follow_, &QCheckBox::toggled, this, [this](bool isOn) {
+    if (isOn == view_.isFollowing()) return;
     view_.follow(isOn);
     emit chosen();
   });

@@ -28,6 +28,13 @@ class PaperTest : public testing::Test {
     return fromQt(QString::fromUtf8(reader.readAllStandardOutput()));
   }
 
+  QImage pagePicture(const QString& document) const {
+    const QString file = folder.filePath(QStringLiteral("page"));
+    QProcess::execute(QStringLiteral("pdftoppm"),
+                      {"-singlefile", "-png", "-r", "100", document, file});
+    return QImage(file + ".png").convertToFormat(QImage::Format_RGB32);
+  }
+
   static void expectShown(const QPixmap& picture, const char* section, QColor ground) {
     QLabel shown;
     shown.setPixmap(picture);
@@ -56,9 +63,7 @@ TEST_F(PaperTest, TracesLieUprightOnTheGridOfAPageThatLiesAcross) {
   for (const char* part :
        {"Tracewell 2026-03-15", "Volts/Div voie 1 500.0 mV", "500.0 us", "Chan1"})
     EXPECT_NE(text.find(part), std::string::npos) << part << " in " << text;
-  const QString file = folder.filePath(QStringLiteral("page"));
-  QProcess::execute(QStringLiteral("pdftoppm"), {"-singlefile", "-png", "-r", "100", path, file});
-  const Regions printed = {QImage(file + ".png").convertToFormat(QImage::Format_RGB32), Qt::white};
+  const Regions printed = {pagePicture(path), Qt::white};
   ASSERT_GT(printed.picture.width(), printed.picture.height());
   EXPECT_GT(printed.find(QColor(0x00, 0x4f, 0x87)).width(), printed.picture.width() * 4 / 5);
   // Two pixels a unit.
@@ -88,15 +93,22 @@ TEST_F(PaperTest, AUserWhoIsAskedFindsThePaperAsItFitsOrAsItWasTurned) {
       auto* dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
       found += dialog->printer()->pageLayout().orientation() == QPageLayout::Portrait ? "P" : "L";
       if (isTurned) dialog->printer()->setPageOrientation(QPageLayout::Portrait);
+      dialog->printer()->setColorMode(QPrinter::GrayScale);
       dialog->printer()->setOutputFileName(folder.filePath(QString::number(found.size())));
       dialog->done(QDialog::Accepted);
     });
   };
   accept();
-  EXPECT_TRUE(printer.printPage({}));
+  EXPECT_TRUE(printer.printPage({{}, {}, {{2, "Chan2", {-250, 250}, {0, 0}}}}));
+  EXPECT_TRUE(pagePicture(folder.filePath(QStringLiteral("1"))).allGray());
+  accept();
+  EXPECT_TRUE(printer.printImage({2, 1,
+                                  "\xFF"
+                                  "00000"}));
+  EXPECT_TRUE(pagePicture(folder.filePath(QStringLiteral("2"))).allGray());
   accept();
   EXPECT_TRUE(printer.printText("Trigger ... [2]\r\n"));
-  EXPECT_EQ(printer.file(), fromQt(folder.filePath(QStringLiteral("2"))));
+  EXPECT_EQ(printer.file(), fromQt(folder.filePath(QStringLiteral("3"))));
   printer.printToFile(path);
   for (const bool isTurned : {false, true, false}) {
     EXPECT_TRUE(printer.printPage({}));
@@ -106,7 +118,7 @@ TEST_F(PaperTest, AUserWhoIsAskedFindsThePaperAsItFitsOrAsItWasTurned) {
     accept();
     printer.setUp();
   }
-  EXPECT_EQ(found, "LPLPLPPP");
+  EXPECT_EQ(found, "LLPLPLPPP");
 }
 
 TEST_F(PaperTest, PlaceThatCannotBeWrittenIsAnErrorThatNamesIt) {

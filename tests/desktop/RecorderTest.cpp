@@ -112,6 +112,11 @@ TEST_F(RecorderWindowTest, KeepsFollowsStepsPinsShowsLogsAndExports) {
   EXPECT_EQ(view.selected(), 0);
   QApplication::processEvents();
   EXPECT_FALSE(find<QCheckBox>("follow").isChecked());
+  // A reader toggles without a click.
+  find<QCheckBox>("follow").toggle();
+  EXPECT_TRUE(view.isFollowing());
+  find<QCheckBox>("follow").toggle();
+  QTest::keyClick(&strip, Qt::Key_Home);
   find<QLineEdit>("pinName").setText(QStringLiteral("as <b>found</b>"));
   // The list is up to date once it is closed.
   find<QComboBox>("pins").showPopup();

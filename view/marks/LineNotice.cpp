@@ -33,7 +33,8 @@ std::string lineTrouble(const frmDSO& main, const Words& words) {
   if (report.lateRecords.inLastMinute > 0)
     say(words.say("Records that came too late: %1 in a minute", {times(report.lateRecords)}));
   if (report.endlessReplies.inLastMinute > 0)
-    say(words.say("Answers without a line end: %1 in a minute", {times(report.endlessReplies)}));
+    say(words.say("Answers that did not end in time: %1 in a minute",
+                  {times(report.endlessReplies)}));
   // The graph itself says that none comes at all.
   if (!millisecondsWithoutRecord(main) && report.missingRecords.inLastMinute > 1)
     say(words.say("Records that did not come: %1 in a minute", {times(report.missingRecords)}));

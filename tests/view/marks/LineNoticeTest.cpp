@@ -20,7 +20,7 @@ TEST_F(LineNoticeTest, SaysWhatIsWrongOnTheLineAsLongAsItIs) {
       {{{&Report::shortRecords, once}}, true, ""},
       {{{&Report::shortRecords, often}}, true, "Records stay short: 1013 of 1014 bytes came"},
       {{{&Report::lateRecords, once}}, false, "Records that came too late: 1 in a minute"},
-      {{{&Report::endlessReplies, once}}, false, "Answers without a line end: 1 in a minute"},
+      {{{&Report::endlessReplies, once}}, false, "Answers that did not end in time: 1 in a minute"},
       {{{&Report::missingRecords, once}}, false, ""},
       {{{&Report::missingRecords, often}, {&Report::unaskedBytes, often}},
        false,
