@@ -38,8 +38,8 @@ class Tracewell {
   /// `services` are those that the windows use; they outlive this object.
   explicit Tracewell(Services& services);
 
-  /// Loads the main window; the caller shows it. Raises an error when the program cannot start.
-  void start() { main.load(); }
+  /// Shows the main window. Raises an error when the program cannot start.
+  void start() { main.show(); }
 
   frmDSO main;
   PanelMarks panelMarks;

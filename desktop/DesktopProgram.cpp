@@ -34,7 +34,6 @@ DesktopProgram::~DesktopProgram() {
 bool DesktopProgram::start() {
   try {
     program.start();
-    program.main.show();
     return true;
   } catch (const Error& error) {
     dialogs.showRunTimeError(error);

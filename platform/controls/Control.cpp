@@ -12,8 +12,9 @@ std::string Control::objectName() const {
   return index_ == noIndex ? name_ : name_ + "_" + std::to_string(index_);
 }
 
+/// A screen reader, too, finds the widgets of a window that is closed or lies below another.
 void Control::userDoes(const std::function<void()>& action) {
-  if (!visible() || !enabled()) return;
+  if (!owner_.isReachable() || !visible() || !enabled()) return;
   owner_.services().dispatcher.dispatch(action);
 }
 

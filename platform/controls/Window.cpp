@@ -30,6 +30,7 @@ void Window::showModal() {
   formActivate.raise();
   showMarks();
   isVisible_ = true;
+  const Gate::Modal modal(services_.gate, *this);
   services_.windows.showModal(*this);
   services_.gate.mustBeOpen();
 }
@@ -43,6 +44,12 @@ void Window::show() {
 void Window::hide() {
   isVisible_ = false;
   services_.windows.hide(*this);
+}
+
+bool Window::isReachable() const {
+  const Window* const modal = services_.gate.modal();
+  const bool isClosed = isLoaded_ && !isVisible_;
+  return !isClosed && (modal == nullptr || modal == this);
 }
 
 void Window::refresh() {

@@ -40,6 +40,8 @@ class Window : public Observable {
 
   bool isLoaded() const { return isLoaded_; }
   bool isVisible() const { return isVisible_; }
+  /// It has not been closed, and no modal window lies over it.
+  bool isReachable() const;
   void load();
   /// Returns when the window has been hidden. Throws ProgramEnded if the program has ended, before
   /// or meanwhile.

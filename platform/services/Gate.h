@@ -6,6 +6,8 @@
 
 namespace tracewell {
 
+class Window;
+
 /// Decides whether anything may run or begin. Every way into the program passes it
 /// (EventDispatcher), and so does everything that the program begins outside: transfers on the
 /// port, modal windows, dialogs that ask the user.
@@ -29,6 +31,21 @@ class Gate {
   /// What waits meanwhile goes on only when the user is done.
   std::function<void()> beforeModal;
 
+  /// The innermost modal window; null if none is open.
+  const Window* modal() const { return modal_; }
+  /// A window is the modal one as long as this lives.
+  class Modal {
+   public:
+    Modal(Gate& gate, const Window& window)
+        : gate_(gate), outer_(std::exchange(gate.modal_, &window)) {}
+    ~Modal() { gate_.modal_ = outer_; }
+    Modal(const Modal&) = delete;
+
+   private:
+    Gate& gate_;
+    const Window* outer_;
+  };
+
   /// Holds the gate as long as it lives. Not to be nested.
   class Hold {
    public:
@@ -49,6 +66,7 @@ class Gate {
  private:
   bool isHeld_ = false;
   bool isClosed_ = false;
+  const Window* modal_ = nullptr;
   std::function<void()> end_;
 };
 

@@ -115,4 +115,24 @@ TEST(Waiting, EndBehindAnOpenWindowIsTheEnd) {
   });
 }
 
+/// A screen reader acts on any widget, also below a dialog and in one that is closed.
+TEST(Waiting, NobodyReachesAWindowThatIsClosedOrBelowAnother) {
+  Bench bench;
+  bench.program.start();
+  frmAcq& acquire = bench.program.acquire;
+  Lines sent;
+  bench.windows.user["frmAcq"] = [&] {
+    bench.takeWire();
+    bench.main.cmdRunStop.press();
+    acquire.cmdCancel.press();
+    acquire.cmdOK.press();
+    sent = bench.takeWire();
+  };
+  bench.main.cmdAcq.press();
+  EXPECT_EQ(sent, Lines());
+  EXPECT_EQ(acquire.outcome, Outcome::cancelled);
+  bench.main.cmdRunStop.press();
+  EXPECT_NE(bench.takeWire(), Lines());
+}
+
 }  // namespace tracewell

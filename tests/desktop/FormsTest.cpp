@@ -139,7 +139,7 @@ TEST_F(FormsTest, PicturesOfTheGraphShowNothingThatIsForTheScreen) {
 }
 
 TEST_F(FormsTest, FocusChoosesNothing) {
-  program.console.load();
+  program.console.show();
   bound(program.console, [this](Window&, QWidget& dialog) {
     dialog.show();
     auto* tree = dialog.findChild<QTreeWidget*>();
@@ -229,6 +229,7 @@ TEST_F(FormsTest, CommandLineKeepsTheKeysThatEditIt) {
   ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
   auto* line = find<QLineEdit>("txtTest");
   line->setFocus();
+  windows.shown.clear();
   QTest::keyClick(line, Qt::Key_R, Qt::ControlModifier);
   EXPECT_EQ(std::exchange(windows.shown, {}), Lines{"frmRS232"});
   // Also where there is nothing to edit: what is typed behind them belongs to the line.

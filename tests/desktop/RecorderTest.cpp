@@ -178,8 +178,8 @@ TEST_F(RecorderWindowTest, KeepsFollowsStepsPinsShowsLogsAndExports) {
         << fromQt(find<QLabel>("recorderStatus").text());
   main.slideTime.drag(0);
   frmLoad& load = desktop.program.loadWindow;
-  load.load();
   load.formActivate.raise();
+  load.show();
   load.fileCSV.choose(static_cast<int>(std::ranges::find(load.fileCSV.items(), "set.csv") -
                                        load.fileCSV.items().begin()));
   EXPECT_EQ(load.pictureCSV.image().width, find<RecorderGraph>("recorderGraph").width());

@@ -170,6 +170,7 @@ TEST_F(FilesTest, LongLogIsKeptOnceAndItsNewestHalfReadAndWritten) {
   for (const std::string& added : {std::string("A line so long\r\n"), lines(fileLimit::errorLog)}) {
     box.text = box.text() + added;
     program.errLog.cmdClose.press();
+    main.mnbErrLog.choose();
     EXPECT_EQ(contentOf(file), box.text());
     EXPECT_EQ(main.lblNotice.caption(), "");
     EXPECT_EQ(main.lblStatus.caption(), "");
