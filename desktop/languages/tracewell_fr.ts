@@ -153,7 +153,7 @@
     </message>
     <message>
         <source>%1: not the channel, but %2</source>
-        <translation>%1 : non la voie, mais %2</translation>
+        <translation>%1 : pas la voie, mais %2</translation>
     </message>
     <message>
         <source>%1: question %2 of %3</source>
