@@ -14,6 +14,7 @@
 #include "PictureFormats.h"
 #include "PictureGuard.h"
 #include "QtImages.h"
+#include "QtValues.h"
 #include "ShownText.h"
 
 namespace tracewell {
@@ -58,14 +59,19 @@ Image DesktopPictures::graphImage(const Graph& graph, const std::string& footnot
   // From here on a pixel is a pixel.
   shown.setDevicePixelRatio(1);
   const int lineHeight = QFontMetrics(font).height() + 8;
-  QImage picture(shown.width(), shown.height() + lineHeight, QImage::Format_RGB888);
+  const QStringList lines = toQt(footnote).split(u'\n');
+  QImage picture(shown.width(), shown.height() + lineHeight * static_cast<int>(lines.size()),
+                 QImage::Format_RGB888);
   picture.fill(view->palette().color(QPalette::Window));
   QPainter painter(&picture);
   painter.drawImage(0, 0, shown);
   painter.setFont(font);
   painter.setPen(view->palette().color(QPalette::WindowText));
-  painter.drawText(QRect(8, shown.height(), shown.width() - 16, lineHeight),
-                   Qt::AlignVCenter | Qt::AlignLeft, shownText(footnote, roomOfLine));
+  QRect place(8, shown.height(), shown.width() - 16, lineHeight);
+  for (const QString& line : lines) {
+    painter.drawText(place, Qt::AlignVCenter | Qt::AlignLeft, shownText(fromQt(line), roomOfLine));
+    place.translate(0, lineHeight);
+  }
   painter.end();
   return fromQt(fitted(picture));
 }

@@ -16,7 +16,9 @@ std::string footnote(const frmDSO& main) {
   for (const Channel& channel : main.channels)
     if (channel.display.isChecked())
       text += channel.display.caption() + " " + channel.scale.caption() + "    ";
-  return text + main.lblTime.caption();
+  text += main.lblTime.caption();
+  for (const std::string& line : linesNotOfTraces(main)) text += "\n" + line;
+  return text;
 }
 
 }  // namespace

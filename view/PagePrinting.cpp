@@ -43,6 +43,8 @@ GraphPage PagePrinting::page() {
           " " + main_.state.Msg[firstChannelName + channel.index()] + " " + channel.scale.caption();
   page.captions = {scales, "SEC/Div " + main_.state.Msg[12] + " " + main_.lblTime.caption()};
   if (!main_.opOff.value()) page.captions.push_back(main_.graphDSO.axis("XAxis").caption());
+  for (const std::string& line : linesNotOfTraces(main_, printedPlots))
+    page.captions.push_back(line);
   for (int number = 1; number <= printedPlots; ++number) {
     const Plot& plot = main_.graphDSO.plot(number);
     if (plot.isShown()) page.traces.push_back({number, plot.name(), plot.x(), plot.y()});

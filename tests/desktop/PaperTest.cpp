@@ -159,6 +159,11 @@ TEST_F(PaperTest, PictureOfTheGraphTakesNotesWhereItIsClicked) {
   QApplication::processEvents();
   const Image plain = desktop.pictures.graphImage(graph, "CH1 500.0 mV");
   EXPECT_NE(plain, desktop.pictures.graphImage(graph, "CH1 2.000 V"));
+  const Image doubted = desktop.pictures.graphImage(graph, "CH1 500.0 mV\nCH1: scale not known");
+  const int lineHeight = (doubted.height - plain.height);
+  EXPECT_EQ(toQt(doubted).copy(0, 0, plain.width, plain.height), toQt(plain));
+  EXPECT_NE(toQt(doubted).copy(0, plain.height, plain.width, lineHeight),
+            toQt(plain).copy(0, 0, plain.width, lineHeight));
   EXPECT_EQ(fromQt(toQt(plain)), plain);
   const Image noted =
       desktop.pictures.withText({640, 400, std::string(768000, '\0')}, "hier", 100, 50);

@@ -214,6 +214,13 @@ std::string positionNotKnown(const Words& words, const Slide& slide) {
   return sentence(words, writtenPosition(slide));
 }
 
+std::vector<std::string> linesNotOfTraces(const frmDSO& main, int plots) {
+  std::vector<std::string> lines;
+  for (const StatusLine::Sentence& said : scales(main, plots))
+    lines.push_back(said(main.services().words));
+  return lines;
+}
+
 StatusLine::Sentence scalesNotOfTraces(const frmDSO& main) {
   return joined(scales(main));
 }

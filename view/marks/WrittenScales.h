@@ -13,6 +13,9 @@ StatusLine::Sentence scalesNotOfTraces(const frmDSO& main);
 /// The same of a page, which has the plots of these first numbers alone.
 StatusLine::Sentence pageNotOfTraces(const frmDSO& main, int plots);
 
+/// What these say, a line each, in the language of now: a picture and a page carry it themselves.
+std::vector<std::string> linesNotOfTraces(const frmDSO& main, int plots = ScopeGraph::plotCount);
+
 /// The same of a waveform set, which carries the positions, too. A trace can be drawn at another:
 /// channel 2 is at whole divisions, channel 1 until its next record. That of time may be another
 /// than the instrument's. And of its data, which are empty if a ticked channel has no whole record.
