@@ -148,11 +148,22 @@ std::int64_t recordPeriod(const frmDSO& main) {
   return std::max<std::int64_t>(channels, 1) * std::max(record, frmDSO::tickInterval);
 }
 
+namespace {
+
+/// The math in the channel's place, as a record of now would have it.
+std::optional<double> mathInPlaceOf(const frmDSO& main, const Channel& channel) {
+  const bool isMath = main.known.mathChannel() == channel.number;
+  return isMath ? main.known.number(Setting::math) : std::nullopt;
+}
+
+}  // namespace
+
 bool isPale(const frmDSO& main, const Channel& channel) {
   if (!hasTrace(channel)) return false;
   const MadeUnder& made = channel.record.madeUnder;
   if (!isOfThisLine(main, channel) || isOld(main, channel)) return true;
   if (!isKnownAndSame(made.secondsPerDivision, main.known.secondsPerDivision())) return true;
+  if (made.mathEntry != mathInPlaceOf(main, channel)) return true;
   // Math has no volts in any case.
   const auto present = main.known.voltsPerDivision(channel.number);
   return !made.mathEntry && !isKnownAndSame(made.voltsPerDivision, present);
