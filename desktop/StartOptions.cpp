@@ -39,6 +39,12 @@ bool isAnsweredWithoutWindow(int argumentCount, char** arguments) {
   return false;
 }
 
+bool isRefused(const QStringList& arguments) {
+  if (arguments.size() < 2) return false;
+  std::cerr << "tracewell: \"" << arguments[1].toStdString() << "\" is no option (see --help)\n";
+  return true;
+}
+
 std::unique_ptr<QApplication> makeApplication(int& argumentCount, char** arguments) {
   const QtMessageHandler usual = qInstallMessageHandler(endWithoutAbort);
   auto application = std::make_unique<QApplication>(argumentCount, arguments);

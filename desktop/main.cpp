@@ -11,6 +11,7 @@ int main(int argumentCount, char** arguments) {
   if (tracewell::isAnsweredWithoutWindow(argumentCount, arguments)) return EXIT_SUCCESS;
   const std::unique_ptr<QApplication> application =
       tracewell::makeApplication(argumentCount, arguments);
+  if (tracewell::isRefused(QApplication::arguments())) return EXIT_FAILURE;
   QApplication::setApplicationName(QStringLiteral("tracewell"));
   // The main window itself says when the program ends.
   QApplication::setQuitOnLastWindowClosed(false);

@@ -45,11 +45,9 @@ class SetupTable {
     language = 12,
   };
   /// Rows of channel 1 or 2.
-  static constexpr Row voltageRow(int channel) {
-    return channel == 1 ? voltageChannel1 : voltageChannel2;
-  }
-  static constexpr Row timeRow(int channel) { return channel == 1 ? timeChannel1 : timeChannel2; }
-  static constexpr Row channelRow(int channel) { return channel == 1 ? channel1 : channel2; }
+  static constexpr int voltageRow(int channel) { return voltageChannel1 + channel - 1; }
+  static constexpr int timeRow(int channel) { return timeChannel1 + channel - 1; }
+  static constexpr int channelRow(int channel) { return channel1 + channel - 1; }
 
   /// Column of a row's values, which are counted from 0.
   static constexpr int columnOf(int value) { return firstValue + value; }

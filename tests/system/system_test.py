@@ -159,6 +159,7 @@ class SystemTest(SystemTestCase):
         bare = {name: value for name, value in os.environ.items()
                 if name not in ("DISPLAY", "WAYLAND_DISPLAY")}
         cases = ((["--version"], 0, "tracewell "), (["--help"], 0, "--version"),
+                 (["-platform", "offscreen", "7"], 1, '"7" is no option (see --help)'),
                  ([], 1, "no window can be shown here"))
         for words, status, said in cases:
             ended = subprocess.run([*program.command(), *words], env=bare, timeout=PATIENCE,
