@@ -19,7 +19,8 @@ class Pictures {
 
   virtual ~Pictures() = default;
 
-  /// The graph as the screen shows it, with the lines of `footnote` below. Raises an error if it is not shown.
+  /// The graph as the screen shows it, with the lines of `footnote` below. Raises an error if it is
+  /// not shown.
   virtual Image graphImage(const Graph& graph, const std::string& footnote) = 0;
 
   /// `image` with `text` on it, its upper left corner at (x, y) in pixels.
