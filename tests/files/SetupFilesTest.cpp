@@ -113,6 +113,11 @@ TEST_F(SetupFilesTest, WhatCouldNotBeTakenWholeIsKept) {
   EXPECT_TRUE(dialogs.messages.empty());
 }
 
+TEST_F(SetupFilesTest, NoCellLiesOutsideTheTable) {
+  for (const auto& [row, column] : {std::pair(32, 0), {0, 32}, {-1, 0}, {0, -1}})
+    EXPECT_THROW(table.text(row, column), Error) << row << "," << column;
+}
+
 /// As long as 32767 characters fit into a box.
 TEST_F(SetupFilesTest, SetupThatCouldNotBeReadAgainIsNotWritten) {
   const std::string before = contentOf(folder.path() / "default.dso");
