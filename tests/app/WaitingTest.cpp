@@ -2,6 +2,7 @@
 #include "Waiting.h"
 
 #include <limits>
+#include <stdexcept>
 
 #include "Bench.h"
 #include "PacedChannel.h"
@@ -113,6 +114,14 @@ TEST(Waiting, EndBehindAnOpenWindowIsTheEnd) {
       EXPECT_EQ(files(), before) << what;
     }
   });
+}
+
+TEST(Waiting, BeginsWithABlueLampAndAForeignExceptionIsABox) {
+  Bench bench;
+  bench.program.start();
+  EXPECT_EQ(bench.main.spConnect.fillColour(), (Colour{0, 0, 255}));
+  bench.dispatcher.dispatch([] { throw std::length_error("too long"); });
+  EXPECT_EQ(bench.dialogs.runTimeErrors, Lines{"5 too long"});
 }
 
 /// A screen reader acts on any widget, also below a dialog and in one that is closed.
